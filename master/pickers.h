@@ -1,0 +1,58 @@
+#pragma once
+// The modal search forms, as a rule sees them: a question and the chosen row. Tests hand in a script.
+#include <QString>
+
+#include <optional>
+
+enum class ClientSearchMode { General = 0, Volume = 1, All = 2 };
+
+struct ClientChoice {
+  qint64 code = 0;
+  QString name;  ///< display name
+};
+
+/** An item of the catalogue. Prices in won a piece; stock in pieces. */
+struct ItemChoice {
+  QString name, size;
+  double price = 0, stock = 0;
+};
+
+struct VolumeChoice {
+  QString size;
+  double unit = 0;  ///< won a unit
+};
+
+struct PostCodeChoice {
+  QString zipCode, address, lots;
+};
+
+struct BuildingChoice {
+  QString name, dong, postCode, address;
+};
+
+struct BankChoice {
+  QString name, number, user;
+};
+
+enum class TradeSide { Sale, Purchase };
+
+/** Nothing when the operator leaves without choosing. */
+class Pickers {
+ public:
+  virtual ~Pickers() = default;
+  /** wholeNumber: a longer number must end the stored one. */
+  virtual std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode mode,
+                                                   bool wholeNumber = false) = 0;
+  /** kind: the search code "1" to "6". */
+  virtual std::optional<ItemChoice> searchSize(const QString& kind, TradeSide side) = 0;
+  virtual std::optional<VolumeChoice> searchVolume() = 0;
+  virtual std::optional<QString> searchResponse() = 0;
+  virtual std::optional<QString> searchRefill() = 0;
+  virtual std::optional<BankChoice> searchBank() = 0;
+  virtual std::optional<PostCodeChoice> searchPostCode(const QString& text) = 0;
+  virtual std::optional<BuildingChoice> searchBuilding(int houseStyle) = 0;
+  /** "yyyy-MM-dd" */
+  virtual std::optional<QString> pickDate(const QString& initial) = 0;
+  /** frmSecurity: True when the company's password was given. */
+  virtual bool checkPassword() = 0;
+};

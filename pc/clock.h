@@ -1,0 +1,26 @@
+#pragma once
+// The PC's clock and short date format, which the program may move for itself alone.
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+
+namespace pc {
+
+class Clock {
+ public:
+  QDateTime now() const;
+  QDate today() const { return now().date(); }
+  /** Today as date text, "yyyy-MM-dd". */
+  QString dateText() const { return today().toString(QStringLiteral("yyyy-MM-dd")); }
+  /** From now on the clock shows this moment and goes on from there. */
+  void set(const QDateTime& moment);
+
+  QString shortDateFormat() const { return shortDate_; }
+  void setShortDateFormat(const QString& format) { shortDate_ = format; }
+
+ private:
+  qint64 shiftMilliseconds_ = 0;
+  QString shortDate_ = QStringLiteral("yyyy-MM-dd");
+};
+
+}  // namespace pc

@@ -1,0 +1,34 @@
+#pragma once
+// Paths as the texts write them ("C:\RWGas\Dbs\") on a PC that may have no drive letters.
+#include <QString>
+#include <QStringList>
+
+namespace pc {
+
+/** Maps a drive letter to a folder below the PC's root and finds names without regard to case. */
+class Paths {
+ public:
+  /** root holds one folder a drive ("c", "d", ...) and drives.ini with mapped network drives. */
+  explicit Paths(QString root);
+  /** The root named by HAEON_PC, else a folder in the user's data folder. */
+  static QString defaultRoot();
+
+  const QString& root() const { return root_; }
+  /** The PC's own path of a written one; what exists is found without regard to case, what does not keeps the
+   *  case written. A path without a drive letter is handed back as it stands. */
+  QString native(const QString& written) const;
+  bool exists(const QString& written) const;
+  /** Names in a folder that match a pattern with * and ?, sorted; names only. */
+  QStringList list(const QString& folder, const QString& pattern) const;
+  /** The program's own folder as written, "C:\RWGas" */
+  QString programFolder() const { return QStringLiteral("C:\\RWGas"); }
+  /** Drive letters in use, upper case with colon. */
+  QStringList drives() const;
+  /** Maps a network share to a letter ("Z:"). Empty text on success, else the failure's own Korean text. */
+  QString mapNetworkDrive(const QString& share, const QString& letter);
+
+ private:
+  QString root_;
+};
+
+}  // namespace pc

@@ -1,0 +1,29 @@
+#pragma once
+// What lasts from start to exit: the session's globals and open handles. Filled by app/start_up, read everywhere.
+#include <QString>
+
+#include "pc/pc.h"
+#include "store/jet/database.h"
+#include "ui/prompts.h"
+
+/** One run of the program at one PC. */
+struct Session {
+  Session(pc::Pc& onPc, Prompts& withPrompts) : pc(onPc), prompts(withPrompts) {}
+
+  pc::Pc& pc;
+  Prompts& prompts;
+
+  QString AppTitle;
+  QString DbPath;             ///< data folder with its last backslash
+  QString RptPath;            ///< "C:\RWGas\RPT\"
+  QString BasicPath;          ///< Basic.mdb as the links name it
+  QString WorkYear;           ///< four digits; the year of the PC clock at start
+  QString CurrentPassword;
+  QString DelayCalcFlag;      ///< "1" charge on the one month only, "0" cumulative
+  int AfterDueMethod = 0;     ///< 0 arrears without, 1 with the delay charge of the month before
+  bool StockEnabled = false;  ///< postings move LPG and Util
+  QString SavedDateFormat;
+
+  jet::Workspace wsMain;
+  jet::Database dbBasic, dbYear, dbTax, dbCommon;
+};

@@ -1,0 +1,63 @@
+#pragma once
+// What every test shares: a PC of its own, scripted boxes that must all be asked, scripted pickers.
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <deque>
+
+#include "pc/pc.h"
+#include "store/session.h"
+#include "ui/prompts.h"
+
+namespace tests {
+
+/** A box the test expects: part of its text or title, and the answer (yes/no/typed text). */
+struct Expected {
+  QString part;
+  bool yes = true;
+  std::optional<QString> typed = {};
+};
+
+/** Fails on a box nobody expected and, at its end, on an expected one that never came. */
+class ScriptedPrompts : public Prompts {
+ public:
+  ~ScriptedPrompts() override {
+    for (const auto& left : script_) ADD_FAILURE() << "box never asked: " << left.part.toStdString();
+  }
+  void expect(const QString& part, bool yes = true) { script_.push_back({part, yes, {}}); }
+  void expectInput(const QString& part, std::optional<QString> typed) { script_.push_back({part, true, typed}); }
+  QStringList seen;  ///< "title|text" of every box so far
+
+  void MsgInfo(const QString& text, const QString& title) override { next(text, title); }
+  void MsgWarn(const QString& text, const QString& title) override { next(text, title); }
+  bool MsgAsk(const QString& text, const QString& title, bool) override { return next(text, title).yes; }
+  void ErrorBox(const QString& text, int number, const QString& description) override {
+    next(text + u' ' + QString::number(number) + u' ' + description, QStringLiteral("오류"));
+  }
+  std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString&) override {
+    return next(prompt, title).typed;
+  }
+
+ private:
+  Expected next(const QString& text, const QString& title) {
+    seen << title + u'|' + text;
+    if (script_.empty() || !(text.contains(script_.front().part) || title.contains(script_.front().part))) {
+      ADD_FAILURE() << "unexpected box: " << seen.last().toStdString();
+      return {{}, false, {}};
+    }
+    Expected now = script_.front();
+    script_.pop_front();
+    return now;
+  }
+  std::deque<Expected> script_;
+};
+
+/** A PC below a folder that goes with the test. */
+struct TestPc {
+  QTemporaryDir folder;
+  pc::Pc pc{folder.path()};
+  ScriptedPrompts prompts;
+  Session session{pc, prompts};
+};
+
+}  // namespace tests

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Installs from Debian's packages what building, running and testing need and this machine lacks.
+set -euo pipefail
+packages=(g++ cmake ninja-build ccache pkg-config libsqlite3-dev libxlsxwriter-dev qt6-base-dev qt6-serialport-dev
+          libgl-dev libgtest-dev libgmock-dev fonts-nanum fonts-baekmuk fonts-ocr-b xvfb xauth xdotool x11-utils
+          poppler-utils imagemagick socat)
+[ "${1:-}" = check ] && packages+=(clang-format clang-tidy)
+missing=()
+for package in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+echo "installing: ${missing[*]}"
+sudo=""
+[ "$(id -u)" -eq 0 ] || sudo=sudo
+export DEBIAN_FRONTEND=noninteractive
+$sudo apt-get update -qq
+$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

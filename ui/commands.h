@@ -1,0 +1,14 @@
+#pragma once
+// How a form opens another without knowing it: by its name.
+#include <QString>
+
+class QWidget;
+
+class Commands {
+ public:
+  virtual ~Commands() = default;
+  /** Shows the form as a child of the main window (an open one comes to the front); False when there is none. */
+  virtual bool openForm(const QString& name) = 0;
+  /** The form in front, or null. */
+  virtual QWidget* activeForm() const = 0;
+};

@@ -1,0 +1,20 @@
+#pragma once
+// Every box the program shows goes through here; a test hands in a script instead (tests/support).
+#include <QString>
+
+#include <optional>
+
+/** An empty title is replaced by AppTitle. Texts are Korean and stand as given. */
+class Prompts {
+ public:
+  virtual ~Prompts() = default;
+  virtual void MsgInfo(const QString& text, const QString& title = {}) = 0;
+  virtual void MsgWarn(const QString& text, const QString& title = {}) = 0;
+  /** True for Yes. yesFirst False makes No the default button. */
+  virtual bool MsgAsk(const QString& text, const QString& title = {}, bool yesFirst = true) = 0;
+  /** text, "오류번호 : " + number, "오류내용 : " + description, under "오류". */
+  virtual void ErrorBox(const QString& text, int number, const QString& description) = 0;
+  /** Nothing when the operator cancels. */
+  virtual std::optional<QString> InputBox(const QString& prompt, const QString& title,
+                                          const QString& initial = {}) = 0;
+};

@@ -1,0 +1,90 @@
+#pragma once
+// The Spread grid's cells without a window: texts, column kinds, locks, combo lists, colours. Rules work on this.
+// Rows and columns count from 1, as the screens' tables do.
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+enum class CellKind { Text, Integer, Number, Money, Date, MonthDay, Combo, CheckBox };
+enum class CellAlign { Left, Center, Right };
+
+/** How one column looks and edits. */
+struct SpreadColumn {
+  QString header;
+  QString group;  ///< header group above neighbouring columns of the same group; empty: none
+  double width = 10;  ///< in half-width characters of the grid's font, as ColWidth
+  CellKind kind = CellKind::Text;
+  CellAlign align = CellAlign::Left;
+  bool locked = false;
+  bool hidden = false;
+  int maxLength = 0;  ///< characters; 0: no limit
+  QStringList combo;  ///< the labels of a Combo column, by position
+};
+
+class SpreadModel {
+ public:
+  /** What an observer (the view) is told; row 0 means every row, column 0 every column. */
+  enum class What { Cells, RowsInserted, RowsRemoved, Columns, Reset };
+  using Observer = std::function<void(What what, int row, int col)>;
+
+  void setColumns(std::vector<SpreadColumn> columns);
+  const SpreadColumn& column(int col) const { return columns_.at(col - 1); }
+  void setColumnHeader(int col, const QString& header);
+  void setColumnHidden(int col, bool hidden);
+  void setCombo(int col, const QStringList& labels);
+  int MaxCols() const { return int(columns_.size()); }
+
+  int MaxRows() const { return int(rows_.size()); }
+  void setMaxRows(int rows);
+  void insertRow(int row);
+  void deleteRow(int row);
+  void clear() { setMaxRows(0); }
+  /** The last row that holds any text; 0 when there is none. */
+  int DataRowCnt() const;
+  /** Replaces all rows at once; a short row is filled with ''. */
+  void setRows(std::vector<std::vector<QString>> rows);
+
+  /** '' outside the grid. */
+  const QString& text(int row, int col) const;
+  void setText(int row, int col, const QString& text);
+
+  /** A Combo cell's text as position in its list; -1 when it is none of them. */
+  int comboPosition(int row, int col) const;
+  void setComboPosition(int row, int col, int position);
+
+  /** The column's lock unless the cell has its own. */
+  bool locked(int row, int col) const;
+  void setLocked(int row, int col, bool locked);
+  /** 0xRRGGBB; -1 takes the grid's own. col 0 speaks of the whole row. */
+  int background(int row, int col) const;
+  void setBackground(int row, int col, int rgb);
+  bool bold(int row) const;
+  void setBold(int row, bool bold);
+
+  /** Numbers of a column's texts added up exactly, "1,234" read as 1234; in won or pieces. */
+  qint64 sum(int col, int fromRow, int toRow) const;
+
+  /** One observer; the view. */
+  void setObserver(Observer observer) { observer_ = std::move(observer); }
+
+ private:
+  void tell(What what, int row, int col) const {
+    if (observer_) observer_(what, row, col);
+  }
+  static quint64 key(int row, int col) { return quint64(row) << 16 | quint64(col); }
+
+  struct Row {
+    std::vector<QString> cells;
+    qint64 id = 0;  ///< extras hang on the row, not on its place
+    bool bold = false;
+    int background = -1;
+  };
+  std::vector<SpreadColumn> columns_;
+  std::vector<Row> rows_;
+  QHash<quint64, bool> locks_;
+  QHash<quint64, int> colours_;
+  qint64 nextId_ = 1;
+  Observer observer_;
+};
