@@ -12,15 +12,15 @@ enum class CellAlign { Left, Center, Right };
 
 /** How one column looks and edits. */
 struct SpreadColumn {
-  QString header;
-  QString group;  ///< header group above neighbouring columns of the same group; empty: none
-  double width = 10;  ///< in half-width characters of the grid's font, as ColWidth
+  QString header = {};
+  QString group = {};  ///< header group above neighbouring columns of the same group; empty: none
+  double width = 10;   ///< in half-width characters of the grid's font, as ColWidth
   CellKind kind = CellKind::Text;
   CellAlign align = CellAlign::Left;
   bool locked = false;
   bool hidden = false;
-  int maxLength = 0;  ///< characters; 0: no limit
-  QStringList combo;  ///< the labels of a Combo column, by position
+  int maxLength = 0;       ///< characters; 0: no limit
+  QStringList combo = {};  ///< the labels of a Combo column, by position
 };
 
 class SpreadModel {
