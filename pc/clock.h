@@ -8,6 +8,8 @@ namespace pc {
 
 class Clock {
  public:
+  /** Starts at the moment that HAEON_CLOCK names ("2026-03-02 09:00:00" or the date alone), else at the PC's. */
+  Clock();
   QDateTime now() const;
   QDate today() const { return now().date(); }
   /** Today as date text, "yyyy-MM-dd". */

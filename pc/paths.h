@@ -3,9 +3,12 @@
 #include <QString>
 #include <QStringList>
 
+#include "pc/ini_file.h"
+
 namespace pc {
 
-/** Maps a drive letter to a folder below the PC's root and finds names without regard to case. */
+/** Maps a drive letter to a folder below the PC's root and finds names without regard to case. On Windows, and for
+ *  a path without a drive letter, a written path is the PC's own. */
 class Paths {
  public:
   /** root holds one folder a drive ("c", "d", ...) and drives.ini with mapped network drives. */
@@ -18,17 +21,27 @@ class Paths {
    *  case written. A path without a drive letter is handed back as it stands. */
   QString native(const QString& written) const;
   bool exists(const QString& written) const;
-  /** Names in a folder that match a pattern with * and ?, sorted; names only. */
+  /** Names of the files in a folder that match a pattern with * and ?, sorted; names only. */
   QStringList list(const QString& folder, const QString& pattern) const;
+  /** Names of the folders in a folder, sorted. */
+  QStringList folders(const QString& folder) const;
+  /** Makes a folder with those above it; True when it stands afterwards. */
+  bool makeFolder(const QString& written) const;
+  /** Copies one file over to a name that must be free. */
+  bool copy(const QString& from, const QString& to) const;
   /** The program's own folder as written, "C:\RWGas" */
   QString programFolder() const { return QStringLiteral("C:\\RWGas"); }
   /** Drive letters in use, upper case with colon. */
   QStringList drives() const;
-  /** Maps a network share to a letter ("Z:"). Empty text on success, else the failure's own Korean text. */
+  /** Maps a network share to a letter ("Z:"). Empty text on success, else the failure's own Korean text. A share is
+   *  a folder the PC already reaches, or \\server\share where this PC mounts such shares. */
   QString mapNetworkDrive(const QString& share, const QString& letter);
 
  private:
+  QString driveFolder(QChar letter) const;
+
   QString root_;
+  IniFile mapped_;
 };
 
 }  // namespace pc

@@ -1,0 +1,116 @@
+#include "pc/paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <algorithm>
+
+#include "pc/network_drive.h"
+
+namespace pc {
+
+namespace {
+
+constexpr bool hasDriveLetters =
+#ifdef Q_OS_WIN
+    true;
+#else
+    false;
+#endif
+
+bool startsWithDrive(const QString& path) {
+  return path.size() >= 2 && path[1] == u':' && path[0].unicode() < 0x80 && path[0].isLetter();
+}
+
+const QString mappedSection = QStringLiteral("drives");
+
+}  // namespace
+
+Paths::Paths(QString root) : root_(QDir::cleanPath(root)), mapped_(root_ + QStringLiteral("/drives.ini")) {}
+
+QString Paths::defaultRoot() {
+  const QString named = qEnvironmentVariable("HAEON_PC");
+  if (!named.isEmpty()) return QDir(named).absolutePath();
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/haeon");
+}
+
+QString Paths::driveFolder(QChar letter) const {
+  const QString share = mapped_.value(mappedSection, QString(letter.toUpper()));
+  return share.isEmpty() ? root_ + u'/' + letter.toLower() : share;
+}
+
+QString Paths::native(const QString& written) const {
+  if (hasDriveLetters || !startsWithDrive(written)) return written;
+  QString path = driveFolder(written[0]);
+  QString rest = written.sliced(2);
+  rest.replace(u'\\', u'/');
+  for (const QString& name : rest.split(u'/', Qt::SkipEmptyParts)) {
+    QString next = path + u'/' + name;
+    if (!QFileInfo::exists(next)) {
+      const QStringList names =
+          QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+      const auto same = [&](const QString& other) { return other.compare(name, Qt::CaseInsensitive) == 0; };
+      if (const auto at = std::find_if(names.begin(), names.end(), same); at != names.end()) {
+        next = path + u'/' + *at;
+      }
+    }
+    path = next;
+  }
+  return path;
+}
+
+bool Paths::exists(const QString& written) const {
+  return QFileInfo::exists(native(written));
+}
+
+QStringList Paths::list(const QString& folder, const QString& pattern) const {
+  return QDir(native(folder)).entryList({pattern}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+}
+
+QStringList Paths::folders(const QString& folder) const {
+  return QDir(native(folder)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+}
+
+bool Paths::makeFolder(const QString& written) const {
+  return QDir().mkpath(native(written));
+}
+
+bool Paths::copy(const QString& from, const QString& to) const {
+  return QFile::copy(native(from), native(to));
+}
+
+QStringList Paths::drives() const {
+  QStringList letters;
+  if (hasDriveLetters) {
+    for (const QFileInfo& drive : QDir::drives()) letters << drive.filePath().first(2).toUpper();
+    return letters;
+  }
+  letters << QStringLiteral("C:");
+  for (const QString& name : QDir(root_).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    if (name.size() == 1 && name[0].isLetter()) letters << name.toUpper() + u':';
+  }
+  for (const QString& letter : mapped_.keys(mappedSection)) letters << letter + u':';
+  letters.removeDuplicates();
+  letters.sort();
+  return letters;
+}
+
+QString Paths::mapNetworkDrive(const QString& share, const QString& letter) {
+  const QString wanted = letter.first(std::min<qsizetype>(2, letter.size())).toUpper();
+  int failure = 0;
+  if (!startsWithDrive(wanted)) {
+    failure = netBadDeviceType;
+  } else if (drives().contains(wanted)) {
+    failure = netAlreadyAssigned;
+  } else {
+    const Share found = findShare(share.trimmed(), wanted);
+    failure = found.failure;
+    if (!failure && !hasDriveLetters && !mapped_.setValue(mappedSection, wanted.first(1), found.folder)) {
+      failure = netCannotOpenProfile;
+    }
+  }
+  return networkFailureText(failure);
+}
+
+}  // namespace pc

@@ -1,0 +1,104 @@
+#include "pc/paths.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "pc/process.h"
+
+namespace {
+
+void touch(const QString& file) {
+  QDir().mkpath(QFileInfo(file).path());
+  QFile out(file);
+  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+}
+
+struct PathsTest : testing::Test {
+  QTemporaryDir folder;
+  pc::Paths paths{folder.path()};
+  QString at(const QString& rest) const { return folder.path() + rest; }
+};
+
+TEST_F(PathsTest, FindsWhatExistsWithoutRegardToCase) {
+  touch(at("/c/RWGas/Dbs/Basic.mdb"));
+  touch(at("/c/RWGas/한글 폴더/2002Foundation.mdb"));
+  EXPECT_EQ(paths.native("C:\\rwgas\\dbs\\basic.mdb"), at("/c/RWGas/Dbs/Basic.mdb"));
+  EXPECT_EQ(paths.native("c:\\RWGas\\Dbs\\\\Basic.mdb"), at("/c/RWGas/Dbs/Basic.mdb")) << "doubled backslash";
+  EXPECT_EQ(paths.native("C:/RWGAS/한글 폴더/"), at("/c/RWGas/한글 폴더"));
+  EXPECT_EQ(paths.native("C:\\rwgas\\New\\Name.mdb"), at("/c/RWGas/New/Name.mdb"))
+      << "what is new keeps its case";
+  EXPECT_TRUE(paths.exists("C:\\rwgas\\DBS\\BASIC.MDB"));
+  EXPECT_FALSE(paths.exists("D:\\rwgas"));
+}
+
+TEST_F(PathsTest, LeavesPathsWithoutALetterAlone) {
+  EXPECT_EQ(paths.native("/tmp/x\\y"), "/tmp/x\\y");
+  EXPECT_EQ(paths.native("Basic.mdb"), "Basic.mdb");
+  EXPECT_EQ(paths.native(""), "");
+  EXPECT_EQ(paths.native("가:\\x"), "가:\\x") << "a drive has a Latin letter";
+}
+
+TEST_F(PathsTest, ListsByPatternInAnyCaseAndCopiesToFreeNamesOnly) {
+  for (const char* name : {"2026Foundation.mdb", "2025foundation.MDB", "Basic.mdb"}) {
+    touch(at(QStringLiteral("/c/RWGas/Dbs/") + QString::fromLatin1(name)));
+  }
+  EXPECT_EQ(paths.list("C:\\RWGas\\Dbs\\", "*Foundation.mdb"),
+            (QStringList{"2025foundation.MDB", "2026Foundation.mdb"}));
+  EXPECT_TRUE(paths.list("C:\\nowhere", "*").isEmpty());
+  EXPECT_TRUE(paths.copy("C:\\RWGas\\Dbs\\basic.mdb", "C:\\RWGas\\Dbs\\copy.mdb"));
+  EXPECT_FALSE(paths.copy("C:\\RWGas\\Dbs\\basic.mdb", "C:\\RWGas\\Dbs\\COPY.MDB"));
+  EXPECT_TRUE(paths.makeFolder("D:\\자료\\하나"));
+  EXPECT_EQ(paths.folders("d:\\자료"), QStringList{"하나"});
+}
+
+TEST_F(PathsTest, MapsAShareToALetterAndSaysWhyNot) {
+  touch(at("/c/x"));
+  QTemporaryDir share;
+  touch(share.path() + "/Dbs/Basic.mdb");
+  EXPECT_EQ(paths.mapNetworkDrive(" " + share.path() + " ", "z:"), "");
+  EXPECT_EQ(paths.native("Z:\\dbs\\BASIC.mdb"), share.path() + "/Dbs/Basic.mdb");
+  EXPECT_EQ(paths.drives(), (QStringList{"C:", "Z:"}));
+  EXPECT_EQ(pc::Paths(folder.path()).native("Z:\\dbs"), share.path() + "/Dbs")
+      << "another program of this PC";
+
+  EXPECT_EQ(paths.mapNetworkDrive(share.path(), "Z:"), "이미 연결되어 있는 경로입니다.");
+  EXPECT_EQ(paths.mapNetworkDrive(share.path(), "C:"), "이미 연결되어 있는 경로입니다.");
+  EXPECT_EQ(paths.mapNetworkDrive(share.path() + "/none", "Y:"),
+            "선택하신 경로가 유효하지 않거나 존재하지 않습니다.");
+  EXPECT_EQ(paths.mapNetworkDrive("서버", "Y:"), "선택하신 경로가 유효하지 않습니다.");
+  EXPECT_EQ(paths.mapNetworkDrive("\\\\server\\share", "Y:"),
+            "네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다.");
+  EXPECT_EQ(paths.mapNetworkDrive(share.path(), "?"), "장치 유형과 자원 유형이 일치하지 않습니다.");
+}
+
+TEST_F(PathsTest, FindsAWindowsShareWhereTheDesktopMountsIt) {
+  QTemporaryDir runtime;
+  touch(runtime.path() + "/gvfs/smb-share:server=office,share=gas/Dbs/Basic.mdb");
+  const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+  qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+  EXPECT_EQ(paths.mapNetworkDrive("\\\\OFFICE\\Gas\\Dbs", "G:"), "");
+  qputenv("XDG_RUNTIME_DIR", before);
+  EXPECT_TRUE(paths.exists("G:\\basic.mdb"));
+}
+
+TEST_F(PathsTest, StartsCompanionToolsThatAreThere) {
+  touch(at("/c/RWGas/MapEdit.exe"));
+  pc::Process process(paths);
+  QStringList started;
+  process.setStarter([&](const QString& program, const QStringList& arguments, const QString& inFolder) {
+    started << program << arguments << inFolder;
+    return true;
+  });
+  EXPECT_TRUE(process.start("C:\\RWGAS\\mapedit.EXE", {"1"}));
+  EXPECT_EQ(started, (QStringList{at("/c/RWGas/MapEdit.exe"), "1", at("/c/RWGas")}));
+  EXPECT_FALSE(process.start("C:\\RWGAS\\RWSMS.exe"));
+  EXPECT_FALSE(process.start("C:\\RWGAS")) << "a folder is no program";
+  EXPECT_FALSE(process.open("C:\\none.txt"));
+  process.setStarter({});
+  EXPECT_FALSE(process.start("C:\\RWGAS\\MapEdit.exe")) << "there, but nothing that runs";
+}
+
+}  // namespace
