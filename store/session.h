@@ -14,10 +14,10 @@ struct Session {
   Prompts& prompts;
 
   QString AppTitle;
-  QString DbPath;             ///< data folder with its last backslash
-  QString RptPath;            ///< "C:\RWGas\RPT\"
-  QString BasicPath;          ///< Basic.mdb as the links name it
-  QString WorkYear;           ///< four digits; the year of the PC clock at start
+  QString DbPath;     ///< data folder with its last backslash
+  QString RptPath;    ///< "C:\RWGas\RPT\"
+  QString BasicPath;  ///< Basic.mdb as the links name it
+  QString WorkYear;   ///< four digits; the year of the PC clock at start
   QString CurrentPassword;
   QString DelayCalcFlag;      ///< "1" charge on the one month only, "0" cumulative
   int AfterDueMethod = 0;     ///< 0 arrears without, 1 with the delay charge of the month before
