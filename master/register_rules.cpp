@@ -1,6 +1,7 @@
 #include "master/register_rules.h"
 
 #include "store/data_access.h"
+#include "store/jet/text_rules.h"
 
 using namespace Qt::StringLiterals;
 
@@ -70,6 +71,4 @@ bool RegisterRules::finds(const QString& sql) {
   return !OpenSnapshot(session_.prompts, session_.dbBasic, rs, sql) || rs.RecordCount() != 0;
 }
 
-QString typedNumber(const QString& typed) {
-  return jet::Value(jet::Value(QString(typed).remove(u',')).toDouble()).toText();
-}
+QString typedNumber(const QString& typed) { return jet::textOf(jet::val(QString(typed).remove(u','))); }

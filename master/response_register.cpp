@@ -1,0 +1,68 @@
+#include "master/response_register.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+const QString responseTitle = u"배달 관리자"_s;
+}
+
+ResponseRegister::ResponseRegister(Session& session) : RegisterRules(session) {
+  list_.setColumns({{.header = u"담당자"_s, .width = 12, .locked = true},
+                    {.header = u"전화번호"_s, .width = 14, .align = CellAlign::Center, .locked = true},
+                    {.header = u"휴대폰"_s, .width = 14, .align = CellAlign::Center, .locked = true},
+                    {.header = u"입사일자"_s, .width = 11, .align = CellAlign::Center, .locked = true},
+                    {.header = u"주민등록번호"_s, .width = 15, .align = CellAlign::Center, .locked = true},
+                    {.header = u"주소"_s, .width = 36, .locked = true},
+                    {.header = u"메모사항"_s, .width = 24, .locked = true}});
+}
+
+QString ResponseRegister::listStatement() const {
+  return u"Select * From Response"_s;
+}
+
+std::vector<QString> ResponseRegister::cells(const RegisterFields& record) const {
+  return {record[u"Name"_s],     record[u"Tel"_s],     record[u"HP"_s],  record[u"AppDate"_s],
+          record[u"IdentyNo"_s], record[u"Address"_s], record[u"Memo"_s]};
+}
+
+RegisterFields ResponseRegister::blank() const {
+  return {{u"AppDate"_s, session_.pc.clock.dateText()}};
+}
+
+RegisterRules::Outcome ResponseRegister::checkRequired(const RegisterFields& boxes) {
+  if (boxes[u"Name"_s].isEmpty())
+    return refuse(u"담당자명은 필수입력사항입니다!"_s, responseTitle, u"Name"_s);
+  return {true};
+}
+
+RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& boxes) {
+  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  session_.dbBasic.Execute(
+      u"Insert Into Response(Name, Tel, AppDate, IdentyNo, HP, PostCode, Address, Memo)  Values('"_s +
+      boxes[u"Name"_s] + u"', '"_s + boxes[u"Tel"_s] + u"', '"_s + boxes[u"AppDate"_s] + u"', '"_s +
+      boxes[u"IdentyNo"_s] + u"', '"_s + boxes[u"HP"_s] + u"', '"_s + boxes[u"PostCode"_s] + u"', '"_s +
+      boxes[u"Address"_s] + u"', '"_s + boxes[u"Memo"_s] + u"')"_s);
+  return {true};
+}
+
+RegisterRules::Outcome ResponseRegister::change(const RegisterFields& boxes) {
+  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, responseTitle)) return {};
+  session_.dbBasic.Execute(
+      u"Update Response Set Name = '"_s + boxes[u"Name"_s] + u"', Tel = '"_s + boxes[u"Tel"_s] +
+      u"', AppDate = '"_s + boxes[u"AppDate"_s] + u"', IdentyNo = '"_s + boxes[u"IdentyNo"_s] +
+      u"', HP = '"_s + boxes[u"HP"_s] + u"', PostCode = '"_s + boxes[u"PostCode"_s] + u"', Address = '"_s +
+      boxes[u"Address"_s] + u"', Memo = '"_s + boxes[u"Memo"_s] + u"' Where Code = "_s + record()[u"Code"_s]);
+  return {true};
+}
+
+RegisterRules::Outcome ResponseRegister::erase() {
+  if (!selectedRow()) return {};
+  if (!session_.prompts.MsgAsk(u"선택된 담당자에 대한 자료를 삭제하시겠습니까?"_s, responseTitle)) return {};
+  session_.dbBasic.Execute(u"Delete * From Response Where Code = "_s + record()[u"Code"_s]);
+  return {true};
+}
+
+RegisterRules::Outcome ResponseRegister::saveWithoutRow(const RegisterFields&) {
+  return refuse(u"신규등록은 신규버튼을 누른 후 입력해 주십시오"_s, responseTitle);
+}
