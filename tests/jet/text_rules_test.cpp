@@ -1,0 +1,165 @@
+#include "store/jet/text_rules.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+
+#include "store/jet/error.h"
+#include "store/jet/format_rules.h"
+#include "store/jet/value.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename Work>
+int textRuleError(Work work) {
+  try {
+    work();
+  } catch (const jet::Error& error) {
+    return error.number();
+  }
+  return 0;
+}
+
+TEST(TextRules, ValTakesWhatNumberAText) {
+  EXPECT_EQ(jet::val(u"12kg"), 12);
+  EXPECT_EQ(jet::val(u" 1 6 15 St"), 1615);
+  EXPECT_EQ(jet::val(u"-3.5e2x"), -350);
+  EXPECT_EQ(jet::val(u"1,234"), 1);
+  EXPECT_EQ(jet::val(u".5"), 0.5);
+  EXPECT_EQ(jet::val(u"1d2"), 100);
+  EXPECT_EQ(jet::val(u"&H1F"), 31);
+  EXPECT_EQ(jet::val(u"&HFFFF"), -1);
+  for (const QString& none : QStringList{u""_s, u"kg"_s, u"-"_s, u"."_s, u"가1"_s})
+    EXPECT_EQ(jet::val(none), 0) << none.toStdString();
+}
+
+TEST(TextRules, ANumberIsTheWholeTextOrNothing) {
+  EXPECT_EQ(jet::numberOf(u" 1,234.5 "), 1234.5);
+  EXPECT_EQ(jet::numberOf(u"(12)"), -12);
+  EXPECT_EQ(jet::numberOf(u"12-"), -12);
+  EXPECT_EQ(jet::numberOf(u"-₩ 5"), -5);
+  EXPECT_EQ(jet::numberOf(u"1e3"), 1000);
+  EXPECT_EQ(jet::numberOf(u"&hff"), 255);
+  for (const QString& none : QStringList{u""_s, u" "_s, u"12호"_s, u"1-2"_s, u"-"_s, u"."_s, u"--1"_s,
+                                         u"1 2"_s, u"&H"_s, u"101-2"_s})
+    EXPECT_FALSE(jet::numberOf(none)) << none.toStdString();
+}
+
+TEST(TextRules, ADoubleShowsFifteenDigits) {
+  EXPECT_EQ(jet::textOf(0.1 + 0.2), u"0.3"_s);
+  EXPECT_EQ(jet::textOf(1234.0), u"1234"_s);
+  EXPECT_EQ(jet::textOf(999999999999999.0), u"999999999999999"_s);
+  EXPECT_EQ(jet::textOf(1e15), u"1E+15"_s);
+  EXPECT_EQ(jet::textOf(0.0001), u"0.0001"_s);
+  EXPECT_EQ(jet::textOf(-0.0), u"0"_s);
+  EXPECT_EQ(jet::textOf(-2.0 / 3), u"-0.666666666666667"_s);
+}
+
+TEST(TextRules, TiesGoToTheEvenNumber) {
+  EXPECT_EQ(jet::Value(0.5).toLong(), 0);
+  EXPECT_EQ(jet::Value(1.5).toLong(), 2);
+  EXPECT_EQ(jet::Value(2.5).toLong(), 2);
+  EXPECT_EQ(jet::Value(-2.5).toLong(), -2);
+  EXPECT_EQ(jet::Value("12.5kg").toLong(), 12);
+  EXPECT_EQ(jet::roundHalfEven(2.345, 2), 2.34);
+  EXPECT_EQ(jet::roundHalfEven(2.675, 2), 2.68);
+  EXPECT_EQ(textRuleError([] { (void)jet::Value(1e19).toLong(); }), 6);
+}
+
+TEST(TextRules, TextsCompareWithoutCaseAndTrailingBlanks) {
+  EXPECT_EQ(jet::compareText(u"Kim  ", u"kim"), 0);
+  EXPECT_EQ(jet::compareText(u"ÀÉ", u"àé"), 0);
+  EXPECT_EQ(jet::compareText(u"Ａ동", u"ａ동 "), 0);
+  EXPECT_NE(jet::compareText(u" kim", u"kim"), 0);
+  EXPECT_LT(jet::compareText(u"가", u"나"), 0);
+  EXPECT_LT(jet::compareText(u"", u"가"), 0);
+  EXPECT_LT(jet::compareText(u"가", u"가나"), 0);
+  EXPECT_LT(jet::compareText(u"2024-01-31", u"2024-02-01"), 0);
+  EXPECT_GT(jet::compareText(u"Z", u"a"), 0);
+}
+
+TEST(TextRules, BothComparisonsGiveOneOrder) {
+  const QStringList texts{u""_s,       u" "_s,  u"a"_s,          u"A "_s,     u"a\t"_s,
+                          u"홍길동"_s, u"홍"_s, u"\U0001F600"_s, u"\uFF21"_s, u"é"_s};
+  for (const QString& a : texts) {
+    for (const QString& b : texts)
+      EXPECT_EQ(jet::compareText(a, b), jet::compareUtf8(a.toStdString(), b.toStdString()))
+          << a.toStdString() << '|' << b.toStdString();
+  }
+  // Bytes that are no UTF-8 neither stop nor equal anything else.
+  EXPECT_NE(jet::compareUtf8("\xEA\xB0", "가"), 0);
+}
+
+TEST(TextRules, LikeKnowsFourMarksAndBrackets) {
+  EXPECT_TRUE(jet::like(u"2024-05-00", u"*-00"));
+  EXPECT_TRUE(jet::like(u"홍길동", u"홍*동"));
+  EXPECT_TRUE(jet::like(u"ABC", u"a?c"));
+  EXPECT_TRUE(jet::like(u"a1", u"a#"));
+  EXPECT_FALSE(jet::like(u"ab", u"a#"));
+  EXPECT_TRUE(jet::like(u"b", u"[a-c]"));
+  EXPECT_TRUE(jet::like(u"B", u"[a-c]"));
+  EXPECT_FALSE(jet::like(u"b", u"[!a-c]"));
+  EXPECT_TRUE(jet::like(u"a*b", u"a[*]b"));
+  EXPECT_FALSE(jet::like(u"axb", u"a[*]b"));
+  EXPECT_TRUE(jet::like(u"100%_", u"100%_"));
+  EXPECT_FALSE(jet::like(u"1000", u"100%"));
+  EXPECT_TRUE(jet::like(u"", u"*"));
+  EXPECT_TRUE(jet::like(u"", u"[]"));
+  EXPECT_FALSE(jet::like(u"abc ", u"abc"));
+  EXPECT_TRUE(jet::like(u"aXbXc", u"*x*c"));
+  EXPECT_EQ(textRuleError([] { (void)jet::like(u"a", u"[a"); }), 93);
+}
+
+TEST(TextRules, PartsOfATextCountCharacters) {
+  EXPECT_EQ(jet::leftOf(u"홍길동"_s, 2), u"홍길"_s);
+  EXPECT_EQ(jet::rightOf(u"홍길동"_s, 9), u"홍길동"_s);
+  EXPECT_EQ(jet::midOf(u"홍길동"_s, 2), u"길동"_s);
+  EXPECT_EQ(jet::midOf(u"홍길동"_s, 2, 1), u"길"_s);
+  EXPECT_EQ(jet::midOf(u"홍길동"_s, 4), u""_s);
+  EXPECT_EQ(textRuleError([] { (void)jet::midOf(u"a"_s, 0); }), 5);
+  EXPECT_EQ(textRuleError([] { (void)jet::leftOf(u"a"_s, -1); }), 5);
+}
+
+TEST(FormatRules, Numbers) {
+  EXPECT_EQ(jet::formatNumber(1234567, u"#,###,###"), u"1,234,567"_s);
+  EXPECT_EQ(jet::formatNumber(12345678901.0, u"#,###"), u"12,345,678,901"_s);
+  EXPECT_EQ(jet::formatNumber(0, u"#,###"), u""_s);
+  EXPECT_EQ(jet::formatNumber(0, u"#,##0"), u"0"_s);
+  EXPECT_EQ(jet::formatNumber(-1234, u"#,###"), u"-1,234"_s);
+  EXPECT_EQ(jet::formatNumber(1234.5, u"###,###,###.##"), u"1,234.5"_s);
+  EXPECT_EQ(jet::formatNumber(5, u"#.##"), u"5."_s);
+  EXPECT_EQ(jet::formatNumber(7, u"0000"), u"0007"_s);
+  EXPECT_EQ(jet::formatNumber(7, u"000,000"), u"000,007"_s);
+  EXPECT_EQ(jet::formatNumber(2.5, u"0"), u"3"_s);
+  EXPECT_EQ(jet::formatNumber(9.995, u"0.00"), u"10.00"_s);
+  EXPECT_EQ(jet::formatNumber(0.05, u"0.0"), u"0.1"_s);
+  EXPECT_EQ(jet::formatNumber(0.004, u"0.00"), u"0.00"_s);
+  EXPECT_EQ(jet::formatNumber(0.256, u"0.0%"), u"25.6%"_s);
+  EXPECT_EQ(jet::formatNumber(20261124, u"0000-00-00"), u"2026-11-24"_s);
+  EXPECT_EQ(jet::formatNumber(1234567, u"#,##0,"), u"1,235"_s);
+  EXPECT_EQ(jet::formatNumber(-5, u"0;(0);\"없음\""), u"(5)"_s);
+  EXPECT_EQ(jet::formatNumber(0, u"0;(0);\"없음\""), u"없음"_s);
+  EXPECT_EQ(jet::formatNumber(3, u"0\\원"), u"3원"_s);
+}
+
+TEST(FormatRules, Dates) {
+  const QDateTime moment(QDate(2026, 3, 7), QTime(15, 4, 9));
+  EXPECT_EQ(jet::formatDate(moment, u"YYYY/MM/DD"), u"2026-03-07"_s);
+  EXPECT_EQ(jet::formatDate(moment, u"yy.m.d"), u"26.3.7"_s);
+  EXPECT_EQ(jet::formatDate(moment, u"YYMMDD_HHMMSS"), u"260307_150409"_s);
+  EXPECT_EQ(jet::formatDate(moment, u"AM/PM h:nn"), u"오후 3:04"_s);
+  EXPECT_EQ(jet::formatDate(moment, u"ddddd dddd"), u"2026-03-07 토요일"_s);
+  EXPECT_EQ(jet::formatDate(moment, u"yyyy\"년\""), u"2026년"_s);
+}
+
+TEST(FormatRules, ThePictureChooses) {
+  EXPECT_EQ(jet::format(jet::Value("2026-11-24"), u"mm/dd"), u"11-24"_s);
+  EXPECT_EQ(jet::format(jet::Value("1234"), u"#,###"), u"1,234"_s);
+  EXPECT_EQ(jet::format(jet::Value("abc"), u"#,###"), u"abc"_s);
+  EXPECT_EQ(jet::format(jet::Value(), u"#,###"), u""_s);
+}
+
+}  // namespace
