@@ -1,0 +1,62 @@
+#pragma once
+// One customer as the boxes of a register page show and take it.
+#include <QString>
+
+#include "store/jet/database.h"
+
+/** How a customer lives; also the number of its page in the register. */
+enum class HouseStyle { Plain = 0, Apartment = 1, MultiFamily = 2 };
+
+enum class PayWay { Visit = 1, Giro = 2, Transfer = 3 };
+
+/** Boxes that a refused save sends the focus to. */
+enum class ClientBox {
+  None,
+  Name,
+  Tel,
+  Tel1,
+  Tel2,
+  Address,
+  Pressure,
+  VolumeUnit,
+  GasInit,
+  UtilInit,
+  Birth,
+  AppDate,
+  New
+};
+
+/** Texts as typed; money may carry its thousands commas. A new entry has code 0. */
+struct ClientEntry {
+  qint64 code = 0;
+  HouseStyle houseStyle = HouseStyle::Plain;
+  QString name, uname;
+  QString tel, tel1, tel2;
+  QString postCode, address;
+  QString birth, appDate;  ///< "yyyy-MM-dd" or ''
+  QString memo;
+  QString gasInit = QStringLiteral("0"), utilInit = QStringLiteral("0");  ///< receivables, won
+  PayWay payWay = PayWay::Visit;
+  bool volume = false;  ///< billed by meter
+  QString pressure;     ///< size of the regulator
+  QString volumeUnit;   ///< won a unit
+  QString bdName, dong, ho;
+  QString serial, status, item;  ///< for tax papers, plain customers only
+};
+
+/** The current row of a recordset over Client. */
+ClientEntry readClient(const jet::Recordset& client);
+
+/** What stands in a customer's name cell: a plain customer's name, a household's building, block and unit; the head
+ *  row of a block has no unit. */
+QString DisplayName(const jet::Recordset& client);
+
+/** A money or price text as a number of the statement: "1,234" is 1234, '' is 0. */
+QString numberText(const QString& typed);
+
+/** A save's end: where the focus goes, and the code of a newly made customer. */
+struct ClientSaved {
+  bool done = false;
+  ClientBox focus = ClientBox::None;
+  qint64 code = 0;
+};
