@@ -1,5 +1,7 @@
 #include "master/client_entry.h"
 
+#include "master/register_rules.h"
+
 ClientEntry readClient(const jet::Recordset& client) {
   const auto text = [&](const char* field) { return client[QString::fromLatin1(field)].toText(); };
   ClientEntry entry;
@@ -15,8 +17,8 @@ ClientEntry readClient(const jet::Recordset& client) {
   entry.birth = text("Birth");
   entry.appDate = text("AppDate");
   entry.memo = text("Memo");
-  entry.gasInit = numberText(text("GasInit"));
-  entry.utilInit = numberText(text("UtilInit"));
+  entry.gasInit = typedNumber(text("GasInit"));
+  entry.utilInit = typedNumber(text("UtilInit"));
   entry.payWay = PayWay(qBound(1, int(client[QStringLiteral("PayWay")].toLong()), 3));
   entry.volume = client[QStringLiteral("VolumeYesNo")].toBool();
   entry.pressure = text("Volume");
@@ -30,17 +32,18 @@ ClientEntry readClient(const jet::Recordset& client) {
   return entry;
 }
 
-QString DisplayName(const jet::Recordset& client) {
-  if (client[QStringLiteral("HouseStyle")].toLong() == qint64(HouseStyle::Plain)) {
-    return client[QStringLiteral("Name")].toText();
-  }
-  const QString block = client[QStringLiteral("BDName")].toText() + u' ' +
-                        client[QStringLiteral("Dong")].toText() + QStringLiteral("동");
-  const QString unit = client[QStringLiteral("Ho")].toText();
-  return unit.isEmpty() ? block : block + u' ' + unit + QStringLiteral("호");
+QString DisplayName(const ClientEntry& client) {
+  if (client.houseStyle == HouseStyle::Plain) return client.name;
+  const QString block = client.bdName + u' ' + client.dong + QStringLiteral("동");
+  return client.ho.isEmpty() ? block : block + u' ' + client.ho + QStringLiteral("호");
 }
 
-QString numberText(const QString& typed) {
-  QString plain = typed;
-  return jet::Value(jet::Value(plain.remove(u',')).toDouble()).toText();
+QString DisplayName(const jet::Recordset& client) {
+  ClientEntry name;
+  name.houseStyle = HouseStyle(client[QStringLiteral("HouseStyle")].toLong());
+  name.name = client[QStringLiteral("Name")].toText();
+  name.bdName = client[QStringLiteral("BDName")].toText();
+  name.dong = client[QStringLiteral("Dong")].toText();
+  name.ho = client[QStringLiteral("Ho")].toText();
+  return DisplayName(name);
 }

@@ -23,7 +23,8 @@ enum class ClientBox {
   UtilInit,
   Birth,
   AppDate,
-  New
+  New,
+  List
 };
 
 /** Texts as typed; money may carry its thousands commas. A new entry has code 0. */
@@ -50,9 +51,7 @@ ClientEntry readClient(const jet::Recordset& client);
 /** What stands in a customer's name cell: a plain customer's name, a household's building, block and unit; the head
  *  row of a block has no unit. */
 QString DisplayName(const jet::Recordset& client);
-
-/** A money or price text as a number of the statement: "1,234" is 1234, '' is 0. */
-QString numberText(const QString& typed);
+QString DisplayName(const ClientEntry& client);
 
 /** A save's end: where the focus goes, and the code of a newly made customer. */
 struct ClientSaved {

@@ -1,4 +1,4 @@
-#include "master/meter_rows.h"
+#include "master/client_rows.h"
 
 #include <set>
 
@@ -7,14 +7,22 @@ namespace {
 constexpr int lastMonth = 12;
 
 void addMeterRow(const Session& session, qint64 clientCode, int month) {
-  session.dbYear.Execute("Insert Into Evaporation(ClientCode, Mon) Values(" + QString::number(clientCode) +
-                         ", " + QString::number(month) + ")");
+  session.dbYear.Execute(
+      "Insert Into Evaporation(ClientCode, Mon) "
+      "Values(" +
+      QString::number(clientCode) + ", " + QString::number(month) + ")");
 }
 
 }  // namespace
 
-void addMeterRows(const Session& session, qint64 clientCode) {
-  for (int month = 0; month <= lastMonth; ++month) addMeterRow(session, clientCode, month);
+qint64 addClient(const Session& session, const QString& insertStatement, bool metered) {
+  qint64 code = 0;
+  session.wsMain.Together([&] {
+    session.dbBasic.Execute(insertStatement);
+    code = session.dbBasic.OpenRecordset("Select Max(Code) As MCode From Client")["MCode"].toLong();
+    for (int month = 0; metered && month <= lastMonth; ++month) addMeterRow(session, code, month);
+  });
+  return code;
 }
 
 void completeMeterRows(const Session& session, qint64 clientCode) {

@@ -1,0 +1,207 @@
+#include "master/client_register.h"
+
+#include "master/client_checks.h"
+#include "master/client_rows.h"
+#include "master/client_statements.h"
+#include "store/data_access.h"
+
+namespace {
+
+constexpr auto registerOfClients = "고객 관리자";
+
+std::vector<SpreadColumn> plainColumns() {
+  return {{.header = "이름", .width = 22},
+          {.header = "전화번호", .width = 15},
+          {.header = "가스미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
+          {.header = "자재미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
+          {.header = "메모사항", .width = 34},
+          {.header = "가입일자", .width = 12, .align = CellAlign::Center},
+          {.header = "코드", .hidden = true}};
+}
+
+std::vector<SpreadColumn> householdColumns(const QString& building) {
+  return {{.header = building, .width = 24},
+          {.header = "동", .width = 8, .align = CellAlign::Center},
+          {.header = "호", .width = 8, .align = CellAlign::Center},
+          {.header = "가스미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
+          {.header = "자재미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
+          {.header = "전화번호", .width = 15},
+          {.header = "코드", .hidden = true}};
+}
+
+QString pageStatement(HouseStyle page) {
+  switch (page) {
+    case HouseStyle::Apartment:
+      return "Select * From Client Where HouseStyle = 1 Order By BDname, code";
+    case HouseStyle::MultiFamily:
+      return "Select * From Client Where HouseStyle = 2 Order By BDName, code";
+    case HouseStyle::Plain:
+      break;
+  }
+  return "Select * From Client Where HouseStyle = 0 Order By Name";
+}
+
+std::vector<QString> cellsOf(const ClientEntry& c) {
+  const QString code = QString::number(c.code);
+  if (c.houseStyle == HouseStyle::Plain)
+    return {c.name, c.tel, c.gasInit, c.utilInit, c.memo, c.appDate, code};
+  return {c.bdName, c.dong, c.ho, c.gasInit, c.utilInit, c.tel, code};
+}
+
+bool blockIsMetered(const Session& session, const ClientEntry& c) {
+  jet::Recordset block;
+  return OpenSnapshot(session.prompts, session.dbBasic, block,
+                      "Select * From APT Where Name = '" + c.bdName + "' And Dong = '" + c.dong + "'") &&
+         !block.atEnd() && block["Evaporation"].toBool();
+}
+
+/** Year files are gone through from the current year back, as long as there is one; an older file beyond a gap keeps
+ *  the customer's sales; kept. */
+void removeSales(const Session& session, qint64 code) {
+  for (int year = session.pc.clock.today().year();; --year) {
+    const QString path = session.DbPath + QString::number(year) + "Foundation.mdb";
+    if (!session.pc.paths.exists(path)) return;
+    jet::Database yearFile;
+    if (!OpenDB(session.wsMain, yearFile, path)) {
+      session.prompts.MsgWarn(path + "\n파일을 열 수 없어 이 해의 판매자료는 삭제하지 못했습니다!",
+                              registerOfClients);
+      continue;
+    }
+    yearFile.Execute("delete * from sale where clientcode = " + QString::number(code));
+  }
+}
+
+}  // namespace
+
+ClientRegister::ClientRegister(Session& session) : session_(session) {
+  const auto locked = [](std::vector<SpreadColumn> columns) {
+    for (SpreadColumn& column : columns) column.locked = true;
+    return columns;
+  };
+  list(HouseStyle::Plain).setColumns(locked(plainColumns()));
+  list(HouseStyle::Apartment).setColumns(locked(householdColumns("아파트명")));
+  list(HouseStyle::MultiFamily).setColumns(locked(householdColumns("다가구명")));
+}
+
+bool ClientRegister::loadPage(HouseStyle page) {
+  new_ = false;
+  chosen_ = {};
+  chosen_.houseStyle = page;
+  jet::Recordset clients;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, clients, pageStatement(page))) return false;
+  std::vector<std::vector<QString>> rows;
+  for (; !clients.atEnd(); clients.MoveNext()) rows.push_back(cellsOf(readClient(clients)));
+  list(page).setRows(std::move(rows));
+  return true;
+}
+
+ClientEntry ClientRegister::beginNew() {
+  new_ = true;
+  ClientEntry blank;
+  blank.houseStyle = page();
+  blank.appDate = session_.pc.clock.dateText();
+  return blank;
+}
+
+ClientEntry ClientRegister::cancel() {
+  new_ = false;
+  return chosen_;
+}
+
+ClientEntry ClientRegister::selectRow(int row) {
+  return select(list(page()).text(row, CodeCol).toLongLong());
+}
+
+ClientEntry ClientRegister::select(qint64 code) {
+  new_ = false;
+  ClientEntry none;
+  none.houseStyle = page();
+  jet::Recordset client;
+  const bool found = code != 0 &&
+                     OpenSnapshot(session_.prompts, session_.dbBasic, client,
+                                  "Select * From Client Where Code = " + QString::number(code)) &&
+                     !client.atEnd();
+  chosen_ = found ? readClient(client) : none;
+  return chosen_;
+}
+
+int ClientRegister::rowOf(qint64 code) const {
+  const SpreadModel& rows = lists_.at(size_t(page()));
+  const QString wanted = QString::number(code);
+  for (int row = 1; row <= rows.MaxRows(); ++row) {
+    if (rows.text(row, CodeCol) == wanted) return row;
+  }
+  return 0;
+}
+
+ClientSaved ClientRegister::save(const ClientEntry& boxes) {
+  if (!new_ && chosen_.code == 0) {
+    session_.prompts.MsgWarn("신규등록은 신규버튼을 누른후 입력해 주십시오", registerOfClients);
+    return {.focus = ClientBox::New};
+  }
+  if (const auto box = missingOrWrong(session_, boxes)) return {.focus = *box};
+  ClientEntry client = boxes;
+  client.houseStyle = page();
+  client.code = chosen_.code;
+  return new_ ? insert(client) : change(client);
+}
+
+ClientSaved ClientRegister::insert(const ClientEntry& client) {
+  if (const auto box = takenAlready(session_, client)) return {.focus = *box};
+  const qint64 code = addClient(session_, insertStatement(client), client.volume);
+  SpreadModel& rows = list(page());
+  select(code);
+  rows.setMaxRows(rows.MaxRows() + 1);
+  showRow(rows.MaxRows(), chosen_);
+  return {.done = true, .focus = ClientBox::New, .code = code};
+}
+
+ClientSaved ClientRegister::change(const ClientEntry& client) {
+  if (!session_.prompts.MsgAsk("위와 같이 고객등록사항을 변경하시겠습니까?", registerOfClients)) return {};
+  jet::Recordset row;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, row,
+                    "Select * From Client Where Code = " + QString::number(client.code))) {
+    return {};
+  }
+  if (row.atEnd()) {
+    session_.prompts.MsgWarn("다른 PC에서 이미 삭제된 고객입니다!", registerOfClients);
+    return {};
+  }
+  const ClientEntry old = readClient(row);
+  const bool newPrice = client.volume && old.volumeUnit != client.volumeUnit;
+  const bool spreads = page() == HouseStyle::Apartment && newPrice && blockIsMetered(session_, client);
+  session_.wsMain.Together([&] {
+    session_.dbBasic.Execute(updateStatement(client));
+    if (client.volume && !old.volume) completeMeterRows(session_, client.code);
+    if (spreads) session_.dbBasic.Execute(unitSpreadStatement(client, old.volumeUnit));
+  });
+  select(client.code);
+  if (const int shown = rowOf(client.code)) showRow(shown, chosen_);
+  return {.done = true, .focus = ClientBox::List};
+}
+
+void ClientRegister::showRow(int row, const ClientEntry& client) {
+  const std::vector<QString> cells = cellsOf(client);
+  for (size_t i = 0; i < cells.size(); ++i) list(page()).setText(row, int(i) + 1, cells[i]);
+}
+
+bool ClientRegister::removeChosen() {
+  if (new_ || chosen_.code == 0) return false;
+  const ClientEntry gone = chosen_;
+  if (!session_.prompts.MsgAsk("이  름 : " + (gone.name.isEmpty() ? DisplayName(gone) : gone.name) + "    " +
+                                   "전화번호 : " + gone.tel + "\n선택된 고객자료를 삭제하시겠습니까?",
+                               registerOfClients)) {
+    return false;
+  }
+  session_.wsMain.Together([&] {
+    const QString code = QString::number(gone.code);
+    if (gone.volume) session_.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + code);
+    session_.dbBasic.Execute("Delete * From Client Where Code = " + code);
+  });
+  const int row = rowOf(gone.code);
+  if (row > 0) list(page()).deleteRow(row);
+  chosen_ = {};
+  chosen_.houseStyle = gone.houseStyle;
+  removeSales(session_, gone.code);
+  return true;
+}

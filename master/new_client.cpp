@@ -1,0 +1,48 @@
+#include "master/new_client.h"
+
+#include "master/client_rows.h"
+#include "master/register_rules.h"
+#include "master/tel_format.h"
+
+namespace {
+
+QString newClientStatement(const ClientEntry& c, const QString& today) {
+  const QString start =
+      "Insert into Client(Name, Tel, PostCode, Address, "
+      "Memo, HouseStyle, AppDate, PayWay, ";
+  const QString common = "'" + c.name + "', '" + c.tel + "', '" + c.postCode + "', '" + c.address + "', '" +
+                         c.memo + "', 0, '" + today + "', 1, ";
+  if (!c.volume) return start + "VolumeYesNo) Values(" + common + "False)";
+  return start + "VolumeYesNo, VolumeUnit, Volume) Values(" + common + "True, " + typedNumber(c.volumeUnit) +
+         ", '" + c.pressure + "')";
+}
+
+}  // namespace
+
+ClientEntry newClientFrom(const QString& searchText) {
+  ClientEntry boxes;
+  const QString text = searchText.trimmed();
+  const bool number = !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) {
+    return c.isDigit() || c == u'-' || c == u'.';
+  });
+  (number ? boxes.tel : boxes.name) = number ? FormatTel(text).text : text;
+  return boxes;
+}
+
+ClientSaved saveNewClient(const Session& session, const ClientEntry& boxes) {
+  const auto refuse = [&](const QString& text, const QString& title, ClientBox box) {
+    session.prompts.MsgWarn(text, title);
+    return ClientSaved{.focus = box};
+  };
+  if (boxes.name.isEmpty() && boxes.tel.isEmpty() && boxes.address.isEmpty()) {
+    return refuse("성명/상호/전화번호/주소중 한 가지는 입력되어야 합니다!", "고객 관리자", ClientBox::Name);
+  }
+  if (boxes.volume && boxes.volumeUnit.isEmpty()) {
+    return refuse("체적단가를 입력하십시오", "체적관리자", ClientBox::VolumeUnit);
+  }
+  if (boxes.volume && boxes.pressure.isEmpty()) {
+    return refuse("압력조정기를 입력하십시오", "체적관리자", ClientBox::Pressure);
+  }
+  const QString statement = newClientStatement(boxes, session.pc.clock.dateText());
+  return {.done = true, .code = addClient(session, statement, boxes.volume)};
+}
