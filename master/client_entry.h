@@ -16,7 +16,6 @@ enum class ClientBox {
   Tel,
   Tel1,
   Tel2,
-  Address,
   Pressure,
   VolumeUnit,
   GasInit,

@@ -15,34 +15,34 @@ QString likeAround(const char* field, const QString& text) {
 }
 
 /** A telephone's last four digits are the usual way to find a customer. */
-QString fourDigits(const QString& digits) {
-  return likeAround("Tel", digits) + " or " + likeAround("Tel1", digits) + " or " +
-         likeAround("Tel2", digits) + " or " + likeAround("Name", digits);
+QString byFourDigits(const QString& digits) {
+  return "Select * From Client Where ( " + likeAround("Tel", digits) + " or " + likeAround("Tel1", digits) +
+         " or " + likeAround("Tel2", digits) + " or " + likeAround("Name", digits) + ")";
 }
 
-QString endOfNumber(const QString& n) {
-  return "Tel Like '*" + n + "' or Tel1 Like '*" + n + "' or Tel2 Like '*" + n + "' or UName Like '*" + n +
-         "'";
+QString byEndOfNumber(const QString& n) {
+  return "Select * From Client Where ( Tel Like '*" + n + "' or Tel1 Like '*" + n + "' or Tel2 Like '*" + n +
+         "' or UName Like '*" + n + "')";
 }
 
-QString anyText(const QString& text, bool buildings) {
-  QString where = likeAround("Tel", text);
+QString byAnyText(const QString& text, bool buildings) {
+  QString sql = "Select * From Client Where ( " + likeAround("Tel", text);
   for (const char* field : {"Tel1", "Tel2", "Name", "Uname", "Address"})
-    where += " or " + likeAround(field, text);
-  if (buildings) where += " or " + likeAround("BDName", text);
+    sql += " or " + likeAround(field, text);
+  if (buildings) sql += " or " + likeAround("BDName", text);
   // A number typed without its dashes is also looked for in the shape in which telephones are stored.
   const QString formatted = allDigits(text) ? FormatTel(text).text : text;
   if (formatted != text) {
-    for (const char* field : {"Tel", "Tel1", "Tel2"}) where += " or " + likeAround(field, formatted);
+    for (const char* field : {"Tel", "Tel1", "Tel2"}) sql += " or " + likeAround(field, formatted);
   }
-  return where;
+  return sql + ")";
 }
 
-QString condition(const QString& text, ClientSearchMode mode, bool wholeNumber) {
-  if (allDigits(text) && text.size() == 4) return fourDigits(text);
+QString byText(const QString& text, ClientSearchMode mode, bool wholeNumber) {
+  if (allDigits(text) && text.size() == 4) return byFourDigits(text);
   const QString digits = QString(text).remove(u'-').remove(u'.');
-  if (wholeNumber && allDigits(digits) && digits.size() > 4) return endOfNumber(FormatTel(text).localPart);
-  return anyText(text, mode == ClientSearchMode::Volume);
+  if (wholeNumber && allDigits(digits) && digits.size() > 4) return byEndOfNumber(FormatTel(text).localPart);
+  return byAnyText(text, mode == ClientSearchMode::Volume);
 }
 
 QString everyone(ClientSearchMode mode) {
@@ -91,7 +91,7 @@ ClientSearch::ClientSearch(Session& session) : session_(session) {
 QString ClientSearch::statement(const QString& text, ClientSearchMode mode, bool wholeNumber) {
   const QString wanted = text.trimmed();
   if (wanted.isEmpty()) return everyone(mode) + " Order By Name";
-  return "Select * From Client Where ( " + condition(wanted, mode, wholeNumber) + ")" + modeClause(mode);
+  return byText(wanted, mode, wholeNumber) + modeClause(mode);
 }
 
 ClientSearch::Found ClientSearch::find(const QString& text, ClientSearchMode mode, bool wholeNumber) {
