@@ -4,6 +4,7 @@
 #include "master/client_rows.h"
 #include "master/client_statements.h"
 #include "store/data_access.h"
+#include "store/jet/format_rules.h"
 
 namespace {
 
@@ -93,6 +94,12 @@ bool ClientRegister::loadPage(HouseStyle page) {
   for (; !clients.atEnd(); clients.MoveNext()) rows.push_back(cellsOf(readClient(clients)));
   list(page).setRows(std::move(rows));
   return true;
+}
+
+QString ClientRegister::bottomLine() const {
+  const jet::Value count = DAO_GetValue(session_.prompts, session_.dbBasic, "Count(Code)", "Client", "");
+  return " 기존고객 및 신규고객을 거주지별로 등록    인쇄 : F10    등록고객수 : " +
+         jet::format(count, u"##,###") + "명";
 }
 
 ClientEntry ClientRegister::beginNew() {

@@ -3,6 +3,7 @@
 #include "master/client_rows.h"
 #include "master/register_rules.h"
 #include "master/tel_format.h"
+#include "store/jet/format_rules.h"
 
 namespace {
 
@@ -43,6 +44,6 @@ ClientSaved saveNewClient(const Session& session, const ClientEntry& boxes) {
   if (boxes.volume && boxes.pressure.isEmpty()) {
     return refuse("압력조정기를 입력하십시오", "체적관리자", ClientBox::Pressure);
   }
-  const QString statement = newClientStatement(boxes, session.pc.clock.dateText());
-  return {.done = true, .code = addClient(session, statement, boxes.volume)};
+  const QString today = jet::formatDate(session.pc.clock.now(), u"YYYY/MM/DD");
+  return {.done = true, .code = addClient(session, newClientStatement(boxes, today), boxes.volume)};
 }
