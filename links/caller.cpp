@@ -1,0 +1,68 @@
+#include "links/caller.h"
+
+#include "store/jet/value.h"
+
+namespace {
+const QString preferences = QStringLiteral("환경설정");
+const QString application = QStringLiteral("해온판매");
+const QString registration = QStringLiteral("Registration");
+const std::array<QString, 2> portKeys{QStringLiteral("OpenSeeIDPort1"), QStringLiteral("OpenSeeIDPort2")};
+}  // namespace
+
+bool Caller::enabled() const {
+  return session_.pc.settings.GetSetting(application, registration, QStringLiteral("SeeIDUse")) == u"1";
+}
+
+void Caller::setEnabled(bool on) {
+  session_.pc.settings.SaveSetting(application, registration, QStringLiteral("SeeIDUse"),
+                                   on ? QStringLiteral("1") : QStringLiteral("0"));
+  if (on)
+    OpenSeeID();
+  else
+    CloseSeeID();
+}
+
+std::array<QString, 2> Caller::ports() const {
+  const auto& settings = session_.pc.settings;
+  return {settings.GetSetting(session_.AppTitle, preferences, portKeys[0], QStringLiteral("1")),
+          settings.GetSetting(session_.AppTitle, preferences, portKeys[1], QStringLiteral("2"))};
+}
+
+void Caller::OpenSeeID() {
+  if (!enabled()) return;
+  const auto numbers = ports();
+  for (size_t at = 0; at < controls_.size(); ++at) {
+    if (controls_[at]->isOpen() || numbers[at] == u"0") continue;
+    const QString port = QStringLiteral("COM") + numbers[at];
+    if (controls_[at]->open(port) > 0)
+      session_.prompts.MsgInfo(QStringLiteral("포트 ") + port +
+                               QStringLiteral("으로 SEE ID OPEN에 실패했습니다."));
+  }
+}
+
+void Caller::CloseSeeID() {
+  for (size_t at = 0; at < controls_.size(); ++at) {
+    if (!controls_[at]->isOpen()) continue;
+    const QString port = QStringLiteral("COM") + QString::number(at + 1);
+    if (controls_[at]->close(port) > 0)
+      session_.prompts.MsgInfo(QStringLiteral("포트 ") + port +
+                               QStringLiteral("으로 SEE ID CLOSE에 실패했습니다."));
+  }
+}
+
+void Caller::changePorts(const std::array<QString, 2>& typed) {
+  CloseSeeID();
+  for (size_t at = 0; at < typed.size(); ++at)
+    session_.pc.settings.SaveSetting(session_.AppTitle, preferences, portKeys[at],
+                                     QString::number(jet::Value(typed[at]).toLong()));
+  OpenSeeID();
+}
+
+void Caller::deviceEvent(int state, const QString& number) {
+  if (state == 1 || state == 2) OnCallerNumber(number);
+}
+
+void Caller::OnCallerNumber(const QString& number) {
+  CallerTarget* target = active_();
+  if (!target || !target->TakeCallerNumber(number)) waiting_.AddStanbyNumber(number);
+}

@@ -1,0 +1,29 @@
+#pragma once
+// Calls that nobody has taken yet. In memory only: a restart empties it.
+#include <QStringList>
+#include <functional>
+
+#include "master/calls.h"
+#include "pc/clock.h"
+
+class WaitingList : public WaitingCalls {
+ public:
+  explicit WaitingList(const pc::Clock& clock) : clock_(clock) {}
+
+  /** Appends "<number> [<date and time now>]". */
+  void AddStanbyNumber(const QString& number);
+  QString TakeStanbyNumber() override;
+
+  const QStringList& entries() const { return entries_; }
+  void remove(int index);
+  void clear();
+  /** Told after every change; the list's window. */
+  std::function<void()> changed;
+
+ private:
+  void tell() const {
+    if (changed) changed();
+  }
+  const pc::Clock& clock_;
+  QStringList entries_;
+};
