@@ -61,7 +61,8 @@ void SpreadModel::deleteRow(int row) {
 int SpreadModel::DataRowCnt() const {
   for (int row = MaxRows(); row > 0; --row) {
     const auto& cells = rows_[size_t(row - 1)].cells;
-    if (std::any_of(cells.begin(), cells.end(), [](const QString& cell) { return !cell.isEmpty(); })) return row;
+    if (std::any_of(cells.begin(), cells.end(), [](const QString& cell) { return !cell.isEmpty(); }))
+      return row;
   }
   return 0;
 }
@@ -90,7 +91,9 @@ void SpreadModel::setText(int row, int col, const QString& text) {
   tell(What::Cells, row, col);
 }
 
-int SpreadModel::comboPosition(int row, int col) const { return int(column(col).combo.indexOf(text(row, col))); }
+int SpreadModel::comboPosition(int row, int col) const {
+  return int(column(col).combo.indexOf(text(row, col)));
+}
 
 void SpreadModel::setComboPosition(int row, int col, int position) {
   setText(row, col, column(col).combo.value(position));
@@ -118,7 +121,9 @@ void SpreadModel::setBackground(int row, int col, int rgb) {
   tell(What::Cells, row, col);
 }
 
-bool SpreadModel::bold(int row) const { return rows_.at(size_t(row - 1)).bold; }
+bool SpreadModel::bold(int row) const {
+  return rows_.at(size_t(row - 1)).bold;
+}
 
 void SpreadModel::setBold(int row, bool bold) {
   rows_.at(size_t(row - 1)).bold = bold;

@@ -1,0 +1,214 @@
+#include "ui/form.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+#include "ui/form_ini.h"
+#include "ui/grid_menu.h"
+#include "ui/guard.h"
+
+Form::Form(const QString& name, const QString& caption, Session& session, QWidget* parent)
+    : QWidget(parent), session_(session) {
+  setObjectName(name);
+  setWindowTitle(caption);
+  setFocusPolicy(Qt::NoFocus);
+  auto* const whole = new QVBoxLayout(this);
+  whole->setContentsMargins(6, 6, 6, 6);
+  whole->setSpacing(5);
+  body_ = new QVBoxLayout;
+  body_->setSpacing(5);
+  whole->addLayout(body_, 1);
+
+  auto* const foot = new QHBoxLayout;
+  foot->setSpacing(0);
+  help_ = new QLabel(this);
+  help_->setObjectName(QStringLiteral("PnlHelp"));
+  foot->addWidget(help_, 1);
+  bottom_ = new QLabel(this);
+  bottom_->setObjectName(QStringLiteral("LblBottom"));
+  bottom_->hide();
+  foot->addWidget(bottom_);
+  whole->addLayout(foot);
+}
+
+// --- handlers -----------------------------------------------------------------------------------------------
+
+namespace {
+
+bool keepsEnter(const QWidget* control) {
+  return qobject_cast<const QPlainTextEdit*>(control) || qobject_cast<const QTextEdit*>(control) ||
+         qobject_cast<const QPushButton*>(control);
+}
+
+}  // namespace
+
+bool Form::guard(const std::function<void()>& work) {
+  return guarded(session_.prompts, work);
+}
+
+bool Form::trap(const QString& procedure, const std::function<void()>& work) {
+  return guardedBy(work, [&](int number, const QString& text) {
+    session_.prompts.MsgWarn(QStringLiteral("Error %1 (%2) in procedure %3 of Form %4")
+                                 .arg(QString::number(number), text, procedure, objectName()));
+  });
+}
+
+bool Form::commitEditors() {
+  const auto grids = findChildren<Spread*>();
+  return std::all_of(grids.begin(), grids.end(), [](Spread* grid) { return grid->commitEdit(); });
+}
+
+bool Form::command(const std::function<void()>& work) {
+  return commitEditors() && guard(work);
+}
+
+void Form::onKey(int key, std::function<void()> work) {
+  onKey(Qt::NoModifier, key, std::move(work));
+}
+
+void Form::onKey(Qt::KeyboardModifiers modifiers, int key, std::function<void()> work) {
+  keys_[int(modifiers) | key] = std::move(work);
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+  const int pressed = int(event->modifiers() & ~Qt::KeypadModifier) | event->key();
+  const auto found = keys_.constFind(pressed);
+  if (found == keys_.constEnd()) return QWidget::keyPressEvent(event);
+  event->accept();
+  const auto work = *found;  // the handler may close the form
+  command(work);
+}
+
+// --- the help line ------------------------------------------------------------------------------------------
+
+void Form::setHelp(QWidget* control, const QString& text) {
+  helps_[control] = text;
+  control->installEventFilter(this);
+}
+
+void Form::showHelp(const QString& text) {
+  help_->setText(text);
+}
+
+void Form::setBottomLine(const QString& text) {
+  bottom_->setText(text);
+  bottom_->setVisible(!text.isEmpty());
+}
+
+// --- the focus ----------------------------------------------------------------------------------------------
+
+void Form::enterOrder(const QList<QWidget*>& controls, std::function<void()> atEnd) {
+  order_ = controls;
+  atEnd_ = std::move(atEnd);
+  for (QWidget* const control : controls) control->installEventFilter(this);
+}
+
+void Form::focus(QWidget* control) {
+  control->setFocus(Qt::OtherFocusReason);
+  if (auto* const box = qobject_cast<QLineEdit*>(control); box && box->inputMask().isEmpty())
+    box->selectAll();
+}
+
+bool Form::enterFrom(QWidget* control) {
+  const qsizetype at = order_.indexOf(control);
+  if (at < 0 || keepsEnter(control)) return false;
+  for (qsizetype next = at + 1; next < order_.size(); ++next) {
+    if (!order_[next]->isVisibleTo(this) || !order_[next]->isEnabled()) continue;
+    focus(order_[next]);
+    return true;
+  }
+  if (atEnd_) command(atEnd_);
+  return true;
+}
+
+bool Form::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn) {
+    const auto help = helps_.constFind(watched);
+    if (help != helps_.constEnd()) showHelp(*help);
+  } else if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && watched->isWidgetType() &&
+        enterFrom(static_cast<QWidget*>(watched)))
+      return true;
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+// --- building -----------------------------------------------------------------------------------------------
+
+Spread* Form::addSpread(const char* name, SpreadModel& model, QWidget* parent) {
+  auto* const grid = new Spread(model, parent ? parent : this);
+  grid->setObjectName(QString::fromUtf8(name));
+  grid->guard = [this](const std::function<void()>& work) { return guard(work); };
+  grid->columnResized = [this, grid](int col) {
+    FormIni(session_.pc.paths).SaveSpreadIni(*this, *grid, col);
+  };
+  grid->menuAsked = [this, grid](const QPoint& place) { showGridMenu(*this, *grid, place); };
+  return grid;
+}
+
+QPushButton* Form::addButton(const char* name, const QString& caption, std::function<void()> work) {
+  auto* const button = new QPushButton(caption, this);
+  button->setObjectName(QString::fromUtf8(name));
+  button->setAutoDefault(true);
+  connect(button, &QPushButton::clicked, this, [this, work = std::move(work)] { command(work); });
+  return button;
+}
+
+QGroupBox* Form::addGroup(const QString& title) {
+  return new QGroupBox(title, this);
+}
+
+QWidget* Form::buttonRow(const QList<QPushButton*>& buttons) {
+  auto* const row = new QWidget(this);
+  auto* const line = new QHBoxLayout(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(5);
+  line->addStretch(1);
+  for (QPushButton* const button : buttons) {
+    if (button)
+      line->addWidget(button);
+    else
+      line->addSpacing(16);
+  }
+  return row;
+}
+
+// --- its memory ---------------------------------------------------------------------------------------------
+
+void Form::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (shown_ || event->spontaneous()) return;
+  shown_ = true;
+  const FormIni memory(session_.pc.paths);
+  memory.LoadFormIni(*this);
+  for (Spread* const grid : findChildren<Spread*>()) memory.LoadSpreadIni(*grid, *this);
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+  bool free = commitEditors();
+  if (free) free = guard([&] { free = mayClose(); }) && free;
+  if (!free) return event->ignore();
+  FormIni(session_.pc.paths).SaveFormIni(*this);
+  event->accept();
+}
+
+BusyPointer::BusyPointer() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+BusyPointer::~BusyPointer() {
+  QApplication::restoreOverrideCursor();
+}
