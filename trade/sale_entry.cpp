@@ -1,0 +1,357 @@
+#include "trade/sale_entry.h"
+
+#include <QScopedValueRollback>
+
+#include "master/tel_format.h"
+#include "store/data_access.h"
+
+namespace {
+
+constexpr qint64 largestSaleFigure = 999999999;  ///< won or pieces in one cell
+
+bool isSaleFigure(int col) {
+  return col >= SaleCol::Number && col <= SaleCol::Trust;
+}
+
+/** A row's cells before a step, to be put back when a statement fails. */
+class SaleRowBefore {
+ public:
+  SaleRowBefore(SpreadModel& grid, int row) : grid_(grid), row_(row) {
+    for (int col = 1; col <= grid.MaxCols(); ++col) cells_ << grid.text(row, col);
+  }
+  void putBack() const {
+    for (int col = 1; col <= grid_.MaxCols(); ++col) grid_.setText(row_, col, cells_.at(col - 1));
+  }
+
+ private:
+  SpreadModel& grid_;
+  int row_;
+  QStringList cells_;
+};
+
+struct SaleRequired {
+  int col;
+  const char* message;
+  bool ofCollection;  ///< a collection has no such cell otherwise
+};
+
+constexpr SaleRequired requiredCells[] = {
+    {SaleCol::Date, "날짜를 입력하세요", true},         {SaleCol::Client, "고객명을 검색하세요", true},
+    {SaleCol::Kind, "판매구분을 선택하세요", true},     {SaleCol::Item, "품명을 검색하세요", true},
+    {SaleCol::Number, "수량을 입력하세요", false},      {SaleCol::Unit, "단가를 입력하세요", false},
+    {SaleCol::Discount, "D/C금액을 입력하세요", false}, {SaleCol::Income, "입금액을 입력하세요", true},
+};
+
+}  // namespace
+
+SaleEntry::SaleEntry(SalePosting& posting, Pickers& pickers, WaitingCalls& calls)
+    : posting_(posting), pickers_(pickers), calls_(calls) {}
+
+int SaleEntry::kindOf(int row) {
+  return saleKindAt(posting_.sheet(), grid().comboPosition(row, SaleCol::Kind));
+}
+
+SaleStep SaleEntry::finishCell(int row, int col, const QString& typed) {
+  Prompts& prompts = posting_.session().prompts;
+  if (!acceptsText(col, typed)) return {SaleStep::Refused};
+  if (!grid().text(row, SaleCol::Key).isEmpty()) {
+    if (col == SaleCol::Kind) {
+      prompts.MsgWarn("구분은 변경할 수 없습니다.");
+      return {SaleStep::PutBack};
+    }
+    if (!prompts.MsgAsk("선택된 자료를 변경하시겠습니까?", "자료수정")) return {SaleStep::PutBack};
+  }
+  const SaleRowBefore unchanged(grid(), row);
+  const QString before = grid().text(row, col);
+  try {
+    return applyCell(row, col, before, typed);
+  } catch (...) {
+    unchanged.putBack();
+    throw;
+  }
+}
+
+bool SaleEntry::acceptsText(int col, const QString& typed) {
+  if (!isSaleFigure(col) || typed.isEmpty()) return true;
+  bool whole = false;
+  const qint64 figure = QString(typed).remove(u',').toLongLong(&whole);
+  if (whole && std::abs(figure) <= largestSaleFigure) return true;
+  posting_.session().prompts.MsgWarn("999,999,999 이하의 정수로 입력하세요!", "입력제한");
+  return false;
+}
+
+SaleStep SaleEntry::applyCell(int row, int col, const QString& before, const QString& typed) {
+  const SaleSheet sheet = posting_.sheet();
+  const bool volume = sheet == SaleSheet::Volume;
+  SpreadModel& cells = grid();
+  cells.setText(row, col, typed);
+  switch (col) {
+    case SaleCol::Date:
+      return changeDate(row, typed);
+    case SaleCol::Client:  // a name only comes from the search
+      cells.setText(row, col, {});
+      return {SaleStep::Done, row, col};
+    case SaleCol::Kind:
+      return changeKind(row);
+    case SaleCol::Number:
+      posting_.RecalcSaleRow(row, sheet);
+      if (!volume) {  // paid in cash until the operator lowers the income
+        cells.setText(row, SaleCol::Income, cells.text(row, SaleCol::Amount));
+        cells.setText(row, SaleCol::Trust, "0");
+      }
+      break;
+    case SaleCol::Amount:
+      return changeAmount(row, saleFigure(before), saleFigure(typed));
+    case SaleCol::Income:
+      return changeIncome(row, saleFigure(before), saleFigure(typed));
+    case SaleCol::Person:
+      posting_.postPerson(row);
+      return after(row, col);
+    case SaleCol::Item:
+      posting_.RecalcSaleRow(row, sheet);
+      break;
+    default:
+      if (!volume) posting_.RecalcSaleRow(row, sheet);
+  }
+  posting_.PostSaleRow(row, sheet);
+  return after(row, col);
+}
+
+SaleStep SaleEntry::changeDate(int row, const QString& typed) {
+  const bool right = posting_.setDate(typed);
+  grid().setText(row, SaleCol::Date, posting_.date());
+  if (!right) return {SaleStep::Done, row, SaleCol::Date};  // a line without a day is never written
+  posting_.PostSaleRow(row, posting_.sheet());
+  return after(row, SaleCol::Date);
+}
+
+SaleStep SaleEntry::changeKind(int row) {
+  grid().setText(row, SaleCol::Item, collectionItem(kindOf(row)));
+  posting_.ResetSaleRow(row, posting_.sheet());
+  posting_.PostSaleRow(row, posting_.sheet());
+  return after(row, SaleCol::Kind);
+}
+
+SaleStep SaleEntry::changeAmount(int row, double before, double now) {
+  SpreadModel& cells = grid();
+  if (posting_.sheet() == SaleSheet::Volume) {
+    cells.setText(row, SaleCol::Income, saleText(now));
+  } else if (now > before) {
+    cells.setText(row, SaleCol::Amount, saleText(before));
+    posting_.session().prompts.MsgWarn("실제금액보다 크게 입력할 수 없습니다!", "입력제한");
+    return {SaleStep::PutBack};
+  } else {  // what is taken off the amount is a discount
+    cells.setText(row, SaleCol::Discount,
+                  saleText(before + saleFigure(cells.text(row, SaleCol::Discount)) - now));
+    cells.setText(row, SaleCol::Income, saleText(now));
+    posting_.RecalcSaleRow(row, posting_.sheet());
+  }
+  posting_.PostSaleRow(row, posting_.sheet());
+  return after(row, SaleCol::Amount);
+}
+
+SaleStep SaleEntry::changeIncome(int row, double before, double now) {
+  SpreadModel& cells = grid();
+  const double amount = saleFigure(cells.text(row, SaleCol::Amount));
+  if (posting_.sheet() == SaleSheet::Volume) {
+    cells.setText(row, SaleCol::Trust, saleText(amount - now));
+  } else if (now > amount) {
+    cells.setText(row, SaleCol::Income, saleText(before));
+    posting_.session().prompts.MsgWarn("실제금액보다 크게 입력할 수 없습니다!", "입력제한");
+    return {SaleStep::PutBack};
+  } else {
+    cells.setText(row, SaleCol::Trust, saleText(before + saleFigure(cells.text(row, SaleCol::Trust)) - now));
+    posting_.RecalcSaleRow(row, posting_.sheet());
+  }
+  posting_.PostSaleRow(row, posting_.sheet());
+  return after(row, SaleCol::Income);
+}
+
+SaleStep SaleEntry::after(int row, int col) {
+  switch (col) {
+    case SaleCol::Date:
+      return {SaleStep::Done, row, SaleCol::Client};
+    case SaleCol::Kind:
+      return {SaleStep::Done, row, isCollection(kindOf(row)) ? int(SaleCol::Income) : int(SaleCol::Item)};
+    case SaleCol::Item:  // straight to the amount: quantity, price and discount are reached on purpose only
+      return {SaleStep::Done, row, SaleCol::Amount};
+    case SaleCol::Amount:
+    case SaleCol::Income:
+    case SaleCol::Trust:
+      return {SaleStep::Done, row, SaleCol::Person};
+    case SaleCol::Person: {
+      if (const int missing = missingField(row)) return {SaleStep::Done, row, missing};
+      makeRoomBelow(row);
+      return {SaleStep::Done, row + 1, SaleCol::Client};
+    }
+    default:
+      return {SaleStep::Done, row, col + 1};
+  }
+}
+
+void SaleEntry::makeRoomBelow(int row) {
+  if (row == grid().MaxRows() && !grid().text(row, SaleCol::Key).isEmpty()) grid().setMaxRows(row + 1);
+}
+
+SaleStep SaleEntry::enterKey(int row, int col, const QString& typed) {
+  switch (col) {
+    case SaleCol::Client:
+      if (row == grid().MaxRows()) return chooseClient(row, typed, false);
+      return {SaleStep::Done, row, SaleCol::Kind};
+    case SaleCol::Kind:
+      // The kind that the cell was opened with is a choice too: the line begins here.
+      if (grid().text(row, SaleCol::Key).isEmpty() && !grid().text(row, SaleCol::Code).isEmpty())
+        return finishCell(row, col, grid().text(row, col));
+      break;
+    case SaleCol::Item:
+      if (isCollection(kindOf(row))) return {SaleStep::Done, row, SaleCol::Income};
+      return chooseItem(row);
+    case SaleCol::Person:
+      return choosePerson(row);
+    default:
+      break;
+  }
+  if (posting_.sheet() == SaleSheet::Volume) return {};
+  return {SaleStep::Done, row, col + 1};
+}
+
+SaleStep SaleEntry::search(int row, int col, const QString& typed) {
+  switch (col) {
+    case SaleCol::Client:
+      return chooseClient(row, typed, false);
+    case SaleCol::Item:
+      return isCollection(kindOf(row)) ? SaleStep{} : chooseItem(row);
+    case SaleCol::Person:
+      return choosePerson(row);
+    default:
+      return {};
+  }
+}
+
+SaleStep SaleEntry::chooseClient(int row, const QString& text, bool wholeNumber) {
+  // The general and material sheets find everyone; whom the meter bills is then taken over to the volume sheet.
+  const bool volume = posting_.sheet() == SaleSheet::Volume;
+  std::optional<ClientChoice> chosen;
+  {
+    const QScopedValueRollback<bool> busy(searching_, true);
+    chosen =
+        pickers_.searchClient(text, volume ? ClientSearchMode::Volume : ClientSearchMode::All, wholeNumber);
+  }
+  if (!chosen) return {SaleStep::Done, row, SaleCol::Client};
+  Session& session = posting_.session();
+  if (row != grid().MaxRows() && !session.prompts.MsgAsk("선택된 고객을 수정하시겠습니까?", "고객수정"))
+    return {SaleStep::PutBack};
+
+  SaleSheet sheet = posting_.sheet();
+  const QString code = QString::number(chosen->code);
+  if (sheet == SaleSheet::General &&
+      DAO_GetValue(session.prompts, session.dbYear, "VolumeYesNo", "Client", "Where Code = " + code).toBool())
+    sheet = SaleSheet::Volume;
+  posting_.setClient(chosen->code);
+  if (!posting_.FillSaleGrid(sheet, false)) return {SaleStep::PutBack};
+  // Kept: a stored line keeps its customer; the chosen one always opens the bottom row.
+  const int bottom = grid().MaxRows();
+  grid().setText(bottom, SaleCol::Date, posting_.date());
+  grid().setText(bottom, SaleCol::Client, chosen->name);
+  grid().setText(bottom, SaleCol::Code, code);
+  grid().setComboPosition(bottom, SaleCol::Kind, 0);
+  return {SaleStep::Done, bottom, SaleCol::Kind};
+}
+
+SaleStep SaleEntry::chooseItem(int row) {
+  const SaleSheet sheet = posting_.sheet();
+  std::optional<ItemChoice> item;
+  {
+    const QScopedValueRollback<bool> busy(searching_, true);
+    item = pickers_.searchSize(saleSearchCode(kindOf(row)), TradeSide::Sale);
+  }
+  if (!item) return {SaleStep::Done, row, SaleCol::Item};
+  SpreadModel& cells = grid();
+  const SaleRowBefore unchanged(cells, row);
+  try {
+    posting_.session().wsMain.Together([&] {
+      // A line whose kind was passed over begins here, so that its item is written at once.
+      if (cells.text(row, SaleCol::Key).isEmpty() && !cells.text(row, SaleCol::Code).isEmpty())
+        changeKind(row);
+      cells.setText(row, SaleCol::Item, joinItem({item->name, item->size}));
+      cells.setText(row, SaleCol::Number, "1");
+      cells.setText(row, SaleCol::Unit, saleText(item->price));
+      if (sheet != SaleSheet::Volume) cells.setText(row, SaleCol::Income, saleText(item->price));
+      posting_.RecalcSaleRow(row, sheet);
+      posting_.PostSaleRow(row, sheet);
+    });
+  } catch (...) {
+    unchanged.putBack();
+    throw;
+  }
+  return after(row, SaleCol::Item);
+}
+
+SaleStep SaleEntry::choosePerson(int row) {
+  std::optional<QString> person;
+  {
+    const QScopedValueRollback<bool> busy(searching_, true);
+    person = pickers_.searchResponse();
+  }
+  if (!person) return {SaleStep::Done, row, SaleCol::Person};
+  const SaleRowBefore unchanged(grid(), row);
+  grid().setText(row, SaleCol::Person, *person);
+  try {
+    posting_.postPerson(row);
+  } catch (...) {
+    unchanged.putBack();
+    throw;
+  }
+  return after(row, SaleCol::Person);
+}
+
+bool SaleEntry::canTakeCaller(int col, const QString& cellText) const {
+  return !searching_ && col == SaleCol::Client && cellText.isEmpty();
+}
+
+std::optional<SaleStep> SaleEntry::TakeCallerNumber(const QString& number) {
+  const QString caller = number.isEmpty() ? calls_.TakeStanbyNumber() : number;
+  if (caller.isEmpty()) return {};
+  const TelNumber tel = FormatTel(caller);
+  const QString& n = tel.localPart;
+  Session& session = posting_.session();
+  jet::Recordset client;
+  SaleSheet wanted = posting_.sheet();
+  if (OpenSnapshot(session.prompts, session.dbYear, client,
+                   "Select VolumeYesNo From Client Where Tel Like '*" + n + "' OR Tel1 Like '*" + n +
+                       "'  OR Tel2 Like '*" + n + "' OR UName Like '*" + n + "'") &&
+      !client.atEnd())
+    wanted = client["VolumeYesNo"].toBool() ? SaleSheet::Volume : SaleSheet::General;
+  if (wanted != posting_.sheet()) posting_.FillSaleGrid(wanted, true);
+  const int bottom = grid().MaxRows();
+  if (posting_.beforeFill) posting_.beforeFill(posting_.sheet());
+  grid().setText(bottom, SaleCol::Client, tel.text);
+  return chooseClient(bottom, tel.text, true);
+}
+
+int SaleEntry::missingField(int row) {
+  const SpreadModel& cells = grid();
+  if (cells.text(row, SaleCol::Key).isEmpty() && cells.text(row, SaleCol::Code).isEmpty()) return 0;
+  const bool collection = isCollection(kindOf(row));
+  for (const SaleRequired& cell : requiredCells) {
+    if ((collection && !cell.ofCollection) || !cells.text(row, cell.col).isEmpty()) continue;
+    posting_.session().prompts.MsgWarn(cell.message, "필수입력");
+    return cell.col;
+  }
+  return 0;
+}
+
+QString SaleEntry::help(int col) {
+  static const QStringList lines = {"날짜를 변경합니다",
+                                    "전화, 번지, 상호로 고객을 검색하세요",
+                                    "엔터로 판매구분을 선택하세요",
+                                    "상품선택 : 엔터  /  ↓키 : 아래로 이동",
+                                    "판매수량을 입력합니다",
+                                    "상품의 단가를 입력합니다",
+                                    "D/C는 금액을 조정해서 입력합니다",
+                                    "판매금액을 입력합니다",
+                                    "입금액을 입력합니다",
+                                    "미수금을 나타내며 수정이 불가능합니다",
+                                    "엔터로 담당자를 선택하세요"};
+  return lines.value(col - 1);
+}

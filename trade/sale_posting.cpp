@@ -1,0 +1,208 @@
+#include "trade/sale_posting.h"
+
+#include "store/data_access.h"
+#include "store/jet/format_rules.h"
+
+namespace {
+
+/** Quoted for a statement as it stands; an apostrophe inside breaks the statement, which is then told. */
+QString saleQuoted(const QString& text) {
+  return "'" + text + "'";
+}
+
+QString saleMoney(double won) {
+  return jet::formatNumber(won, u"#,##0");
+}
+
+/** A typed day of a year as mm-dd, "-", "." or "/" between month and day; '' when it is none. */
+QString saleDayText(const QString& typed, int year) {
+  QString text = typed.trimmed();
+  const QStringList parts = text.replace(u'-', u'.').replace(u'/', u'.').split(u'.');
+  if (parts.size() != 2) return {};
+  const QDate day(year, parts[0].toInt(), parts[1].toInt());
+  return day.isValid() ? day.toString("MM-dd") : QString();
+}
+
+QString saleWholeText(qint64 figure) {
+  return QString::number(figure);
+}
+
+}  // namespace
+
+SalePosting::SalePosting(Session& session) : session_(session), date_(session.pc.clock.dateText().right(5)) {
+  for (const SaleSheet sheet : {SaleSheet::General, SaleSheet::Volume, SaleSheet::Material})
+    grid(sheet).setColumns(saleColumns(sheet));
+}
+
+QString SalePosting::checkedDate(const QString& typed) {
+  const QDate today = session_.pc.clock.today();
+  const QString found = saleDayText(typed, today.year());
+  if (found.isEmpty())
+    session_.prompts.MsgWarn("날짜 입력이 올바르지 않습니다!\n입력예) " + today.toString("MM.dd"),
+                             "날짜입력 에러");
+  return found;
+}
+
+bool SalePosting::setDate(const QString& typed) {
+  date_ = checkedDate(typed);
+  return !date_.isEmpty();
+}
+
+bool SalePosting::FillSaleGrid(SaleSheet sheet, bool showDay) {
+  if (beforeFill) beforeFill(sheet);
+  sheet_ = sheet;
+  showDay_ = showDay;
+  return loadSaleSheet(session_, grid(sheet), sheet, {showDay, date_, client_});
+}
+
+void SalePosting::PostSaleRow(int row, SaleSheet sheet) {
+  const SaleLine line = lineOf(row, sheet);
+  if (line.code.isEmpty()) return;
+  session_.wsMain.Together([&] {
+    if (line.key.isEmpty()) {
+      insertSkeleton(row, sheet, line);
+      return;
+    }
+    jet::Recordset before;
+    if (!OpenSnapshot(session_.prompts, session_.dbYear, before,
+                      "Select Trust, Income From Sale Where SaleID = " + line.key))
+      return;
+    const bool found = before.RecordCount() > 0;
+    moveBalance(sheet, line, found ? before["Trust"].toLong() : 0, found ? before["Income"].toLong() : 0);
+    ::ApplySaleStock(session_, line, StockMode::Change);
+    if (line.item.isEmpty()) return;
+    updateLine(sheet, line);
+    // Kept: an older day takes the last date back.
+    session_.dbYear.Execute("Update Client Set LastDate = '" + line.date + "' Where Code = " + line.code);
+  });
+}
+
+void SalePosting::insertSkeleton(int row, SaleSheet sheet, const SaleLine& line) {
+  const char* tail = sheet == SaleSheet::Material ? ", 7, False, '0')"
+                     : sheet == SaleSheet::Volume ? ", 1, True, '0')"
+                                                  : ", 1, False, '0')";
+  session_.dbYear.Execute(
+      "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) Values(0,0, "
+      "'" +
+      line.date + "', " + line.code + tail);
+  const jet::Recordset key = session_.dbYear.OpenRecordset("Select Max(SaleID) As Saler from Sale");
+  grid(sheet).setText(row, SaleCol::Key, key["Saler"].toText());
+}
+
+void SalePosting::moveBalance(SaleSheet sheet, const SaleLine& line, qint64 oldTrust, qint64 oldIncome) {
+  const QString where = " Where Code = " + line.code;
+  const QString change =
+      isCollection(line.kind)
+          ? " - " + saleWholeText(jet::Value(line.income).toLong()) + " + " + saleWholeText(oldIncome)
+          : " + " + saleWholeText(jet::Value(line.trust).toLong()) + " - " + saleWholeText(oldTrust);
+  if (sheet == SaleSheet::Material)
+    session_.dbYear.Execute("Update Client Set UtilInit = UtilInit" + change + where);
+  else
+    session_.dbYear.Execute("Update Client Set GasInit = GasInit" + change + where);
+}
+
+void SalePosting::updateLine(SaleSheet sheet, const SaleLine& line) {
+  const char* volume = sheet == SaleSheet::Volume ? ", Gubun = True, " : ", Gubun = False, ";
+  session_.dbYear.Execute(
+      "Update Sale Set SaleDate = " + saleQuoted(line.date) + ", ClientCode = " + line.code +
+      ", Response = " + saleQuoted(line.person) + ", SaleName = " + saleQuoted(line.item.name) +
+      ", SaleThing = " + saleQuoted(line.item.size) + ", SaleUnit = " + saleText(line.unit) +
+      ", SaleNum = " + saleWholeText(line.number) + ", SaleGubun = " + saleWholeText(line.kind) + volume +
+      "Income = " + saleText(line.income) + ", DC = " + saleText(line.discount) +
+      ", Trust = " + saleText(line.trust) + " Where SaleID = " + line.key);
+}
+
+void SalePosting::ApplySaleStock(int row, StockMode mode) {
+  ::ApplySaleStock(session_, lineOf(row, sheet_), mode);
+}
+
+void SalePosting::RecalcSaleRow(int row, SaleSheet sheet) {
+  SpreadModel& cells = grid(sheet);
+  // What a volume customer gets is billed from his meter, so the line carries no amount.
+  if (sheet == SaleSheet::Volume) {
+    cells.setText(row, SaleCol::Amount, "0");
+    cells.setText(row, SaleCol::Trust, "0");
+    return;
+  }
+  const auto figure = [&cells, row](int col) { return saleFigure(cells.text(row, col)); };
+  if (isCollection(lineOf(row, sheet).kind)) {
+    cells.setText(row, SaleCol::Trust, saleText(figure(SaleCol::Amount) - figure(SaleCol::Income)));
+    return;
+  }
+  for (int col = SaleCol::Number; col <= SaleCol::Trust; ++col)
+    if (cells.text(row, col).isEmpty()) return;
+  const double amount =
+      double(saleWhole(cells.text(row, SaleCol::Number))) * figure(SaleCol::Unit) - figure(SaleCol::Discount);
+  cells.setText(row, SaleCol::Amount, saleText(amount));
+  cells.setText(row, SaleCol::Trust, saleText(amount - figure(SaleCol::Income)));
+}
+
+void SalePosting::ResetSaleRow(int row, SaleSheet sheet) {
+  SpreadModel& cells = grid(sheet);
+  for (int col = SaleCol::Number; col <= SaleCol::Trust; ++col) cells.setText(row, col, "0");
+  cells.setText(row, SaleCol::Person, {});
+  lockForKind(cells, row, sheet);
+  const SaleLine line = lineOf(row, sheet);
+  if (!isCollection(line.kind) || line.code.isEmpty()) return;
+  const QString balance = line.kind == SaleCollection ? "GasInit" : "UtilInit";
+  jet::Recordset client;
+  if (!OpenSnapshot(session_.prompts, session_.dbYear, client,
+                    "Select " + balance + " From Client Where Code = " + line.code) ||
+      client.atEnd())
+    return;
+  for (const int col : {SaleCol::Amount, SaleCol::Trust})
+    cells.setText(row, col, saleText(client[balance].toDouble()));
+}
+
+void SalePosting::ReverseSaleBalance(int row, const QString& label) {
+  const SpreadModel& cells = grid(sheet_);
+  const QString income = saleText(saleFigure(cells.text(row, SaleCol::Income)));
+  const QString trust = saleText(saleFigure(cells.text(row, SaleCol::Trust)));
+  const QString where = " Where Code = " + cells.text(row, SaleCol::Code);
+  if (label == "수금")
+    session_.dbYear.Execute("Update Client Set GasInit = GasInit + " + income + where);
+  else if (label == "자수")
+    session_.dbYear.Execute("Update client Set UtilInit = UtilInit + " + income + where);
+  else if (label == "자재" && !session_.StockEnabled)
+    session_.dbYear.Execute("Update client Set UtilInit = UtilInit - " + trust + where);
+  else  // Kept: the credit of a material line ("자판") is taken off GasInit although it was booked on UtilInit.
+    session_.dbYear.Execute("Update client Set GasInit = GasInit - " + trust + where);
+}
+
+bool SalePosting::deleteRow(int row) {
+  const QString key = grid(sheet_).text(row, SaleCol::Key);
+  if (key.isEmpty() || !session_.prompts.MsgAsk("선택한 자료를 삭제하시겠습니까?", "자료삭제")) return false;
+  const QString label = grid(sheet_).text(row, SaleCol::Kind);
+  session_.wsMain.Together([&] {
+    ReverseSaleBalance(row, label);
+    if (label != "가외" && label != "자외") ApplySaleStock(row, StockMode::Delete);
+    session_.dbYear.Execute("Delete From Sale Where SaleID = " + key);
+  });
+  refill();
+  return true;
+}
+
+void SalePosting::postPerson(int row) {
+  const SpreadModel& cells = grid(sheet_);
+  const QString person = cells.text(row, SaleCol::Person);
+  const QString key = cells.text(row, SaleCol::Key);
+  if (person.isEmpty() || key.isEmpty()) return;
+  session_.dbYear.Execute("Update Sale Set Response = '" + person + "' Where SaleID = " + key);
+}
+
+SaleClientPanel SalePosting::panel(int row) {
+  const QString code = grid(sheet_).text(row, SaleCol::Code);
+  jet::Recordset client;
+  if (code.isEmpty() ||
+      !OpenSnapshot(session_.prompts, session_.dbYear, client, "Select * From Client Where Code = " + code) ||
+      client.atEnd())
+    return {};
+  return {code.toLongLong(),
+          "(" + client["PostCode"].toText() + ") " + client["Address"].toText(),
+          client["Tel"].toText(),
+          saleMoney(client["GasInit"].toDouble()),
+          saleMoney(client["UtilInit"].toDouble()),
+          client["LastDate"].toText(),
+          client["Memo"].toText(),
+          client["Position"].toText().isEmpty() ? "약도없슴" : "약도있슴"};
+}

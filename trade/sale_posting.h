@@ -1,0 +1,73 @@
+#pragma once
+// What the sale screen writes: a grid row becomes a line of Sale, moves the customer's balance and the stock.
+// Every finished cell is written at once; no line is ever saved by a button.
+#include <array>
+#include <functional>
+
+#include "trade/sale_sheet.h"
+#include "trade/sale_stock.h"
+
+/** The customer of the current row, as the panel above the grid shows him. Money with separators. */
+struct SaleClientPanel {
+  qint64 code = 0;
+  QString address, tel, gasTrust, utilTrust, lastDate, memo, map;
+};
+
+/** The three sheets with the day they show. Failed statements throw jet::Error unless told otherwise. */
+class SalePosting {
+ public:
+  explicit SalePosting(Session& session);
+
+  Session& session() { return session_; }
+  SpreadModel& grid(SaleSheet sheet) { return grids_[size_t(sheet)]; }
+  SaleSheet sheet() const { return sheet_; }
+
+  /** The screen's day, mm-dd; '' after a wrong one was typed. */
+  const QString& date() const { return date_; }
+  /** Takes a typed day; a wrong one is told, and the day becomes ''. */
+  bool setDate(const QString& typed);
+  /** A typed day as mm-dd; '' after telling that it is wrong. */
+  QString checkedDate(const QString& typed);
+
+  /** Loads a sheet and makes it the current one. showDay: the lines of the screen's day, else those of the customer
+   *  chosen last. False after a failed query has been told. */
+  bool FillSaleGrid(SaleSheet sheet, bool showDay);
+  /** The current sheet once more, day or customer as it was. */
+  bool refill() { return FillSaleGrid(sheet_, showDay_); }
+  void setClient(qint64 code) { client_ = code; }
+  /** Runs before the rows of a sheet are replaced, so that no editor stands open on them. */
+  std::function<void(SaleSheet)> beforeFill;
+
+  /** Writes one row: its skeleton the first time and nothing else, from then on its figures, the customer's
+   *  balance, the stock and his last date. A step that fails leaves those before it done. */
+  void PostSaleRow(int row, SaleSheet sheet);
+  void ApplySaleStock(int row, StockMode mode);
+  /** Amount and credit from quantity, price, discount and income; on the volume sheet both are 0. */
+  void RecalcSaleRow(int row, SaleSheet sheet);
+  /** The money cells after a change of kind; a collection opens with the customer's whole balance. */
+  void ResetSaleRow(int row, SaleSheet sheet);
+  /** Takes the row of the current sheet off its customer's balance. */
+  void ReverseSaleBalance(int row, const QString& label);
+  /** Asks, takes the line off balance and stock and out of the book, loads the sheet again. False: it stays. */
+  bool deleteRow(int row);
+
+  /** The delivery person alone; nothing unless line and person are there. */
+  void postPerson(int row);
+
+  /** '' texts for a row without a customer. */
+  SaleClientPanel panel(int row);
+
+ private:
+  int year() const { return session_.pc.clock.today().year(); }
+  SaleLine lineOf(int row, SaleSheet sheet) { return readSaleLine(grid(sheet), row, sheet, year()); }
+  void insertSkeleton(int row, SaleSheet sheet, const SaleLine& line);
+  void moveBalance(SaleSheet sheet, const SaleLine& line, qint64 oldTrust, qint64 oldIncome);
+  void updateLine(SaleSheet sheet, const SaleLine& line);
+
+  Session& session_;
+  std::array<SpreadModel, 3> grids_;
+  SaleSheet sheet_ = SaleSheet::General;
+  QString date_;
+  bool showDay_ = true;
+  qint64 client_ = 0;
+};

@@ -1,0 +1,25 @@
+#pragma once
+// A sheet of the sale screen: its columns, and its rows read from the year file.
+#include <vector>
+
+#include "store/session.h"
+#include "trade/sale_line.h"
+
+/** The thirteen columns; key and customer code are hidden. */
+std::vector<SpreadColumn> saleColumns(SaleSheet sheet);
+
+/** A collection has no item, quantity, price or discount to type; other kinds have. */
+void lockForKind(SpreadModel& grid, int row, SaleSheet sheet);
+
+/** Which lines a sheet shows: those of one day, or those of one customer over this year and the last. */
+struct SaleFilter {
+  bool showDay = true;
+  QString date;       ///< mm-dd
+  qint64 client = 0;  ///< Client.Code
+};
+
+/**
+ * Reads the sheet's lines into the grid, in order of date and entry, and leaves one empty row below them. False after
+ * a failed query has been told; the grid is then as it was.
+ */
+bool loadSaleSheet(Session& session, SpreadModel& grid, SaleSheet sheet, const SaleFilter& filter);

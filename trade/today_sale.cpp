@@ -1,0 +1,39 @@
+#include "trade/today_sale.h"
+
+#include "store/data_access.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString daySumFilter(SaleSheet sheet) {
+  switch (sheet) {
+    case SaleSheet::Volume:
+      return u"' And Gubun = True"_s;
+    case SaleSheet::Material:
+      return u"' And (SaleGubun = 7 or SaleGubun = 8)"_s;
+    case SaleSheet::General:
+      break;
+  }
+  return u"' And Gubun = False And SaleGubun <> 7 And SaleGubun <> 8"_s;
+}
+
+}  // namespace
+
+QString TodaySale::title() const {
+  return session_.SaleDay.mid(5).replace(u'-', u'/') + u"일의 판매현황"_s;
+}
+
+bool TodaySale::load() {
+  for (const SaleSheet sheet : {SaleSheet::General, SaleSheet::Volume, SaleSheet::Material}) {
+    jet::Recordset rows;
+    if (!OpenSnapshot(session_.prompts, session_.dbYear, rows,
+                      u"SELECT Sum(Sale.SaleNum) AS SaleNum, Sum(Sale.Income) AS Income, Sum(Sale.DC) AS DC, "
+                      u"Sum(Sale.Trust) AS Trust FROM Sale Where SaleDate = '"_s +
+                          session_.SaleDay + daySumFilter(sheet)))
+      return false;
+    sums_[size_t(sheet)] = {rows[u"SaleNum"_s].toLong(), rows[u"Income"_s].toLong(), rows[u"DC"_s].toLong(),
+                            rows[u"Trust"_s].toLong()};
+  }
+  return true;
+}
