@@ -21,11 +21,9 @@ struct Session {
   QString CurrentPassword;
   QString DelayCalcFlag;      ///< "1" charge on the one month only, "0" cumulative
   int AfterDueMethod = 0;     ///< 0 arrears without, 1 with the delay charge of the month before
+  QString CheckKind;          ///< meter book to open: "1" individual, "2" apartment, "3" multi-household
   bool StockEnabled = false;  ///< postings move LPG and Util
   QString SavedDateFormat;
-
-  QString SaleDay;            ///< "yyyy-mm-dd", the day that frmTodaySale sums up; set by the sale screen
-  bool SaleLedgerGas = true;  ///< what frmPrtSale lists: gas lines, else materials; set by the sale screen
 
   jet::Workspace wsMain;
   jet::Database dbBasic, dbYear, dbTax, dbCommon;

@@ -1,0 +1,54 @@
+#pragma once
+// The whole menu of the main window as one table: what stands where, what it opens, what must happen before.
+#include <QString>
+
+#include <span>
+
+/** What choosing an entry does. Later: its work is not part of this program yet, so the entry stays off. */
+enum class CommandKind {
+  Menu,    ///< opens a menu
+  Form,    ///< opens the form named
+  Dialog,  ///< opens the form named and waits for it
+  InitStock,
+  YearError,
+  Exit,
+  SeeIdEnabled,
+  SeeIdTest,
+  Home,
+  RemoteSupport,
+  Later,
+};
+
+struct CommandEntry {
+  enum Flag : unsigned {
+    Relink = 1,      ///< the year files are linked anew first, so that a moved Basic.mdb is followed
+    NeedsStock = 2,  ///< on only while the company manages its stock
+    Ruled = 4,       ///< a line above the entry
+  };
+
+  const char16_t* menu;     ///< name of the menu it stands in; empty: the menu bar
+  const char16_t* name;     ///< object name
+  const char16_t* caption;  ///< with its Alt letter
+  CommandKind kind = CommandKind::Form;
+  const char16_t* form = u"";  ///< form name, with the page or side it opens on behind a colon
+  unsigned flags = 0;
+  const char16_t* checkKind = u"";  ///< meter book: "1" individual, "2" apartment, "3" multi-household
+
+  QString menuName() const { return QString::fromUtf16(menu); }
+  QString objectName() const { return QString::fromUtf16(name); }
+  QString text() const { return QString::fromUtf16(caption); }
+  QString formName() const { return QString::fromUtf16(form); }
+  QString kindOfBook() const { return QString::fromUtf16(checkKind); }
+};
+
+struct ToolButton {
+  const char16_t* caption;
+  const char16_t* command;  ///< the entry it stands for
+};
+
+/** Menus before their entries, in the order on the screen. */
+std::span<const CommandEntry> commandMap();
+/** Null when there is none. */
+const CommandEntry* findCommand(const QString& name);
+/** The tool bar's eleven buttons, from the left. */
+std::span<const ToolButton> toolButtons();

@@ -1,0 +1,162 @@
+#include "app/company_profile.h"
+
+#include "store/data_access.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString registrationSection = u"Registration"_s;
+
+QString quoted(const QString& text) {
+  return u"'"_s + text + u"'"_s;
+}
+QString valText(const QString& text) {
+  return jet::Value(jet::Value(text).toDouble()).toText();
+}
+// The safety fees are whole won.
+QString wholeText(const QString& text) {
+  return QString::number(qRound64(jet::Value(text).toDouble()));
+}
+
+}  // namespace
+
+std::optional<jet::Recordset> CompanyProfile::row() const {
+  jet::Recordset rows;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rows, u"Select * From User"_s) ||
+      rows.RecordCount() == 0)
+    return {};
+  return rows;
+}
+
+bool CompanyProfile::exists() const {
+  return row().has_value();
+}
+
+QString CompanyProfile::companyName() const {
+  const auto user = row();
+  return user ? (*user)[u"Company"_s].toText() : u"라온웨어"_s;
+}
+
+CompanyData CompanyProfile::profile() const {
+  CompanyData data;
+  data.Ocr = session_.pc.settings.GetSetting(session_.AppTitle, registrationSection, u"Ocr"_s, u"0000000"_s);
+  const auto user = row();
+  if (!user) return data;
+  const auto text = [&](const QString& name) { return (*user)[name].toText(); };
+  data.Company = text(u"Company"_s);
+  data.User = text(u"User"_s);
+  data.BusCode = text(u"BusCode"_s);
+  data.PostCode = text(u"PostCode"_s);
+  data.Address = text(u"Address"_s);
+  data.BusStyle = text(u"BusStyle"_s);
+  data.BusKind = text(u"BusKind"_s);
+  data.Tel = text(u"Tel"_s);
+  data.Fax = text(u"Fax"_s);
+  return data;
+}
+
+BillingSettings CompanyProfile::settings() const {
+  BillingSettings page;
+  page.oneMonthOnly = session_.pc.settings.GetSetting(session_.AppTitle, registrationSection, u"연체료계산"_s,
+                                                      u"0"_s) == "1"_L1;
+  page.withDelayBefore = session_.pc.settings.GetSetting(session_.AppTitle, u"Config"_s,
+                                                         u"납기후금액계산법"_s, u"0"_s) == "1"_L1;
+  const auto user = row();
+  if (!user) return page;
+  const auto text = [&](const QString& name) { return (*user)[name].toText(); };
+  page.PayState = int((*user)[u"PayState"_s].toLong());
+  page.Rate = text(u"Rate"_s);
+  page.AptRate = text(u"AptRate"_s);
+  page.ManyRate = text(u"ManyRate"_s);
+  page.Security = text(u"Security"_s);
+  page.AptSecurity = text(u"AptSecurity"_s);
+  page.ManySecurity = text(u"ManySecurity"_s);
+  if (!user->isNull(u"Post1"_s)) page.Post1 = text(u"Post1"_s);
+  if (!user->isNull(u"Post2"_s)) page.Post2 = text(u"Post2"_s);
+  page.Stock = (*user)[u"Stock"_s].toBool();
+  return page;
+}
+
+ProfileSaved CompanyProfile::saveProfile(const CompanyData& data) {
+  if (data.Company.isEmpty()) {
+    session_.prompts.MsgWarn(u"상호를 입력하십시오"_s, u"필수입력"_s);
+    return ProfileSaved::CompanyMissing;
+  }
+  if (data.User.isEmpty()) {
+    session_.prompts.MsgWarn(u"대표자명을 입력하십시오"_s, u"필수입력"_s);
+    return ProfileSaved::UserMissing;
+  }
+  const bool changing = exists();
+  if (changing) {
+    session_.dbBasic.Execute(u"Update User Set Company = '"_s + data.Company + u"', User = '"_s + data.User +
+                             u"', BusCode = '"_s + data.BusCode + u"', PostCode = '"_s + data.PostCode +
+                             u"', fax = '"_s + data.Fax + u"', Address = '"_s + data.Address +
+                             u"', Tel = '"_s + data.Tel + u"', BusStyle = '"_s + data.BusStyle +
+                             u"', BusKind = '"_s + data.BusKind + u"'"_s);
+  } else {
+    const QStringList values{quoted(data.Company),  quoted(data.User),     quoted(data.BusCode),
+                             quoted(data.PostCode), quoted(data.Fax),      quoted(data.Address),
+                             quoted(data.Tel),      quoted(data.BusStyle), quoted(data.BusKind)};
+    session_.dbBasic.Execute(
+        u"Insert Into User(Company, User, BusCode, PostCode, Fax, Address, Tel, BusStyle, BusKind) "_s +
+        u"Values("_s + values.join(u", "_s) + u")"_s);
+  }
+  session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"UserName"_s, data.Company);
+  session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"Ocr"_s, data.Ocr);
+  if (changing)
+    session_.prompts.MsgInfo(u"사용자 정보 수정이 완료되었습니다"_s, u"사용자 정보 수정 완료"_s);
+  else
+    session_.prompts.MsgInfo(
+        u"사용자 등록이 완료되었습니다"_s + u'\n' + u"뒷면의 환경설정을 입력해주십시오"_s,
+        u"사용자 등록 완료"_s);
+  return ProfileSaved::Yes;
+}
+
+bool CompanyProfile::saveSettings(const BillingSettings& settings) {
+  const QString title = u"보안관리자"_s;
+  // The second box guards against a slip; left empty it asks for nothing.
+  if (!settings.passwordAgain.isEmpty() && settings.passwordAgain != settings.password) {
+    session_.prompts.MsgWarn(u"두 패스워드가 서로 다릅니다. 다시 입력하십시오."_s, title);
+    return false;
+  }
+  session_.DelayCalcFlag = settings.oneMonthOnly ? u"1"_s : u"0"_s;
+  session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"연체료계산"_s,
+                                   session_.DelayCalcFlag);
+  session_.AfterDueMethod = settings.withDelayBefore ? 1 : 0;
+  session_.pc.settings.SaveSetting(session_.AppTitle, u"Config"_s, u"납기후금액계산법"_s,
+                                   QString::number(session_.AfterDueMethod));
+  session_.dbBasic.Execute(
+      u"Update User Set PayState = "_s + QString::number(settings.PayState) + u", AptRate = "_s +
+      valText(settings.AptRate) + u", "_s + u"AptSecurity = "_s + wholeText(settings.AptSecurity) +
+      u", ManyRate = "_s + valText(settings.ManyRate) + u", "_s + u"ManySecurity = "_s +
+      wholeText(settings.ManySecurity) + u", Rate = "_s + valText(settings.Rate) + u", "_s +
+      u"Security = "_s + wholeText(settings.Security) + u", Password = '"_s + settings.password + u"', "_s +
+      u"Post1 = "_s + valText(settings.Post1) + u", Post2 = "_s + valText(settings.Post2) + u", "_s +
+      (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s));
+  session_.StockEnabled = settings.Stock;
+  if (settings.password.isEmpty())
+    session_.prompts.MsgInfo(u"귀하의 패스워드가 현재 삭제된 상태입니다."_s + u'\n' +
+                                 u"패스워드는 프로그램의 모든 보안사항을 통과하므로"_s + u'\n' +
+                                 u"현재로서는 임의의 사용자가 접근할 수 있음을 알려드립니다."_s,
+                             title);
+  else
+    session_.prompts.MsgInfo(u"귀하의 패스워드는 "_s + settings.password + u" 입니다"_s + u'\n' +
+                                 u"이 패스워드는 프로그램의 모든 보안사항을 통과하므로"_s + u'\n' +
+                                 u"꼭 암기하시거나 잘 보관하시기 바랍니다."_s,
+                             title);
+  return true;
+}
+
+bool CompanyProfile::maySeeSettings() {
+  if (exists()) return true;
+  session_.prompts.MsgWarn(u"먼저 사용자 등록을 해주십시오"_s, u"사용자 등록"_s);
+  return false;
+}
+
+bool CompanyProfile::checkPassword(const QString& typed) {
+  const auto user = row();
+  if ((user ? (*user)[u"Password"_s].toText() : QString()) == typed) return true;
+  session_.prompts.MsgWarn(u"패스워드가 잘못되었습니다. 다시 시도하십시오"_s, u"로그인"_s);
+  return false;
+}
