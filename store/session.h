@@ -25,6 +25,9 @@ struct Session {
   bool StockEnabled = false;  ///< postings move LPG and Util
   QString SavedDateFormat;
 
+  QString SaleDay;            ///< "yyyy-mm-dd", the day that frmTodaySale sums up; set by the sale screen
+  bool SaleLedgerGas = true;  ///< what frmPrtSale lists: gas lines, else materials; set by the sale screen
+
   jet::Workspace wsMain;
   jet::Database dbBasic, dbYear, dbTax, dbCommon;
 };
