@@ -89,6 +89,6 @@ enum class Keys { None, With };
 /** Compiles one statement. Errors: 3061 unknown name, 3075 syntax with its place, 3078 missing table, 3079 a name in
  *  two tables, 3085 unknown function, 3122 neither grouped nor summed, 3127 unknown column to write, 3142 something
  *  behind the statement's end, 3346 count of values, 3464 a text compared with a number. */
-Compiled compile(const QString& sql, const Shape& shape, Catalogue& catalogue, Keys keys = Keys::None);
+Compiled compile(const QString& sql, Catalogue& catalogue, Keys keys = Keys::None);
 
 }  // namespace jet

@@ -1,0 +1,60 @@
+#pragma once
+// A statement's text as tokens. One pass serves both uses: the shape (cache key) and the parser.
+#include <QString>
+
+#include "store/jet/compile.h"
+
+namespace jet {
+
+struct Token {
+  enum class Kind { End, Name, Text, Whole, Floating, Date, Symbol };
+  Kind kind = Kind::End;
+  bool bracketed = false;  ///< a name written [so]: never a keyword
+  qsizetype place = 0;     ///< index of the first character
+  qsizetype end = 0;
+  QStringView text;  ///< without quotes, brackets or #; a text's doubled quotes still doubled
+  QChar quote;       ///< of a text
+  /** Counts the literals that become parameters, from 1; 0 for a number that decides the statement's form. */
+  int parameter = 0;
+
+  bool isLiteral() const { return kind >= Kind::Text && kind <= Kind::Date; }
+  bool isSymbol(QLatin1StringView symbol) const { return kind == Kind::Symbol && text == symbol; }
+  /** A bare name equal to this word; case does not matter. */
+  bool isWord(QLatin1StringView word) const {
+    return kind == Kind::Name && !bracketed && text.compare(word, Qt::CaseInsensitive) == 0;
+  }
+  /** A literal's value; a date reads as the text yyyy-MM-dd. */
+  Value value() const;
+};
+
+class Lexer {
+ public:
+  explicit Lexer(QStringView sql) : sql_(sql) {}
+  /** The next token, End for ever at the end. Throws 3075 for a text that no token fits. */
+  Token next();
+
+ private:
+  Token read();
+  Token readQuoted(QChar quote);
+  Token readBracketed(QChar close);
+  Token readDate();
+  Token readNumber();
+  Token readName();
+  Token readSymbol();
+  Token made(Token::Kind kind, qsizetype place, qsizetype from, qsizetype to, qsizetype end);
+  void follow(Token& token);
+
+  QStringView sql_;
+  qsizetype at_ = 0;
+  int parameters_ = 0;
+  QStringView previous_;     ///< the last bare word, empty after anything else
+  bool first_ = true;        ///< before the first token
+  bool definition_ = false;  ///< CREATE, ALTER, DROP: sizes are part of the form
+  bool ordering_ = false;    ///< behind ORDER BY, where a number may be a position
+  int depth_ = 0, orderingDepth_ = 0;
+};
+
+/** 3075 with the place: what stands there and the number of its character, from 1. */
+[[noreturn]] void throwSyntax(QStringView sql, qsizetype place, const QString& what);
+
+}  // namespace jet

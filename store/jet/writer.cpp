@@ -1,0 +1,317 @@
+#include "store/jet/writer.h"
+
+#include <algorithm>
+
+namespace jet {
+
+using namespace Qt::StringLiterals;
+
+QByteArray Writer::write(const Statement& statement, Keys keys) {
+  out_.reserve(512);
+  switch (statement.kind) {
+    case Compiled::Kind::Select:
+      if (keys == Keys::With) collectKeys(statement.select);
+      writeQuery(statement.select, false);
+      break;
+    case Compiled::Kind::Insert:
+      writeInsert(statement);
+      break;
+    case Compiled::Kind::Update:
+      writeUpdate(statement);
+      break;
+    case Compiled::Kind::Delete:
+      writeDelete(statement);
+      break;
+    default:
+      break;
+  }
+  return out_.toUtf8();
+}
+
+void Writer::writeInsert(const Statement& statement) {
+  *this << "INSERT INTO ";
+  writeTable(statement.target, {});
+  *this << " (";
+  list(statement.assigns.size(), [&](size_t i) { quote(statement.assigns[i].field.name); });
+  if (!statement.fromSelect) {
+    *this << ") VALUES (";
+    list(statement.assigns.size(),
+         [&](size_t i) { writePut(statement.assigns[i].field, statement.assigns[i].value); });
+    *this << ")";
+    return;
+  }
+  // The rows are made first, so that a conversion on the way in cannot disturb DISTINCT or the order.
+  *this << ") SELECT ";
+  list(statement.assigns.size(), [&](size_t i) {
+    Expr made;
+    made.kind = Expr::Kind::Column;
+    made.source = u"rows"_s;
+    made.column = u"c"_s + QString::number(i + 1);
+    made.holds = statement.select.items[i].expr.holds;
+    writePut(statement.assigns[i].field, made);
+  });
+  *this << " FROM (";
+  writeQuery(statement.select, true);
+  *this << ") AS \"rows\"";
+}
+
+void Writer::writeUpdate(const Statement& statement) {
+  *this << "UPDATE ";
+  writeTable(statement.target, statement.targetSource);
+  *this << " SET ";
+  const bool alone = statement.from.size() == 1 && statement.from.front().sides.empty();
+  if (alone) {
+    list(statement.assigns.size(), [&](size_t i) {
+      quote(statement.assigns[i].field.name);
+      *this << " = ";
+      writePut(statement.assigns[i].field, statement.assigns[i].value);
+    });
+    if (!statement.where) return;
+    *this << " WHERE ";
+    writeCondition(*statement.where);
+    return;
+  }
+  // The joined rows give each row's new values; any shape of join fits this one form.
+  list(statement.assigns.size(), [&](size_t i) {
+    quote(statement.assigns[i].field.name);
+    *this << " = \"rows\".\"c" << int(i + 1) << "\"";
+  });
+  *this << " FROM (SELECT ";
+  quote(statement.targetSource);
+  *this << ".rowid AS \"key\", ";
+  list(statement.assigns.size(), [&](size_t i) {
+    writePut(statement.assigns[i].field, statement.assigns[i].value);
+    *this << " AS \"c" << int(i + 1) << "\"";
+  });
+  *this << " FROM ";
+  writeFromList(statement.from);
+  if (statement.where) {
+    *this << " WHERE ";
+    writeCondition(*statement.where);
+  }
+  *this << ") AS \"rows\" WHERE ";
+  quote(statement.targetSource);
+  *this << ".rowid = \"rows\".\"key\"";
+}
+
+void Writer::writeDelete(const Statement& statement) {
+  *this << "DELETE FROM ";
+  writeTable(statement.target, statement.targetSource);
+  const bool alone = statement.from.size() == 1 && statement.from.front().sides.empty();
+  if (alone) {
+    if (!statement.where) return;
+    *this << " WHERE ";
+    writeCondition(*statement.where);
+    return;
+  }
+  *this << " WHERE rowid IN (SELECT ";
+  quote(statement.targetSource);
+  *this << ".rowid FROM ";
+  writeFromList(statement.from);
+  if (statement.where) {
+    *this << " WHERE ";
+    writeCondition(*statement.where);
+  }
+  *this << ")";
+}
+
+void Writer::writeQuery(const Select& select, bool named) {
+  if (select.top > 0) return writeTop(select, named);
+  writeBody(select, named);
+  if (select.orderBy.empty()) return;
+  *this << " ORDER BY ";
+  around_.push_back(&select);
+  writeOrder(select.orderBy);
+  around_.pop_back();
+}
+
+/** TOP keeps all rows that tie with the last one, so rows are ranked by the order and cut at the rank. */
+void Writer::writeTop(const Select& select, bool named) {
+  if (select.orderBy.empty()) {
+    writeBody(select, named);
+    *this << " LIMIT " << select.top;
+    return;
+  }
+  auto columns = [&] {
+    list(select.columns.size() + keySources_.size(), [&](size_t i) { *this << "\"c" << int(i + 1) << "\""; });
+  };
+  *this << "SELECT ";
+  columns();
+  *this << " FROM (SELECT *, rank() OVER (ORDER BY ";
+  list(select.orderBy.size(), [&](size_t i) {
+    *this << "\"o" << int(i + 1) << "\"" << (select.orderBy[i].descending ? " DESC" : "");
+  });
+  *this << ") AS \"place\" FROM (";
+  if (select.distinct || !select.unions.empty()) {
+    *this << "SELECT *, ";
+    list(select.orderBy.size(), [&](size_t i) {
+      const OrderItem& item = select.orderBy[i];
+      *this << "\"c" << item.position << "\""
+            << (select.items[item.position - 1].expr.holds == Holds::Text ? " COLLATE JET" : "") << " AS \"o"
+            << int(i + 1) << "\"";
+    });
+    *this << " FROM (";
+    writeBody(select, true);
+    *this << ")";
+  } else {
+    writeBody(select, true);
+  }
+  *this << ")) WHERE \"place\" <= " << select.top << " ORDER BY \"place\"";
+}
+
+void Writer::writeBody(const Select& select, bool named) {
+  around_.push_back(&select);
+  *this << (select.distinct ? "SELECT DISTINCT " : "SELECT ");
+  writeItems(select, named);
+  if (!select.from.empty()) {
+    *this << " FROM ";
+    writeFromList(select.from);
+  }
+  if (select.where) {
+    *this << " WHERE ";
+    writeCondition(*select.where);
+  }
+  if (!select.groupBy.empty()) {
+    *this << " GROUP BY ";
+    list(select.groupBy.size(), [&](size_t i) {
+      writeValue(select.groupBy[i]);
+      if (select.groupBy[i].holds == Holds::Text) *this << " COLLATE JET";
+    });
+  }
+  if (select.having) {
+    *this << " HAVING ";
+    writeCondition(*select.having);
+  }
+  around_.pop_back();
+  for (const Select& next : select.unions) {
+    *this << (next.unionAll ? " UNION ALL " : " UNION ");
+    if (next.top > 0) *this << "SELECT * FROM (";
+    writeQuery(next, false);
+    if (next.top > 0) *this << ")";
+  }
+}
+
+void Writer::writeItems(const Select& select, bool named) {
+  const bool compares = select.distinct || !select.unions.empty();
+  list(select.items.size(), [&](size_t i) {
+    writeValue(select.items[i].expr);
+    if (compares && select.items[i].expr.holds == Holds::Text) *this << " COLLATE JET";
+    if (named) *this << " AS \"c" << int(i + 1) << "\"";
+  });
+  if (around_.size() == 1) {
+    for (size_t i = 0; i < keySources_.size(); ++i) {
+      *this << ", ";
+      quote(keySources_[i]);
+      *this << ".rowid";
+      if (named) *this << " AS \"c" << int(select.items.size() + i + 1) << "\"";
+    }
+  }
+  if (select.top == 0 || compares) return;
+  for (size_t i = 0; i < select.orderBy.size(); ++i) {
+    *this << ", ";
+    writeValue(select.orderBy[i].expr);
+    if (select.orderBy[i].expr.holds == Holds::Text) *this << " COLLATE JET";
+    *this << " AS \"o" << int(i + 1) << "\"";
+  }
+}
+
+void Writer::writeOrder(const std::vector<OrderItem>& order) {
+  list(order.size(), [&](size_t i) {
+    if (order[i].position > 0)
+      *this << order[i].position;
+    else
+      writeValue(order[i].expr);
+    if (order[i].expr.holds == Holds::Text) *this << " COLLATE JET";
+    if (order[i].descending) *this << " DESC";
+  });
+}
+
+void Writer::writeFromList(const std::vector<From>& from) {
+  list(from.size(), [&](size_t i) { writeFrom(from[i]); });
+}
+
+void Writer::writeFrom(const From& from) {
+  if (from.kind == From::Kind::Table) return writeTable(from.info, from.alias);
+  if (from.kind == From::Kind::Query) {
+    *this << "(";
+    // The outer statement names the columns as the query shows them.
+    const Select& query = from.query.front();
+    *this << "SELECT ";
+    list(query.columns.size(), [&](size_t i) {
+      *this << "\"c" << int(i + 1) << "\" AS ";
+      quote(query.columns[i].name);
+    });
+    *this << " FROM (";
+    const std::vector<QString> keySources = std::exchange(keySources_, {});
+    writeQuery(query, true);
+    keySources_ = keySources;
+    *this << ")) AS ";
+    quote(from.alias);
+    return;
+  }
+  writeFrom(from.sides[0]);
+  *this << (from.kind == From::Kind::Left ? " LEFT JOIN " : " JOIN ");
+  const bool nested = !from.sides[1].sides.empty();
+  if (nested) *this << "(";
+  writeFrom(from.sides[1]);
+  if (nested) *this << ")";
+  *this << " ON ";
+  writeCondition(from.on.front());
+}
+
+void Writer::writeTable(const TableInfo& table, const QString& alias) {
+  quote(table.schema);
+  *this << ".";
+  quote(table.name);
+  if (alias.isEmpty()) return;
+  *this << " AS ";
+  quote(alias);
+}
+
+/** The row of a group, of DISTINCT or of a UNION is no longer the row of a table. */
+void Writer::collectKeys(const Select& select) {
+  if (select.grouped || select.distinct || !select.unions.empty()) return;
+  std::vector<const From*> sources;
+  std::function<void(const From&)> collect = [&](const From& from) {
+    if (from.kind == From::Kind::Table) sources.push_back(&from);
+    for (const From& side : from.sides) collect(side);
+  };
+  for (const From& from : select.from) collect(from);
+  std::sort(sources.begin(), sources.end(), [](auto* a, auto* b) { return a->place < b->place; });
+  for (const From* source : sources) {
+    keys_.push_back(source->info);
+    keySources_.push_back(source->alias);
+  }
+}
+
+Writer& Writer::operator<<(const char* text) {
+  out_ += QLatin1StringView(text);
+  return *this;
+}
+
+Writer& Writer::operator<<(const QString& text) {
+  out_ += text;
+  return *this;
+}
+
+Writer& Writer::operator<<(int number) {
+  out_ += QString::number(number);
+  return *this;
+}
+
+void Writer::quote(const QString& name) {
+  QString doubled = name;
+  doubled.replace(u'"', u"\"\""_s);
+  out_ += u'"';
+  out_ += doubled;
+  out_ += u'"';
+}
+
+void Writer::list(size_t count, const std::function<void(size_t)>& each) {
+  for (size_t i = 0; i < count; ++i) {
+    if (i > 0) *this << ", ";
+    each(i);
+  }
+}
+
+}  // namespace jet

@@ -1,0 +1,328 @@
+#include "store/jet/writer.h"
+
+namespace jet {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool writesNumber(Holds holds) {
+  return holds != Holds::Text && holds != Holds::Any;
+}
+
+/** SQLite answers these with 1 and 0, where a value has to be -1 and 0. */
+bool isCondition(const Expr& expr) {
+  switch (expr.kind) {
+    case Expr::Kind::Compare:
+    case Expr::Kind::Like:
+    case Expr::Kind::Between:
+    case Expr::Kind::In:
+    case Expr::Kind::IsNull:
+    case Expr::Kind::Exists:
+      return true;
+    case Expr::Kind::Not:
+    case Expr::Kind::Logical:
+      return expr.holds == Holds::YesNo;
+    default:
+      return false;
+  }
+}
+
+}  // namespace
+
+void Writer::writeValue(const Expr& expr) {
+  if (isCondition(expr)) {
+    *this << "(-";
+    writeCondition(expr);
+    *this << ")";
+    return;
+  }
+  switch (expr.kind) {
+    case Expr::Kind::Literal:
+      return writeLiteral(expr);
+    case Expr::Kind::Null:
+      *this << "NULL";
+      break;
+    case Expr::Kind::Constant:
+      *this << (expr.value.toBool() ? "-1" : "0");
+      break;
+    case Expr::Kind::Column:
+      quote(expr.source);
+      *this << ".";
+      quote(expr.column);
+      break;
+    case Expr::Kind::Negate:
+      *this << "(-";
+      writeNumber(expr.operands[0]);
+      *this << ")";
+      break;
+    case Expr::Kind::Not:
+      *this << "(~";
+      writeNumber(expr.operands[0]);
+      *this << ")";
+      break;
+    case Expr::Kind::Arithmetic:
+      return writeArithmetic(expr);
+    case Expr::Kind::Logical:
+      return writeLogicalValue(expr);
+    case Expr::Kind::Iif:
+      return writeCase(expr);
+    case Expr::Kind::Call:
+      return writeCall(expr);
+    case Expr::Kind::Aggregate:
+      return writeAggregate(expr);
+    case Expr::Kind::Query:
+      *this << "(";
+      writeQuery(expr.query.front(), false);
+      *this << ")";
+      break;
+    default:
+      break;
+  }
+}
+
+/** Always in brackets of its own, so that it can stand after NOT and a minus. */
+void Writer::writeCondition(const Expr& expr) {
+  switch (expr.kind) {
+    case Expr::Kind::Compare:
+      return writeCompare(expr);
+    case Expr::Kind::Like:
+      *this << (expr.negated ? "(NOT jet_like(" : "(jet_like(");
+      writeValue(expr.operands[0]);
+      *this << ", ";
+      writeValue(expr.operands[1]);
+      *this << "))";
+      return;
+    case Expr::Kind::Between:
+      *this << "(";
+      writeValue(expr.operands[0]);
+      if (expr.operands[0].holds == Holds::Text) *this << " COLLATE JET";
+      *this << (expr.negated ? " NOT BETWEEN " : " BETWEEN ");
+      writeValue(expr.operands[1]);
+      *this << " AND ";
+      writeValue(expr.operands[2]);
+      *this << ")";
+      return;
+    case Expr::Kind::In:
+      return writeIn(expr);
+    case Expr::Kind::IsNull:
+      *this << "(";
+      writeValue(expr.operands[0]);
+      *this << (expr.negated ? " IS NOT NULL)" : " IS NULL)");
+      return;
+    case Expr::Kind::Exists:
+      *this << "(EXISTS (";
+      writeQuery(expr.query.front(), false);
+      *this << "))";
+      return;
+    case Expr::Kind::Not:
+      if (expr.holds != Holds::YesNo) break;
+      *this << "(NOT ";
+      writeCondition(expr.operands[0]);
+      *this << ")";
+      return;
+    case Expr::Kind::Logical:
+      if (expr.holds != Holds::YesNo) break;
+      return writeLogicalCondition(expr);
+    default:
+      break;
+  }
+  writeNumber(expr);
+}
+
+void Writer::writeNumber(const Expr& expr) {
+  if (writesNumber(expr.holds)) return writeValue(expr);
+  *this << "jet_num(";
+  writeValue(expr);
+  *this << ")";
+}
+
+void Writer::writeLiteral(const Expr& expr) {
+  if (expr.parameter > 0)
+    *this << "?" << expr.parameter;
+  else
+    *this << (expr.value.isWhole() ? QString::number(expr.value.toLong())
+                                   : QString::number(expr.value.toDouble(), 'g', 17));
+}
+
+/** An operand of &, where Null is the empty text. */
+void Writer::writeJoinedText(const Expr& expr) {
+  const bool never =
+      expr.kind == Expr::Kind::Literal || (expr.kind == Expr::Kind::Arithmetic && expr.op == u'&');
+  if (never && expr.holds == Holds::Text) return writeValue(expr);
+  *this << "jet_str(";
+  writeValue(expr);
+  *this << ")";
+}
+
+void Writer::writeArithmetic(const Expr& expr) {
+  const Expr& left = expr.operands[0];
+  const Expr& right = expr.operands[1];
+  const bool joins = expr.op == u'&' || (expr.op == u'+' && expr.holds == Holds::Text);
+  if (joins) {
+    *this << "(";
+    expr.op == u'&' ? writeJoinedText(left) : writeValue(left);
+    *this << " || ";
+    expr.op == u'&' ? writeJoinedText(right) : writeValue(right);
+    *this << ")";
+    return;
+  }
+  if (expr.op == u'+' && expr.holds == Holds::Any) {
+    *this << "jet_add(";
+    writeValue(left);
+    *this << ", ";
+    writeValue(right);
+    *this << ")";
+    return;
+  }
+  const char* function = expr.op == u'/'       ? "jet_div"
+                         : expr.op == u'\\'    ? "jet_idiv"
+                         : expr.op == u'^'     ? "jet_pow"
+                         : expr.op == "MOD"_L1 ? "jet_mod"
+                                               : "";
+  *this << function << "(";
+  writeNumber(left);
+  if (*function)
+    *this << ", ";
+  else
+    *this << " " << expr.op << " ";
+  writeNumber(right);
+  *this << ")";
+}
+
+/** And, Or and the like on numbers work on their bits. */
+void Writer::writeLogicalValue(const Expr& expr) {
+  auto both = [&](const char* before, const char* between, const char* after) {
+    *this << before;
+    writeNumber(expr.operands[0]);
+    *this << between;
+    writeNumber(expr.operands[1]);
+    *this << after;
+  };
+  if (expr.op == "AND"_L1) return both("(", " & ", ")");
+  if (expr.op == "OR"_L1) return both("(", " | ", ")");
+  if (expr.op == "IMP"_L1) return both("(~", " | ", ")");
+  both(expr.op == "EQV"_L1 ? "(~((" : "((", " | ", ")");
+  both(" - (", " & ", expr.op == "EQV"_L1 ? ")))" : "))");
+}
+
+void Writer::writeLogicalCondition(const Expr& expr) {
+  const bool bothDenied = expr.op == "XOR"_L1 || expr.op == "EQV"_L1;
+  auto side = [&](size_t index, bool denied) {
+    if (denied) *this << "(NOT ";
+    writeCondition(expr.operands[index]);
+    if (denied) *this << ")";
+  };
+  *this << "(";
+  side(0, bothDenied || expr.op == "IMP"_L1);
+  *this << (expr.op == "AND"_L1   ? " AND "
+            : expr.op == "XOR"_L1 ? " <> "
+            : expr.op == "EQV"_L1 ? " = "
+                                  : " OR ");
+  side(1, bothDenied);
+  *this << ")";
+}
+
+void Writer::writeCompare(const Expr& expr) {
+  const Expr& left = expr.operands[0];
+  const Expr& right = expr.operands[1];
+  auto side = [&](const Expr& own, const Expr& other) {
+    if (own.holds == Holds::Any && writesNumber(other.holds)) return writeNumber(own);
+    writeValue(own);
+  };
+  *this << "(";
+  side(left, right);
+  *this << " " << expr.op << " ";
+  side(right, left);
+  if (!writesNumber(left.holds) || !writesNumber(right.holds)) *this << " COLLATE JET";
+  *this << ")";
+}
+
+void Writer::writeIn(const Expr& expr) {
+  *this << "(";
+  writeValue(expr.operands[0]);
+  if (!writesNumber(expr.operands[0].holds)) *this << " COLLATE JET";
+  *this << (expr.negated ? " NOT IN (" : " IN (");
+  if (expr.query.empty())
+    list(expr.operands.size() - 1, [&](size_t i) { writeValue(expr.operands[i + 1]); });
+  else
+    writeQuery(expr.query.front(), false);
+  *this << "))";
+}
+
+/** Only the branch taken is computed; a Null condition takes the second. */
+void Writer::writeCase(const Expr& expr) {
+  *this << "CASE WHEN ";
+  writeCondition(expr.operands[0]);
+  *this << " THEN ";
+  writeValue(expr.operands[1]);
+  *this << " ELSE ";
+  writeValue(expr.operands[2]);
+  *this << " END";
+}
+
+void Writer::writeCall(const Expr& expr) {
+  *this << expr.name << "(";
+  const bool absolute = expr.name == "abs"_L1;  // SQLite's own would read any text as 0
+  list(expr.operands.size(),
+       [&](size_t i) { absolute ? writeNumber(expr.operands[i]) : writeValue(expr.operands[i]); });
+  *this << ")";
+}
+
+void Writer::writeAggregate(const Expr& expr) {
+  if (expr.operands.empty()) {
+    *this << "count(*)";
+    return;
+  }
+  const Expr& operand = expr.operands[0];
+  *this << (expr.name == "FIRST"_L1  ? u"jet_first"_s
+            : expr.name == "LAST"_L1 ? u"jet_last"_s
+                                     : expr.name.toLower())
+        << "(";
+  if (expr.name == "SUM"_L1 || expr.name == "AVG"_L1)
+    writeNumber(operand);
+  else
+    writeValue(operand);
+  if ((expr.name == "MIN"_L1 || expr.name == "MAX"_L1) && !writesNumber(operand.holds))
+    *this << " COLLATE JET";
+  if (expr.name == "FIRST"_L1 || expr.name == "LAST"_L1) {
+    // First and last by the order of entry in the first table of the query.
+    const From* first = &around_.back()->from.front();
+    while (!first->sides.empty()) first = &first->sides[0];
+    *this << ", ";
+    if (first->kind == From::Kind::Table) {
+      quote(first->alias);
+      *this << ".rowid";
+    } else {
+      *this << "0";
+    }
+  }
+  *this << ")";
+}
+
+void Writer::writePut(const Field& field, const Expr& value) {
+  const bool number = writesNumber(value.holds);
+  if (value.kind == Expr::Kind::Null && field.type != Type::Boolean) return writeValue(value);
+  if (value.kind == Expr::Kind::Constant && field.type == Type::Boolean) return writeValue(value);
+  if (field.type == Type::Double && number) return writeValue(value);
+  switch (field.type) {
+    case Type::Boolean:
+      *this << "jet_put_bool(";
+      break;
+    case Type::Long:
+      *this << "jet_put_long(";
+      break;
+    case Type::Double:
+      *this << "jet_put_double(";
+      break;
+    default:
+      *this << "jet_put_text(";
+  }
+  writeValue(value);
+  if (field.type == Type::Text) *this << ", " << (field.size > 0 ? field.size : 255);
+  if (field.type == Type::Memo) *this << ", 0";
+  if (field.type == Type::Text || field.type == Type::Memo) *this << ", " << (field.allowZeroLength ? 1 : 0);
+  *this << ")";
+}
+
+}  // namespace jet
