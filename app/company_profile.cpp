@@ -1,6 +1,7 @@
 #include "app/company_profile.h"
 
 #include "store/data_access.h"
+#include "store/jet/text_rules.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,11 +13,11 @@ QString quoted(const QString& text) {
   return u"'"_s + text + u"'"_s;
 }
 QString valText(const QString& text) {
-  return jet::Value(jet::Value(text).toDouble()).toText();
+  return jet::textOf(jet::val(text));
 }
 // The safety fees are whole won.
 QString wholeText(const QString& text) {
-  return QString::number(qRound64(jet::Value(text).toDouble()));
+  return QString::number(qRound64(jet::val(text)));
 }
 
 }  // namespace

@@ -1,0 +1,37 @@
+#include "app/form_table.h"
+
+#include <iterator>
+
+#include "app/FrmNetDrive.h"
+#include "app/FrmPath.h"
+#include "app/frmAbout.h"
+#include "app/frmUser.h"
+
+namespace {
+
+// A form that has pages says so by its own showPage(const QString&).
+template <class F>
+FormEntry formEntry(const char16_t* name) {
+  FormEntry entry{
+      name, [](FormContext& context, QWidget* parent) -> QWidget* { return new F(context, parent); }, {}};
+  if constexpr (requires(F & form, const QString& page) { form.showPage(page); })
+    entry.showPage = [](QWidget* form, const QString& page) { static_cast<F*>(form)->showPage(page); };
+  return entry;
+}
+
+// One line a form, by name.
+const FormEntry formTable[] = {
+    formEntry<FrmNetDrive>(u"FrmNetDrive"),
+    formEntry<FrmPath>(u"FrmPath"),
+    formEntry<frmAbout>(u"frmAbout"),
+    formEntry<frmUser>(u"frmUser"),
+};
+
+}  // namespace
+
+const FormEntry* findForm(const QString& name) {
+  const QString base = name.section(u':', 0, 0);
+  for (const auto& entry : formTable)
+    if (base == QStringView(entry.name)) return &entry;
+  return nullptr;
+}

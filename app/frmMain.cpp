@@ -1,0 +1,289 @@
+#include "app/frmMain.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QLabel>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+
+#include "app/company_profile.h"
+#include "app/form_ground.h"
+#include "app/form_table.h"
+#include "app/form_tool_icons.h"
+#include "app/frame_rules.h"
+#include "links/caller.h"
+#include "links/form_see_id_port.h"
+#include "ui/form.h"
+#include "ui/guard.h"
+#include "ui/style.h"
+
+using namespace Qt::StringLiterals;
+
+frmMain::frmMain(Session& session, Pickers& pickers, QWidget* parent)
+    : QMainWindow(parent),
+      session_(session),
+      waiting_(std::make_unique<WaitingList>(session.pc.clock)),
+      ports_{std::make_unique<SeeIdPort>(session.pc.paths), std::make_unique<SeeIdPort>(session.pc.paths)},
+      caller_(std::make_unique<Caller>(session, Caller::Controls{ports_[0].get(), ports_[1].get()}, *waiting_,
+                                       [this] { return dynamic_cast<CallerTarget*>(activeForm()); })),
+      context_{session, pickers, *this, *waiting_},
+      ground_(new Ground(session, this)) {
+  setObjectName(u"frmMain"_s);
+  setWindowTitle(mainWindowTitle());
+  setCentralWidget(ground_);
+  ground_->hiddenCommand = [this](Qt::KeyboardModifiers keys) { return hiddenCommand(keys); };
+  buildMenus();
+  buildToolBar();
+  buildStatusLine();
+  resize(1200, 800);
+  refresh();
+  for (auto& port : ports_)
+    port->onEvent = [this](int state, const QString& number) {
+      guard([&] { caller_->deviceEvent(state, number); });
+    };
+}
+
+frmMain::~frmMain() = default;
+
+// --- menu, tool bar, status line --------------------------------------------------------------------------------
+
+void frmMain::buildMenus() {
+  for (const auto& entry : commandMap()) {
+    QMenu* above = menus_.value(entry.menuName());
+    if (above && entry.flags & CommandEntry::Ruled) above->addSeparator();
+    if (entry.kind == CommandKind::Menu) {
+      QMenu* menu = above ? above->addMenu(entry.text()) : menuBar()->addMenu(entry.text());
+      menu->setObjectName(entry.objectName());
+      menus_[entry.objectName()] = menu;
+      connect(menu, &QMenu::aboutToShow, this, &frmMain::refresh);
+      continue;
+    }
+    QAction* action = above->addAction(entry.text());
+    action->setObjectName(entry.objectName());
+    action->setCheckable(entry.kind == CommandKind::SeeIdEnabled);
+    connect(action, &QAction::triggered, this, [this, &entry] { perform(entry); });
+    actions_[entry.objectName()] = action;
+  }
+}
+
+void frmMain::buildToolBar() {
+  QToolBar* bar = addToolBar(u"도구모음"_s);
+  bar->setObjectName(u"TBar"_s);
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  bar->setIconSize(QSize(24, 24));
+  bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+  int place = 0;
+  for (const auto& entry : toolButtons()) {
+    const QString command = QString::fromUtf16(entry.command);
+    auto* button = new QToolButton;
+    button->setObjectName(u"TBar"_s + QString::number(++place));
+    button->setText(QString::fromUtf16(entry.caption));
+    button->setIcon(toolIcon(command));
+    button->setIconSize(bar->iconSize());
+    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);  // a click leaves the cursor in the child's cell
+    button->setMinimumWidth(68);
+    if (QMenu* menu = menus_.value(command)) {
+      button->setMenu(menu);
+      button->setPopupMode(QToolButton::InstantPopup);
+    } else {
+      QAction* action = actions_.value(command);
+      connect(button, &QToolButton::clicked, action, &QAction::trigger);
+      connect(action, &QAction::changed, button,
+              [button, action] { button->setEnabled(action->isEnabled()); });
+      button->setToolTip(action->text());
+    }
+    bar->addWidget(button);
+  }
+  auto* gap = new QWidget;
+  gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  bar->addWidget(gap);
+  pnlCompany_ = new QLabel;
+  pnlCompany_->setObjectName(u"PnlCompany"_s);
+  pnlCompany_->setTextFormat(Qt::PlainText);
+  pnlCompany_->setFont(look::textFont(12, true));
+  pnlCompany_->setContentsMargins(12, 0, 14, 0);
+  bar->addWidget(pnlCompany_);
+}
+
+void frmMain::buildStatusLine() {
+  statusBar()->setObjectName(u"StatusMain"_s);
+  statusBar()->setSizeGripEnabled(false);
+  clock_ = new QLabel;
+  clock_->setObjectName(u"LblClock"_s);
+  clock_->setContentsMargins(8, 1, 8, 1);
+  statusBar()->addPermanentWidget(clock_);
+  timer1_ = new QTimer(this);
+  timer1_->setObjectName(u"Timer1"_s);
+  connect(timer1_, &QTimer::timeout, this, &frmMain::showClock);
+  timer1_->start(1000);
+  showClock();
+}
+
+void frmMain::showClock() {
+  const QDateTime now = session_.pc.clock.now();
+  clock_->setText(longDate(now.date()) + u' ' + clockTime(now.time()));
+}
+
+bool frmMain::isOn(const CommandEntry& entry) const {
+  if (entry.flags & CommandEntry::NeedsStock && !session_.StockEnabled) return false;
+  switch (entry.kind) {
+    case CommandKind::Form:
+    case CommandKind::Dialog:
+      return findForm(entry.formName()) != nullptr;
+    case CommandKind::Later:
+      return false;
+    default:
+      return true;
+  }
+}
+
+void frmMain::refresh() {
+  for (const auto& entry : commandMap())
+    if (QAction* action = actions_.value(entry.objectName())) action->setEnabled(isOn(entry));
+  actions_[u"mnu_SeeIDEnabled"_s]->setChecked(caller_->enabled());
+  guard([&] { pnlCompany_->setText(CompanyProfile(session_).companyName()); });
+}
+
+// --- commands ---------------------------------------------------------------------------------------------------
+
+bool frmMain::run(const QString& command) {
+  const CommandEntry* entry = findCommand(command);
+  if (!entry || entry->kind == CommandKind::Menu || !isOn(*entry)) return false;
+  perform(*entry);
+  return true;
+}
+
+void frmMain::perform(const CommandEntry& entry) {
+  guard([&] {
+    if (entry.flags & CommandEntry::Relink && relink) relink();
+    switch (entry.kind) {
+      case CommandKind::Form:
+      case CommandKind::Dialog:
+        if (!entry.kindOfBook().isEmpty()) session_.CheckKind = entry.kindOfBook();
+        openForm(entry.formName());
+        break;
+      case CommandKind::InitStock:
+        initStock(session_, context_.pickers);
+        break;
+      case CommandKind::YearError:
+        rebuildBookRows(session_);
+        break;
+      case CommandKind::Exit:
+        close();
+        break;
+      case CommandKind::SeeIdEnabled:
+        caller_->setEnabled(!caller_->enabled());
+        break;
+      case CommandKind::SeeIdTest:
+        testCall();
+        break;
+      case CommandKind::Home:
+        askAndOpenAddress(u"홈페이지에 접속하시겠습니까?"_s, u"http://"_s + makerAddress());
+        break;
+      case CommandKind::RemoteSupport:
+        askAndOpenAddress(u"원격지원서비스에 접속하시겠습니까?"_s,
+                          u"http://"_s + makerAddress() + u"/remote"_s);
+        break;
+      case CommandKind::Menu:
+      case CommandKind::Later:
+        break;
+    }
+  });
+  refresh();
+}
+
+void frmMain::askAndOpenAddress(const QString& question, const QString& address) {
+  if (session_.prompts.MsgAsk(question)) QDesktopServices::openUrl(QUrl(address));
+}
+
+void frmMain::testCall() {
+  const QString number =
+      session_.prompts
+          .InputBox(u"발신번호 테스트! 테스트할 전화번호 입력( '-' 없이 숫자만 입력)"_s, u"발신번호 테스트"_s)
+          .value_or(QString());
+  if (!number.isEmpty()) caller_->OnCallerNumber(number);
+}
+
+bool frmMain::hiddenCommand(Qt::KeyboardModifiers keys) {
+  if (keys == (Qt::ShiftModifier | Qt::ControlModifier)) {
+    if (caller_->enabled()) guard([&] { testCall(); });
+    return true;
+  }
+  if (keys == (Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier)) {
+    guard([&] {
+      clearBook(session_, [](const std::function<void()>& work) {
+        const BusyPointer busy;
+        work();
+      });
+    });
+    return true;
+  }
+  return false;
+}
+
+// --- children ---------------------------------------------------------------------------------------------------
+
+bool frmMain::showOpen(const QString& base, const QString& page) {
+  for (QMdiSubWindow* window : ground_->subWindowList()) {
+    if (!window->widget() || window->widget()->objectName() != base) continue;
+    if (window->isMinimized()) window->showNormal();
+    ground_->setActiveSubWindow(window);
+    const FormEntry* entry = findForm(base);
+    if (entry && entry->showPage && !page.isEmpty()) entry->showPage(window->widget(), page);
+    return true;
+  }
+  return false;
+}
+
+bool frmMain::openForm(const QString& name) {
+  const QString base = name.section(u':', 0, 0), page = name.section(u':', 1);
+  if (showOpen(base, page)) return true;
+  const FormEntry* entry = findForm(base);
+  if (!entry) return false;
+  QWidget* above = QApplication::activeModalWidget();
+  QWidget* form = entry->create(context_, above ? above : this);
+  if (auto* dialog = qobject_cast<QDialog*>(form)) {
+    dialog->exec();
+    delete dialog;
+    return true;
+  }
+  if (entry->showPage && !page.isEmpty()) entry->showPage(form, page);
+  QMdiSubWindow* window = ground_->addSubWindow(form);
+  window->setAttribute(Qt::WA_DeleteOnClose);
+  form->show();
+  window->show();
+  return true;
+}
+
+QWidget* frmMain::activeForm() const {
+  // The current child also while another program is in front: a call then still finds the sale form.
+  const QMdiSubWindow* window = ground_->currentSubWindow();
+  return window ? window->widget() : nullptr;
+}
+
+// --- leaving ----------------------------------------------------------------------------------------------------
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (!silentClose_ && !askToLeave(session_)) return event->ignore();
+  ground_->closeAllSubWindows();
+  if (!ground_->subWindowList().isEmpty()) return event->ignore();  // a child holds a cell it cannot save
+  timer1_->stop();
+  caller_->CloseSeeID();
+  if (closed) closed();
+  event->accept();
+}
+
+bool frmMain::guard(const std::function<void()>& work) {
+  return guarded(session_.prompts, work);
+}

@@ -1,0 +1,71 @@
+#pragma once
+// The parent window of the whole program: menu, tool bar, status line, company panel, and the forms as its children.
+#include <QHash>
+#include <QMainWindow>
+#include <QPointer>
+#include <functional>
+#include <memory>
+
+#include "app/command_map.h"
+#include "master/form_context.h"
+
+class Caller;
+class Ground;
+class QAction;
+class QLabel;
+class QMenu;
+class QTimer;
+class SeeIdPort;
+class WaitingList;
+
+class frmMain : public QMainWindow, public Commands {
+ public:
+  frmMain(Session& session, Pickers& pickers, QWidget* parent = nullptr);
+  ~frmMain() override;
+
+  /** Runs a menu entry by its name, as the operator would; False when there is none or it is off. */
+  bool run(const QString& command);
+  bool openForm(const QString& name) override;
+  QWidget* activeForm() const override;
+
+  FormContext& context() { return context_; }
+  Caller& caller() { return *caller_; }
+  /** Company label and what the entries depend on, after the session has changed. */
+  void refresh();
+  /** Closes without asking. */
+  void setSilentClose() { silentClose_ = true; }
+  /** Links the year files anew; runs before the entries that ask for it. */
+  std::function<void()> relink;
+  /** Called once when the window is leaving for good. */
+  std::function<void()> closed;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void buildMenus();
+  void buildToolBar();
+  void buildStatusLine();
+  bool isOn(const CommandEntry& entry) const;
+  void perform(const CommandEntry& entry);
+  void showClock();
+  bool showOpen(const QString& base, const QString& page);
+  QWidget* makeForm(const QString& name);
+  bool hiddenCommand(Qt::KeyboardModifiers keys);
+  void testCall();
+  void askAndOpenAddress(const QString& question, const QString& address);
+  bool guard(const std::function<void()>& work);
+
+  Session& session_;
+  std::unique_ptr<WaitingList> waiting_;
+  std::unique_ptr<SeeIdPort> ports_[2];
+  std::unique_ptr<Caller> caller_;
+  FormContext context_;
+  Ground* ground_;
+  QHash<QString, QAction*> actions_;
+  QHash<QString, QMenu*> menus_;
+  QLabel* pnlCompany_ = nullptr;
+  QLabel* clock_ = nullptr;
+  QTimer* timer1_ = nullptr;
+  bool silentClose_ = false;
+};

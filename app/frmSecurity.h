@@ -1,0 +1,20 @@
+#pragma once
+// Asks for the company's password before a guarded command.
+#include <QDialog>
+
+#include "app/company_profile.h"
+
+class QLineEdit;
+struct FormContext;
+
+/** Accepted when the password was given. */
+class frmSecurity : public QDialog {
+ public:
+  explicit frmSecurity(Session& session, QWidget* parent = nullptr);
+
+ private:
+  void check();
+
+  CompanyProfile profile_;
+  QLineEdit* txtPassword_;
+};

@@ -1,0 +1,44 @@
+#pragma once
+// The company profile and the billing settings on two pages, behind the company's password.
+#include <QList>
+
+#include "app/company_profile.h"
+#include "master/form_context.h"
+#include "ui/form.h"
+
+class QButtonGroup;
+class QLineEdit;
+class QTabWidget;
+
+class frmUser : public Form {
+ public:
+  frmUser(FormContext& context, QWidget* parent = nullptr);
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QWidget* buildProfilePage();
+  QWidget* buildSettingsPage();
+  QGroupBox* buildRates();
+  QGroupBox* buildChoices(const QString& title, const QStringList& captions, const QStringList& names,
+                          QButtonGroup*& group);
+  QLineEdit* box(const QString& name, const QString& help, int maxLength = 0);
+  void pass();
+  void loadPages();
+  void tabChanged(int page);
+  void saveProfile();
+  void saveSettings();
+  void searchPostCode();
+
+  FormContext& context_;
+  CompanyProfile rules_;
+  QTabWidget* tabUser_;
+  QLineEdit *txtCompany_, *txtUser_, *txtBusCode_, *txtPostCode_, *txtAddress_, *txtBusStyle_, *txtBusKind_,
+      *txtTel_, *txtFax_, *txtOcr_;
+  QLineEdit *txtRate_, *txtSecurity_, *txtAptRate_, *txtAptSecurity_, *txtManyRate_, *txtManySecurity_;
+  QLineEdit *txtPost1_, *txtPost2_, *txtPassword1_, *txtPassword2_;
+  QButtonGroup *payState_, *delayCharge_, *delayType_, *stock_;
+  QPushButton *cmdSave_, *btnSave_;
+  bool asked_ = false;
+};
