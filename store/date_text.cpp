@@ -1,0 +1,14 @@
+#include "store/date_text.h"
+
+#include "store/vb.h"
+
+QString checkedDate(const QString& typed, const pc::Clock& clock) {
+  const std::optional<QDate> day = vb::CDate(typed, clock.today().year());
+  return day ? day->toString(QStringLiteral("yyyy-MM-dd")) : QString();
+}
+
+QString checkedMonthDay(const QString& typed, const QString& year, const pc::Clock& clock) {
+  QString monthDay = typed;
+  if (monthDay.size() == 5) monthDay.replace(u'-', u'.');
+  return checkedDate(year + u'.' + monthDay, clock);
+}

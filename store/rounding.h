@@ -1,0 +1,13 @@
+#pragma once
+// Bill money in steps of ten won.
+#include <QtGlobal>
+
+#include <optional>
+
+struct Session;
+
+/** won by the company's rule: 1 down, 2 up, 3 half up; 10,230 stays. No user row: as it stands without its fraction.
+ *  Any other rule gives 0. Error 6 beyond a currency's range. */
+double RoundByPayState(Session& session, double won);
+/** The rule alone; payState is nothing when there is no user row. */
+double roundToTen(double won, std::optional<int> payState);

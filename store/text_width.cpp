@@ -1,0 +1,29 @@
+#include "store/text_width.h"
+
+#include <cmath>
+
+#include "pc/cp949.h"
+#include "store/vb.h"
+
+int widthOf(const QString& text) {
+  return int(pc::toCp949(text).size());
+}
+
+QString CutByWidth(const QString& text, int width) {
+  QString cut = pc::fromCp949(pc::toCp949(text).left(qMax(0, width)));
+  if (cut.endsWith(QChar(QChar::ReplacementCharacter))) cut.back() = u' ';
+  return cut;
+}
+
+QString StripNumber(const QString& text) {
+  QString rest = text;
+  rest.remove(u'.').remove(u'-');
+  return vb::IsNumeric(rest) ? rest : QString();
+}
+
+QString moneyText(double won) {
+  const bool whole = won == std::trunc(won);
+  const QString text =
+      vb::Format(won, whole ? QStringLiteral("###,###,###") : QStringLiteral("###,###,###.##"));
+  return text.isEmpty() ? QStringLiteral("0") : text;
+}

@@ -1,0 +1,116 @@
+#include "store/vb.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include "store/jet/error.h"
+#include "store/jet/format_rules.h"
+#include "store/jet/text_rules.h"
+
+namespace vb {
+
+namespace {
+
+qint64 wholeWithin(double number, double least, double most) {
+  const double rounded = jet::roundHalfEven(number);
+  if (!(rounded >= least && rounded <= most))
+    throw jet::Error(6, QStringLiteral("숫자가 범위를 벗어났습니다."));
+  return qint64(rounded);
+}
+
+int fullYear(const QString& digits) {
+  const int year = digits.toInt();
+  if (digits.size() > 2) return year;
+  return year < 30 ? 2000 + year : 1900 + year;
+}
+
+/** The numbers of a date text as they were written; empty when it holds anything else. */
+QStringList dateNumbers(const QString& text) {
+  static const QRegularExpression time(QStringLiteral("\\s+([01]?\\d|2[0-3]):[0-5]?\\d(:[0-5]?\\d)?$"));
+  static const QRegularExpression numbers(QStringLiteral(
+      "^(\\d{1,4})\\s*(?:[-/.]|[년월])\\s*(\\d{1,4})(?:\\s*(?:[-/.]|월)\\s*(\\d{1,4}))?\\s*일?$"));
+  const QRegularExpressionMatch match = numbers.match(text.trimmed().remove(time));
+  if (!match.hasMatch()) return {};
+  QStringList found = match.capturedTexts().mid(1);
+  found.removeAll(QString());
+  return found;
+}
+
+}  // namespace
+
+double Val(QStringView text) {
+  return jet::val(text);
+}
+
+double CDbl(QStringView text) {
+  const std::optional<double> number = jet::numberOf(text);
+  if (!number) throw jet::Error(13, QStringLiteral("형식이 일치하지 않습니다."));
+  return *number;
+}
+
+qint64 CLng(double number) {
+  return wholeWithin(number, -2147483648.0, 2147483647.0);
+}
+qint64 CLng(QStringView text) {
+  return CLng(CDbl(text));
+}
+int CInt(double number) {
+  return int(wholeWithin(number, -32768, 32767));
+}
+int CInt(QStringView text) {
+  return CInt(CDbl(text));
+}
+QString CStr(double number) {
+  return jet::textOf(number);
+}
+bool IsNumeric(QStringView text) {
+  return jet::numberOf(text).has_value();
+}
+
+std::optional<QDate> CDate(const QString& text, int currentYear) {
+  const QStringList parts = dateNumbers(text);
+  QDate day;
+  if (parts.size() == 2) {
+    day = QDate(currentYear, parts[0].toInt(), parts[1].toInt());
+  } else if (parts.size() == 3) {
+    day = parts[2].size() == 4 ? QDate(parts[2].toInt(), parts[0].toInt(), parts[1].toInt())
+                               : QDate(fullYear(parts[0]), parts[1].toInt(), parts[2].toInt());
+  }
+  if (!day.isValid() || day.year() < 100) return {};
+  return day;
+}
+
+bool IsDate(const QString& text, int currentYear) {
+  return CDate(text, currentYear).has_value();
+}
+
+QString Format(double number, const QString& picture) {
+  return jet::formatNumber(number, picture);
+}
+
+QString Format(const QDateTime& moment, const QString& picture) {
+  QString local = picture;
+  local.replace(QStringLiteral("DDDDD"), QStringLiteral("yyyy-mm-dd"), Qt::CaseInsensitive);
+  return jet::formatDate(moment, local.replace(u'/', u'-'));
+}
+
+QString Format(const QDate& day, const QString& picture) {
+  return Format(day.startOfDay(), picture);
+}
+
+QString weekdayName(const QDate& day) {
+  static const QStringList names{QStringLiteral("일요일"), QStringLiteral("월요일"), QStringLiteral("화요일"),
+                                 QStringLiteral("수요일"), QStringLiteral("목요일"), QStringLiteral("금요일"),
+                                 QStringLiteral("토요일")};
+  return names.at(day.dayOfWeek() % 7);
+}
+
+QString longDate(const QDate& day) {
+  return QStringLiteral("%1년 %2월 %3일 %4")
+      .arg(day.year())
+      .arg(day.month())
+      .arg(day.day())
+      .arg(weekdayName(day));
+}
+
+}  // namespace vb
