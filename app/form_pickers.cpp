@@ -3,6 +3,13 @@
 #include <QApplication>
 
 #include "app/frmSecurity.h"
+#include "master/form_context.h"
+#include "master/frmPostCode.h"
+#include "master/frmSearchBank.h"
+#include "master/frmSearchRefill.h"
+#include "master/frmSearchResponse.h"
+#include "master/frmSearchSize.h"
+#include "master/frmSearchVolume.h"
 
 namespace {
 
@@ -16,23 +23,23 @@ QWidget* windowInFront() {
 std::optional<ClientChoice> FormPickers::searchClient(const QString&, ClientSearchMode, bool) {
   return {};
 }
-std::optional<ItemChoice> FormPickers::searchSize(const QString&, TradeSide) {
-  return {};
+std::optional<ItemChoice> FormPickers::searchSize(const QString& kind, TradeSide side) {
+  return frmSearchSize(*context_, kind, side, windowInFront());
 }
 std::optional<VolumeChoice> FormPickers::searchVolume() {
-  return {};
+  return frmSearchVolume(session_, windowInFront());
 }
 std::optional<QString> FormPickers::searchResponse() {
-  return {};
+  return frmSearchResponse(session_, windowInFront());
 }
 std::optional<QString> FormPickers::searchRefill() {
-  return {};
+  return frmSearchRefill(session_, windowInFront());
 }
 std::optional<BankChoice> FormPickers::searchBank() {
-  return {};
+  return frmSearchBank(session_, windowInFront());
 }
-std::optional<PostCodeChoice> FormPickers::searchPostCode(const QString&) {
-  return {};
+std::optional<PostCodeChoice> FormPickers::searchPostCode(const QString& text) {
+  return frmPostCode(session_, text, windowInFront());
 }
 std::optional<BuildingChoice> FormPickers::searchBuilding(int) {
   return {};

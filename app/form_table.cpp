@@ -6,6 +6,9 @@
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
+#include "master/frmRefillState.h"
+#include "master/frmResponse.h"
+#include "master/frmVolume.h"
 
 namespace {
 
@@ -21,10 +24,10 @@ FormEntry formEntry(const char16_t* name) {
 
 // One line a form, by name.
 const FormEntry formTable[] = {
-    formEntry<FrmNetDrive>(u"FrmNetDrive"),
-    formEntry<FrmPath>(u"FrmPath"),
-    formEntry<frmAbout>(u"frmAbout"),
-    formEntry<frmUser>(u"frmUser"),
+    formEntry<FrmNetDrive>(u"FrmNetDrive"), formEntry<FrmPath>(u"FrmPath"),
+    formEntry<frmAbout>(u"frmAbout"),       formEntry<frmRefillState>(u"frmRefillState"),
+    formEntry<frmResponse>(u"frmResponse"), formEntry<frmUser>(u"frmUser"),
+    formEntry<frmVolume>(u"frmVolume"),
 };
 
 }  // namespace

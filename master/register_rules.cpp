@@ -71,4 +71,6 @@ bool RegisterRules::finds(const QString& sql) {
   return !OpenSnapshot(session_.prompts, session_.dbBasic, rs, sql) || rs.RecordCount() != 0;
 }
 
-QString typedNumber(const QString& typed) { return jet::textOf(jet::val(QString(typed).remove(u','))); }
+QString typedNumber(const QString& typed) {
+  return jet::textOf(jet::val(QString(typed).remove(u',')));
+}
