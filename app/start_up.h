@@ -1,0 +1,46 @@
+#pragma once
+// From the entry to the open handles and back, in the order that the data files count on. No windows: the start
+// window shows what screen() tells and hands in what is typed.
+#include <QString>
+#include <functional>
+
+#include "store/session.h"
+
+/** What the start window shows after its load. */
+struct StartScreen {
+  QString identify;              ///< lblIdentify
+  QString user;                  ///< txtUser
+  QString password;              ///< txtPassword: "엔터치세요" when Enter alone signs in, else empty
+  bool passwordVisible = false;  ///< no password character
+  QString company;               ///< PnlCompany of the main window
+};
+
+enum class SignIn { Accepted, TryAgain, EndProgram };
+
+class StartUp {
+ public:
+  explicit StartUp(Session& session) : session_(session) {}
+
+  /** The entry: the steps before the start window, then showStartWindow, whose load event calls load(), then the
+   *  steps after it. False when the data files cannot be used; that has been told, the program must end. */
+  bool SubMain(const std::function<void()>& showStartWindow);
+  /** The start window's load event. */
+  void load();
+  const StartScreen& screen() const { return screen_; }
+
+  /** Enter in the password box; boxes are shown here. */
+  SignIn enterPassword(const QString& typed);
+  /** Closing the start window: asks; on yes the date format is set back and the files are closed. */
+  bool askToLeave();
+
+  /** Links all year files to Basic.mdb anew, as most commands do first. */
+  void relink();
+  /** The main window's unload, after its question: settings, date format, handles. */
+  void shutDown();
+
+ private:
+  Session& session_;
+  StartScreen screen_;
+  int failures_ = 0;
+  bool usable_ = true;
+};
