@@ -34,8 +34,10 @@ bool BuildingSearch::loadBuildings() {
     if (rows.empty() || rows.back().front() != name) rows.push_back({name, "0", apt["Address"].toText()});
     rows.back()[1] = QString::number(rows.back()[1].toInt() + 1);
   }
+  const bool any = !rows.empty();
   buildings_.setRows(std::move(rows));
-  return true;
+  if (!any) session_.prompts.MsgInfo("등록된 건물이 없습니다!", "건물관리자");
+  return any;
 }
 
 bool BuildingSearch::loadBlocks(const QString& name) {

@@ -9,7 +9,8 @@ class BuildingSearch {
  public:
   BuildingSearch(Session& session, HouseStyle style);
 
-  /** Buildings of the style, one row each: name, count of blocks, address. False after a failed query. */
+  /** Buildings of the style, one row each: name, count of blocks, address. False after telling that there are
+   *  none, or after a failed query. */
   bool loadBuildings();
   SpreadModel& buildings() { return buildings_; }
 

@@ -3,6 +3,7 @@
 #include "master/client_checks.h"
 #include "master/client_rows.h"
 #include "master/client_statements.h"
+#include "master/tel_format.h"
 #include "store/data_access.h"
 #include "store/jet/format_rules.h"
 
@@ -146,8 +147,9 @@ ClientSaved ClientRegister::save(const ClientEntry& boxes) {
     session_.prompts.MsgWarn("신규등록은 신규버튼을 누른후 입력해 주십시오", registerOfClients);
     return {.focus = ClientBox::New};
   }
-  if (const auto box = missingOrWrong(session_, boxes)) return {.focus = *box};
   ClientEntry client = boxes;
+  for (QString* tel : {&client.tel, &client.tel1, &client.tel2}) *tel = FormatTel(*tel).text;
+  if (const auto box = missingOrWrong(session_, client)) return {.focus = *box};
   client.houseStyle = page();
   client.code = chosen_.code;
   return new_ ? insert(client) : change(client);
