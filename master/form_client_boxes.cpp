@@ -13,7 +13,7 @@ namespace {
 constexpr int moneyLimit = 999999999;
 constexpr int pairsARow = 4;
 
-QString textOf(const QLineEdit* box) {
+QString typedText(const QLineEdit* box) {
   return box ? box->text().trimmed() : QString();
 }
 
@@ -234,13 +234,13 @@ void ClientBoxes::show(const ClientEntry& entry) {
 ClientEntry ClientBoxes::entry() const {
   ClientEntry entry;
   entry.houseStyle = style_;
-  entry.name = textOf(name_);
-  entry.uname = textOf(uname_);
+  entry.name = typedText(name_);
+  entry.uname = typedText(uname_);
   QString* const tels[] = {&entry.tel, &entry.tel1, &entry.tel2};
-  for (int i = 0; i < tels_.size(); ++i) *tels[i] = textOf(tels_[i]);
-  entry.postCode = textOf(post_);
-  entry.address = textOf(address_);
-  entry.memo = textOf(memo_);
+  for (int i = 0; i < tels_.size(); ++i) *tels[i] = typedText(tels_[i]);
+  entry.postCode = typedText(post_);
+  entry.address = typedText(address_);
+  entry.memo = typedText(memo_);
   if (birth_) entry.birth = birth_->dateText();
   if (appDate_) entry.appDate = appDate_->dateText();
   if (gasInit_) entry.gasInit = gasInit_->plainText();
@@ -249,14 +249,14 @@ ClientEntry ClientBoxes::entry() const {
     if (payWays_[i]->isChecked()) entry.payWay = PayWay(i + 1);
   }
   entry.volume = volume_->isChecked();
-  entry.pressure = textOf(pressure_);
+  entry.pressure = typedText(pressure_);
   entry.volumeUnit = unit_->plainText();
-  entry.bdName = textOf(building_);
-  entry.dong = textOf(dong_);
-  entry.ho = textOf(ho_);
-  entry.serial = textOf(serial_);
-  entry.status = textOf(status_);
-  entry.item = textOf(item_);
+  entry.bdName = typedText(building_);
+  entry.dong = typedText(dong_);
+  entry.ho = typedText(ho_);
+  entry.serial = typedText(serial_);
+  entry.status = typedText(status_);
+  entry.item = typedText(item_);
   return entry;
 }
 
@@ -298,10 +298,10 @@ bool ClientBoxes::date(DateBox* box) {
 }
 
 bool ClientBoxes::enter(QWidget* box) {
-  if (box == post_ && post_->isModified() && !textOf(post_).isEmpty())
+  if (box == post_ && post_->isModified() && !typedText(post_).isEmpty())
     return fill(&ClientBoxes::postCode, address_);
-  if (box == pressure_ && textOf(pressure_).isEmpty()) return fill(&ClientBoxes::regulator, unit_);
-  if (building_ && box == building_ && textOf(building_).isEmpty()) return fill(&ClientBoxes::building, ho_);
+  if (box == pressure_ && typedText(pressure_).isEmpty()) return fill(&ClientBoxes::regulator, unit_);
+  if (building_ && box == building_ && typedText(building_).isEmpty()) return fill(&ClientBoxes::building, ho_);
   if (payWays_.contains(static_cast<QRadioButton*>(box))) {
     Form::focus(volume_);
     return true;
