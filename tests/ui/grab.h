@@ -1,0 +1,52 @@
+#pragma once
+// What the tests of forms share: pictures of a window, keys and input-method events as the PC sends them.
+#include <QApplication>
+#include <QDir>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <QWidget>
+
+namespace tests {
+
+/** Saves the window as NAME.png in the folder that HAEON_PICTURES names; does nothing when it is not set. */
+inline void grab(QWidget& window, const QString& name) {
+  const QString folder = qEnvironmentVariable("HAEON_PICTURES");
+  if (folder.isEmpty()) return;
+  QDir().mkpath(folder);
+  QApplication::processEvents();
+  window.grab().save(folder + u'/' + name + QStringLiteral(".png"));
+}
+
+/** Shows a window in front, with the focus in it. */
+inline void show(QWidget& window) {
+  window.show();
+  window.activateWindow();
+  QApplication::setActiveWindow(&window);
+  QApplication::processEvents();
+}
+
+/** A key to whatever has the focus. */
+inline void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  QWidget* const popup = QApplication::activePopupWidget();
+  QWidget* const target = popup ? popup : QApplication::focusWidget();
+  ASSERT_TRUE(target) << "nothing has the focus";
+  QTest::keyClick(target, Qt::Key(key), modifiers);
+}
+
+/** Latin letters and digits, typed. */
+inline void type(const QString& text) {
+  for (const QChar letter : text) QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
+}
+
+/** The syllables an input method composes: every step as preedit, then the commit. */
+inline void compose(const QStringList& preedits, const QString& commit) {
+  for (const QString& preedit : preedits) {
+    QInputMethodEvent step(preedit, {});
+    QApplication::sendEvent(QApplication::focusWidget(), &step);
+  }
+  QInputMethodEvent done;
+  done.setCommitString(commit);
+  QApplication::sendEvent(QApplication::focusWidget(), &done);
+}
+
+}  // namespace tests
