@@ -15,6 +15,7 @@
 #include <QUrl>
 
 #include "app/company_profile.h"
+#include "app/form_child_window.h"
 #include "app/form_ground.h"
 #include "app/form_table.h"
 #include "app/form_tool_icons.h"
@@ -52,6 +53,10 @@ frmMain::frmMain(Session& session, Pickers& pickers, QWidget* parent)
 }
 
 frmMain::~frmMain() = default;
+
+void frmMain::start() {
+  guard([&] { caller_->OpenSeeID(); });
+}
 
 // --- menu, tool bar, status line --------------------------------------------------------------------------------
 
@@ -152,7 +157,8 @@ void frmMain::refresh() {
   for (const auto& entry : commandMap())
     if (QAction* action = actions_.value(entry.objectName())) action->setEnabled(isOn(entry));
   actions_[u"mnu_SeeIDEnabled"_s]->setChecked(caller_->enabled());
-  guard([&] { pnlCompany_->setText(CompanyProfile(session_).companyName()); });
+  // Once the files are closed (a new data folder was chosen) the window only waits for its end.
+  if (session_.dbBasic.isOpen()) guard([&] { pnlCompany_->setText(CompanyProfile(session_).companyName()); });
 }
 
 // --- commands ---------------------------------------------------------------------------------------------------
@@ -236,7 +242,7 @@ bool frmMain::hiddenCommand(Qt::KeyboardModifiers keys) {
 
 bool frmMain::showOpen(const QString& base, const QString& page) {
   for (QMdiSubWindow* window : ground_->subWindowList()) {
-    if (!window->widget() || window->widget()->objectName() != base) continue;
+    if (!static_cast<ChildWindow*>(window)->isOpen() || window->widget()->objectName() != base) continue;
     if (window->isMinimized()) window->showNormal();
     ground_->setActiveSubWindow(window);
     const FormEntry* entry = findForm(base);
@@ -259,8 +265,8 @@ bool frmMain::openForm(const QString& name) {
     return true;
   }
   if (entry->showPage && !page.isEmpty()) entry->showPage(form, page);
-  QMdiSubWindow* window = ground_->addSubWindow(form);
-  window->setAttribute(Qt::WA_DeleteOnClose);
+  auto* window = new ChildWindow(form);
+  ground_->addSubWindow(window);
   form->show();
   window->show();
   return true;

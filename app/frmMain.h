@@ -32,6 +32,8 @@ class frmMain : public QMainWindow, public Commands {
   Caller& caller() { return *caller_; }
   /** Company label and what the entries depend on, after the session has changed. */
   void refresh();
+  /** What runs once the window stands: the devices are opened. */
+  void start();
   /** Closes without asking. */
   void setSilentClose() { silentClose_ = true; }
   /** Links the year files anew; runs before the entries that ask for it. */
@@ -50,7 +52,6 @@ class frmMain : public QMainWindow, public Commands {
   void perform(const CommandEntry& entry);
   void showClock();
   bool showOpen(const QString& base, const QString& page);
-  QWidget* makeForm(const QString& name);
   bool hiddenCommand(Qt::KeyboardModifiers keys);
   void testCall();
   void askAndOpenAddress(const QString& question, const QString& address);

@@ -108,6 +108,7 @@ QGroupBox* frmUser::buildRates() {
   put(u"개별주택"_s, u"TxtRate"_s, u"TxtSecurity"_s, txtRate_, txtSecurity_);
   put(u"아파트"_s, u"TxtAptRate"_s, u"TxtAptSecurity"_s, txtAptRate_, txtAptSecurity_);
   put(u"다가구주택"_s, u"TxtManyRate"_s, u"TxtManySecurity"_s, txtManyRate_, txtManySecurity_);
+  grid->setRowStretch(row + 1, 1);
   return group;
 }
 

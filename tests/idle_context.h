@@ -1,6 +1,9 @@
 #pragma once
-// Pickers that a test overrides where it needs one: every other search is left without a choice.
-#include "master/pickers.h"
+// What a form is handed in a test that is about something else: searches that end without a choice, no other form,
+// nobody calling.
+#include <QStringList>
+
+#include "master/form_context.h"
 
 namespace tests {
 
@@ -17,6 +20,28 @@ struct IdlePickers : Pickers {
   std::optional<BuildingChoice> searchBuilding(int) override { return {}; }
   std::optional<QString> pickDate(const QString&) override { return {}; }
   bool checkPassword() override { return password; }
+};
+
+struct IdleCommands : Commands {
+  QStringList asked;  ///< names of the forms that were to be opened
+  bool openForm(const QString& name) override {
+    asked << name;
+    return false;
+  }
+  QWidget* activeForm() const override { return nullptr; }
+};
+
+struct IdleCalls : WaitingCalls {
+  QString TakeStanbyNumber() override { return {}; }
+};
+
+/** All of them around one session. */
+struct IdleContext {
+  explicit IdleContext(Session& session) : context{session, pickers, commands, calls} {}
+  IdlePickers pickers;
+  IdleCommands commands;
+  IdleCalls calls;
+  FormContext context;
 };
 
 }  // namespace tests
