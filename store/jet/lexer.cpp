@@ -2,6 +2,8 @@
 
 #include <QDate>
 
+#include "store/jet/error_texts.h"
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
@@ -30,7 +32,7 @@ QDate dateLiteral(QStringView text) {
 void throwSyntax(QStringView sql, qsizetype place, const QString& what) {
   const QString near = sql.mid(place, 20).toString();
   const QString where = near.isEmpty() ? u"문장의 끝"_s : u"%1번째 글자 '%2'"_s.arg(place + 1).arg(near);
-  throw Error(3075, u"쿼리 식의 구문 오류: %1 (%2)"_s.arg(what, where));
+  fail(3075, u"%1 (%2)"_s.arg(what, where));
 }
 
 Value Token::value() const {

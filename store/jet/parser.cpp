@@ -1,5 +1,7 @@
 #include "store/jet/parser.h"
 
+#include "store/jet/error_texts.h"
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
@@ -44,8 +46,7 @@ Statement Parser::statement() {
   } else {
     fail(u"SELECT, INSERT, UPDATE, DELETE 중 하나로 시작해야 합니다"_s);
   }
-  if (takeSymbol(";"_L1) && now().kind != Token::Kind::End)
-    throw Error(3142, u"SQL 문의 끝 뒤에 문자가 있습니다."_s);
+  if (takeSymbol(";"_L1) && now().kind != Token::Kind::End) jet::fail(3142);
   if (now().kind != Token::Kind::End) fail(u"연산자나 구분 기호가 없습니다"_s);
   return made;
 }
@@ -82,7 +83,7 @@ Statement Parser::insert() {
   std::vector<Expr> values = expressionList();
   expectSymbol(")"_L1);
   if (!made.columnsNamed) made.assigns.resize(values.size());
-  if (values.size() != made.assigns.size()) throw Error(3346, u"쿼리 값의 수와 대상 필드의 수가 다릅니다."_s);
+  if (values.size() != made.assigns.size()) jet::fail(3346);
   for (size_t i = 0; i < values.size(); ++i) made.assigns[i].value = std::move(values[i]);
   return made;
 }
@@ -213,6 +214,7 @@ From Parser::joinedTo(From left) {
 }
 
 From Parser::table() {
+  const Deeper deeper(*this);
   From made;
   made.place = now().place;
   if (takeSymbol("("_L1)) {

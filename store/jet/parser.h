@@ -62,6 +62,15 @@ class Parser {
   Expr tested(Expr left, bool negated);
   std::vector<Expr> expressionList();
   using Level = Expr (Parser::*)();
+  /** Goes down one level of brackets or signs; 3360 where no reasonable statement goes. */
+  class Deeper {
+   public:
+    explicit Deeper(Parser& parser);
+    ~Deeper() { --parser_.depth_; }
+
+   private:
+    Parser& parser_;
+  };
   Expr leftToRight(Level operand, Expr::Kind kind, std::initializer_list<QLatin1StringView> ops);
 
   const Token& now() const { return tokens_[at_]; }
@@ -83,6 +92,7 @@ class Parser {
   QString sql_;
   std::vector<Token> tokens_;
   qsizetype at_ = 0;
+  int depth_ = 0;
 };
 
 }  // namespace jet

@@ -1,5 +1,7 @@
 #include "store/jet/parser.h"
 
+#include "store/jet/error_texts.h"
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,9 @@ bool isReservedWord(const Token& token) {
     if (token.isWord(word)) return true;
   return false;
 }
+
+constexpr int mostLevels = 24;  // SQLite takes some thirty functions within each other
+constexpr int mostTerms = 900;
 
 Expr parsedAt(Expr::Kind kind, qsizetype place) {
   Expr made;
@@ -36,17 +41,24 @@ Expr parsedPair(Expr::Kind kind, QString op, Expr left, Expr right) {
 
 Expr Parser::leftToRight(Level operand, Expr::Kind kind, std::initializer_list<QLatin1StringView> ops) {
   Expr left = (this->*operand)();
-  for (;;) {
+  for (int terms = 1;; ++terms) {
     const QLatin1StringView* found = nullptr;
     for (const auto& op : ops)
       if (QChar(op.front()).isLetter() ? isWord(op) : isSymbol(op)) found = &op;
     if (!found) return left;
+    if (terms > mostTerms) jet::fail(3360);
     take();
     left = parsedPair(kind, *found, std::move(left), (this->*operand)());
   }
 }
 
+Parser::Deeper::Deeper(Parser& parser) : parser_(parser) {
+  if (parser.depth_ >= mostLevels) jet::fail(3360);
+  ++parser.depth_;
+}
+
 Expr Parser::expression() {
+  const Deeper deeper(*this);
   return equivalence();
 }
 
@@ -63,6 +75,7 @@ Expr Parser::conjunction() {
 Expr Parser::negation() {
   const qsizetype place = now().place;
   if (!takeWord("NOT"_L1)) return comparison();
+  const Deeper deeper(*this);
   Expr made = parsedAt(Expr::Kind::Not, place);
   made.operands.push_back(negation());
   return made;
@@ -142,8 +155,10 @@ Expr Parser::product() {
 
 Expr Parser::sign() {
   const qsizetype place = now().place;
+  if (!isSymbol("+"_L1) && !isSymbol("-"_L1)) return power();
+  const Deeper deeper(*this);
   if (takeSymbol("+"_L1)) return sign();
-  if (!takeSymbol("-"_L1)) return power();
+  take();
   Expr made = parsedAt(Expr::Kind::Negate, place);
   made.operands.push_back(sign());
   return made;

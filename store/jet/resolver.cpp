@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "store/jet/error_texts.h"
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
@@ -21,7 +23,14 @@ void sortAsWritten(std::vector<const From*>& sources) {
 const From& sourceNamed(const std::vector<const From*>& sources, const QString& name) {
   for (const From* source : sources)
     if (sameName(source->alias, name)) return *source;
-  throwUnknownName(name);
+  fail(3061, name);
+}
+
+void checkOnce(const std::vector<Assignment>& assigns, const Assignment& now) {
+  for (const Assignment& earlier : assigns) {
+    if (&earlier == &now) return;
+    if (earlier.field.name == now.field.name) fail(3063, now.field.name);
+  }
 }
 
 /** Shown for a calculated column without AS. */
@@ -59,18 +68,14 @@ void Resolver::resolveInsert(Statement& statement) {
     statement.assigns.resize(fields.size());
     for (size_t i = 0; i < fields.size(); ++i) statement.assigns[i].name = fields[i].name;
   }
-  if (given != statement.assigns.size()) throw Error(3346, u"쿼리 값의 수와 대상 필드의 수가 다릅니다."_s);
+  if (given != statement.assigns.size()) fail(3346);
 
   for (Assignment& assign : statement.assigns) {
     const Field* field = findField(fields, assign.name);
     if (!field || !(assign.qualifier.isEmpty() || sameName(assign.qualifier, into.alias)))
-      throw Error(3127, u"INSERT INTO 문에 알 수 없는 필드 이름 '%1'이(가) 있습니다."_s.arg(assign.name));
-    for (const Assignment& earlier : statement.assigns) {
-      if (&earlier == &assign) break;
-      if (earlier.field.name == field->name)
-        throw Error(3063, u"출력 대상 '%1'이(가) 중복되었습니다."_s.arg(field->name));
-    }
+      fail(3127, assign.name);
     assign.field = *field;
+    checkOnce(statement.assigns, assign);
     if (!statement.fromSelect) resolveExpr(assign.value, Scope());
   }
 }
@@ -85,13 +90,11 @@ void Resolver::resolveUpdate(Statement& statement) {
     name.qualifier = assign.qualifier;
     resolveColumn(name, scope);
     const From& source = sourceNamed(scope.sources, name.source);
-    if ((target && target != &source) || source.kind != From::Kind::Table)
-      throw Error(3073, u"업데이트할 수 있는 쿼리가 아닙니다."_s);
+    if ((target && target != &source) || source.kind != From::Kind::Table) fail(3073);
     target = &source;
     assign.field = *findField(source.info.fields, name.column);
-    if (assign.field.autonumber)
-      throw Error(3113, u"'%1'을(를) 업데이트할 수 없습니다. 필드를 업데이트할 수 없습니다."_s.arg(
-                            assign.field.name));
+    checkOnce(statement.assigns, assign);
+    if (assign.field.autonumber) fail(3113, assign.field.name);
     resolveExpr(assign.value, scope);
   }
   if (statement.where) resolveExpr(*statement.where, scope);
@@ -105,7 +108,7 @@ void Resolver::resolveDelete(Statement& statement) {
   const From& target = statement.deleteTable.isEmpty() ? *scope.sources.front()
                                                        : sourceNamed(scope.sources, statement.deleteTable);
   if (target.kind != From::Kind::Table || (scope.sources.size() > 1 && statement.deleteTable.isEmpty()))
-    throw Error(3128, u"삭제할 레코드가 들어 있는 테이블을 지정하십시오."_s);
+    fail(3128);
   statement.target = target.info;
   statement.targetSource = target.alias;
   if (statement.where) resolveExpr(*statement.where, scope);
@@ -115,15 +118,14 @@ void Resolver::resolveDefinition(Statement& statement) {
   const QString& name = statement.definition.name;
   const std::optional<TableInfo> table = catalogue_.table(name);
   if (statement.kind == Compiled::Kind::CreateTable) {
-    if (table) throw Error(3010, u"'%1' 테이블이 이미 있습니다."_s.arg(name));
+    if (table) fail(3010, name);
     return;
   }
-  if (!table) throw Error(3376, u"'%1' 테이블이 없습니다."_s.arg(name));
+  if (!table) fail(3376, name);
   statement.target = *table;
   if (statement.kind == Compiled::Kind::AddColumn &&
       findField(table->fields, statement.definition.fields.front().name))
-    throw Error(3380, u"'%1' 필드가 '%2' 테이블에 이미 있습니다."_s.arg(
-                          statement.definition.fields.front().name, name));
+    fail(3380, statement.definition.fields.front().name);
 }
 
 void Resolver::resolveFrom(std::vector<From>& from, Scope& scope) {
@@ -134,8 +136,7 @@ void Resolver::resolveFrom(std::vector<From>& from, Scope& scope) {
   sortAsWritten(scope.sources);
   for (const From* source : scope.sources)
     for (const From* other : scope.sources)
-      if (source != other && sameName(source->alias, other->alias))
-        throw Error(3012, u"'%1' 개체가 FROM 절에 두 번 있습니다."_s.arg(source->alias));
+      if (source != other && sameName(source->alias, other->alias)) fail(3012, source->alias);
   for (From& each : from) resolveOn(each, scope);
 }
 
@@ -164,7 +165,7 @@ void Resolver::resolveOn(From& from, const Scope& scope) {
 TableInfo Resolver::tableOf(const From& from) {
   std::optional<TableInfo> found =
       from.path.isEmpty() ? catalogue_.table(from.table) : catalogue_.tableIn(from.path, from.table);
-  if (!found) throw Error(3078, u"입력 테이블이나 쿼리 '%1'을(를) 찾을 수 없습니다."_s.arg(from.table));
+  if (!found) fail(3078, from.table);
   return *std::move(found);
 }
 
@@ -196,7 +197,7 @@ void Resolver::expandStars(Select& select, const Scope& scope) {
       items.push_back(std::move(item));
       continue;
     }
-    if (scope.sources.empty()) throw Error(3067, u"쿼리 입력에 테이블이나 쿼리가 하나 이상 있어야 합니다."_s);
+    if (scope.sources.empty()) fail(3067);
     if (!item.starTable.isEmpty()) sourceNamed(scope.sources, item.starTable);
     for (const From* source : scope.sources) {
       if (!item.starTable.isEmpty() && !sameName(source->alias, item.starTable)) continue;
@@ -237,8 +238,7 @@ void Resolver::resolveColumns(Select& select, const Scope& scope) {
 void Resolver::resolveUnions(Select& select, const Scope* outer) {
   for (Select& next : select.unions) {
     resolveSelect(next, outer);
-    if (next.columns.size() != select.columns.size())
-      throw Error(3307, u"UNION의 두 쿼리의 열의 수가 다릅니다."_s);
+    if (next.columns.size() != select.columns.size()) fail(3307);
   }
 }
 
@@ -246,8 +246,7 @@ void Resolver::resolveUnions(Select& select, const Scope* outer) {
 void Resolver::resolveOrder(Select& select, Scope& scope) {
   for (OrderItem& item : select.orderBy) {
     if (item.position > 0) {
-      if (item.position > int(select.columns.size()))
-        throw Error(3138, u"ORDER BY 절의 위치 %1이(가) 잘못되었습니다."_s.arg(item.position));
+      if (item.position > int(select.columns.size())) fail(3138, QString::number(item.position));
       item.expr = select.items[item.position - 1].expr;
       continue;
     }
@@ -255,7 +254,7 @@ void Resolver::resolveOrder(Select& select, Scope& scope) {
       for (size_t i = 0; i < select.columns.size() && item.position == 0; ++i)
         if (item.expr.kind == Expr::Kind::Column && sameName(select.columns[i].name, item.expr.name))
           item.position = int(i) + 1;
-      if (item.position == 0) throw Error(3351, u"ORDER BY 식이 UNION의 필드가 아닙니다."_s);
+      if (item.position == 0) fail(3351);
       item.expr = select.items[item.position - 1].expr;
       continue;
     }
@@ -263,7 +262,7 @@ void Resolver::resolveOrder(Select& select, Scope& scope) {
     if (!select.distinct) continue;
     for (size_t i = 0; i < select.items.size() && item.position == 0; ++i)
       if (sameExpr(select.items[i].expr, item.expr)) item.position = int(i) + 1;
-    if (item.position == 0) throw Error(3093, u"ORDER BY 절이 DISTINCT와 충돌합니다."_s);
+    if (item.position == 0) fail(3093);
   }
 }
 
@@ -277,8 +276,7 @@ void Resolver::checkGrouped(const Expr& expr, const std::vector<Expr>& groups) c
   if (expr.kind == Expr::Kind::Aggregate) return;
   for (const Expr& group : groups)
     if (sameExpr(group, expr)) return;
-  if (expr.kind == Expr::Kind::Column)
-    throw Error(3122, u"집계 함수의 일부로 지정한 식 '%1'을(를) 포함하지 않는 쿼리입니다."_s.arg(expr.name));
+  if (expr.kind == Expr::Kind::Column) fail(3122, expr.name);
   for (const Expr& operand : expr.operands) checkGrouped(operand, groups);
 }
 

@@ -53,6 +53,5 @@ bool sameExpr(const Expr& left, const Expr& right);
 /** Case does not matter in names. */
 bool sameName(QStringView left, QStringView right);
 const Field* findField(const std::vector<Field>& fields, QStringView name);
-[[noreturn]] void throwUnknownName(const QString& name);
 
 }  // namespace jet

@@ -1,3 +1,4 @@
+#include "store/jet/error_texts.h"
 #include "store/jet/known_functions.h"
 #include "store/jet/resolver.h"
 
@@ -45,8 +46,7 @@ Holds holdsEither(Holds left, Holds right) {
 }
 
 void checkComparable(Holds left, Holds right) {
-  if ((left == Holds::Text && holdsNumber(right)) || (right == Holds::Text && holdsNumber(left)))
-    throw Error(3464, u"조건식의 데이터 형식이 일치하지 않습니다."_s);
+  if ((left == Holds::Text && holdsNumber(right)) || (right == Holds::Text && holdsNumber(left))) fail(3464);
 }
 
 }  // namespace
@@ -98,16 +98,10 @@ const Field* findField(const std::vector<Field>& fields, QStringView name) {
   return nullptr;
 }
 
-void throwUnknownName(const QString& name) {
-  throw Error(3061,
-              u"매개 변수가 너무 적습니다. 1개가 필요합니다. ('%1'을(를) 찾을 수 없습니다.)"_s.arg(name));
-}
-
 void Resolver::resolveExpr(Expr& expr, const Scope& scope) {
   if (expr.kind == Expr::Kind::Column) return resolveColumn(expr, scope);
   if (expr.kind == Expr::Kind::Aggregate) {
-    if (!scope.aggregates)
-      throw Error(3096, u"이 곳에는 집계 함수 %1을(를) 쓸 수 없습니다."_s.arg(expr.name));
+    if (!scope.aggregates) fail(3096, expr.name);
     if (scope.aggregated) *scope.aggregated = true;
     Scope inner = scope;
     inner.aggregates = false;  // no Sum within a Sum
@@ -117,8 +111,7 @@ void Resolver::resolveExpr(Expr& expr, const Scope& scope) {
   }
   for (Select& query : expr.query) {
     resolveSelect(query, &scope);
-    if (expr.kind != Expr::Kind::Exists && query.columns.size() != 1)
-      throw Error(3306, u"하위 쿼리는 필드를 하나만 가질 수 있습니다."_s);
+    if (expr.kind != Expr::Kind::Exists && query.columns.size() != 1) fail(3306);
   }
   auto held = [&](size_t operand) { return expr.operands[operand].holds; };
   switch (expr.kind) {
@@ -168,7 +161,7 @@ void Resolver::resolveExpr(Expr& expr, const Scope& scope) {
 void Resolver::resolveColumn(Expr& expr, const Scope& scope) {
   for (const Scope* each = &scope; each; each = each->outer)
     if (findColumn(expr, *each)) return;
-  throwUnknownName(expr.qualifier.isEmpty() ? expr.name : expr.qualifier + u'.' + expr.name);
+  fail(3061, expr.qualifier.isEmpty() ? expr.name : expr.qualifier + u'.' + expr.name);
 }
 
 bool Resolver::findColumn(Expr& expr, const Scope& scope) {
@@ -177,8 +170,7 @@ bool Resolver::findColumn(Expr& expr, const Scope& scope) {
     if (!expr.qualifier.isEmpty() && !sameName(source->alias, expr.qualifier)) continue;
     const Field* field = findField(source->info.fields, expr.name);
     if (!field) continue;
-    if (found)
-      throw Error(3079, u"지정한 필드 '%1'은(는) FROM 절의 둘 이상의 테이블에 있습니다."_s.arg(expr.name));
+    if (found) fail(3079, expr.name);
     found = true;
     expr.source = source->alias;
     expr.column = field->name;
@@ -189,10 +181,10 @@ bool Resolver::findColumn(Expr& expr, const Scope& scope) {
 
 void Resolver::resolveCall(Expr& expr) {
   const KnownFunction* known = knownFunction(expr.name);
-  if (!known) throw Error(3085, u"식에 정의되지 않은 함수 '%1'이(가) 있습니다."_s.arg(expr.name));
+  if (!known) fail(3085, expr.name);
   const int count = int(expr.operands.size());
   if (count < known->least || count > known->most)
-    throw Error(3075, u"쿼리 식의 구문 오류: 함수 %1의 인수의 수가 다릅니다."_s.arg(expr.name));
+    fail(3075, u"함수 %1의 인수의 수가 다릅니다"_s.arg(expr.name));
   expr.name = known->written;
   expr.holds = known->holds;
 }

@@ -15,6 +15,9 @@ struct Select;
 
 /** What an expression yields, as far as it is known before the rows. */
 enum class Holds { Nothing, YesNo, Whole, Floating, Text, Any };
+inline bool holdsNoText(Holds holds) {
+  return holds != Holds::Text && holds != Holds::Any;
+}
 
 struct Expr {
   enum class Kind {

@@ -116,7 +116,7 @@ void Writer::writeDelete(const Statement& statement) {
 }
 
 void Writer::writeQuery(const Select& select, bool named) {
-  if (select.top > 0) return writeTop(select, named);
+  if (select.top > 0 && select.unions.empty()) return writeTop(select, named);
   writeBody(select, named);
   if (select.orderBy.empty()) return;
   *this << " ORDER BY ";
@@ -132,34 +132,41 @@ void Writer::writeTop(const Select& select, bool named) {
     *this << " LIMIT " << select.top;
     return;
   }
-  auto columns = [&] {
-    list(select.columns.size() + keySources_.size(), [&](size_t i) { *this << "\"c" << int(i + 1) << "\""; });
-  };
   *this << "SELECT ";
-  columns();
+  list(select.columns.size() + keyCount(), [&](size_t i) { *this << "\"c" << int(i + 1) << "\""; });
   *this << " FROM (SELECT *, rank() OVER (ORDER BY ";
   list(select.orderBy.size(), [&](size_t i) {
-    *this << "\"o" << int(i + 1) << "\"" << (select.orderBy[i].descending ? " DESC" : "");
+    const OrderItem& item = select.orderBy[i];
+    if (select.distinct)
+      *this << "\"c" << item.position << "\"";
+    else
+      *this << "\"o" << int(i + 1) << "\"";
+    collate(item.expr);
+    if (item.descending) *this << " DESC";
   });
   *this << ") AS \"place\" FROM (";
-  if (select.distinct || !select.unions.empty()) {
-    *this << "SELECT *, ";
-    list(select.orderBy.size(), [&](size_t i) {
-      const OrderItem& item = select.orderBy[i];
-      *this << "\"c" << item.position << "\""
-            << (select.items[item.position - 1].expr.holds == Holds::Text ? " COLLATE JET" : "") << " AS \"o"
-            << int(i + 1) << "\"";
-    });
-    *this << " FROM (";
-    writeBody(select, true);
-    *this << ")";
-  } else {
-    writeBody(select, true);
-  }
+  writeBody(select, true);
   *this << ")) WHERE \"place\" <= " << select.top << " ORDER BY \"place\"";
 }
 
 void Writer::writeBody(const Select& select, bool named) {
+  if (select.unions.empty()) return writeCore(select, named);
+  writeUnionPart(select, named);
+  for (const Select& next : select.unions) {
+    *this << (next.unionAll ? " UNION ALL " : " UNION ");
+    writeUnionPart(next, false);
+  }
+}
+
+/** TOP within a UNION cuts its own part only, which has no order there. */
+void Writer::writeUnionPart(const Select& select, bool named) {
+  if (select.top == 0) return writeCore(select, named);
+  *this << "SELECT * FROM (";
+  writeCore(select, named);
+  *this << " LIMIT " << select.top << ")";
+}
+
+void Writer::writeCore(const Select& select, bool named) {
   around_.push_back(&select);
   *this << (select.distinct ? "SELECT DISTINCT " : "SELECT ");
   writeItems(select, named);
@@ -175,7 +182,7 @@ void Writer::writeBody(const Select& select, bool named) {
     *this << " GROUP BY ";
     list(select.groupBy.size(), [&](size_t i) {
       writeValue(select.groupBy[i]);
-      if (select.groupBy[i].holds == Holds::Text) *this << " COLLATE JET";
+      collate(select.groupBy[i]);
     });
   }
   if (select.having) {
@@ -183,19 +190,13 @@ void Writer::writeBody(const Select& select, bool named) {
     writeCondition(*select.having);
   }
   around_.pop_back();
-  for (const Select& next : select.unions) {
-    *this << (next.unionAll ? " UNION ALL " : " UNION ");
-    if (next.top > 0) *this << "SELECT * FROM (";
-    writeQuery(next, false);
-    if (next.top > 0) *this << ")";
-  }
 }
 
 void Writer::writeItems(const Select& select, bool named) {
   const bool compares = select.distinct || !select.unions.empty();
   list(select.items.size(), [&](size_t i) {
     writeValue(select.items[i].expr);
-    if (compares && select.items[i].expr.holds == Holds::Text) *this << " COLLATE JET";
+    if (compares) collate(select.items[i].expr);
     if (named) *this << " AS \"c" << int(i + 1) << "\"";
   });
   if (around_.size() == 1) {
@@ -206,11 +207,10 @@ void Writer::writeItems(const Select& select, bool named) {
       if (named) *this << " AS \"c" << int(select.items.size() + i + 1) << "\"";
     }
   }
-  if (select.top == 0 || compares) return;
+  if (select.top == 0 || compares) return;  // for the ranks of writeTop
   for (size_t i = 0; i < select.orderBy.size(); ++i) {
     *this << ", ";
     writeValue(select.orderBy[i].expr);
-    if (select.orderBy[i].expr.holds == Holds::Text) *this << " COLLATE JET";
     *this << " AS \"o" << int(i + 1) << "\"";
   }
 }
@@ -221,7 +221,7 @@ void Writer::writeOrder(const std::vector<OrderItem>& order) {
       *this << order[i].position;
     else
       writeValue(order[i].expr);
-    if (order[i].expr.holds == Holds::Text) *this << " COLLATE JET";
+    collate(order[i].expr);
     if (order[i].descending) *this << " DESC";
   });
 }

@@ -19,10 +19,14 @@ class Writer {
   void writeUpdate(const Statement& statement);
   void writeDelete(const Statement& statement);
 
+  /** Rowids are asked of the outermost query only. */
+  size_t keyCount() const { return around_.empty() ? keySources_.size() : 0; }
   /** The whole of a query; named gives its columns the names c1, c2, ... for a statement around it. */
   void writeQuery(const Select& select, bool named);
   void writeTop(const Select& select, bool named);
   void writeBody(const Select& select, bool named);
+  void writeUnionPart(const Select& select, bool named);
+  void writeCore(const Select& select, bool named);
   void writeItems(const Select& select, bool named);
   void writeOrder(const std::vector<OrderItem>& order);
   void writeFromList(const std::vector<From>& from);
@@ -37,13 +41,17 @@ class Writer {
   void writeJoinedText(const Expr& expr);
   void writeLiteral(const Expr& expr);
   void writeArithmetic(const Expr& expr);
+  void writeChain(const Expr& expr);
   void writeLogicalValue(const Expr& expr);
   void writeLogicalCondition(const Expr& expr);
+  void writeLogicalSides(const Expr& expr);
   void writeCompare(const Expr& expr);
   void writeIn(const Expr& expr);
   void writeCase(const Expr& expr);
   void writeCall(const Expr& expr);
   void writeAggregate(const Expr& expr);
+  /** Texts are compared, grouped and ordered by the engine's collation. */
+  void collate(const Expr& expr);
   /** A value on its way into a column. */
   void writePut(const Field& field, const Expr& value);
 

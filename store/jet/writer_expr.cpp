@@ -6,10 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool writesNumber(Holds holds) {
-  return holds != Holds::Text && holds != Holds::Any;
-}
-
 /** SQLite answers these with 1 and 0, where a value has to be -1 and 0. */
 bool isCondition(const Expr& expr) {
   switch (expr.kind) {
@@ -28,7 +24,25 @@ bool isCondition(const Expr& expr) {
   }
 }
 
+/** A sum of which neither side is known to be text or number: the rows decide. */
+bool addsUnknown(const Expr& expr) {
+  return expr.op == u'+' && expr.holds == Holds::Any;
+}
+
+/** What may follow what without brackets. */
+enum class Chain { None, Joined, Summed, Multiplied };
+Chain chainOf(const Expr& expr) {
+  if (expr.op == u'&') return Chain::Joined;
+  if (expr.op == u'*') return Chain::Multiplied;
+  const bool sums = expr.op == u'-' || (expr.op == u'+' && expr.holds != Holds::Text && !addsUnknown(expr));
+  return sums ? Chain::Summed : Chain::None;
+}
+
 }  // namespace
+
+void Writer::collate(const Expr& expr) {
+  if (!holdsNoText(expr.holds)) *this << " COLLATE JET";
+}
 
 void Writer::writeValue(const Expr& expr) {
   if (isCondition(expr)) {
@@ -96,7 +110,7 @@ void Writer::writeCondition(const Expr& expr) {
     case Expr::Kind::Between:
       *this << "(";
       writeValue(expr.operands[0]);
-      if (expr.operands[0].holds == Holds::Text) *this << " COLLATE JET";
+      collate(expr.operands[0]);
       *this << (expr.negated ? " NOT BETWEEN " : " BETWEEN ");
       writeValue(expr.operands[1]);
       *this << " AND ";
@@ -131,7 +145,7 @@ void Writer::writeCondition(const Expr& expr) {
 }
 
 void Writer::writeNumber(const Expr& expr) {
-  if (writesNumber(expr.holds)) return writeValue(expr);
+  if (holdsNoText(expr.holds)) return writeValue(expr);
   *this << "jet_num(";
   writeValue(expr);
   *this << ")";
@@ -158,36 +172,43 @@ void Writer::writeJoinedText(const Expr& expr) {
 void Writer::writeArithmetic(const Expr& expr) {
   const Expr& left = expr.operands[0];
   const Expr& right = expr.operands[1];
-  const bool joins = expr.op == u'&' || (expr.op == u'+' && expr.holds == Holds::Text);
-  if (joins) {
-    *this << "(";
-    expr.op == u'&' ? writeJoinedText(left) : writeValue(left);
-    *this << " || ";
-    expr.op == u'&' ? writeJoinedText(right) : writeValue(right);
-    *this << ")";
-    return;
-  }
-  if (expr.op == u'+' && expr.holds == Holds::Any) {
-    *this << "jet_add(";
-    writeValue(left);
-    *this << ", ";
-    writeValue(right);
-    *this << ")";
-    return;
-  }
   const char* function = expr.op == u'/'       ? "jet_div"
                          : expr.op == u'\\'    ? "jet_idiv"
                          : expr.op == u'^'     ? "jet_pow"
                          : expr.op == "MOD"_L1 ? "jet_mod"
-                                               : "";
+                         : addsUnknown(expr)   ? "jet_add"
+                                               : nullptr;
+  if (!function) {
+    *this << "(";
+    writeChain(expr);
+    *this << ")";
+    return;
+  }
   *this << function << "(";
-  writeNumber(left);
-  if (*function)
-    *this << ", ";
-  else
-    *this << " " << expr.op << " ";
-  writeNumber(right);
+  addsUnknown(expr) ? writeValue(left) : writeNumber(left);
+  *this << ", ";
+  addsUnknown(expr) ? writeValue(right) : writeNumber(right);
   *this << ")";
+}
+
+/** a - b + c without brackets within: a long chain must not pile up brackets, of which SQLite takes less than 100. */
+void Writer::writeChain(const Expr& expr) {
+  const bool joins = expr.op == u'&' || (expr.op == u'+' && expr.holds == Holds::Text);
+  auto side = [&](const Expr& own) {
+    if (expr.op == u'&')
+      writeJoinedText(own);
+    else if (joins)
+      writeValue(own);
+    else
+      writeNumber(own);
+  };
+  const Expr& left = expr.operands[0];
+  if (left.kind == Expr::Kind::Arithmetic && chainOf(left) == chainOf(expr) && chainOf(expr) != Chain::None)
+    writeChain(left);
+  else
+    side(left);
+  *this << " " << (joins ? u"||"_s : expr.op) << " ";
+  side(expr.operands[1]);
 }
 
 /** And, Or and the like on numbers work on their bits. */
@@ -207,41 +228,53 @@ void Writer::writeLogicalValue(const Expr& expr) {
 }
 
 void Writer::writeLogicalCondition(const Expr& expr) {
-  const bool bothDenied = expr.op == "XOR"_L1 || expr.op == "EQV"_L1;
-  auto side = [&](size_t index, bool denied) {
+  *this << "(";
+  writeLogicalSides(expr);
+  *this << ")";
+}
+
+/** a AND b AND c without brackets within, as writeChain. */
+void Writer::writeLogicalSides(const Expr& expr) {
+  const bool plain = expr.op == "AND"_L1 || expr.op == "OR"_L1;
+  const bool bothDenied = !plain && expr.op != "IMP"_L1;
+  auto side = [&](const Expr& own, bool denied) {
     if (denied) *this << "(NOT ";
-    writeCondition(expr.operands[index]);
+    writeCondition(own);
     if (denied) *this << ")";
   };
-  *this << "(";
-  side(0, bothDenied || expr.op == "IMP"_L1);
-  *this << (expr.op == "AND"_L1   ? " AND "
-            : expr.op == "XOR"_L1 ? " <> "
-            : expr.op == "EQV"_L1 ? " = "
-                                  : " OR ");
-  side(1, bothDenied);
-  *this << ")";
+  const Expr& left = expr.operands[0];
+  if (plain && left.kind == Expr::Kind::Logical && left.op == expr.op && left.holds == Holds::YesNo)
+    writeLogicalSides(left);
+  else
+    side(left, !plain);
+  *this << " "
+        << (plain                 ? expr.op
+            : expr.op == "XOR"_L1 ? u"<>"_s
+            : expr.op == "EQV"_L1 ? u"="_s
+                                  : u"OR"_s)
+        << " ";
+  side(expr.operands[1], bothDenied);
 }
 
 void Writer::writeCompare(const Expr& expr) {
   const Expr& left = expr.operands[0];
   const Expr& right = expr.operands[1];
   auto side = [&](const Expr& own, const Expr& other) {
-    if (own.holds == Holds::Any && writesNumber(other.holds)) return writeNumber(own);
+    if (own.holds == Holds::Any && holdsNoText(other.holds)) return writeNumber(own);
     writeValue(own);
   };
   *this << "(";
   side(left, right);
   *this << " " << expr.op << " ";
   side(right, left);
-  if (!writesNumber(left.holds) || !writesNumber(right.holds)) *this << " COLLATE JET";
+  if (!holdsNoText(left.holds) || !holdsNoText(right.holds)) *this << " COLLATE JET";
   *this << ")";
 }
 
 void Writer::writeIn(const Expr& expr) {
   *this << "(";
   writeValue(expr.operands[0]);
-  if (!writesNumber(expr.operands[0].holds)) *this << " COLLATE JET";
+  collate(expr.operands[0]);
   *this << (expr.negated ? " NOT IN (" : " IN (");
   if (expr.query.empty())
     list(expr.operands.size() - 1, [&](size_t i) { writeValue(expr.operands[i + 1]); });
@@ -283,7 +316,7 @@ void Writer::writeAggregate(const Expr& expr) {
     writeNumber(operand);
   else
     writeValue(operand);
-  if ((expr.name == "MIN"_L1 || expr.name == "MAX"_L1) && !writesNumber(operand.holds))
+  if ((expr.name == "MIN"_L1 || expr.name == "MAX"_L1) && !holdsNoText(operand.holds))
     *this << " COLLATE JET";
   if (expr.name == "FIRST"_L1 || expr.name == "LAST"_L1) {
     // First and last by the order of entry in the first table of the query.
@@ -301,7 +334,7 @@ void Writer::writeAggregate(const Expr& expr) {
 }
 
 void Writer::writePut(const Field& field, const Expr& value) {
-  const bool number = writesNumber(value.holds);
+  const bool number = holdsNoText(value.holds);
   if (value.kind == Expr::Kind::Null && field.type != Type::Boolean) return writeValue(value);
   if (value.kind == Expr::Kind::Constant && field.type == Type::Boolean) return writeValue(value);
   if (field.type == Type::Double && number) return writeValue(value);
