@@ -23,12 +23,17 @@ FormEntry formEntry(const char16_t* name) {
 }
 
 // One line a form, by name.
+// clang-format off
 const FormEntry formTable[] = {
-    formEntry<FrmNetDrive>(u"FrmNetDrive"), formEntry<FrmPath>(u"FrmPath"),
-    formEntry<frmAbout>(u"frmAbout"),       formEntry<frmRefillState>(u"frmRefillState"),
-    formEntry<frmResponse>(u"frmResponse"), formEntry<frmUser>(u"frmUser"),
+    formEntry<frmAbout>(u"frmAbout"),
+    formEntry<FrmNetDrive>(u"FrmNetDrive"),
+    formEntry<FrmPath>(u"FrmPath"),
+    formEntry<frmRefillState>(u"frmRefillState"),
+    formEntry<frmResponse>(u"frmResponse"),
+    formEntry<frmUser>(u"frmUser"),
     formEntry<frmVolume>(u"frmVolume"),
 };
+// clang-format on
 
 }  // namespace
 
