@@ -6,6 +6,7 @@
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
+#include "master/frmGasUtil.h"
 #include "master/frmRefillState.h"
 #include "master/frmResponse.h"
 #include "master/frmVolume.h"
@@ -28,6 +29,7 @@ const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),
+    formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmUser>(u"frmUser"),
