@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 FrmInitMsg::FrmInitMsg(Session& session, QWidget* parent) : QDialog(parent) {
   setObjectName(u"FrmInitMsg"_s);
-  setWindowTitle(u"알림"_s);
+  setWindowTitle(u"공지"_s);
   auto* picture = new QLabel;
   picture->setObjectName(u"picMsg"_s);
   const QPixmap notice(

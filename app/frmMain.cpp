@@ -58,6 +58,15 @@ void frmMain::start() {
   guard([&] { caller_->OpenSeeID(); });
 }
 
+namespace {
+
+// A caption without its Alt letter.
+QString captionOf(const CommandEntry& entry) {
+  return entry.text().section(u"(&"_s, 0, 0);
+}
+
+}  // namespace
+
 // --- menu, tool bar, status line --------------------------------------------------------------------------------
 
 void frmMain::buildMenus() {
@@ -106,7 +115,7 @@ void frmMain::buildToolBar() {
       connect(button, &QToolButton::clicked, action, &QAction::trigger);
       connect(action, &QAction::changed, button,
               [button, action] { button->setEnabled(action->isEnabled()); });
-      button->setToolTip(action->text());
+      button->setToolTip(captionOf(*findCommand(command)));
     }
     bar->addWidget(button);
   }

@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 frmSplash::frmSplash(StartUp& startUp, Session& session, QWidget* parent)
     : QWidget(parent), startUp_(startUp), session_(session) {
   setObjectName(u"frmSplash"_s);
+  setWindowTitle(u"로그인"_s);
   setFixedSize(460, 290);
   lblIdentify_ = new QLabel;
   lblIdentify_->setObjectName(u"lblIdentify"_s);
@@ -47,7 +48,6 @@ frmSplash::frmSplash(StartUp& startUp, Session& session, QWidget* parent)
 }
 
 void frmSplash::load() {
-  setWindowTitle(session_.AppTitle);
   background_.load(session_.pc.paths.native(session_.pc.paths.programFolder() + u"\\Image\\loginbg.jpg"_s));
   update();
   startUp_.load();

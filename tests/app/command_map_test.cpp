@@ -16,13 +16,16 @@ QStringList entriesOf(const QString& menu) {
 }
 
 TEST(CommandMap, EveryEntryHangsInAMenuThatStandsBeforeItAndNoNameComesTwice) {
-  QSet<QString> names, menus{QString()};
+  QSet<QString> names, menus{QString()}, letters;
   for (const auto& entry : commandMap()) {
     const std::string name = entry.objectName().toStdString();
     EXPECT_TRUE(menus.contains(entry.menuName())) << name;
     EXPECT_FALSE(names.contains(entry.objectName())) << name;
     names << entry.objectName();
     if (entry.kind == CommandKind::Menu) menus << entry.objectName();
+    const QString letter = entry.menuName() + entry.text().section(u'&', 1);
+    EXPECT_FALSE(letters.contains(letter)) << name << " shares its Alt letter";
+    letters << letter;
     const bool opens = entry.kind == CommandKind::Form || entry.kind == CommandKind::Dialog;
     EXPECT_EQ(opens, !entry.formName().isEmpty()) << name;
   }
