@@ -10,6 +10,8 @@
 #include "master/frmRefillState.h"
 #include "master/frmResponse.h"
 #include "master/frmVolume.h"
+#include "trade/frmSale.h"
+#include "trade/frmTodaySale.h"
 
 namespace {
 
@@ -32,6 +34,8 @@ const FormEntry formTable[] = {
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResponse>(u"frmResponse"),
+    formEntry<frmSale>(u"frmSale"),
+    formEntry<frmTodaySale>(u"frmTodaySale"),
     formEntry<frmUser>(u"frmUser"),
     formEntry<frmVolume>(u"frmVolume"),
 };

@@ -13,14 +13,15 @@ bool isSaleFigure(int col) {
   return col >= SaleCol::Number && col <= SaleCol::Trust;
 }
 
-/** A row's cells before a step, to be put back when a statement fails. */
+/** A row's cells before a step, to be put back when a statement fails. The key stays: a skeleton once written is the
+ *  row's own. */
 class SaleRowBefore {
  public:
   SaleRowBefore(SpreadModel& grid, int row) : grid_(grid), row_(row) {
-    for (int col = 1; col <= grid.MaxCols(); ++col) cells_ << grid.text(row, col);
+    for (int col = SaleCol::Date; col < SaleCol::Key; ++col) cells_ << grid.text(row, col);
   }
   void putBack() const {
-    for (int col = 1; col <= grid_.MaxCols(); ++col) grid_.setText(row_, col, cells_.at(col - 1));
+    for (int col = SaleCol::Date; col < SaleCol::Key; ++col) grid_.setText(row_, col, cells_.at(col - 1));
   }
 
  private:
@@ -54,6 +55,7 @@ int SaleEntry::kindOf(int row) {
 SaleStep SaleEntry::finishCell(int row, int col, const QString& typed) {
   Prompts& prompts = posting_.session().prompts;
   if (!acceptsText(col, typed)) return {SaleStep::Refused};
+  if (col != SaleCol::Date && !hasDay(row)) return {SaleStep::PutBack, row, SaleCol::Date};
   if (!grid().text(row, SaleCol::Key).isEmpty()) {
     if (col == SaleCol::Kind) {
       prompts.MsgWarn("구분은 변경할 수 없습니다.");
@@ -69,6 +71,13 @@ SaleStep SaleEntry::finishCell(int row, int col, const QString& typed) {
     unchanged.putBack();
     throw;
   }
+}
+
+/** A row in work without a day must get one before anything of it is written: no sheet would ever show it again. */
+bool SaleEntry::hasDay(int row) {
+  if (grid().text(row, SaleCol::Code).isEmpty() || !grid().text(row, SaleCol::Date).isEmpty()) return true;
+  posting_.session().prompts.MsgWarn(requiredCells[0].message, "필수입력");
+  return false;
 }
 
 bool SaleEntry::acceptsText(int col, const QString& typed) {
@@ -259,6 +268,7 @@ SaleStep SaleEntry::chooseClient(int row, const QString& text, bool wholeNumber)
 }
 
 SaleStep SaleEntry::chooseItem(int row) {
+  if (!hasDay(row)) return {SaleStep::Done, row, SaleCol::Date};
   const SaleSheet sheet = posting_.sheet();
   std::optional<ItemChoice> item;
   {

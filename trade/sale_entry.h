@@ -42,6 +42,7 @@ class SaleEntry {
  private:
   SpreadModel& grid() { return posting_.grid(posting_.sheet()); }
   int kindOf(int row);
+  bool hasDay(int row);
   bool acceptsText(int col, const QString& typed);
   SaleStep applyCell(int row, int col, const QString& before, const QString& typed);
   SaleStep changeDate(int row, const QString& typed);

@@ -1,27 +1,10 @@
 #include "trade/sale_posting.h"
 
 #include "store/data_access.h"
-#include "store/jet/format_rules.h"
+#include "store/date_text.h"
+#include "store/text_width.h"
 
 namespace {
-
-/** Quoted for a statement as it stands; an apostrophe inside breaks the statement, which is then told. */
-QString saleQuoted(const QString& text) {
-  return "'" + text + "'";
-}
-
-QString saleMoney(double won) {
-  return jet::formatNumber(won, u"#,##0");
-}
-
-/** A typed day of a year as mm-dd, "-", "." or "/" between month and day; '' when it is none. */
-QString saleDayText(const QString& typed, int year) {
-  QString text = typed.trimmed();
-  const QStringList parts = text.replace(u'-', u'.').replace(u'/', u'.').split(u'.');
-  if (parts.size() != 2) return {};
-  const QDate day(year, parts[0].toInt(), parts[1].toInt());
-  return day.isValid() ? day.toString("MM-dd") : QString();
-}
 
 QString saleWholeText(qint64 figure) {
   return QString::number(figure);
@@ -36,7 +19,7 @@ SalePosting::SalePosting(Session& session) : session_(session), date_(session.pc
 
 QString SalePosting::checkedDate(const QString& typed) {
   const QDate today = session_.pc.clock.today();
-  const QString found = saleDayText(typed, today.year());
+  const QString found = checkedMonthDay(typed, QString::number(today.year()), session_.pc.clock).right(5);
   if (found.isEmpty())
     session_.prompts.MsgWarn("날짜 입력이 올바르지 않습니다!\n입력예) " + today.toString("MM.dd"),
                              "날짜입력 에러");
@@ -82,34 +65,40 @@ void SalePosting::insertSkeleton(int row, SaleSheet sheet, const SaleLine& line)
                      : sheet == SaleSheet::Volume ? ", 1, True, '0')"
                                                   : ", 1, False, '0')";
   session_.dbYear.Execute(
-      "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) Values(0,0, "
-      "'" +
+      "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) "
+      "Values(0,0, '" +
       line.date + "', " + line.code + tail);
   const jet::Recordset key = session_.dbYear.OpenRecordset("Select Max(SaleID) As Saler from Sale");
   grid(sheet).setText(row, SaleCol::Key, key["Saler"].toText());
 }
 
 void SalePosting::moveBalance(SaleSheet sheet, const SaleLine& line, qint64 oldTrust, qint64 oldIncome) {
+  const bool material = sheet == SaleSheet::Material;
   const QString where = " Where Code = " + line.code;
-  const QString change =
-      isCollection(line.kind)
-          ? " - " + saleWholeText(jet::Value(line.income).toLong()) + " + " + saleWholeText(oldIncome)
-          : " + " + saleWholeText(jet::Value(line.trust).toLong()) + " - " + saleWholeText(oldTrust);
-  if (sheet == SaleSheet::Material)
-    session_.dbYear.Execute("Update Client Set UtilInit = UtilInit" + change + where);
-  else
-    session_.dbYear.Execute("Update Client Set GasInit = GasInit" + change + where);
+  if (isCollection(line.kind)) {
+    const QString figures =
+        saleWholeText(jet::Value(line.income).toLong()) + " + " + saleWholeText(oldIncome) + where;
+    session_.dbYear.Execute(
+        (material ? "Update Client Set UtilInit = UtilInit - " : "Update Client Set GasInit = GasInit - ") +
+        figures);
+  } else {
+    const QString figures =
+        saleWholeText(jet::Value(line.trust).toLong()) + " - " + saleWholeText(oldTrust) + where;
+    session_.dbYear.Execute(
+        (material ? "Update Client Set UtilInit = UtilInit + " : "Update Client Set GasInit = GasInit + ") +
+        figures);
+  }
 }
 
 void SalePosting::updateLine(SaleSheet sheet, const SaleLine& line) {
-  const char* volume = sheet == SaleSheet::Volume ? ", Gubun = True, " : ", Gubun = False, ";
-  session_.dbYear.Execute(
-      "Update Sale Set SaleDate = " + saleQuoted(line.date) + ", ClientCode = " + line.code +
-      ", Response = " + saleQuoted(line.person) + ", SaleName = " + saleQuoted(line.item.name) +
-      ", SaleThing = " + saleQuoted(line.item.size) + ", SaleUnit = " + saleText(line.unit) +
-      ", SaleNum = " + saleWholeText(line.number) + ", SaleGubun = " + saleWholeText(line.kind) + volume +
-      "Income = " + saleText(line.income) + ", DC = " + saleText(line.discount) +
-      ", Trust = " + saleText(line.trust) + " Where SaleID = " + line.key);
+  session_.dbYear.Execute("Update Sale Set SaleDate = '" + line.date + "', ClientCode = " + line.code +
+                          ", Response = '" + line.person + "', " + "SaleName = '" + line.item.name +
+                          "', SaleThing = '" + line.item.size + "', SaleUnit = " + saleText(line.unit) +
+                          ", " + "SaleNum = " + saleWholeText(line.number) +
+                          ", SaleGubun = " + saleWholeText(line.kind) +
+                          (sheet == SaleSheet::Volume ? ", Gubun = True, " : ", Gubun = False, ") +
+                          "Income = " + saleText(line.income) + ", DC = " + saleText(line.discount) +
+                          ", Trust = " + saleText(line.trust) + " " + "Where SaleID = " + line.key);
 }
 
 void SalePosting::ApplySaleStock(int row, StockMode mode) {
@@ -144,14 +133,16 @@ void SalePosting::ResetSaleRow(int row, SaleSheet sheet) {
   lockForKind(cells, row, sheet);
   const SaleLine line = lineOf(row, sheet);
   if (!isCollection(line.kind) || line.code.isEmpty()) return;
-  const QString balance = line.kind == SaleCollection ? "GasInit" : "UtilInit";
+  const bool gas = line.kind == SaleCollection;
   jet::Recordset client;
-  if (!OpenSnapshot(session_.prompts, session_.dbYear, client,
-                    "Select " + balance + " From Client Where Code = " + line.code) ||
+  if (!OpenSnapshot(
+          session_.prompts, session_.dbYear, client,
+          (gas ? "Select GasInit From Client Where Code = " : "Select UtilInit From Client Where Code = ") +
+              line.code) ||
       client.atEnd())
     return;
   for (const int col : {SaleCol::Amount, SaleCol::Trust})
-    cells.setText(row, col, saleText(client[balance].toDouble()));
+    cells.setText(row, col, saleText(client[gas ? "GasInit" : "UtilInit"].toDouble()));
 }
 
 void SalePosting::ReverseSaleBalance(int row, const QString& label) {
@@ -200,8 +191,8 @@ SaleClientPanel SalePosting::panel(int row) {
   return {code.toLongLong(),
           "(" + client["PostCode"].toText() + ") " + client["Address"].toText(),
           client["Tel"].toText(),
-          saleMoney(client["GasInit"].toDouble()),
-          saleMoney(client["UtilInit"].toDouble()),
+          moneyText(client["GasInit"].toDouble()),
+          moneyText(client["UtilInit"].toDouble()),
           client["LastDate"].toText(),
           client["Memo"].toText(),
           client["Position"].toText().isEmpty() ? "약도없슴" : "약도있슴"};

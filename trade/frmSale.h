@@ -1,0 +1,61 @@
+#pragma once
+// The sale screen: three sheets of lines under the panel of the current row's customer. Every finished cell is posted.
+#include <array>
+
+#include "master/form_context.h"
+#include "master/map_handshake.h"
+#include "trade/sale_entry.h"
+#include "ui/form.h"
+
+class DateBox;
+class QLabel;
+class QPushButton;
+class QTabWidget;
+class QTimer;
+
+class frmSale : public Form, public CallerTarget {
+ public:
+  explicit frmSale(FormContext& context, QWidget* parent = nullptr);
+
+  /** "gas" or "material": the sheet that the menu's entry means. */
+  void showPage(const QString& page);
+  bool TakeCallerNumber(const QString& number) override;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void buildPanel();
+  void buildSheet(SaleSheet sheet, const QString& caption);
+  void buildKeys();
+
+  Spread* grid() { return grids_[size_t(posting_.sheet())]; }
+  bool gridKey(int row, int col, int key);
+  bool fetchCall(int row);
+  bool cellFinished(int row, int col, const QString& typed);
+  bool mayLeave(int row, int toRow);
+  void follow(const SaleStep& step);
+  void fill(SaleSheet sheet);
+  void toBottomRow();
+  void sheetChosen(int index);
+  void leaveDate();
+  void showPanel();
+  void removeRow(int row);
+  void showToday();
+  void showLedger();
+  void print();
+  void startMap();
+  void lookAtMap();
+
+  FormContext& context_;
+  SalePosting posting_;
+  SaleEntry entry_;
+  MapHandshake map_;
+  QTabWidget* tabs_ = nullptr;
+  std::array<Spread*, 3> grids_{};
+  DateBox* date_ = nullptr;
+  QLabel *address_ = nullptr, *tel_ = nullptr, *gasTrust_ = nullptr, *utilTrust_ = nullptr,
+         *endDay_ = nullptr, *memo_ = nullptr, *mapState_ = nullptr;
+  QPushButton* mapButton_ = nullptr;
+  QTimer* mapTimer_ = nullptr;
+};

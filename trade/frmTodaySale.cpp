@@ -1,0 +1,48 @@
+#include "trade/frmTodaySale.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "ui/style.h"
+
+namespace {
+
+SpreadColumn daySumColumn(const QString& header, CellKind kind) {
+  return {.header = header, .width = 14, .kind = kind, .align = CellAlign::Right, .locked = true};
+}
+
+}  // namespace
+
+frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
+    : Form("frmTodaySale", "금일판매내역", context.session, parent), today_(context.session) {
+  title_ = new QLabel(this);
+  title_->setObjectName("LblTitle");
+  title_->setFont(look::textFont(12, true));
+  body()->addWidget(title_);
+  sums_.setColumns({{.header = "구분", .width = 14, .align = CellAlign::Center, .locked = true},
+                    daySumColumn("판매수량", CellKind::Integer),
+                    daySumColumn("입금액", CellKind::Money),
+                    daySumColumn("D/C", CellKind::Money),
+                    daySumColumn("미수금", CellKind::Money)});
+  body()->addWidget(addSpread("SpToday", sums_), 1);
+  setBottomLine("Esc:닫기");
+  onKey(Qt::Key_Escape, [this] { (isWindow() ? this : parentWidget())->close(); });
+  resize(620, 200);
+  load();
+}
+
+void frmTodaySale::load() {
+  guard([this] {
+    if (!today_.load()) return;
+    title_->setText(today_.title());
+    std::vector<std::vector<QString>> rows;
+    const auto add = [&rows](const QString& name, const DaySum& sum) {
+      rows.push_back({name, QString::number(sum.pieces), QString::number(sum.income),
+                      QString::number(sum.discount), QString::number(sum.trust)});
+    };
+    add("일반판매", today_.sum(SaleSheet::General));
+    add("체적판매", today_.sum(SaleSheet::Volume));
+    add("시설/자재판매", today_.sum(SaleSheet::Material));
+    sums_.setRows(std::move(rows));
+  });
+}
