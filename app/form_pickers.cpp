@@ -4,8 +4,12 @@
 
 #include "app/frmSecurity.h"
 #include "master/form_context.h"
+#include "master/frmAPTAddress.h"
+#include "master/frmBDName.h"
+#include "master/frmNewClient.h"
 #include "master/frmPostCode.h"
 #include "master/frmSearchBank.h"
+#include "master/frmSearchClient.h"
 #include "master/frmSearchRefill.h"
 #include "master/frmSearchResponse.h"
 #include "master/frmSearchSize.h"
@@ -20,8 +24,12 @@ QWidget* windowInFront() {
 
 }  // namespace
 
-std::optional<ClientChoice> FormPickers::searchClient(const QString&, ClientSearchMode, bool) {
-  return {};
+std::optional<ClientChoice> FormPickers::searchClient(const QString& text, ClientSearchMode mode,
+                                                      bool wholeNumber) {
+  const auto registerNew = [this](const QString& searched) {
+    return frmNewClient(session_, *this, searched, windowInFront()).enter();
+  };
+  return frmSearchClient(session_, text, mode, wholeNumber, registerNew, windowInFront()).choose();
 }
 std::optional<ItemChoice> FormPickers::searchSize(const QString& kind, TradeSide side) {
   return frmSearchSize(*context_, kind, side, windowInFront());
@@ -41,8 +49,17 @@ std::optional<BankChoice> FormPickers::searchBank() {
 std::optional<PostCodeChoice> FormPickers::searchPostCode(const QString& text) {
   return frmPostCode(session_, text, windowInFront());
 }
-std::optional<BuildingChoice> FormPickers::searchBuilding(int) {
-  return {};
+std::optional<BuildingChoice> FormPickers::searchBuilding(int houseStyle) {
+  BuildingSearch search(session_, HouseStyle(houseStyle));
+  if (!search.loadBuildings()) return {};
+  const int building = frmBDName(session_, search, windowInFront()).pick();
+  if (building == 0) return {};
+  const QString name = search.buildings().text(building, 1);
+  if (!search.loadBlocks(name)) return {};
+  const bool oneBlock = search.blocks().MaxRows() == 1;
+  const int block = oneBlock ? 1 : frmAPTAddress(session_, search, windowInFront()).pick();
+  if (block == 0) return {};
+  return search.choice(name, search.blocks().text(block, 1));
 }
 std::optional<QString> FormPickers::pickDate(const QString&) {
   return {};

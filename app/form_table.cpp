@@ -7,6 +7,7 @@
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
 #include "master/frmGasUtil.h"
+#include "master/frmClient.h"
 #include "master/frmRefillState.h"
 #include "master/frmResponse.h"
 #include "master/frmVolume.h"
@@ -31,6 +32,7 @@ const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),
+    formEntry<frmClient>(u"frmClient"),
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResponse>(u"frmResponse"),

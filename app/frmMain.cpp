@@ -281,6 +281,10 @@ bool frmMain::openForm(const QString& name) {
   return true;
 }
 
+bool frmMain::hasForm(const QString& name) const {
+  return findForm(name) != nullptr;
+}
+
 QWidget* frmMain::activeForm() const {
   // The current child also while another program is in front: a call then still finds the sale form.
   const QMdiSubWindow* window = ground_->currentSubWindow();

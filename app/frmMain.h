@@ -26,6 +26,7 @@ class frmMain : public QMainWindow, public Commands {
   /** Runs a menu entry by its name, as the operator would; False when there is none or it is off. */
   bool run(const QString& command);
   bool openForm(const QString& name) override;
+  bool hasForm(const QString& name) const override;
   QWidget* activeForm() const override;
 
   FormContext& context() { return context_; }

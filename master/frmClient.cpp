@@ -61,6 +61,7 @@ void frmClient::buildButtons() {
   image_ = addButton("BtnImage", "약도(&M)", [this] { startMap(); });
   apartment_ =
       addButton("BtnAptClient", "아파트 자동 등록", [this] { context_.commands.openForm("frmHouseStyle"); });
+  apartment_->setEnabled(context_.commands.hasForm("frmHouseStyle"));
   exit_ = addButton("BtnExit", "닫기(&X)", [this] { (parentWidget() ? parentWidget() : this)->close(); });
   buttons_ = buttonRow({apartment_, image_, nullptr, new_, save_, cancel_, delete_, nullptr, exit_});
 }

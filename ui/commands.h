@@ -9,6 +9,8 @@ class Commands {
   virtual ~Commands() = default;
   /** Shows the form as a child of the main window (an open one comes to the front); False when there is none. */
   virtual bool openForm(const QString& name) = 0;
+  /** Whether there is such a form; a button that opens one that is missing is switched off. */
+  virtual bool hasForm(const QString&) const { return false; }
   /** The form in front, or null. */
   virtual QWidget* activeForm() const = 0;
 };
