@@ -61,21 +61,24 @@ class Recordset {
   void MoveLast();
   void MoveNext();
   void MovePrevious();
-  /** Right after opening a yes-or-no (0 or not); after MoveLast the count of rows. */
+  /** Right after opening a yes-or-no (0 or not), then the rows reached so far; after MoveLast the count of rows. */
   int RecordCount() const;
   int Bookmark() const;
   void setBookmark(int bookmark);
 
   QStringList fieldNames() const;
   int fieldIndex(const QString& name) const;  ///< -1 when there is none; case does not matter
-  /** The current row's field; 3265 for an unknown name, 3021 when there is no current row. */
-  const Value& operator[](const QString& name) const;
-  const Value& operator[](int index) const;
+  /** The current row's field, of names that stand twice the first; between Edit or AddNew and Update what was set.
+   *  3265 for an unknown name, 3021 when there is no current row, 3167 when it was deleted. */
+  Value operator[](const QString& name) const;
+  Value operator[](int index) const;
   bool isNull(const QString& name) const { return (*this)[name].isNull(); }
 
+  // A dynaset's rows are written to the tables they came from; 3027 for a snapshot and for rows that are no table's
+  // (groups, DISTINCT, UNION). AddNew writes one table. Update leaves the position where it was.
   void AddNew();
   void Edit();
-  void set(const QString& name, const Value& value);  ///< 3020 without AddNew or Edit
+  void set(const QString& name, const Value& value);  ///< 3020 without AddNew or Edit, 3164 no column of a table
   void Update();
   void CancelUpdate();
   void Delete();

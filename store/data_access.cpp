@@ -1,0 +1,111 @@
+#include "store/data_access.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** A failed query's box: the text by the error's number, then the statement. */
+void reportQuery(Prompts& prompts, const jet::Error& error, const QString& sql) {
+  QString text = error.description(), title = u"ERROR"_s;
+  if (error.number() == 3011) {
+    text = u"Jet Data Base Engine의 식을 확인하세요."_s;
+    title = u"Query"_s;
+  } else if (error.number() == 91) {
+    text = u"Data Base MDB가 선언되지 않았습니다."_s;
+    title = u"MDB 오류"_s;
+  } else if (error.number() == 3261) {
+    title = u"MDB 오류"_s;
+  }
+  prompts.MsgInfo(text + u'\r' + sql, title);
+}
+
+bool openRows(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql,
+              jet::RecordsetType type) {
+  rs.Close();
+  try {
+    rs = db.OpenRecordset(sql, type);
+    return true;
+  } catch (const jet::Error& error) {
+    reportQuery(prompts, error, sql);
+    return false;
+  }
+}
+
+bool sameName(const QString& a, const QString& b) {
+  return a.toUpper() == b.toUpper();
+}
+
+}  // namespace
+
+bool OpenDB(const jet::Workspace& workspace, jet::Database& db, const QString& path, bool exclusive) {
+  db.Close();
+  try {
+    db = workspace.OpenDatabase(path, exclusive);
+    return true;
+  } catch (const jet::Error&) {
+    return false;
+  }
+}
+
+bool OpenDynaset(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql) {
+  return openRows(prompts, db, rs, sql, jet::RecordsetType::Dynaset);
+}
+
+bool OpenSnapshot(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql) {
+  return openRows(prompts, db, rs, sql, jet::RecordsetType::Snapshot);
+}
+
+jet::Value DAO_GetValue(Prompts& prompts, const jet::Database& db, const QString& field, const QString& table,
+                        const QString& where) {
+  jet::Recordset rs;
+  if (!OpenSnapshot(prompts, db, rs, u"SELECT "_s + field + u" FROM "_s + table + u' ' + where)) return {};
+  return rs.atEnd() ? jet::Value() : rs[0];
+}
+
+bool DAO_ExistTable(Prompts& prompts, const jet::Database& db, const QString& name) {
+  try {
+    const auto tables = db.TableDefs();
+    return std::any_of(tables.begin(), tables.end(),
+                       [&](const auto& table) { return sameName(table.name, name); });
+  } catch (const jet::Error& error) {
+    prompts.ErrorBox(u") in procedure DAO_ExistTable of Module mdlCommonRW"_s, error.number(),
+                     error.description());
+    return false;
+  }
+}
+
+bool DAO_AddField(Prompts& prompts, const jet::Database& db, const QString& table, const QString& field,
+                  jet::Type type, int size, bool allowZeroLength, const QString& initSql,
+                  const std::optional<jet::Value>& defaultValue, int ordinal, bool required) {
+  try {
+    const jet::TableDef known = db.tableDef(table);
+    for (const jet::Field& present : known.fields)
+      if (sameName(present.name, field)) return false;
+    jet::Field added;
+    added.name = field;
+    added.type = type;
+    added.size = std::max(size, 0);
+    added.allowZeroLength = allowZeroLength && type == jet::Type::Text;
+    if (defaultValue && !defaultValue->isNull()) {
+      added.defaultValue = *defaultValue;
+      added.required = required;
+    }
+    db.appendField(table, added, ordinal);
+    if (!initSql.isEmpty()) db.Execute(initSql);
+    return true;
+  } catch (const jet::Error& error) {
+    prompts.ErrorBox(u") in procedure DAO_AddField of Module mdlCommonRW"_s + u"\r\n"_s + u"[TABLE]: "_s +
+                         table + u",    [FIELD]: "_s + field,
+                     error.number(), error.description());
+    return false;
+  }
+}
+
+void CloseDB(jet::Database& db) {
+  db.Close();
+}
+void CloseDB(jet::Recordset& rs) {
+  rs.Close();
+}

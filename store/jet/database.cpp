@@ -1,0 +1,241 @@
+#include "store/jet/database.h"
+
+#include <algorithm>
+
+#include "store/jet/error_texts.h"
+#include "store/jet/recordset_data.h"
+#include "store/jet/workspace_data.h"
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+namespace {
+
+template <typename Pointer>
+auto& checked(const Pointer& data) {
+  if (!data) fail(91);
+  return *data;
+}
+
+void bindLiterals(SqliteStatement& statement, const Shape& shape) {
+  for (size_t i = 0; i < shape.literals.size(); ++i) statement.bind(int(i) + 1, shape.literals[i]);
+}
+
+/** The file with its catalogue as it is now; another PC may have changed it. */
+const DataFile& currentFile(DatabaseData& data) {
+  data.workspace().runOn(data.file(), [&](Connection& connection) { data.file()->refresh(connection); });
+  return *data.file();
+}
+
+void runDefinition(DatabaseData& data, const Compiled& compiled) {
+  const FilePtr& file = data.file();
+  const TableDef& wanted = compiled.definition;
+  data.workspace().define(file, [&](Connection& connection) {
+    switch (compiled.kind) {
+      case Compiled::Kind::CreateTable:
+        return file->createTable(connection, wanted);
+      case Compiled::Kind::DropTable:
+        if (!file->find(wanted.name)) fail(3376, wanted.name);
+        return file->dropTable(connection, wanted.name);
+      case Compiled::Kind::AddColumn:
+        return file->addField(connection, wanted.name, wanted.fields.front(), -1);
+      case Compiled::Kind::CreateIndex:
+        return file->createIndex(connection, wanted.name, wanted.indexes.front());
+      default:
+        return file->dropIndex(connection, wanted.name, wanted.indexes.front().name);
+    }
+  });
+}
+
+}  // namespace
+
+// ---- workspace
+
+Workspace::Workspace(Options options) : data_(std::make_shared<WorkspaceData>(std::move(options))) {}
+
+Database Workspace::OpenDatabase(const QString& path, bool exclusive) const {
+  FilePtr file = checked(data_).open(path, exclusive);
+  Database database;
+  database.data_ = std::make_shared<DatabaseData>(data_, std::move(file), path, exclusive);
+  return database;
+}
+
+Database Workspace::CreateDatabase(const QString& path) const {
+  checked(data_).create(path);
+  return OpenDatabase(path);
+}
+
+void Workspace::Together(const std::function<void()>& work) const {
+  checked(data_).together(work);
+}
+
+// ---- statements
+
+QString Database::path() const {
+  return checked(data_).written();
+}
+
+int Database::Execute(const QString& sql) const {
+  DatabaseData& data = checked(data_);
+  WorkspaceData& workspace = data.workspace();
+  const Shape shape = shapeOf(sql);
+  Prepared& prepared = workspace.prepare(data.file(), shape, sql, Keys::None);
+  switch (prepared.compiled.kind) {
+    case Compiled::Kind::Select:
+      fail(3065);
+    case Compiled::Kind::Insert:
+    case Compiled::Kind::Update:
+    case Compiled::Kind::Delete:
+      break;
+    default:
+      runDefinition(data, Compiled(prepared.compiled));
+      return 0;
+  }
+  qint64 rows = 0;
+  workspace.run(prepared, [&](Connection& connection) {
+    bindLiterals(prepared.statement, shape);
+    prepared.statement.run(prepared.about());
+    rows = connection.changes();
+  });
+  return int(rows);
+}
+
+Recordset Database::OpenRecordset(const QString& sql, RecordsetType type) const {
+  DatabaseData& data = checked(data_);
+  WorkspaceData& workspace = data.workspace();
+  const Shape shape = shapeOf(sql);
+  const bool dynaset = type == RecordsetType::Dynaset;
+  Prepared& prepared = workspace.prepare(data.file(), shape, sql, dynaset ? Keys::With : Keys::None);
+  const Compiled& compiled = prepared.compiled;
+  if (compiled.kind != Compiled::Kind::Select) fail(3219, sql);
+
+  RowStore rows(int(compiled.columns.size() + compiled.keys.size()));
+  workspace.run(prepared, [&](Connection&) {
+    bindLiterals(prepared.statement, shape);
+    while (prepared.statement.step(prepared.about())) rows.appendRow(prepared.statement.raw());
+    prepared.statement.reset();
+  });
+  rows.stopFilling();
+
+  std::vector<RecordsetData::Source> sources;
+  for (const TableInfo& table : compiled.keys) {
+    const auto file = std::find_if(
+        prepared.files.begin(), prepared.files.end(),
+        [&](const FilePtr& candidate) { return QLatin1StringView(candidate->alias()) == table.schema; });
+    if (file != prepared.files.end()) sources.push_back({*file, table});
+  }
+  Recordset recordset;
+  recordset.data_ = std::make_shared<RecordsetData>(compiled.columns, std::move(rows));
+  if (dynaset) recordset.data_->makeWritable(data_, std::move(sources));
+  return recordset;
+}
+
+// ---- object model
+
+std::vector<TableDef> Database::TableDefs() const {
+  return currentFile(checked(data_)).tables();
+}
+
+bool Database::hasTable(const QString& name) const {
+  return currentFile(checked(data_)).find(name) != nullptr;
+}
+
+TableDef Database::tableDef(const QString& name) const {
+  const TableDef* table = currentFile(checked(data_)).find(name);
+  if (!table) fail(3265, name);
+  return *table;
+}
+
+void Database::createTable(const TableDef& table) const {
+  const FilePtr& file = checked(data_).file();
+  data_->workspace().define(file, [&](Connection& connection) { file->createTable(connection, table); });
+}
+
+void Database::deleteTable(const QString& name) const {
+  const FilePtr& file = checked(data_).file();
+  data_->workspace().define(file, [&](Connection& connection) { file->dropTable(connection, name); });
+}
+
+void Database::appendField(const QString& table, const Field& field, int ordinal) const {
+  const FilePtr& file = checked(data_).file();
+  data_->workspace().define(
+      file, [&](Connection& connection) { file->addField(connection, table, field, ordinal); });
+}
+
+void Database::createIndex(const QString& table, const Index& index) const {
+  const FilePtr& file = checked(data_).file();
+  data_->workspace().define(file,
+                            [&](Connection& connection) { file->createIndex(connection, table, index); });
+}
+
+// ---- recordset
+
+bool Recordset::atEnd() const {
+  return checked(data_).atEnd();
+}
+bool Recordset::atStart() const {
+  return checked(data_).atStart();
+}
+void Recordset::MoveFirst() {
+  checked(data_).moveFirst();
+}
+void Recordset::MoveLast() {
+  checked(data_).moveLast();
+}
+void Recordset::MoveNext() {
+  checked(data_).moveNext();
+}
+void Recordset::MovePrevious() {
+  checked(data_).movePrevious();
+}
+int Recordset::RecordCount() const {
+  return checked(data_).recordCount();
+}
+
+int Recordset::Bookmark() const {
+  const RecordsetData& data = checked(data_);
+  if (data.atEnd() || data.position() < 0) fail(3021);
+  return data.position();
+}
+
+void Recordset::setBookmark(int bookmark) {
+  checked(data_).moveTo(bookmark);
+}
+
+QStringList Recordset::fieldNames() const {
+  return checked(data_).names();
+}
+int Recordset::fieldIndex(const QString& name) const {
+  return checked(data_).fieldIndex(name);
+}
+
+Value Recordset::operator[](const QString& name) const {
+  const RecordsetData& data = checked(data_);
+  return data.value(data.fieldOf(name));
+}
+
+Value Recordset::operator[](int index) const {
+  return checked(data_).value(index);
+}
+
+void Recordset::AddNew() {
+  checked(data_).addNew();
+}
+void Recordset::Edit() {
+  checked(data_).edit();
+}
+void Recordset::set(const QString& name, const Value& value) {
+  RecordsetData& data = checked(data_);
+  data.set(data.fieldOf(name), value);
+}
+void Recordset::Update() {
+  checked(data_).update();
+}
+void Recordset::CancelUpdate() {
+  checked(data_).cancelUpdate();
+}
+void Recordset::Delete() {
+  checked(data_).deleteRow();
+}
+
+}  // namespace jet

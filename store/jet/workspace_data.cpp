@@ -1,0 +1,362 @@
+#include "store/jet/workspace_data.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "store/jet/error_texts.h"
+#include "store/jet/handle_catalogue.h"
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+namespace {
+
+constexpr size_t kAttachedAtMost = 11;  // the main file and SQLite's ten
+constexpr qsizetype kPreparedAtMost = 300;
+const char* const kMainAlias = "main";
+
+/** One path for one file, however it was written. */
+QString samePath(const QString& path) {
+  const QFileInfo info(path);
+  const QString canonical = info.canonicalFilePath();
+  return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
+}
+
+}  // namespace
+
+QString Prepared::about() const {
+  if (!compiled.target.name.isEmpty()) return compiled.target.name;
+  for (const ResultColumn& column : compiled.columns)
+    if (!column.table.isEmpty()) return column.table;
+  return files.empty() ? QString() : QFileInfo(files.front()->path()).fileName();
+}
+
+// ---- files
+
+QString WorkspaceData::native(const QString& written) const {
+  if (written.trimmed().isEmpty()) fail(3044, written);
+  return samePath(options_.resolvePath ? options_.resolvePath(written) : written);
+}
+
+FilePtr WorkspaceData::attached(const QString& nativePath) const {
+  const auto at =
+      std::find_if(files_.begin(), files_.end(), [&](const FilePtr& f) { return f->path() == nativePath; });
+  return at == files_.end() ? nullptr : *at;
+}
+
+FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
+  const QString path = native(written);
+  FilePtr file;
+  try {
+    file = attach(path);
+    ++file->handles;
+    file->refresh(*connection_);
+    if (exclusive && file->exclusiveHandles == 0) lockExclusively(*file);
+    file->exclusiveHandles += int(exclusive);
+  } catch (const Error& error) {
+    if (file) --file->handles;
+    tidy();
+    if (error.number() == 3261) fail(exclusive ? 3045 : 3356, written);
+    throw;
+  }
+  // What the file's links name is attached at once: within a group it would be too late. A link whose file is missing
+  // fails when it is used.
+  for (const QString& linked : linkedPaths()) {
+    if (!QFileInfo::exists(linked)) continue;
+    try {
+      attach(linked);
+    } catch (const Error&) {
+    }
+  }
+  return file;
+}
+
+void WorkspaceData::create(const QString& written) {
+  const QString path = native(written);
+  DataFile::create(path);
+}
+
+FilePtr WorkspaceData::fileAt(const QString& written) {
+  FilePtr file = attach(native(written));
+  file->lastUse = ++clock_;
+  return file;
+}
+
+FilePtr WorkspaceData::attach(const QString& nativePath) {
+  FilePtr file = attached(nativePath);
+  if (file && connection_->hasMoved(file->alias())) {  // replaced on the disk: everything is read anew
+    commitGroup();
+    reconnect();
+  }
+  if (!file) file = std::make_shared<DataFile>(nativePath);
+  ensureAttached(file);
+  return file;
+}
+
+void WorkspaceData::ensureAttached(const FilePtr& file) {
+  if (file->attached) return;
+  if (attached(file->path())) fail(3420);
+  const QFileInfo info(file->path());
+  if (!info.exists()) fail(info.dir().exists() ? 3024 : 3044, file->path());
+  if (!info.isFile()) fail(3044, file->path());
+  commitGroup();
+  if (!connection_) connect(file);
+  if (file->attached) return;
+  makeRoom();
+  file->setAlias("f" + QByteArray::number(++aliases_));
+  connection_->attach(file->path(), file->alias());
+  try {
+    file->load(*connection_);
+    connection_->exec("PRAGMA " + file->alias() + ".cache_size = -16000");
+  } catch (const Error&) {
+    connection_->detach(file->alias());
+    throw;
+  }
+  file->attached = true;
+  files_.push_back(file);
+  if (isMainFile(file)) reconnect();  // it was made only now
+}
+
+bool WorkspaceData::isMainFile(const FilePtr& file) const {
+  return !options_.mainFile.isEmpty() && file->path() == native(options_.mainFile);
+}
+
+void WorkspaceData::connect(const FilePtr& file) {
+  std::vector<FilePtr> candidates;
+  if (!options_.mainFile.isEmpty() && !isMainFile(file))
+    candidates.push_back(std::make_shared<DataFile>(native(options_.mainFile)));
+  candidates.push_back(file);
+  for (const FilePtr& candidate : candidates) {
+    if (candidate != file && !QFileInfo(candidate->path()).isFile()) continue;
+    try {
+      connection_ = std::make_unique<Connection>(candidate->path(), options_.busyMilliseconds);
+      candidate->setAlias(kMainAlias);
+      candidate->load(*connection_);
+      candidate->attached = true;
+      files_ = {candidate};
+      return;
+    } catch (const Error&) {
+      connection_.reset();
+      if (candidate == file) throw;  // a broken main file does not keep the others from opening
+    }
+  }
+}
+
+void WorkspaceData::disconnect() {
+  prepared_.clear();
+  for (const FilePtr& file : files_) file->attached = false;
+  files_.clear();
+  connection_.reset();
+}
+
+/** The same files on a new connection. One that cannot be had any more fails when its handle is used. */
+void WorkspaceData::reconnect() {
+  std::vector<FilePtr> files = files_;
+  disconnect();
+  std::erase_if(files, [](const FilePtr& file) { return file->handles == 0; });
+  std::stable_partition(files.begin(), files.end(), [&](const FilePtr& file) { return isMainFile(file); });
+  for (const FilePtr& file : files) {
+    try {
+      ensureAttached(file);
+      if (file->exclusiveHandles > 0) lockExclusively(*file);
+    } catch (const Error&) {
+    }
+  }
+}
+
+void WorkspaceData::makeRoom() {
+  if (files_.size() < kAttachedAtMost) return;
+  FilePtr oldest;
+  for (const FilePtr& file : files_)
+    if (file->handles == 0 && file != files_.front() && (!oldest || file->lastUse < oldest->lastUse))
+      oldest = file;
+  if (!oldest) fail(3048);
+  letGo(oldest);
+}
+
+void WorkspaceData::letGo(FilePtr file) {
+  prepared_.removeIf([&](const auto& entry) {
+    const auto& files = entry.value()->files;
+    return std::find(files.begin(), files.end(), file) != files.end();
+  });
+  connection_->detach(file->alias());
+  file->attached = false;
+  std::erase(files_, file);
+}
+
+void WorkspaceData::release(const FilePtr& file, bool exclusive) {
+  --file->handles;
+  if (exclusive && --file->exclusiveHandles == 0 && file->attached) unlock(*file);
+  tidy();
+}
+
+QStringList WorkspaceData::linkedPaths() const {
+  QStringList written, paths;
+  for (const FilePtr& file : files_) {
+    if (file->handles == 0) continue;
+    for (const TableDef& table : file->tables())
+      if (table.isLink() && !written.contains(table.connect)) written << table.connect;
+  }
+  for (const QString& connect : written) {
+    const QString path = pathOfConnect(connect);
+    if (!path.trimmed().isEmpty()) paths << native(path);
+  }
+  return paths;
+}
+
+void WorkspaceData::tidy() {
+  if (!connection_ || groupDepth_ > 0) return;
+  if (std::none_of(files_.begin(), files_.end(), [](const FilePtr& file) { return file->handles > 0; }))
+    return disconnect();
+  if (files_.front()->handles == 0 && !isMainFile(files_.front())) reconnect();
+  const QStringList linked = linkedPaths();
+  const std::vector<FilePtr> others(files_.begin() + 1, files_.end());
+  for (const FilePtr& file : others)
+    if (file->handles == 0 && !linked.contains(file->path())) letGo(file);
+}
+
+// In this mode SQLite keeps whatever lock it has had; a write without a change takes the highest one.
+void WorkspaceData::lockExclusively(DataFile& file) {
+  connection_->exec("PRAGMA " + file.alias() + ".locking_mode = EXCLUSIVE");
+  try {
+    connection_->exec("UPDATE " + file.alias() + ".jet_links SET name = name WHERE 0");
+  } catch (const Error&) {
+    unlock(file);
+    throw;
+  }
+}
+
+void WorkspaceData::unlock(DataFile& file) {
+  connection_->tryExec("PRAGMA " + file.alias() + ".locking_mode = NORMAL");
+  connection_->tryExec("SELECT 1 FROM " + file.alias() + ".jet_links");
+}
+
+// ---- statements
+
+Prepared& WorkspaceData::prepare(const FilePtr& file, const Shape& shape, const QString& sql, Keys keys) {
+  ensureAttached(file);
+  const QString key = QString::fromLatin1(file->alias()) + (keys == Keys::With ? u'+' : u' ') + shape.key;
+  const auto known = file->outdated ? prepared_.constEnd() : prepared_.constFind(key);
+  if (known != prepared_.constEnd()) {
+    (*known)->lastUse = ++clock_;
+    return **known;
+  }
+  beginStatement({file});
+  file->refresh(*connection_);
+  HandleCatalogue catalogue(*this, file);
+  auto prepared = std::make_shared<Prepared>();
+  prepared->compiled = compile(sql, catalogue, keys);
+  prepared->files = catalogue.takeFiles();
+  if (!prepared->compiled.sql.isEmpty())
+    prepared->statement = SqliteStatement(*connection_, prepared->compiled.sql, true);
+  prepared->lastUse = ++clock_;
+  if (prepared_.size() >= kPreparedAtMost) {
+    auto oldest = prepared_.begin();
+    for (auto it = prepared_.begin(); it != prepared_.end(); ++it)
+      if ((*it)->lastUse < (*oldest)->lastUse) oldest = it;
+    prepared_.erase(oldest);
+  }
+  return **prepared_.insert(key, std::move(prepared));
+}
+
+void WorkspaceData::run(Prepared& prepared, const std::function<void(Connection&)>& work) {
+  try {
+    beginStatement(prepared.files);
+    work(*connection_);
+  } catch (const Error&) {
+    afterFailure();
+    throw;
+  }
+}
+
+void WorkspaceData::runOn(const FilePtr& file, const std::function<void(Connection&)>& work) {
+  try {
+    ensureAttached(file);
+    beginStatement({file});
+    work(*connection_);
+  } catch (const Error&) {
+    afterFailure();
+    throw;
+  }
+}
+
+void WorkspaceData::define(const FilePtr& file, const std::function<void(Connection&)>& work) {
+  runOn(file, [&](Connection& connection) {
+    prepared_.clear();
+    file->refresh(connection);
+    work(connection);
+  });
+  tidy();  // a link that went may have been a file's last reason to stay
+}
+
+// ---- groups
+
+void WorkspaceData::together(const std::function<void()>& work) {
+  ++groupDepth_;
+  try {
+    work();
+  } catch (...) {
+    // No undo: what ran before the failure stays. When even that cannot be kept, the first failure is what counts.
+    if (--groupDepth_ == 0) {
+      try {
+        commitGroup();
+      } catch (const Error&) {
+      }
+      tidy();
+    }
+    throw;
+  }
+  if (--groupDepth_ > 0) return;
+  try {
+    commitGroup();
+  } catch (const Error&) {
+    tidy();
+    throw;
+  }
+  tidy();
+}
+
+/** Within a group every file that a statement touches, reading too, is reserved for writing first. Two PCs that had
+ *  both read and then both wanted to write would stand in each other's way, and SQLite fails one of them at once
+ *  without waiting. Files that the group does not touch stay free for others. */
+void WorkspaceData::beginStatement(const std::vector<FilePtr>& files) {
+  if (groupDepth_ == 0) return;
+  if (!connection_->inTransaction()) {
+    connection_->exec("BEGIN");
+    for (const FilePtr& file : files_) file->reserved = false;
+  }
+  for (const FilePtr& file : files) {
+    if (file->reserved || connection_->isReadOnly(file->alias())) continue;
+    connection_->exec("UPDATE " + file->alias() + ".jet_links SET name = name WHERE 0");
+    file->reserved = true;
+  }
+}
+
+void WorkspaceData::commitGroup() {
+  if (!connection_ || !connection_->inTransaction()) return;
+  try {
+    connection_->exec("COMMIT");
+  } catch (const Error&) {
+    connection_->tryExec("ROLLBACK");
+    afterFailure();
+    throw;
+  }
+}
+
+/** Some failures (full disk, damaged file) undo the whole transaction; what we know of the files is then old. */
+void WorkspaceData::afterFailure() {
+  if (!connection_ || connection_->inTransaction()) return;
+  prepared_.clear();
+  for (const FilePtr& file : files_) file->outdated = true;
+}
+
+DatabaseData::~DatabaseData() {
+  // Nothing may leave a destructor; a file that cannot be let go now is let go with the next one.
+  try {
+    workspace_->release(file_, exclusive_);
+  } catch (const Error&) {
+  }
+}
+
+}  // namespace jet

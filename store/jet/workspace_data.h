@@ -1,0 +1,103 @@
+#pragma once
+// What stands behind a workspace: its one connection, the files attached to it, the prepared statements, the group.
+#include <QHash>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "store/jet/compile.h"
+#include "store/jet/connection.h"
+#include "store/jet/data_file.h"
+#include "store/jet/database.h"
+
+namespace jet {
+
+using FilePtr = std::shared_ptr<DataFile>;
+
+/** A compiled and prepared statement with the files it touches. */
+struct Prepared {
+  Compiled compiled;
+  SqliteStatement statement;
+  std::vector<FilePtr> files;
+  quint64 lastUse = 0;
+  QString about() const;  ///< the table's name, for a failure's text
+};
+
+/** The connection's main file is Options.mainFile where that exists, else the first file opened; every other file is
+ *  attached under an alias that is never used twice. SQLite can neither attach nor detach within a transaction: a
+ *  group that needs a further file is committed so far and goes on, and a file is let go when the group has ended. */
+class WorkspaceData {
+ public:
+  explicit WorkspaceData(Workspace::Options options) : options_(std::move(options)) {}
+
+  /** The PC's own path of a written one; 3044 for an empty one. */
+  QString native(const QString& written) const;
+
+  FilePtr open(const QString& written, bool exclusive);
+  void create(const QString& written);
+  void release(const FilePtr& file, bool exclusive);
+  /** The file of a link or of [path].table, attached when needed. */
+  FilePtr fileAt(const QString& written);
+
+  Prepared& prepare(const FilePtr& file, const Shape& shape, const QString& sql, Keys keys);
+  /** Runs work with the statement's files locked as the group asks; work steps and resets. */
+  void run(Prepared& prepared, const std::function<void(Connection&)>& work);
+  /** A change of tables, fields, indexes or links of one file. */
+  void define(const FilePtr& file, const std::function<void(Connection&)>& work);
+  /** A statement of our own on one file, such as a row written back. */
+  void runOn(const FilePtr& file, const std::function<void(Connection&)>& work);
+
+  void together(const std::function<void()>& work);
+
+ private:
+  FilePtr attach(const QString& nativePath);
+  FilePtr attached(const QString& nativePath) const;
+  void ensureAttached(const FilePtr& file);
+  void connect(const FilePtr& file);
+  void disconnect();
+  void reconnect();
+  bool isMainFile(const FilePtr& file) const;
+  void makeRoom();
+  void letGo(FilePtr file);
+  void tidy();
+  QStringList linkedPaths() const;
+  void lockExclusively(DataFile& file);
+  void unlock(DataFile& file);
+
+  void beginStatement(const std::vector<FilePtr>& files);
+  void commitGroup();
+  void afterFailure();
+
+  Workspace::Options options_;
+  std::unique_ptr<Connection> connection_;
+  std::vector<FilePtr> files_;  ///< the main file first
+  QHash<QString, std::shared_ptr<Prepared>> prepared_;
+  int aliases_ = 0;
+  quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
+  int groupDepth_ = 0;
+};
+
+/** An open handle's part of a file; the last copy lets the file go. */
+class DatabaseData {
+ public:
+  DatabaseData(std::shared_ptr<WorkspaceData> workspace, FilePtr file, QString written, bool exclusive)
+      : workspace_(std::move(workspace)),
+        file_(std::move(file)),
+        written_(std::move(written)),
+        exclusive_(exclusive) {}
+  ~DatabaseData();
+  DatabaseData(const DatabaseData&) = delete;
+  DatabaseData& operator=(const DatabaseData&) = delete;
+
+  WorkspaceData& workspace() const { return *workspace_; }
+  const FilePtr& file() const { return file_; }
+  const QString& written() const { return written_; }
+
+ private:
+  std::shared_ptr<WorkspaceData> workspace_;
+  FilePtr file_;
+  QString written_;
+  bool exclusive_;
+};
+
+}  // namespace jet
