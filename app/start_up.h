@@ -28,7 +28,7 @@ class StartUp {
   void load();
   const StartScreen& screen() const { return screen_; }
 
-  /** Enter in the password box; boxes are shown here. */
+  /** Enter in the password box; boxes are shown here. Throws jet::Error 91 when load() ended early. */
   SignIn enterPassword(const QString& typed);
   /** Closing the start window: asks; on yes the date format is set back and the files are closed. */
   bool askToLeave();
@@ -39,8 +39,15 @@ class StartUp {
   void shutDown();
 
  private:
+  void attempt(const std::function<void()>& steps);
+  void loadSteps();
+  void upgradePostCodes();
+  void fillScreen();
+  void closeFiles();
+
   Session& session_;
   StartScreen screen_;
+  jet::Recordset user_;  ///< the company's row, as it stood at the start
   int failures_ = 0;
   bool usable_ = true;
 };

@@ -77,7 +77,14 @@ bool Paths::makeFolder(const QString& written) const {
 }
 
 bool Paths::copy(const QString& from, const QString& to) const {
-  return QFile::copy(native(from), native(to));
+  const QString target = native(to), unfinished = target + QStringLiteral(".new");
+  QFile::remove(unfinished);
+  if (!QFileInfo::exists(target) && QFile::copy(native(from), unfinished) &&
+      QFile::rename(unfinished, target)) {
+    return true;
+  }
+  QFile::remove(unfinished);
+  return false;
 }
 
 QStringList Paths::drives() const {

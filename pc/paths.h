@@ -27,7 +27,7 @@ class Paths {
   QStringList folders(const QString& folder) const;
   /** Makes a folder with those above it; True when it stands afterwards. */
   bool makeFolder(const QString& written) const;
-  /** Copies one file over to a name that must be free. */
+  /** Copies one file to a name that must be free; the name is taken only when the copy is whole. */
   bool copy(const QString& from, const QString& to) const;
   /** The program's own folder as written, "C:\RWGas" */
   QString programFolder() const { return QStringLiteral("C:\\RWGas"); }

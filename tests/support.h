@@ -2,11 +2,15 @@
 // What every test shares: a PC of its own, scripted boxes that must all be asked, scripted pickers.
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <deque>
 
 #include "pc/pc.h"
+#include "store/data_files.h"
 #include "store/session.h"
+#include "store/upgrades.h"
 #include "ui/prompts.h"
 
 namespace tests {
@@ -25,7 +29,9 @@ class ScriptedPrompts : public Prompts {
     for (const auto& left : script_) ADD_FAILURE() << "box never asked: " << left.part.toStdString();
   }
   void expect(const QString& part, bool yes = true) { script_.push_back({part, yes, {}}); }
-  void expectInput(const QString& part, std::optional<QString> typed) { script_.push_back({part, true, typed}); }
+  void expectInput(const QString& part, std::optional<QString> typed) {
+    script_.push_back({part, true, typed});
+  }
   QStringList seen;  ///< "title|text" of every box so far
 
   void MsgInfo(const QString& text, const QString& title) override { next(text, title); }
@@ -52,12 +58,46 @@ class ScriptedPrompts : public Prompts {
   std::deque<Expected> script_;
 };
 
+/** The data folder of a new PC, made once a test program and copied from then on. */
+inline QString emptyDataFolder() {
+  static QTemporaryDir folder;
+  static const bool made = [] {
+    pc::Pc pc(folder.path());
+    ScriptedPrompts prompts;
+    Session session(pc, prompts);
+    session.DbPath = installedDataFolder();
+    return prepareDataFolder(session);
+  }();
+  EXPECT_TRUE(made);
+  return pc::Paths(folder.path()).native(installedDataFolder());
+}
+
 /** A PC below a folder that goes with the test. */
 struct TestPc {
   QTemporaryDir folder;
   pc::Pc pc{folder.path()};
   ScriptedPrompts prompts;
   Session session{pc, prompts};
+
+  /** Empty data files in "C:\\RWGas\\Dbs\\", opened as at the end of a start; today, when given, is the clock's day. */
+  void openBooks(const QDate& today = {}) {
+    if (today.isValid()) pc.clock.set(today.startOfDay().addSecs(9 * 3600));
+    session.AppTitle = QStringLiteral("해온판매");
+    session.DbPath = installedDataFolder();
+    session.WorkYear = QString::number(pc.clock.today().year());
+    ASSERT_TRUE(pc.paths.makeFolder(session.DbPath));
+    const QString master = emptyDataFolder();
+    for (const QString& name : QDir(master).entryList(QDir::Files)) {
+      QFile::copy(master + u'/' + name, pc.paths.native(session.DbPath) + u'/' + name);
+    }
+    makeYearFile(session, session.WorkYear);
+    session.wsMain = openWorkspace(session, session.DbPath);
+    session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
+    ASSERT_TRUE(upgrades::relink(session));
+    session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
+    session.dbTax = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("dbTax.mdb"));
+    session.dbCommon = session.dbBasic;
+  }
 };
 
 }  // namespace tests

@@ -1,0 +1,114 @@
+#include "store/data_files.h"
+
+#include <QFile>
+
+#include "store/jet/error.h"
+#include "store/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString templateYear = u"2002"_s;
+
+/** The regulators every retailer knows, whose rows can be priced but not deleted. */
+void fillFixedRegulators(const jet::Database& basic) {
+  for (const char* size : {"4", "5", "7", "10", "20", "30", "50"}) {
+    basic.Execute(u"Insert Into Volume(Size, Name, Unit) Values('"_s + QLatin1String(size) +
+                  u"', '조정기 "_s + QLatin1String(size) + u"kg/h', 0)"_s);
+  }
+}
+
+bool holdsYears(const Session& session) {
+  QStringList files = session.pc.paths.list(session.DbPath, u"*Foundation.mdb"_s);
+  files.removeIf([](const QString& name) { return name.startsWith(templateYear); });
+  return !files.isEmpty();
+}
+
+bool mayBegin(Session& session) {
+  if (holdsYears(session)) {
+    session.prompts.MsgWarn(session.DbPath + u"Basic.mdb 파일을 찾을 수 없습니다."_s + u'\n' +
+                            u"년도별 자료가 있으므로 새로 만들지 않습니다. 백업에서 복구하십시오."_s);
+    return false;
+  }
+  if (session.DbPath.compare(installedDataFolder(), Qt::CaseInsensitive) == 0) return true;
+  return session.prompts.MsgAsk(
+      session.DbPath + u" 에 자료 파일이 없습니다."_s + u'\n' + u"자료 파일을 새로 만드시겠습니까?"_s, {},
+      false);
+}
+
+}  // namespace
+
+QString installedDataFolder() {
+  return u"C:\\RWGas\\Dbs\\"_s;
+}
+
+QString dataFolder(const Session& session) {
+  const QString chosen =
+      session.pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"db경로"_s).trimmed();
+  if (chosen.isEmpty()) return installedDataFolder();
+  return chosen.endsWith(u'\\') ? chosen : chosen + u'\\';
+}
+
+QString yearFile(const Session& session, const QString& year) {
+  return session.DbPath + year + u"Foundation.mdb"_s;
+}
+
+jet::Workspace openWorkspace(const Session& session, const QString& folder) {
+  const pc::Paths& paths = session.pc.paths;
+  return jet::Workspace({.mainFile = folder + u"Basic.mdb"_s,
+                         .resolvePath = [&paths](const QString& written) { return paths.native(written); }});
+}
+
+void makeDataFile(const Session& session, const QString& path, schema::File kind) {
+  const QString made = session.pc.paths.native(path), unfinished = made + u".new"_s;
+  QFile::remove(unfinished);
+  {
+    const jet::Workspace workspace{jet::Workspace::Options{}};
+    const jet::Database file = workspace.CreateDatabase(unfinished);
+    workspace.Together([&] {
+      for (const jet::TableDef& table : schema::tablesOf(kind)) file.createTable(table);
+      if (kind == schema::File::Basic) {
+        fillFixedRegulators(file);
+        file.Execute(u"INSERT INTO Options (OPTName, OPTValue) VALUES ('MICR용지','0')"_s);
+      }
+    });
+  }
+  if (!QFile::rename(unfinished, made)) throw jet::Error(75, path + u" 파일을 만들 수 없습니다."_s);
+}
+
+bool prepareDataFolder(Session& session) {
+  const pc::Paths& paths = session.pc.paths;
+  const bool first = !paths.exists(session.DbPath + u"Basic.mdb"_s);
+  if (first && !mayBegin(session)) return false;
+  const auto makeMissing = [&](const QString& name, schema::File kind) {
+    if (paths.exists(session.DbPath + name)) return false;
+    makeDataFile(session, session.DbPath + name, kind);
+    return true;
+  };
+  try {
+    paths.makeFolder(session.DbPath);
+    makeMissing(templateYear + u"Foundation.mdb"_s, schema::File::Year);
+    makeMissing(u"Print.mdb"_s, schema::File::Print);
+    if (makeMissing(u"dbTax.mdb"_s, schema::File::Tax) && !first) {
+      session.prompts.MsgWarn(session.DbPath + u"dbTax.mdb 파일이 없어 빈 파일을 새로 만들었습니다."_s);
+    }
+    // A postcode file that is gone later is missed where postcodes are looked up; an empty one would hide the loss.
+    if (first) makeMissing(u"dbPost.mdb"_s, schema::File::Post);
+    // Last: from now on the folder counts as begun.
+    if (first) makeMissing(u"Basic.mdb"_s, schema::File::Basic);
+  } catch (const jet::Error& error) {
+    session.prompts.ErrorBox(session.DbPath + u" 에 자료 파일을 만들 수 없습니다."_s, error.number(),
+                             error.description());
+    return false;
+  }
+  return true;
+}
+
+void makeYearFile(Session& session, const QString& year) {
+  const QString path = yearFile(session, year);
+  if (session.pc.paths.exists(path)) return;
+  if (!session.pc.paths.copy(yearFile(session, templateYear), path)) {
+    throw jet::Error(75, path + u" 파일을 만들 수 없습니다."_s);
+  }
+}

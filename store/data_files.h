@@ -1,0 +1,27 @@
+#pragma once
+// The data folder: where its files lie, what a new one holds, and whether it can be worked in.
+#include <QString>
+
+#include "store/schema.h"
+
+struct Session;
+
+/** "C:\RWGas\Dbs\", where a new PC keeps its files and where some steps look whatever the setting says. */
+QString installedDataFolder();
+/** The data folder by the setting, with its last backslash. */
+QString dataFolder(const Session& session);
+/** A year's file in the data folder; year as four digits. */
+QString yearFile(const Session& session, const QString& year);
+
+/** A workspace on a data folder's files. */
+jet::Workspace openWorkspace(const Session& session, const QString& folder);
+/** Makes a data file with its empty tables (and the rows it starts with); the name is taken only when all is done.
+ *  Throws jet::Error. */
+void makeDataFile(const Session& session, const QString& path, schema::File kind);
+
+/** Before anything is opened: makes what is missing. An empty folder gets all files (after a question when it is not
+ *  the installed one); year files without their Basic.mdb are left alone, because an empty one would take their rows
+ *  for orphans. False when the folder cannot be worked in; that has been told. */
+bool prepareDataFolder(Session& session);
+/** Copies the template for a year that has no file. Throws jet::Error. */
+void makeYearFile(Session& session, const QString& year);

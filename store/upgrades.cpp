@@ -1,0 +1,178 @@
+#include "store/upgrades.h"
+
+#include <algorithm>
+
+#include "store/data_access.h"
+#include "store/data_files.h"
+#include "store/schema.h"
+#include "store/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace upgrades {
+
+namespace {
+
+const jet::Field* fieldOf(const jet::TableDef& table, const QString& name) {
+  const auto at = std::find_if(table.fields.begin(), table.fields.end(), [&](const jet::Field& field) {
+    return field.name.compare(name, Qt::CaseInsensitive) == 0;
+  });
+  return at == table.fields.end() ? nullptr : &*at;
+}
+
+bool hasField(const jet::Database& db, const QString& table, const QString& field) {
+  return fieldOf(db.tableDef(table), field) != nullptr;
+}
+
+jet::Field newField(const QString& name, jet::Type type, int size = 0) {
+  jet::Field field;
+  field.name = name;
+  field.type = type;
+  field.size = size;
+  return field;
+}
+
+}  // namespace
+
+void walkYears(const Session& session, const std::function<void(const QString& file)>& work) {
+  for (int year = session.pc.clock.today().year();; --year) {
+    const QString file = yearFile(session, QString::number(year));
+    if (!session.pc.paths.exists(file)) return;
+    work(file);
+  }
+}
+
+QStringList yearFiles(const Session& session, const jet::Workspace& workspace, const QString& folder) {
+  QStringList files;
+  for (const QString& name : session.pc.paths.list(folder, u"*Foundation.mdb"_s)) {
+    jet::Database db;
+    if (OpenDB(workspace, db, folder + name) && db.hasTable(u"Buy"_s)) files << folder + name;
+  }
+  return files;
+}
+
+void addLateCharges(Session& session) {
+  const QString folder = u"C:\\rwgas\\dbs\\"_s;
+  if (!session.pc.paths.exists(folder + u"basic.mdb"_s)) return;
+  const jet::Workspace workspace = openWorkspace(session, folder);
+  jet::Database basic, year;
+  if (!OpenDB(workspace, basic, folder + u"basic.mdb"_s)) return;
+  DAO_AddField(session.prompts, basic, u"apt"_s, u"delaypay"_s, jet::Type::Double, 0, false,
+               u"UPDATE apt SET delaypay = 0"_s);
+  for (const QString& file : yearFiles(session, workspace, folder)) {
+    if (!OpenDB(workspace, year, file)) return;
+    DAO_AddField(session.prompts, year, u"Evaporation"_s, u"paydelayed"_s, jet::Type::Boolean, 0, false,
+                 u"UPDATE Evaporation SET paydelayed = false"_s);
+  }
+}
+
+void makeDealList(Session& session) {
+  const QString file = session.DbPath + u"dbDetail.mdb"_s;
+  if (!session.pc.paths.exists(file)) makeDataFile(session, file, schema::File::Detail);
+}
+
+void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::Database& post) {
+  const jet::TableDef old = basic.tableDef(u"PostCode"_s);
+  const jet::Field* ddd = fieldOf(old, u"DDD"_s);
+  if (!ddd || ddd->size == 60) return;
+  if (!session.pc.settings.GetSetting(session.AppTitle, u"Registration"_s, u"PostC"_s).isEmpty()) return;
+  session.prompts.MsgInfo(
+      u"잠시만 기다려 주십시오."_s + u"\n\n"_s + u"우편번호를 개정판으로 업그레이드 합니다."_s,
+      u"우편번호 업그레이드"_s);
+  jet::Recordset rs = post.OpenRecordset(u"Select * from post order by zipcode"_s);
+  session.wsMain.Together([&] {
+    basic.Execute(u"drop table postcode"_s);
+    basic.createTable(schema::table(schema::File::Basic, u"PostCode"_s));
+    for (; !rs.atEnd(); rs.MoveNext()) {
+      const QString code = rs[u"zipcode"_s].toText().remove(u'-');
+      const QString city = rs[u"sido"_s].toText() + u' ' + rs[u"gugun"_s].toText();
+      const QString lots = rs.isNull(u"bunji"_s) ? u" "_s : rs[u"bunji"_s].toText();
+      basic.Execute(u"insert into postcode values('"_s + code + u"' , '"_s + city + u"', '"_s +
+                    rs[u"dong"_s].toText() + u"', '"_s + lots + u"')"_s);
+    }
+  });
+  session.pc.settings.SaveSetting(session.AppTitle, u"Registration"_s, u"PostC"_s, u"ok"_s);
+}
+
+void addDealMarks(Session& session) {
+  walkYears(session, [&](const QString& file) {
+    const jet::Database year = session.wsMain.OpenDatabase(file);
+    if (hasField(year, u"Sale"_s, u"DealList"_s)) return;
+    session.wsMain.Together([&] {
+      year.appendField(u"Sale"_s, newField(u"DealList"_s, jet::Type::Long));
+      year.appendField(u"Sale"_s, newField(u"SaleList"_s, jet::Type::Long));
+      year.Execute(u"UPDATE sale SET DealList = 0, SaleList = 0"_s);
+    });
+  });
+}
+
+void addClientTaxFields(const jet::Database& basic) {
+  // Kept: Serial alone is looked at.
+  if (hasField(basic, u"Client"_s, u"Serial"_s)) return;
+  basic.appendField(u"Client"_s, newField(u"Serial"_s, jet::Type::Text, 12));
+  basic.appendField(u"Client"_s, newField(u"Status"_s, jet::Type::Text, 10));
+  basic.appendField(u"Client"_s, newField(u"Item"_s, jet::Type::Text, 20));
+  basic.appendField(u"Client"_s, newField(u"Uname"_s, jet::Type::Text, 10));
+}
+
+void removeOrphans(Session& session) {
+  walkYears(session, [&](const QString& file) {
+    const jet::Database year = session.wsMain.OpenDatabase(file);
+    jet::Recordset rs = year.OpenRecordset(
+        u"Select sale.clientcode From sale Left Join ["_s + session.DbPath + u"Basic.mdb"_s +
+        u"].client on sale.clientcode = client.code where client.code is null"_s);
+    if (rs.RecordCount() == 0) return;
+    session.wsMain.Together([&] {
+      for (; !rs.atEnd(); rs.MoveNext()) {
+        if (rs.isNull(u"clientcode"_s)) continue;  // names no customer; the statement could not be written
+        year.Execute(u"delete * from sale where clientcode = "_s + rs[u"clientcode"_s].toText());
+      }
+    });
+  });
+}
+
+bool relink(Session& session) {
+  const QString chosen = session.pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"db경로"_s);
+  session.BasicPath =
+      chosen.isEmpty() ? u"C:\\rwgas\\dbs\\basic.mdb"_s : dataFolder(session) + u"Basic.mdb"_s;
+  for (const QString& file : yearFiles(session, session.wsMain, session.DbPath)) {
+    jet::Database year;
+    if (!OpenDB(session.wsMain, year, file)) return false;
+    session.wsMain.Together([&] {
+      for (const QString& name : schema::linkedTables()) {
+        const std::vector<jet::TableDef> tables = year.TableDefs();
+        // A link is never repaired: it is deleted and made anew, so that a moved Basic.mdb is followed.
+        if (std::any_of(tables.begin(), tables.end(),
+                        [&](const auto& table) { return table.name == name; })) {
+          year.deleteTable(name);
+        }
+        jet::TableDef link;
+        link.name = name;
+        link.connect = u";DATABASE="_s + session.BasicPath;
+        link.sourceTableName = name;
+        year.createTable(link);
+      }
+    });
+  }
+  return true;
+}
+
+void addMoreTelephones(Session& session) {
+  jet::Database basic;
+  if (!OpenDB(session.wsMain, basic, session.BasicPath)) return;
+  // Kept: when Tel1 is there, Tel2 is not looked at.
+  if (DAO_AddField(session.prompts, basic, u"Client"_s, u"Tel1"_s, jet::Type::Text, 14, true,
+                   u"Update client set Tel1 = ''"_s)) {
+    DAO_AddField(session.prompts, basic, u"Client"_s, u"Tel2"_s, jet::Type::Text, 14, true,
+                 u"Update client set Tel2 = ''"_s);
+  }
+}
+
+void makeOptions(Session& session) {
+  if (!OpenDB(session.wsMain, session.dbCommon, u"C:\\rwgas\\dbs\\basic.mdb"_s)) return;
+  if (DAO_ExistTable(session.prompts, session.dbCommon, u"Options"_s)) return;
+  session.dbCommon.createTable(schema::table(schema::File::Basic, u"Options"_s));
+  session.dbCommon.Execute(u"INSERT INTO Options (OPTName, OPTValue) VALUES ('MICR용지','0')"_s);
+}
+
+}  // namespace upgrades

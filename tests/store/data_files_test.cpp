@@ -1,0 +1,132 @@
+#include "store/data_files.h"
+
+#include "store/options.h"
+#include "store/rounding.h"
+#include "tests/support.h"
+
+namespace {
+
+using tests::TestPc;
+using namespace Qt::StringLiterals;
+
+std::string firstOf(const jet::Database& db, const QString& sql) {
+  const jet::Recordset rs = db.OpenRecordset(sql);
+  return rs.atEnd() ? "none" : rs[0].isNull() ? "null" : rs[0].toText().toStdString();
+}
+
+TEST(DataFiles, ANewPcGetsEveryFileWithItsTables) {
+  TestPc here;
+  here.session.DbPath = installedDataFolder();
+  ASSERT_TRUE(prepareDataFolder(here.session));
+  EXPECT_EQ(here.pc.paths.list(here.session.DbPath, u"*"_s),
+            (QStringList{"2002Foundation.mdb", "Basic.mdb", "dbPost.mdb", "dbTax.mdb", "Print.mdb"}));
+  const jet::Workspace workspace = openWorkspace(here.session, here.session.DbPath);
+  const auto basic = workspace.OpenDatabase(u"C:\\rwgas\\dbs\\BASIC.mdb"_s);
+  for (const jet::TableDef& wanted : schema::tablesOf(schema::File::Basic)) {
+    const jet::TableDef made = basic.tableDef(wanted.name);
+    ASSERT_EQ(made.fields.size(), wanted.fields.size()) << wanted.name.toStdString();
+    for (size_t at = 0; at < made.fields.size(); ++at) {
+      EXPECT_EQ(made.fields[at].name, wanted.fields[at].name);
+      EXPECT_EQ(made.fields[at].type, wanted.fields[at].type);
+      EXPECT_EQ(made.fields[at].size, wanted.fields[at].size) << made.fields[at].name.toStdString();
+    }
+    EXPECT_EQ(made.indexes.size(), wanted.indexes.size()) << wanted.name.toStdString();
+  }
+  EXPECT_EQ(firstOf(basic, u"Select Max(Code) From Volume"_s), "7");
+  EXPECT_EQ(firstOf(basic, u"SELECT OPTValue FROM Options WHERE OPTName = 'MICR용지'"_s), "0");
+}
+
+TEST(DataFiles, SkeletonRowsHoldNoNullInTheirRunningFigures) {
+  TestPc here;
+  here.openBooks(QDate(2026, 3, 2));
+  const auto& year = here.session.dbYear;
+  here.session.dbBasic.Execute(u"Insert into Client(Name, HouseStyle) Values('가', 0)"_s);
+  here.session.dbBasic.Execute(u"Update Client Set GasInit = GasInit + 1500 - 0 Where Code = 1"_s);
+  EXPECT_EQ(firstOf(year, u"Select GasInit From Client Where Code = 1"_s), "1500") << "through the link";
+  year.Execute(
+      u"Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) "
+      u"Values(0,0, '2026-03-02', 1, 1, False, '0')"_s);
+  EXPECT_EQ(firstOf(year, u"Select SaleNum + SaleUnit + Income + DC + Trust From Sale"_s), "0");
+  year.Execute(u"Insert Into Evaporation(ClientCode, Mon) Values(1, 0)"_s);
+  EXPECT_EQ(firstOf(year, u"Select paydelayed From Evaporation Where Total = 0"_s), "0");
+  EXPECT_THROW(year.Execute(u"Insert Into Evaporation(ClientCode, Mon) Values(1, 0)"_s), jet::Error);
+  here.session.dbBasic.Execute(u"Insert Into User(Company, User) Values('가스', '홍')"_s);
+  EXPECT_EQ(firstOf(here.session.dbBasic, u"Select Post1 From User"_s), "null") << "not chosen yet";
+}
+
+TEST(DataFiles, YearFilesWithoutTheirBasicAreLeftAlone) {
+  TestPc here;
+  here.session.DbPath = installedDataFolder();
+  ASSERT_TRUE(here.pc.paths.makeFolder(here.session.DbPath));
+  ASSERT_TRUE(QFile::copy(tests::emptyDataFolder() + u"/2002Foundation.mdb"_s,
+                          here.pc.paths.native(yearFile(here.session, u"2025"_s))));
+  here.prompts.expect(u"백업에서 복구하십시오."_s);
+  EXPECT_FALSE(prepareDataFolder(here.session)) << "an empty Basic.mdb would take every sale for an orphan";
+  EXPECT_FALSE(here.pc.paths.exists(u"C:\\RWGas\\Dbs\\Basic.mdb"_s));
+}
+
+TEST(DataFiles, OnlyWhatIsMissingIsMade) {
+  TestPc here;
+  here.openBooks(QDate(2026, 3, 2));
+  here.session.dbBasic.Execute(u"Insert into Client(Name) Values('가')"_s);
+  here.session.dbTax.Close();
+  for (const char* name : {"dbTax.mdb", "dbPost.mdb", "Print.mdb", "2002Foundation.mdb"}) {
+    ASSERT_TRUE(QFile::remove(here.pc.paths.native(here.session.DbPath + QLatin1String(name))));
+  }
+  here.prompts.expect(u"dbTax.mdb 파일이 없어 빈 파일을 새로 만들었습니다."_s);
+  EXPECT_TRUE(prepareDataFolder(here.session));
+  EXPECT_TRUE(here.pc.paths.exists(here.session.DbPath + u"Print.mdb"_s));
+  EXPECT_TRUE(here.pc.paths.exists(here.session.DbPath + u"2002Foundation.mdb"_s));
+  EXPECT_FALSE(here.pc.paths.exists(here.session.DbPath + u"dbPost.mdb"_s))
+      << "a lost postcode file stays missed";
+  EXPECT_EQ(firstOf(here.session.dbBasic, u"Select Name From Client"_s), "가");
+}
+
+TEST(DataFiles, AnotherFolderIsBegunOnlyAfterAQuestion) {
+  TestPc here;
+  here.session.DbPath = u"D:\\가스\\DBS\\"_s;
+  here.prompts.expect(u"자료 파일을 새로 만드시겠습니까?"_s, false);
+  EXPECT_FALSE(prepareDataFolder(here.session));
+  EXPECT_FALSE(here.pc.paths.exists(here.session.DbPath));
+  here.prompts.expect(u"자료 파일을 새로 만드시겠습니까?"_s, true);
+  EXPECT_TRUE(prepareDataFolder(here.session));
+  EXPECT_TRUE(here.pc.paths.exists(u"D:\\가스\\DBS\\Basic.mdb"_s));
+}
+
+TEST(DataFiles, AFolderThatCannotBeMadeIsTold) {
+  TestPc here;
+  QFile blocker(here.folder.filePath(u"c"_s));
+  ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+  here.session.DbPath = installedDataFolder();
+  here.prompts.expect(u"에 자료 파일을 만들 수 없습니다."_s);
+  EXPECT_FALSE(prepareDataFolder(here.session));
+}
+
+TEST(Options, ANewNameGetsItsRowAndAnApostropheIsTold) {
+  TestPc here;
+  here.openBooks();
+  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"3"_s), "3");
+  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"4"_s), "3") << "the row stands now";
+  SetOption(here.session, u"용지"_s, u""_s);
+  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"4"_s), "");
+  SetOption(here.session, u"새것"_s, u"1"_s);
+  EXPECT_EQ(GetOption(here.session, u"새것"_s, u""_s), "1");
+  here.prompts.expect(u"OPTName = 'a'b'"_s);
+  EXPECT_EQ(GetOption(here.session, u"a'b"_s, u"5"_s), "5");
+  here.prompts.expect(u"프로그램 수행도중 오류가 발생했습니다."_s);
+  SetOption(here.session, u"스물한 글자가 넘어서 들어가지 않는 이름"_s, u"1"_s);
+  here.session.dbCommon.Close();
+  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"6"_s), "6");
+}
+
+TEST(Rounding, ReadsTheCompanysRule) {
+  TestPc here;
+  here.openBooks();
+  EXPECT_EQ(RoundByPayState(here.session, 1234), 1234) << "no company yet";
+  here.session.dbBasic.Execute(u"Insert Into User(Company, User) Values('가스', '홍')"_s);
+  EXPECT_EQ(RoundByPayState(here.session, 1234), 0) << "no rule chosen";
+  here.session.dbBasic.Execute(u"Update User Set PayState = 2"_s);
+  EXPECT_EQ(RoundByPayState(here.session, 1234), 1240);
+}
+
+}  // namespace
