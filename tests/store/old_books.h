@@ -1,0 +1,86 @@
+#pragma once
+// Data files as the first version of the program left them: without the columns that the upgrades add.
+#include "tests/support.h"
+
+namespace tests {
+
+inline jet::TableDef without(jet::TableDef table, const QStringList& names) {
+  std::erase_if(table.fields, [&](const jet::Field& f) { return names.contains(f.name); });
+  return table;
+}
+
+inline std::string firstOf(const jet::Database& db, const QString& sql) {
+  const jet::Recordset rs = db.OpenRecordset(sql);
+  return rs.atEnd() ? "none" : rs[0].isNull() ? "null" : rs[0].toText().toStdString();
+}
+
+inline bool hasField(const jet::Database& db, const QString& table, const QString& name) {
+  const jet::TableDef def = db.tableDef(table);
+  return std::any_of(def.fields.begin(), def.fields.end(),
+                     [&](const auto& field) { return field.name == name; });
+}
+
+/** Everything a file holds, as one text: its tables with their columns, and every row. Links by name only. */
+inline QString dumpOf(const jet::Database& db) {
+  QString out;
+  for (const jet::TableDef& table : db.TableDefs()) {
+    out += table.name + u':' + table.connect + u'\n';
+    if (table.isLink()) continue;
+    for (const auto& field : table.fields) out += u' ' + field.name + QString::number(field.size);
+    for (jet::Recordset rs = db.OpenRecordset(QStringLiteral("Select * From [%1]").arg(table.name));
+         !rs.atEnd(); rs.MoveNext()) {
+      out += u'\n';
+      for (int at = 0; at < rs.fieldNames().size(); ++at) {
+        out += u'|' + (rs[at].isNull() ? QStringLiteral("-") : rs[at].toText());
+      }
+    }
+    out += u'\n';
+  }
+  return out;
+}
+
+/** Old files in "C:\RWGas\Dbs\" for the years 2026 and 2025 (not 2024) and 2023: one customer, sale rows of that one
+ *  and of a customer who is gone, one building, three postcodes. */
+inline void makeOldBooks(TestPc& here) {
+  using schema::File, schema::table;
+  Session& session = here.session;
+  here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
+  session.DbPath = installedDataFolder();
+  here.pc.paths.makeFolder(session.DbPath);
+  const jet::Workspace ws = openWorkspace(session, session.DbPath);
+  const jet::Database basic = ws.CreateDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
+  for (const jet::TableDef& def : schema::tablesOf(File::Basic)) {
+    if (def.name == u"Options") continue;
+    jet::TableDef old =
+        without(def, {"delaypay", "Serial", "Status", "Item", "Uname", "Tel1", "Tel2", "DDD"});
+    std::erase_if(old.indexes, [](const jet::Index& index) { return index.name.startsWith(u"Tel"); });
+    if (def.name == u"PostCode") {
+      jet::Field ddd;
+      ddd.name = QStringLiteral("DDD");
+      ddd.size = 5;
+      old.fields.push_back(ddd);
+    }
+    basic.createTable(old);
+  }
+  basic.Execute("Insert Into Client(Name, Tel) Values('김가네', '053-111-2222')");
+  basic.Execute("Insert Into APT(Name, Dong) Values('한빛', '101')");
+  basic.Execute("Insert Into PostCode(PostCode, City) Values('1', '옛것')");
+  for (const char* year : {"2002", "2023", "2025", "2026"}) {
+    const jet::Database file = ws.CreateDatabase(yearFile(session, QString::fromLatin1(year)));
+    for (const jet::TableDef& def : schema::tablesOf(File::Year)) {
+      file.createTable(without(def, {"DealList", "SaleList", "paydelayed"}));
+    }
+    file.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-05', 1, 1)");
+    file.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-06', 77, 1)");
+    file.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-07', 77, 4)");
+    file.Execute("Insert Into Evaporation(ClientCode, Mon) Values(1, 3)");
+  }
+  makeDataFile(session, session.DbPath + QStringLiteral("dbTax.mdb"), File::Tax);
+  makeDataFile(session, session.DbPath + QStringLiteral("Print.mdb"), File::Print);
+  makeDataFile(session, session.DbPath + QStringLiteral("dbPost.mdb"), File::Post);
+  const jet::Database post = ws.OpenDatabase(session.DbPath + QStringLiteral("dbPost.mdb"));
+  post.Execute("Insert Into Post Values('702-010', '대구', '북구', '고성동', '1~99')");
+  post.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('700-020', '대구', '중구', '동인동')");
+}
+
+}  // namespace tests
