@@ -14,6 +14,7 @@
 #include "master/frmSearchResponse.h"
 #include "master/frmSearchSize.h"
 #include "master/frmSearchVolume.h"
+#include "ui/frmCalendar.h"
 
 namespace {
 
@@ -61,8 +62,8 @@ std::optional<BuildingChoice> FormPickers::searchBuilding(int houseStyle) {
   if (block == 0) return {};
   return search.choice(name, search.blocks().text(block, 1));
 }
-std::optional<QString> FormPickers::pickDate(const QString&) {
-  return {};
+std::optional<QString> FormPickers::pickDate(const QString& initial) {
+  return frmCalendar(initial, session_.pc.clock.today(), windowInFront());
 }
 
 bool FormPickers::checkPassword() {

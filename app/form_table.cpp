@@ -6,6 +6,7 @@
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
+#include "master/frmBank.h"
 #include "master/frmClient.h"
 #include "master/frmGasUtil.h"
 #include "master/frmRefillState.h"
@@ -30,6 +31,7 @@ FormEntry formEntry(const char16_t* name) {
 // clang-format off
 const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
+    formEntry<frmBank>(u"frmBank"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),
     formEntry<frmClient>(u"frmClient"),

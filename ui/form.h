@@ -17,6 +17,8 @@ class QVBoxLayout;
 
 /** A child window named after itself. Its rules are members of the derived class and go before the controls do. */
 class Form : public QWidget {
+  Q_OBJECT
+
  public:
   Form(const QString& name, const QString& caption, Session& session, QWidget* parent = nullptr);
 

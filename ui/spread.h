@@ -17,6 +17,9 @@ class QListWidget;
 
 /** Rows and columns count from 1; 0 where there is none. The model must outlive every event, not the widget. */
 class Spread : public QAbstractScrollArea {
+  // Found among a window's children by its own type; without it every scroll area would be taken for one.
+  Q_OBJECT
+
  public:
   explicit Spread(SpreadModel& model, QWidget* parent = nullptr);
   ~Spread() override;

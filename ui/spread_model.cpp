@@ -1,5 +1,7 @@
 #include "ui/spread_model.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace {
@@ -37,6 +39,7 @@ void SpreadModel::setMaxRows(int rows) {
     rows_[at].id = nextId_++;
   }
   if (all) {
+    formulas_.clear();
     locks_.clear();
     colours_.clear();
     tell(What::Reset, 0, 0);
@@ -50,11 +53,15 @@ void SpreadModel::insertRow(int row) {
   fresh.cells.resize(columns_.size());
   fresh.id = nextId_++;
   rows_.insert(rows_.begin() + row - 1, std::move(fresh));
+  moveFormulas(row, 1);
   tell(What::RowsInserted, row, 0);
 }
 
 void SpreadModel::deleteRow(int row) {
+  std::erase_if(formulas_,
+                [id = rows_.at(size_t(row - 1)).id](const Formula& each) { return each.id == id; });
   rows_.erase(rows_.begin() + row - 1);
+  moveFormulas(row, -1);
   tell(What::RowsRemoved, row, 0);
 }
 
@@ -68,6 +75,7 @@ int SpreadModel::DataRowCnt() const {
 }
 
 void SpreadModel::setRows(std::vector<std::vector<QString>> rows) {
+  formulas_.clear();
   locks_.clear();
   colours_.clear();
   rows_.clear();
@@ -89,6 +97,7 @@ void SpreadModel::setText(int row, int col, const QString& text) {
   if (cell == text) return;
   cell = text;
   tell(What::Cells, row, col);
+  if (!formulas_.empty()) follow(row, col);
 }
 
 int SpreadModel::comboPosition(int row, int col) const {
@@ -134,4 +143,67 @@ qint64 SpreadModel::sum(int col, int fromRow, int toRow) const {
   qint64 total = 0;
   for (int row = fromRow; row <= toRow; ++row) total += QString(text(row, col)).remove(u',').toLongLong();
   return total;
+}
+
+// --- formulas -----------------------------------------------------------------------------------------------
+
+bool SpreadModel::setFormula(int row, int col, const QString& formula) {
+  static const QRegularExpression sumOf(QStringLiteral("^SUM\\(R(\\d+)C(\\d+):R(\\d+)C(\\d+)\\)$"));
+  const QRegularExpressionMatch match = sumOf.match(formula);
+  if (!match.hasMatch() || match.captured(2) != match.captured(4)) return false;
+  const qint64 id = rows_.at(size_t(row - 1)).id;
+  std::erase_if(formulas_, [&](const Formula& each) { return each.id == id && each.col == col; });
+  const Formula sums{id, col, match.captured(2).toInt(), match.captured(1).toInt(),
+                     match.captured(3).toInt()};
+  formulas_.push_back(sums);
+  setText(row, col, QString::number(sum(sums.sumCol, sums.from, sums.to)));
+  return true;
+}
+
+QString SpreadModel::formula(int row, int col) const {
+  const qint64 id = rows_.at(size_t(row - 1)).id;
+  for (const Formula& each : formulas_)
+    if (each.id == id && each.col == col)
+      return QStringLiteral("SUM(R%1C%2:R%3C%2)").arg(each.from).arg(each.sumCol).arg(each.to);
+  return {};
+}
+
+int SpreadModel::rowOf(qint64 id) const {
+  const auto at = std::find_if(rows_.begin(), rows_.end(), [id](const Row& row) { return row.id == id; });
+  return at == rows_.end() ? 0 : int(at - rows_.begin()) + 1;
+}
+
+/** A summed cell has another text: the sums over it follow. */
+void SpreadModel::follow(int row, int col) {
+  const std::vector<Formula> all = formulas_;
+  for (const Formula& each : all) {
+    const int shows = rowOf(each.id);
+    if (shows == 0 || col != each.sumCol || row < each.from || row > each.to || row == shows) continue;
+    setText(shows, each.col, QString::number(sum(each.sumCol, each.from, each.to)));
+  }
+}
+
+void SpreadModel::moveFormulas(int row, int step) {
+  for (Formula& each : formulas_) {
+    if (each.from > row || (step > 0 && each.from == row)) each.from += step;
+    if (each.to >= row) each.to += step;
+  }
+  const std::vector<Formula> all = formulas_;
+  for (const Formula& each : all)
+    if (const int shows = rowOf(each.id))
+      setText(shows, each.col, QString::number(sum(each.sumCol, each.from, each.to)));
+}
+
+void InsertSubTotal(SpreadModel& grid, int row, SubTotal kind, int labelCol,
+                    const std::vector<int>& columns) {
+  grid.insertRow(row);
+  grid.setText(row, labelCol, kind == SubTotal::Part ? QStringLiteral("[소 계]") : QStringLiteral("[합 계]"));
+  for (const int col : columns) {
+    const QString column = QString::number(col);
+    grid.setFormula(row, col,
+                    QStringLiteral("SUM(R1C") + column + QStringLiteral(":R") + QString::number(row - 1) +
+                        QStringLiteral("C") + column + QStringLiteral(")"));
+  }
+  grid.setBold(row, true);
+  grid.setBackground(row, 0, 0xE8ECF1);
 }

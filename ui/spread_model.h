@@ -66,6 +66,12 @@ class SpreadModel {
   /** Numbers of a column's texts added up exactly, "1,234" read as 1234; in won or pieces. */
   qint64 sum(int col, int fromRow, int toRow) const;
 
+  /** Gives a cell a formula of the one kind in use, "SUM(R1C5:R10C5)": the cell shows the sum and follows changes of
+   *  the summed cells; inserted and deleted rows move it along. False for any other text. */
+  bool setFormula(int row, int col, const QString& formula);
+  /** '' for a cell without one. */
+  QString formula(int row, int col) const;
+
   /** One observer; the view. */
   void setObserver(Observer observer) { observer_ = std::move(observer); }
 
@@ -81,10 +87,26 @@ class SpreadModel {
     bool bold = false;
     int background = -1;
   };
+  struct Formula {
+    qint64 id;  ///< of the row that shows the sum
+    int col;
+    int sumCol, from, to;
+  };
+  void follow(int row, int col);
+  void moveFormulas(int row, int step);
+  int rowOf(qint64 id) const;
+
   std::vector<SpreadColumn> columns_;
   std::vector<Row> rows_;
+  std::vector<Formula> formulas_;
   QHash<quint64, bool> locks_;
   QHash<quint64, int> colours_;
   qint64 nextId_ = 1;
   Observer observer_;
 };
+
+enum class SubTotal { Part, Whole };
+
+/** Puts a row at a place with "[소 계]" or "[합 계]" in labelCol and, in each of the columns, the sum from the first
+ *  row to the one above: a later row of the kind counts an earlier one in, as the formula says. */
+void InsertSubTotal(SpreadModel& grid, int row, SubTotal kind, int labelCol, const std::vector<int>& columns);

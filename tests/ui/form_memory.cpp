@@ -1,0 +1,106 @@
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMenu>
+
+#include "pc/ini_file.h"
+#include "tests/support.h"
+#include "tests/ui/grab.h"
+#include "ui/form.h"
+#include "ui/form_ini.h"
+#include "ui/grid_menu.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class PlainForm : public Form {
+ public:
+  explicit PlainForm(Session& session) : Form(u"frmPlain"_s, u"보기"_s, session) {
+    rows.setColumns({{.header = u"가"_s, .width = 8}, {.header = u"나"_s, .width = 9}});
+    grid = addSpread("SpPlain", rows);
+    resize(500, 300);
+  }
+  SpreadModel rows;
+  Spread* grid;
+};
+
+class FormMemory : public ::testing::Test {
+ protected:
+  QString file() { return at.pc.paths.native(u"C:\\RWGas\\FormIni\\frmPlain.ini"_s); }
+  void write(const QByteArray& content) {
+    QDir().mkpath(QFileInfo(file()).path());
+    QFile ini(file());
+    ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+    ini.write(content);
+  }
+  /** Chooses an entry of the grid's menu. */
+  void choose(PlainForm& form, const QString& text) {
+    showGridMenu(form, *form.grid, QPoint(5, 5));
+    for (QAction* entry : form.grid->findChild<QMenu*>()->actions())
+      if (entry->text() == text) entry->trigger();
+    form.grid->findChild<QMenu*>()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  tests::TestPc at;
+};
+
+TEST_F(FormMemory, FormWithoutAFileKeepsItsDesign) {
+  PlainForm form(at.session);
+  tests::show(form);
+  EXPECT_EQ(form.size(), QSize(500, 300));
+  EXPECT_EQ(form.grid->colWidth(1), 8);
+}
+
+TEST_F(FormMemory, TextThatIsNoNumberIsPassedOver) {
+  write(
+      "[FormPosition]\r\nLeft=12\r\nTop=abc\r\nWidth=640\r\nHeight= 320 "
+      "\r\n[SpPlain_ColsWidth]\r\n1=x\r\n2=21.5\r\n"
+      "[SpPlain_General]\r\nFontSize=0\r\nRowHeight=18\r\n");
+  PlainForm form(at.session);
+  tests::show(form);
+  EXPECT_EQ(form.size(), QSize(640, 320));
+  EXPECT_EQ(form.grid->colWidth(1), 8);
+  EXPECT_EQ(form.grid->colWidth(2), 21.5);
+  EXPECT_EQ(form.grid->fontSize(), 10);
+  EXPECT_EQ(form.grid->rowHeight(), 18);
+
+  PlainForm placed(at.session);
+  FormIni(at.pc.paths).LoadFormIni(placed, false);
+  EXPECT_EQ(placed.size(), QSize(500, 300)) << "its size is left alone";
+}
+
+TEST_F(FormMemory, NothingIsWrittenForAFormThatIsNotSeen) {
+  PlainForm form(at.session);
+  FormIni(at.pc.paths).SaveFormIni(form);
+  FormIni(at.pc.paths).SaveSpreadIni(form, *form.grid, 1);
+  EXPECT_FALSE(QFileInfo::exists(file()));
+}
+
+TEST_F(FormMemory, MenuChangesRowHeightAndFontAndGoesBackToTheDesign) {
+  PlainForm form(at.session);
+  tests::show(form);
+  at.prompts.expectInput(u"줄높이를 입력하세요.(입력범위: 8~20, 0:기본값)"_s, u"20"_s);
+  choose(form, u"그리드 줄높이 변경"_s);
+  EXPECT_EQ(form.grid->rowHeight(), 20);
+  at.prompts.expectInput(u"글자크기"_s, u"14"_s);
+  choose(form, u"글자크기        변경"_s);
+  EXPECT_EQ(form.grid->fontSize(), 14);
+  at.prompts.expectInput(u"글자크기"_s, u"21"_s);
+  at.prompts.expect(u"8에서 20"_s);
+  choose(form, u"글자크기        변경"_s);
+  EXPECT_EQ(form.grid->fontSize(), 14);
+  EXPECT_EQ(pc::IniFile(file()).value(u"SpPlain_General"_s, u"RowHeight"_s), u"20"_s);
+
+  at.prompts.expect(u"정말 수정하시겠습니까?"_s, false);
+  choose(form, u"폼 및 그리드 설정 초기화"_s);
+  EXPECT_TRUE(QFileInfo::exists(file()));
+  at.prompts.expect(u"정말 수정하시겠습니까?"_s, true);
+  choose(form, u"폼 및 그리드 설정 초기화"_s);
+  EXPECT_FALSE(QFileInfo::exists(file()));
+  EXPECT_EQ(form.grid->rowHeight(), 0);
+  EXPECT_EQ(form.grid->fontSize(), 10);
+}
+
+}  // namespace

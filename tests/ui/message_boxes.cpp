@@ -1,0 +1,171 @@
+// The real boxes, answered by posted keys.
+#include "ui/message_boxes.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QCalendarWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <functional>
+
+#include "tests/support.h"
+#include "tests/ui/grab.h"
+#include "ui/FrmProgress.h"
+#include "ui/frmCalendar.h"
+#include "ui/frmFloatMsg.h"
+#include "ui/picker_dialog.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** What is done in the modal window that opens next. */
+void whenOpen(std::function<void(QWidget&)> act) {
+  QTimer::singleShot(30, [act = std::move(act)] {
+    QWidget* const modal = QApplication::activeModalWidget();
+    ASSERT_TRUE(modal);
+    act(*modal);
+  });
+}
+
+struct Boxes : ::testing::Test {
+  MessageBoxes boxes{[] { return u"해온판매"_s; }};
+};
+
+TEST_F(Boxes, EmptyTitleBecomesTheProgramsOwn) {
+  QString title, text;
+  whenOpen([&](QWidget& box) {
+    title = box.windowTitle();
+    text = static_cast<QMessageBox&>(box).text();
+    tests::grab(box, u"box_info"_s);
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  boxes.MsgInfo(u"처리완료"_s);
+  EXPECT_EQ(title, u"해온판매"_s);
+  EXPECT_EQ(text, u"처리완료"_s);
+}
+
+TEST_F(Boxes, EnterAnswersWithTheDefaultAndLettersAnswerBothWays) {
+  const auto answer = [this](bool yesFirst, int key) {
+    whenOpen([key](QWidget& box) {
+      tests::grab(box, u"box_ask"_s);
+      QTest::keyClick(&box, Qt::Key(key));
+    });
+    return boxes.MsgAsk(u"계속하시겠습니까?"_s, u"체적관리자"_s, yesFirst);
+  };
+  EXPECT_TRUE(answer(true, Qt::Key_Return));
+  EXPECT_FALSE(answer(false, Qt::Key_Return));
+  EXPECT_TRUE(answer(false, Qt::Key_Y));
+  EXPECT_FALSE(answer(true, Qt::Key_N));
+  EXPECT_FALSE(answer(true, Qt::Key_Escape));
+}
+
+TEST_F(Boxes, ErrorBoxTellsNumberAndText) {
+  QString title, text;
+  whenOpen([&](QWidget& box) {
+    title = box.windowTitle();
+    text = static_cast<QMessageBox&>(box).text();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  boxes.ErrorBox(u"저장하지 못했습니다."_s, 3022, u"중복된 값"_s);
+  EXPECT_EQ(title, u"오류"_s);
+  EXPECT_EQ(text, u"저장하지 못했습니다.\n오류번호 : 3022\n오류내용 : 중복된 값"_s);
+}
+
+TEST_F(Boxes, InputBoxHandsBackTheTextOrNothing) {
+  whenOpen([](QWidget& box) {
+    tests::grab(box, u"box_input"_s);
+    auto* const line = box.findChild<QLineEdit*>();
+    line->setText(u"13579"_s);
+    QTest::keyClick(line, Qt::Key_Return);
+  });
+  EXPECT_EQ(boxes.InputBox(u"암호확인"_s, u"체적자료 클리어"_s), u"13579"_s);
+  whenOpen([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  EXPECT_EQ(boxes.InputBox(u"암호확인"_s, {}), std::nullopt);
+}
+
+TEST_F(Boxes, CalendarOpensOnTheGivenDayAndTakesByEnter) {
+  const QDate today(2026, 6, 15);
+  const auto choose = [&](const QString& initial, int key) {
+    whenOpen([key](QWidget& box) {
+      tests::grab(box, u"frmCalendar"_s);
+      QWidget* const days = box.findChild<QWidget*>(u"qt_calendar_calendarview"_s);
+      ASSERT_TRUE(days);
+      if (key != Qt::Key_Escape) QTest::keyClick(days, Qt::Key_Right);
+      QTest::keyClick(days, Qt::Key(key));
+    });
+    return frmCalendar(initial, today);
+  };
+  EXPECT_EQ(choose(u"2026-02-28"_s, Qt::Key_Return), u"2026-03-01"_s);
+  EXPECT_EQ(choose(u"2026-02-30"_s, Qt::Key_Return), u"2026-06-16"_s) << "no such day: today";
+  EXPECT_EQ(choose({}, Qt::Key_Escape), std::nullopt);
+}
+
+TEST_F(Boxes, ProgressStopsOnlyWhereTheWorkMay) {
+  FrmProgress fixed(u"월마감"_s, 10, false);
+  fixed.close();
+  EXPECT_TRUE(fixed.isVisible());
+  EXPECT_TRUE(fixed.step(10));
+  FrmProgress free(u"자료 검색"_s, 10, true);
+  tests::grab(free, u"FrmProgress"_s);
+  QTest::keyClick(&free, Qt::Key_Escape);
+  EXPECT_TRUE(free.isVisible()) << "the work says when it ends";
+  EXPECT_FALSE(free.step(5));
+}
+
+TEST_F(Boxes, NoticeGoesByItself) {
+  QWidget window;
+  QLineEdit box(&window);
+  tests::show(window);
+  box.setFocus();
+  showFloatMsg(u"저장되었습니다."_s, 20, &window);
+  auto* const notice = window.findChild<QWidget*>(u"frmFloatMsg"_s);
+  ASSERT_TRUE(notice && notice->isVisible());
+  EXPECT_TRUE(box.hasFocus());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.findChild<QWidget*>(u"frmFloatMsg"_s); }, 2000));
+}
+
+TEST_F(Boxes, PickerFindsTakesAndLeaves) {
+  tests::TestPc at;
+  SpreadModel rows;
+  rows.setColumns({{.header = u"은행명"_s, .width = 20, .locked = true}});
+  const auto run = [&](std::function<void(PickerDialog&)> act) {
+    rows.clear();
+    PickerDialog dialog(u"frmSearchBank"_s, u"은행 검색"_s, at.session, rows, "SpBank");
+    dialog.addFind("TxtFind", u"은행명"_s, [&](const QString& text) {
+      rows.setRows({{text + u'1'}, {text + u'2'}});
+      dialog.showFound();
+    });
+    whenOpen([&](QWidget& box) { act(static_cast<PickerDialog&>(box)); });
+    return dialog.pick();
+  };
+  EXPECT_EQ(run([](PickerDialog& box) {
+              EXPECT_TRUE(box.findBox()->hasFocus());
+              tests::compose({u"ㅎ"_s, u"하"_s}, u"한"_s);
+              EXPECT_EQ(box.grid()->model().MaxRows(), 0) << "a syllable being composed searches nothing";
+              tests::key(Qt::Key_Return);
+              EXPECT_TRUE(box.grid()->hasFocus());
+              tests::key(Qt::Key_Down);
+              tests::grab(box, u"picker"_s);
+              tests::key(Qt::Key_Return);
+            }),
+            2);
+  EXPECT_EQ(rows.text(2, 1), u"한2"_s);
+  EXPECT_EQ(run([](PickerDialog&) {
+              tests::key(Qt::Key_Return);
+              tests::key(Qt::Key_Escape);
+            }),
+            0);
+  EXPECT_EQ(run([](PickerDialog& box) {
+              tests::key(Qt::Key_Return);
+              QTest::mouseDClick(box.grid()->viewport(), Qt::LeftButton, {},
+                                 box.grid()->cellRect(1, 1).center());
+            }),
+            1);
+}
+
+}  // namespace

@@ -1,0 +1,29 @@
+#pragma once
+// The bar for long work that runs in its handler.
+#include <QDialog>
+#include <QElapsedTimer>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+/** Shown while it lives, over the window that works; other windows take no input meanwhile. */
+class FrmProgress : public QDialog {
+ public:
+  /** total: steps of the work; 0 when it is not known. A stop button only when the work may be broken off. */
+  FrmProgress(const QString& caption, int total, bool mayStop, QWidget* parent = nullptr);
+
+  /** Shows the step, not oftener than the eye sees. False once the operator has asked to stop. */
+  bool step(int done, const QString& note = {});
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void reject() override;
+
+ private:
+  QLabel* note_;
+  QProgressBar* bar_;
+  QPushButton* stop_ = nullptr;
+  QElapsedTimer sinceDrawn_;
+  bool stopped_ = false;
+};
