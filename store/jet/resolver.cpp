@@ -1,7 +1,5 @@
 #include "store/jet/resolver.h"
 
-#include <algorithm>
-
 #include "store/jet/error_texts.h"
 
 namespace jet {
@@ -9,16 +7,6 @@ namespace jet {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/** In the order they are written, which a right join turns round. */
-void collectSources(const From& from, std::vector<const From*>& sources) {
-  if (from.sides.empty()) sources.push_back(&from);
-  for (const From& side : from.sides) collectSources(side, sources);
-}
-
-void sortAsWritten(std::vector<const From*>& sources) {
-  std::sort(sources.begin(), sources.end(), [](const From* a, const From* b) { return a->place < b->place; });
-}
 
 const From& sourceNamed(const std::vector<const From*>& sources, const QString& name) {
   for (const From* source : sources)
@@ -129,11 +117,8 @@ void Resolver::resolveDefinition(Statement& statement) {
 }
 
 void Resolver::resolveFrom(std::vector<From>& from, Scope& scope) {
-  for (From& each : from) {
-    resolveSource(each, scope);
-    collectSources(each, scope.sources);
-  }
-  sortAsWritten(scope.sources);
+  for (From& each : from) resolveSource(each, scope);
+  scope.sources = sourcesAsWritten(from);
   for (const From* source : scope.sources)
     for (const From* other : scope.sources)
       if (source != other && sameName(source->alias, other->alias)) fail(3012, source->alias);
@@ -158,7 +143,7 @@ void Resolver::resolveOn(From& from, const Scope& scope) {
   if (from.on.empty()) return;
   Scope joined;
   joined.outer = scope.outer;
-  collectSources(from, joined.sources);
+  joined.sources = sourcesOf(from);
   for (Expr& on : from.on) resolveExpr(on, joined);
 }
 

@@ -73,6 +73,11 @@ struct From {
   TableInfo info;  ///< by the resolver; of a query its columns as fields
 };
 
+/** The tables and queries that a join joins. */
+std::vector<const From*> sourcesOf(const From& from);
+/** Those of a whole FROM in the order of the text, which a right join turns round. */
+std::vector<const From*> sourcesAsWritten(const std::vector<From>& from);
+
 struct SelectItem {
   Expr expr;
   QString alias;

@@ -1,10 +1,16 @@
 #include "store/jet/writer.h"
 
-#include <algorithm>
-
 namespace jet {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool hasTableRows(const Select& select) {
+  return !select.grouped && !select.distinct && select.unions.empty();
+}
+
+}  // namespace
 
 QByteArray Writer::write(const Statement& statement, Keys keys) {
   out_.reserve(512);
@@ -122,6 +128,7 @@ void Writer::writeQuery(const Select& select, bool named) {
   *this << " ORDER BY ";
   around_.push_back(&select);
   writeOrder(select.orderBy);
+  writeTieOrder(select);
   around_.pop_back();
 }
 
@@ -270,18 +277,38 @@ void Writer::writeTable(const TableInfo& table, const QString& alias) {
 
 /** The row of a group, of DISTINCT or of a UNION is no longer the row of a table. */
 void Writer::collectKeys(const Select& select) {
-  if (select.grouped || select.distinct || !select.unions.empty()) return;
-  std::vector<const From*> sources;
-  std::function<void(const From&)> collect = [&](const From& from) {
-    if (from.kind == From::Kind::Table) sources.push_back(&from);
-    for (const From& side : from.sides) collect(side);
-  };
-  for (const From& from : select.from) collect(from);
-  std::sort(sources.begin(), sources.end(), [](auto* a, auto* b) { return a->place < b->place; });
-  for (const From* source : sources) {
+  if (!hasTableRows(select)) return;
+  for (const From* source : sourcesAsWritten(select.from)) {
+    if (source->kind != From::Kind::Table) continue;
     keys_.push_back(source->info);
     keySources_.push_back(source->alias);
   }
+}
+
+void Writer::writeEntryOrder(const Select& select) {
+  const From* first = sourcesAsWritten(select.from).front();
+  if (first->kind != From::Kind::Table) {
+    *this << "0";
+    return;
+  }
+  quote(first->alias);
+  *this << ".rowid";
+}
+
+/** Rows that tie come in the order of entry, whatever road SQLite takes to them: two statements with the same tables
+ *  and order then give the same rows in the same places. */
+void Writer::writeTieOrder(const Select& select) {
+  if (!hasTableRows(select) || select.from.empty()) return;
+  const From* first = sourcesAsWritten(select.from).front();
+  if (first->kind != From::Kind::Table) return;
+  for (const OrderItem& item : select.orderBy) {
+    if (item.expr.kind != Expr::Kind::Column || item.expr.source != first->alias) continue;
+    for (const Field& field : first->info.fields)
+      if (field.autonumber && field.name == item.expr.column) return;  // no ties
+  }
+  *this << ", ";
+  writeEntryOrder(select);
+  if (select.orderBy.back().descending) *this << " DESC";
 }
 
 Writer& Writer::operator<<(const char* text) {

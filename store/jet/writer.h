@@ -29,6 +29,8 @@ class Writer {
   void writeCore(const Select& select, bool named);
   void writeItems(const Select& select, bool named);
   void writeOrder(const std::vector<OrderItem>& order);
+  void writeTieOrder(const Select& select);
+  void writeEntryOrder(const Select& select);
   void writeFromList(const std::vector<From>& from);
   void writeFrom(const From& from);
   void writeTable(const TableInfo& table, const QString& alias);

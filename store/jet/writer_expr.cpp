@@ -320,15 +320,8 @@ void Writer::writeAggregate(const Expr& expr) {
     *this << " COLLATE JET";
   if (expr.name == "FIRST"_L1 || expr.name == "LAST"_L1) {
     // First and last by the order of entry in the first table of the query.
-    const From* first = &around_.back()->from.front();
-    while (!first->sides.empty()) first = &first->sides[0];
     *this << ", ";
-    if (first->kind == From::Kind::Table) {
-      quote(first->alias);
-      *this << ".rowid";
-    } else {
-      *this << "0";
-    }
+    writeEntryOrder(*around_.back());
   }
   *this << ")";
 }
