@@ -1,5 +1,7 @@
 #include "master/response_register.h"
 
+#include "store/date_text.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,14 +31,22 @@ RegisterFields ResponseRegister::blank() const {
   return {{u"AppDate"_s, session_.pc.clock.dateText()}};
 }
 
-RegisterRules::Outcome ResponseRegister::checkRequired(const RegisterFields& boxes) {
+RegisterRules::Outcome ResponseRegister::check(RegisterFields& boxes) {
   if (boxes[u"Name"_s].isEmpty())
     return refuse(u"담당자명은 필수입력사항입니다!"_s, responseTitle, u"Name"_s);
+  QString& joined = boxes[u"AppDate"_s];
+  if (joined.isEmpty()) return {true};
+  const QString date = checkedDate(joined, session_.pc.clock);
+  if (date.isEmpty())
+    return refuse(u"날짜 입력이 올바르지 않습니다!\n입력예) "_s + session_.pc.clock.dateText(),
+                  u"날짜입력 에러"_s, u"AppDate"_s);
+  joined = date;
   return {true};
 }
 
-RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& typed) {
+  RegisterFields boxes = typed;
+  if (const Outcome checked = check(boxes); !checked.done) return checked;
   session_.dbBasic.Execute(
       u"Insert Into Response(Name, Tel, AppDate, IdentyNo, HP, PostCode, Address, Memo)  Values('"_s +
       boxes[u"Name"_s] + u"', '"_s + boxes[u"Tel"_s] + u"', '"_s + boxes[u"AppDate"_s] + u"', '"_s +
@@ -45,8 +55,9 @@ RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& boxes) {
   return {true};
 }
 
-RegisterRules::Outcome ResponseRegister::change(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+RegisterRules::Outcome ResponseRegister::change(const RegisterFields& typed) {
+  RegisterFields boxes = typed;
+  if (const Outcome checked = check(boxes); !checked.done) return checked;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, responseTitle)) return {};
   session_.dbBasic.Execute(
       u"Update Response Set Name = '"_s + boxes[u"Name"_s] + u"', Tel = '"_s + boxes[u"Tel"_s] +

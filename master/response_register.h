@@ -17,5 +17,6 @@ class ResponseRegister : public RegisterRules {
   Outcome saveWithoutRow(const RegisterFields& boxes) override;
 
  private:
-  Outcome checkRequired(const RegisterFields& boxes);
+  /** A name there must be, and a date that is none is refused; a date passes on as "yyyy-MM-dd". */
+  Outcome check(RegisterFields& boxes);
 };
