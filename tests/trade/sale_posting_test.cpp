@@ -1,0 +1,330 @@
+#include "tests/trade/sale_desk.h"
+
+namespace {
+
+using tests::SaleDesk;
+
+/** The rules joined as the form joins them; the helpers play the operator's hand. */
+struct Sale : SaleDesk {
+  SalePosting posting{pc.session};
+  SaleEntry entry{posting, pickers, calls};
+
+  Sale() { posting.FillSaleGrid(SaleSheet::General, true); }
+
+  SpreadModel& cells() { return posting.grid(posting.sheet()); }
+  QString cell(int row, int col) { return cells().text(row, col); }
+  /** Number, price, discount, amount, income, credit. */
+  QString figures(int row) {
+    QStringList texts;
+    for (int col = SaleCol::Number; col <= SaleCol::Trust; ++col) texts << cell(row, col);
+    return texts.join(u'|');
+  }
+  QString line(int key) {
+    return rows(
+        "Select SaleDate, SaleGubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, Income, Trust From Sale "
+        "Where SaleID = " +
+        QString::number(key));
+  }
+  int newRow(int client, const QString& name) {
+    pickers.clients.push_back(ClientChoice{client, name});
+    const SaleStep step = entry.enterKey(cells().MaxRows(), SaleCol::Client, name);
+    EXPECT_EQ(step.col, SaleCol::Kind);
+    return step.row;
+  }
+  void item(int row, const QString& name, const QString& size, double price) {
+    pickers.items.push_back(ItemChoice{name, size, price, 0});
+    EXPECT_EQ(entry.enterKey(row, SaleCol::Item, {}).col, SaleCol::Amount);
+  }
+  SaleStep change(int row, int col, const QString& typed) {
+    pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+    return entry.finishCell(row, col, typed);
+  }
+  /** A gas line of one piece of size 20 at 40,000 won, paid. */
+  int gasLine() {
+    const int row = newRow(Plain, "산골식당");
+    EXPECT_EQ(entry.enterKey(row, SaleCol::Kind, "가스").col, SaleCol::Item);
+    item(row, "LPG", "20", 40000);
+    return row;
+  }
+  int ofKind(const QString& label) {
+    const int row = newRow(Plain, "산골식당");
+    entry.finishCell(row, SaleCol::Kind, label);
+    return row;
+  }
+};
+
+TEST(SaleKinds, PositionsAndCodes) {
+  const int gas[] = {1, 4, 5, 6, 2, 3};
+  for (int at = 0; at < 6; ++at) {
+    EXPECT_EQ(saleKindAt(SaleSheet::General, at), gas[at]);
+    EXPECT_EQ(salePositionOf(SaleSheet::Volume, gas[at]), at);
+  }
+  EXPECT_EQ(saleKindAt(SaleSheet::Material, 1), 8);
+  EXPECT_EQ(salePositionOf(SaleSheet::General, 9), 5) << "an unknown kind stands at the last position";
+  EXPECT_EQ(saleSearchCode(SaleMaterial), "4");
+  EXPECT_EQ(saleSearchCode(SaleCollection), "");
+}
+
+TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {
+  Sale sale;
+  const int row = sale.newRow(Sale::Plain, "산골식당");
+  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  EXPECT_EQ(sale.line(1), "2026-03-05|1||0|0|0|0|0|0");
+  EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "")
+      << "the skeleton is all the first post writes";
+
+  sale.item(row, "LPG", "20", 40000);
+  EXPECT_EQ(sale.pickers.asked.last(), "item 1");
+  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|0|40000|0");
+  EXPECT_EQ(sale.change(row, SaleCol::Number, "2").col, SaleCol::Unit);
+  EXPECT_EQ(sale.figures(row), "2|40000|0|80000|80000|0");
+  EXPECT_EQ(sale.stock(), "960|100|10|42|48");
+  EXPECT_EQ(sale.balance(), "100000|5000") << "paid in cash";
+  EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "2026-03-05");
+
+  EXPECT_EQ(sale.change(row, SaleCol::Income, "30000").col, SaleCol::Person);
+  EXPECT_EQ(sale.figures(row), "2|40000|0|80000|30000|50000");
+  EXPECT_EQ(sale.balance(), "150000|5000");
+  sale.change(row, SaleCol::Income, "60000");
+  EXPECT_EQ(sale.balance(), "120000|5000");
+  sale.change(row, SaleCol::Number, "3");
+  EXPECT_EQ(sale.stock(), "940|100|10|43|47");
+  EXPECT_EQ(sale.balance(), "100000|5000");
+
+  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  EXPECT_TRUE(sale.posting.deleteRow(row));
+  EXPECT_EQ(sale.stock(), "1000|100|10|40|50");
+  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "0");
+}
+
+TEST(SalePosting, ACollectionOpensWithTheBalanceAndTakesItDown) {
+  Sale sale;
+  const int row = sale.newRow(Sale::Plain, "산골식당");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Kind, "수금").col, SaleCol::Income);
+  EXPECT_EQ(sale.cell(row, SaleCol::Item), "가스수금");
+  EXPECT_EQ(sale.figures(row), "0|0|0|100000|0|100000");
+  sale.change(row, SaleCol::Income, "10000");
+  EXPECT_EQ(sale.line(1), "2026-03-05|4|가스수금|0|0|0|0|10000|90000");
+  EXPECT_EQ(sale.balance(), "90000|5000");
+  sale.change(row, SaleCol::Income, "15000");
+  EXPECT_EQ(sale.balance(), "85000|5000");
+
+  sale.posting.refill();
+  EXPECT_EQ(sale.figures(1), "|||100000|15000|85000") << "a collection shows no quantity, price or discount";
+  EXPECT_TRUE(sale.cells().locked(1, SaleCol::Number));
+  EXPECT_EQ(sale.entry.missingField(1), 0);
+  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  sale.posting.deleteRow(1);
+  EXPECT_EQ(sale.balance(), "100000|5000");
+}
+
+TEST(SalePosting, MaterialLinesBookOnUtilInitButAreDeletedOffGasInit) {
+  Sale sale;
+  sale.posting.FillSaleGrid(SaleSheet::Material, true);
+  const int row = sale.newRow(Sale::Plain, "산골식당");
+  EXPECT_EQ(sale.cell(row, SaleCol::Kind), "자판");
+  sale.entry.enterKey(row, SaleCol::Kind, "자판");
+  sale.item(row, "밸브", "15A", 30000);
+  EXPECT_EQ(sale.pickers.asked.last(), "item 4");
+  sale.change(row, SaleCol::Income, "10000");
+  EXPECT_EQ(sale.balance(), "100000|25000");
+  EXPECT_EQ(sale.rows("Select UtilStock From Util"), "29");
+  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  sale.posting.deleteRow(row);
+  EXPECT_EQ(sale.balance(), "80000|25000");
+  EXPECT_EQ(sale.rows("Select UtilStock From Util"), "30");
+
+  const int collection = sale.newRow(Sale::Plain, "산골식당");
+  sale.entry.finishCell(collection, SaleCol::Kind, "자수");
+  EXPECT_EQ(sale.figures(collection), "0|0|0|25000|0|25000");
+  sale.change(collection, SaleCol::Income, "5000");
+  EXPECT_EQ(sale.balance(), "80000|20000");
+  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  sale.posting.deleteRow(collection);
+  EXPECT_EQ(sale.balance(), "80000|25000");
+}
+
+TEST(SalePosting, OnTheVolumeSheetAmountAndCreditStayZero) {
+  Sale sale;
+  const int row = sale.newRow(Sale::Metered, "별빛 3동");
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume)
+      << "a meter customer found on the general sheet moves over";
+  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  sale.item(row, "LPG", "50", 90000);
+  sale.change(row, SaleCol::Number, "4");
+  EXPECT_EQ(sale.figures(row), "4|90000|0|0|0|0");
+  EXPECT_EQ(sale.rows("Select Gubun, SaleNum, Income, Trust From Sale"), "-1|4|0|0");
+  EXPECT_EQ(sale.balance(Sale::Metered), "0|0");
+  EXPECT_EQ(sale.stock("50"), "800|100|10|44|46");
+  sale.change(row, SaleCol::Amount, "7000");
+  EXPECT_EQ(sale.figures(row), "4|90000|0|7000|7000|0");
+  sale.change(row, SaleCol::Income, "2000");
+  EXPECT_EQ(sale.figures(row), "4|90000|0|7000|2000|5000");
+  EXPECT_EQ(sale.balance(Sale::Metered), "5000|0");
+  EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Unit, {}).row, 0) << "Enter stays on the volume sheet";
+}
+
+TEST(SalePosting, TheAmountIsOnlyLoweredAndTheIncomeNeverAboveIt) {
+  Sale sale;
+  const int row = sale.gasLine();
+  sale.pc.prompts.expect("선택된 자료를");
+  sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Amount, "40001").end, SaleStep::PutBack);
+  EXPECT_EQ(sale.figures(row), "1|40000|0|40000|40000|0");
+  sale.change(row, SaleCol::Amount, "38000");
+  sale.change(row, SaleCol::Amount, "37000");
+  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|3000|37000|0");
+  sale.pc.prompts.expect("선택된 자료를");
+  sale.pc.prompts.expect("입력제한");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Income, "37001").end, SaleStep::PutBack);
+  EXPECT_EQ(sale.cell(row, SaleCol::Income), "37000");
+  sale.pc.prompts.expect("입력제한");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Unit, "1000000000").end, SaleStep::Refused);
+}
+
+TEST(SalePosting, AStoredLineAsksBeforeItChangesAndKeepsItsKind) {
+  Sale sale;
+  const int row = sale.gasLine();
+  sale.pc.prompts.expect("구분은 변경할 수 없습니다.");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Kind, "수금").end, SaleStep::PutBack);
+  sale.pc.prompts.expect("자료수정", false);
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Number, "9").end, SaleStep::PutBack);
+  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|0|40000|0");
+  EXPECT_EQ(sale.cell(row, SaleCol::Kind) + sale.cell(row, SaleCol::Number), "가스1");
+}
+
+TEST(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
+  Sale sale;
+  const int row = sale.gasLine();
+  EXPECT_EQ(sale.change(row, SaleCol::Date, "02-10").col, SaleCol::Client);
+  EXPECT_EQ(sale.rows("Select SaleDate From Sale"), "2026-02-10");
+  EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "2026-02-10");
+  EXPECT_EQ(sale.posting.date(), "02-10");
+
+  sale.pc.prompts.expect("선택된 자료를");
+  sale.pc.prompts.expect("날짜 입력이 올바르지 않습니다!\n입력예) 03.05");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Date, "02-30").col, SaleCol::Date);
+  EXPECT_EQ(sale.cell(row, SaleCol::Date) + sale.posting.date(), "");
+  EXPECT_EQ(sale.rows("Select SaleDate From Sale"), "2026-02-10") << "a wrong day is never written";
+  sale.pc.prompts.expect("날짜를 입력하세요");
+  EXPECT_EQ(sale.entry.missingField(row), SaleCol::Date);
+  EXPECT_TRUE(sale.posting.setDate("3.5"));
+  EXPECT_EQ(sale.posting.date(), "03-05");
+}
+
+TEST(SalePosting, AFailedStepLeavesThoseBeforeItAndTheRowAsItWas) {
+  Sale sale;
+  const int row = sale.gasLine();
+  sale.change(row, SaleCol::Income, "30000");
+  sale.pc.prompts.expect("선택된 자료를");
+  EXPECT_THROW(sale.entry.finishCell(row, SaleCol::Item, "L'PG / 20"), jet::Error);
+  EXPECT_EQ(sale.cell(row, SaleCol::Item), "LPG / 20");
+  sale.pc.session.StockEnabled = false;
+  sale.cells().setText(row, SaleCol::Item, "L'PG / 20");
+  sale.cells().setText(row, SaleCol::Trust, "15000");
+  EXPECT_THROW(sale.posting.PostSaleRow(row, SaleSheet::General), jet::Error);
+  EXPECT_EQ(sale.balance(), "115000|5000") << "10,000 of the line, then 5,000 more before the update failed";
+  EXPECT_EQ(sale.rows("Select SaleName, Trust From Sale"), "LPG|10000");
+}
+
+TEST(SalePosting, WithoutAnItemOnlyTheBalanceMoves) {
+  Sale sale;
+  const int row = sale.newRow(Sale::Plain, "산골식당");
+  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  sale.cells().setText(row, SaleCol::Trust, "700");
+  sale.posting.PostSaleRow(row, SaleSheet::General);
+  EXPECT_EQ(sale.balance(), "100700|5000");
+  EXPECT_EQ(sale.line(1), "2026-03-05|1||0|0|0|0|0|0");
+  sale.pc.prompts.expect("품명을 검색하세요");
+  EXPECT_EQ(sale.entry.missingField(row), SaleCol::Item);
+}
+
+TEST(SalePosting, SheetsShowTheirLinesOfADayOrOfACustomer) {
+  Sale sale;
+  const QString insert =
+      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, "
+      "Income, "
+      "Trust) Values(";
+  sale.run(insert + "'2026-03-05', 2, 1, False, 'LPG', '20', 2, 40000, 1000, 50000, 29000)");
+  sale.run(insert + "'2026-03-04', 2, 9, False, 'LPG', '20', 1, 1, 0, 0, 0)");
+  sale.run(insert + "'2026-03-05', 3, 1, True, 'LPG', '50', 1, 90000, 0, 0, 0)");
+  sale.run(insert + "'2026-03-05', 1, 8, False, '자재수금', '0', 0, 0, 0, 3000, 2000)");
+  sale.run(insert + "'2024-12-31', 2, 1, False, 'LPG', '20', 1, 1, 0, 0, 0)");
+
+  sale.posting.FillSaleGrid(SaleSheet::General, true);
+  ASSERT_EQ(sale.cells().MaxRows(), 2) << "one line and the spare row";
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "한빛 101동 202호");
+  EXPECT_EQ(sale.cell(1, SaleCol::Item), "LPG / 20");
+  EXPECT_EQ(sale.figures(1), "2|40000|1000|79000|50000|29000");
+  sale.posting.setClient(2);
+  sale.posting.FillSaleGrid(SaleSheet::General, false);
+  ASSERT_EQ(sale.cells().MaxRows(), 3) << "this year's and last year's lines";
+  EXPECT_EQ(sale.cell(1, SaleCol::Kind), "실병") << "a kind outside the table stands at the last position";
+  sale.posting.FillSaleGrid(SaleSheet::Volume, true);
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "별빛 3동");
+  sale.posting.FillSaleGrid(SaleSheet::Material, true);
+  EXPECT_EQ(sale.cell(1, SaleCol::Item) + sale.figures(1), "자재수금|||5000|3000|2000");
+
+  const SaleClientPanel panel = sale.posting.panel(1);
+  EXPECT_EQ(panel.address + panel.gasTrust + panel.utilTrust, "(706-010) 대구 수성구 1100,0005,000");
+  EXPECT_EQ(panel.map, "약도없슴");
+  EXPECT_EQ(sale.posting.panel(2).address, "");
+}
+
+TEST(SaleEntry, ChoosingACustomerOnAStoredLineOpensTheBottomRow) {
+  Sale sale;
+  sale.gasLine();
+  sale.posting.refill();
+  ASSERT_EQ(sale.cells().MaxRows(), 2);
+  sale.pickers.clients = {ClientChoice{2, "한빛 101동 202호"}, ClientChoice{2, "한빛 101동 202호"}};
+  sale.pc.prompts.expect("선택된 고객을 수정하시겠습니까?", false);
+  EXPECT_EQ(sale.entry.search(1, SaleCol::Client, {}).end, SaleStep::PutBack);
+  sale.pc.prompts.expect("고객수정");
+  const SaleStep step = sale.entry.search(1, SaleCol::Client, {});
+  EXPECT_EQ(step.row, 1);
+  EXPECT_EQ(sale.cell(1, SaleCol::Client) + sale.cell(1, SaleCol::Code) + sale.cell(1, SaleCol::Date),
+            "한빛 101동 202호203-05");
+  EXPECT_EQ(sale.rows("Select ClientCode From Sale"), "1");
+}
+
+TEST(SaleEntry, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
+  Sale sale;
+  const int row = sale.gasLine();
+  sale.pickers.persons = {QString("홍길동")};
+  SaleStep step = sale.entry.enterKey(row, SaleCol::Person, {});
+  EXPECT_EQ(step.row, row + 1);
+  EXPECT_EQ(step.col, SaleCol::Client);
+  EXPECT_EQ(sale.rows("Select Response From Sale"), "홍길동");
+  EXPECT_EQ(sale.entry.missingField(row + 1), 0) << "an empty row may be left";
+  sale.pc.prompts.expect("선택된 자료를");
+  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Client, "다른 이름").col, SaleCol::Client);
+  EXPECT_EQ(sale.cell(row, SaleCol::Client), "") << "a name only comes from the search";
+  sale.pickers.persons = {QString("홍길동")};
+  sale.pc.prompts.expect("고객명을 검색하세요");
+  EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Person, {}).col, SaleCol::Client);
+}
+
+TEST(SaleEntry, ACallersNumberPicksTheSheetAndSearches) {
+  Sale sale;
+  sale.pickers.clients = {ClientChoice{3, "별빛 3동"}};
+  sale.pickers.during = [&] { EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Client, {})); };
+  ASSERT_TRUE(sale.entry.canTakeCaller(SaleCol::Client, {}));
+  EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Client, "김"));
+  EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Date, {}));
+  const auto landed = sale.entry.TakeCallerNumber("0533456789");
+  ASSERT_TRUE(landed);
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
+  EXPECT_EQ(sale.pickers.asked.last(), "client 053-345-6789 1 1");
+  EXPECT_EQ(landed->col, SaleCol::Kind);
+
+  EXPECT_FALSE(sale.entry.TakeCallerNumber({})) << "nobody waits";
+  sale.calls.numbers = {"0531234567", "0210000000"};
+  sale.entry.TakeCallerNumber({});
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::General);
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "053-123-4567") << "not chosen: the number stays to be seen";
+  sale.posting.FillSaleGrid(SaleSheet::Material, true);
+  sale.entry.TakeCallerNumber({});
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Material) << "an unknown number leaves the sheet";
+}
+
+}  // namespace
