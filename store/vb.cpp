@@ -98,19 +98,4 @@ QString Format(const QDate& day, const QString& picture) {
   return Format(day.startOfDay(), picture);
 }
 
-QString weekdayName(const QDate& day) {
-  static const QStringList names{QStringLiteral("일요일"), QStringLiteral("월요일"), QStringLiteral("화요일"),
-                                 QStringLiteral("수요일"), QStringLiteral("목요일"), QStringLiteral("금요일"),
-                                 QStringLiteral("토요일")};
-  return names.at(day.dayOfWeek() % 7);
-}
-
-QString longDate(const QDate& day) {
-  return QStringLiteral("%1년 %2월 %3일 %4")
-      .arg(day.year())
-      .arg(day.month())
-      .arg(day.day())
-      .arg(weekdayName(day));
-}
-
 }  // namespace vb

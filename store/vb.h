@@ -33,9 +33,4 @@ QString Format(double number, const QString& picture);
 QString Format(const QDateTime& moment, const QString& picture);
 QString Format(const QDate& day, const QString& picture);
 
-/** "2026년 11월 24일 화요일" */
-QString longDate(const QDate& day);
-/** "일요일" to "토요일" */
-QString weekdayName(const QDate& day);
-
 }  // namespace vb

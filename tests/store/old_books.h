@@ -39,17 +39,8 @@ inline QString dumpOf(const jet::Database& db) {
   return out;
 }
 
-/** Old files in "C:\RWGas\Dbs\" for the years 2026 and 2025 (not 2024) and 2023: one customer, sale rows of that one
- *  and of a customer who is gone, one building, three postcodes. */
-inline void makeOldBooks(TestPc& here) {
-  using schema::File, schema::table;
-  Session& session = here.session;
-  here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
-  session.DbPath = installedDataFolder();
-  here.pc.paths.makeFolder(session.DbPath);
-  const jet::Workspace ws = openWorkspace(session, session.DbPath);
-  const jet::Database basic = ws.CreateDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
-  for (const jet::TableDef& def : schema::tablesOf(File::Basic)) {
+inline void fillOldBasic(const jet::Database& basic) {
+  for (const jet::TableDef& def : schema::tablesOf(schema::File::Basic)) {
     if (def.name == u"Options") continue;
     jet::TableDef old =
         without(def, {"delaypay", "Serial", "Status", "Item", "Uname", "Tel1", "Tel2", "DDD"});
@@ -65,19 +56,37 @@ inline void makeOldBooks(TestPc& here) {
   basic.Execute("Insert Into Client(Name, Tel) Values('김가네', '053-111-2222')");
   basic.Execute("Insert Into APT(Name, Dong) Values('한빛', '101')");
   basic.Execute("Insert Into PostCode(PostCode, City) Values('1', '옛것')");
-  for (const char* year : {"2002", "2023", "2025", "2026"}) {
-    const jet::Database file = ws.CreateDatabase(yearFile(session, QString::fromLatin1(year)));
-    for (const jet::TableDef& def : schema::tablesOf(File::Year)) {
-      file.createTable(without(def, {"DealList", "SaleList", "paydelayed"}));
-    }
-    file.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-05', 1, 1)");
-    file.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-06', 77, 1)");
-    file.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-07', 77, 4)");
-    file.Execute("Insert Into Evaporation(ClientCode, Mon) Values(1, 3)");
+}
+
+inline void fillOldYear(const jet::Database& year) {
+  for (const jet::TableDef& def : schema::tablesOf(schema::File::Year)) {
+    year.createTable(without(def, {"DealList", "SaleList", "paydelayed"}));
   }
-  makeDataFile(session, session.DbPath + QStringLiteral("dbTax.mdb"), File::Tax);
-  makeDataFile(session, session.DbPath + QStringLiteral("Print.mdb"), File::Print);
-  makeDataFile(session, session.DbPath + QStringLiteral("dbPost.mdb"), File::Post);
+  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-05', 1, 1)");
+  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-06', 77, 1)");
+  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-07', 77, 4)");
+  year.Execute("Insert Into Evaporation(ClientCode, Mon) Values(1, 3)");
+}
+
+/** Old files in "C:\RWGas\Dbs\" for the years 2026 and 2025 (not 2024) and 2023: one customer, sale rows of that one
+ *  and of a customer who is gone, one building, two postcodes. */
+inline void makeOldBooks(TestPc& here) {
+  Session& session = here.session;
+  here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
+  session.DbPath = installedDataFolder();
+  ASSERT_TRUE(here.pc.paths.makeFolder(session.DbPath));
+  const jet::Workspace ws = openWorkspace(session, session.DbPath);
+  const auto make = [&](const QString& name, void (*fill)(const jet::Database&)) {
+    const jet::Database file = ws.CreateDatabase(session.DbPath + name);
+    ws.Together([&] { fill(file); });
+  };
+  make(QStringLiteral("Basic.mdb"), fillOldBasic);
+  make(QStringLiteral("2002Foundation.mdb"), fillOldYear);
+  for (const char* year : {"2023", "2025", "2026"}) makeYearFile(session, QString::fromLatin1(year));
+  for (const char* name : {"/dbTax.mdb", "/Print.mdb", "/dbPost.mdb"}) {
+    QFile::copy(emptyDataFolder() + QLatin1String(name),
+                here.pc.paths.native(session.DbPath) + QLatin1String(name));
+  }
   const jet::Database post = ws.OpenDatabase(session.DbPath + QStringLiteral("dbPost.mdb"));
   post.Execute("Insert Into Post Values('702-010', '대구', '북구', '고성동', '1~99')");
   post.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('700-020', '대구', '중구', '동인동')");

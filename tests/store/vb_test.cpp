@@ -73,8 +73,6 @@ TEST(Vb, PicturesOfTheProgram) {
   EXPECT_EQ(vb::Format(moment.date(), "mm/dd"), "03-05");
   EXPECT_EQ(vb::Format(moment.date(), "DDDDD"), "2026-03-05");
   EXPECT_EQ(vb::Format(moment.date(), "YYYY"), "2026");
-  EXPECT_EQ(vb::longDate(QDate(2026, 11, 22)), "2026년 11월 22일 일요일");
-  EXPECT_EQ(vb::weekdayName(QDate(2026, 11, 28)), "토요일");
 }
 
 TEST(DateText, TypedMonthAndDayBelongToTheYearGiven) {
