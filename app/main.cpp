@@ -1,0 +1,76 @@
+// The program's entry: one PC, one session, the start window, then the main window until it closes.
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <memory>
+
+#include "app/FrmInitMsg.h"
+#include "app/form_pickers.h"
+#include "app/form_tool_icons.h"
+#include "app/frmMain.h"
+#include "app/frmSplash.h"
+#include "app/start_up.h"
+#include "ui/guard.h"
+#include "ui/message_boxes.h"
+#include "ui/style.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Korean whatever the PC's language is: the boxes of the toolkit (file, colour) speak as the program does.
+void speakKorean(QApplication& application) {
+  const QLocale korean(QLocale::Korean, QLocale::SouthKorea);
+  QLocale::setDefault(korean);
+  auto* translator = new QTranslator(&application);
+  if (translator->load(korean, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(translator);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(u"haeon"_s);
+  QApplication::setQuitOnLastWindowClosed(false);  // between the start window and the main one there is none
+  QApplication::setWindowIcon(toolIcon(u"MnuOutcome"_s));
+  speakKorean(application);
+  look::apply(application);
+
+  pc::Pc pc(pc::Paths::defaultRoot());
+  Session* open = nullptr;  // the boxes ask for a title that only the session knows
+  MessageBoxes boxes([&open] { return open ? open->AppTitle : QString(); });
+  Session session(pc, boxes);
+  open = &session;
+
+  StartUp startUp(session);
+  FormPickers pickers(session);
+  frmSplash splash(startUp, session);
+  std::unique_ptr<frmMain> mainWindow;
+
+  splash.ended = [] { QApplication::exit(0); };
+  splash.signedIn = [&] {
+    if (pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"NoMsg"_s, u"0"_s) == "0"_L1)
+      FrmInitMsg(session).exec();
+    mainWindow = std::make_unique<frmMain>(session, pickers);
+    pickers.setContext(mainWindow->context());
+    mainWindow->relink = [&] { startUp.relink(); };
+    mainWindow->closed = [&] {
+      guarded(boxes, [&] { startUp.shutDown(); });
+      QApplication::exit(0);
+    };
+    mainWindow->showMaximized();
+    mainWindow->start();
+  };
+  bool usable = false;
+  const bool stood = guarded(boxes, [&] {
+    usable = startUp.SubMain([&] {
+      splash.load();
+      splash.show();
+      splash.activateWindow();
+    });
+  });
+  if (!stood || !usable) return 1;
+  return QApplication::exec();
+}
