@@ -1,5 +1,7 @@
 #include "store/jet/writer.h"
 
+#include <algorithm>
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
@@ -8,6 +10,22 @@ namespace {
 
 bool hasTableRows(const Select& select) {
   return !select.grouped && !select.distinct && select.unions.empty();
+}
+
+/** A join in brackets hides the rowids of its tables. */
+void collectWithRowids(const From& from, std::vector<const From*>& tables) {
+  if (from.kind == From::Kind::Table) tables.push_back(&from);
+  if (from.sides.empty()) return;
+  collectWithRowids(from.sides[0], tables);
+  if (from.sides[1].sides.empty()) collectWithRowids(from.sides[1], tables);
+}
+
+/** In the order of the text. */
+std::vector<const From*> tablesWithRowids(const Select& select) {
+  std::vector<const From*> tables;
+  for (const From& from : select.from) collectWithRowids(from, tables);
+  std::sort(tables.begin(), tables.end(), [](const From* a, const From* b) { return a->place < b->place; });
+  return tables;
 }
 
 }  // namespace
@@ -128,7 +146,11 @@ void Writer::writeQuery(const Select& select, bool named) {
   *this << " ORDER BY ";
   around_.push_back(&select);
   writeOrder(select.orderBy);
-  writeTieOrder(select);
+  if (breaksTies(select)) {
+    *this << ", ";
+    writeEntryOrder(select);
+    if (select.orderBy.back().descending) *this << " DESC";
+  }
   around_.pop_back();
 }
 
@@ -154,6 +176,7 @@ void Writer::writeTop(const Select& select, bool named) {
   *this << ") AS \"place\" FROM (";
   writeBody(select, true);
   *this << ")) WHERE \"place\" <= " << select.top << " ORDER BY \"place\"";
+  if (breaksTies(select)) *this << (select.orderBy.back().descending ? ", \"entry\" DESC" : ", \"entry\"");
 }
 
 void Writer::writeBody(const Select& select, bool named) {
@@ -220,6 +243,10 @@ void Writer::writeItems(const Select& select, bool named) {
     writeValue(select.orderBy[i].expr);
     *this << " AS \"o" << int(i + 1) << "\"";
   }
+  if (!breaksTies(select)) return;
+  *this << ", ";
+  writeEntryOrder(select);
+  *this << " AS \"entry\"";
 }
 
 void Writer::writeOrder(const std::vector<OrderItem>& order) {
@@ -278,37 +305,33 @@ void Writer::writeTable(const TableInfo& table, const QString& alias) {
 /** The row of a group, of DISTINCT or of a UNION is no longer the row of a table. */
 void Writer::collectKeys(const Select& select) {
   if (!hasTableRows(select)) return;
-  for (const From* source : sourcesAsWritten(select.from)) {
-    if (source->kind != From::Kind::Table) continue;
-    keys_.push_back(source->info);
-    keySources_.push_back(source->alias);
+  for (const From* table : tablesWithRowids(select)) {
+    keys_.push_back(table->info);
+    keySources_.push_back(table->alias);
   }
 }
 
 void Writer::writeEntryOrder(const Select& select) {
-  const From* first = sourcesAsWritten(select.from).front();
-  if (first->kind != From::Kind::Table) {
+  const std::vector<const From*> tables = tablesWithRowids(select);
+  if (tables.empty()) {
     *this << "0";
     return;
   }
-  quote(first->alias);
+  quote(tables.front()->alias);
   *this << ".rowid";
 }
 
 /** Rows that tie come in the order of entry, whatever road SQLite takes to them: two statements with the same tables
  *  and order then give the same rows in the same places. */
-void Writer::writeTieOrder(const Select& select) {
-  if (!hasTableRows(select) || select.from.empty()) return;
-  const From* first = sourcesAsWritten(select.from).front();
-  if (first->kind != From::Kind::Table) return;
+bool Writer::breaksTies(const Select& select) const {
+  const std::vector<const From*> tables = tablesWithRowids(select);
+  if (!hasTableRows(select) || tables.empty() || select.orderBy.empty()) return false;
   for (const OrderItem& item : select.orderBy) {
-    if (item.expr.kind != Expr::Kind::Column || item.expr.source != first->alias) continue;
-    for (const Field& field : first->info.fields)
-      if (field.autonumber && field.name == item.expr.column) return;  // no ties
+    if (item.expr.kind != Expr::Kind::Column || item.expr.source != tables.front()->alias) continue;
+    for (const Field& field : tables.front()->info.fields)
+      if (field.autonumber && field.name == item.expr.column) return false;  // no ties
   }
-  *this << ", ";
-  writeEntryOrder(select);
-  if (select.orderBy.back().descending) *this << " DESC";
+  return true;
 }
 
 Writer& Writer::operator<<(const char* text) {

@@ -11,7 +11,8 @@ class Writer {
  public:
   /** The text of a select, insert, update or delete; empty for definitions, which the runtime carries out. */
   QByteArray write(const Statement& statement, Keys keys);
-  /** The tables whose rowids stand behind the columns of the select just written. */
+  /** The tables whose rowids stand behind the columns of the select just written: those it can reach, which leaves
+   *  out the tables of a join in brackets on the right. */
   const std::vector<TableInfo>& keys() const { return keys_; }
 
  private:
@@ -29,7 +30,7 @@ class Writer {
   void writeCore(const Select& select, bool named);
   void writeItems(const Select& select, bool named);
   void writeOrder(const std::vector<OrderItem>& order);
-  void writeTieOrder(const Select& select);
+  bool breaksTies(const Select& select) const;
   void writeEntryOrder(const Select& select);
   void writeFromList(const std::vector<From>& from);
   void writeFrom(const From& from);

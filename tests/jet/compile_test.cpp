@@ -92,7 +92,7 @@ TEST(Compile, KeysStandBehindTheColumnsOfPlainRows) {
   const Compiled inner = compiled(
       u"Select Name From Client Where Code In (Select Top 1 ClientCode From Sale Order By SaleNum)"_s,
       Keys::With);
-  EXPECT_EQ(inner.sql.count("rowid"), 1) << inner.sql.data();
+  EXPECT_TRUE(inner.sql.contains("IN (SELECT \"c1\" FROM")) << inner.sql.data();
 }
 
 TEST(Compile, TargetAndDefinition) {

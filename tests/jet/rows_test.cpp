@@ -1,0 +1,41 @@
+// Statements of the dialect on a real file: the queries and rows of tests/jet/rows.txt.
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include "tests/jet/engine_fixture.h"
+
+using namespace jet_tests;
+
+namespace {
+
+std::string outcome(const jet::Database& db, const QString& sql) {
+  try {
+    if (sql.startsWith("select"_L1, Qt::CaseInsensitive)) return rows(db, sql);
+    db.Execute(sql);
+    return "done";
+  } catch (const jet::Error& error) {
+    return "! " + std::to_string(error.number());
+  }
+}
+
+TEST(Rows, OfTheDialect) {
+  QFile file(QStringLiteral(HAEON_TEST_DATA "/jet/rows.txt"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  QTemporaryDir folder;
+  const jet::Workspace workspace({.mainFile = folder.filePath(u"a.mdb"_s), .resolvePath = {}});
+  const jet::Database db = workspace.CreateDatabase(folder.filePath(u"a.mdb"_s));
+  int count = 0;
+  for (int number = 1; !file.atEnd(); ++number) {
+    const QString line = QString::fromUtf8(file.readLine()).remove(u'\n');
+    if (line.isEmpty() || line.startsWith(u'#')) continue;
+    const bool runs = line.startsWith(u'>');
+    const QString sql = runs ? line.mid(1).trimmed() : line.section(u'\t', 0, 0);
+    const QString expected = runs ? u"done"_s : line.section(u'\t', 1);
+    EXPECT_EQ(outcome(db, sql), expected.toStdString()) << "line " << number << ": " << sql.toStdString();
+    ++count;
+  }
+  EXPECT_GT(count, 100);
+}
+
+}  // namespace
