@@ -114,7 +114,7 @@ void ClientBoxes::buildShort(Fields& fields) {
   help(post_, "우편번호나 읍/면/동 이름을 입력한 후 엔터를 치세요.  조회 = F12");
   help(address_, "고객의 거주지 주소를 입력합니다");
   addMemo(fields, 2);
-  addMeter(fields);
+  addMeter(fields, true);
 }
 
 void ClientBoxes::addTelephones(Fields& fields, bool all) {
@@ -179,10 +179,11 @@ void ClientBoxes::addPayment(Fields& fields) {
   fields.add("수금방법", row);
 }
 
-void ClientBoxes::addMeter(Fields& fields) {
+void ClientBoxes::addMeter(Fields& fields, bool checkAlone) {
   volume_ = fields.check("ChkVolume", "체적고객");
   help(volume_, "체적은 스페이스바로 체크, 일반은 엔터 치세요");
   order_ << volume_;
+  if (checkAlone) fields.newRow();
   pressure_ = line(fields, "TxtPressure", "압력조정기", 14, 20);
   help(pressure_, "엔터를 누른후 압력조정기를 선택하세요");
   unit_ = fields.money("TxtVolumeUnit", "체적단가");
@@ -301,7 +302,8 @@ bool ClientBoxes::enter(QWidget* box) {
   if (box == post_ && post_->isModified() && !typedText(post_).isEmpty())
     return fill(&ClientBoxes::postCode, address_);
   if (box == pressure_ && typedText(pressure_).isEmpty()) return fill(&ClientBoxes::regulator, unit_);
-  if (building_ && box == building_ && typedText(building_).isEmpty()) return fill(&ClientBoxes::building, ho_);
+  if (building_ && box == building_ && typedText(building_).isEmpty())
+    return fill(&ClientBoxes::building, ho_);
   if (payWays_.contains(static_cast<QRadioButton*>(box))) {
     Form::focus(volume_);
     return true;

@@ -47,7 +47,7 @@ class ClientBoxes {
   void addPlace(Fields& fields);
   void addDatesAndMoney(Fields& fields);
   void addPayment(Fields& fields);
-  void addMeter(Fields& fields);
+  void addMeter(Fields& fields, bool checkAlone = false);
   void addMemo(Fields& fields, int span);
   void help(QWidget* box, const QString& text);
   QLineEdit* line(Fields& fields, const char* name, const QString& label, int width, int maxLength,

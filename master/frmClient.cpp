@@ -81,7 +81,10 @@ void frmClient::buildPage(HouseStyle style, const QString& caption) {
   tabs_->addTab(page.sheet, caption);
 
   page.grid->rowEntered = [this](int row) { rowEntered(row); };
-  page.grid->cellEntered = [this](int, int) { showHelp(deleteHelp); };
+  page.grid->cellEntered = [this](int row, int) {
+    showHelp(deleteHelp);
+    if (clients_.code() == 0) rowEntered(row);  // the list took the focus and nobody is chosen yet
+  };
   page.grid->enterPressed = [this](int, int) { focus(this->page().boxes->first()); };
   page.grid->doubleClicked = [this](int, int) { focus(this->page().boxes->first()); };
   page.grid->keyPressed = [this](int, int, int key, Qt::KeyboardModifiers) {

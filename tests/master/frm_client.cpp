@@ -1,0 +1,358 @@
+// The customer forms, played by keys on the real windows.
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimer>
+
+#include "master/frmAPTAddress.h"
+#include "master/frmBDName.h"
+#include "master/frmClient.h"
+#include "master/frmNewClient.h"
+#include "master/frmSearchClient.h"
+#include "tests/idle_context.h"
+#include "tests/support.h"
+#include "tests/ui/grab.h"
+
+namespace {
+
+/** Answers every search with what the test put here; nothing stands for an operator who leaves. */
+struct ClientPickers : tests::IdlePickers {
+  std::optional<PostCodeChoice> place;
+  std::optional<VolumeChoice> regulator;
+  std::optional<BuildingChoice> building;
+  std::optional<ClientChoice> client;
+  QStringList asked;
+
+  std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode, bool) override {
+    asked << text;
+    return client;
+  }
+  std::optional<PostCodeChoice> searchPostCode(const QString& text) override {
+    asked << text;
+    return place;
+  }
+  std::optional<VolumeChoice> searchVolume() override { return regulator; }
+  std::optional<BuildingChoice> searchBuilding(int) override { return building; }
+  std::optional<QString> pickDate(const QString&) override { return QStringLiteral("2026-03-01"); }
+};
+
+class ClientForms : public ::testing::Test {
+ protected:
+  void SetUp() override { pc.openBooks(QDate(2026, 11, 24)); }
+
+  void addPlain(const QString& name, const QString& tel, const QString& address = {}, int gas = 0,
+                const QString& memo = {}) {
+    pc.session.dbBasic.Execute(
+        "Insert into Client(Name, Tel, Address, GasInit, Memo, AppDate, HouseStyle, PayWay) Values('" + name +
+        "', '" + tel + "', '" + address + "', " + QString::number(gas) + ", '" + memo +
+        "', '2019-04-02', 0, 1)");
+  }
+  void fillBooks() {
+    const char* streets[] = {"대구 중구 동성로2가 ", "대구 중구 남산동 ", "대구 수성구 범어동 ",
+                             "대구 달서구 월성동 "};
+    const char* names[] = {"행복식당", "김철수", "대성정육", "이영희",
+                           "한우마을", "박민수", "중앙분식", "최지은"};
+    for (int i = 0; i < 40; ++i) {
+      addPlain(QString::fromUtf8(names[i % 8]) + (i < 8 ? QString() : QString::number(i / 8 + 1)),
+               QString("053-%1-%2").arg(200 + i * 17).arg(1000 + i * 137),
+               QString::fromUtf8(streets[i % 4]) + QString::number(11 + i * 3), i % 3 ? i * 12500 : 0,
+               i % 5 ? QString() : "뒷문으로 배달, 개 조심");
+    }
+    pc.session.dbBasic.Execute(
+        "Insert Into APT(Name, Dong, PostCode, Address, Height, Gubun) Values('한빛아파트', '101', "
+        "'700-010', "
+        "'대구 중구 동인동 1', 15, True)");
+    pc.session.dbBasic.Execute(
+        "Insert Into APT(Name, Dong, PostCode, Address, Height, Gubun) Values('한빛아파트', '102', "
+        "'700-010', "
+        "'대구 중구 동인동 2', 15, True)");
+    for (int i = 0; i < 24; ++i)
+      pc.session.dbBasic.Execute(
+          QString("Insert into Client(Name, Tel, BDName, Dong, Ho, HouseStyle, PayWay, "
+                  "VolumeYesNo, Volume, VolumeUnit, PostCode, Address, GasInit) Values("
+                  "'한빛아파트 101동 %1호', '053-421-%2', '한빛아파트', '101', '%1', 1, 2, "
+                  "True, '4', 1500, '700-010', '대구 중구 동인동 1', 0)")
+              .arg(101 + i / 4 * 100 + i % 4)
+              .arg(3000 + i));
+  }
+  static QWidget* sheet(const frmClient& form) {
+    return form.findChild<QTabWidget*>("TabClient")->currentWidget();
+  }
+  template <class Box = QLineEdit>
+  static Box* box(const QWidget* parent, const char* name) {
+    return parent->findChild<Box*>(QString::fromUtf8(name));
+  }
+  static QString focused() {
+    return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+  }
+  jet::Recordset ask(const QString& sql) { return pc.session.dbBasic.OpenRecordset(sql); }
+
+  tests::TestPc pc;
+  ClientPickers pickers;
+  tests::IdleCommands commands;
+  tests::IdleCalls calls;
+  FormContext context{pc.session, pickers, commands, calls};
+};
+
+TEST_F(ClientForms, aMeterCustomerIsEnteredByKeysAlone) {
+  frmClient form(context);
+  form.resize(1040, 640);
+  tests::show(form);
+  EXPECT_EQ(focused(), "BtnNew");
+  pickers.place = PostCodeChoice{"700-010", "대구 중구 동성로2가", ""};
+  pickers.regulator = VolumeChoice{"4", 1500};
+
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtName");
+  EXPECT_EQ(form.findChild<QLabel*>("PnlHelp")->text(), "고객의 이름이나 상호를 입력합니다");
+  tests::compose({"ㄱ", "기", "김"}, "김");
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtTel");
+  tests::type("0531234567");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(box(sheet(form), "TxtTel")->text(), "053-123-4567");
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtPost");
+  tests::type("700");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(pickers.asked, QStringList{"700"});
+  ASSERT_EQ(focused(), "TxtAddress");
+  tests::type(" 12");
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtAppDate");
+  EXPECT_EQ(form.findChild<QLabel*>("PnlHelp")->text(), "가입일자를 입력합니다.  달력조회 = F12");
+  tests::key(Qt::Key_F12);
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtGasInit");
+  tests::type("12500");
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "OptCash");
+  tests::key(Qt::Key_Right);
+  EXPECT_EQ(focused(), "OptJiro");
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "ChkVolume");
+  tests::key(Qt::Key_Space);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtPressure");
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtVolumeUnit");
+  for (const char* last : {"TxtSerial", "TxtStatus", "TxtItem", "TxtMemo", "BtnSave"}) {
+    tests::key(Qt::Key_Return);
+    ASSERT_EQ(focused(), last);
+  }
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(focused(), "BtnNew") << "ready for the next customer";
+
+  const jet::Recordset row = ask("Select * From Client");
+  EXPECT_EQ(row["Name"].toText(), "김");
+  EXPECT_EQ(row["Tel"].toText(), "053-123-4567");
+  EXPECT_EQ(row["PostCode"].toText() + '|' + row["Address"].toText(), "700-010|대구 중구 동성로2가 12");
+  EXPECT_EQ(row["AppDate"].toText(), "2026-03-01");
+  EXPECT_EQ(row["GasInit"].toLong(), 12500);
+  EXPECT_EQ(row["PayWay"].toLong(), 2);
+  EXPECT_EQ(row["Volume"].toText(), "4");
+  EXPECT_EQ(row["VolumeUnit"].toLong(), 1500);
+  EXPECT_EQ(pc.session.dbYear.OpenRecordset("Select Count(*) As N From Evaporation")["N"].toLong(), 13);
+}
+
+TEST_F(ClientForms, aPlainCustomerSkipsTheRegulatorAndAWrongPlaceIsRefused) {
+  frmClient form(context);
+  tests::show(form);
+  box<QPushButton>(&form, "BtnNew")->click();
+  QWidget* const page = sheet(form);
+  box(page, "TxtPost")->setFocus();
+  tests::type("999");
+  pc.prompts.expect("등록된 우편번호나 읍/면/동 이름이 아닙니다!");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(focused(), "TxtPost");
+  box<QCheckBox>(page, "ChkVolume")->setFocus();
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(focused(), "TxtSerial");
+  pc.prompts.expect("고객성명/전화번호/주소 중 한가지는");
+  box<QPushButton>(&form, "BtnSave")->click();
+  EXPECT_EQ(focused(), "TxtName");
+}
+
+TEST_F(ClientForms, listRowsFillTheBoxesAndDeleteTakesThemOut) {
+  addPlain("가람", "053-111-1111", "중앙로 1");
+  addPlain("나래", "053-222-2222", "중앙로 2", 3000);
+  frmClient form(context);
+  tests::show(form);
+  auto* const grid = sheet(form)->findChild<Spread*>("SpClient");
+  grid->setFocus();
+  tests::key(Qt::Key_Down);
+  EXPECT_EQ(box(sheet(form), "TxtName")->text(), "나래");
+  EXPECT_EQ(box(sheet(form), "TxtGasInit")->text(), "3,000");
+  EXPECT_TRUE(form.findChild<QLabel*>("LblBottom")->text().endsWith("등록고객수 : 2명"));
+  EXPECT_EQ(form.findChild<QLabel*>("PnlHelp")->text(), "고객자료의 삭제는 키보드의 Delete키로 합니다");
+
+  box(sheet(form), "TxtMemo")->setText("계단");
+  pc.prompts.expect("위와 같이 고객등록사항을 변경하시겠습니까?");
+  box<QPushButton>(&form, "BtnSave")->click();
+  EXPECT_EQ(ask("Select Memo From Client Where Name = '나래'")["Memo"].toText(), "계단");
+
+  pc.prompts.expect("이  름 : 나래    전화번호 : 053-222-2222");
+  grid->setFocus();
+  tests::key(Qt::Key_Delete);
+  EXPECT_EQ(ask("Select * From Client").RecordCount(), 1);
+  EXPECT_EQ(box(sheet(form), "TxtName")->text(), "가람");
+  EXPECT_TRUE(form.findChild<QLabel*>("LblBottom")->text().endsWith("등록고객수 : 1명"));
+}
+
+TEST_F(ClientForms, aNameWithAnApostropheEndsInABoxAndTheFormStaysUp) {
+  frmClient form(context);
+  tests::show(form);
+  box<QPushButton>(&form, "BtnNew")->click();
+  box(sheet(form), "TxtAddress")->setText("O'Neil");
+  pc.prompts.expect("오류");
+  box<QPushButton>(&form, "BtnSave")->click();
+  EXPECT_EQ(box(sheet(form), "TxtAddress")->text(), "O'Neil");
+  EXPECT_EQ(ask("Select * From Client").RecordCount(), 0);
+}
+
+TEST_F(ClientForms, theSearchBehindTheSearchNameBringsTheCustomersPage) {
+  fillBooks();
+  frmClient form(context);
+  tests::show(form);
+  pickers.client = ClientChoice{41, ""};
+  box(sheet(form), "TxtUName")->setFocus();
+  tests::key(Qt::Key_F12);
+  EXPECT_EQ(form.findChild<QTabWidget*>("TabClient")->currentIndex(), 1);
+  EXPECT_EQ(box(sheet(form), "TxtHo")->text(), "101");
+  EXPECT_EQ(sheet(form)->findChild<Spread*>("SpClient")->activeRow(), 1);
+  EXPECT_TRUE(sheet(form)->isAncestorOf(box<QPushButton>(&form, "BtnSave"))) << "the buttons come along";
+}
+
+TEST_F(ClientForms, theMapButtonWaitsForTheEditor) {
+  addPlain("가람", "053-111-1111");
+  pc.pc.process.setStarter([](const QString&, const QStringList&, const QString&) { return true; });
+  const QString editor = pc.pc.paths.native("C:\\RWGAS\\MapEdit.exe");
+  ASSERT_TRUE(QDir().mkpath(QFileInfo(editor).path()));
+  ASSERT_TRUE(QFile(editor).open(QIODevice::WriteOnly));
+  frmClient form(context);
+  tests::show(form);
+  auto* const image = box<QPushButton>(&form, "BtnImage");
+  pc.prompts.expect("약도를 출력할 고객을 먼저 선택하십시오");
+  image->click();
+  sheet(form)->findChild<Spread*>("SpClient")->setFocus();
+  image->click();
+  EXPECT_FALSE(image->isEnabled());
+  pc.pc.settings.SaveSetting("약도", "환경설정", "MapEdit", "1");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return image->isEnabled(); }, 3000));
+}
+
+// --- the search ---------------------------------------------------------------------------------------------
+
+class ClientSearchForm : public ClientForms {
+ protected:
+  /** Runs work on the dialog while it is up. */
+  static void whenModal(std::function<void(QDialog&)> work) {
+    QTimer::singleShot(0, [work = std::move(work)] {
+      auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(dialog);
+      dialog->activateWindow();
+      QApplication::setActiveWindow(dialog);
+      QApplication::processEvents();
+      work(*dialog);
+    });
+  }
+  std::optional<ClientChoice> search(const QString& text, ClientSearchMode mode = ClientSearchMode::All) {
+    return frmSearchClient(pc.session, text, mode, false,
+                           [this](const QString& searched) {
+                             return frmNewClient(pc.session, pickers, searched).enter();
+                           })
+        .choose();
+  }
+};
+
+TEST_F(ClientSearchForm, oneMatchComesBackAtOnceAndSeveralAreChosenByEnter) {
+  addPlain("가람", "053-111-1234");
+  addPlain("나래", "053-222-1234");
+  ASSERT_TRUE(search("가람"));
+  whenModal([](QDialog& dialog) {
+    EXPECT_EQ(dialog.objectName(), "frmSearchClient");
+    tests::key(Qt::Key_Down);
+    tests::key(Qt::Key_Return);
+  });
+  const auto chosen = search("1234");
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ(chosen->name, "나래");
+  whenModal([](QDialog&) { tests::key(Qt::Key_Escape); });
+  EXPECT_FALSE(search("1234"));
+}
+
+TEST_F(ClientSearchForm, composingASyllableDoesNotSearch) {
+  addPlain("가람", "053-111-1234");
+  addPlain("가람2", "053-222-1234");
+  whenModal([](QDialog& dialog) {
+    auto* const find = dialog.findChild<QLineEdit*>("TxtFind");
+    find->setFocus();
+    find->clear();
+    tests::compose({"ㄱ", "가", "갈"}, "가");
+    tests::compose({"ㄹ", "라"}, "람2");
+    EXPECT_EQ(focused(), "TxtFind");
+    tests::key(Qt::Key_Return);
+  });
+  const auto chosen = search("1234");
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ(chosen->name, "가람2") << "the only one closes the list";
+}
+
+TEST_F(ClientSearchForm, anUnknownNumberIsRegisteredOnTheSpotAndChosen) {
+  pickers.place = PostCodeChoice{"700-010", "대구 중구", ""};
+  pc.prompts.expect("찾고자 하는 고객명/상호/전화번호가 없습니다!\n신규고객등록을 하시겠습니까?");
+  whenModal([](QDialog& dialog) {
+    EXPECT_EQ(dialog.objectName(), "frmNewClient");
+    EXPECT_EQ(box(&dialog, "TxtTel")->text(), "053-123-4567");
+    ASSERT_EQ(focused(), "TxtName");
+    tests::compose({"ㄱ"}, "가람");
+    tests::grab(dialog, "frmNewClient");
+    for (int i = 0; i < 20 && focused() != "BtnSave"; ++i) tests::key(Qt::Key_Return);
+    ASSERT_EQ(focused(), "BtnSave");
+    tests::key(Qt::Key_Return);
+  });
+  const auto chosen = search("0531234567");
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ(chosen->name, "가람");
+  EXPECT_EQ(ask("Select Tel From Client")["Tel"].toText(), "053-123-4567");
+}
+
+// --- how they look ------------------------------------------------------------------------------------------
+
+TEST_F(ClientSearchForm, pictures) {
+  if (qEnvironmentVariableIsEmpty("HAEON_PICTURES")) GTEST_SKIP() << "HAEON_PICTURES names no folder";
+  fillBooks();
+  frmClient form(context);
+  form.resize(1040, 680);
+  tests::show(form);
+  auto* const tabs = form.findChild<QTabWidget*>("TabClient");
+  for (int page = 0; page < 3; ++page) {
+    tabs->setCurrentIndex(page);
+    sheet(form)->findChild<Spread*>("SpClient")->setFocus();
+    tests::key(Qt::Key_Down);
+    tests::grab(form, "frmClient" + QString::number(page));
+  }
+  whenModal([](QDialog& dialog) {
+    tests::grab(dialog, "frmSearchClient");
+    dialog.reject();
+  });
+  search("대구");
+  BuildingSearch buildings(pc.session, HouseStyle::Apartment);
+  buildings.loadBuildings();
+  buildings.loadBlocks("한빛아파트");
+  frmBDName names(pc.session, buildings);
+  tests::show(names);
+  tests::grab(names, "frmBDName");
+  frmAPTAddress blocks(pc.session, buildings);
+  tests::show(blocks);
+  tests::grab(blocks, "frmAPTAddress");
+}
+
+}  // namespace
