@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
+#include <QScreen>
 #include <QTranslator>
 #include <memory>
 
@@ -60,13 +61,16 @@ int main(int argc, char** argv) {
       guarded(boxes, [&] { startUp.shutDown(); });
       QApplication::exit(0);
     };
+    mainWindow->resize(mainWindow->screen()->availableSize());  // also where nothing manages the windows
     mainWindow->showMaximized();
+    mainWindow->activateWindow();
     mainWindow->start();
   };
   bool usable = false;
   const bool stood = guarded(boxes, [&] {
     usable = startUp.SubMain([&] {
       splash.load();
+      splash.move(splash.screen()->availableGeometry().center() - splash.rect().center());
       splash.show();
       splash.activateWindow();
     });

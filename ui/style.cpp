@@ -73,6 +73,7 @@ QMenu::item { padding: 4px 24px 4px 24px; }
 QMenu::item:selected { background: #DCE8F6; color: #1F2733; }
 QMenu::item:disabled { color: #9AA3AE; }
 QMenu::separator { height: 1px; background: #E1E5EA; margin: 3px 6px; }
+QToolBar { background: #F3F4F6; border: none; border-bottom: 1px solid #C9D0D8; padding: 2px; spacing: 2px; }
 QStatusBar { background: #E8ECF1; border-top: 1px solid #C9D0D8; }
 QStatusBar::item { border: none; }
 QToolTip { border: 1px solid #C9D0D8; padding: 2px; }
