@@ -78,7 +78,8 @@ class Recordset {
   // (groups, DISTINCT, UNION). AddNew writes one table. Update leaves the position where it was.
   void AddNew();
   void Edit();
-  void set(const QString& name, const Value& value);  ///< 3020 without AddNew or Edit, 3164 no column of a table
+  void set(const QString& name,
+           const Value& value);  ///< 3020 without AddNew or Edit, 3164 no column of a table
   void Update();
   void CancelUpdate();
   void Delete();
@@ -105,10 +106,10 @@ class Database {
   Recordset OpenRecordset(const QString& sql, RecordsetType type = RecordsetType::Snapshot) const;
 
   std::vector<TableDef> TableDefs() const;
-  bool hasTable(const QString& name) const;        ///< upper-cased names compared
-  TableDef tableDef(const QString& name) const;    ///< 3265 when there is none
-  void createTable(const TableDef& table) const;   ///< a link when connect is set
-  void deleteTable(const QString& name) const;     ///< from the TableDefs: of a link only the link goes
+  bool hasTable(const QString& name) const;       ///< upper-cased names compared
+  TableDef tableDef(const QString& name) const;   ///< 3265 when there is none
+  void createTable(const TableDef& table) const;  ///< a link when connect is set
+  void deleteTable(const QString& name) const;    ///< from the TableDefs: of a link only the link goes
   void appendField(const QString& table, const Field& field, int ordinal = -1) const;
   void createIndex(const QString& table, const Index& index) const;
 

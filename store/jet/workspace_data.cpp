@@ -88,6 +88,7 @@ FilePtr WorkspaceData::attach(const QString& nativePath) {
   if (file && connection_->hasMoved(file->alias())) {  // replaced on the disk: everything is read anew
     commitGroup();
     reconnect();
+    file = attached(nativePath);
   }
   if (!file) file = std::make_shared<DataFile>(nativePath);
   ensureAttached(file);

@@ -1,0 +1,94 @@
+// The object model: what a file remembers of its tables, and that others can read it.
+#include <sqlite3.h>
+
+#include "tests/jet/engine_fixture.h"
+
+namespace jet_tests {
+namespace {
+
+class CatalogueOnDisk : public Engine {};
+
+TEST_F(CatalogueOnDisk, DefinitionsSurviveClosing) {
+  jet::TableDef made = table(
+      u"Options"_s, {text(u"OPTName"_s, 20), text(u"OPTValue"_s, 20), number(u"옵션"_s, 7)},
+      {{u"Options_PK"_s, {u"OPTName"_s}, true, true}, {u"Two"_s, {u"옵션"_s, u"OPTValue"_s}, false, false}});
+  made.fields[1].allowZeroLength = false;
+  made.fields[0].required = true;
+  basic.createTable(made);
+  basic.Close();
+  year.Close();
+  basic = workspace.OpenDatabase(path(u"Basic.mdb"_s));
+  const jet::TableDef read = basic.tableDef(u"OPTIONS"_s);
+  EXPECT_EQ(read.name, u"Options"_s);
+  ASSERT_EQ(read.fields.size(), 3u);
+  EXPECT_EQ(read.fields[0].size, 20);
+  EXPECT_TRUE(read.fields[0].required);
+  EXPECT_FALSE(read.fields[1].allowZeroLength);
+  EXPECT_EQ(read.fields[2].name, u"옵션"_s);
+  EXPECT_EQ(read.fields[2].defaultValue.toLong(), 7);
+  ASSERT_EQ(read.indexes.size(), 2u);
+  EXPECT_TRUE(read.indexes[0].primary);
+  EXPECT_EQ(read.indexes[1].fields, (QStringList{u"옵션"_s, u"OPTValue"_s}));
+  EXPECT_TRUE(basic.tableDef(u"Client"_s).fields[0].autonumber);
+  EXPECT_EQ(basic.TableDefs().size(), 2u);
+}
+
+TEST_F(CatalogueOnDisk, ANewFieldLeavesOldRowsNullAndServesNewOnes) {
+  basic.Execute(u"Insert Into Client(Name) Values('old')"_s);
+  jet::Field field = text(u"Tel1"_s, 14);
+  field.defaultValue = u""_s;
+  field.required = true;
+  basic.appendField(u"client"_s, field);
+  basic.appendField(u"Client"_s, yesNo(u"Flag"_s));
+  EXPECT_EQ(rows(basic, u"Select Tel1, Flag From Client"_s), "-|0");
+  basic.Execute(u"Insert Into Client(Name) Values('new')"_s);
+  EXPECT_EQ(rows(basic, u"Select Tel1 Is Null From Client Order By Code"_s), "-1 0");
+  EXPECT_EQ(failureOf([&] { basic.Execute(u"Update Client Set Tel1 = Null"_s); }), 3314);
+  EXPECT_EQ(failureOf([&] { basic.appendField(u"Client"_s, text(u"TEL1"_s)); }), 3380);
+  EXPECT_EQ(failureOf([&] { basic.appendField(u"Nothing"_s, text(u"x"_s)); }), 3265);
+}
+
+TEST_F(CatalogueOnDisk, TheOrdinalDecidesWhereAFieldStands) {
+  year.createTable(table(u"Tmp"_s, {text(u"a"_s), text(u"c"_s)}));
+  year.Execute(u"Insert Into Tmp Values('1', '3')"_s);
+  year.appendField(u"Tmp"_s, text(u"b"_s), 1);
+  EXPECT_EQ(rows(year, u"Select * From Tmp"_s), "1|-|3");
+  year.Execute(u"Insert Into Tmp Values('4', '5', '6')"_s);
+  EXPECT_EQ(rows(year, u"Select c, * From Tmp Where a = '4'"_s), "6|4|5|6");
+}
+
+TEST_F(CatalogueOnDisk, BadDefinitionsLeaveNothingBehind) {
+  const auto making = [&](const jet::TableDef& made) { return failureOf([&] { basic.createTable(made); }); };
+  EXPECT_EQ(making(table(u"client"_s, {text(u"x"_s)})), 3010);
+  EXPECT_EQ(making(table(u"T"_s, {})), 3264);
+  EXPECT_EQ(making(table(u"T"_s, {text(u"x"_s), text(u"X"_s)})), 3191);
+  EXPECT_EQ(making(table(u"a.b"_s, {text(u"x"_s)})), 3125);
+  EXPECT_EQ(making(table(u"T"_s, {text(u"x"_s)}, {{u"i"_s, {u"y"_s}, false, false}})), 3409);
+  EXPECT_FALSE(basic.hasTable(u"T"_s));
+  basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
+  basic.Execute(u"Insert Into Client(Name) Values('A')"_s);
+  EXPECT_EQ(failureOf([&] { basic.createIndex(u"Client"_s, {u"U"_s, {u"Name"_s}, false, true}); }), 3022);
+  EXPECT_EQ(failureOf([&] { basic.createIndex(u"Client"_s, {u"name"_s, {u"Name"_s}, false, false}); }), 3284);
+  EXPECT_EQ(basic.tableDef(u"Client"_s).indexes.size(), 2u);
+  EXPECT_EQ(failureOf([&] { basic.deleteTable(u"Nothing"_s); }), 3265);
+  EXPECT_EQ(making(table(u"T"_s, {text(u"x"_s)})), 0);
+}
+
+TEST_F(CatalogueOnDisk, AnyToolCanReadTheRows) {
+  basic.Execute(u"Insert Into Client(Name, VolumeYesNo) Values('김씨', True)"_s);
+  basic.Close();
+  year.Close();
+  sqlite3* tool = nullptr;
+  ASSERT_EQ(sqlite3_open(path(u"Basic.mdb"_s).toUtf8().constData(), &tool), SQLITE_OK);
+  sqlite3_stmt* query = nullptr;
+  const char* sql = "SELECT Code, VolumeYesNo FROM Client WHERE Name = '김씨' ORDER BY Name";
+  ASSERT_EQ(sqlite3_prepare_v2(tool, sql, -1, &query, nullptr), SQLITE_OK) << sqlite3_errmsg(tool);
+  EXPECT_EQ(sqlite3_step(query), SQLITE_ROW);
+  EXPECT_EQ(sqlite3_column_int(query, 1), -1);
+  sqlite3_finalize(query);
+  EXPECT_NE(sqlite3_exec(tool, "UPDATE Client SET Name = 'x'", nullptr, nullptr, nullptr), SQLITE_OK);
+  sqlite3_close(tool);
+}
+
+}  // namespace
+}  // namespace jet_tests
