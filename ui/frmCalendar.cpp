@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QTextCharFormat>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "ui/style.h"
@@ -25,6 +26,7 @@ QCalendarWidget* monthSheet(QWidget* parent, const QDate& today, const QDate& ch
   sheet->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   sheet->setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
   sheet->setGridVisible(true);
+  sheet->setNavigationBarVisible(false);
   QTextCharFormat weekday;
   weekday.setForeground(look::negative);
   sheet->setWeekdayTextFormat(Qt::Sunday, weekday);
@@ -36,6 +38,30 @@ QCalendarWidget* monthSheet(QWidget* parent, const QDate& today, const QDate& ch
   sheet->setDateTextFormat(today, now);
   sheet->setSelectedDate(chosen);
   return sheet;
+}
+
+/** "2026년 6월" between the two buttons that turn the page. */
+QHBoxLayout* pageHead(QDialog& dialog, QCalendarWidget* sheet) {
+  auto* const title = new QLabel(&dialog);
+  title->setObjectName(u"LblMonth"_s);
+  title->setAlignment(Qt::AlignCenter);
+  title->setFont(look::textFont(12, true));
+  const auto show = [=] { title->setText(u"%1년 %2월"_s.arg(sheet->yearShown()).arg(sheet->monthShown())); };
+  QObject::connect(sheet, &QCalendarWidget::currentPageChanged, title, show);
+  show();
+  const auto turner = [&](const QString& text, auto turn) {
+    auto* const button = new QToolButton(&dialog);
+    button->setText(text);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(button, &QToolButton::clicked, sheet, turn);
+    return button;
+  };
+  auto* const head = new QHBoxLayout;
+  head->addWidget(turner(u"◀"_s, &QCalendarWidget::showPreviousMonth));
+  head->addWidget(title, 1);
+  head->addWidget(turner(u"▶"_s, &QCalendarWidget::showNextMonth));
+  return head;
 }
 
 }  // namespace
@@ -62,6 +88,7 @@ std::optional<QString> frmCalendar(const QString& initial, const QDate& today, Q
   auto* const whole = new QVBoxLayout(&dialog);
   whole->setContentsMargins(6, 6, 6, 6);
   whole->setSpacing(5);
+  whole->addLayout(pageHead(dialog, sheet));
   whole->addWidget(sheet);
   whole->addLayout(line);
   sheet->setFocus();

@@ -4,7 +4,11 @@
 #include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
 #include <QPushButton>
+
+#include "ui/style.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,9 +18,42 @@ QWidget* owner() {
   return QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
 }
 
-void tell(QMessageBox::Icon icon, const QString& text, const QString& title) {
-  QMessageBox box(icon, title, text, QMessageBox::NoButton, owner());
+/** A quiet sign of the program's own colours in place of the style's old pictures. */
+QPixmap sign(const QString& letter, const QColor& colour) {
+  constexpr int side = 36;
+  const qreal ratio = qApp->devicePixelRatio();
+  QPixmap picture(QSize(side, side) * ratio);
+  picture.setDevicePixelRatio(ratio);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(colour);
+  painter.drawEllipse(QRectF(1, 1, side - 2, side - 2));
+  QFont font = look::textFont(15, true);
+  font.setPixelSize(22);
+  painter.setFont(font);
+  painter.setPen(look::paper);
+  painter.drawText(QRectF(0, 0, side, side), Qt::AlignCenter, letter);
+  return picture;
+}
+
+void dress(QMessageBox& box, const QString& text) {
   box.setTextFormat(Qt::PlainText);
+  box.setText(text);
+  switch (box.icon()) {
+    case QMessageBox::Question:
+      return box.setIconPixmap(sign(u"?"_s, look::accent));
+    case QMessageBox::Warning:
+      return box.setIconPixmap(sign(u"!"_s, look::warning));
+    default:
+      return box.setIconPixmap(sign(u"i"_s, look::accent));
+  }
+}
+
+void tell(QMessageBox::Icon icon, const QString& text, const QString& title) {
+  QMessageBox box(icon, title, {}, QMessageBox::NoButton, owner());
+  dress(box, text);
   box.setDefaultButton(box.addButton(u"확인"_s, QMessageBox::AcceptRole));
   box.exec();
 }
@@ -32,8 +69,8 @@ void MessageBoxes::MsgWarn(const QString& text, const QString& title) {
 }
 
 bool MessageBoxes::MsgAsk(const QString& text, const QString& title, bool yesFirst) {
-  QMessageBox box(QMessageBox::Question, titleOf(title), text, QMessageBox::NoButton, owner());
-  box.setTextFormat(Qt::PlainText);
+  QMessageBox box(QMessageBox::Question, titleOf(title), {}, QMessageBox::NoButton, owner());
+  dress(box, text);
   auto* const yes = box.addButton(u"예(&Y)"_s, QMessageBox::YesRole);
   auto* const no = box.addButton(u"아니오(&N)"_s, QMessageBox::NoRole);
   box.setDefaultButton(yesFirst ? yes : no);

@@ -41,13 +41,14 @@ QPalette officePalette() {
 
 // Only what Fusion and the palette do not already give: flat one-pixel frames, dense boxes, a clear focus.
 const char* const sheet = R"(
-QLineEdit, QPlainTextEdit, QComboBox, QSpinBox, QDateEdit {
+QLineEdit, QPlainTextEdit {
   border: 1px solid #C9D0D8; border-radius: 2px; padding: 1px 4px; background: #FFFFFF;
   selection-background-color: #2B5F9E; selection-color: #FFFFFF; }
-QLineEdit, QComboBox, QSpinBox { min-height: 1.5em; }
-QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus, QSpinBox:focus { border: 1px solid #2B5F9E; }
-QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled { background: #EEF0F3; color: #9AA3AE; }
+QLineEdit { min-height: 1.5em; }
+QLineEdit:focus, QPlainTextEdit:focus { border: 1px solid #2B5F9E; }
+QLineEdit:disabled, QPlainTextEdit:disabled { background: #EEF0F3; color: #9AA3AE; }
 QLineEdit:read-only { background: #F7F9FB; }
+QComboBox { min-height: 1.5em; }
 QPushButton { border: 1px solid #B9C2CC; border-radius: 3px; background: #FFFFFF; padding: 3px 12px;
   min-height: 1.45em; min-width: 4.2em; }
 QPushButton:hover { background: #F2F6FB; border-color: #2B5F9E; }

@@ -19,6 +19,7 @@ inline const QColor disabledInk{0x9A, 0xA3, 0xAE};
 inline const QColor disabledPaper{0xEE, 0xF0, 0xF3};
 inline const QColor accent{0x2B, 0x5F, 0x9E};      ///< focus, current cell
 inline const QColor accentSoft{0xDC, 0xE8, 0xF6};  ///< current row
+inline const QColor warning{0xC7, 0x7A, 0x1B};     ///< the sign of a warning
 inline const QColor negative{0xB4, 0x2B, 0x2B};    ///< amounts below zero
 
 /** The program's text: NanumGothic of 10 points, Baekmuk Dotum where that is missing. */
