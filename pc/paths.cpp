@@ -42,6 +42,7 @@ QString Paths::driveFolder(QChar letter) const {
 
 QString Paths::native(const QString& written) const {
   if (hasDriveLetters || !startsWithDrive(written)) return written;
+  if (const QString known = found_.value(written); !known.isEmpty() && QFileInfo::exists(known)) return known;
   QString path = driveFolder(written[0]);
   QString rest = written.sliced(2);
   rest.replace(u'\\', u'/');
@@ -57,6 +58,7 @@ QString Paths::native(const QString& written) const {
     }
     path = next;
   }
+  if (QFileInfo::exists(path)) found_.insert(written, path);
   return path;
 }
 

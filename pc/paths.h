@@ -1,5 +1,6 @@
 #pragma once
 // Paths as the texts write them ("C:\RWGas\Dbs\") on a PC that may have no drive letters.
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -42,6 +43,8 @@ class Paths {
 
   QString root_;
   IniFile mapped_;
+  /** Paths found before: statements name the same few files over and over. */
+  mutable QHash<QString, QString> found_;
 };
 
 }  // namespace pc

@@ -87,7 +87,9 @@ bool prepareDataFolder(Session& session) {
     return true;
   };
   try {
-    paths.makeFolder(session.DbPath);
+    if (!paths.makeFolder(session.DbPath)) {
+      throw jet::Error(75, u"폴더를 만들 수 없습니다. 경로와 쓰기 권한을 확인하십시오."_s);
+    }
     makeMissing(templateYear + u"Foundation.mdb"_s, schema::File::Year);
     makeMissing(u"Print.mdb"_s, schema::File::Print);
     if (makeMissing(u"dbTax.mdb"_s, schema::File::Tax) && !first) {

@@ -31,6 +31,8 @@ TEST_F(PathsTest, FindsWhatExistsWithoutRegardToCase) {
   EXPECT_EQ(paths.native("C:\\rwgas\\New\\Name.mdb"), at("/c/RWGas/New/Name.mdb"))
       << "what is new keeps its case";
   EXPECT_TRUE(paths.exists("C:\\rwgas\\DBS\\BASIC.MDB"));
+  ASSERT_TRUE(QFile::rename(at("/c/RWGas/Dbs/Basic.mdb"), at("/c/RWGas/Dbs/BASIC.mdb")));
+  EXPECT_EQ(paths.native("C:\\rwgas\\dbs\\basic.mdb"), at("/c/RWGas/Dbs/BASIC.mdb")) << "found anew";
   EXPECT_FALSE(paths.exists("D:\\rwgas"));
 }
 

@@ -98,7 +98,7 @@ TEST(DataFiles, AFolderThatCannotBeMadeIsTold) {
   QFile blocker(here.folder.filePath(u"c"_s));
   ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
   here.session.DbPath = installedDataFolder();
-  here.prompts.expect(u"에 자료 파일을 만들 수 없습니다."_s);
+  here.prompts.expect(u"폴더를 만들 수 없습니다."_s);
   EXPECT_FALSE(prepareDataFolder(here.session));
 }
 
