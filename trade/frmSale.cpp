@@ -56,11 +56,11 @@ void frmSale::buildPanel() {
   Fields fields(panel, 4);
   date_ = fields.date("txtDate", "일자", DateBox::Mask::MonthDay);
   address_ = fields.value("LblAddr", "주소", 0, 2);
-  tel_ = fields.value("LblTel", "전화번호", 16);
-  gasTrust_ = fields.value("LblGasTrust", "가스미수", 13);
-  utilTrust_ = fields.value("LblUtilTrust", "자재미수", 13);
-  endDay_ = fields.value("LblEndDay", "최종거래일", 12);
-  mapState_ = fields.value("LblMap", "약도", 10);
+  tel_ = fields.value("LblTel", "전화번호");
+  gasTrust_ = fields.value("LblGasTrust", "가스미수");
+  utilTrust_ = fields.value("LblUtilTrust", "자재미수");
+  endDay_ = fields.value("LblEndDay", "최종거래일");
+  mapState_ = fields.value("LblMap", "약도");
   memo_ = fields.value("LblMemo", "메모", 0, 4);
   for (QLabel* const money : {gasTrust_, utilTrust_}) money->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   row->addWidget(panel, 1);

@@ -24,10 +24,12 @@ frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
                     daySumColumn("입금액", CellKind::Money),
                     daySumColumn("D/C", CellKind::Money),
                     daySumColumn("미수금", CellKind::Money)});
-  body()->addWidget(addSpread("SpToday", sums_), 1);
+  Spread* const grid = addSpread("SpToday", sums_);
+  grid->setFillColumn(1);
+  body()->addWidget(grid, 1);
   setBottomLine("Esc:닫기");
   onKey(Qt::Key_Escape, [this] { (isWindow() ? this : parentWidget())->close(); });
-  resize(620, 200);
+  resize(620, 165);
   load();
 }
 

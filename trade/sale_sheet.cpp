@@ -63,21 +63,21 @@ std::vector<SpreadColumn> saleColumns(SaleSheet sheet) {
                         .maxLength = 12};
   };
   std::vector<SpreadColumn> columns = {
-      {.header = "일자", .width = 7, .kind = CellKind::MonthDay, .align = CellAlign::Center, .maxLength = 10},
-      {.header = "고객명", .width = 26},
+      {.header = "일자", .width = 6, .kind = CellKind::MonthDay, .align = CellAlign::Center, .maxLength = 10},
+      {.header = "고객명", .width = 22},
       {.header = "구분",
-       .width = 8,
+       .width = 7,
        .kind = CellKind::Combo,
        .align = CellAlign::Center,
        .combo = saleLabels(sheet)},
-      {.header = "품명 / 용량", .width = 20},
-      {.header = "수량", .width = 6, .kind = CellKind::Integer, .align = CellAlign::Right, .maxLength = 6},
+      {.header = "품명 / 용량", .width = 18},
+      {.header = "수량", .width = 5, .kind = CellKind::Integer, .align = CellAlign::Right, .maxLength = 6},
       money("단가", 10),
       money("D/C", 9),
-      money("금  액", 11),
-      money("입금액", 11),
-      money("미수금", 11),
-      {.header = "담당자", .width = 10, .align = CellAlign::Center, .maxLength = 20},
+      money("금  액", 10),
+      money("입금액", 10),
+      money("미수금", 10),
+      {.header = "담당자", .width = 9, .align = CellAlign::Center, .maxLength = 20},
       {.header = "코드", .hidden = true},
       {.header = "고개코드", .hidden = true},  // spelt so on purpose
   };

@@ -1,0 +1,272 @@
+// The sale screen played by keys on the real form.
+#include "trade/frmSale.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTabWidget>
+#include <QTest>
+
+#include "tests/trade/sale_desk.h"
+#include "tests/ui/grab.h"
+#include "trade/frmTodaySale.h"
+
+namespace {
+
+struct SaleScreen : tests::SaleDesk {
+  tests::IdleCommands commands;
+  FormContext context{pc.session, pickers, commands, calls};
+  frmSale form{context};
+
+  SaleScreen() {
+    tests::show(form);
+    grid()->setFocus();
+  }
+
+  QTabWidget* tabs() { return form.findChild<QTabWidget*>("TabSale"); }
+  Spread* grid() { return static_cast<Spread*>(tabs()->currentWidget()); }
+  QString label(const char* name) { return form.findChild<QLabel*>(name)->text(); }
+  QString cell(int row, int col) { return grid()->model().text(row, col); }
+  /** "row,col" of the cursor. */
+  QString at() { return QString::number(grid()->activeRow()) + u',' + QString::number(grid()->activeCol()); }
+  void press(Qt::Key key) { tests::key(key); }
+  void type(const char* text) { tests::type(text); }
+  /** The combo's list, opened by Enter: so many steps down, then Enter. */
+  void chooseKind(int stepsDown) {
+    press(Qt::Key_Return);
+    auto* const list = grid()->findChild<QListWidget*>("SpreadList");
+    ASSERT_TRUE(list && list->isVisible());
+    for (int step = 0; step < stepsDown; ++step) QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list, Qt::Key_Return);
+  }
+  void customer(const char* typed, int code, const QString& name) {
+    pickers.clients.push_back(ClientChoice{code, name});
+    type(typed);
+    press(Qt::Key_Return);
+  }
+  void item(const QString& size, double price) {
+    pickers.items.push_back(ItemChoice{"LPG", size, price, 0});
+    press(Qt::Key_Return);
+  }
+  void asked() { pc.prompts.expect("선택된 자료를 변경하시겠습니까?"); }
+};
+
+TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
+  SaleScreen sale;
+  EXPECT_EQ(sale.form.windowTitle(), "일반/체적/시설/자재 판매 등록");
+  EXPECT_EQ(sale.at(), "1,2");
+  EXPECT_EQ(sale.label("PnlHelp"), "전화, 번지, 상호로 고객을 검색하세요");
+  sale.customer("4567", SaleScreen::Plain, "산골식당");
+  EXPECT_EQ(sale.pickers.asked.last(), "client 4567 2 0");
+  EXPECT_EQ(sale.at(), "1,3");
+  EXPECT_EQ(sale.label("LblTel"), "053-123-4567");
+  sale.chooseKind(0);
+  EXPECT_EQ(sale.at(), "1,4");
+  sale.item("20", 40000);
+  EXPECT_EQ(sale.at(), "1,8");
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.at(), "1,9") << "Enter on an unchanged cell goes on by one";
+  sale.asked();
+  sale.type("30000");
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.at(), "1,11");
+  EXPECT_EQ(sale.label("LblGasTrust"), "110,000");
+  sale.pickers.persons = {QString("홍길동")};
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.at(), "2,2");
+  EXPECT_EQ(sale.label("LblTel"), "") << "the next row has no customer yet";
+
+  sale.customer("4567", SaleScreen::Plain, "산골식당");
+  EXPECT_EQ(sale.at(), "2,3");
+  sale.chooseKind(1);
+  EXPECT_EQ(sale.at(), "2,9");
+  EXPECT_EQ(sale.cell(2, SaleCol::Amount), "110000");
+  sale.asked();
+  sale.type("10000");
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.label("LblGasTrust"), "100,000");
+  EXPECT_EQ(sale.label("LblEndDay"), "2026-03-05");
+
+  sale.press(Qt::Key_Escape);
+  EXPECT_EQ(sale.at(), "3,2");
+  sale.customer("4567", SaleScreen::Plain, "산골식당");
+  sale.chooseKind(2);
+  sale.item("20", 0);
+  EXPECT_EQ(sale.stock(), "980|100|11|40|49") << "an empty back for the full one, then an empty lent";
+  sale.grid()->setActiveCell(3, SaleCol::Number);
+  sale.asked();
+  sale.type("3");
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.stock(), "980|100|13|38|49");
+  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?", false);
+  sale.press(Qt::Key_Delete);
+  sale.pc.prompts.expect("자료삭제");
+  sale.press(Qt::Key_F4);
+  EXPECT_EQ(sale.stock(), "980|100|10|41|49");
+  EXPECT_EQ(sale.at(), "3,2");
+  EXPECT_EQ(
+      sale.rows("Select SaleGubun, SaleName, SaleNum, Income, Trust, Response From Sale Order By SaleID"),
+      "1|LPG|1|30000|10000|홍길동;4|가스수금|0|10000|100000|");
+}
+
+TEST(FrmSale, RefusedTextsPutTheCellBackAndKeepTheCursor) {
+  SaleScreen sale;
+  sale.customer("1", SaleScreen::Plain, "산골식당");
+  sale.chooseKind(0);
+  sale.item("20", 40000);
+  sale.asked();
+  sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
+  sale.type("50000");
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Amount), "1,8 40000");
+  EXPECT_FALSE(sale.grid()->isEditing());
+
+  sale.grid()->setActiveCell(1, SaleCol::Kind);
+  sale.pc.prompts.expect("구분은 변경할 수 없습니다.");
+  sale.chooseKind(1);
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Kind), "1,3 가스");
+
+  sale.grid()->setActiveCell(1, SaleCol::Number);
+  sale.type("7");
+  sale.press(Qt::Key_Escape);
+  EXPECT_EQ(sale.cell(1, SaleCol::Number), "1") << "Esc takes the typed text back first";
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "산골식당");
+
+  sale.grid()->setActiveCell(1, SaleCol::Client);
+  sale.asked();
+  sale.type("x");
+  sale.press(Qt::Key_Tab);
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  sale.pc.prompts.expect("고객명을 검색하세요");
+  sale.grid()->setActiveCell(1, SaleCol::Person);
+  sale.press(Qt::Key_Down);
+  EXPECT_EQ(sale.at(), "1,2") << "a row that misses something is not left";
+}
+
+TEST(FrmSale, AnOpenCellThatIsRefusedKeepsItsSheet) {
+  SaleScreen sale;
+  sale.customer("1", SaleScreen::Plain, "산골식당");
+  sale.chooseKind(0);
+  sale.item("20", 40000);
+  sale.pc.prompts.expect("선택된 자료를 변경하시겠습니까?", false);
+  sale.type("1");
+  sale.tabs()->setCurrentIndex(2);
+  EXPECT_EQ(sale.tabs()->currentIndex(), 0);
+  sale.asked();
+  sale.type("39000");
+  sale.tabs()->setCurrentIndex(2);
+  EXPECT_EQ(sale.tabs()->currentIndex(), 2);
+  EXPECT_EQ(sale.rows("Select DC, Income From Sale"), "1000|39000");
+  EXPECT_EQ(sale.grid()->model().column(SaleCol::Kind).combo, QStringList({"자판", "자수"}));
+  sale.form.showPage("gas");
+  EXPECT_EQ(sale.tabs()->currentIndex(), 0);
+}
+
+TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
+  SaleScreen sale;
+  sale.run(
+      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing) "
+      "Values('2026-03-02', 1, 1, False, 'LPG', '20')");
+  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+  EXPECT_EQ(date->text(), "03-05");
+  const auto setDay = [&](const char* typed) {
+    date->setFocus();
+    date->selectAll();
+    QTest::keyClicks(date, typed);
+    QTest::keyClick(date, Qt::Key_Return);
+    QCoreApplication::processEvents();
+  };
+  setDay("0302");
+  EXPECT_EQ(sale.cell(1, SaleCol::Date), "03-02");
+  EXPECT_EQ(sale.at(), "2,2");
+  sale.pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
+  setDay("0231");
+  EXPECT_EQ(QString(date->text()).remove('-').trimmed(), "");
+  EXPECT_EQ(sale.grid()->model().MaxRows(), 1);
+  sale.customer("1", SaleScreen::Plain, "산골식당");
+  sale.pc.prompts.expect("날짜를 입력하세요");
+  sale.chooseKind(0);
+  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "1") << "no line without a day";
+  EXPECT_EQ(sale.at(), "2,1");
+}
+
+TEST(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
+  SaleScreen sale;
+  sale.type("9");
+  EXPECT_FALSE(sale.form.TakeCallerNumber("0533456789")) << "the cell is being typed in";
+  sale.press(Qt::Key_Escape);
+  sale.pickers.clients = {ClientChoice{3, "별빛 3동"}};
+  EXPECT_TRUE(sale.form.TakeCallerNumber("0533456789"));
+  EXPECT_EQ(sale.tabs()->currentIndex(), 1);
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Client), "1,3 별빛 3동");
+  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
+
+  sale.press(Qt::Key_Escape);
+  sale.calls.numbers = {"0531234567"};
+  sale.pickers.clients = {ClientChoice{1, "산골식당"}};
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.tabs()->currentIndex(), 0) << "Enter on the empty cell fetches the waiting call";
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Client), "1,3 산골식당");
+}
+
+TEST(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
+  SaleScreen sale;
+  for (const char* part : {"ㅅ", "사", "산"}) {
+    QInputMethodEvent composing(part, {});
+    QCoreApplication::sendEvent(sale.grid(), &composing);
+  }
+  QInputMethodEvent done;
+  done.setCommitString("산");
+  QCoreApplication::sendEvent(sale.grid(), &done);
+  QInputMethodEvent next("골", {});
+  QCoreApplication::sendEvent(sale.grid(), &next);
+  sale.press(Qt::Key_Return);
+  EXPECT_EQ(sale.pickers.asked.value(0), "client 산골 2 0");
+  EXPECT_TRUE(sale.grid()->isEditing()) << "nobody chosen: the text stays open";
+  EXPECT_EQ(sale.at(), "1,2");
+}
+
+TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
+  SaleScreen sale;
+  sale.press(Qt::Key_F5);
+  EXPECT_EQ(sale.pc.session.SaleDay, "2026-03-05");
+  sale.tabs()->setCurrentIndex(2);
+  sale.press(Qt::Key_F10);
+  EXPECT_FALSE(sale.pc.session.SaleLedgerGas);
+  EXPECT_EQ(sale.commands.asked, QStringList({"frmTodaySale:2026-03-05", "frmPrtSale"}));
+  sale.run(
+      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, Trust) "
+      "Values('2026-03-05', 1, 1, False, 2, 5000, 700)");
+  frmTodaySale today(sale.context);
+  EXPECT_EQ(today.findChild<QLabel*>("LblTitle")->text(), "03/05일의 판매현황");
+  EXPECT_EQ(today.findChild<Spread*>("SpToday")->model().text(1, 5), "700");
+}
+
+TEST(FrmSale, FortyLinesAreOnScreen) {
+  SaleScreen sale;
+  for (int line = 0; line < 40; ++line)
+    sale.run(
+        QString(
+            "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, "
+            "SaleUnit, DC, "
+            "Income, Trust, Response) Values('2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, "
+            "'홍길동')")
+            .arg(QString::number(1 + line % 2), QString::number(1 + line % 6),
+                 line % 6 == 3 ? "가스수금" : "LPG", line % 6 == 3 ? "0" : "20",
+                 QString::number(1 + line % 3), QString::number(line % 5 * 500),
+                 QString::number(43000 * (line % 3)), QString::number(line % 4 * 21500)));
+  sale.press(Qt::Key_Escape);
+  EXPECT_EQ(sale.at(), "41,2");
+  EXPECT_GE(sale.grid()->rowsOnPage(), 20);
+  sale.grid()->setActiveCell(39, SaleCol::Amount);
+  EXPECT_EQ(sale.label("LblAddr"), "(706-010) 대구 수성구 1");
+  tests::grab(sale.form, "frmSale");
+  sale.press(Qt::Key_F5);
+  frmTodaySale today(sale.context);
+  tests::show(today);
+  tests::grab(today, "frmTodaySale");
+}
+
+}  // namespace
