@@ -43,9 +43,10 @@ Value Token::value() const {
       return plain;
     }
     case Kind::Whole: {
-      bool fits = false;
-      const qlonglong whole = text.toLongLong(&fits);
-      return fits ? Value(qint64(whole)) : Value(text.toDouble());
+      if (text.size() > 18) return text.toDouble();
+      qint64 whole = 0;
+      for (const QChar digit : text) whole = whole * 10 + (digit.unicode() - u'0');
+      return whole;
     }
     case Kind::Floating:
       return text.toDouble();
@@ -149,11 +150,14 @@ Token Lexer::readName() {
 }
 
 Token Lexer::readSymbol() {
-  static constexpr QLatin1StringView pairs[] = {"<>"_L1, "<="_L1, ">="_L1, "=<"_L1, "=>"_L1};
-  for (const auto& pair : pairs)
-    if (sql_.mid(at_, 2) == pair) return made(Token::Kind::Symbol, at_, at_, at_ + 2, at_ + 2);
-  if (!u"(),.=<>+-*/\\^&;"_s.contains(sql_[at_])) throwSyntax(sql_, at_, u"알 수 없는 글자입니다"_s);
-  return made(Token::Kind::Symbol, at_, at_, at_ + 1, at_ + 1);
+  const char16_t c = sql_[at_].unicode();
+  const char16_t next = at_ + 1 < sql_.size() ? sql_[at_ + 1].unicode() : u'\0';
+  const bool pair = (c == u'<' && (next == u'>' || next == u'=')) || (c == u'>' && next == u'=') ||
+                    (c == u'=' && (next == u'<' || next == u'>'));
+  if (!pair && !QStringView(u"(),.=<>+-*/\\^&;").contains(QChar(c)))
+    throwSyntax(sql_, at_, u"알 수 없는 글자입니다"_s);
+  const qsizetype end = at_ + (pair ? 2 : 1);
+  return made(Token::Kind::Symbol, at_, at_, end, end);
 }
 
 /** Keeps what is needed to tell a number that is data from one that decides the statement's form. */
@@ -164,11 +168,12 @@ void Lexer::follow(Token& token) {
   }
   if (token.isLiteral()) {
     const bool number = token.kind == Token::Kind::Whole || token.kind == Token::Kind::Floating;
-    const bool form = definition_ || ordering_ || previous_.compare("TOP"_L1, Qt::CaseInsensitive) == 0;
-    if (!(number && form)) token.parameter = ++parameters_;
+    const bool form =
+        number && (definition_ || ordering_ || previous_.compare("TOP"_L1, Qt::CaseInsensitive) == 0);
+    if (!form) token.parameter = ++parameters_;
   } else if (token.kind == Token::Kind::Symbol) {
-    if (token.text == u'(') ++depth_;
-    if (token.text == u')') {
+    if (token.isSymbol(u'(')) ++depth_;
+    if (token.isSymbol(u')')) {
       --depth_;
       if (depth_ < orderingDepth_) ordering_ = false;
     }

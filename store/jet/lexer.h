@@ -21,7 +21,11 @@ struct Token {
   bool isSymbol(QLatin1StringView symbol) const { return kind == Kind::Symbol && text == symbol; }
   /** A bare name equal to this word; case does not matter. */
   bool isWord(QLatin1StringView word) const {
-    return kind == Kind::Name && !bracketed && text.compare(word, Qt::CaseInsensitive) == 0;
+    return kind == Kind::Name && text.size() == word.size() && !bracketed &&
+           text.compare(word, Qt::CaseInsensitive) == 0;
+  }
+  bool isSymbol(char16_t symbol) const {
+    return kind == Kind::Symbol && text.size() == 1 && text.front() == symbol;
   }
   /** A literal's value; a date reads as the text yyyy-MM-dd. */
   Value value() const;
