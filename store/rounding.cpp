@@ -1,7 +1,5 @@
 #include "store/rounding.h"
 
-#include <cmath>
-
 #include "store/data_access.h"
 #include "store/session.h"
 #include "store/vb.h"
@@ -10,8 +8,7 @@ double roundToTen(double won, std::optional<int> payState) {
   // The fraction is dropped from the text of 15 digits, not by arithmetic: 1234.9999999999999 is 1235 here.
   QString text = vb::CStr(won);
   if (const qsizetype point = text.indexOf(u'.'); point >= 0) text.truncate(point);
-  const double whole = vb::CDbl(text);
-  if (std::abs(whole) > 922337203685477.0) throw jet::Error(6, QStringLiteral("숫자가 범위를 벗어났습니다."));
+  const double whole = vb::CCur(vb::CDbl(text));
   const int digit = text.back().digitValue();
   if (whole == 0 || digit == 0 || !payState) return whole == 0 ? 0 : whole;
   // Kept: the digit has no sign, so -123 rounds down to -126 and up to -116.

@@ -3,7 +3,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-#include "store/jet/error.h"
+#include "store/jet/error_texts.h"
 #include "store/jet/format_rules.h"
 #include "store/jet/text_rules.h"
 
@@ -11,11 +11,9 @@ namespace vb {
 
 namespace {
 
-qint64 wholeWithin(double number, double least, double most) {
-  const double rounded = jet::roundHalfEven(number);
-  if (!(rounded >= least && rounded <= most))
-    throw jet::Error(6, QStringLiteral("숫자가 범위를 벗어났습니다."));
-  return qint64(rounded);
+double within(double number, double least, double most) {
+  if (number >= least && number <= most) return number;
+  jet::fail(6);  // also for what is no number at all
 }
 
 int fullYear(const QString& digits) {
@@ -44,22 +42,30 @@ double Val(QStringView text) {
 
 double CDbl(QStringView text) {
   const std::optional<double> number = jet::numberOf(text);
-  if (!number) throw jet::Error(13, QStringLiteral("형식이 일치하지 않습니다."));
+  if (!number) jet::fail(13);
   return *number;
 }
 
 qint64 CLng(double number) {
-  return wholeWithin(number, -2147483648.0, 2147483647.0);
+  return qint64(within(jet::roundHalfEven(number), -2147483648.0, 2147483647.0));
 }
+
 qint64 CLng(QStringView text) {
   return CLng(CDbl(text));
 }
+
 int CInt(double number) {
-  return int(wholeWithin(number, -32768, 32767));
+  return int(within(jet::roundHalfEven(number), -32768, 32767));
 }
+
 int CInt(QStringView text) {
   return CInt(CDbl(text));
 }
+
+double CCur(double number) {
+  return within(jet::roundHalfEven(number, 4), -922337203685477.0, 922337203685477.0);
+}
+
 QString CStr(double number) {
   return jet::textOf(number);
 }

@@ -15,6 +15,8 @@ qint64 CLng(double number);
 qint64 CLng(QStringView text);
 int CInt(double number);
 int CInt(QStringView text);
+/** Four decimal places, a tie to the even one. Error 6 beyond a currency's range. */
+double CCur(double number);
 /** Error 13 for a text that is no number. */
 double CDbl(QStringView text);
 /** 15 significant digits. */
