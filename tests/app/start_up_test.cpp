@@ -136,6 +136,25 @@ TEST_F(StartUpTest, AMovedFolderIsWorkedInWhileTheFixedStepsStayWhereTheyAre) {
   EXPECT_EQ(session.dbCommon.path().left(3), "C:\\");
 }
 
+TEST_F(StartUpTest, TwoPcsWorkInOneFolder) {
+  ASSERT_TRUE(start());
+  session.dbBasic.Execute(u"Insert Into Client(Name, GasInit) Values('가', 1000)"_s);
+  pc::Pc otherPc(here.folder.path());
+  Session other(otherPc, here.prompts);
+  StartUp second(other);
+  ASSERT_TRUE(second.SubMain([&] { second.load(); })) << "while the first has its files open";
+  other.dbYear.Execute(u"Update Client Set GasInit = GasInit - 300 Where Code = 1"_s);
+  startUp->relink();
+  EXPECT_EQ(firstOf(session.dbYear, u"Select GasInit From Client Where Code = 1"_s), "700");
+  session.dbYear.Execute(u"Insert Into Sale(SaleDate, ClientCode) Values('2026-03-02', 1)"_s);
+  second.relink();
+  EXPECT_EQ(firstOf(other.dbYear,
+                    u"Select Client.Name From Sale Left Join Client On Sale.ClientCode = Client.Code"_s),
+            "가");
+  second.shutDown();
+  EXPECT_EQ(firstOf(session.dbYear, u"Select Count(*) From Sale"_s), "1");
+}
+
 TEST_F(StartUpTest, BadDaysAreTold) {
   ASSERT_TRUE(start());
   startUp->shutDown();
