@@ -2,17 +2,13 @@
 
 #include "store/options.h"
 #include "store/rounding.h"
-#include "tests/support.h"
+#include "tests/store/old_books.h"
 
 namespace {
 
+using tests::firstOf;
 using tests::TestPc;
 using namespace Qt::StringLiterals;
-
-std::string firstOf(const jet::Database& db, const QString& sql) {
-  const jet::Recordset rs = db.OpenRecordset(sql);
-  return rs.atEnd() ? "none" : rs[0].isNull() ? "null" : rs[0].toText().toStdString();
-}
 
 TEST(DataFiles, ANewPcGetsEveryFileWithItsTables) {
   TestPc here;
