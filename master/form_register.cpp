@@ -23,6 +23,7 @@ RegisterPage* RegisterForm::addPage(RegisterRules& rules, const char* gridName, 
   added->stateChanged = [this] { refreshButtons(); };
   added->recordShown = [this] { recordShown(); };
   added->deleteAsked = [this] { page()->deleteRecord(); };
+  pages_ << added;  // before the first tab comes up and asks for its page
   if (!tabs) {
     body()->addWidget(added, 1);
   } else {
@@ -30,11 +31,13 @@ RegisterPage* RegisterForm::addPage(RegisterRules& rules, const char* gridName, 
       tabs_ = new QTabWidget(this);
       tabs_->setObjectName(QString::fromUtf8(tabs));
       body()->addWidget(tabs_, 1);
-      connect(tabs_, &QTabWidget::currentChanged, this, [this] { refreshButtons(); });
+      connect(tabs_, &QTabWidget::currentChanged, this, [this] {
+        refreshButtons();
+        grid()->setFocus();
+      });
     }
     tabs_->addTab(added, title);
   }
-  pages_ << added;
   return added;
 }
 

@@ -48,6 +48,8 @@ RegisterPage::RegisterPage(Form& form, RegisterRules& rules, const char* gridNam
     return true;
   };
   panel_ = form.addGroup({});
+  panel_->setObjectName(QStringLiteral("PnlBoxes"));
+  panel_->setStyleSheet(QStringLiteral("#PnlBoxes { margin-top: 0; }"));  // room for a title it does not have
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(5);
@@ -58,6 +60,10 @@ RegisterPage::RegisterPage(Form& form, RegisterRules& rules, const char* gridNam
 void RegisterPage::bind(QWidget* box, const QString& column, const QString& help) {
   bound_.push_back({box, column});
   form_.setHelp(box, help);
+}
+
+void RegisterPage::setListHelp(const QString& help) {
+  grid_->cellEntered = [this, help](int, int) { form_.showHelp(help); };
 }
 
 QList<QWidget*> RegisterPage::bound() const {

@@ -22,6 +22,8 @@ class RegisterPage : public QWidget {
 
   /** The box holds the column. */
   void bind(QWidget* box, const QString& column, const QString& help = {});
+  /** What the help line shows while the list has the focus. */
+  void setListHelp(const QString& help);
   /** The bound boxes in the order they were bound. */
   QList<QWidget*> bound() const;
   RegisterFields boxes() const;

@@ -38,12 +38,14 @@ frmGasUtil::frmGasUtil(FormContext& context, QWidget* parent)
 }
 
 void frmGasUtil::buildGas() {
-  gasPage_ = addPage(gas_, "SpLPG", "TabGasUtil", u"가스/용기"_s);
-  setHelp(gasPage_->grid(), deleteByKey);
+  gasPage_ = addPage(gas_, "SpLPG", "TabGasUtil", u"가스/용기(&1)"_s);
+  gasPage_->setListHelp(deleteByKey);
+  gasPage_->grid()->setFillColumn(1);
+  gasPage_->boxPanel()->setStyleSheet(u"#PnlBoxes { border: none; margin-top: 0; padding: 0; }"_s);
   auto* const halves = new QHBoxLayout(gasPage_->boxPanel());
   halves->setContentsMargins(0, 0, 0, 0);
 
-  auto* const item = new QWidget(gasPage_->boxPanel());
+  QGroupBox* const item = addGroup(u"품목/단가"_s);
   Fields prices(item, 2);
   name_ = prices.text("TxtLPGName", u"품명"_s, 14, 30);
   gasPage_->bind(name_, u"LPGName"_s, u"가스명을 입력합니다. LPG는 그냥 엔터를 누르십시오"_s);
@@ -81,8 +83,9 @@ void frmGasUtil::buildGas() {
 }
 
 void frmGasUtil::buildUtil() {
-  RegisterPage* const page = addPage(util_, "SpUtil", "TabGasUtil", u"시설/자재"_s);
-  setHelp(page->grid(), deleteByKey);
+  RegisterPage* const page = addPage(util_, "SpUtil", "TabGasUtil", u"시설/자재(&2)"_s);
+  page->setListHelp(deleteByKey);
+  page->grid()->setFillColumn(1);
   Fields fields(page->boxPanel(), 3);
   page->bind(fields.text("TxtName", u"품명"_s, 24, 40), u"Name"_s, u"시설/자재의 품명을 입력합니다"_s);
   page->bind(fields.text("TxtSize", u"규격"_s, 16, 30), u"Size"_s, u"시설/자재의 규격을 입력합니다"_s);

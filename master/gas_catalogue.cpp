@@ -21,22 +21,22 @@ GasCatalogue::GasCatalogue(Session& session) : RegisterRules(session) {
                         .align = CellAlign::Right,
                         .locked = true};
   };
-  list_.setColumns({{.header = u"품명"_s, .group = u"가스/용기 현황"_s, .width = 14, .locked = true},
+  list_.setColumns({{.header = u"품명"_s, .group = u"가스/용기 현황"_s, .width = 12, .locked = true},
                     {.header = u"규격"_s,
                      .group = u"가스/용기 현황"_s,
-                     .width = 7,
+                     .width = 6,
                      .align = CellAlign::Right,
                      .locked = true},
-                    money(u"가스구입가"_s, 11),
-                    money(u"가스판매가"_s, 11),
-                    money(u"용기구입가"_s, 11),
-                    money(u"용기판매가"_s, 11),
-                    money(u"실병재고"_s, 9),
-                    money(u"공병재고"_s, 9),
-                    money(u"용기대여"_s, 9),
-                    money(u"보유용기"_s, 9),
-                    money(u"가스재고"_s, 10),
-                    money(u"재고액"_s, 13)});
+                    money(u"가스구입가"_s, 10),
+                    money(u"가스판매가"_s, 10),
+                    money(u"용기구입가"_s, 10),
+                    money(u"용기판매가"_s, 10),
+                    money(u"실병재고"_s, 8),
+                    money(u"공병재고"_s, 8),
+                    money(u"용기대여"_s, 8),
+                    money(u"보유용기"_s, 8),
+                    money(u"가스재고"_s, 9),
+                    money(u"재고액"_s, 12)});
 }
 
 QString GasCatalogue::defaultName() {

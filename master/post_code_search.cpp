@@ -27,8 +27,8 @@ bool PostCodeSearch::open() {
 
 std::vector<SpreadColumn> PostCodeSearch::columns() {
   return {{.header = u"우편번호"_s, .width = 10, .align = CellAlign::Center, .locked = true},
-          {.header = u"주소"_s, .width = 40, .locked = true},
-          {.header = u"번지"_s, .width = 24, .locked = true}};
+          {.header = u"주소"_s, .width = 36, .locked = true},
+          {.header = u"번지"_s, .width = 14, .locked = true}};
 }
 
 // The upper bound is three digits and a postcode has more, so text order leaves the bound's own district out; kept.

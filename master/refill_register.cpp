@@ -10,22 +10,22 @@ const QString companyMissing = u"상호는 필수입력사항입니다!"_s;
 }  // namespace
 
 RefillRegister::RefillRegister(Session& session) : RegisterRules(session) {
-  list_.setColumns({{.header = u"상호"_s, .width = 20, .locked = true},
-                    {.header = u"대표자"_s, .width = 10, .locked = true},
-                    {.header = u"사업자번호"_s, .width = 14, .align = CellAlign::Center, .locked = true},
-                    {.header = u"전화번호"_s, .width = 14, .align = CellAlign::Center, .locked = true},
-                    {.header = u"팩스"_s, .width = 14, .align = CellAlign::Center, .locked = true},
+  list_.setColumns({{.header = u"상호"_s, .width = 18, .locked = true},
+                    {.header = u"대표자"_s, .width = 8, .locked = true},
+                    {.header = u"사업자번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
+                    {.header = u"전화번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
+                    {.header = u"팩스"_s, .width = 13, .align = CellAlign::Center, .locked = true},
                     {.header = u"가스미불"_s,
-                     .width = 12,
+                     .width = 11,
                      .kind = CellKind::Money,
                      .align = CellAlign::Right,
                      .locked = true},
                     {.header = u"자재미불"_s,
-                     .width = 12,
+                     .width = 11,
                      .kind = CellKind::Money,
                      .align = CellAlign::Right,
                      .locked = true},
-                    {.header = u"주소"_s, .width = 36, .locked = true}});
+                    {.header = u"주소"_s, .width = 24, .locked = true}});
 }
 
 QString RefillRegister::listStatement() const {

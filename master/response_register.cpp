@@ -9,13 +9,13 @@ const QString responseTitle = u"배달 관리자"_s;
 }
 
 ResponseRegister::ResponseRegister(Session& session) : RegisterRules(session) {
-  list_.setColumns({{.header = u"담당자"_s, .width = 12, .locked = true},
-                    {.header = u"전화번호"_s, .width = 14, .align = CellAlign::Center, .locked = true},
-                    {.header = u"휴대폰"_s, .width = 14, .align = CellAlign::Center, .locked = true},
+  list_.setColumns({{.header = u"담당자"_s, .width = 10, .locked = true},
+                    {.header = u"전화번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
+                    {.header = u"휴대폰"_s, .width = 13, .align = CellAlign::Center, .locked = true},
                     {.header = u"입사일자"_s, .width = 11, .align = CellAlign::Center, .locked = true},
-                    {.header = u"주민등록번호"_s, .width = 15, .align = CellAlign::Center, .locked = true},
-                    {.header = u"주소"_s, .width = 36, .locked = true},
-                    {.header = u"메모사항"_s, .width = 24, .locked = true}});
+                    {.header = u"주민등록번호"_s, .width = 14, .align = CellAlign::Center, .locked = true},
+                    {.header = u"주소"_s, .width = 28, .locked = true},
+                    {.header = u"메모사항"_s, .width = 16, .locked = true}});
 }
 
 QString ResponseRegister::listStatement() const {

@@ -10,7 +10,8 @@ class VolumeRegister : public RegisterRules {
   /** True for the first seven rows, whose size cannot change and which cannot be deleted. */
   bool chosenIsFixed() const;
 
-  static constexpr int fixedColour = 0x87CEEB;
+  /** Sky blue, light enough to read on. */
+  static constexpr int fixedColour = 0xCDEAF8;
 
  protected:
   QString listStatement() const override;
