@@ -23,13 +23,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** What is done in the modal window that opens next. */
+/** What is done in the modal window that opens next, once it stands in front with the focus in it. */
 void whenOpen(std::function<void(QWidget&)> act) {
-  QTimer::singleShot(30, [act = std::move(act)] {
+  auto* const look = new QTimer(qApp);
+  QObject::connect(look, &QTimer::timeout, look, [look, act = std::move(act)] {
     QWidget* const modal = QApplication::activeModalWidget();
-    ASSERT_TRUE(modal);
+    if (!modal || !modal->isVisible()) return;
+    QApplication::setActiveWindow(modal);
+    if (!QApplication::focusWidget()) return;
+    look->stop();
+    look->deleteLater();
     act(*modal);
   });
+  look->start(10);
 }
 
 struct Boxes : ::testing::Test {
