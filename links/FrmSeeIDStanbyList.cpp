@@ -1,0 +1,94 @@
+#include "links/FrmSeeIDStanbyList.h"
+
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace {
+const QString stanbySection = QStringLiteral("환경설정");
+const QString stanbyX = QStringLiteral("발신번호대기창x"), stanbyY = QStringLiteral("발신번호대기창y");
+}  // namespace
+
+FrmSeeIDStanbyList::FrmSeeIDStanbyList(Session& session, WaitingList& waiting, QWidget* parent)
+    : QWidget(parent, Qt::Window), session_(session), waiting_(waiting) {
+  setObjectName(QStringLiteral("FrmSeeIDStanbyList"));
+  setWindowTitle(QStringLiteral("발신번호 처리 대기"));
+
+  List1_ = new QListWidget(this);
+  List1_->setObjectName(QStringLiteral("List1"));
+  List1_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  auto button = [this](const char* name, const QString& caption, auto work) {
+    auto* made = new QPushButton(caption, this);
+    made->setObjectName(QString::fromLatin1(name));
+    connect(made, &QPushButton::clicked, this, work);
+    return made;
+  };
+  auto* btnDel = button("btnDel", QStringLiteral("삭제(&E)"), [this] { deleteSelected(); });
+  auto* btnAllDel = button("btnAllDel", QStringLiteral("전체삭제(&A)"), [this] { waiting_.clear(); });
+  auto* Command1 = button("Command1", QStringLiteral("test"), [this] { askTestEntry(); });
+  Command1->hide();
+  connect(new QShortcut(Qt::Key_Delete, this), &QShortcut::activated, btnDel, &QPushButton::click);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(btnDel);
+  buttons->addWidget(btnAllDel);
+  auto* all = new QVBoxLayout(this);
+  all->addWidget(new QLabel(QStringLiteral("자동 발신번호 처리 대기 목록"), this));
+  all->addWidget(List1_);
+  all->addLayout(buttons);
+  resize(320, 280);
+
+  auto stored = [this](const QString& key) {
+    return session_.pc.settings.GetSetting(session_.AppTitle, stanbySection, key, QStringLiteral("-1"))
+        .toInt();
+  };
+  if (stored(stanbyX) >= 0 && stored(stanbyY) >= 0) move(stored(stanbyX), stored(stanbyY));
+  waiting_.changed = [this] { showEntries(); };
+  showEntries();
+}
+
+FrmSeeIDStanbyList::~FrmSeeIDStanbyList() {
+  waiting_.changed = {};
+}
+
+void FrmSeeIDStanbyList::bringToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void FrmSeeIDStanbyList::closeEvent(QCloseEvent* event) {
+  if (!isMinimized() && x() >= 0 && y() >= 0) {
+    session_.pc.settings.SaveSetting(session_.AppTitle, stanbySection, stanbyX, QString::number(x()));
+    session_.pc.settings.SaveSetting(session_.AppTitle, stanbySection, stanbyY, QString::number(y()));
+  }
+  hide();
+  event->ignore();
+}
+
+void FrmSeeIDStanbyList::showEntries() {
+  List1_->clear();
+  List1_->addItems(waiting_.entries());
+}
+
+void FrmSeeIDStanbyList::deleteSelected() {
+  QList<int> rows;
+  for (const QModelIndex& index : List1_->selectionModel()->selectedRows()) rows << index.row();
+  if (rows.isEmpty()) {
+    session_.prompts.MsgInfo(QStringLiteral("삭제할 항목을 선택해 주세요."));
+    return;
+  }
+  std::sort(rows.begin(), rows.end(), std::greater<>());
+  for (int row : rows) waiting_.remove(row);
+}
+
+void FrmSeeIDStanbyList::askTestEntry() {
+  const auto typed = session_.prompts.InputBox(QStringLiteral("string"), QStringLiteral("test"),
+                                               QStringLiteral("0111234567"));
+  if (typed && !typed->isEmpty()) waiting_.AddStanbyNumber(*typed);
+}

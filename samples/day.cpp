@@ -1,0 +1,192 @@
+#include "samples/day.h"
+
+#include "samples/sample_books.h"
+
+namespace samples {
+namespace {
+
+const QString basicFile = QStringLiteral("Basic.mdb");
+
+class Day {
+ public:
+  Day(Stage& stage, const std::function<void(const QString&)>& tell)
+      : stage_(stage),
+        tell_(tell),
+        date_(QString::fromLatin1(dayClock).left(10)),
+        yearFile_(date_.left(4) + QStringLiteral("Foundation.mdb")) {
+    client_ =
+        stage_.query(basicFile, "Select Code From Client Where Tel = '" + QString::fromUtf8(callerTel) + "'")
+            .value(0);
+  }
+
+  DayReport play() {
+    DayReport report;
+    report.before = figures();
+    signIn();
+    call();
+    gasLine();
+    collection();
+    loan();
+    change();
+    deletion();
+    report.after = figures();
+    report.lines = stage_.query(yearFile_,
+                                "Select SaleGubun, SaleName, SaleThing, SaleNum, Income, Trust From Sale "
+                                "Where SaleDate = '" +
+                                    date_ + "' Order By SaleID");
+    leave();
+    return report;
+  }
+
+ private:
+  Figures figures() const {
+    const QStringList owed =
+        stage_.query(basicFile, "Select GasInit, UtilInit, LastDate From Client Where Code = " + client_)
+            .value(0)
+            .split(u'\t');
+    const QStringList stock =
+        stage_
+            .query(basicFile,
+                   "Select LPGStock, CANFull, CANEmpty, CANLoan, CANTotalHold From LPG Where "
+                   "LPGName = 'LPG' And Size = '20'")
+            .value(0)
+            .split(u'\t');
+    auto whole = [](const QStringList& row, int at) { return row.value(at).toLongLong(); };
+    return {whole(owed, 0),  whole(owed, 1),  whole(stock, 0), whole(stock, 1),
+            whole(stock, 2), whole(stock, 3), whole(stock, 4), owed.value(2)};
+  }
+
+  void awaitBalance(qint64 won) {
+    stage_.awaitRow(basicFile, "Select GasInit From Client Where Code = " + client_, QString::number(won));
+  }
+  void awaitLine(const QString& values) {
+    stage_.awaitRow(yearFile_,
+                    "Select Top 1 SaleGubun, SaleNum, Income, Trust, Response From Sale Where SaleDate = '" +
+                        date_ + "' And ClientCode = " + client_ + " Order By SaleID Desc",
+                    values);
+  }
+
+  void signIn() {
+    stage_.awaitWindow(QStringLiteral("로그인"));
+    stage_.picture(QStringLiteral("day-1-sign-in"));
+    stage_.type(QString::fromLatin1(password));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("공지"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_.keys({"alt+l", "s"});
+    tell_(QStringLiteral("signed in and opened the sale screen"));
+  }
+
+  void call() {
+    stage_.picture(QStringLiteral("day-2-sale-screen"));
+    stage_.callerUnitSends("RING\r\nNMBR=0531234567\r\n");
+    tell_(QStringLiteral("a call came in from 0531234567"));
+  }
+
+  void gasLine() {
+    stage_.keys({"Return"});  // 가스 is the kind already chosen: the line is made
+    awaitLine(QStringLiteral("1\t0\t0\t0\t"));
+    stage_.picture(QStringLiteral("day-3-caller-came-up"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("판매상품조회"));
+    stage_.picture(QStringLiteral("day-4-item-search"));
+    stage_.keys({"Return"});
+    awaitLine(QStringLiteral("1\t1\t27000\t0\t"));
+    person();
+    awaitLine(QStringLiteral("1\t1\t27000\t0\t홍길수"));
+    tell_(QStringLiteral("a 20 kg gas delivery was posted, 27,000 won paid"));
+  }
+
+  /** From the amount to the person, who is picked from the list, and on to the next line. */
+  void person() {
+    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_.keys({"Return", "Return"});
+    stage_.awaitWindow(QStringLiteral("담당"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+  }
+
+  void findCustomer() {
+    stage_.type(QString::fromLatin1(callerTel).right(4));
+    stage_.keys({"Return"});
+  }
+
+  void collection() {
+    findCustomer();
+    stage_.keys({"Down", "Return"});  // 수금
+    awaitLine(QStringLiteral("4\t0\t0\t50000\t"));
+    stage_.type(QStringLiteral("30000"));
+    stage_.keys({"Return"});
+    awaitLine(QStringLiteral("4\t0\t30000\t20000\t"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("담당"));
+    stage_.keys({"Down", "Return"});
+    awaitLine(QStringLiteral("4\t0\t30000\t20000\t나대로"));
+    awaitBalance(callerOwes - 30000);
+    stage_.picture(QStringLiteral("day-5-collection"));
+    tell_(QStringLiteral("30,000 won were collected"));
+  }
+
+  void loan() {
+    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+    findCustomer();
+    stage_.keys({"Down", "Down", "Return"});  // 용대
+    awaitLine(QStringLiteral("5\t0\t0\t0\t"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("판매상품조회"));
+    stage_.keys({"Return"});
+    awaitLine(QStringLiteral("5\t1\t0\t0\t"));
+    person();
+    tell_(QStringLiteral("a cylinder was lent"));
+  }
+
+  /** The delivery was not wholly paid after all: 20,000 of 27,000. */
+  void change() {
+    stage_.keys({"Escape", "Up", "Up", "Up"});
+    for (int step = 0; step < 7; ++step) stage_.keys({"Right"});
+    stage_.type(QStringLiteral("20000"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("자료수정"));
+    stage_.picture(QStringLiteral("day-6-change"));
+    stage_.keys({"Return"});
+    awaitBalance(callerOwes - 30000 + 7000);
+    tell_(QStringLiteral("the delivery was changed: 20,000 won paid, 7,000 on credit"));
+  }
+
+  void deletion() {
+    stage_.keys({"Escape", "Up", "Delete"});
+    stage_.awaitWindow(QStringLiteral("자료삭제"));
+    stage_.keys({"Return"});
+    stage_.awaitRow(yearFile_, "Select Count(SaleID) From Sale Where SaleDate = '" + date_ + "'",
+                    QStringLiteral("2"));
+    tell_(QStringLiteral("the loan was deleted again"));
+    stage_.keys({"F5"});
+    stage_.picture(QStringLiteral("day-7-figures-of-the-day"));
+    stage_.keys({"Escape"});
+  }
+
+  void leave() {
+    stage_.keys({"alt+F4"});
+    stage_.awaitWindow(QStringLiteral("프로그램 종료"));
+    stage_.keys({"Return"});
+    if (const int status = stage_.awaitEnd(); status != 0)
+      throw std::runtime_error("the program ended with status " + std::to_string(status));
+    tell_(QStringLiteral("the program was closed"));
+  }
+
+  Stage& stage_;
+  const std::function<void(const QString&)>& tell_;
+  const QString date_, yearFile_;
+  QString client_;
+};
+
+}  // namespace
+
+DayReport playDay(Stage& stage, const std::function<void(const QString&)>& tell) {
+  Day day(stage, tell);
+  stage.startProgram();
+  return day.play();
+}
+
+}  // namespace samples

@@ -1,0 +1,19 @@
+#pragma once
+// A made-up LPG retailer in a small town: what ./run sample, the sample day and the pictures are played on.
+#include "pc/pc.h"
+#include "ui/prompts.h"
+
+namespace samples {
+
+/** Fills the data folder of an empty PC: about 300 customers of all three house styles, catalogue, staff, suppliers,
+ *  postcodes and two years of sales up to the day before the PC's clock. The same clock gives the same books, and
+ *  every balance and stock figure equals what its lines add up to. Throws jet::Error. */
+void makeBooks(pc::Pc& pc, Prompts& prompts);
+
+/** The sample company's password. */
+inline constexpr char password[] = "1234";
+/** The customer who calls on the sample day, and what is owed for gas, won. */
+inline constexpr char callerName[] = "해오름식당", callerTel[] = "053-123-4567";
+inline constexpr qint64 callerOwes = 50000;
+
+}  // namespace samples

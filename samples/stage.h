@@ -1,0 +1,54 @@
+#pragma once
+// An off-screen stage for the whole program: a display, a window manager, a caller-identification unit on a
+// pseudo-terminal, and the program itself, driven by real keystrokes and read back through jetsql.
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStringList>
+#include <memory>
+
+namespace samples {
+
+/** Throws std::runtime_error with what was awaited when something does not come in time. */
+class Stage {
+ public:
+  struct Options {
+    QString programs;  ///< folder of haeon and jetsql
+    QString pcRoot;    ///< the PC that the program runs on
+    QString clock;     ///< "yyyy-MM-dd HH:mm:ss" at start; empty: the real one
+    QString pictures;  ///< folder for screenshots; empty: none are taken
+    QString size = QStringLiteral("1280x900");
+    double scale = 1;  ///< 1.5 shows the program as on a 144 dpi screen
+  };
+  explicit Stage(Options options);
+  ~Stage();
+
+  void startProgram();
+  bool programRuns() const;
+  /** Waits until the program has ended by itself; its exit status. */
+  int awaitEnd();
+
+  /** Keys by their names ("Return", "Down", "alt+l"), one after the other, to the window in front. */
+  void keys(const QStringList& names);
+  void type(const QString& digitsAndLetters);
+  /** Waits until the window in front has a title with this part. */
+  void awaitWindow(const QString& part);
+  QString windowInFront() const;
+  /** What the unit sends over the line. */
+  void callerUnitSends(const QByteArray& bytes);
+
+  /** Rows of a statement, tab-separated lines. file: name in the data folder. */
+  QStringList query(const QString& file, const QString& statement) const;
+  /** Waits until the statement's first line is this. */
+  void awaitRow(const QString& file, const QString& statement, const QString& line);
+  void picture(const QString& name);
+
+ private:
+  QString run(const QString& program, const QStringList& arguments) const;
+
+  Options options_;
+  QProcessEnvironment environment_;
+  std::unique_ptr<QProcess> display_, manager_, program_;
+  int unit_ = -1, unitFarEnd_ = -1;  // the pseudo-terminal's two ends
+};
+
+}  // namespace samples

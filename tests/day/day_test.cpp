@@ -1,0 +1,56 @@
+// The whole road by keystrokes on the real window: the sample day, read back from the data files.
+#include "samples/day.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <stdexcept>
+
+#include "samples/sample_books.h"
+#include "tests/support.h"
+
+namespace {
+
+TEST(SampleDay, BalancesAndStockAreRightToTheWonAndThePiece) {
+  QTemporaryDir root;
+  qputenv("HAEON_CLOCK", samples::dayClock);
+  {
+    pc::Pc pc(root.path());
+    tests::ScriptedPrompts prompts;
+    samples::makeBooks(pc, prompts);
+  }
+  samples::DayReport day;
+  try {
+    samples::Stage stage(
+        {HAEON_PROGRAMS, root.path(), samples::dayClock, qEnvironmentVariable("HAEON_PICTURES")});
+    try {
+      day = samples::playDay(stage, [](const QString&) {});
+    } catch (...) {
+      stage.picture("day-stopped-here");
+      throw;
+    }
+  } catch (const std::runtime_error& failure) {
+    FAIL() << failure.what();
+  }
+  // 50,000 owed; 30,000 collected; 7,000 of the delivery left on credit.
+  EXPECT_EQ(day.before.gasInit, 50000);
+  EXPECT_EQ(day.after.gasInit, 27000);
+  EXPECT_EQ(day.after.utilInit, day.before.utilInit);
+  // One full 20 kg cylinder out, its empty one back; the loan was taken back by deleting it.
+  EXPECT_EQ(day.after.stockKilograms, day.before.stockKilograms - 20);
+  EXPECT_EQ(day.after.full, day.before.full - 1);
+  EXPECT_EQ(day.after.empty, day.before.empty + 1);
+  EXPECT_EQ(day.after.loan, day.before.loan);
+  EXPECT_EQ(day.after.total, day.before.total);
+  EXPECT_EQ(day.after.lastDate, "2026-03-16");
+  EXPECT_EQ(day.lines, (QStringList{"1\tLPG\t20\t1\t20000\t7000", "4\t가스수금\t0\t0\t30000\t20000"}));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication application(argc, argv);
+  ::testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,114 @@
+// The unit on a pseudo-terminal, and the two windows of caller identification.
+#include <pty.h>
+#include <termios.h>
+#include <unistd.h>
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+#include "links/FrmSeeIDOptions.h"
+#include "links/FrmSeeIDStanbyList.h"
+#include "links/form_see_id_port.h"
+#include "tests/support.h"
+
+namespace {
+
+/** A line with a unit at its far end. */
+struct Line {
+  Line() {
+    struct termios raw {};
+    cfmakeraw(&raw);
+    char name[64];
+    EXPECT_EQ(openpty(&unit, &end, name, &raw, nullptr), 0);
+    qputenv("HAEON_COM9", name);
+  }
+  ~Line() {
+    unplug();
+    qunsetenv("HAEON_COM9");
+  }
+  void send(const QByteArray& bytes) {
+    EXPECT_EQ(::write(unit, bytes.constData(), size_t(bytes.size())), bytes.size());
+  }
+  void unplug() {
+    for (int* fd : {&unit, &end}) {
+      if (*fd >= 0) ::close(*fd);
+      *fd = -1;
+    }
+  }
+  int unit = -1, end = -1;
+};
+
+struct SeeIdPortTest : ::testing::Test, tests::TestPc {
+  SeeIdPortTest() {
+    port.onEvent = [this](int state, const QString& number) {
+      heard << QString::number(state) + u':' + number;
+    };
+  }
+  Line line;
+  SeeIdPort port{pc.paths};
+  QStringList heard;
+};
+
+TEST_F(SeeIdPortTest, HearsCallsAndHoldsThemBackBehindABox) {
+  ASSERT_EQ(port.open("COM9"), 0);
+  line.send("RING\r\nNMBR=05312");
+  QTest::qWait(50);
+  line.send("34567\r\n");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return heard.size() == 2; }));
+  EXPECT_EQ(heard, (QStringList{"0:", "1:0531234567"}));
+
+  QDialog box;
+  box.setModal(true);
+  box.show();
+  line.send("0212345678\r0213334444\r");
+  QTest::qWait(300);
+  EXPECT_EQ(heard.size(), 2) << "an open box is not disturbed";
+  box.close();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return heard.size() == 4; }));
+  EXPECT_EQ(heard.mid(2), (QStringList{"2:0212345678", "2:0213334444"}));
+  EXPECT_EQ(port.close("COM1"), 0);
+  EXPECT_FALSE(port.isOpen());
+}
+
+TEST_F(SeeIdPortTest, AnUnpluggedUnitLetsThePortGo) {
+  ASSERT_EQ(port.open("COM9"), 0);
+  line.unplug();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !port.isOpen(); }));
+  EXPECT_GT(port.open("COM9"), 0) << "nothing is there any more";
+}
+
+TEST(SeeIdForms, PortsAreChangedAndTheListSurvivesItsWindow) {
+  tests::TestPc at;
+  at.session.AppTitle = "해온판매";
+  WaitingList waiting(at.pc.clock);
+  SeeIdPort first(at.pc.paths), second(at.pc.paths);
+  Caller caller(at.session, {&first, &second}, waiting, [] { return nullptr; });
+  FrmSeeIDOptions options(caller);
+  options.show();
+  EXPECT_EQ(options.findChild<QLineEdit*>("txtPortNo0")->text(), "1");
+  options.findChild<QLineEdit*>("txtPortNo0")->setText("5");
+  options.findChild<QLineEdit*>("txtPortNo1")->setText("abc");
+  QTest::keyClick(&options, Qt::Key_Return);
+  EXPECT_EQ(caller.ports(), (std::array<QString, 2>{"5", "0"}));
+
+  waiting.AddStanbyNumber("0531111111");
+  FrmSeeIDStanbyList window(at.session, waiting);
+  window.bringToFront();
+  waiting.AddStanbyNumber("0532222222");
+  auto* list = window.findChild<QListWidget*>("List1");
+  ASSERT_EQ(list->count(), 2);
+  at.prompts.expect("삭제할 항목을 선택해 주세요.");
+  window.findChild<QPushButton*>("btnDel")->click();
+  list->setCurrentRow(0);
+  window.findChild<QPushButton*>("btnDel")->click();
+  window.move(120, 80);
+  window.close();
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(at.pc.settings.GetSetting("해온판매", "환경설정", "발신번호대기창x"), "120");
+  EXPECT_EQ(waiting.TakeStanbyNumber(), "0532222222");
+}
+
+}  // namespace
