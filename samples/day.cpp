@@ -5,6 +5,8 @@
 namespace samples {
 namespace {
 
+/** A line just begun: it carries its customer and waits for the rest. */
+const QString emptyLine = QStringLiteral("1\t0\t0\t0\t");
 const QString basicFile = QStringLiteral("Basic.mdb");
 
 class Day {
@@ -79,15 +81,16 @@ class Day {
   }
 
   void call() {
+    stage_.keys({"Return"});  // the day is right
     stage_.picture(QStringLiteral("day-2-sale-screen"));
     stage_.callerUnitSends("RING\r\nNMBR=0531234567\r\n");
+    stage_.picture(QStringLiteral("day-3-caller-came-up"));
     tell_(QStringLiteral("a call came in from 0531234567"));
   }
 
   void gasLine() {
-    stage_.keys({"Return"});  // 가스 is the kind already chosen: the line is made
-    awaitLine(QStringLiteral("1\t0\t0\t0\t"));
-    stage_.picture(QStringLiteral("day-3-caller-came-up"));
+    stage_.keys({"Return", "Return"});  // the list of kinds, 가스 in front: the line is made
+    awaitLine(emptyLine);
     stage_.keys({"Return"});
     stage_.awaitWindow(QStringLiteral("판매상품조회"));
     stage_.picture(QStringLiteral("day-4-item-search"));
@@ -101,7 +104,7 @@ class Day {
   /** From the amount to the person, who is picked from the list, and on to the next line. */
   void person() {
     stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
-    stage_.keys({"Return", "Return"});
+    stage_.keys({"Return", "Return", "Return", "Return"});
     stage_.awaitWindow(QStringLiteral("담당"));
     stage_.keys({"Return"});
     stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
@@ -114,9 +117,11 @@ class Day {
 
   void collection() {
     findCustomer();
-    stage_.keys({"Down", "Return"});  // 수금
-    awaitLine(QStringLiteral("4\t0\t0\t50000\t"));
+    stage_.keys({"Return", "Down", "Return"});  // 수금
+    awaitLine(emptyLine);
     stage_.type(QStringLiteral("30000"));
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("자료수정"));  // the line stands already, so a changed cell asks
     stage_.keys({"Return"});
     awaitLine(QStringLiteral("4\t0\t30000\t20000\t"));
     stage_.keys({"Return"});
@@ -131,8 +136,8 @@ class Day {
   void loan() {
     stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
     findCustomer();
-    stage_.keys({"Down", "Down", "Return"});  // 용대
-    awaitLine(QStringLiteral("5\t0\t0\t0\t"));
+    stage_.keys({"Return", "Down", "Down", "Return"});  // 용대
+    awaitLine(emptyLine);
     stage_.keys({"Return"});
     stage_.awaitWindow(QStringLiteral("판매상품조회"));
     stage_.keys({"Return"});

@@ -16,8 +16,13 @@ int main(int argc, char** argv) {
   }
   try {
     samples::Stage stage({arguments[1], arguments[2], QString::fromLatin1(samples::dayClock), arguments[3]});
-    const samples::DayReport report =
-        samples::playDay(stage, [&](const QString& step) { out << "- " << step << Qt::endl; });
+    samples::DayReport report;
+    try {
+      report = samples::playDay(stage, [&](const QString& step) { out << "- " << step << Qt::endl; });
+    } catch (const std::runtime_error&) {
+      stage.picture(QStringLiteral("day-stopped-here"));
+      throw;
+    }
     auto row = [&](const char* what, qint64 before, qint64 after) {
       out << QString::fromUtf8(what).leftJustified(34) << QString::number(before).rightJustified(12)
           << QString::number(after).rightJustified(12) << '\n';

@@ -63,11 +63,11 @@ QString yesNo(bool yes) {
 class Maker {
  public:
   Maker(pc::Pc& pc, const jet::Workspace& workspace, const QString& folder)
-      : clock_(pc.clock), workspace_(workspace), basic_(workspace.OpenDatabase(folder + u"Basic.mdb")) {
+      : clock_(pc.clock), workspace_(workspace), basic_(workspace.OpenDatabase(folder + "Basic.mdb")) {
     const int year = clock_.today().year();
-    years_ = {workspace.OpenDatabase(folder + number(year - 1) + u"Foundation.mdb"),
-              workspace.OpenDatabase(folder + number(year) + u"Foundation.mdb")};
-    post_ = workspace.OpenDatabase(folder + u"dbPost.mdb");
+    years_ = {workspace.OpenDatabase(folder + number(year - 1) + "Foundation.mdb"),
+              workspace.OpenDatabase(folder + number(year) + "Foundation.mdb")};
+    post_ = workspace.OpenDatabase(folder + "dbPost.mdb");
   }
 
   void make() {
@@ -254,23 +254,31 @@ class Maker {
     }
   }
 
-  /** Empty cylinders go to the station and come back filled, paid at once. */
+  /** Empty cylinders go to the station and come back filled; where too few are left, filled ones are bought. */
   void restock() {
     for (size_t at = 0; at < gases.size(); ++at) {
       GasStock& stock = stocks_[at];
-      if (stock.full >= 20 || stock.empty < 15) continue;
-      const qint64 count = stock.empty - 5;
-      const Gas& gas = gases[at];
-      year_->Execute(
-          "Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseUnit, PurchaseNum, "
-          "PurchaseGubun, Pay, DC, Trust) Values('" +
-          today_ + "', " + quoted(stations[at % stations.size()]) + ", " + quoted(staff[0]) + ", " +
-          quoted(gas.name) + ", '" + number(gas.size) + "', " + number(gas.purchase) + ", " + number(count) +
-          ", 1, " + number(count * gas.purchase) + ", 0, 0)");
-      stock.full += count;
-      stock.empty -= count;
-      stock.kilograms += count * gas.size;
+      if (stock.full >= 20) continue;
+      const qint64 refilled = stock.empty > 5 ? stock.empty - 5 : 0;
+      buy(at, 1, gases[at].purchase, refilled);
+      stock.empty -= refilled;
+      const qint64 bought = stock.full < 40 ? 60 - stock.full : 0;
+      buy(at, 3, gases[at].purchase + gases[at].canPurchase, bought);
+      stock.total += bought;
     }
+  }
+
+  void buy(size_t item, int kind, qint64 price, qint64 count) {
+    if (count == 0) return;
+    const Gas& gas = gases[item];
+    year_->Execute(
+        "Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseUnit, PurchaseNum, "
+        "PurchaseGubun, Pay, DC, Trust) Values('" +
+        today_ + "', " + quoted(stations[item % stations.size()]) + ", " + quoted(staff[0]) + ", " +
+        quoted(gas.name) + ", '" + number(gas.size) + "', " + number(price) + ", " + number(count) + ", " +
+        number(kind) + ", " + number(count * price) + ", 0, 0)");
+    stocks_[item].full += count;
+    stocks_[item].kilograms += count * gas.size;
   }
 
   void line() {
@@ -280,7 +288,7 @@ class Maker {
     if (dealt < 16 && customer.gasInit > 0) return collect(who, customer.gasInit, 4, "가스수금");
     if (dealt < 18 && customer.utilInit > 0) return collect(who, customer.utilInit, 8, "자재수금");
     if (dealt < 24) return material(who);
-    if (dealt < 30 && customer.lent > 0) return cylinder(who, 6);
+    if (dealt < 60 && customer.lent > 0) return cylinder(who, 6);
     if (dealt < 36) return cylinder(who, 5);
     if (dealt < 39) return cylinder(who, 2);
     gas(who, dealt < 42 ? 3 : 1);
@@ -411,8 +419,11 @@ void makeBooks(pc::Pc& pc, Prompts& prompts) {
   const int year = pc.clock.today().year();
   for (int each : {year - 1, year}) makeYearFile(session, number(each));
   session.wsMain = openWorkspace(session, session.DbPath);
-  session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + u"Basic.mdb");
+  session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
   upgrades::relink(session);
+  pc.settings.SaveSetting("해온판매", "Registration", "SeeIDUse", "1");
+  pc.settings.SaveSetting("해온판매", "환경설정", "OpenSeeIDPort1", "1");
+  pc.settings.SaveSetting("해온판매", "환경설정", "OpenSeeIDPort2", "0");
   Maker(pc, session.wsMain, session.DbPath).make();
 }
 

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QThread>
 #include <functional>
 #include <stdexcept>
@@ -99,13 +100,29 @@ void Stage::keys(const QStringList& names) {
   for (const QString& name : names) {
     if (!programRuns()) giveUp(QStringLiteral("the program is gone before key ") + name);
     run(QStringLiteral("xdotool"), {QStringLiteral("key"), QStringLiteral("--clearmodifiers"), name});
-    QThread::msleep(60);
+    awaitRest();
   }
+}
+
+void Stage::awaitRest() const {
+  const QString file = QStringLiteral("/proc/%1/stat").arg(program_->processId());
+  qint64 lastTicks = -1;
+  int calm = 0;
+  await(QStringLiteral("the program at rest"), [&] {
+    QFile stat(file);
+    if (!stat.open(QIODevice::ReadOnly)) return true;
+    const QList<QByteArray> fields = stat.readAll().split(')').last().trimmed().split(' ');
+    const qint64 ticks = fields.value(11).toLongLong() + fields.value(12).toLongLong();
+    calm = fields.value(0) == "S" && ticks == lastTicks ? calm + 1 : 0;
+    lastTicks = ticks;
+    return calm >= 4;
+  });
 }
 
 void Stage::type(const QString& digitsAndLetters) {
   run(QStringLiteral("xdotool"),
       {QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("30"), digitsAndLetters});
+  awaitRest();
 }
 
 QString Stage::windowInFront() const {
@@ -123,6 +140,8 @@ void Stage::awaitWindow(const QString& part) {
 void Stage::callerUnitSends(const QByteArray& bytes) {
   if (::write(unit_, bytes.constData(), size_t(bytes.size())) != bytes.size())
     giveUp(QStringLiteral("the line takes no bytes"));
+  QThread::msleep(300);  // 1200 baud are slow
+  awaitRest();
 }
 
 QStringList Stage::query(const QString& file, const QString& statement) const {

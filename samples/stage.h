@@ -27,7 +27,7 @@ class Stage {
   /** Waits until the program has ended by itself; its exit status. */
   int awaitEnd();
 
-  /** Keys by their names ("Return", "Down", "alt+l"), one after the other, to the window in front. */
+  /** Keys by their names ("Return", "Down", "alt+l") to the window in front; after each the program comes to rest. */
   void keys(const QStringList& names);
   void type(const QString& digitsAndLetters);
   /** Waits until the window in front has a title with this part. */
@@ -43,6 +43,8 @@ class Stage {
   void picture(const QString& name);
 
  private:
+  /** Waits until the program has used no time for a little while. */
+  void awaitRest() const;
   QString run(const QString& program, const QStringList& arguments) const;
 
   Options options_;
