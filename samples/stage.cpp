@@ -84,7 +84,8 @@ bool Stage::programRuns() const {
 }
 
 int Stage::awaitEnd() {
-  if (!program_->waitForFinished(patienceMilliseconds)) giveUp(QStringLiteral("the program does not end"));
+  if (programRuns() && !program_->waitForFinished(patienceMilliseconds))
+    giveUp(QStringLiteral("the program does not end"));
   return program_->exitStatus() == QProcess::NormalExit ? program_->exitCode() : -1;
 }
 
@@ -110,7 +111,7 @@ void Stage::awaitRest() const {
   int calm = 0;
   await(QStringLiteral("the program at rest"), [&] {
     QFile stat(file);
-    if (!stat.open(QIODevice::ReadOnly)) return true;
+    if (!programRuns() || !stat.open(QIODevice::ReadOnly)) return true;
     const QList<QByteArray> fields = stat.readAll().split(')').last().trimmed().split(' ');
     const qint64 ticks = fields.value(11).toLongLong() + fields.value(12).toLongLong();
     calm = fields.value(0) == "S" && ticks == lastTicks ? calm + 1 : 0;
