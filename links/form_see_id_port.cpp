@@ -19,7 +19,7 @@ SeeIdPort::SeeIdPort(const pc::Paths& paths) : paths_(paths) {
   QObject::connect(
       &port_, &QSerialPort::errorOccurred, &port_,
       [this](QSerialPort::SerialPortError error) {
-        if (error == QSerialPort::ResourceError) port_.close();
+        if (error == QSerialPort::ResourceError || error == QSerialPort::ReadError) port_.close();
       },
       Qt::QueuedConnection);
 }

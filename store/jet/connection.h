@@ -33,7 +33,9 @@ class Connection {
   void detach(const QByteArray& alias);
   /** The file under this alias was deleted or replaced on the disk since it was opened. */
   bool hasMoved(const QByteArray& alias) const;
-  bool isReadOnly(const QByteArray& alias) const { return sqlite3_db_readonly(handle_.get(), alias.constData()) == 1; }
+  bool isReadOnly(const QByteArray& alias) const {
+    return sqlite3_db_readonly(handle_.get(), alias.constData()) == 1;
+  }
 
   /** What the last call's failure means; `about` (a table's or a file's name) fills the text. */
   Error error(int code, const QString& about = {}) const;
