@@ -1,0 +1,114 @@
+// The main window by menu, keys and mouse.
+#include "app/frmMain.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+
+#include "app/frame_rules.h"
+#include "links/caller.h"
+#include "tests/idle_context.h"
+#include "tests/support.h"
+#include "tests/ui/grab.h"
+
+namespace {
+
+struct MainWindow : testing::Test, tests::TestPc {
+  tests::IdlePickers pickers;
+  std::unique_ptr<frmMain> window;
+  int relinked = 0;
+  MainWindow() {
+    openBooks();
+    window = std::make_unique<frmMain>(session, pickers);
+    window->relink = [this] { ++relinked; };
+    tests::show(*window);
+  }
+  QAction* entry(const char* name) const {
+    auto* action = window->findChild<QAction*>(QString::fromUtf8(name));
+    EXPECT_TRUE(action) << name;
+    return action;
+  }
+  qsizetype children() const {
+    QTest::qWait(0);  // a form that closed itself leaves one turn later
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return window->findChild<QMdiArea*>()->subWindowList().size();
+  }
+};
+
+TEST_F(MainWindow, EntriesWithoutTheirFormAreOffAndStockEntriesFollowTheCompany) {
+  EXPECT_TRUE(entry("MnuUser")->isEnabled());
+  EXPECT_TRUE(entry("MnuExit")->isEnabled());
+  EXPECT_FALSE(entry("MnuIncome")->isEnabled()) << "no form for purchases yet";
+  EXPECT_FALSE(entry("MnuBack")->isEnabled());
+  EXPECT_FALSE(entry("MnuInitStock")->isEnabled());
+  session.StockEnabled = true;
+  window->refresh();
+  EXPECT_TRUE(entry("MnuInitStock")->isEnabled());
+  EXPECT_FALSE(entry("MnuRemain")->isEnabled()) << "stock kept, but no form";
+  EXPECT_FALSE(window->run("MnuIncome"));
+  EXPECT_EQ(window->findChild<QLabel*>("PnlCompany")->text(), "라온웨어");
+  EXPECT_EQ(window->windowTitle(), mainWindowTitle());
+  EXPECT_TRUE(window->findChild<QWidget*>("TBar11")->isEnabled());
+  EXPECT_FALSE(window->findChild<QWidget*>("TBar2")->isEnabled());
+  tests::grab(*window, "frmMain");
+}
+
+TEST_F(MainWindow, AMenuIsReachedByAltAndItsEntryRelinksAndOpensOneChild) {
+  QTest::keyClick(window.get(), Qt::Key_A, Qt::AltModifier);
+  QWidget* menu = QApplication::activePopupWidget();
+  ASSERT_TRUE(menu);
+  EXPECT_EQ(menu->objectName(), "MnuContribution");
+  if (!static_cast<QMenu*>(menu)->activeAction()) QTest::keyClick(menu, Qt::Key_Down);
+  QTest::keyClick(menu, Qt::Key_Return);
+  ASSERT_EQ(children(), 1);
+  EXPECT_EQ(window->activeForm()->objectName(), "frmUser");
+  EXPECT_EQ(relinked, 1);
+  EXPECT_TRUE(window->run("MnuUser"));
+  EXPECT_EQ(relinked, 2);
+  EXPECT_EQ(children(), 1) << "an open form comes to the front";
+  tests::show(*window);  // the menu took the focus with it
+  tests::key(Qt::Key_F4, Qt::ControlModifier);
+  EXPECT_EQ(children(), 0);
+}
+
+TEST_F(MainWindow, AFormThatClosesItselfTakesItsFrameAlong) {
+  ASSERT_TRUE(window->openForm("frmUser"));
+  window->activeForm()->close();
+  EXPECT_EQ(children(), 0);
+  EXPECT_EQ(window->activeForm(), nullptr);
+  EXPECT_FALSE(window->openForm("frmBuy"));
+}
+
+TEST_F(MainWindow, ARepairThatFailsEndsInABox) {
+  session.dbBasic.Execute("Insert Into Client(Name, VolumeYesNo) Values('고객', True)");
+  EXPECT_TRUE(window->run("YearError"));
+  prompts.expect("오류");
+  EXPECT_TRUE(window->run("YearError"));
+}
+
+TEST_F(MainWindow, HiddenTestCallReachesTheWaitingListOnlyWhileCallsAreTaken) {
+  auto* ground = window->findChild<QMdiArea*>();
+  const auto hidden = Qt::ShiftModifier | Qt::ControlModifier;
+  QTest::mouseClick(ground->viewport(), Qt::RightButton, hidden);
+  pc.settings.SaveSetting("해온판매", "Registration", "SeeIDUse", "1");
+  prompts.expectInput("발신번호 테스트", "0531234567");
+  QTest::mouseClick(ground->viewport(), Qt::RightButton, hidden);
+  EXPECT_EQ(window->context().calls.TakeStanbyNumber(), "0531234567");
+}
+
+TEST_F(MainWindow, LeavingAsksAndCountsOnce) {
+  int left = 0;
+  window->closed = [&] { ++left; };
+  window->openForm("frmUser");
+  prompts.expect("프로그램을 종료하시겠습니까?", false);
+  QTest::mouseClick(window->findChild<QWidget*>("TBar11"), Qt::LeftButton);
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(children(), 1);
+  prompts.expect("프로그램 종료");
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(left, 1);
+}
+
+}  // namespace
