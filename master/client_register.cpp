@@ -43,11 +43,23 @@ QString pageStatement(HouseStyle page) {
   return "Select * From Client Where HouseStyle = 0 Order By Name";
 }
 
-std::vector<QString> cellsOf(const ClientEntry& c) {
-  const QString code = QString::number(c.code);
-  if (c.houseStyle == HouseStyle::Plain)
-    return {c.name, c.tel, c.gasInit, c.utilInit, c.memo, c.appDate, code};
-  return {c.bdName, c.dong, c.ho, c.gasInit, c.utilInit, c.tel, code};
+/** The fields behind a list's columns, in their order. */
+QStringList listFields(HouseStyle page) {
+  if (page == HouseStyle::Plain) return {"Name", "Tel", "GasInit", "UtilInit", "Memo", "AppDate", "Code"};
+  return {"BDName", "Dong", "Ho", "GasInit", "UtilInit", "Tel", "Code"};
+}
+
+/** All rows of the recordset as cells of a page's list; a name is looked up once, not for every customer. */
+std::vector<std::vector<QString>> listRows(jet::Recordset& clients, HouseStyle page) {
+  std::vector<int> places;
+  for (const QString& field : listFields(page)) places.push_back(clients.fieldIndex(field));
+  std::vector<std::vector<QString>> rows;
+  for (; !clients.atEnd(); clients.MoveNext()) {
+    std::vector<QString>& cells = rows.emplace_back();
+    cells.reserve(places.size());
+    for (const int place : places) cells.push_back(clients[place].toText());
+  }
+  return rows;
 }
 
 bool blockIsMetered(const Session& session, const ClientEntry& c) {
@@ -91,9 +103,7 @@ bool ClientRegister::loadPage(HouseStyle page) {
   chosen_.houseStyle = page;
   jet::Recordset clients;
   if (!OpenSnapshot(session_.prompts, session_.dbBasic, clients, pageStatement(page))) return false;
-  std::vector<std::vector<QString>> rows;
-  for (; !clients.atEnd(); clients.MoveNext()) rows.push_back(cellsOf(readClient(clients)));
-  list(page).setRows(std::move(rows));
+  list(page).setRows(listRows(clients, page));
   return true;
 }
 
@@ -105,8 +115,7 @@ QString ClientRegister::bottomLine() const {
 
 ClientEntry ClientRegister::beginNew() {
   new_ = true;
-  ClientEntry blank;
-  blank.houseStyle = page();
+  ClientEntry blank = emptyEntry();
   blank.appDate = session_.pc.clock.dateText();
   return blank;
 }
@@ -122,15 +131,25 @@ ClientEntry ClientRegister::selectRow(int row) {
 
 ClientEntry ClientRegister::select(qint64 code) {
   new_ = false;
-  ClientEntry none;
-  none.houseStyle = page();
   jet::Recordset client;
-  const bool found = code != 0 &&
-                     OpenSnapshot(session_.prompts, session_.dbBasic, client,
-                                  "Select * From Client Where Code = " + QString::number(code)) &&
-                     !client.atEnd();
-  chosen_ = found ? readClient(client) : none;
+  if (code != 0 && readRow(code, client)) {
+    chosen_ = readClient(client);
+  } else {
+    chosen_ = emptyEntry();
+  }
   return chosen_;
+}
+
+bool ClientRegister::readRow(qint64 code, jet::Recordset& client) const {
+  return OpenSnapshot(session_.prompts, session_.dbBasic, client,
+                      "Select * From Client Where Code = " + QString::number(code)) &&
+         !client.atEnd();
+}
+
+ClientEntry ClientRegister::emptyEntry() const {
+  ClientEntry empty;
+  empty.houseStyle = page();
+  return empty;
 }
 
 int ClientRegister::rowOf(qint64 code) const {
@@ -161,7 +180,7 @@ ClientSaved ClientRegister::insert(const ClientEntry& client) {
   SpreadModel& rows = list(page());
   select(code);
   rows.setMaxRows(rows.MaxRows() + 1);
-  showRow(rows.MaxRows(), chosen_);
+  showChosen(rows.MaxRows());
   return {.done = true, .focus = ClientBox::New, .code = code};
 }
 
@@ -185,13 +204,16 @@ ClientSaved ClientRegister::change(const ClientEntry& client) {
     if (spreads) session_.dbBasic.Execute(unitSpreadStatement(client, old.volumeUnit));
   });
   select(client.code);
-  if (const int shown = rowOf(client.code)) showRow(shown, chosen_);
+  if (const int shown = rowOf(client.code)) showChosen(shown);
   return {.done = true, .focus = ClientBox::List};
 }
 
-void ClientRegister::showRow(int row, const ClientEntry& client) {
-  const std::vector<QString> cells = cellsOf(client);
-  for (size_t i = 0; i < cells.size(); ++i) list(page()).setText(row, int(i) + 1, cells[i]);
+/** Puts the chosen customer, as it stands in the file now, into a row of the list. */
+void ClientRegister::showChosen(int row) {
+  jet::Recordset client;
+  if (!readRow(chosen_.code, client)) return;
+  const std::vector<std::vector<QString>> rows = listRows(client, page());
+  for (size_t i = 0; i < rows.front().size(); ++i) list(page()).setText(row, int(i) + 1, rows.front()[i]);
 }
 
 bool ClientRegister::removeChosen() {
@@ -209,8 +231,7 @@ bool ClientRegister::removeChosen() {
   });
   const int row = rowOf(gone.code);
   if (row > 0) list(page()).deleteRow(row);
-  chosen_ = {};
-  chosen_.houseStyle = gone.houseStyle;
+  chosen_ = emptyEntry();
   removeSales(session_, gone.code);
   return true;
 }

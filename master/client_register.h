@@ -46,7 +46,9 @@ class ClientRegister {
  private:
   ClientSaved insert(const ClientEntry& boxes);
   ClientSaved change(const ClientEntry& boxes);
-  void showRow(int row, const ClientEntry& client);
+  bool readRow(qint64 code, jet::Recordset& client) const;
+  ClientEntry emptyEntry() const;
+  void showChosen(int row);
 
   Session& session_;
   std::array<SpreadModel, PageCount> lists_;

@@ -80,6 +80,28 @@ std::vector<SpreadColumn> searchColumns() {
           {.header = "코드", .hidden = true}};
 }
 
+/** The found customers as rows of the list; a name is looked up once, not for every customer. */
+std::vector<std::vector<QString>> foundRows(jet::Recordset& found) {
+  const int name = found.fieldIndex("Name"), style = found.fieldIndex("HouseStyle"),
+            building = found.fieldIndex("BDName"), dong = found.fieldIndex("Dong"),
+            ho = found.fieldIndex("Ho"), tel = found.fieldIndex("Tel"), address = found.fieldIndex("Address"),
+            metered = found.fieldIndex("VolumeYesNo"), gas = found.fieldIndex("GasInit"),
+            memo = found.fieldIndex("Memo"), code = found.fieldIndex("Code");
+  std::vector<std::vector<QString>> rows;
+  ClientEntry who;
+  for (; !found.atEnd(); found.MoveNext()) {
+    who.houseStyle = HouseStyle(found[style].toLong());
+    who.name = found[name].toText();
+    who.bdName = found[building].toText();
+    who.dong = found[dong].toText();
+    who.ho = found[ho].toText();
+    rows.push_back({DisplayName(who), found[tel].toText(), found[address].toText(),
+                    found[metered].toBool() ? "체적" : "일반", found[gas].toText(), found[memo].toText(),
+                    found[code].toText()});
+  }
+  return rows;
+}
+
 }  // namespace
 
 ClientSearch::ClientSearch(Session& session) : session_(session) {
@@ -99,12 +121,7 @@ ClientSearch::Found ClientSearch::find(const QString& text, ClientSearchMode mod
   if (!OpenSnapshot(session_.prompts, session_.dbBasic, found, statement(text, mode, wholeNumber))) {
     return Found::Failed;
   }
-  std::vector<std::vector<QString>> rows;
-  for (; !found.atEnd(); found.MoveNext()) {
-    rows.push_back({DisplayName(found), found["Tel"].toText(), found["Address"].toText(),
-                    found["VolumeYesNo"].toBool() ? "체적" : "일반", found["GasInit"].toText(),
-                    found["Memo"].toText(), found["Code"].toText()});
-  }
+  std::vector<std::vector<QString>> rows = foundRows(found);
   const size_t count = rows.size();
   list_.setRows(std::move(rows));
   return count == 0 ? Found::None : count == 1 ? Found::One : Found::Several;

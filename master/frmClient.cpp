@@ -48,6 +48,11 @@ frmClient::frmClient(FormContext& context, QWidget* parent)
   new_->setFocus();
 }
 
+// The pages go after the rules that they show.
+frmClient::~frmClient() {
+  tabs_->disconnect(this);
+}
+
 // --- building -----------------------------------------------------------------------------------------------
 
 void frmClient::buildButtons() {

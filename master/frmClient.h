@@ -15,6 +15,7 @@ class QTimer;
 class frmClient : public Form {
  public:
   explicit frmClient(FormContext& context, QWidget* parent = nullptr);
+  ~frmClient() override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

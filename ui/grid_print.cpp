@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int portraitWidth = 105;  ///< half-width characters that still read well across an upright sheet
+constexpr int portraitWidth = 115;  ///< half-width characters that still read well across an upright sheet
 constexpr double marginMillimetres = 12;
 constexpr double textPoints = 9, titlePoints = 15;
 
