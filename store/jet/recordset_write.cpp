@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "store/jet/error_texts.h"
+#include "store/jet/put_call.h"
 #include "store/jet/recordset_data.h"
 #include "store/jet/workspace_data.h"
 
@@ -14,24 +15,6 @@ const Field& tableField(const TableInfo& table, const QString& name) {
   for (const Field& field : table.fields)
     if (field.name == name) return field;
   fail(3265, name);
-}
-
-/** The parameter as the column takes it, by the functions that statements use too. */
-QByteArray putParameter(const Field& field, int parameter) {
-  const QByteArray mark = '?' + QByteArray::number(parameter);
-  switch (field.type) {
-    case Type::Boolean:
-      return "jet_put_bool(" + mark + ')';
-    case Type::Long:
-      return "jet_put_long(" + mark + ')';
-    case Type::Double:
-      return "jet_put_double(" + mark + ')';
-    case Type::Text:
-    case Type::Memo:
-      break;
-  }
-  const int size = field.type == Type::Memo ? 0 : field.size > 0 ? field.size : 255;
-  return "jet_put_text(" + mark + ", " + QByteArray::number(size) + (field.allowZeroLength ? ", 1)" : ", 0)");
 }
 
 QByteArray tableName(const DataFile& file, const TableInfo& table) {
@@ -93,7 +76,9 @@ qint64 RecordsetData::writeRow(Connection& connection, int source, const std::ma
   int parameter = 0;
   for (const auto& [field, value] : fields) {
     const Field& column = tableField(table, columns_[size_t(field)].column);
-    const QByteArray name = quotedName(column.name), put = putParameter(column, ++parameter);
+    const PutCall call = putCall(column);
+    const QByteArray name = quotedName(column.name);
+    const QByteArray put = call.before + '?' + QByteArray::number(++parameter) + call.behind;
     const QByteArray comma = parameter > 1 ? ", " : "";
     names += comma + name;
     values += comma + put;

@@ -115,6 +115,7 @@ void WorkspaceData::ensureAttached(const FilePtr& file) {
     throw;
   }
   file->attached = true;
+  if (groupDepth_ > 0) untidy_ = true;
   files_.push_back(file);
   if (isMainFile(file)) reconnect();  // it was made only now
 }
@@ -206,8 +207,11 @@ QStringList WorkspaceData::linkedPaths() const {
   return paths;
 }
 
+/** Lets go what no handle and no link of an open file needs. Within a group that waits for its end. */
 void WorkspaceData::tidy() {
+  untidy_ = true;
   if (!connection_ || groupDepth_ > 0) return;
+  untidy_ = false;
   if (std::none_of(files_.begin(), files_.end(), [](const FilePtr& file) { return file->handles > 0; }))
     return disconnect();
   if (files_.front()->handles == 0 && !isMainFile(files_.front())) reconnect();
@@ -302,20 +306,15 @@ void WorkspaceData::together(const std::function<void()>& work) {
     if (--groupDepth_ == 0) {
       try {
         commitGroup();
+        if (untidy_) tidy();
       } catch (const Error&) {
       }
-      tidy();
     }
     throw;
   }
   if (--groupDepth_ > 0) return;
-  try {
-    commitGroup();
-  } catch (const Error&) {
-    tidy();
-    throw;
-  }
-  tidy();
+  commitGroup();
+  if (untidy_) tidy();
 }
 
 /** Within a group every file that a statement touches, reading too, is reserved for writing first. Two PCs that had

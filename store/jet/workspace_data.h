@@ -75,6 +75,7 @@ class WorkspaceData {
   int aliases_ = 0;
   quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
   int groupDepth_ = 0;
+  bool untidy_ = false;  ///< a file may have become needless within the group
 };
 
 /** An open handle's part of a file; the last copy lets the file go. */

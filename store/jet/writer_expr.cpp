@@ -1,3 +1,4 @@
+#include "store/jet/put_call.h"
 #include "store/jet/writer.h"
 
 namespace jet {
@@ -331,24 +332,10 @@ void Writer::writePut(const Field& field, const Expr& value) {
   if (value.kind == Expr::Kind::Null && field.type != Type::Boolean) return writeValue(value);
   if (value.kind == Expr::Kind::Constant && field.type == Type::Boolean) return writeValue(value);
   if (field.type == Type::Double && number) return writeValue(value);
-  switch (field.type) {
-    case Type::Boolean:
-      *this << "jet_put_bool(";
-      break;
-    case Type::Long:
-      *this << "jet_put_long(";
-      break;
-    case Type::Double:
-      *this << "jet_put_double(";
-      break;
-    default:
-      *this << "jet_put_text(";
-  }
+  const PutCall call = putCall(field);
+  *this << call.before.constData();
   writeValue(value);
-  if (field.type == Type::Text) *this << ", " << (field.size > 0 ? field.size : 255);
-  if (field.type == Type::Memo) *this << ", 0";
-  if (field.type == Type::Text || field.type == Type::Memo) *this << ", " << (field.allowZeroLength ? 1 : 0);
-  *this << ")";
+  *this << call.behind.constData();
 }
 
 }  // namespace jet
