@@ -4,7 +4,7 @@ set -euo pipefail
 packages=(g++ cmake ninja-build ccache pkg-config libsqlite3-dev libxlsxwriter-dev qt6-base-dev qt6-serialport-dev
           libgl-dev libgtest-dev libgmock-dev fonts-nanum fonts-baekmuk fonts-ocr-b xvfb xauth xdotool openbox x11-utils
           poppler-utils imagemagick socat)
-[ "${1:-}" = check ] && packages+=(clang-format clang-tidy)
+[ "${1:-}" = check ] && packages+=(unzip clang-format clang-tidy)
 missing=()
 for package in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")

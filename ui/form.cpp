@@ -169,7 +169,9 @@ QPushButton* Form::addButton(const char* name, const QString& caption, std::func
 }
 
 QGroupBox* Form::addGroup(const QString& title) {
-  return new QGroupBox(title, this);
+  auto* const group = new QGroupBox(title, this);
+  group->setProperty("plain", title.isEmpty());
+  return group;
 }
 
 QWidget* Form::buttonRow(const QList<QPushButton*>& buttons) {

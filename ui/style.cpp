@@ -56,6 +56,7 @@ QPushButton:pressed { background: #DCE8F6; }
 QPushButton:default, QPushButton:focus { border-color: #2B5F9E; }
 QPushButton:disabled { background: #EEF0F3; color: #9AA3AE; border-color: #D5DAE0; }
 QGroupBox { border: 1px solid #C9D0D8; border-radius: 3px; margin-top: 0.75em; padding: 0.45em 4px 2px 4px; }
+QGroupBox[plain="true"] { margin-top: 0; padding: 0 4px; }
 QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; color: #2B5F9E; }
 QTabWidget::pane { border: 1px solid #C9D0D8; top: -1px; }
 QTabBar::tab { border: 1px solid #C9D0D8; border-bottom: none; background: #E8ECF1; padding: 4px 16px;

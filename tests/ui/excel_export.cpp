@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 
 #include "tests/support.h"
 #include "ui/spread_model.h"
@@ -49,6 +50,23 @@ TEST_F(ExcelExport, FileIsWrittenNamedByItsTimeAndOpened) {
   EXPECT_TRUE(opened[0].endsWith(u"Exp260615_090507.xlsx"_s));
   EXPECT_TRUE(at.pc.paths.exists(u"C:\\RWGas\\ExpExcel\\Exp260615_090507LOG.TXT"_s));
   EXPECT_EQ(grid.MaxRows(), 3) << "the grid itself is as before";
+}
+
+TEST_F(ExcelExport, AmountsAreNumbersAndTheRestStaysText) {
+  const QString written = ExportToExcelFile(at.session, grid, u"표"_s, true);
+  const auto part = [&](const QString& name) {
+    QProcess unzip;
+    unzip.start(u"unzip"_s, {u"-p"_s, at.pc.paths.native(written), name});
+    EXPECT_TRUE(unzip.waitForFinished());
+    return QString::fromUtf8(unzip.readAllStandardOutput());
+  };
+  const QString sheet = part(u"xl/worksheets/sheet1.xml"_s), texts = part(u"xl/sharedStrings.xml"_s);
+  EXPECT_TRUE(sheet.contains(u"<c r=\"B2\" s=\"2\"><v>1234500</v></c>"_s)) << sheet.toStdString();
+  EXPECT_TRUE(sheet.contains(u"<c r=\"A2\" t=\"s\">"_s));
+  EXPECT_FALSE(sheet.contains(u"<f>"_s)) << "a text that looks like a formula is none";
+  for (const QString& text : {u"전화번호"_s, u"가스 금액"_s, u"0531234567"_s, u"=1+1"_s, u"없음"_s})
+    EXPECT_TRUE(texts.contains(u"<t>"_s + text + u"</t>"_s)) << text.toStdString();
+  EXPECT_FALSE(texts.contains(u"코드"_s)) << "hidden columns stay at home";
 }
 
 TEST_F(ExcelExport, FolderThatCannotBeWrittenIsTold) {
