@@ -1,0 +1,159 @@
+// Pictures of every form on the sample retailer's books, for the documents and for looking at.
+//   take_pictures PC FOLDER        (QT_SCALE_FACTOR=1.5 shows them as on a 144 dpi screen)
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+#include "app/FrmInitMsg.h"
+#include "app/form_pickers.h"
+#include "app/frmMain.h"
+#include "app/frmSecurity.h"
+#include "app/frmSplash.h"
+#include "app/start_up.h"
+#include "links/FrmSeeIDOptions.h"
+#include "links/FrmSeeIDStanbyList.h"
+#include "links/caller.h"
+#include "links/form_see_id_port.h"
+#include "master/frmNewClient.h"
+#include "samples/sample_books.h"
+#include "ui/message_boxes.h"
+#include "ui/style.h"
+
+namespace {
+
+class Photographer {
+ public:
+  explicit Photographer(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
+
+  void take(QWidget& of, const QString& name) {
+    of.show();
+    QTest::qWait(150);
+    const QString file = folder_ + u'/' + name + ".png";
+    if (!of.grab().save(file)) QTextStream(stderr) << "cannot write " << file << '\n';
+  }
+
+  /** A modal form: taken when it stands, then left. */
+  void takeModal(const QString& name, const std::function<void()>& open) {
+    QTimer::singleShot(300, [this, name] {
+      QWidget* box = QApplication::activeModalWidget();
+      if (!box) return;
+      take(*box, name);
+      if (auto* dialog = qobject_cast<QDialog*>(box))
+        dialog->reject();
+      else
+        box->close();
+    });
+    open();
+  }
+
+ private:
+  QString folder_;
+};
+
+void mainWindowForms(frmMain& window, Photographer& photographer) {
+  window.resize(1280, 860);
+  photographer.take(window, "frmMain");
+  for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
+                           "frmSale", "frmTodaySale"}) {
+    window.openForm(QString::fromLatin1(name));
+    QTest::qWait(100);
+    if (QWidget* form = window.activeForm()) photographer.take(*form, QString::fromLatin1(name));
+  }
+  photographer.take(window, "frmMain-at-work");
+}
+
+void pickers(FormPickers& pickers, Session& session, Photographer& photographer) {
+  photographer.takeModal("frmSearchClient",
+                         [&] { pickers.searchClient("식당", ClientSearchMode::General, false); });
+  photographer.takeModal("frmNewClient", [&] { frmNewClient(session, pickers, "053-700-0000").enter(); });
+  photographer.takeModal("frmSearchSize", [&] { pickers.searchSize("1", TradeSide::Sale); });
+  photographer.takeModal("frmSearchVolume", [&] { pickers.searchVolume(); });
+  photographer.takeModal("frmSearchResponse", [&] { pickers.searchResponse(); });
+  photographer.takeModal("frmSearchRefill", [&] { pickers.searchRefill(); });
+  photographer.takeModal("frmSearchBank", [&] { pickers.searchBank(); });
+  photographer.takeModal("frmPostCode", [&] { pickers.searchPostCode("장터"); });
+  photographer.takeModal("frmBDName", [&] { pickers.searchBuilding(1); });
+  photographer.takeModal("frmCalendar", [&] { pickers.pickDate("2026-03-14"); });
+  photographer.takeModal("frmSecurity", [&] { pickers.checkPassword(); });
+}
+
+void small(frmMain& window, Session& session, Photographer& photographer) {
+  for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout"}) {
+    // A dialog runs inside openForm; a child is taken from the main window. The profile asks for the password first.
+    QTimer::singleShot(300, [&, name] {
+      while (QWidget* box = QApplication::activeModalWidget()) {
+        if (box->objectName() == "frmSecurity") {
+          QTest::keyClicks(box->focusWidget() ? box->focusWidget() : box,
+                           QString::fromLatin1(samples::password));
+          QTest::keyClick(box->focusWidget() ? box->focusWidget() : box, Qt::Key_Return);
+          QTest::qWait(200);
+          if (QApplication::activeModalWidget() == box) static_cast<QDialog*>(box)->reject();
+          continue;
+        }
+        photographer.take(*box, QString::fromLatin1(name));
+        box->close();
+        QTest::qWait(50);
+      }
+    });
+    window.openForm(QString::fromLatin1(name));
+    QTest::qWait(700);
+    QWidget* form = window.activeForm();
+    if (form && form->objectName() == QLatin1String(name))
+      photographer.take(*form, QString::fromLatin1(name));
+  }
+  FrmSeeIDOptions options(window.caller());
+  photographer.take(options, "FrmSeeIDOptions");
+  WaitingList waiting(session.pc.clock);
+  for (const char* number : {"0531234567", "0538118844", "01000002051"})
+    waiting.AddStanbyNumber(QString::fromLatin1(number));
+  FrmSeeIDStanbyList list(session, waiting);
+  photographer.take(list, "FrmSeeIDStanbyList");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  if (application.arguments().size() != 3) {
+    QTextStream(stderr) << "usage: take_pictures PC FOLDER\n";
+    return 2;
+  }
+  look::apply(application);
+  pc::Pc pc(application.arguments().at(1));
+  Session* open = nullptr;
+  MessageBoxes boxes([&open] { return open ? open->AppTitle : QString(); });
+  Session session(pc, boxes);
+  open = &session;
+  StartUp startUp(session);
+  FormPickers searches(session);
+  Photographer photographer(application.arguments().at(2));
+
+  frmSplash splash(startUp, session);
+  if (!startUp.SubMain([&] {
+        splash.load();
+        photographer.take(splash, "frmSplash");
+      }))
+    return 1;
+  startUp.enterPassword(QString::fromLatin1(samples::password));
+  splash.hide();
+  FrmInitMsg notice(session);
+  photographer.take(notice, "FrmInitMsg");
+  notice.hide();
+  {
+    frmMain window(session, searches);
+    searches.setContext(window.context());
+    mainWindowForms(window, photographer);
+    pickers(searches, session, photographer);
+    small(window, session, photographer);
+    window.setSilentClose();
+    window.close();
+  }
+  startUp.shutDown();
+  return 0;
+}
