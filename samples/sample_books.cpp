@@ -94,7 +94,7 @@ class Maker {
         "'문달수', '515-00-00000', '712-010', '053-000-1001', '경북 달빛시 장터동 7', '053-000-1000', "
         "'소매', "
         "'LPG/용기', 1, 2, 1000, 2, 800, 2, 900, '" +
-        text(password) + "', 712, 712, True)");
+        text(password) + "', 712, 713, True)");
     for (const char* name : staff)
       basic_.Execute(
           "Insert Into Response(Name, Tel, AppDate, IdentyNo, HP, PostCode, Address, Memo)  Values(" +
@@ -138,6 +138,7 @@ class Maker {
           quoted(gas.name) + ", '" + number(gas.size) + "', " + number(gas.purchase) + ", " +
           number(gas.selling) + ", " + number(gas.canPurchase) + ", " + number(gas.canSelling) +
           ", 0, 0, 0, 0, 0)");
+    basic_.Execute("Update Volume Set Unit = 2450");
     for (const Material& material : materials)
       basic_.Execute("Insert into Util(Name,  Size, SizeSize, UtilPurchase, UtilSelling, UtilStock) Values(" +
                      quoted(material.name) + ", " + quoted(material.size) + ", " + quoted(material.unit) +
@@ -166,7 +167,7 @@ class Maker {
           quoted(building.name) + ", " + quoted(village.zipCode) + ", " + quoted(address) + ", " +
           quoted(building.dong) + ", True, " + number(building.floors) + ", " + number(building.width) +
           ", " + yesNo(building.metered) + ", " + yesNo(building.houseStyle == 1) + ", " +
-          quoted(building.metered ? "1" : "") + ", " + number(building.metered ? 2450 : 0) + ", 2)");
+          quoted(building.metered ? "4" : "") + ", " + number(building.metered ? 2450 : 0) + ", 2)");
       for (int floor = 1; floor <= building.floors; ++floor)
         for (int unit = 1; unit <= building.width; ++unit) {
           Customer household;
@@ -227,7 +228,7 @@ class Maker {
           "Values('" +
           c.name + "', '" + c.tel + "', '" + c.tel1 + "', '', '" + c.zipCode + "', '" + c.address +
           "', '', '" + c.memo + "', " + number(c.houseStyle) + ", 0, 0, '" + joined + "', " +
-          number(c.payWay) + ", " + yesNo(c.volumetric) + ", '" + (c.volumetric ? "1" : "") + "', " +
+          number(c.payWay) + ", " + yesNo(c.volumetric) + ", '" + (c.volumetric ? "4" : "") + "', " +
           (c.volumetric ? "2450" : "0") + ", '" + c.building + "', '" + c.dong + "', '" + c.ho +
           "', '', '', '', '" + c.uname + "')");
       ++code;

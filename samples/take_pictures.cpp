@@ -59,10 +59,10 @@ void mainWindowForms(frmMain& window, Photographer& photographer) {
   window.resize(1280, 860);
   photographer.take(window, "frmMain");
   for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
-                           "frmSale", "frmTodaySale"}) {
+                           "frmSale", "frmTodaySale:2026-03-14"}) {
     window.openForm(QString::fromLatin1(name));
     QTest::qWait(100);
-    if (QWidget* form = window.activeForm()) photographer.take(*form, QString::fromLatin1(name));
+    if (QWidget* form = window.activeForm()) photographer.take(*form, form->objectName());
   }
   photographer.take(window, "frmMain-at-work");
 }

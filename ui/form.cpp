@@ -174,6 +174,14 @@ QGroupBox* Form::addGroup(const QString& title) {
   return group;
 }
 
+QSize Form::sizeHint() const {
+  constexpr int besideGrid = 40, lines = 30;  // pixels; lines of text
+  QSize hint = QWidget::sizeHint();
+  for (const Spread* const grid : findChildren<Spread*>())
+    hint = hint.expandedTo({grid->fullWidth() + besideGrid, lines * fontMetrics().lineSpacing()});
+  return hint;
+}
+
 QWidget* Form::buttonRow(const QList<QPushButton*>& buttons) {
   auto* const row = new QWidget(this);
   auto* const line = new QHBoxLayout(row);

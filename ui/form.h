@@ -58,6 +58,8 @@ class Form : public QWidget {
   Spread* addSpread(const char* name, SpreadModel& model, QWidget* parent = nullptr);
   QPushButton* addButton(const char* name, const QString& caption, std::function<void()> work);
   QGroupBox* addGroup(const QString& title);  ///< not yet in a layout
+  /** What the parts ask for, but wide enough for every column of the grids and high enough for a page of lines. */
+  QSize sizeHint() const override;
   /** Buttons in a row at the right; a null one is a gap. */
   QWidget* buttonRow(const QList<QPushButton*>& buttons);
 
