@@ -274,13 +274,11 @@ bool frmMain::openForm(const QString& name) {
     return true;
   }
   if (entry->showPage && !page.isEmpty()) entry->showPage(form, page);
-  // The size a form is designed for holds inside the main window too, as far as there is room.
-  const bool designed = form->testAttribute(Qt::WA_Resized);
-  const QSize design = form->size();
+  // A form stands at the size it is designed for, as far as there is room.
+  const QSize design = form->testAttribute(Qt::WA_Resized) ? form->size() : form->sizeHint();
   auto* window = new ChildWindow(form);
   ground_->addSubWindow(window);
-  if (designed)
-    window->resize((design + window->sizeHint() - form->sizeHint()).boundedTo(ground_->viewport()->size()));
+  window->resize((design + window->sizeHint() - form->sizeHint()).boundedTo(ground_->viewport()->size()));
   form->show();
   window->show();
   return true;

@@ -115,8 +115,8 @@ class Maker {
   void postcodes() {
     for (const Village& village : villages)
       for (int lot = 0; lot < 12; ++lot) {
-        const QString zip =
-            text(village.zipCode).left(4) + number(text(village.zipCode).mid(4).toInt() + lot);
+        const QString zip = text(village.zipCode).left(4) +
+                            number(text(village.zipCode).mid(4).toInt() + lot).rightJustified(3, u'0');
         post_.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG, BUNJI) Values('" + zip + "', " +
                       quoted(province) + ", " + quoted(city) + ", " + quoted(village.dong) + ", '" +
                       number(lot * 100 + 1) + "~" + number(lot * 100 + 100) + "')");

@@ -62,7 +62,8 @@ void mainWindowForms(frmMain& window, Photographer& photographer) {
                            "frmSale", "frmTodaySale:2026-03-14"}) {
     window.openForm(QString::fromLatin1(name));
     QTest::qWait(100);
-    if (QWidget* form = window.activeForm()) photographer.take(*form, form->objectName());
+    const QString base = QString::fromLatin1(name).section(u':', 0, 0);
+    if (auto* form = window.findChild<QWidget*>(base)) photographer.take(*form, base);
   }
   photographer.take(window, "frmMain-at-work");
 }
