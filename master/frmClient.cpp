@@ -28,9 +28,9 @@ frmClient::frmClient(FormContext& context, QWidget* parent)
   tabs_->setDocumentMode(true);
   body()->addWidget(tabs_, 1);
   buildButtons();
-  buildPage(HouseStyle::Plain, "일반/식당");
-  buildPage(HouseStyle::Apartment, "아파트");
-  buildPage(HouseStyle::MultiFamily, "다가구");
+  buildPage(HouseStyle::Plain, "일반/식당", "SpClient");
+  buildPage(HouseStyle::Apartment, "아파트", "SpAptClient");
+  buildPage(HouseStyle::MultiFamily, "다가구", "SpManyClient");
 
   QList<QWidget*> order;
   for (const Page& page : pages_) order << page.boxes->order();
@@ -71,13 +71,13 @@ void frmClient::buildButtons() {
   buttons_ = buttonRow({apartment_, image_, nullptr, new_, save_, cancel_, delete_, nullptr, exit_});
 }
 
-void frmClient::buildPage(HouseStyle style, const QString& caption) {
+void frmClient::buildPage(HouseStyle style, const QString& caption, const char* gridName) {
   Page& page = pages_.at(size_t(style));
   page.sheet = new QWidget;
   auto* const rows = new QVBoxLayout(page.sheet);
   rows->setContentsMargins(0, 5, 0, 0);
   rows->setSpacing(5);
-  page.grid = addSpread("SpClient", clients_.list(style), page.sheet);
+  page.grid = addSpread(gridName, clients_.list(style), page.sheet);
   page.grid->setFillColumn(style == HouseStyle::Plain ? 5 : 1);
   rows->addWidget(page.grid, 1);
   auto* const panel = new QGroupBox(page.sheet);

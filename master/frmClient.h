@@ -27,7 +27,8 @@ class frmClient : public Form {
     std::unique_ptr<ClientBoxes> boxes;
   };
 
-  void buildPage(HouseStyle style, const QString& caption);
+  /** Each page's grid has a name of its own, under which its column widths are kept. */
+  void buildPage(HouseStyle style, const QString& caption, const char* gridName);
   void buildButtons();
   Page& page() { return pages_.at(size_t(clients_.page())); }
   void openPage(int index);

@@ -185,7 +185,7 @@ TEST_F(ClientForms, listRowsFillTheBoxesAndDeleteTakesThemOut) {
   addPlain("나래", "053-222-2222", "중앙로 2", 3000);
   frmClient form(context);
   tests::show(form);
-  auto* const grid = sheet(form)->findChild<Spread*>("SpClient");
+  auto* const grid = sheet(form)->findChild<Spread*>();
   grid->setFocus();
   tests::key(Qt::Key_Down);
   EXPECT_EQ(box(sheet(form), "TxtName")->text(), "나래");
@@ -226,7 +226,7 @@ TEST_F(ClientForms, theSearchBehindTheSearchNameBringsTheCustomersPage) {
   tests::key(Qt::Key_F12);
   EXPECT_EQ(form.findChild<QTabWidget*>("TabClient")->currentIndex(), 1);
   EXPECT_EQ(box(sheet(form), "TxtHo")->text(), "101");
-  EXPECT_EQ(sheet(form)->findChild<Spread*>("SpClient")->activeRow(), 1);
+  EXPECT_EQ(sheet(form)->findChild<Spread*>()->activeRow(), 1);
   EXPECT_TRUE(sheet(form)->isAncestorOf(box<QPushButton>(&form, "BtnSave"))) << "the buttons come along";
 }
 
@@ -241,7 +241,7 @@ TEST_F(ClientForms, theMapButtonWaitsForTheEditor) {
   auto* const image = box<QPushButton>(&form, "BtnImage");
   pc.prompts.expect("약도를 출력할 고객을 먼저 선택하십시오");
   image->click();
-  sheet(form)->findChild<Spread*>("SpClient")->setFocus();
+  sheet(form)->findChild<Spread*>()->setFocus();
   image->click();
   EXPECT_FALSE(image->isEnabled());
   pc.pc.settings.SaveSetting("약도", "환경설정", "MapEdit", "1");
@@ -335,7 +335,7 @@ TEST_F(ClientSearchForm, pictures) {
   auto* const tabs = form.findChild<QTabWidget*>("TabClient");
   for (int page = 0; page < 3; ++page) {
     tabs->setCurrentIndex(page);
-    sheet(form)->findChild<Spread*>("SpClient")->setFocus();
+    sheet(form)->findChild<Spread*>()->setFocus();
     tests::key(Qt::Key_Down);
     tests::grab(form, "frmClient" + QString::number(page));
   }
