@@ -1,5 +1,9 @@
 #include "store/jet/parser.h"
 
+#include <algorithm>
+#include <climits>
+#include <utility>
+
 #include "store/jet/error_texts.h"
 
 namespace jet {
@@ -208,8 +212,9 @@ From Parser::joinedTo(From left) {
   join.kind = outerLeft || outerRight ? From::Kind::Left : From::Kind::Inner;
   join.on.push_back(expression());
   // Written as a left join, since only those turn into plain joins when the condition drops the unmatched rows.
-  join.sides.push_back(outerRight ? std::move(right) : std::move(left));
-  join.sides.push_back(outerRight ? std::move(left) : std::move(right));
+  if (outerRight) std::swap(left, right);
+  join.sides.push_back(std::move(left));
+  join.sides.push_back(std::move(right));
   return join;
 }
 
@@ -253,8 +258,14 @@ void Parser::orderBy(Select& select) {
     OrderItem& item = select.orderBy.emplace_back();
     const Token start = now();
     item.expr = expression();
-    if (item.expr.kind == Expr::Kind::Literal && start.kind == Token::Kind::Whole && start.parameter == 0)
-      item.position = start.text.toInt();
+    // A bare number is a place in the list, not a value.
+    const bool negative =
+        item.expr.kind == Expr::Kind::Negate && item.expr.operands[0].kind == Expr::Kind::Literal;
+    if (item.expr.kind == Expr::Kind::Literal && item.expr.value.isWhole())
+      item.position = int(std::min<qint64>(item.expr.value.toLong(), INT_MAX));
+    if (negative ||
+        (item.expr.kind == Expr::Kind::Literal && !item.expr.value.isText() && item.position == 0))
+      jet::fail(3138, start.text.toString());
     item.descending = takeWord("DESC"_L1);
     if (!item.descending) takeWord("ASC"_L1);
   } while (takeSymbol(","_L1));
