@@ -20,6 +20,8 @@
 #include "app/form_table.h"
 #include "app/form_tool_icons.h"
 #include "app/frame_rules.h"
+#include "links/FrmSeeIDOptions.h"
+#include "links/FrmSeeIDStanbyList.h"
 #include "links/caller.h"
 #include "links/form_see_id_port.h"
 #include "ui/form.h"
@@ -154,7 +156,7 @@ bool frmMain::isOn(const CommandEntry& entry) const {
   switch (entry.kind) {
     case CommandKind::Form:
     case CommandKind::Dialog:
-      return findForm(entry.formName()) != nullptr;
+      return isBuilt(entry.formName());
     case CommandKind::Later:
       return false;
     default:
@@ -261,8 +263,24 @@ bool frmMain::showOpen(const QString& base, const QString& page) {
   return false;
 }
 
+bool frmMain::isBuilt(const QString& form) const {
+  return form == "FrmSeeIDOptions"_L1 || form == "FrmSeeIDStanbyList"_L1 || findForm(form);
+}
+
+bool frmMain::openCallerWindow(const QString& name) {
+  if (name == "FrmSeeIDOptions"_L1) {
+    FrmSeeIDOptions(*caller_, this).exec();
+    return true;
+  }
+  if (name != "FrmSeeIDStanbyList"_L1) return false;
+  if (!standby_) standby_ = std::make_unique<FrmSeeIDStanbyList>(session_, *waiting_, this);
+  standby_->bringToFront();
+  return true;
+}
+
 bool frmMain::openForm(const QString& name) {
   const QString base = name.section(u':', 0, 0), page = name.section(u':', 1);
+  if (openCallerWindow(base)) return true;
   if (showOpen(base, page)) return true;
   const FormEntry* entry = findForm(base);
   if (!entry) return false;
@@ -301,7 +319,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
   ground_->closeAllSubWindows();
   if (!ground_->subWindowList().isEmpty()) return event->ignore();  // a child holds a cell it cannot save
   timer1_->stop();
-  caller_->CloseSeeID();
+  standby_.reset();
+  guard([&] { caller_->CloseSeeID(); });
   if (closed) closed();
   event->accept();
 }

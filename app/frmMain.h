@@ -10,6 +10,7 @@
 #include "master/form_context.h"
 
 class Caller;
+class FrmSeeIDStanbyList;
 class Ground;
 class QAction;
 class QLabel;
@@ -52,6 +53,9 @@ class frmMain : public QMainWindow, public Commands {
   bool isOn(const CommandEntry& entry) const;
   void perform(const CommandEntry& entry);
   void showClock();
+  bool isBuilt(const QString& form) const;
+  /** The caller-identification windows, which hang on the window's own devices and list. */
+  bool openCallerWindow(const QString& name);
   bool showOpen(const QString& base, const QString& page);
   bool hiddenCommand(Qt::KeyboardModifiers keys);
   void testCall();
@@ -62,6 +66,7 @@ class frmMain : public QMainWindow, public Commands {
   std::unique_ptr<WaitingList> waiting_;
   std::unique_ptr<SeeIdPort> ports_[2];
   std::unique_ptr<Caller> caller_;
+  std::unique_ptr<FrmSeeIDStanbyList> standby_;  ///< made at the first look; closing only hides it
   FormContext context_;
   Ground* ground_;
   QHash<QString, QAction*> actions_;

@@ -95,7 +95,13 @@ TEST_F(MainWindow, HiddenTestCallReachesTheWaitingListOnlyWhileCallsAreTaken) {
   pc.settings.SaveSetting("해온판매", "Registration", "SeeIDUse", "1");
   prompts.expectInput("발신번호 테스트", "0531234567");
   QTest::mouseClick(ground->viewport(), Qt::RightButton, hidden);
-  EXPECT_EQ(window->context().calls.TakeStanbyNumber(), "0531234567");
+  EXPECT_TRUE(window->run("mnu_SeeIDStanbyList"));
+  auto* list = window->findChild<QWidget*>("FrmSeeIDStanbyList");
+  ASSERT_TRUE(list);
+  EXPECT_TRUE(list->isVisible());
+  list->close();
+  EXPECT_FALSE(list->isVisible());
+  EXPECT_EQ(window->context().calls.TakeStanbyNumber(), "0531234567") << "closing its window keeps the list";
 }
 
 TEST_F(MainWindow, LeavingAsksAndCountsOnce) {
