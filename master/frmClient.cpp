@@ -80,7 +80,7 @@ void frmClient::buildPage(HouseStyle style, const QString& caption, const char* 
   page.grid = addSpread(gridName, clients_.list(style), page.sheet);
   page.grid->setFillColumn(style == HouseStyle::Plain ? 5 : 1);
   rows->addWidget(page.grid, 1);
-  auto* const panel = new QGroupBox(page.sheet);
+  QGroupBox* const panel = addGroup({});
   page.boxes = std::make_unique<ClientBoxes>(*this, context_.pickers, panel, style, ClientBoxes::Set::Full);
   rows->addWidget(panel);
   tabs_->addTab(page.sheet, caption);
