@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
 #include <QMdiSubWindow>
+#include <QScreen>
 #include <QWidget>
 
 #include <optional>
@@ -46,7 +48,11 @@ void FormIni::LoadFormIni(QWidget& form, bool resize) const {
   const auto number = [&](const QString& key) { return storedNumber(file, formSection, key); };
   const auto left = number(u"Left"_s), top = number(u"Top"_s);
   const auto width = number(u"Width"_s), height = number(u"Height"_s);
-  if (left && top) window.move(int(*left), int(*top));
+  // A place on a screen that is gone would leave the form out of reach.
+  const auto reachable = [&](const QPoint& place) {
+    return !window.isWindow() || QGuiApplication::screenAt(place + QPoint(40, 10));
+  };
+  if (left && top && reachable(QPoint(int(*left), int(*top)))) window.move(int(*left), int(*top));
   if (resize && width && height && *width > 0 && *height > 0) window.resize(int(*width), int(*height));
   const auto state = number(u"WindowState"_s);
   if (state && int(*state) == Maximized) window.setWindowState(Qt::WindowMaximized);

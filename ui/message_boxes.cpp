@@ -75,9 +75,6 @@ bool MessageBoxes::MsgAsk(const QString& text, const QString& title, bool yesFir
   auto* const no = box.addButton(u"아니오(&N)"_s, QMessageBox::NoRole);
   box.setDefaultButton(yesFirst ? yes : no);
   box.setEscapeButton(no);
-  // The bare letters answer too, as they do in the PC's own boxes.
-  yes->setShortcut(Qt::Key_Y);
-  no->setShortcut(Qt::Key_N);
   box.exec();
   return box.clickedButton() == yes;
 }

@@ -71,6 +71,14 @@ TEST_F(FormMemory, TextThatIsNoNumberIsPassedOver) {
   EXPECT_EQ(placed.size(), QSize(500, 300)) << "its size is left alone";
 }
 
+TEST_F(FormMemory, PlaceOnAScreenThatIsGoneIsPassedOver) {
+  write("[FormPosition]\r\nLeft=9000\r\nTop=20\r\nWidth=300\r\nHeight=200\r\n");
+  PlainForm form(at.session);
+  tests::show(form);
+  EXPECT_LT(form.x(), 9000);
+  EXPECT_EQ(form.width(), 300);
+}
+
 TEST_F(FormMemory, NothingIsWrittenForAFormThatIsNotSeen) {
   PlainForm form(at.session);
   FormIni(at.pc.paths).SaveFormIni(form);
