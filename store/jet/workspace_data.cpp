@@ -51,6 +51,7 @@ FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
   try {
     file = attach(path);
     ++file->handles;
+    beginStatement({file});
     file->refresh(*connection_);
     if (exclusive && file->exclusiveHandles == 0) lockExclusively(*file);
     file->exclusiveHandles += int(exclusive);
@@ -80,6 +81,8 @@ void WorkspaceData::create(const QString& written) {
 FilePtr WorkspaceData::fileAt(const QString& written) {
   FilePtr file = attach(native(written));
   file->lastUse = ++clock_;
+  beginStatement({file});
+  file->refresh(*connection_);
   return file;
 }
 
@@ -117,7 +120,11 @@ void WorkspaceData::ensureAttached(const FilePtr& file) {
   file->attached = true;
   if (groupDepth_ > 0) untidy_ = true;
   files_.push_back(file);
-  if (isMainFile(file)) reconnect();  // it was made only now
+  if (isMainFile(file)) {  // it was made only now
+    ++file->handles;       // so that it is kept, whoever asks for it
+    reconnect();
+    --file->handles;
+  }
 }
 
 bool WorkspaceData::isMainFile(const FilePtr& file) const {

@@ -54,6 +54,20 @@ TEST_F(Files, ABrokenMainFileDoesNotKeepTheOthersFromOpening) {
   EXPECT_EQ(failureOf([&] { workspace.OpenDatabase(path(u"Basic.mdb"_s)); }), 3343);
 }
 
+TEST_F(Files, AMainFileMadeLaterTakesItsPlace) {
+  basic.Close();
+  year.Close();
+  ASSERT_TRUE(QFile::remove(path(u"Basic.mdb"_s)));
+  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
+  basic = workspace.CreateDatabase(path(u"Basic.mdb"_s));
+  basic.createTable(table(u"Client"_s, {counter(u"Code"_s), text(u"Name"_s)}));
+  year.Execute(u"Insert Into Sale(SaleNum) Values(1)"_s);
+  year.Execute(u"Insert Into Client(Name) Values('a')"_s);
+  EXPECT_EQ(rows(basic, u"Select Name From Client"_s), "a");
+  year.Close();
+  EXPECT_EQ(rows(basic, u"Select Name From Client"_s), "a");
+}
+
 TEST_F(Files, ATornFileIsTold) {
   addClients(2000);
   basic.Close();
@@ -255,6 +269,8 @@ TEST_F(TwoPcs, ChangesOfTablesAndLinksAreSeen) {
   EXPECT_TRUE(year.hasTable(u"customer"_s));
   EXPECT_FALSE(year.hasTable(u"Client"_s));
   EXPECT_EQ(rows(year, u"Select Count(*) From Customer"_s), "0");
+  otherBasic.appendField(u"Client"_s, text(u"Tel1"_s));
+  EXPECT_EQ(rows(year, u"Select Tel1 From Customer"_s), "");
 }
 
 }  // namespace
