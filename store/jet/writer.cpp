@@ -211,7 +211,7 @@ void Writer::writeCore(const Select& select, bool named) {
   if (!select.groupBy.empty()) {
     *this << " GROUP BY ";
     list(select.groupBy.size(), [&](size_t i) {
-      writeValue(select.groupBy[i]);
+      writeKey(select.groupBy[i]);
       collate(select.groupBy[i]);
     });
   }
@@ -254,10 +254,17 @@ void Writer::writeOrder(const std::vector<OrderItem>& order) {
     if (order[i].position > 0)
       *this << order[i].position;
     else
-      writeValue(order[i].expr);
+      writeKey(order[i].expr);
     collate(order[i].expr);
     if (order[i].descending) *this << " DESC";
   });
+}
+
+void Writer::writeKey(const Expr& expr) {
+  if (expr.kind == Expr::Kind::Constant)
+    *this << "NULL";  // one value for all rows; SQLite would take its number for a column's place
+  else
+    writeValue(expr);
 }
 
 void Writer::writeFromList(const std::vector<From>& from) {

@@ -30,6 +30,8 @@ class Writer {
   void writeCore(const Select& select, bool named);
   void writeItems(const Select& select, bool named);
   void writeOrder(const std::vector<OrderItem>& order);
+  /** What rows are ordered or grouped by. */
+  void writeKey(const Expr& expr);
   bool breaksTies(const Select& select) const;
   void writeEntryOrder(const Select& select);
   void writeFromList(const std::vector<From>& from);
