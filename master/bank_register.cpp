@@ -1,7 +1,5 @@
 #include "master/bank_register.h"
 
-#include "store/data_access.h"
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,11 +24,9 @@ RegisterRules::Outcome BankRegister::store(const RegisterFields& boxes) {
   const QString name = boxes[u"BName"_s], number = boxes[u"BNumber"_s], user = boxes[u"BUser"_s];
   if (name.isEmpty()) return refuse(u"은행명을 입력하십시오"_s, bankTitle, u"BName"_s);
   if (number.isEmpty()) return refuse(u"계좌번호를 입력하십시오"_s, bankTitle, u"BNumber"_s);
-  jet::Recordset same;
-  if (!OpenSnapshot(session_.prompts, session_.dbBasic, same,
-                    u"Select * From Bank Where BName = '"_s + name + u"'"_s))
-    return {false, u"BName"_s};
-  if (same.RecordCount() != 0)
+  const Found known = lookFor(u"Select * From Bank Where BName = '"_s + name + u"'"_s);
+  if (known == Found::Failed) return {false, u"BName"_s};
+  if (known == Found::Something)
     session_.dbBasic.Execute(u"Update Bank Set BName = '"_s + name + u"', BNumber = '"_s + number +
                              u"', BUser = '"_s + user + u"' Where BName = '"_s + name + u"'"_s);
   else

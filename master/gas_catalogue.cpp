@@ -70,7 +70,10 @@ RegisterRules::Outcome GasCatalogue::insert(const RegisterFields& boxes) {
   const QString name = boxes[u"LPGName"_s], size = boxes[u"Size"_s];
   if (name.isEmpty()) return refuse(u"품명은 필수입력사항입니다!"_s, u"LPG 관리자"_s, u"LPGName"_s);
   if (size.isEmpty()) return refuse(u"LPG/용기의 용량은 필수입력사항입니다!"_s, u"LPG 관리자"_s, u"Size"_s);
-  if (finds(u"Select * From LPG Where Size = '"_s + size + u"' And LPGName = '"_s + name + u"'"_s))
+  const Found twin =
+      lookFor(u"Select * From LPG Where Size = '"_s + size + u"' And LPGName = '"_s + name + u"'"_s);
+  if (twin == Found::Failed) return {};
+  if (twin == Found::Something)
     return refuse(u"용량이 "_s + size + u"KG의 LPG/용기는 이미 등록되어 있습니다!"_s, gasTitle, u"Size"_s);
 
   const auto number = [&](const QString& column) { return typedNumber(boxes[column]); };

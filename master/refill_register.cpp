@@ -39,7 +39,8 @@ std::vector<QString> RefillRegister::cells(const RegisterFields& record) const {
 
 bool RefillRegister::nameAccepted(const QString& company, const QString& ownCode) {
   const QString others = ownCode.isEmpty() ? QString() : u" And Code <> '"_s + ownCode + u"'"_s;
-  if (!finds(u"Select * from Refillstate Where Company = '"_s + company + u"'"_s + others)) return true;
+  const Found twin = lookFor(u"Select * from Refillstate Where Company = '"_s + company + u"'"_s + others);
+  if (twin != Found::Something) return twin == Found::Nothing;
   return session_.prompts.MsgAsk(
       ownCode.isEmpty() ? u"등록을 계속하시겠습니까?"_s : u"수정을 계속하시겠습니까?"_s, refillTitle);
 }

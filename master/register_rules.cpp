@@ -66,9 +66,10 @@ RegisterRules::Outcome RegisterRules::refuse(const QString& text, const QString&
   return {false, focus};
 }
 
-bool RegisterRules::finds(const QString& sql) {
+RegisterRules::Found RegisterRules::lookFor(const QString& sql) {
   jet::Recordset rs;
-  return !OpenSnapshot(session_.prompts, session_.dbBasic, rs, sql) || rs.RecordCount() != 0;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs, sql)) return Found::Failed;
+  return rs.RecordCount() == 0 ? Found::Nothing : Found::Something;
 }
 
 QString typedNumber(const QString& typed) {

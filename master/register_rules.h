@@ -63,8 +63,9 @@ class RegisterRules {
   const RegisterFields& record() const { return records_.at(size_t(row_ - 1)); }
   /** Tells why a save or delete is refused and where the focus goes. */
   Outcome refuse(const QString& text, const QString& title, const QString& focus = {});
-  /** True when the statement finds a row; a failed query has been told and counts as found. */
-  bool finds(const QString& sql);
+  enum class Found { Nothing, Something, Failed };
+  /** Whether the statement finds a row; a failure has been told, and whatever asked is dropped. */
+  Found lookFor(const QString& sql);
 
   Session& session_;
   SpreadModel list_;

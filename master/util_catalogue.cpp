@@ -53,7 +53,10 @@ QString UtilCatalogue::whereChosen() const {
 RegisterRules::Outcome UtilCatalogue::insert(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   const QString name = boxes[u"Name"_s], size = boxes[u"Size"_s];
-  if (finds(u"Select * From Util Where Name = '"_s + name + u"' And Size = '"_s + size + u"'"_s))
+  const Found twin =
+      lookFor(u"Select * From Util Where Name = '"_s + name + u"' And Size = '"_s + size + u"'"_s);
+  if (twin == Found::Failed) return {};
+  if (twin == Found::Something)
     return refuse(name + u" "_s + size + u" 의 시설/자재는 이미 등록되어 있습니다!"_s, utilTitle, u"Name"_s);
   session_.dbBasic.Execute(
       u"Insert into Util(Name,  Size, SizeSize, UtilPurchase, UtilSelling, UtilStock) Values('"_s + name +

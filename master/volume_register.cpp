@@ -44,7 +44,9 @@ RegisterRules::Outcome VolumeRegister::checkRequired(const RegisterFields& boxes
 RegisterRules::Outcome VolumeRegister::insert(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   const QString size = boxes[u"Size"_s];
-  if (finds(u"Select * From Volume Where Size = '"_s + size + u"' Order By Code"_s))
+  const Found twin = lookFor(u"Select * From Volume Where Size = '"_s + size + u"' Order By Code"_s);
+  if (twin == Found::Failed) return {};
+  if (twin == Found::Something)
     return refuse(u"규격 : "_s + size + u" 은 이미 등록되어 있습니다!"_s, volumeTitle, u"Size"_s);
   session_.dbBasic.Execute(u"Insert Into Volume(Size, Name, Unit) Values('"_s + size + u"', '"_s +
                            boxes[u"Name"_s] + u"', '"_s + typedNumber(boxes[u"Unit"_s]) + u"')"_s);

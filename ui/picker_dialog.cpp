@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "ui/form_ini.h"
@@ -83,6 +84,8 @@ void PickerDialog::showFound() {
 
 int PickerDialog::pick() {
   chosen_ = 0;
+  // By itself a window takes two thirds of a screen at most, which cuts columns off on a small one.
+  if (!testAttribute(Qt::WA_Resized)) resize(sizeHint().boundedTo(screen()->availableSize()));
   exec();
   return chosen_;
 }

@@ -172,7 +172,8 @@ int Spread::topRow() const {
 }
 
 QSize Spread::sizeHint() const {
-  return {std::min(fullWidth(), 1000), headerHeight_ + 12 * rowPixels_};
+  const int widest = 1000 * logicalDpiX() / 96;
+  return {std::min(fullWidth(), widest), headerHeight_ + 12 * rowPixels_};
 }
 
 QRect Spread::cellRect(int row, int col) const {

@@ -11,8 +11,11 @@
 #include "master/frmPostCode.h"
 #include "master/frmRefillState.h"
 #include "master/frmResponse.h"
+#include "master/frmSearchBank.h"
+#include "master/frmSearchRefill.h"
 #include "master/frmSearchResponse.h"
 #include "master/frmSearchSize.h"
+#include "master/frmSearchVolume.h"
 #include "master/frmVolume.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
@@ -83,7 +86,7 @@ struct CatalogueForms : testing::Test {
 
 TEST_F(CatalogueForms, NewGasIsEnteredByKeysAlone) {
   frmGasUtil form(context);
-  form.resize(980, 560);
+  form.resize(form.sizeHint());
   tests::show(form);
   tests::grab(form, u"frmGasUtil"_s);
   EXPECT_TRUE(box(form, "TxtLPGSize")->isReadOnly());
@@ -132,7 +135,7 @@ TEST_F(CatalogueForms, NewGasIsEnteredByKeysAlone) {
 TEST_F(CatalogueForms, FixedRegulatorKeepsItsSizeBoxShut) {
   run(u"Insert Into Volume(Size, Name, Unit) Values('R8', '특수', 1500)"_s);
   frmVolume form(context);
-  form.resize(640, 420);
+  form.resize(form.sizeHint());
   tests::show(form);
   tests::grab(form, u"frmVolume"_s);
   EXPECT_TRUE(box(form, "TxtSize")->isReadOnly());
@@ -153,7 +156,7 @@ TEST_F(CatalogueForms, FixedRegulatorKeepsItsSizeBoxShut) {
 
 TEST_F(CatalogueForms, PostcodeIsLookedUpByWhatWasTyped) {
   frmRefillState form(context);
-  form.resize(980, 480);
+  form.resize(form.sizeHint());
   tests::show(form);
   tests::grab(form, u"frmRefillState"_s);
   EXPECT_EQ(box(form, "TxtCompany")->text(), u"한강충전소"_s);
@@ -172,7 +175,7 @@ TEST_F(CatalogueForms, PostcodeIsLookedUpByWhatWasTyped) {
   EXPECT_EQ(answer(u"Select PostCode From RefillState"_s), u"403-010"_s);
 
   frmResponse staff(context);
-  staff.resize(980, 480);
+  staff.resize(staff.sizeHint());
   tests::show(staff);
   tests::grab(staff, u"frmResponse"_s);
   EXPECT_EQ(box(staff, "TxtAppDate")->text(), u"2019-03-02"_s);
@@ -197,6 +200,35 @@ TEST_F(CatalogueForms, GoodsAreTakenByEnterAndLeftByEsc) {
   EXPECT_TRUE(commands.asked.isEmpty());  // not before the handler that asked has ended
   QApplication::processEvents();
   EXPECT_EQ(commands.asked, QStringList{u"frmGasUtil"_s});
+}
+
+TEST_F(CatalogueForms, ShortListsHandOverTheLineUnderTheCursor) {
+  run(u"Insert Into Bank(BName, BNumber, BUser) Values('국민', '123-45-678', '해온가스')"_s);
+  const auto takeFirst = [](PickerDialog& dialog) {
+    tests::grab(dialog, dialog.objectName());
+    tests::key(Qt::Key_Return);
+  };
+  whenModal(takeFirst);
+  EXPECT_EQ(frmSearchResponse(pc.session, nullptr), u"김배달"_s);
+  whenModal(takeFirst);
+  EXPECT_EQ(frmSearchRefill(pc.session, nullptr), u"한강충전소"_s);
+  whenModal(takeFirst);
+  const auto account = frmSearchBank(pc.session, nullptr);
+  ASSERT_TRUE(account);
+  EXPECT_EQ(account->number + account->user, u"123-45-678해온가스"_s);
+  run(u"Update Volume Set Unit = '1450' Where Code = 1"_s);
+  whenModal(takeFirst);
+  const auto regulator = frmSearchVolume(pc.session, nullptr);
+  ASSERT_TRUE(regulator);
+  EXPECT_EQ(regulator->size, answer(u"Select Size From Volume Where Code = 1"_s));
+  EXPECT_EQ(regulator->unit, 1450);
+
+  run(u"Delete * From Response"_s);
+  whenModal([](PickerDialog&) {
+    tests::key(Qt::Key_Return);  // an empty list gives nothing to take
+    tests::key(Qt::Key_Escape);
+  });
+  EXPECT_FALSE(frmSearchResponse(pc.session, nullptr));
 }
 
 TEST_F(CatalogueForms, PostcodeWindowSearchesAtOnceForItsCaller) {
