@@ -157,7 +157,7 @@ bool frmSale::mayLeave(int row, int toRow) {
 }
 
 /** The screen after a rule's step: the sheet, the cursor, the day, the customer. */
-void frmSale::follow(const SaleStep& step) {
+void frmSale::follow(const SaleStep& step, bool takeFocus) {
   if (tabs_->currentIndex() != int(posting_.sheet())) {
     const QSignalBlocker quiet(tabs_);
     tabs_->setCurrentIndex(int(posting_.sheet()));
@@ -166,7 +166,7 @@ void frmSale::follow(const SaleStep& step) {
     grid()->cancelEdit();
     grid()->setActiveCell(step.row, step.col);
   }
-  grid()->setFocus();
+  if (takeFocus) grid()->setFocus();
   date_->setDateText(posting_.date());
   showPanel();
 }
@@ -227,7 +227,9 @@ bool frmSale::eventFilter(QObject* watched, QEvent* event) {
 void frmSale::leaveDate() {
   guard([this] {
     posting_.setDate(date_->dateText());
-    fill(posting_.sheet());
+    posting_.FillSaleGrid(posting_.sheet(), true);
+    const QWidget* const now = QApplication::focusWidget();
+    follow({SaleStep::Done, grid()->model().MaxRows(), SaleCol::Client}, !now || isAncestorOf(now));
   });
 }
 

@@ -34,7 +34,7 @@ class frmSale : public Form, public CallerTarget {
   bool fetchCall(int row);
   bool cellFinished(int row, int col, const QString& typed);
   bool mayLeave(int row, int toRow);
-  void follow(const SaleStep& step);
+  void follow(const SaleStep& step, bool takeFocus = true);
   void fill(SaleSheet sheet);
   void toBottomRow();
   void sheetChosen(int index);

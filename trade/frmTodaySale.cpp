@@ -28,7 +28,7 @@ frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
   grid->setFillColumn(1);
   body()->addWidget(grid, 1);
   setBottomLine("Esc:닫기");
-  onKey(Qt::Key_Escape, [this] { (isWindow() ? this : parentWidget())->close(); });
+  onKey(Qt::Key_Escape, [this] { close(); });
   resize(620, 165);
   load();
 }
