@@ -43,9 +43,20 @@ frmSale::frmSale(FormContext& context, QWidget* parent)
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { sheetChosen(index); });
   buildKeys();
   setBottomLine(saleKeys);
-  resize(1080, 640);
+  resize(sizeHint());
   date_->setDateText(posting_.date());
   guard([this] { fill(SaleSheet::General); });
+}
+
+QSize frmSale::sizeHint() const {
+  // Every column shows, whatever the size of the text.
+  return {grids_[0]->fullWidth() + 60, 30 * grids_[0]->fontMetrics().height() + 130};
+}
+
+void frmSale::showEvent(QShowEvent* event) {
+  Form::showEvent(event);
+  // Work begins on the empty row; a window that comes up gives the focus to its first box otherwise.
+  QTimer::singleShot(0, this, [this] { grid()->setFocus(); });
 }
 
 void frmSale::buildPanel() {

@@ -21,7 +21,10 @@ class frmSale : public Form, public CallerTarget {
   void showPage(const QString& page);
   bool TakeCallerNumber(const QString& number) override;
 
+  QSize sizeHint() const override;
+
  protected:
+  void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -29,7 +29,7 @@ frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
   body()->addWidget(grid, 1);
   setBottomLine("Esc:닫기");
   onKey(Qt::Key_Escape, [this] { close(); });
-  resize(620, 165);
+  resize(sizeHint());
   load();
 }
 

@@ -12,6 +12,7 @@ class frmTodaySale : public Form {
 
   /** An open form is asked for again: the session's day may be another one. */
   void showPage(const QString&) { load(); }
+  QSize sizeHint() const override { return {620, 165}; }
 
  private:
   void load();
