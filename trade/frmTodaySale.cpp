@@ -24,13 +24,17 @@ frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
                     daySumColumn("입금액", CellKind::Money),
                     daySumColumn("D/C", CellKind::Money),
                     daySumColumn("미수금", CellKind::Money)});
-  Spread* const grid = addSpread("SpToday", sums_);
-  grid->setFillColumn(1);
-  body()->addWidget(grid, 1);
+  grid_ = addSpread("SpToday", sums_);
+  grid_->setFillColumn(1);
+  body()->addWidget(grid_, 1);
   setBottomLine("Esc:닫기");
   onKey(Qt::Key_Escape, [this] { close(); });
   resize(sizeHint());
   load();
+}
+
+QSize frmTodaySale::sizeHint() const {
+  return {grid_->fullWidth() + 40, 13 * fontMetrics().height()};
 }
 
 void frmTodaySale::load() {

@@ -12,12 +12,13 @@ class frmTodaySale : public Form {
 
   /** An open form is asked for again: the session's day may be another one. */
   void showPage(const QString&) { load(); }
-  QSize sizeHint() const override { return {620, 165}; }
+  QSize sizeHint() const override;
 
  private:
   void load();
 
   TodaySale today_;
   SpreadModel sums_;
+  Spread* grid_;
   QLabel* title_;
 };
