@@ -50,7 +50,7 @@ frmSale::frmSale(FormContext& context, QWidget* parent)
 
 QSize frmSale::sizeHint() const {
   // Every column shows, whatever the size of the text.
-  return {grids_[0]->fullWidth() + 60, 30 * grids_[0]->fontMetrics().height() + 130};
+  return {grids_[0]->fullWidth() + 60, 34 * grids_[0]->fontMetrics().height() + 180};
 }
 
 void frmSale::showEvent(QShowEvent* event) {
