@@ -296,7 +296,11 @@ bool frmMain::openForm(const QString& name) {
   const QSize design = form->testAttribute(Qt::WA_Resized) ? form->size() : form->sizeHint();
   auto* window = new ChildWindow(form);
   ground_->addSubWindow(window);
-  window->resize((design + window->sizeHint() - form->sizeHint()).boundedTo(ground_->viewport()->size()));
+  const QSize room = ground_->viewport()->size();
+  window->resize((design + window->sizeHint() - form->sizeHint()).boundedTo(room));
+  // The area looks for the least covered place; the whole form must still be seen without scrolling.
+  window->move(qBound(0, window->x(), room.width() - window->width()),
+               qBound(0, window->y(), room.height() - window->height()));
   form->show();
   window->show();
   return true;

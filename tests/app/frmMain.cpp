@@ -81,6 +81,14 @@ TEST_F(MainWindow, AFormThatClosesItselfTakesItsFrameAlong) {
   EXPECT_FALSE(window->openForm("frmBuy"));
 }
 
+TEST_F(MainWindow, EveryChildOpensWhollyInSight) {
+  for (const char* form : {"frmUser", "frmBank", "frmResponse", "frmVolume"})
+    ASSERT_TRUE(window->openForm(QString::fromUtf8(form)));
+  auto* ground = window->findChild<QMdiArea*>();
+  for (const QMdiSubWindow* child : ground->subWindowList())
+    EXPECT_TRUE(ground->viewport()->rect().contains(child->geometry())) << child->windowTitle().toStdString();
+}
+
 TEST_F(MainWindow, ARepairThatFailsEndsInABox) {
   session.dbBasic.Execute("Insert Into Client(Name, VolumeYesNo) Values('고객', True)");
   EXPECT_TRUE(window->run("YearError"));
