@@ -304,7 +304,7 @@ bool ClientBoxes::enter(QWidget* box) {
   if (box == pressure_ && typedText(pressure_).isEmpty()) return fill(&ClientBoxes::regulator, unit_);
   if (building_ && box == building_ && typedText(building_).isEmpty())
     return fill(&ClientBoxes::building, ho_);
-  if (payWays_.contains(static_cast<QRadioButton*>(box))) {
+  if (payWays_.contains(qobject_cast<QRadioButton*>(box))) {
     Form::focus(volume_);
     return true;
   }

@@ -11,6 +11,7 @@
 
 #include "app/FrmInitMsg.h"
 #include "app/form_pickers.h"
+#include "app/form_tool_icons.h"
 #include "app/frmMain.h"
 #include "app/frmSecurity.h"
 #include "app/frmSplash.h"
@@ -125,6 +126,7 @@ int main(int argc, char** argv) {
     QTextStream(stderr) << "usage: take_pictures PC FOLDER\n";
     return 2;
   }
+  QApplication::setWindowIcon(toolIcon(QStringLiteral("MnuOutcome")));
   look::apply(application);
   pc::Pc pc(application.arguments().at(1));
   Session* open = nullptr;

@@ -7,8 +7,6 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include "master/frmAPTAddress.h"
-#include "master/frmBDName.h"
 #include "master/frmClient.h"
 #include "master/frmNewClient.h"
 #include "master/frmSearchClient.h"
@@ -322,37 +320,6 @@ TEST_F(ClientSearchForm, anUnknownNumberIsRegisteredOnTheSpotAndChosen) {
   ASSERT_TRUE(chosen);
   EXPECT_EQ(chosen->name, "가람");
   EXPECT_EQ(ask("Select Tel From Client")["Tel"].toText(), "053-123-4567");
-}
-
-// --- how they look ------------------------------------------------------------------------------------------
-
-TEST_F(ClientSearchForm, pictures) {
-  if (qEnvironmentVariableIsEmpty("HAEON_PICTURES")) GTEST_SKIP() << "HAEON_PICTURES names no folder";
-  fillBooks();
-  frmClient form(context);
-  form.resize(1040, 680);
-  tests::show(form);
-  auto* const tabs = form.findChild<QTabWidget*>("TabClient");
-  for (int page = 0; page < 3; ++page) {
-    tabs->setCurrentIndex(page);
-    sheet(form)->findChild<Spread*>()->setFocus();
-    tests::key(Qt::Key_Down);
-    tests::grab(form, "frmClient" + QString::number(page));
-  }
-  whenModal([](QDialog& dialog) {
-    tests::grab(dialog, "frmSearchClient");
-    dialog.reject();
-  });
-  search("대구");
-  BuildingSearch buildings(pc.session, HouseStyle::Apartment);
-  buildings.loadBuildings();
-  buildings.loadBlocks("한빛아파트");
-  frmBDName names(pc.session, buildings);
-  tests::show(names);
-  tests::grab(names, "frmBDName");
-  frmAPTAddress blocks(pc.session, buildings);
-  tests::show(blocks);
-  tests::grab(blocks, "frmAPTAddress");
 }
 
 }  // namespace
