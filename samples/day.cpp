@@ -81,7 +81,6 @@ class Day {
   }
 
   void call() {
-    stage_.keys({"Return"});  // the day is right
     stage_.picture(QStringLiteral("day-2-sale-screen"));
     stage_.callerUnitSends("RING\r\nNMBR=0531234567\r\n");
     stage_.picture(QStringLiteral("day-3-caller-came-up"));
