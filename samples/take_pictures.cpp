@@ -56,15 +56,17 @@ class Photographer {
   QString folder_;
 };
 
-void mainWindowForms(frmMain& window, Photographer& photographer) {
+void mainWindowForms(frmMain& window, Session& session, Photographer& photographer) {
   window.resize(1280, 860);
   photographer.take(window, "frmMain");
+  session.SaleDay = session.pc.clock.dateText();  // the day whose figures F5 shows
   for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
-                           "frmSale", "frmTodaySale:2026-03-14"}) {
+                           "frmSale", "frmTodaySale"}) {
+    if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow(); before && name[3] != 'T')
+      before->close();
     window.openForm(QString::fromLatin1(name));
     QTest::qWait(100);
-    const QString base = QString::fromLatin1(name).section(u':', 0, 0);
-    if (auto* form = window.findChild<QWidget*>(base)) photographer.take(*form, base);
+    if (auto* form = window.findChild<QWidget*>(QString::fromLatin1(name))) photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");
 }
@@ -151,7 +153,7 @@ int main(int argc, char** argv) {
   {
     frmMain window(session, searches);
     searches.setContext(window.context());
-    mainWindowForms(window, photographer);
+    mainWindowForms(window, session, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);
     window.setSilentClose();
