@@ -326,18 +326,22 @@ void WorkspaceData::together(const std::function<void()>& work) {
 
 /** Within a group every file that a statement touches, reading too, is reserved for writing first. Two PCs that had
  *  both read and then both wanted to write would stand in each other's way, and SQLite fails one of them at once
- *  without waiting. Files that the group does not touch stay free for others. */
+ *  without waiting. The main file goes first whatever is touched: two groups that took the same files in another
+ *  order would wait for each other until one gives up. Other files that the group does not touch stay free. */
 void WorkspaceData::beginStatement(const std::vector<FilePtr>& files) {
   if (groupDepth_ == 0) return;
   if (!connection_->inTransaction()) {
     connection_->exec("BEGIN");
     for (const FilePtr& file : files_) file->reserved = false;
+    reserve(*files_.front());
   }
-  for (const FilePtr& file : files) {
-    if (file->reserved || connection_->isReadOnly(file->alias())) continue;
-    connection_->exec("UPDATE " + file->alias() + ".jet_links SET name = name WHERE 0");
-    file->reserved = true;
-  }
+  for (const FilePtr& file : files) reserve(*file);
+}
+
+void WorkspaceData::reserve(DataFile& file) {
+  if (file.reserved || connection_->isReadOnly(file.alias())) return;
+  connection_->exec("UPDATE " + file.alias() + ".jet_links SET name = name WHERE 0");
+  file.reserved = true;
 }
 
 void WorkspaceData::commitGroup() {

@@ -65,6 +65,7 @@ class WorkspaceData {
   void unlock(DataFile& file);
 
   void beginStatement(const std::vector<FilePtr>& files);
+  void reserve(DataFile& file);
   void commitGroup();
   void afterFailure();
 
