@@ -67,13 +67,7 @@ Statement Parser::insert() {
   made.columnsNamed = takeSymbol("("_L1);
   if (made.columnsNamed) {
     do {
-      Assignment& column = made.assigns.emplace_back();
-      column.place = now().place;
-      column.name = name();
-      if (takeSymbol("."_L1)) {
-        column.qualifier = column.name;
-        column.name = name();
-      }
+      made.assigns.push_back(assignedColumn());
     } while (takeSymbol(","_L1));
     expectSymbol(")"_L1);
   }
@@ -92,19 +86,25 @@ Statement Parser::insert() {
   return made;
 }
 
+/** A column to be written, with or without its table in front. */
+Assignment Parser::assignedColumn() {
+  Assignment column;
+  column.place = now().place;
+  column.name = name();
+  if (takeSymbol("."_L1)) {
+    column.qualifier = column.name;
+    column.name = name();
+  }
+  return column;
+}
+
 Statement Parser::update() {
   Statement made;
   made.kind = Compiled::Kind::Update;
   made.from = fromList();
   expectWord("SET"_L1);
   do {
-    Assignment& column = made.assigns.emplace_back();
-    column.place = now().place;
-    column.name = name();
-    if (takeSymbol("."_L1)) {
-      column.qualifier = column.name;
-      column.name = name();
-    }
+    Assignment& column = made.assigns.emplace_back(assignedColumn());
     expectSymbol("="_L1);
     column.value = expression();
   } while (takeSymbol(","_L1));

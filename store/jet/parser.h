@@ -19,6 +19,7 @@ class Parser {
  private:
   // parser.cpp: statements
   Statement insert();
+  Assignment assignedColumn();
   Statement update();
   Statement erase();
   Select query();
