@@ -61,8 +61,8 @@ BillingSettings CompanyProfile::settings() const {
   BillingSettings page;
   page.oneMonthOnly = session_.pc.settings.GetSetting(session_.AppTitle, registrationSection, u"연체료계산"_s,
                                                       u"0"_s) == "1"_L1;
-  page.withDelayBefore = session_.pc.settings.GetSetting(session_.AppTitle, u"Config"_s,
-                                                         u"납기후금액계산법"_s, u"0"_s) == "1"_L1;
+  page.withoutDelay = session_.pc.settings.GetSetting(session_.AppTitle, u"Config"_s, u"납기후금액계산법"_s,
+                                                      u"0"_s) == "1"_L1;
   const auto user = row();
   if (!user) return page;
   const auto text = [&](const QString& name) { return (*user)[name].toText(); };
@@ -124,7 +124,7 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
   session_.DelayCalcFlag = settings.oneMonthOnly ? u"1"_s : u"0"_s;
   session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"연체료계산"_s,
                                    session_.DelayCalcFlag);
-  session_.AfterDueMethod = settings.withDelayBefore ? 1 : 0;
+  session_.AfterDueMethod = settings.withoutDelay ? 1 : 0;
   session_.pc.settings.SaveSetting(session_.AppTitle, u"Config"_s, u"납기후금액계산법"_s,
                                    QString::number(session_.AfterDueMethod));
   session_.dbBasic.Execute(
@@ -136,6 +136,7 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
       u"Post1 = "_s + valText(settings.Post1) + u", Post2 = "_s + valText(settings.Post2) + u", "_s +
       (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s));
   session_.StockEnabled = settings.Stock;
+  readRateBook(session_);
   if (settings.password.isEmpty())
     session_.prompts.MsgInfo(u"귀하의 패스워드가 현재 삭제된 상태입니다."_s + u'\n' +
                                  u"패스워드는 프로그램의 모든 보안사항을 통과하므로"_s + u'\n' +

@@ -18,7 +18,7 @@ struct BillingSettings {
   QString Rate, AptRate, ManyRate;              ///< delay charge, percent
   QString Security, AptSecurity, ManySecurity;  ///< safety fee, won; fractions are lost
   bool oneMonthOnly = false;                    ///< delay charge on the one month, else cumulative
-  bool withDelayBefore = false;                 ///< arrears carried with the delay charge of the month before
+  bool withoutDelay = false;                    ///< arrears carried without this month's delay charge
   QString Post1 = QStringLiteral("000"), Post2 = QStringLiteral("999");
   bool Stock = false;
   QString password, passwordAgain;  ///< empty deletes the password

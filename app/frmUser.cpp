@@ -138,7 +138,7 @@ QWidget* frmUser::buildSettingsPage() {
   grid->addWidget(buildChoices(u"연체료 계산"_s, {u"해당 한달만적용"_s, u"누적 연체료적용"_s},
                                {u"SSOption1"_s, u"SSOption2"_s}, delayCharge_),
                   1, 1);
-  grid->addWidget(buildChoices(u"납기후 금액 계산"_s, {u"전월 연체료 제외"_s, u"전월 연체료 포함"_s},
+  grid->addWidget(buildChoices(u"납기후 금액 계산"_s, {u"전월 연체료 포함"_s, u"전월 연체료 제외"_s},
                                {u"optDelayType0"_s, u"optDelayType1"_s}, delayType_),
                   2, 1);
 
@@ -227,7 +227,7 @@ void frmUser::loadPages() {
   QAbstractButton* rounding = payState_->button(page.PayState);
   (rounding ? rounding : payState_->button(1))->setChecked(true);
   delayCharge_->button(page.oneMonthOnly ? 1 : 2)->setChecked(true);
-  delayType_->button(page.withDelayBefore ? 2 : 1)->setChecked(true);
+  delayType_->button(page.withoutDelay ? 2 : 1)->setChecked(true);
   stock_->button(page.Stock ? 1 : 2)->setChecked(true);
   txtPassword1_->clear();
   txtPassword2_->clear();
@@ -266,7 +266,7 @@ void frmUser::saveSettings() {
                                           .AptSecurity = txtAptSecurity_->text(),
                                           .ManySecurity = txtManySecurity_->text(),
                                           .oneMonthOnly = delayCharge_->checkedId() == 1,
-                                          .withDelayBefore = delayType_->checkedId() == 2,
+                                          .withoutDelay = delayType_->checkedId() == 2,
                                           .Post1 = txtPost1_->text(),
                                           .Post2 = txtPost2_->text(),
                                           .Stock = stock_->checkedId() == 1,

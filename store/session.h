@@ -4,7 +4,13 @@
 
 #include "pc/pc.h"
 #include "store/jet/database.h"
+#include "store/rate_book.h"
 #include "ui/prompts.h"
+
+namespace pc {
+class Printers;
+class Reports;
+}  // namespace pc
 
 /** One run of the program at one PC. */
 struct Session {
@@ -20,13 +26,17 @@ struct Session {
   QString WorkYear;   ///< four digits; the year of the PC clock at start
   QString CurrentPassword;
   QString DelayCalcFlag;      ///< "1" charge on the one month only, "0" cumulative
-  int AfterDueMethod = 0;     ///< 0 arrears without, 1 with the delay charge of the month before
+  int AfterDueMethod = 0;     ///< 0 carries this month's delay charge on, 1 carries the bill without it
+  RateBook rates;             ///< read when the meter book opens and when the settings are saved
   QString CheckKind;          ///< meter book to open: "1" individual, "2" apartment, "3" multi-household
   bool StockEnabled = false;  ///< postings move LPG and Util
   QString SavedDateFormat;
 
   QString SaleDay;            ///< "yyyy-mm-dd", the day that frmTodaySale sums up; set by the sale screen
   bool SaleLedgerGas = true;  ///< what frmPrtSale lists: gas lines, else materials; set by the sale screen
+
+  pc::Printers* printers = nullptr;  ///< the PC's; set once at start
+  pc::Reports* reports = nullptr;
 
   jet::Workspace wsMain;
   jet::Database dbBasic, dbYear, dbTax, dbCommon;

@@ -66,16 +66,16 @@ TEST_F(CompanyProfileTest, RatesKeepTheirFractionsSafetyFeesLoseThem) {
   EXPECT_EQ(page.Post1, "000");
   EXPECT_EQ(page.Post2, "999");
   page.PayState = 3;
-  page.Rate = "2.5";
+  page.Rate = "2.1";
   page.AptRate = "어림";
   page.Security = "1500.5";
   page.AptSecurity = "999.4";
   page.Post1 = "700";
-  page.oneMonthOnly = page.withDelayBefore = page.Stock = true;
+  page.oneMonthOnly = page.withoutDelay = page.Stock = true;
   page.password = "Abc";
   prompts.expect("귀하의 패스워드는 Abc 입니다");
   ASSERT_TRUE(rules.saveSettings(page));
-  EXPECT_EQ(column("Rate"), "2.5");
+  EXPECT_EQ(column("Rate"), "2.1");
   EXPECT_EQ(column("AptRate"), "0") << "a bad number counts as 0";
   EXPECT_EQ(column("Security"), "1501");
   EXPECT_EQ(column("AptSecurity"), "999");
@@ -85,7 +85,9 @@ TEST_F(CompanyProfileTest, RatesKeepTheirFractionsSafetyFeesLoseThem) {
   EXPECT_EQ(session.DelayCalcFlag, "1");
   EXPECT_EQ(session.AfterDueMethod, 1);
   EXPECT_TRUE(rules.settings().oneMonthOnly);
-  EXPECT_TRUE(rules.settings().withDelayBefore);
+  EXPECT_TRUE(rules.settings().withoutDelay);
+  EXPECT_EQ(session.rates.of(MeterBook::Individual).rate, double(2.1f)) << "single precision, widened";
+  EXPECT_EQ(session.rates.of(MeterBook::Apartment).security, 999);
 }
 
 TEST_F(CompanyProfileTest, PasswordIsComparedByCaseAndAnEmptyBoxDeletesIt) {

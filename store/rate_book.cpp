@@ -1,0 +1,25 @@
+#include "store/rate_book.h"
+
+#include "store/data_access.h"
+#include "store/session.h"
+
+namespace {
+
+/** Kept: these columns are read in single precision, and its error goes on into the charge. */
+double singlePrecision(const jet::Value& rate) {
+  return double(float(rate.toDouble()));
+}
+
+}  // namespace
+
+bool readRateBook(Session& session) {
+  session.rates = {};
+  jet::Recordset user;
+  if (!OpenSnapshot(session.prompts, session.dbBasic, user, QStringLiteral("Select * From User")) ||
+      user.atEnd())
+    return false;
+  session.rates.books = {{{singlePrecision(user["Rate"]), user["Security"].toDouble()},
+                          {user["APTRate"].toDouble(), user["APTSecurity"].toDouble()},
+                          {singlePrecision(user["ManyRate"]), user["ManySecurity"].toDouble()}}};
+  return true;
+}
