@@ -1,0 +1,18 @@
+#pragma once
+// Long work over many rows: grouped, so that it costs few flushes, but let go every fraction of a second, so that
+// another PC gets in.
+#include <functional>
+
+#include "store/jet/database.h"
+
+struct LongWork {
+  int count = 0;                  ///< steps of the work
+  std::function<void(int)> step;  ///< one whole step, 0 to count - 1: its statements stand or fall together
+  /** Steps that ask the operator run outside the groups: no lock is held while the operator thinks. */
+  std::function<bool(int)> asks = {};
+  /** Told after each group, with the steps done; False stops the work there. */
+  std::function<bool(int done)> tell = {};
+};
+
+/** Steps done. An error of a step goes on to the caller; the steps before it stay. */
+int run(const jet::Workspace& workspace, const LongWork& work);
