@@ -1,0 +1,21 @@
+#include "store/report_staging.h"
+
+#include "store/data_files.h"
+#include "store/long_work.h"
+#include "store/session.h"
+
+using namespace Qt::StringLiterals;
+
+QString printFile() {
+  return installedDataFolder() + u"Print.mdb"_s;
+}
+
+void stageReport(Session& session, int rows, const std::function<QString(int row)>& insert) {
+  if (!session.pc.paths.exists(printFile())) {
+    session.pc.paths.makeFolder(installedDataFolder());
+    makeDataFile(session, printFile(), schema::File::Print);
+  }
+  const jet::Database print = session.wsMain.OpenDatabase(printFile());
+  print.Execute(u"Delete * From Print"_s);
+  run(session.wsMain, {.count = rows, .step = [&](int at) { print.Execute(insert(at + 1)); }});
+}
