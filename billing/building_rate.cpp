@@ -1,0 +1,32 @@
+#include "billing/building_rate.h"
+
+#include "store/data_access.h"
+#include "store/session.h"
+
+double GetBuildingDelayPay(Session& session, qint64 code) {
+  jet::Recordset rs;
+  const QString sql =
+      QStringLiteral(
+          "SELECT delaypay "
+          "FROM Client LEFT JOIN apt ON (Client.BDName = apt.Name and client.Dong = apt.Dong )"
+          " WHERE client.Code = ") +
+      QString::number(code);
+  if (!OpenSnapshot(session.prompts, session.dbBasic, rs, sql) || rs.atEnd()) return 0;
+  return rs[0].toDouble();
+}
+
+double lateRate(Session& session, MeterBook book, qint64 code) {
+  const double own = book == MeterBook::Apartment ? GetBuildingDelayPay(session, code) : 0;
+  return own != 0 ? own : session.rates.of(book).rate;
+}
+
+bool showsBlocks(const Session& session) {
+  return session.pc.settings.GetSetting(session.AppTitle, QStringLiteral("Config"),
+                                        QStringLiteral("체적검침동별보기"),
+                                        QStringLiteral("0")) != QStringLiteral("0");
+}
+
+// Kept: exactly four characters go, also of "아파트 전체" and of a block whose name is not three characters long.
+QString BuildingLabelForDong(Session& session, const QString& entry) {
+  return showsBlocks(session) ? entry.chopped(qMin<qsizetype>(4, entry.size())) : entry;
+}
