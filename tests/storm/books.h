@@ -1,0 +1,68 @@
+#pragma once
+// A retailer's books for the storm: real files in a folder, worked on by several processes, and what must be true of
+// them at any moment at which nobody posts.
+#include <QHash>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include "pc/pc.h"
+#include "store/session.h"
+#include "ui/prompts.h"
+
+namespace storm {
+
+constexpr int clientCount = 40;           ///< codes 1 to clientCount, all of whom owe the same at first
+constexpr qint64 startBalance = 500'000;  ///< won, gas and material alike
+
+/** Says Yes to every question and keeps what it was told; nobody sits at this PC. */
+class LonePrompts : public Prompts {
+ public:
+  QStringList told;          ///< texts of notices and warnings
+  QList<int> failures;       ///< numbers of the error boxes
+  QStringList failureTexts;  ///< their Korean texts
+
+  void MsgInfo(const QString& text, const QString&) override { told << text; }
+  void MsgWarn(const QString& text, const QString&) override { told << text; }
+  bool MsgAsk(const QString&, const QString&, bool) override { return true; }
+  void ErrorBox(const QString& text, int number, const QString& description) override {
+    told << text;
+    failures << number;
+    failureTexts << description;
+  }
+  std::optional<QString> InputBox(const QString&, const QString&, const QString& initial) override {
+    return initial;
+  }
+};
+
+/** One PC on the folder below root. */
+struct Pc {
+  explicit Pc(const QString& root);
+  /** Makes the empty files, the customers and the catalogue. */
+  void makeBooks();
+  /** As at the end of a start. Throws jet::Error. */
+  void open();
+  void close();
+
+  pc::Pc pc;
+  LonePrompts prompts;
+  Session session{pc, prompts};
+};
+
+/** A line of Sale as a process has told it. */
+struct Line {
+  int kind = 0;
+  qint64 client = 0, number = 0, income = 0, trust = 0;
+  bool operator==(const Line&) const = default;
+  QString text() const;
+};
+using Lines = QMap<qint64, Line>;
+
+/** Sale as it lies in the year file. */
+Lines storedLines(const Session& session);
+
+/** What is wrong with the books: an integrity check of every file, and balances and stock recomputed from the lines
+ *  of Sale. Empty when all is well. */
+QStringList faultsOf(const QString& root);
+
+}  // namespace storm

@@ -1,0 +1,91 @@
+// Several PCs on one folder.
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <memory>
+#include <thread>
+
+#include "store/data_files.h"
+#include "store/jet/error.h"
+#include "tests/storm/child.h"
+#include "tests/storm/pcs.h"
+#include "tests/storm/poster.h"
+
+namespace storm {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct ManyPcs : testing::Test {
+  QTemporaryDir folder;
+  void SetUp() override { Pc(folder.path()).makeBooks(); }
+
+  void postTogether(int pcs, int steps) {
+    std::vector<std::unique_ptr<Child>> children;
+    for (int pc = 0; pc < pcs; ++pc)
+      children.push_back(std::make_unique<Child>(QStringList{
+          u"--pc"_s, u"post"_s, folder.path(), QString::number(100 + pc), QString::number(steps)}));
+    Lines told;
+    QList<qint64> gone;
+    qint64 longest = 0;
+    int done = 0;
+    for (const auto& child : children) {
+      EXPECT_TRUE(child->finish(600000));
+      const Told one = Told::of(child->lines());
+      EXPECT_EQ(one.failureTexts.join(u'\n').toStdString(), "");
+      EXPECT_GE(one.steps, steps);
+      for (auto at = one.lines.begin(); at != one.lines.end(); ++at) {
+        EXPECT_FALSE(told.contains(at.key())) << "two PCs took line " << at.key() << " for theirs";
+        told[at.key()] = *at;
+      }
+      gone << one.gone;
+      longest = std::max(longest, one.longest);
+      done += one.steps;
+    }
+    EXPECT_EQ(faultsOf(folder.path()).join(u'\n').toStdString(), "");
+    Pc here(folder.path());
+    here.open();
+    EXPECT_EQ(differences(storedLines(here.session), told, gone, {}).join(u'\n').toStdString(), "");
+    EXPECT_LT(longest, 4000) << "milliseconds; a step waits no longer than the time limit";
+    std::printf("%d PCs: %d steps, %d lines in the book, the longest step %d ms\n", pcs, done,
+                int(told.size()), int(longest));
+  }
+};
+
+TEST_F(ManyPcs, TwoLoseNothing) {
+  postTogether(2, measure(60, 4000));
+}
+
+TEST_F(ManyPcs, FourLoseNothing) {
+  postTogether(4, measure(40, 4000));
+}
+
+TEST_F(ManyPcs, AHeldLockIsToldAndTheWorkGoesOnAfterwards) {
+  Pc here(folder.path());
+  here.open();
+  Child holder({u"--pc"_s, u"hold"_s, folder.path(), u"5500"_s});
+  ASSERT_TRUE(holder.waitFor(QLatin1String(word::ready), 30000));
+  QElapsedTimer since;
+  since.start();
+  try {
+    here.session.dbYear.Execute(u"Update Client Set GasInit = GasInit + 1 Where Code = 2"_s);
+    ADD_FAILURE() << "written under another PC's lock";
+  } catch (const jet::Error& error) {
+    EXPECT_EQ(error.number(), 3261);
+    EXPECT_TRUE(error.description().contains(u"다른 사용자에 의해 잠겨 있습니다"_s))
+        << error.description().toStdString();
+  }
+  EXPECT_GT(since.elapsed(), 3000);
+  EXPECT_LT(since.elapsed(), 6000);
+  EXPECT_EQ(here.session.dbYear.OpenRecordset(u"Select GasInit From Client Where Code = 2"_s)[0].toLong(),
+            startBalance)
+      << "reading goes on meanwhile";
+  ASSERT_TRUE(holder.finish(30000));
+  EXPECT_EQ(here.session.dbYear.Execute(u"Update Client Set GasInit = GasInit + 1 Where Code = 2"_s), 1);
+  EXPECT_EQ(here.session.dbYear.OpenRecordset(u"Select Memo From Client Where Code = 1"_s)[0].toText(),
+            u"held"_s);
+}
+
+}  // namespace
+}  // namespace storm

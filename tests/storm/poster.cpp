@@ -1,0 +1,146 @@
+#include "tests/storm/poster.h"
+
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QRandomGenerator>
+#include <deque>
+
+#include "store/jet/error.h"
+#include "tests/storm/books.h"
+#include "trade/sale_entry.h"
+
+using namespace Qt::StringLiterals;
+
+namespace storm {
+namespace {
+
+/** Hands out what the poster has chosen. */
+struct ChosenPickers : Pickers {
+  ClientChoice client;
+  ItemChoice item;
+
+  std::optional<ClientChoice> searchClient(const QString&, ClientSearchMode, bool) override { return client; }
+  std::optional<ItemChoice> searchSize(const QString&, TradeSide) override { return item; }
+  std::optional<VolumeChoice> searchVolume() override { return {}; }
+  std::optional<QString> searchResponse() override { return u"홍길동"_s; }
+  std::optional<QString> searchRefill() override { return {}; }
+  std::optional<BankChoice> searchBank() override { return {}; }
+  std::optional<PostCodeChoice> searchPostCode(const QString&) override { return {}; }
+  std::optional<BuildingChoice> searchBuilding(int) override { return {}; }
+  std::optional<QString> pickDate(const QString&) override { return {}; }
+  bool checkPassword() override { return true; }
+};
+
+struct NobodyCalls : WaitingCalls {
+  QString TakeStanbyNumber() override { return {}; }
+};
+
+class Poster {
+ public:
+  Poster(Pc& here, quint32 seed) : here_(here), random_(seed) {}
+
+  int steps() const { return steps_; }
+  qint64 longest() const { return longest_; }
+
+  /** One line from its customer to its money, at times changed once more or deleted. */
+  void sell() {
+    const SaleSheet sheet = below(4) == 0 ? SaleSheet::Material : SaleSheet::General;
+    posting_.FillSaleGrid(sheet, true);
+    pickers_.client = {1 + below(clientCount), u"손님"_s};
+    pickers_.item = sheet == SaleSheet::Material ? ItemChoice{u"밸브"_s, u"15A"_s, 3000, 0}
+                    : below(2)                   ? ItemChoice{u"LPG"_s, u"20"_s, 41000, 0}
+                                                 : ItemChoice{u"LPG"_s, u"50"_s, 98000, 0};
+    const int row = entry_.enterKey(grid().MaxRows(), SaleCol::Client, u"손님"_s).row;
+    if (row == 0) return;
+    const QStringList kinds = saleLabels(sheet);
+    step(row, [&] { entry_.finishCell(row, SaleCol::Kind, kinds.at(below(int(kinds.size())))); });
+    if (key(row).isEmpty()) return;
+    if (isCollection(kind(row))) {
+      finish(row, SaleCol::Income, 1 + below(9000));
+    } else {
+      step(row, [&] { entry_.enterKey(row, SaleCol::Item, {}); });
+      finish(row, SaleCol::Number, 1 + below(4));
+      finish(row, SaleCol::Income, below(40) * 1000);
+    }
+    if (below(3) == 0) finish(row, SaleCol::Income, 1 + below(3000));
+    // A material line stays: its deletion takes the credit off the other balance.
+    if (below(5) == 0 && sheet == SaleSheet::General) erase(row);
+  }
+
+ private:
+  SpreadModel& grid() { return posting_.grid(posting_.sheet()); }
+  QString key(int row) { return grid().text(row, SaleCol::Key); }
+  int kind(int row) { return saleKindAt(posting_.sheet(), grid().comboPosition(row, SaleCol::Kind)); }
+  int below(int limit) { return int(random_.bounded(limit)); }
+
+  void finish(int row, int col, int figure) {
+    step(row, [&] { entry_.finishCell(row, col, QString::number(figure)); });
+  }
+
+  void step(int row, const std::function<void()>& work) {
+    timed(key(row), work);
+    if (failed_ || key(row).isEmpty()) return;
+    const auto figure = [&](int col) { return QString::number(saleWhole(grid().text(row, col))); };
+    report(QStringList{QLatin1String(word::line), key(row), grid().text(row, SaleCol::Code),
+                       QString::number(kind(row)), figure(SaleCol::Number), figure(SaleCol::Income),
+                       figure(SaleCol::Trust)}
+               .join(u' '));
+  }
+
+  void erase(int row) {
+    const QString gone = key(row);
+    timed(gone, [&] { posting_.deleteRow(row); });
+    if (!failed_) report(QLatin1String(word::gone) + u' ' + gone);
+  }
+
+  void timed(const QString& key, const std::function<void()>& work) {
+    report(QLatin1String(word::at) + u' ' + (key.isEmpty() ? u"0"_s : key));
+    QElapsedTimer since;
+    since.start();
+    const qsizetype before = here_.prompts.failures.size();
+    try {
+      work();
+    } catch (const jet::Error& error) {
+      here_.prompts.ErrorBox({}, error.number(), error.description());
+    }
+    failed_ = here_.prompts.failures.size() > before;
+    if (failed_)
+      report(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
+                 .arg(here_.prompts.failures.last())
+                 .arg(here_.prompts.failureTexts.last()));
+    longest_ = std::max(longest_, since.elapsed());
+    ++steps_;
+  }
+
+  Pc& here_;
+  QRandomGenerator random_;
+  ChosenPickers pickers_;
+  NobodyCalls calls_;
+  SalePosting posting_{here_.session};
+  SaleEntry entry_{posting_, pickers_, calls_};
+  bool failed_ = false;
+  int steps_ = 0;
+  qint64 longest_ = 0;  // milliseconds
+};
+
+}  // namespace
+
+void report(const QString& text) {
+  const QByteArray bytes = text.toUtf8() + '\n';
+  // Straight to the pipe: a report held back in a buffer would die with the process.
+  if (::write(STDOUT_FILENO, bytes.constData(), size_t(bytes.size())) != bytes.size()) ::_exit(3);
+}
+
+int runPoster(const QStringList& arguments) {
+  Pc here(arguments.at(0));
+  here.open();
+  Poster poster(here, arguments.at(1).toUInt());
+  const int steps = arguments.at(2).toInt();
+  report(QLatin1String(word::ready));
+  while (steps == 0 || poster.steps() < steps) poster.sell();
+  report(u"%1 %2 %3"_s.arg(QLatin1String(word::done)).arg(poster.steps()).arg(poster.longest()));
+  return 0;
+}
+
+}  // namespace storm

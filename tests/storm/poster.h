@@ -1,0 +1,31 @@
+#pragma once
+// A process that posts: it works the sale screen's rules as an operator does and tells each finished step on its
+// standard output, so that the one who watches knows what must be in the books when it dies.
+#include <QStringList>
+
+namespace storm {
+
+/** Words of the report, one a line:
+ *    ready                                      the books are open
+ *    at KEY                                     a step on this line begins; 0 for a new one
+ *    line KEY CLIENT KIND PIECES INCOME CREDIT   it is written so
+ *    gone KEY                                   it is deleted
+ *    told NUMBER TEXT                           a statement failed with this error
+ *    done STEPS LONGEST                         steps done, the longest in milliseconds
+ */
+namespace word {
+inline const char* const ready = "ready";
+inline const char* const at = "at";
+inline const char* const line = "line";
+inline const char* const gone = "gone";
+inline const char* const told = "told";
+inline const char* const done = "done";
+}  // namespace word
+
+/** One line of a report, at once. */
+void report(const QString& text);
+
+/** The process's work: ROOT SEED STEPS; steps 0 works until it is killed. */
+int runPoster(const QStringList& arguments);
+
+}  // namespace storm
