@@ -14,6 +14,8 @@
 #include "app/start_up.h"
 #include "ui/guard.h"
 #include "ui/message_boxes.h"
+#include "ui/print_fonts.h"
+#include "ui/printers.h"
 #include "ui/style.h"
 
 using namespace Qt::StringLiterals;
@@ -27,6 +29,15 @@ void speakKorean(QApplication& application) {
   auto* translator = new QTranslator(&application);
   if (translator->load(korean, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
     QApplication::installTranslator(translator);
+}
+
+// Slips go to a bank's reader: letters of another font are told before they are printed.
+void tellMissingFonts(Prompts& boxes) {
+  const QStringList missing = missingPrintFonts();
+  if (missing.isEmpty()) return;
+  boxes.MsgWarn(
+      u"인쇄에 쓰는 글꼴이 설치되어 있지 않습니다: "_s + missing.join(u", "_s) +
+      u"\n프로그램은 계속 쓸 수 있으나 지로용지의 글자가 어긋나거나 은행에서 읽지 못할 수 있습니다."_s);
 }
 
 }  // namespace
@@ -44,6 +55,8 @@ int main(int argc, char** argv) {
   MessageBoxes boxes([&open] { return open ? open->AppTitle : QString(); });
   Session session(pc, boxes);
   open = &session;
+  PcPrinters printers(pc);
+  session.printers = &printers;
 
   StartUp startUp(session);
   FormPickers pickers(session);
@@ -65,6 +78,7 @@ int main(int argc, char** argv) {
     mainWindow->showMaximized();
     mainWindow->activateWindow();
     mainWindow->start();
+    tellMissingFonts(boxes);
   };
   bool usable = false;
   const bool stood = guarded(boxes, [&] {

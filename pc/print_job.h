@@ -41,7 +41,7 @@ class PrintJob {
   virtual void abandon() = 0;
 };
 
-/** Korean, for the operator. */
+/** Korean, for the operator. An empty text: he left the question for the file's name, and there is nothing to tell. */
 struct PrintError {
   QString text;
 };

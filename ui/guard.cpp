@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "pc/print_job.h"
 #include "store/jet/error.h"
 
 bool guardedBy(const std::function<void()>& work, const std::function<void(int, const QString&)>& say) {
@@ -10,6 +11,8 @@ bool guardedBy(const std::function<void()>& work, const std::function<void(int, 
     return true;
   } catch (const jet::Error& error) {
     say(error.number(), error.description());
+  } catch (const pc::PrintError& error) {
+    if (!error.text.isEmpty()) say(482, error.text);  // the language's number for a printer's error
   } catch (const std::bad_alloc&) {
     say(7, QStringLiteral("메모리가 부족합니다."));
   } catch (const std::exception& error) {
