@@ -1,5 +1,6 @@
 #include "ui/print_queue.h"
 
+#include <QSizeF>
 #include <QTemporaryFile>
 #include <QtGlobal>
 
