@@ -272,12 +272,39 @@ Prepared& WorkspaceData::prepare(const FilePtr& file, const Shape& shape, const 
   return **prepared_.insert(key, std::move(prepared));
 }
 
+/** A statement over several files is a group of its own. SQLite would take its files in their order and hold the first
+ *  while it waits for the next, and a group whose commit wants the first back waits for it: both would stand until the
+ *  time limit. With the main file first neither holds what the other waits for. */
 void WorkspaceData::run(Prepared& prepared, const std::function<void(Connection&)>& work) {
+  const bool alone = groupDepth_ == 0 && prepared.files.size() > 1;
+  if (alone && prepared.compiled.kind != Compiled::Kind::Select)
+    together([&] { runNow(prepared, work); });
+  else if (alone && std::ranges::count(prepared.files, files_.front()) == 0)
+    readBehindMainFile(work);
+  else
+    runNow(prepared, work);
+}
+
+void WorkspaceData::runNow(Prepared& prepared, const std::function<void(Connection&)>& work) {
   try {
     beginStatement(prepared.files);
     work(*connection_);
-  } catch (const Error&) {
-    afterFailure();
+  } catch (const Error& error) {
+    afterFailure(error);
+    throw;
+  }
+}
+
+/** SQLite takes the main file before all others, but only where the statement reads it. */
+void WorkspaceData::readBehindMainFile(const std::function<void(Connection&)>& work) {
+  connection_->exec("BEGIN");
+  try {
+    connection_->exec("SELECT 1 FROM main.jet_links LIMIT 1");
+    work(*connection_);
+    connection_->exec("COMMIT");
+  } catch (const Error& error) {
+    connection_->tryExec("ROLLBACK");
+    afterFailure(error);
     throw;
   }
 }
@@ -287,8 +314,8 @@ void WorkspaceData::runOn(const FilePtr& file, const std::function<void(Connecti
     ensureAttached(file);
     beginStatement({file});
     work(*connection_);
-  } catch (const Error&) {
-    afterFailure();
+  } catch (const Error& error) {
+    afterFailure(error);
     throw;
   }
 }
@@ -312,16 +339,30 @@ void WorkspaceData::together(const std::function<void()>& work) {
     // No undo: what ran before the failure stays. When even that cannot be kept, the first failure is what counts.
     if (--groupDepth_ == 0) {
       try {
-        commitGroup();
-        if (untidy_) tidy();
+        endGroup();
       } catch (const Error&) {
       }
     }
     throw;
   }
-  if (--groupDepth_ > 0) return;
+  if (--groupDepth_ == 0) endGroup();
+}
+
+void WorkspaceData::endGroup() {
+  const std::optional<Error> undoneBy = groupFailure();
+  groupBegan_ = false;
+  undoneBy_.reset();
   commitGroup();
   if (untidy_) tidy();
+  if (undoneBy) throw *undoneBy;
+}
+
+/** A full disk or a failing one makes SQLite undo the whole transaction, and with it the group's earlier statements.
+ *  What the work would still add must not stand alone: every further statement of the group fails in the same way, and
+ *  so does the group, although the work may have told the failure in a box and gone on. */
+std::optional<Error> WorkspaceData::groupFailure() const {
+  if (!groupBegan_ || (connection_ && connection_->inTransaction())) return {};
+  return undoneBy_ ? undoneBy_ : errorOf(3043);
 }
 
 /** Within a group every file that a statement touches, reading too, is reserved for writing first. Two PCs that had
@@ -330,8 +371,10 @@ void WorkspaceData::together(const std::function<void()>& work) {
  *  order would wait for each other until one gives up. Other files that the group does not touch stay free. */
 void WorkspaceData::beginStatement(const std::vector<FilePtr>& files) {
   if (groupDepth_ == 0) return;
+  if (const auto failure = groupFailure()) throw *failure;
   if (!connection_->inTransaction()) {
     connection_->exec("BEGIN");
+    groupBegan_ = true;
     for (const FilePtr& file : files_) file->reserved = false;
     reserve(*files_.front());
   }
@@ -348,16 +391,18 @@ void WorkspaceData::commitGroup() {
   if (!connection_ || !connection_->inTransaction()) return;
   try {
     connection_->exec("COMMIT");
-  } catch (const Error&) {
+    groupBegan_ = false;
+  } catch (const Error& error) {
     connection_->tryExec("ROLLBACK");
-    afterFailure();
+    afterFailure(error);
     throw;
   }
 }
 
 /** Some failures (full disk, damaged file) undo the whole transaction; what we know of the files is then old. */
-void WorkspaceData::afterFailure() {
+void WorkspaceData::afterFailure(const Error& error) {
   if (!connection_ || connection_->inTransaction()) return;
+  if (groupBegan_ && !undoneBy_) undoneBy_ = error;
   prepared_.clear();
   for (const FilePtr& file : files_) file->outdated = true;
 }

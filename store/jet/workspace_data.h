@@ -3,6 +3,7 @@
 #include <QHash>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "store/jet/compile.h"
@@ -64,10 +65,14 @@ class WorkspaceData {
   void lockExclusively(DataFile& file);
   void unlock(DataFile& file);
 
+  void runNow(Prepared& prepared, const std::function<void(Connection&)>& work);
+  void readBehindMainFile(const std::function<void(Connection&)>& work);
   void beginStatement(const std::vector<FilePtr>& files);
   void reserve(DataFile& file);
   void commitGroup();
-  void afterFailure();
+  void endGroup();
+  std::optional<Error> groupFailure() const;
+  void afterFailure(const Error& error);
 
   Workspace::Options options_;
   std::unique_ptr<Connection> connection_;
@@ -76,7 +81,9 @@ class WorkspaceData {
   int aliases_ = 0;
   quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
   int groupDepth_ = 0;
-  bool untidy_ = false;  ///< a file may have become needless within the group
+  bool groupBegan_ = false;  ///< a transaction was begun for the group and neither committed nor given up
+  std::optional<Error> undoneBy_;  ///< the failure that undid it
+  bool untidy_ = false;            ///< a file may have become needless within the group
 };
 
 /** An open handle's part of a file; the last copy lets the file go. */

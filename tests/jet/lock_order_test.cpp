@@ -1,0 +1,127 @@
+// Statements and groups of two PCs that need the same files, and a group that the store has undone.
+#include <sys/resource.h>
+
+#include <QElapsedTimer>
+#include <csignal>
+#include <thread>
+
+#include "tests/jet/engine_fixture.h"
+
+namespace jet_tests {
+namespace {
+
+constexpr int patience = 3000;  // milliseconds before a PC gives up; two that wait for each other use it up
+
+struct LockOrder : Engine {
+  void SetUp() override {
+    Engine::SetUp();
+    basic.Execute(u"Insert Into Client(Name, GasInit) Values('a', 0)"_s);
+    year.Execute(u"Insert Into Sale(ClientCode, SaleNum) Values(1, 0)"_s);
+    basic.Close();
+    year.Close();
+  }
+
+  /** One PC's group over both files, during which another PC begins a statement. */
+  void statementAgainstGroup(const QString& sql) const {
+    const jet::Workspace one = open(patience), two = open(patience);
+    const auto mine = one.OpenDatabase(path(u"2026Foundation.mdb"_s));
+    const auto theirs = two.OpenDatabase(path(u"2026Foundation.mdb"_s));
+    theirs.Execute(sql);  // so that later only the locks are waited for
+    int failure = 0, otherFailure = 0;
+    std::thread other;
+    QElapsedTimer since;
+    failure = failureOf([&] {
+      one.Together([&] {
+        mine.Execute(u"Update Client Set GasInit = GasInit + 1"_s);
+        mine.Execute(u"Update Sale Set SaleNum = SaleNum + 1"_s);
+        other = std::thread([&] { otherFailure = failureOf([&] { theirs.Execute(sql); }); });
+        std::this_thread::sleep_for(std::chrono::milliseconds(150));
+        since.start();
+      });
+    });
+    other.join();
+    EXPECT_EQ(failure, 0) << sql.toStdString();
+    EXPECT_EQ(otherFailure, 0) << sql.toStdString();
+    EXPECT_LT(since.elapsed(), patience / 2) << sql.toStdString();
+  }
+};
+
+TEST_F(LockOrder, AStatementOverTwoFilesDoesNotWaitForAGroupThatWaitsForIt) {
+  // Reads Basic.mdb and writes the year file; the other way round; reads both of one file.
+  statementAgainstGroup(u"Update Sale Set SaleDate = 'x' Where ClientCode In (Select Code From Client)"_s);
+  statementAgainstGroup(u"Update Client Set Ho = 'x' Where Code In (Select ClientCode From Sale)"_s);
+  statementAgainstGroup(u"Delete From Sale Where ClientCode In (Select Code From Client Where Name = 'z')"_s);
+}
+
+TEST_F(LockOrder, FilesOpenedInAnotherOrderAreReadWithoutADeadlock) {
+  const auto tax = open().CreateDatabase(path(u"dbTax.mdb"_s));
+  tax.createTable(table(u"Tax"_s, {number(u"Code"_s), number(u"Sum"_s)}));
+  tax.Execute(u"Insert Into Tax Values(1, 0)"_s);
+  // Together or not at all: the two figures are always the same.
+  int written = 0, failures = 0, torn = 0;
+  std::thread writer([&] {
+    const jet::Workspace own = open(patience);
+    const auto first = own.OpenDatabase(path(u"2026Foundation.mdb"_s)),
+               second = own.OpenDatabase(path(u"dbTax.mdb"_s));
+    for (; written < 150; ++written)
+      failures += 0 != failureOf([&] {
+                    own.Together([&] {
+                      first.Execute(u"Update Sale Set SaleNum = SaleNum + 1"_s);
+                      second.Execute(u"Update Tax Set Sum = Sum + 1"_s);
+                    });
+                  });
+  });
+  const jet::Workspace own = open(patience);
+  const auto second = own.OpenDatabase(path(u"dbTax.mdb"_s)),
+             first = own.OpenDatabase(path(u"2026Foundation.mdb"_s));
+  const QString both =
+      u"Select Tax.Sum, Sale.SaleNum From Tax Inner Join [%1].Sale On Tax.Code = Sale.ClientCode"_s.arg(
+          path(u"2026Foundation.mdb"_s));
+  QElapsedTimer since;
+  since.start();
+  for (int i = 0; i < 300; ++i)
+    failures += 0 != failureOf([&] {
+                  const auto rs = second.OpenRecordset(both);
+                  torn += rs[0].toLong() != rs[1].toLong();
+                });
+  writer.join();
+  EXPECT_EQ(failures, 0);
+  EXPECT_EQ(torn, 0);
+}
+
+/** No file of this process can grow while this lives: as if the disk were full. */
+struct NoMoreRoom {
+  NoMoreRoom() {
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit none = before;
+    none.rlim_cur = 0;
+    setrlimit(RLIMIT_FSIZE, &none);
+  }
+  ~NoMoreRoom() { setrlimit(RLIMIT_FSIZE, &before); }
+  rlimit before{};
+};
+
+TEST_F(LockOrder, AGroupThatTheStoreHasUndoneTakesNothingMore) {
+  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
+  int later = 0;
+  const int failure = failureOf([&] {
+    workspace.Together([&] {
+      year.Execute(u"Update Client Set GasInit = 500"_s);
+      {
+        const NoMoreRoom full;
+        EXPECT_EQ(failureOf([&] { year.Execute(u"Update Sale Set SaleNum = 5"_s); }), 3043);
+      }
+      // The work did not look at the failure and goes on, as a rule does after a box has told it.
+      later = failureOf([&] { year.Execute(u"Update Sale Set SaleDate = 'later'"_s); });
+    });
+  });
+  EXPECT_EQ(later, 3043);
+  EXPECT_EQ(failure, 3043) << "whoever asked for the group learns that nothing of it stands";
+  EXPECT_EQ(rows(year, u"Select GasInit, SaleNum, SaleDate From Sale, Client"_s), "0|0|-");
+  workspace.Together([&] { year.Execute(u"Update Sale Set SaleNum = 7"_s); });
+  EXPECT_EQ(rows(year, u"Select SaleNum From Sale"_s), "7") << "the next group is a new one";
+}
+
+}  // namespace
+}  // namespace jet_tests
