@@ -24,12 +24,14 @@ double roundToTen(double won, std::optional<int> payState) {
   }
 }
 
-double RoundByPayState(Session& session, double won) {
-  std::optional<int> payState;
+std::optional<int> companyPayState(Session& session) {
   jet::Recordset rs;
-  if (OpenSnapshot(session.prompts, session.dbBasic, rs, QStringLiteral("Select PayState From User")) &&
-      rs.RecordCount() > 0) {
-    payState = int(rs["PayState"].toLong());
-  }
-  return roundToTen(won, payState);
+  if (!OpenSnapshot(session.prompts, session.dbBasic, rs, QStringLiteral("Select PayState From User")) ||
+      rs.RecordCount() == 0)
+    return {};
+  return int(rs["PayState"].toLong());
+}
+
+double RoundByPayState(Session& session, double won) {
+  return roundToTen(won, companyPayState(session));
 }

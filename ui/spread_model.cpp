@@ -24,6 +24,12 @@ void SpreadModel::setColumnHidden(int col, bool hidden) {
   tell(What::Columns, 0, col);
 }
 
+void SpreadModel::setColumnLocked(int col, bool locked, int background) {
+  columns_.at(col - 1).locked = locked;
+  columns_.at(col - 1).background = background;
+  tell(What::Columns, 0, col);
+}
+
 void SpreadModel::setCombo(int col, const QStringList& labels) {
   columns_.at(col - 1).combo = labels;
   tell(What::Columns, 0, col);
@@ -118,7 +124,8 @@ void SpreadModel::setLocked(int row, int col, bool locked) {
 
 int SpreadModel::background(int row, int col) const {
   const Row& of = rows_.at(size_t(row - 1));
-  return colours_.value(key(int(of.id), col), of.background);
+  const int under = of.background >= 0 || col == 0 ? of.background : column(col).background;
+  return colours_.value(key(int(of.id), col), under);
 }
 
 void SpreadModel::setBackground(int row, int col, int rgb) {

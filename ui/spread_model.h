@@ -21,6 +21,7 @@ struct SpreadColumn {
   bool hidden = false;
   int maxLength = 0;       ///< characters; 0: no limit
   QStringList combo = {};  ///< the labels of a Combo column, by position
+  int background = -1;     ///< 0xRRGGBB of its cells; -1 takes the grid's own
 };
 
 class SpreadModel {
@@ -33,6 +34,8 @@ class SpreadModel {
   const SpreadColumn& column(int col) const { return columns_.at(col - 1); }
   void setColumnHeader(int col, const QString& header);
   void setColumnHidden(int col, bool hidden);
+  /** Of all cells that have no lock of their own; background as SpreadColumn's. */
+  void setColumnLocked(int col, bool locked, int background);
   void setCombo(int col, const QStringList& labels);
   int MaxCols() const { return int(columns_.size()); }
 
@@ -57,7 +60,8 @@ class SpreadModel {
   /** The column's lock unless the cell has its own. */
   bool locked(int row, int col) const;
   void setLocked(int row, int col, bool locked);
-  /** 0xRRGGBB; -1 takes the grid's own. col 0 speaks of the whole row. */
+  /** 0xRRGGBB of the cell, else of its row, else of its column; -1 takes the grid's own. col 0 speaks of the whole
+   *  row. */
   int background(int row, int col) const;
   void setBackground(int row, int col, int rgb);
   bool bold(int row) const;

@@ -1,0 +1,107 @@
+#include "billing/reading_bill.h"
+
+#include <cmath>
+#include <optional>
+
+#include "billing/building_rate.h"
+#include "billing/reading_sheet.h"
+#include "store/data_access.h"
+#include "store/data_files.h"
+#include "store/rounding.h"
+#include "store/session.h"
+#include "store/vb.h"
+
+namespace {
+
+/** The month before was paid after its due date without the late charge. */
+bool wasPaidLate(const ReadingSheet& sheet, int row) {
+  Session& session = sheet.session;
+  return DAO_GetValue(
+             session.prompts, session.dbYear, "paydelayed", "evaporation",
+             "where clientcode = " + sheet.code(row) + " and mon = " + QString::number(sheet.month - 1))
+      .toBool();
+}
+
+/** The gas money of a month; otherwise when there is no such row, nothing when the statement failed. */
+std::optional<double> usePayOf(Session& session, const jet::Database& year, const QString& code, int month,
+                               double otherwise) {
+  jet::Recordset rs;
+  if (!OpenSnapshot(session.prompts, year, rs,
+                    "Select UsePay from Evaporation where ClientCode = " + code +
+                        " AND Mon = " + QString::number(month)))
+    return {};
+  return rs.atEnd() ? otherwise : rs[0].toDouble();
+}
+
+/** What the late charge runs on: all arrears, or the money of last month's gas alone. Nothing when that cannot be
+ *  read. */
+std::optional<double> lateChargeBase(const ReadingSheet& sheet, int row) {
+  Session& session = sheet.session;
+  const double arrears = sheet.number(row, EvaCol::Trust);
+  const bool oneMonthOnly = session.DelayCalcFlag == QStringLiteral("1");
+  const bool paidLate = !oneMonthOnly && wasPaidLate(sheet, row);
+  if (!oneMonthOnly && !paidLate) return arrears;
+
+  if (sheet.month == 1 && arrears != 0) {
+    const int lastYear = session.pc.clock.today().year() - 1;
+    jet::Database december;
+    if (!OpenDB(session.wsMain, december, yearFile(session, QString::number(lastYear)))) return {};
+    return usePayOf(session, december, sheet.code(row), 12, arrears);
+  }
+  if (arrears != 0 || paidLate)
+    return usePayOf(session, session.dbYear, sheet.code(row), sheet.month - 1, arrears);
+  return arrears;
+}
+
+void moveTotal(ReadingSheet& sheet, int row, double by) {
+  sheet.setNumber(row, EvaCol::Total, sheet.number(row, EvaCol::Total) + by);
+}
+
+}  // namespace
+
+double meterDifference(double now, double before) {
+  return vb::CCur(now - before);
+}
+
+void CalcReadingRow(ReadingSheet& sheet, int row) {
+  Session& session = sheet.session;
+  // A meter that ran backward gives a negative use and amount; nothing refuses them.
+  const double use =
+      meterDifference(sheet.number(row, EvaCol::UseGage), sheet.number(row, EvaCol::PrevUseGage));
+  sheet.setNumber(row, EvaCol::UseMuch, use);
+  sheet.setNumber(row, EvaCol::UsePay, sheet.number(row, EvaCol::VolumeUnit) * use);
+
+  const std::optional<double> base = lateChargeBase(sheet, row);
+  if (!base) return;
+  const double rate = lateRate(session, sheet.book, sheet.code(row).toLongLong());
+  sheet.setNumber(row, EvaCol::Delay, RoundByPayState(session, rate * *base / 100));
+
+  sheet.setNumber(row, EvaCol::Manage, session.rates.of(sheet.book).security);
+
+  if (!sheet.grid.text(row, EvaCol::TrustDay).trimmed().isEmpty() &&
+      session.prompts.MsgAsk("수금일자를 수정 하시겠습니까?"))
+    sheet.grid.setText(row, EvaCol::TrustDay, sheet.readingDay);
+
+  CalcRowTotal(sheet, row);
+}
+
+void CalcRowTotal(ReadingSheet& sheet, int row) {
+  const double late = std::nearbyint(sheet.number(row, EvaCol::Delay));  // a half to the even won
+  sheet.setNumber(
+      row, EvaCol::Total,
+      RoundByPayState(sheet.session, sheet.number(row, EvaCol::UsePay) + sheet.number(row, EvaCol::Trust) +
+                                         late + sheet.number(row, EvaCol::Manage) -
+                                         sheet.number(row, EvaCol::Pay)));
+}
+
+void ApplyPayEdit(ReadingSheet& sheet, double before, int row) {
+  moveTotal(sheet, row, before - sheet.number(row, EvaCol::Pay));
+}
+
+void ApplyDelayEdit(ReadingSheet& sheet, double before, int row) {
+  moveTotal(sheet, row, sheet.number(row, EvaCol::Delay) - before);
+}
+
+void ApplyManageEdit(ReadingSheet& sheet, double before, int row) {
+  moveTotal(sheet, row, sheet.number(row, EvaCol::Manage) - before);
+}

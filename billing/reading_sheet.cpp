@@ -1,0 +1,138 @@
+#include "billing/reading_sheet.h"
+
+#include "store/session.h"
+#include "store/vb.h"
+
+namespace {
+
+constexpr int lockedCell = 0xE6EFF7;  // sky: not for typing
+
+SpreadColumn shown(const char* header, double width) {
+  return {.header = header,
+          .width = width,
+          .kind = CellKind::Money,
+          .align = CellAlign::Right,
+          .locked = true,
+          .background = lockedCell};
+}
+
+SpreadColumn typed(const char* header, double width) {
+  return {
+      .header = header, .width = width, .kind = CellKind::Money, .align = CellAlign::Right, .maxLength = 12};
+}
+
+SpreadColumn tick(const char* header, double width) {
+  return {.header = header, .width = width, .kind = CellKind::CheckBox, .align = CellAlign::Center};
+}
+
+SpreadColumn carried(const char* header) {
+  return {.header = header, .width = 12, .locked = true, .hidden = true};
+}
+
+std::vector<SpreadColumn> readingColumns() {
+  return {{.header = "상호/성명", .width = 20, .locked = true, .background = lockedCell},
+          shown("전월검침", 10),
+          typed("당월검침", 10),
+          shown("사용량", 9),
+          shown("사용금액", 11),
+          shown("미수금", 11),
+          typed("연체료", 9),
+          typed("안전관리비", 10),
+          shown("발행금액", 11),
+          typed("당월수금", 11),
+          tick("발행", 5),
+          {.header = "수금일", .width = 7, .align = CellAlign::Center, .maxLength = 10},
+          carried("고객코드"),
+          carried("체적단가"),
+          carried("주소"),
+          carried("전화"),
+          carried("성명"),
+          carried("결제"),
+          tick("납기후", 7),
+          carried("건물명")};
+}
+
+}  // namespace
+
+ReadingSheet::ReadingSheet(Session& of) : session(of) {
+  grid.setColumns(readingColumns());
+  readingDay = today();
+}
+
+QString ReadingSheet::monthText() const {
+  if (month < 0) return {};
+  return isOpening() ? QStringLiteral("기초") : QString::number(month).rightJustified(2, u'0');
+}
+
+QString ReadingSheet::buildingEntry() const {
+  return buildings.value(building);
+}
+
+int ReadingSheet::calendarMonth() const {
+  return session.pc.clock.today().month();
+}
+
+QString ReadingSheet::today() const {
+  return session.pc.clock.today().toString(QStringLiteral("MM/dd"));
+}
+
+double ReadingSheet::number(int row, int col) const {
+  return vb::Val(grid.text(row, col));
+}
+
+void ReadingSheet::setNumber(int row, int col, double value) {
+  grid.setText(row, col, vb::CStr(value));
+}
+
+QString bookCaption(MeterBook book) {
+  switch (book) {
+    case MeterBook::Apartment:
+      return QStringLiteral("체적아파트");
+    case MeterBook::MultiHousehold:
+      return QStringLiteral("체적다가구");
+    case MeterBook::Individual:
+      break;
+  }
+  return QStringLiteral("체적일반");
+}
+
+QString readingHelp(int col) {
+  switch (col) {
+    case EvaCol::Name:
+      return QStringLiteral("거래처명은 수정할 수 없습니다");
+    case EvaCol::PrevUseGage:
+      return QStringLiteral("전월 검침량은 수정할 수 없습니다");
+    case EvaCol::UseGage:
+      // Kept: nothing refuses the reading of another month.
+      return QStringLiteral("현재달 이외의 검침량은 수정할 수 없습니다, 검침원 입력:F5");
+    case EvaCol::UseMuch:
+      return QStringLiteral("당월의 가스사용량은 나타내며 수정할 수 없습니다");
+    case EvaCol::UsePay:
+      return QStringLiteral("당월의 가스사용금액을 나타내며 수정할 수 없습니다");
+    case EvaCol::Trust:
+      return QStringLiteral("전월의 발행금액을 나타내며 수정할 수 없습니다");
+    case EvaCol::Manage:
+      return QStringLiteral("현재 설정된 안전관리비입니다");
+    case EvaCol::Total:
+      return QStringLiteral("발행금액 = 당월금액 + 미수금 + 연체료 + 안전관리비 - 당월수금");
+    case EvaCol::Pay:
+      return QStringLiteral("당월의 수금액을 조회/입력합니다,  수금원 입력:F5");
+    case EvaCol::Prnt:
+      return QStringLiteral("지로용지 발행여부를 나타냅니다");
+    case EvaCol::TrustDay:
+      return QStringLiteral("수금일자를 입력/수정합니다");
+    case EvaCol::PayDelayed:
+      return QStringLiteral("납기후에 수금한 경우 체크해 주세요.(단, 수금액에 연체료 미포함시만 해당)");
+    default:
+      return {};
+  }
+}
+
+RowBackup::RowBackup(SpreadModel& grid, int row) : grid_(grid), row_(row) {
+  for (int col = 1; col <= grid.MaxCols(); ++col) cells_ << grid.text(row, col);
+}
+
+RowBackup::~RowBackup() {
+  if (row_ == 0) return;
+  for (int col = 1; col <= grid_.MaxCols(); ++col) grid_.setText(row_, col, cells_[col - 1]);
+}

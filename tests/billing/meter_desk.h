@@ -1,0 +1,90 @@
+#pragma once
+// A meter book to work on: a company with its billing figures, customers with their thirteen rows, the sheet.
+#include "billing/reading_load.h"
+#include "billing/reading_sheet.h"
+#include "store/rate_book.h"
+#include "tests/support.h"
+
+namespace tests {
+
+/** The clock stands on 2026-03-05 unless a test says otherwise; sums are cut to ten won (rule 1). */
+struct MeterDesk {
+  TestPc pc;
+  Session& session = pc.session;
+  ReadingSheet sheet{session};
+
+  explicit MeterDesk(const QDate& today = {2026, 3, 5}) {
+    pc.openBooks(today);
+    sheet.readingDay = sheet.today();
+    session.DelayCalcFlag = "0";
+    session.dbBasic.Execute(
+        "Insert Into User(Company, PayState, Rate, Security, AptRate, AptSecurity, ManyRate, ManySecurity) "
+        "Values('해온가스', 1, 2, 1000, 1.5, 800, 3, 700)");
+    EXPECT_TRUE(readRateBook(session));
+  }
+
+  void run(const QString& sql) { session.dbYear.Execute(sql); }
+  void basic(const QString& sql) { session.dbBasic.Execute(sql); }
+  /** Fields parted by "|", rows by ";". */
+  QString rows(const QString& sql) {
+    QStringList lines;
+    for (jet::Recordset rs = session.dbYear.OpenRecordset(sql); !rs.atEnd(); rs.MoveNext()) {
+      QStringList fields;
+      for (int at = 0; at < rs.fieldNames().size(); ++at) fields << rs[at].toText();
+      lines << fields.join('|');
+    }
+    return lines.join(';');
+  }
+  QString field(const QString& column, int code, int month) {
+    return rows(QString("Select %1 From Evaporation Where ClientCode = %2 And Mon = %3")
+                    .arg(column, QString::number(code), QString::number(month)));
+  }
+  void payState(int rule) { basic("Update User Set PayState = " + QString::number(rule)); }
+
+  /** A customer with rows 0 to 12; style 0, 1 or 2. His code. */
+  int customer(const QString& name, int price, int style = 0, const QString& building = {},
+               const QString& dong = {}, const QString& ho = {}) {
+    const auto quoted = [](const QString& text) {
+      return text.isNull() ? QString("Null") : "'" + text + "'";
+    };
+    basic(QString(
+              "Insert Into Client(Name, HouseStyle, VolumeYesNo, VolumeUnit, BDName, Dong, Ho, Tel, Address) "
+              "Values('%1', %2, True, %3, %4, %5, %6, '053-1', '대구')")
+              .arg(name, QString::number(style), QString::number(price), quoted(building), quoted(dong),
+                   quoted(ho)));
+    const int code = int(session.dbBasic.OpenRecordset("Select Max(Code) As C From Client")[0].toLong());
+    session.wsMain.Together([&] {
+      for (int month = 0; month <= 12; ++month)
+        run(QString("Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)").arg(code).arg(month));
+    });
+    return code;
+  }
+  void set(int code, int month, const QString& columns) {
+    run(QString("Update Evaporation Set %1 Where ClientCode = %2 And Mon = %3")
+            .arg(columns)
+            .arg(code)
+            .arg(month));
+  }
+
+  void show(MeterBook book, int month, int building = 0) {
+    sheet.book = book;
+    sheet.month = month;
+    fillBuildings(sheet);
+    sheet.building = sheet.buildings.isEmpty() ? -1 : building;
+    if (month == 0) pc.prompts.expect("체적기초 입력시 주의사항!");
+    showReadings(sheet);
+  }
+  /** Cells of a row, parted by "|". */
+  QString cells(int row, std::initializer_list<int> columns) {
+    QStringList texts;
+    for (const int col : columns) texts << sheet.grid.text(row, col);
+    return texts.join('|');
+  }
+  /** Use, amount, arrears, late charge, fee, total. */
+  QString bill(int row) {
+    return cells(
+        row, {EvaCol::UseMuch, EvaCol::UsePay, EvaCol::Trust, EvaCol::Delay, EvaCol::Manage, EvaCol::Total});
+  }
+};
+
+}  // namespace tests
