@@ -1,0 +1,61 @@
+#include "giro/jiro_ocr.h"
+
+#include "billing/reading_screen.h"
+#include "giro/ocr_layout.h"
+#include "store/session.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+const QString surroundings = u"환경설정"_s, thisMonthKey = u"OCRA4지로_당월기본"_s;
+}
+
+int JiroOcr::noteWidth() const {
+  return ocrLayout(paper_).noteWidth;
+}
+
+QDate JiroOcr::dueDate() const {
+  return session_.pc.clock.today();
+}
+
+bool JiroOcr::startsWithThisMonth() const {
+  return session_.pc.settings.GetSetting(session_.AppTitle, surroundings, thisMonthKey, u"0"_s) != "0"_L1;
+}
+
+void JiroOcr::setStartsWithThisMonth(bool on) {
+  session_.pc.settings.SaveSetting(session_.AppTitle, surroundings, thisMonthKey, on ? u"1"_s : u"0"_s);
+}
+
+QDate JiroOcr::shownMonth() const {
+  const QDate today = session_.pc.clock.today();
+  const ReadingScreen* screen = screen_();
+  return QDate(today.year(), 1, 1).addMonths((screen ? screen->month() : today.month()) - 1);
+}
+
+int JiroOcr::firstUseMonth() const {
+  return shownMonth().addMonths(startsWithThisMonth() ? 0 : -1).month();
+}
+
+std::pair<QString, QString> JiroOcr::usePeriod(int useMonth) const {
+  const QDate shown = shownMonth();
+  QDate first(shown.year(), useMonth, 1);
+  if (first > shown) first = first.addYears(-1);
+  const auto text = [](const QDate& day) { return day.toString(u"yyyy.MM.dd"_s); };
+  return {text(first), text(first.addMonths(1).addDays(-1))};
+}
+
+int JiroOcr::print(const GiroInput& input, GiroSelection selection,
+                   const std::function<bool(int done, int of)>& tell) {
+  const ReadingScreen* screen = screen_();
+  const OcrLayout& layout = ocrLayout(paper_);
+  const auto slip = [&](pc::PrintJob& job, const GiroSetup& setup, int row, int place) {
+    printOcrSlip(job, setup, paper_, place, slipTexts(session_, *screen, row, paper_, input), input.notes);
+  };
+  return runGiro(session_, screen,
+                 {.title = paper_ == OcrPaper::A4 ? u"OCR-A4 지로"_s : u"OCR 지로"_s,
+                  .paper = layout.paper,
+                  .slipsOnPage = layout.slipsOnPage,
+                  .selection = selection,
+                  .slip = slip,
+                  .tell = tell});
+}
