@@ -9,6 +9,7 @@
 #include "master/frmBank.h"
 #include "master/frmClient.h"
 #include "master/frmGasUtil.h"
+#include "master/frmHouseStyle.h"
 #include "master/frmRefillState.h"
 #include "master/frmResponse.h"
 #include "master/frmVolume.h"
@@ -36,6 +37,7 @@ const FormEntry formTable[] = {
     formEntry<FrmPath>(u"FrmPath"),
     formEntry<frmClient>(u"frmClient"),
     formEntry<frmGasUtil>(u"frmGasUtil"),
+    formEntry<frmHouseStyle>(u"frmHouseStyle"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmSale>(u"frmSale"),

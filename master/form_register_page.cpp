@@ -1,9 +1,11 @@
 #include "master/form_register_page.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -19,6 +21,7 @@ QString boxText(const QWidget* box) {
   if (auto* const line = qobject_cast<const QLineEdit*>(box)) return line->text().trimmed();
   if (auto* const lines = qobject_cast<const QPlainTextEdit*>(box)) return lines->toPlainText();
   if (auto* const combo = qobject_cast<const QComboBox*>(box)) return combo->currentText();
+  if (auto* const tick = qobject_cast<const QAbstractButton*>(box)) return tick->isChecked() ? "-1" : "0";
   return {};
 }
 
@@ -32,6 +35,12 @@ void setBoxText(QWidget* box, const QString& text) {
     lines->setPlainText(text);
   } else if (auto* const combo = qobject_cast<QComboBox*>(box)) {
     combo->setCurrentIndex(combo->findText(text));
+  } else if (auto* const tick = qobject_cast<QCheckBox*>(box)) {
+    tick->setChecked(text.toInt() != 0);
+  } else if (auto* const option = qobject_cast<QRadioButton*>(box)) {
+    // An option goes out only by another one's coming on.
+    for (QRadioButton* const each : option->parentWidget()->findChildren<QRadioButton*>())
+      if ((each == option) == (text.toInt() != 0)) each->setChecked(true);
   }
 }
 

@@ -20,7 +20,7 @@ class RegisterPage : public QWidget {
   QGroupBox* boxPanel() const { return panel_; }
   const RegisterRules& rules() const { return rules_; }
 
-  /** The box holds the column. */
+  /** The box holds the column; a tick or the first of two options holds "-1" when it is on, else "0". */
   void bind(QWidget* box, const QString& column, const QString& help = {});
   /** What the help line shows while the list has the focus. */
   void setListHelp(const QString& help);

@@ -1,0 +1,145 @@
+#include "master/building_households.h"
+
+#include "master/client_rows.h"
+#include "master/register_rules.h"
+#include "store/data_access.h"
+#include "store/jet/error.h"
+#include "store/long_work.h"
+
+namespace {
+
+constexpr auto registerOfBuildings = "건물관리자";
+
+QString yesNo(bool yes) {
+  return yes ? "True" : "False";
+}
+
+QString buildingStatement(const Building& b) {
+  return "Insert Into APT(Name, PostCode, Address, Dong, Structure, Height, Width, "
+         "Evaporation, Gubun, Pressure, Eva, delaypay) Values('" +
+         b.name + "', '" + b.postCode + "', '" + b.address + "', '" + b.dong + "', " + yesNo(b.staircase) +
+         ", " + QString::number(b.floors) + ", " + QString::number(b.width) + ", " + yesNo(b.metered) + ", " +
+         yesNo(b.houseStyle == HouseStyle::Apartment) + ", '" + b.pressure + "', " +
+         typedNumber(b.unitPrice) + ", " + typedNumber(b.lateRate) + ")";
+}
+
+/** What head row and households share behind their place. */
+QString commonValues(const Session& session, const Building& b) {
+  return "', '" + b.postCode + "', '" + b.address + "', " + yesNo(b.metered) + ", '" + b.pressure + "', " +
+         typedNumber(b.unitPrice) + ", 2, '" + session.pc.clock.dateText() + "')";
+}
+
+QString placeValues(const Building& b) {
+  return QString::number(int(b.houseStyle)) + ", '" + b.name + "', '" + b.dong;
+}
+
+QString headStatement(const Session& session, const Building& b) {
+  return "Insert Into Client(Name, HouseStyle, BDName, Dong, PostCode, Address, VolumeYesNo, "
+         "Volume, VolumeUnit, PayWay, AppDate) Values('" +
+         b.name + " " + b.dong + "동', " + placeValues(b) + commonValues(session, b);
+}
+
+QString householdStatement(const Session& session, const Building& b, const QString& unit) {
+  return "Insert Into Client(Name, HouseStyle, BDName, Dong, Ho, PostCode, Address, VolumeYesNo, "
+         "Volume, VolumeUnit, PayWay, AppDate) Values('" +
+         b.name + " " + b.dong + "동 " + unit + "호', " + placeValues(b) + "', '" + unit +
+         commonValues(session, b);
+}
+
+QString ofBlock(const QString& name, const QString& dong) {
+  return "Where BDName = '" + name + "' And Dong = '" + dong + "'";
+}
+
+/** Codes of the customers under a block, head row included. Asks both files, so that a group is sure of them before it
+ *  changes the first. */
+QStringList codesOfBlock(const Session& session, const QString& name, const QString& dong) {
+  QStringList codes;
+  jet::Recordset rows = session.dbYear.OpenRecordset(
+      "Select Distinct Client.Code From Client LEFT JOIN Evaporation ON Client.Code = "
+      "Evaporation.ClientCode " +
+      ofBlock(name, dong));
+  for (; !rows.atEnd(); rows.MoveNext()) codes << rows["Code"].toText();
+  return codes;
+}
+
+/** Customers who stood under the block's name before are not this building's and stay. */
+void takeBack(const Session& session, const Building& b, qint64 lastCodeBefore) {
+  session.wsMain.Together([&] {
+    for (const QString& code : codesOfBlock(session, b.name, b.dong)) {
+      if (code.toLongLong() <= lastCodeBefore) continue;
+      session.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + code);
+      session.dbBasic.Execute("Delete * From Client Where Code = " + code);
+    }
+    session.dbBasic.Execute("Delete * From APT Where Name = '" + b.name + "' And Dong = '" + b.dong + "'");
+  });
+}
+
+}  // namespace
+
+void makeBuilding(const Session& session, const Building& building, const QStringList& units,
+                  const std::function<bool(int done)>& tell) {
+  const qint64 lastCodeBefore =
+      session.dbBasic.OpenRecordset("Select Max(Code) As C From Client")["C"].toLong();
+  session.dbBasic.Execute(buildingStatement(building));
+  int made = 0;
+  try {
+    addClient(session, headStatement(session, building), false);
+    run(session.wsMain, {.count = int(units.size()),
+                         .step =
+                             [&](int at) {
+                               addClient(session, householdStatement(session, building, units[at]),
+                                         building.metered);
+                               ++made;
+                             },
+                         .tell =
+                             [&](int done) {
+                               if (tell) tell(done);
+                               return true;
+                             }});
+  } catch (const jet::Error& error) {
+    QString end = "건물등록을 마치지 못하여 등록하던 자료를 모두 지웠습니다!";
+    try {
+      takeBack(session, building, lastCodeBefore);
+    } catch (const jet::Error&) {
+      end = QString::number(units.size()) + "세대 중 " + QString::number(made) +
+            "세대까지만 등록되었습니다!\n건물을 삭제한 후 다시 등록하십시오.";
+    }
+    session.prompts.MsgWarn(end, registerOfBuildings);
+    throw error;
+  }
+}
+
+void changeBuilding(const Session& session, const Building& b, const QString& code, const QString& oldDong,
+                    bool wasMetered) {
+  session.wsMain.Together([&] {
+    session.dbBasic.Execute("Update APT Set Dong = '" + b.dong + "', " + "Structure = " + yesNo(b.staircase) +
+                            ", " +
+                            (b.metered ? "Evaporation = True, Pressure = '" + b.pressure + "', " +
+                                             "Eva = " + typedNumber(b.unitPrice) + ", "
+                                       : QString("EVaporation = False, ")) +
+                            "delaypay = " + typedNumber(b.lateRate) + ", " + "Address = '" + b.address +
+                            "', PostCode = '" + b.postCode + "' " + "Where Code = " + code);
+    session.dbBasic.Execute("Update Client Set Dong = '" + b.dong + "', " + "PostCode = '" + b.postCode +
+                            "', Address = '" + b.address + "', " +
+                            (b.metered ? "VolumeYesNo = True, Volume = '" + b.pressure + "', " +
+                                             "VolumeUnit = " + typedNumber(b.unitPrice) + " "
+                                       : QString("VolumeYesNo = False, Volume = '', VolumeUnit = 0 ")) +
+                            ofBlock(b.name, oldDong));
+    if (!b.metered || wasMetered) return;
+    // A household that becomes a meter's needs its rows, or no book would list it; the head row has no meter.
+    jet::Recordset households = session.dbBasic.OpenRecordset(
+        "Select Code From Client " + ofBlock(b.name, b.dong) + " And Ho Is Not Null");
+    for (; !households.atEnd(); households.MoveNext())
+      completeMeterRows(session, households["Code"].toLong());
+  });
+}
+
+void removeBuilding(const Session& session, const QString& code, const QString& name, const QString& dong) {
+  session.wsMain.Together([&] {
+    const QStringList households = codesOfBlock(session, name, dong);
+    session.dbBasic.Execute("Delete * From Apt Where Code = " + code);
+    for (const QString& household : households)
+      session.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + household);
+    session.dbBasic.Execute("Delete * From Client " + ofBlock(name, dong));
+  });
+}
