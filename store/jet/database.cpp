@@ -214,6 +214,11 @@ Value Recordset::operator[](const QString& name) const {
   return data.value(data.fieldOf(name));
 }
 
+Value Recordset::operator[](const char* name) const {
+  const RecordsetData& data = checked(data_);
+  return data.value(data.fieldOf(name));
+}
+
 Value Recordset::operator[](int index) const {
   return checked(data_).value(index);
 }

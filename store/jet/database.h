@@ -71,6 +71,7 @@ class Recordset {
   /** The current row's field, of names that stand twice the first; between Edit or AddNew and Update what was set.
    *  3265 for an unknown name, 3021 when there is no current row, 3167 when it was deleted. */
   Value operator[](const QString& name) const;
+  Value operator[](const char* name) const;
   Value operator[](int index) const;
   bool isNull(const QString& name) const { return (*this)[name].isNull(); }
 

@@ -2,12 +2,15 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 
 #include "store/jet/connection.h"
 #include "store/jet/error_texts.h"
 #include "store/jet/format_rules.h"
+#include "store/jet/like_pattern.h"
 #include "store/jet/text_rules.h"
 
 using namespace Qt::StringLiterals;
@@ -31,8 +34,13 @@ class Call {
   QString text(int index) const {
     if (isWhole(index)) return QString::number(whole(index));
     if (!isText(index)) return isNull(index) ? QString() : textOf(number(index));
-    const auto* utf8 = reinterpret_cast<const char*>(sqlite3_value_text(arguments_[index]));
-    return QString::fromUtf8(utf8, sqlite3_value_bytes(arguments_[index]));
+    const std::string_view bytes = utf8(index);
+    return QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
+  }
+  /** Of a text. */
+  std::string_view utf8(int index) const {
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(arguments_[index]));
+    return {bytes, size_t(sqlite3_value_bytes(arguments_[index]))};
   }
   bool anyNull() const {
     for (int i = 0; i < count_; ++i)
@@ -99,12 +107,15 @@ qint64 wholeOperand(const Call& call, int index) {
 // ---- operators
 
 void like2(const Call& call) {
-  auto* kept = static_cast<QString*>(sqlite3_get_auxdata(call.context(), 1));
-  if (kept) return call.give(qint64(like(call.text(0), *kept)));
-  const QString pattern = call.text(1);
-  call.give(qint64(like(call.text(0), pattern)));
-  sqlite3_set_auxdata(call.context(), 1, new QString(pattern),
-                      [](void* p) { delete static_cast<QString*>(p); });
+  auto* pattern = static_cast<LikePattern*>(sqlite3_get_auxdata(call.context(), 1));
+  const bool kept = pattern != nullptr;
+  if (!kept) pattern = new LikePattern(call.text(1));
+  const std::unique_ptr<LikePattern> made(kept ? nullptr : pattern);
+  call.give(qint64(call.isText(0) ? pattern->matches(call.utf8(0))
+                                  : pattern->matches(call.text(0).toUtf8().toStdString())));
+  if (kept) return;
+  sqlite3_set_auxdata(call.context(), 1, new LikePattern(*pattern),
+                      [](void* p) { delete static_cast<LikePattern*>(p); });
 }
 
 void str(const Call& call) {
@@ -180,7 +191,15 @@ void toStr(const Call& call) {
 
 void valOf(const Call& call) {
   if (call.isNull(0)) fail(94);
-  call.isText(0) ? call.give(val(call.text(0))) : call.giveSame(0);
+  if (!call.isText(0)) return call.giveSame(0);
+  const std::string_view utf8 = call.utf8(0);
+  qint64 whole = 0;
+  // Sizes of cylinders and the like: a few digits need no other reading.
+  const bool digits = !utf8.empty() && utf8.size() < 10 && std::all_of(utf8.begin(), utf8.end(), [&](char c) {
+    whole = whole * 10 + (c - '0');
+    return c >= '0' && c <= '9';
+  });
+  digits ? call.give(whole) : call.give(val(call.text(0)));
 }
 
 void isNumeric(const Call& call) {

@@ -22,10 +22,23 @@ int RecordsetData::fieldOf(const QString& name) const {
   return field;
 }
 
+int RecordsetData::fieldOf(const char* name) const {
+  for (size_t tried = 0; tried < met_.size(); ++tried) {
+    if (nextMet_ >= met_.size()) nextMet_ = 0;
+    const auto& [met, field] = met_[nextMet_++];
+    if (met == name) return field;
+  }
+  const int field = fieldOf(QString::fromUtf8(name));
+  met_.emplace_back(name, field);
+  return field;
+}
+
 Value RecordsetData::value(int field) const {
   if (field < 0 || field >= int(columns_.size())) fail(3265, QString::number(field));
-  if (const auto set = pending_.find(field); set != pending_.end()) return set->second;
-  if (mode_ == Mode::Adding) return {};
+  if (mode_ != Mode::Reading) {
+    if (const auto set = pending_.find(field); set != pending_.end()) return set->second;
+    if (mode_ == Mode::Adding) return {};
+  }
   checkCurrent();
   return rows_.at(position_, field);
 }

@@ -29,6 +29,7 @@ class RecordsetData {
   const QStringList& names() const { return names_; }
   int fieldIndex(const QString& name) const { return byName_.value(name.toCaseFolded(), -1); }
   int fieldOf(const QString& name) const;  ///< 3265
+  int fieldOf(const char* name) const;     ///< 3265; a name met before costs one comparison
   Value value(int field) const;
 
   bool atEnd() const { return position_ >= rows_.rows(); }
@@ -65,6 +66,9 @@ class RecordsetData {
   std::vector<ResultColumn> columns_;
   QStringList names_;
   QHash<QString, int> byName_;  ///< case-folded; of names that stand twice the first
+  /** Names as they were asked for, in that order: a loop asks for the same ones row after row. */
+  mutable std::vector<std::pair<QByteArray, int>> met_;
+  mutable size_t nextMet_ = 0;
   RowStore rows_;
   std::vector<bool> gone_;  ///< deleted rows, empty until the first
   int deleted_ = 0;

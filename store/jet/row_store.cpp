@@ -11,6 +11,8 @@
 namespace jet {
 namespace {
 
+/** Dates, items, staff: the few texts that stand in row after row are decoded once. */
+constexpr quint32 kKeptDecoded = 1024;
 constexpr qint64 kExactInDouble = 9007199254740992;  // 2^53
 
 bool fitsNarrow(qint64 number) {
@@ -33,7 +35,11 @@ std::string_view TextPool::view(quint32 number) const {
 
 QString TextPool::at(quint32 number) const {
   const std::string_view utf8 = view(number);
-  return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+  if (number >= kKeptDecoded) return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+  if (decoded_.size() <= number) decoded_.resize(std::min<size_t>(ends_.size(), kKeptDecoded));
+  QString& text = decoded_[number];
+  if (text.isNull()) text = QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
+  return text;
 }
 
 void TextPool::growSlots() {
@@ -174,8 +180,13 @@ void PackedColumn::append(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
     case SQLITE_NULL:
       return append(Value());
-    case SQLITE_INTEGER:
-      return append(Value(qint64(sqlite3_column_int64(statement, column))));
+    case SQLITE_INTEGER: {
+      const qint64 number = sqlite3_column_int64(statement, column);
+      if (kind_ != Kind::Narrow || !nulls_.empty() || !fitsNarrow(number)) return append(Value(number));
+      narrow_.push_back(qint32(number));
+      ++rows_;
+      return;
+    }
     case SQLITE_FLOAT:
       return append(Value(sqlite3_column_double(statement, column)));
     default:

@@ -22,9 +22,10 @@ class TextPool {
   std::string_view view(quint32 number) const;
   void growSlots();
 
-  std::string text_;            // one after the other, UTF-8
-  std::vector<quint32> ends_;   // of text number n in text_
-  std::vector<quint32> slots_;  // open addressing: number + 1, 0 free
+  std::string text_;                      // one after the other, UTF-8
+  mutable std::vector<QString> decoded_;  // of the first numbers, once they were asked for
+  std::vector<quint32> ends_;             // of text number n in text_
+  std::vector<quint32> slots_;            // open addressing: number + 1, 0 free
   quint64 asked_ = 0;
   bool sharing_ = true;
 };

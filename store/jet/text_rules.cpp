@@ -108,6 +108,10 @@ char32_t nextCharacter(std::string_view text, size_t* at) {
   return character;
 }
 
+bool continuesAt(std::string_view text, size_t at) {
+  return at < text.size() && (text[at] & 0xC0) == 0x80;
+}
+
 template <typename Text, typename Place>
 int compareFolded(Text a, Text b) {
   Place i = 0, j = 0;
@@ -229,7 +233,16 @@ int compareText(QStringView a, QStringView b) {
 }
 
 int compareUtf8(std::string_view a, std::string_view b) {
-  return compareFolded<std::string_view, size_t>(withoutTrailingBlanks(a), withoutTrailingBlanks(b));
+  a = withoutTrailingBlanks(a);
+  b = withoutTrailingBlanks(b);
+  // Most texts are equal or part early: the bytes they share need no folding.
+  const size_t shorter = std::min(a.size(), b.size());
+  size_t shared = 0;
+  while (shared < shorter && a[shared] == b[shared]) ++shared;
+  if (shared == shorter && a.size() == b.size()) return 0;
+  // Back to where the character that differs begins: only continuation bytes stand within one.
+  while (shared > 0 && (continuesAt(a, shared) || continuesAt(b, shared))) --shared;
+  return compareFolded<std::string_view, size_t>(a.substr(shared), b.substr(shared));
 }
 
 bool like(QStringView text, QStringView pattern) {

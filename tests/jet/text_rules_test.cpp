@@ -1,4 +1,5 @@
 #include "store/jet/text_rules.h"
+#include "store/jet/like_pattern.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -82,8 +83,8 @@ TEST(TextRules, TextsCompareWithoutCaseAndTrailingBlanks) {
 }
 
 TEST(TextRules, BothComparisonsGiveOneOrder) {
-  const QStringList texts{u""_s,       u" "_s,  u"a"_s,          u"A "_s,     u"a\t"_s,
-                          u"홍길동"_s, u"홍"_s, u"\U0001F600"_s, u"\uFF21"_s, u"é"_s};
+  const QStringList texts{u""_s,   u" "_s,    u"a"_s,    u"A "_s,         u"a\t"_s,    u"홍길동"_s,
+                          u"홍"_s, u"가나"_s, u"가다"_s, u"\U0001F600"_s, u"\uFF21"_s, u"é"_s};
   for (const QString& a : texts) {
     for (const QString& b : texts)
       EXPECT_EQ(jet::compareText(a, b), jet::compareUtf8(a.toStdString(), b.toStdString()))
@@ -111,6 +112,22 @@ TEST(TextRules, LikeKnowsFourMarksAndBrackets) {
   EXPECT_FALSE(jet::like(u"abc ", u"abc"));
   EXPECT_TRUE(jet::like(u"aXbXc", u"*x*c"));
   EXPECT_EQ(textRuleError([] { (void)jet::like(u"a", u"[a"); }), 93);
+}
+
+TEST(TextRules, AReadyPatternAnswersAsTheRule) {
+  const QStringList texts{u""_s,    u"4567"_s,     u"053-123-4567"_s, u"4567-1"_s,     u"44567"_s,
+                          u"456"_s, u"한빛식당"_s, u"한빛"_s,         u"빛"_s,         u"kim 4567"_s,
+                          u"KIM"_s, u"4567 "_s,    u"\u212Aim"_s,     u"456\u20E37"_s, u"4 5 6 7"_s};
+  const QStringList patterns{u"*4567*"_s, u"4567*"_s, u"*4567"_s, u"4567"_s,  u"*"_s,
+                             u"**"_s,     u""_s,      u"*빛*"_s,  u"한빛*"_s, u"*kim*"_s,
+                             u"K*"_s,     u"45?7*"_s, u"4#6*7"_s, u"*-*"_s,   u"*[4]567"_s};
+  for (const QString& pattern : patterns) {
+    const jet::LikePattern ready(pattern);
+    for (const QString& text : texts)
+      EXPECT_EQ(ready.matches(text.toStdString()), jet::like(text, pattern))
+          << text.toStdString() << '|' << pattern.toStdString();
+  }
+  EXPECT_EQ(textRuleError([] { (void)jet::LikePattern(u"[a"_s).matches("a"); }), 93);
 }
 
 TEST(TextRules, PartsOfATextCountCharacters) {

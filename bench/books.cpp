@@ -1,0 +1,102 @@
+#include "bench/books.h"
+
+#include <QFile>
+
+#include "bench/pairs.h"
+#include "store/data_files.h"
+#include "store/upgrades.h"
+
+namespace bench {
+
+void NoPrompts::stop(const QString& text) {
+  require(false, text.toUtf8().constData());
+}
+
+Books::Books() {
+  pc.clock.set(QDateTime({2026, 3, 16}, {9, 0}));
+  session.AppTitle = QStringLiteral("해온판매");
+  session.DbPath = installedDataFolder();
+  session.WorkYear = QStringLiteral("2026");
+  session.StockEnabled = true;
+  require(prepareDataFolder(session), "data folder");
+  makeYearFile(session, session.WorkYear);
+  session.wsMain = openWorkspace(session, session.DbPath);
+  session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
+  require(upgrades::relink(session), "links");
+  session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
+  session.dbCommon = session.dbBasic;
+  session.dbBasic.Execute(
+      "Insert Into User(Company, PayState, Rate, Security, AptRate, AptSecurity, ManyRate, "
+      "ManySecurity, Stock) Values('달빛가스', 1, 2, 1000, 2, 800, 2, 900, True)");
+  session.dbBasic.Execute(
+      "Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) "
+      "Values('LPG', '20', 1000, 100, 10, 40, 50)");
+}
+
+Books::~Books() = default;
+
+void Books::addClients(int count) {
+  session.wsMain.Together([&] {
+    for (int code = 1; code <= count; ++code) {
+      const QString n = QString::number(code);
+      session.dbBasic.Execute(
+          "Insert Into Client(Name, Tel, Tel1, Tel2, Address, HouseStyle, GasInit, UtilInit, VolumeYesNo, "
+          "VolumeUnit) "
+          "Values('" +
+          QStringLiteral("고객") + n + "', '053-" + QString::number(200 + code % 700) + "-" +
+          QString::number(code * 7919 % 10000).rightJustified(4, u'0') + "', '', '', '" +
+          QStringLiteral("경북 달빛시 장터동 ") + n + "', 0, 0, 0, False, 0)");
+    }
+  });
+}
+
+void Books::addSales(const jet::Database& year, int lines, int clients, int yearNumber) {
+  const QDate first(yearNumber, 1, 1);
+  session.wsMain.Together([&] {
+    for (int at = 0; at < lines; ++at) {
+      const QString day = first.addDays(qint64(at) * 365 / lines).toString(u"yyyy-MM-dd");
+      year.Execute(
+          "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, Response, SaleName, SaleThing, "
+          "SaleUnit, SaleNum, "
+          "SaleGubun, Gubun, Income, Trust, DC) Values(0, 0, '" +
+          day + "', " + QString::number(1 + at % clients) + ", '" + QStringLiteral("홍길수") + "', 'LPG', '" +
+          (at % 3 ? "20" : "50") + "', 27000, " + QString::number(1 + at % 3) + ", " +
+          QString::number(1 + at % 6) + (at % 5 ? ", False, " : ", True, ") + QString::number(at % 4 * 9000) +
+          ", " + QString::number(at % 2 * 1000) + ", 0)");
+    }
+  });
+}
+
+Plain::Plain(const Books& books) {
+  for (const QString& name : {QStringLiteral("Basic.mdb"), QStringLiteral("2026Foundation.mdb")})
+    require(QFile::copy(books.native(name), folder_.filePath(name)), "copy");
+  require(sqlite3_open(folder_.filePath("Basic.mdb").toUtf8().constData(), &db_) == SQLITE_OK, "open");
+  // The files' indexes name the program's text order; what is compared here is never that order's work.
+  sqlite3_create_collation(db_, "JET", SQLITE_UTF8, nullptr,
+                           [](void*, int a, const void* x, int b, const void* y) {
+                             const int order = memcmp(x, y, size_t(std::min(a, b)));
+                             return order ? order : a - b;
+                           });
+  exec(db_, ("ATTACH '" + folder_.filePath("2026Foundation.mdb") + "' AS y").toUtf8().constData());
+  exec(db_, "PRAGMA main.cache_size = -16000; PRAGMA y.cache_size = -16000");
+}
+
+Plain::~Plain() {
+  for (sqlite3_stmt* statement : statements_) sqlite3_finalize(statement);
+  sqlite3_close(db_);
+}
+
+sqlite3_stmt* Plain::prepare(const char* sql) {
+  sqlite3_stmt* statement = nullptr;
+  require(sqlite3_prepare_v3(db_, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) == SQLITE_OK,
+          sqlite3_errmsg(db_));
+  statements_.push_back(statement);
+  return statement;
+}
+
+void step(sqlite3_stmt* statement) {
+  require(sqlite3_step(statement) == SQLITE_DONE, "a plain statement");
+  sqlite3_reset(statement);
+}
+
+}  // namespace bench

@@ -1,0 +1,123 @@
+#include "bench/pairs.h"
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+
+#include "ui/spread_model.h"
+
+namespace bench {
+namespace {
+
+std::vector<Pair>& pairs() {
+  static std::vector<Pair> all;
+  return all;
+}
+std::vector<Figure>& figures() {
+  static std::vector<Figure> all;
+  return all;
+}
+
+double median(std::vector<double> seconds) {
+  std::sort(seconds.begin(), seconds.end());
+  return seconds[seconds.size() / 2];
+}
+
+/** Collects the times of one pair's two sides and prints the row when both are there. */
+class Table : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context&) override {
+    std::printf("%-74s %9s %12s %12s %7s %6s\n", "work", "size", "ours, ms", "plain, ms", "ratio", "limit");
+    return true;
+  }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration) continue;
+      times_[run.run_name.function_name].push_back(run.real_accumulated_time / double(run.iterations));
+    }
+  }
+  void row(const Pair& pair, int size) {
+    const double ours = median(times_["ours"]), plain = median(times_["plain"]);
+    times_.clear();
+    const double ratio = ours / plain;
+    std::printf("%-74s %9d %12.3f %12.3f %7.2f %6.2f%s\n", pair.work, size, ours * 1e3, plain * 1e3, ratio,
+                pair.limit, ratio > pair.limit ? "  over" : "");
+    std::fflush(stdout);
+  }
+
+ private:
+  std::map<std::string, std::vector<double>> times_;
+};
+
+void measure(const Pair& pair, int size, Table& table) {
+  Side ours, plain;
+  pair.make(size, ours, plain);
+  for (const auto& [name, side] : {std::pair{"ours", &ours}, std::pair{"plain", &plain}}) {
+    const Side* timed = side;
+    benchmark::RegisterBenchmark(
+        name,
+        [timed](benchmark::State& state) {
+          for (auto _ : state) {
+            if (timed->setUp) timed->setUp();
+            const auto start = std::chrono::steady_clock::now();
+            timed->run();
+            state.SetIterationTime(
+                std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+          }
+        })
+        ->UseManualTime()
+        ->Iterations(1)
+        ->Repetitions(pair.repetitions);
+  }
+  benchmark::RunSpecifiedBenchmarks(&table);
+  benchmark::ClearRegisteredBenchmarks();
+  table.row(pair, size);
+}
+
+}  // namespace
+
+int addPair(Pair pair) {
+  pairs().push_back(std::move(pair));
+  return 0;
+}
+int addFigure(Figure figure) {
+  figures().push_back(figure);
+  return 0;
+}
+
+void require(bool holds, const char* what) {
+  if (holds) return;
+  std::fprintf(stderr, "the benchmark itself failed: %s\n", what);
+  std::abort();
+}
+
+void exec(sqlite3* db, const char* sql) {
+  require(sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK, sql);
+}
+
+/** filter: part of a row's name; empty runs all. quick: only the smallest size of each. */
+void runAll(const QString& filter, bool quick) {
+  Table table;
+  table.ReportContext({});
+  for (const Pair& pair : pairs()) {
+    if (!QString::fromUtf8(pair.work).contains(filter)) continue;
+    for (const int size : pair.sizes) {
+      measure(pair, size, table);
+      if (quick) break;
+    }
+  }
+  for (const Figure& figure : figures()) {
+    if (!QString::fromUtf8(figure.work).contains(filter)) continue;
+    const double value = figure.measure();
+    std::printf("%-74s %9s %12s %12s %7.2f %6.2f %s%s\n", figure.work, "", "", "", value, figure.limit,
+                figure.unit, value > figure.limit ? "  over" : "");
+  }
+}
+
+}  // namespace bench
