@@ -67,16 +67,19 @@ void Books::addSales(const jet::Database& year, int lines, int clients, int year
   });
 }
 
-Plain::Plain(const Books& books) {
-  for (const QString& name : {QStringLiteral("Basic.mdb"), QStringLiteral("2026Foundation.mdb")})
-    require(QFile::copy(books.native(name), folder_.filePath(name)), "copy");
-  require(sqlite3_open(folder_.filePath("Basic.mdb").toUtf8().constData(), &db_) == SQLITE_OK, "open");
-  // The files' indexes name the program's text order; what is compared here is never that order's work.
-  sqlite3_create_collation(db_, "JET", SQLITE_UTF8, nullptr,
+void knowTextOrder(sqlite3* db) {
+  sqlite3_create_collation(db, "JET", SQLITE_UTF8, nullptr,
                            [](void*, int a, const void* x, int b, const void* y) {
                              const int order = memcmp(x, y, size_t(std::min(a, b)));
                              return order ? order : a - b;
                            });
+}
+
+Plain::Plain(const Books& books) {
+  for (const QString& name : {QStringLiteral("Basic.mdb"), QStringLiteral("2026Foundation.mdb")})
+    require(QFile::copy(books.native(name), folder_.filePath(name)), "copy");
+  require(sqlite3_open(folder_.filePath("Basic.mdb").toUtf8().constData(), &db_) == SQLITE_OK, "open");
+  knowTextOrder(db_);
   exec(db_, ("ATTACH '" + folder_.filePath("2026Foundation.mdb") + "' AS y").toUtf8().constData());
   exec(db_, "PRAGMA main.cache_size = -16000; PRAGMA y.cache_size = -16000");
 }

@@ -53,6 +53,9 @@ class Plain {
   std::vector<sqlite3_stmt*> statements_;
 };
 
+/** The files' indexes name the program's text order: it must be known to write a row. Here the bytes' order is enough. */
+void knowTextOrder(sqlite3* db);
+
 /** A bound statement that gives no rows, run and reset. */
 void step(sqlite3_stmt* statement);
 

@@ -94,7 +94,7 @@ std::vector<jet::TableDef> yearTables() {
             text("SaleName", 40), text("SaleThing", 30), whole("SaleUnit"), whole("SaleNum"),
             whole("SaleGubun"), yesNo("Gubun"), whole("Income"), whole("Trust"), whole("DC"),
             whole("DealList"), whole("SaleList")},
-           {primary("PK", {"SaleID"}), index("SaleDate", {"SaleDate"}),
+           {primary("PK", {"SaleID"}), index("SaleDate", {"SaleDate", "SaleGubun"}),
             index("Client", {"ClientCode", "SaleDate"})}),
       make("Buy",
            {autoNumber("BuyID"), date("BuyDate"), text("BuyCompany", 40), text("Response", 20),
