@@ -48,7 +48,14 @@ std::pair<QString, QString> readFormula(const QString& formula);
 
 /** Draws one page (from 0) on the job's current page. */
 void drawReportPage(PrintJob& job, const Report& report, int page);
-/** All pages, the job ended behind the last. tell: after each page with those done; False abandons the job. */
-bool printReport(PrintJob& job, const Report& report, const std::function<bool(int done)>& tell = {});
+
+/** Pages from 0; -1 is the last one. */
+struct ReportRange {
+  int first = 0, last = -1;
+};
+
+/** The range's pages, the job ended behind the last. tell: after each page with those done; False abandons the job. */
+bool printReport(PrintJob& job, const Report& report, ReportRange range = {},
+                 const std::function<bool(int done)>& tell = {});
 
 }  // namespace pc

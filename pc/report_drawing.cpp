@@ -13,7 +13,8 @@ using Kind = ReportBand::Kind;
 constexpr double cellPad = 0.04;  ///< inches
 constexpr double hairline = 0.25, frameLine = 0.9;
 constexpr double headingGrey = 0.9, sumGrey = 0.95;
-constexpr double smallestFigure = 0.6;  ///< a figure that is too wide is set smaller down to this part
+constexpr double smallestPart =
+    0.6;  ///< what is too wide and may not be cut is set smaller, down to this part
 
 struct Box {
   double left, top, width, height;
@@ -134,14 +135,20 @@ class PageDrawing {
   void putText(const Box& box, const QString& text, ReportAlign align) {
     put(box, elided(job_, text, box.width), align);
   }
-  /** A figure is never cut: it is set smaller, and one that still does not fit shows as such. */
-  void putFigure(const Box& box, const QString& text, ReportAlign align, bool bold) {
+  /** Figures and captions are never cut: they are set smaller, and one that still does not fit shows as `instead`. */
+  void putWhole(const Box& box, const QString& text, ReportAlign align, bool bold, const QString& instead) {
     const double width = job_.textWidth(text);
     if (width <= box.width) return put(box, text, align);
     const double part = box.width / width;
-    setFont(layout_.font.points * std::max(part * 0.99, smallestFigure), bold);
-    put(box, part < smallestFigure ? u"####"_s : text, align);
+    setFont(layout_.font.points * std::max(part * 0.99, smallestPart), bold);
+    put(box, part < smallestPart ? instead : text, align);
     setFont(layout_.font.points, bold);
+  }
+  void putFigure(const Box& box, const QString& text, ReportAlign align, bool bold) {
+    putWhole(box, text, align, bold, u"####"_s);
+  }
+  void putCaption(const Box& box, const QString& text) {
+    putWhole(box, text, ReportAlign::Center, true, elided(job_, text, box.width));
   }
 
   void drawLines(const ReportLines& lines, const ReportBand& band) {
@@ -163,8 +170,7 @@ class PageDrawing {
     setFont(layout_.font.points, true);
     const double half = band.height / 2;
     for (const ReportSpan& span : layout_.spans) {
-      putText(cellBox(size_t(span.first), band.top, half, size_t(span.last)), span.caption,
-              ReportAlign::Center);
+      putCaption(cellBox(size_t(span.first), band.top, half, size_t(span.last)), span.caption);
       job_.line(edges_[size_t(span.first)], band.top + half, edges_[size_t(span.last) + 1], band.top + half,
                 hairline);
     }
@@ -172,8 +178,8 @@ class PageDrawing {
       const bool spanned = std::ranges::any_of(layout_.spans, [&](const ReportSpan& span) {
         return int(col) >= span.first && int(col) <= span.last;
       });
-      putText(cellBox(col, spanned ? band.top + half : band.top, spanned ? half : band.height, col),
-              layout_.columns[col].caption, ReportAlign::Center);
+      putCaption(cellBox(col, spanned ? band.top + half : band.top, spanned ? half : band.height, col),
+                 layout_.columns[col].caption);
     }
   }
 
@@ -225,11 +231,14 @@ void drawReportPage(PrintJob& job, const Report& report, int page) {
   PageDrawing(job, report, page).draw();
 }
 
-bool printReport(PrintJob& job, const Report& report, const std::function<bool(int done)>& tell) {
-  for (int page = 0; page < report.pages().count(); ++page) {
-    if (page > 0) job.newPage();
+bool printReport(PrintJob& job, const Report& report, ReportRange range,
+                 const std::function<bool(int done)>& tell) {
+  const int count = report.pages().count();
+  const int last = range.last < 0 ? count - 1 : std::min(range.last, count - 1);
+  for (int page = range.first; page <= last; ++page) {
+    if (page > range.first) job.newPage();
     drawReportPage(job, report, page);
-    if (tell && !tell(page + 1)) {
+    if (tell && !tell(page + 1 - range.first)) {
       job.abandon();
       return false;
     }

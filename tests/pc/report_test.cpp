@@ -137,11 +137,20 @@ TEST_F(ReportTest, TextsAreCutFiguresAreSetSmaller) {
   find(*job, "####");
 }
 
+TEST_F(ReportTest, PrintsARangeOfPages) {
+  for (int i = 0; i < 200; ++i) add("고객", 1, 1);
+  const pc::Report report(layout, table, {}, "", picture);
+  EXPECT_TRUE(pc::printReport(*printers.open("지로프린터", "현황", layout.paper), report, {1, 2}));
+  const auto& job = *printers.jobs.back();
+  EXPECT_EQ(job.pages, 2);
+  EXPECT_TRUE(job.ended && job.texts(1).contains("이어서 2") && job.texts(2).contains("이어서 3"));
+}
+
 TEST_F(ReportTest, StopsAndRefusesWithoutAnEnd) {
   for (int i = 0; i < 200; ++i) add("고객", 1, 1);
   const pc::Report report(layout, table, {}, "", picture);
   const auto job = printers.open("지로프린터", "현황", layout.paper);
-  EXPECT_FALSE(pc::printReport(*job, report, [](int done) { return done < 2; }));
+  EXPECT_FALSE(pc::printReport(*job, report, {}, [](int done) { return done < 2; }));
   EXPECT_TRUE(printers.jobs.back()->abandoned && !printers.jobs.back()->ended);
   EXPECT_EQ(printers.jobs.back()->pages, 2);
   EXPECT_FALSE(printers.jobs.back()->texts().contains("{건물명}")) << "a value that was not given is empty";
