@@ -16,6 +16,7 @@
 #include "ui/message_boxes.h"
 #include "ui/print_fonts.h"
 #include "ui/printers.h"
+#include "ui/report_viewer.h"
 #include "ui/style.h"
 
 using namespace Qt::StringLiterals;
@@ -57,6 +58,8 @@ int main(int argc, char** argv) {
   open = &session;
   PcPrinters printers(pc);
   session.printers = &printers;
+  ReportViewer reports(session);
+  session.reports = &reports;
 
   StartUp startUp(session);
   FormPickers pickers(session);
