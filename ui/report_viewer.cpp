@@ -4,7 +4,6 @@
 
 #include "store/report_source.h"
 #include "store/session.h"
-#include "ui/frmReport.h"
 #include "ui/guard.h"
 
 using namespace Qt::StringLiterals;

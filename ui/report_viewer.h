@@ -3,9 +3,7 @@
 #include <QPointer>
 
 #include "pc/reports.h"
-
-class frmReport;
-struct Session;
+#include "ui/frmReport.h"
 
 /** One preview at a time: a new report takes the place of the one before. */
 class ReportViewer : public pc::Reports {
