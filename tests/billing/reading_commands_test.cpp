@@ -1,0 +1,236 @@
+// The commands on a shown book.
+#include "billing/reading_commands.h"
+
+#include "billing/reading_list.h"
+#include "billing/reading_panel.h"
+#include "pc/reports.h"
+#include "store/data_files.h"
+#include "tests/billing/meter_desk.h"
+
+namespace {
+
+using tests::MeterDesk;
+
+TEST(ReadingCommands, ReaderAndCollectorAreAskedForInTheirColumns) {
+  MeterDesk desk;
+  const int code = desk.customer("가람", 1500);
+  desk.show(MeterBook::Individual, 3);
+  desk.pc.prompts.expectInput("검침담당", "홍길동");
+  askPerson(desk.sheet, 1, EvaCol::UseGage);
+  desk.pc.prompts.expectInput("수금담당자를 입력하세요", "김수금");
+  askPerson(desk.sheet, 1, EvaCol::Pay);
+  EXPECT_EQ(desk.rows("Select Mon, ChkMan, CashMan From Evaporation Where ChkMan <> '' Or CashMan <> ''"),
+            "3|홍길동|김수금");
+  desk.pc.prompts.expectInput("검침담당자를 입력하세요", {});
+  askPerson(desk.sheet, 1, EvaCol::UseGage);
+  EXPECT_EQ(desk.field("ChkMan", code, 3), "홍길동") << "left without an answer";
+  desk.pc.prompts.expectInput("검침담당자를 입력하세요", "");
+  askPerson(desk.sheet, 1, EvaCol::UseGage);
+  EXPECT_EQ(desk.field("ChkMan", code, 3), "") << "an empty answer is one";
+
+  askPerson(desk.sheet, 1, EvaCol::Delay);
+  desk.run("Delete * From Evaporation Where Mon = 3");
+  askPerson(desk.sheet, 1, EvaCol::UseGage);
+  desk.show(MeterBook::Individual, 0);
+  askPerson(desk.sheet, 1, EvaCol::UseGage);  // no box in any of these
+}
+
+TEST(ReadingCommands, AChangedMeterKeepsReadingLessPreviousReading) {
+  MeterDesk desk;
+  const int code = desk.customer("가람", 1500);
+  desk.set(code, 2, "UseGage = 950");
+  desk.show(MeterBook::Individual, 3);
+  desk.pc.prompts.expect("당월검침을 먼저 입력하세요.");
+  correctUse(desk.sheet, 1);
+
+  desk.set(code, 3, "UseGage = 4, UseMuch = -946, UsePay = -1419000");
+  desk.show(MeterBook::Individual, 3);
+  const auto correct = [&](const char* use) {
+    desk.pc.prompts.expect("이 기능은 계량기 교체시등에 사용됩니다.");
+    desk.pc.prompts.expectInput("변경할 사용량을 입력하세요.", use);
+    correctUse(desk.sheet, 1);
+  };
+  for (const char* nothing : {"0", "", "x"}) correct(nothing);
+  EXPECT_EQ(desk.field("UseMuch", code, 3), "-946");
+  correct("12.5");
+  EXPECT_EQ(desk.cells(1, {EvaCol::PrevUseGage, EvaCol::UseGage}), "-8.5|4");
+  EXPECT_EQ(desk.bill(1), "12.5|18750|0|0|1000|19750");
+  EXPECT_EQ(desk.field("Trust", code, 4), "19750");
+  desk.show(MeterBook::Individual, 3);
+  EXPECT_EQ(desk.cells(1, {EvaCol::PrevUseGage, EvaCol::UseMuch}), "-8.5|12.5") << "a reload keeps it";
+
+  desk.run("Delete * From Evaporation Where Mon = 3");
+  desk.pc.prompts.expect("이 기능은 계량기 교체시등에 사용됩니다.");
+  desk.pc.prompts.expectInput("사용량 수정", "3");
+  desk.pc.prompts.expect("오류가 발생하여 변경에 실패했습니다.");
+  correctUse(desk.sheet, 1);
+}
+
+TEST(ReadingCommands, RecalculationTakesTheRowsThatWereRead) {
+  MeterDesk desk;
+  const int a = desk.customer("가람", 1500), b = desk.customer("나라", 1000), c = desk.customer("다솜", 1000);
+  for (const int code : {a, b, c}) {
+    desk.set(code, 2, "UseGage = 100");
+    desk.set(code, 3,
+             "UseGage = 110, UseMuch = 10, Trust = 10000, Delay = 7, Manage = 8, PrntDay = '03/0" +
+                 QString::number(code) + "'");
+  }
+  desk.set(b, 3, "UseGage = 0, UseMuch = 0");
+  desk.set(c, 3, "TrustDay = '03/04'");
+  desk.show(MeterBook::Individual, 3);
+  desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?", false);
+  recalculate(desk.sheet, {});
+  EXPECT_EQ(desk.field("Total", a, 3), "0");
+
+  QList<int> shown;
+  desk.sheet.showRow = [&](int row) { shown << row; };
+  desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?");
+  desk.pc.prompts.expect("수금일자를 수정 하시겠습니까?");
+  recalculate(desk.sheet, {});
+  EXPECT_EQ(
+      desk.rows("Select UsePay, Delay, Manage, Total, PrntDay, TrustDay From Evaporation Where Mon = 3"),
+      "15000|200|1000|26200|03/01 |;0|7|8|0|03/02|;10000|200|1000|21200|03/03 |03/03 ")
+      << "each with its own reading day";
+  EXPECT_EQ(desk.rows("Select Trust From Evaporation Where Mon = 4"), "26200;0;21200");
+  EXPECT_EQ(desk.rows("Select Max(Trust) From Evaporation Where Mon = 5"), "0") << "one month only";
+  EXPECT_EQ(shown, QList<int>{3}) << "the row that is asked about comes into sight";
+}
+
+TEST(ReadingCommands, LongWorkStopsBetweenTwoRowsAndSaysSo) {
+  MeterDesk desk;
+  for (const char* name : {"가", "나", "다"}) {
+    const int code = desk.customer(name, 1000);
+    desk.set(code, 3, "UseGage = 5, TrustDay = '03/01'");
+  }
+  desk.show(MeterBook::Individual, 3);
+  desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?");
+  for (int asked = 0; asked < 2; ++asked) desk.pc.prompts.expect("수금일자를 수정 하시겠습니까?", false);
+  desk.pc.prompts.expect("3건 중 2건까지 처리하고 중지하였습니다.");
+  recalculate(desk.sheet, [](int done, int count) { return done < 2 && count == 3; });
+  EXPECT_EQ(desk.rows("Select Total From Evaporation Where Mon = 3"), "6000;6000;0");
+  EXPECT_EQ(desk.rows("Select Trust From Evaporation Where Mon = 4"), "6000;6000;0");
+}
+
+TEST(ReadingCommands, JanuaryIsRecalculatedOnLastYearsGas) {
+  MeterDesk desk({2026, 1, 20});
+  desk.session.DelayCalcFlag = "1";
+  makeYearFile(desk.session, "2025");
+  for (const char* name : {"가", "나"}) {
+    const int code = desk.customer(name, 1000);
+    desk.set(code, 1, "UseGage = 5, Trust = 10000");
+    desk.session.wsMain.OpenDatabase(yearFile(desk.session, "2025"))
+        .Execute(QString("Insert Into Evaporation(ClientCode, Mon, UsePay) Values(%1, 12, %2)")
+                     .arg(code)
+                     .arg(code * 1000));
+  }
+  desk.show(MeterBook::Individual, 1);
+  desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?");
+  recalculate(desk.sheet, {});
+  EXPECT_EQ(desk.rows("Select Delay, Total From Evaporation Where Mon = 1"), "20|16020;40|16040");
+}
+
+TEST(ReadingCommands, ClearingTheUseCountsTheRows) {
+  MeterDesk desk;
+  desk.customer("가", 1000);
+  desk.customer("나", 1000);
+  desk.customer("다", 1000, 1, "한빛", "101", "1");
+  desk.run("Update Evaporation Set UseMuch = 5, UsePay = 9");
+  desk.show(MeterBook::Individual, 3);
+  const QString question = "현재 화면내 모든고객에 대해 당월 사용량을 클리어 하시겠습니까?";
+  desk.pc.prompts.expect(question, false);
+  EXPECT_FALSE(clearUse(desk.sheet, {}));
+  desk.pc.prompts.expect(question);
+  desk.pc.prompts.expect("2건의 자료를 수정하였습니다.");
+  EXPECT_TRUE(clearUse(desk.sheet, {}));
+  EXPECT_EQ(desk.rows("Select ClientCode, Mon From Evaporation Where UseMuch = 0"), "1|3;2|3");
+  EXPECT_EQ(desk.rows("Select Min(UsePay) From Evaporation"), "9");
+}
+
+TEST(ReadingCommands, AMonthWithoutReadingsRunsOverTheWholeBook) {
+  MeterDesk desk;
+  const int a = desk.customer("가", 1000, 1, "한빛", "101", "1");
+  const int b = desk.customer("나", 1000, 1, "별빛", "101", "1");
+  const int c = desk.customer("다", 1000);
+  for (const int code : {a, b, c}) {
+    desk.set(code, 2, QString("UseGage = %1, Total = %2").arg(code * 10).arg(code * 1000));
+    desk.set(code, 3, "UseGage = 999, UseMuch = 9, UsePay = 8, Delay = 7, Manage = 6, Total = 5");
+  }
+  desk.show(MeterBook::Apartment, 3, 2);
+  ASSERT_EQ(desk.sheet.buildingEntry().toStdString(), "한빛");
+  const QString question = "03월 체적아파트 고객 한빛의 검침을 미실시로 처리하시겠습니까?";
+  desk.pc.prompts.expect(question, false);
+  EXPECT_FALSE(skipReadings(desk.sheet, {}));
+  desk.pc.prompts.expect(question);
+  desk.pc.prompts.expect("03월의 체적검침을 미실시로 처리완료했습니다");
+  EXPECT_TRUE(skipReadings(desk.sheet, {}));
+  EXPECT_EQ(
+      desk.rows("Select ClientCode, Trust, UseGage, UseMuch, UsePay, Delay, Manage, Total From Evaporation "
+                "Where Mon = 3 Order By ClientCode"),
+      "1|1000|10|0|8|7|6|5;2|2000|20|0|8|7|6|5;3|0|999|9|8|7|6|5")
+      << "also the building that was not named; not the other book";
+  EXPECT_EQ(desk.rows("Select ClientCode, Trust From Evaporation Where Mon = 4 Order By ClientCode"),
+            "1|1000;2|2000;3|0");
+
+  desk.show(MeterBook::Individual, 3);
+  desk.pc.prompts.expect(
+      "입력한 검침수치가 모두 지워지므로 주의하시기 바랍니다.\n03월 체적일반 고객의 검침을", false);
+  EXPECT_FALSE(skipReadings(desk.sheet, {}));
+  for (const int month : {0, 12}) {
+    desk.sheet.month = month;
+    EXPECT_FALSE(maySkipReadings(desk.sheet)) << month;
+    EXPECT_FALSE(skipReadings(desk.sheet, {}));
+  }
+}
+
+struct ShownReport : pc::Reports {
+  pc::ReportRequest request;
+  void show(const pc::ReportRequest& shown) override { request = shown; }
+};
+
+TEST(ReadingList, IsStagedAsItStandsOnTheScreen) {
+  MeterDesk desk;
+  ShownReport report;
+  desk.session.reports = &report;
+  for (const char* room : {"1", "2"}) desk.customer("가", 1000, 1, "한빛", "101", room);
+  desk.set(1, 3,
+           "UseGage = 10.5, UseMuch = 2.25, UsePay = 2250, Trust = 5, Delay = 4, Manage = 3, Total = 2260, "
+           "Pay = 2, "
+           "Prnt = -1, TrustDay = '03/02'");
+  desk.show(MeterBook::Apartment, 3, 1);
+  desk.sheet.grid.setText(2, EvaCol::UsePay, "77");  // not stored
+  printReadingList(desk.sheet);
+  const jet::Database print = desk.session.wsMain.OpenDatabase("C:\\RWGas\\Dbs\\Print.mdb");
+  const auto staged = [&] {
+    QStringList lines;
+    for (jet::Recordset rs =
+             print.OpenRecordset("Select Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, "
+                                 "Lng05, Lng06, Str02, Str03, Str04 From Print");
+         !rs.atEnd(); rs.MoveNext()) {
+      QStringList fields;
+      for (int at = 0; at < 13; ++at) fields << rs[at].toText();
+      lines << fields.join('|');
+    }
+    return lines.join(';');
+  };
+  EXPECT_EQ(staged(),
+            "101동 1호|8.25|10.5|2.25|2250|5|4|3|2260|2|O|03/02|한빛;101동 2호|0|0|0|77|0|0|0|0|0|X||한빛");
+  EXPECT_EQ(report.request.file, "체적검침현황.rpt");
+  EXPECT_EQ(report.request.formulas, QStringList({"월= '03월)'", "건물명= '한빛'"}));
+
+  desk.pc.pc.settings.SaveSetting(desk.session.AppTitle, "Config", "체적검침동별보기", "1");
+  desk.show(MeterBook::Apartment, 3, 1);
+  printReadingList(desk.sheet);
+  EXPECT_EQ(report.request.formulas.last(), "건물명= '한빛'") << "without its block";
+  desk.show(MeterBook::Apartment, 3, 0);
+  printReadingList(desk.sheet);
+  EXPECT_EQ(report.request.formulas.last(), "건물명= '아파'") << "the same four characters go";
+
+  desk.sheet.grid.setText(1, EvaCol::Name, "");
+  printReadingList(desk.sheet);
+  EXPECT_EQ(staged(), "") << "a row without a name ends the list";
+  desk.show(MeterBook::Individual, 3);
+  printReadingList(desk.sheet);
+  EXPECT_EQ(report.request.formulas.last(), "건물명= '일반주택/식당'");
+}
+
+}  // namespace
