@@ -13,18 +13,22 @@ bool isSaleFigure(int col) {
   return col >= SaleCol::Number && col <= SaleCol::Trust;
 }
 
-/** A row's cells before a step, to be put back when a statement fails. The key stays: a skeleton once written is the
- *  row's own. */
+/** A row's cells before a step, to be put back when a statement fails. The key stays while its line is there: a
+ *  skeleton once written is the row's own. Where the store could not keep it, the key goes too, or the row would next
+ *  write on whatever line gets that number. */
 class SaleRowBefore {
  public:
-  SaleRowBefore(SpreadModel& grid, int row) : grid_(grid), row_(row) {
-    for (int col = SaleCol::Date; col < SaleCol::Key; ++col) cells_ << grid.text(row, col);
+  SaleRowBefore(SalePosting& posting, int row)
+      : posting_(posting), grid_(posting.grid(posting.sheet())), row_(row) {
+    for (int col = SaleCol::Date; col < SaleCol::Key; ++col) cells_ << grid_.text(row, col);
   }
   void putBack() const {
     for (int col = SaleCol::Date; col < SaleCol::Key; ++col) grid_.setText(row_, col, cells_.at(col - 1));
+    if (!posting_.isStored(row_)) grid_.setText(row_, SaleCol::Key, {});
   }
 
  private:
+  SalePosting& posting_;
   SpreadModel& grid_;
   int row_;
   QStringList cells_;
@@ -63,7 +67,7 @@ SaleStep SaleEntry::finishCell(int row, int col, const QString& typed) {
     }
     if (!prompts.MsgAsk("선택된 자료를 변경하시겠습니까?", "자료수정")) return {SaleStep::PutBack};
   }
-  const SaleRowBefore unchanged(grid(), row);
+  const SaleRowBefore unchanged(posting_, row);
   const QString before = grid().text(row, col);
   try {
     return applyCell(row, col, before, typed);
@@ -277,7 +281,7 @@ SaleStep SaleEntry::chooseItem(int row) {
   }
   if (!item) return {SaleStep::Done, row, SaleCol::Item};
   SpreadModel& cells = grid();
-  const SaleRowBefore unchanged(cells, row);
+  const SaleRowBefore unchanged(posting_, row);
   try {
     posting_.session().wsMain.Together([&] {
       // A line whose kind was passed over begins here, so that its item is written at once.
@@ -304,7 +308,7 @@ SaleStep SaleEntry::choosePerson(int row) {
     person = pickers_.searchResponse();
   }
   if (!person) return {SaleStep::Done, row, SaleCol::Person};
-  const SaleRowBefore unchanged(grid(), row);
+  const SaleRowBefore unchanged(posting_, row);
   grid().setText(row, SaleCol::Person, *person);
   try {
     posting_.postPerson(row);

@@ -173,6 +173,16 @@ bool SalePosting::deleteRow(int row) {
   return true;
 }
 
+bool SalePosting::isStored(int row) {
+  const QString key = grid(sheet_).text(row, SaleCol::Key);
+  if (key.isEmpty()) return false;
+  try {
+    return !session_.dbYear.OpenRecordset("Select SaleID From Sale Where SaleID = " + key).atEnd();
+  } catch (const jet::Error&) {
+    return false;
+  }
+}
+
 void SalePosting::postPerson(int row) {
   const SpreadModel& cells = grid(sheet_);
   const QString person = cells.text(row, SaleCol::Person);

@@ -51,6 +51,9 @@ class SalePosting {
   /** Asks, takes the line off balance and stock and out of the book, loads the sheet again. False: it stays. */
   bool deleteRow(int row);
 
+  /** Whether the row's line is in the book; False also where the book cannot be asked. Nothing is told. */
+  bool isStored(int row);
+
   /** The delivery person alone; nothing unless line and person are there. */
   void postPerson(int row);
 

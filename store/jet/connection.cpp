@@ -118,6 +118,7 @@ Error Connection::error(int code, const QString& about) const {
     case SQLITE_TOOBIG:
       return errorOf(3035, about);
     default:
+      if (message == "unsupported file format") return errorOf(3343, about);
       return errorOf(3146, QString::fromUtf8(message));
   }
 }

@@ -27,9 +27,18 @@ void Child::read() {
 }
 
 bool Child::waitFor(const QString& beginning, int milliseconds) {
+  return waitFrom(0, beginning, milliseconds);
+}
+
+bool Child::waitForAnother(const QString& beginning, int milliseconds) {
+  read();
+  return waitFrom(lines_.size(), beginning, milliseconds);
+}
+
+bool Child::waitFrom(qsizetype seen, const QString& beginning, int milliseconds) {
   QElapsedTimer since;
   since.start();
-  for (qsizetype seen = 0;;) {
+  for (;;) {
     for (; seen < lines_.size(); ++seen)
       if (lines_.at(seen).startsWith(beginning)) return true;
     const qint64 left = milliseconds - since.elapsed();

@@ -15,6 +15,8 @@ class Child {
 
   /** Waits for a line that begins so; false when the process ended or the time is over. */
   bool waitFor(const QString& beginning, int milliseconds);
+  /** The same for a line that is told from now on. */
+  bool waitForAnother(const QString& beginning, int milliseconds);
   /** Ends it at once, as a power cut ends a PC. */
   void kill();
   /** Waits for its own end; false when it did not end well. */
@@ -24,6 +26,7 @@ class Child {
 
  private:
   void read();
+  bool waitFrom(qsizetype seen, const QString& beginning, int milliseconds);
 
   QProcess process_;
   QByteArray rest_;

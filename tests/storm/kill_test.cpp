@@ -24,7 +24,7 @@ TEST(Kill, EveryToldLineIsThereAndEveryGroupIsWhole) {
   for (int round = 0; round < rounds; ++round) {
     Child child({u"--pc"_s, u"post"_s, folder.path(), QString::number(round + 1), u"0"_s});
     ASSERT_TRUE(child.waitFor(QLatin1String(word::ready), 30000));
-    QThread::usleep(random.bounded(120000));
+    QThread::usleep(random.bounded(200000));
     child.kill();
     const Told told = Told::of(child.lines());
     ASSERT_TRUE(told.failures.isEmpty()) << told.failureTexts.join(u'\n').toStdString();

@@ -61,6 +61,14 @@ TEST_F(ManyPcs, FourLoseNothing) {
   postTogether(4, measure(40, 4000));
 }
 
+TEST_F(ManyPcs, AProgramThatIsStartedAgainAndAgainDisturbsNobody) {
+  const int times = measure(6, 60);
+  Child starter({u"--pc"_s, u"start"_s, folder.path(), QString::number(times)});
+  postTogether(2, measure(40, 1000));
+  EXPECT_TRUE(starter.finish(600000));
+  EXPECT_EQ(starter.lines().join(u'\n').toStdString(), "");
+}
+
 TEST_F(ManyPcs, AHeldLockIsToldAndTheWorkGoesOnAfterwards) {
   Pc here(folder.path());
   here.open();

@@ -1,7 +1,12 @@
 #include "tests/storm/pcs.h"
 
-#include <QThread>
+#include <sys/resource.h>
+#include <unistd.h>
 
+#include <QThread>
+#include <csignal>
+
+#include "app/start_up.h"
 #include "tests/storm/books.h"
 #include "tests/storm/poster.h"
 
@@ -23,12 +28,47 @@ int holdLock(const QStringList& arguments) {
   return 0;
 }
 
+/** ROOT TIMES: a program that is started and ended so often while others work. */
+int startOver(const QStringList& arguments) {
+  for (int time = 0; time < arguments.at(1).toInt(); ++time) {
+    Pc here(arguments.at(0));
+    StartUp startUp(here.session);
+    const bool started = startUp.SubMain([&] { startUp.load(); });
+    for (qsizetype i = 0; i < here.prompts.failures.size(); ++i)
+      report(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
+                 .arg(here.prompts.failures.at(i))
+                 .arg(here.prompts.failureTexts.at(i)));
+    if (!started) return 4;
+    startUp.shutDown();
+  }
+  return 0;
+}
+
+/** BYTES and the poster's arguments: no file may grow beyond so many bytes. */
+int postWithinLimit(const QStringList& arguments) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  limit.rlim_cur = arguments.at(0).toULong();
+  setrlimit(RLIMIT_FSIZE, &limit);
+  return runPoster(arguments.mid(1));
+}
+
+/** The poster as a user whom permissions bind. */
+int postAsAnyone(const QStringList& arguments) {
+  if (geteuid() == 0 && seteuid(anyone) != 0) return 5;
+  return runPoster(arguments);
+}
+
 }  // namespace
 
 int runPc(const QStringList& arguments) {
   const QString work = arguments.value(0);
   if (work == u"post") return runPoster(arguments.mid(1));
   if (work == u"hold") return holdLock(arguments.mid(1));
+  if (work == u"start") return startOver(arguments.mid(1));
+  if (work == u"post-limited") return postWithinLimit(arguments.mid(1));
+  if (work == u"post-as-anyone") return postAsAnyone(arguments.mid(1));
   return 1;
 }
 

@@ -4,6 +4,8 @@
 
 namespace storm {
 
+constexpr unsigned anyone = 65534;  ///< the user that "post-as-anyone" becomes when it may
+
 /** Its exit code, 1 for work that nobody knows. Throws jet::Error. */
 int runPc(const QStringList& arguments);
 

@@ -15,6 +15,8 @@ using namespace Qt::StringLiterals;
 namespace storm {
 namespace {
 
+constexpr int failuresBorne = 60;  ///< then a poster with a count of steps gives up
+
 /** Hands out what the poster has chosen. */
 struct ChosenPickers : Pickers {
   ClientChoice client;
@@ -41,6 +43,7 @@ class Poster {
   Poster(Pc& here, quint32 seed) : here_(here), random_(seed) {}
 
   int steps() const { return steps_; }
+  int failures() const { return int(here_.prompts.failures.size()); }
   qint64 longest() const { return longest_; }
 
   /** One line from its customer to its money, at times changed once more or deleted. */
@@ -54,8 +57,8 @@ class Poster {
     const int row = entry_.enterKey(grid().MaxRows(), SaleCol::Client, u"손님"_s).row;
     if (row == 0) return;
     const QStringList kinds = saleLabels(sheet);
-    step(row, [&] { entry_.finishCell(row, SaleCol::Kind, kinds.at(below(int(kinds.size())))); });
-    if (key(row).isEmpty()) return;
+    begin(row, [&] { entry_.finishCell(row, SaleCol::Kind, kinds.at(below(int(kinds.size())))); });
+    if (failed_ || key(row).isEmpty()) return;
     if (isCollection(kind(row))) {
       finish(row, SaleCol::Income, 1 + below(9000));
     } else {
@@ -65,7 +68,7 @@ class Poster {
     }
     if (below(3) == 0) finish(row, SaleCol::Income, 1 + below(3000));
     // A material line stays: its deletion takes the credit off the other balance.
-    if (below(5) == 0 && sheet == SaleSheet::General) erase(row);
+    if (below(5) == 0 && sheet == SaleSheet::General && !failed_) erase(row);
   }
 
  private:
@@ -78,14 +81,28 @@ class Poster {
     step(row, [&] { entry_.finishCell(row, col, QString::number(figure)); });
   }
 
-  void step(int row, const std::function<void()>& work) {
+  /** The first step writes a line without figures, of the sheet's first kind, whatever the row shows. */
+  void begin(int row, const std::function<void()>& work) {
     timed(key(row), work);
     if (failed_ || key(row).isEmpty()) return;
-    const auto figure = [&](int col) { return QString::number(saleWhole(grid().text(row, col))); };
-    report(QStringList{QLatin1String(word::line), key(row), grid().text(row, SaleCol::Code),
-                       QString::number(kind(row)), figure(SaleCol::Number), figure(SaleCol::Income),
-                       figure(SaleCol::Trust)}
-               .join(u' '));
+    tell(row, saleKindAt(posting_.sheet(), 0), u"0 0 0"_s);
+  }
+
+  /** A line whose step failed is left as it is; the operator would look first. */
+  void step(int row, const std::function<void()>& work) {
+    if (failed_) return;
+    timed(key(row), work);
+    if (failed_) return;
+    QStringList figures;
+    for (const int col : {SaleCol::Number, SaleCol::Income, SaleCol::Trust})
+      figures << QString::number(saleWhole(grid().text(row, col)));
+    tell(row, kind(row), figures.join(u' '));
+  }
+
+  void tell(int row, int kind, const QString& figures) {
+    report(u"%1 %2 %3 %4 %5"_s.arg(QLatin1String(word::line), key(row), grid().text(row, SaleCol::Code))
+               .arg(kind)
+               .arg(figures));
   }
 
   void erase(int row) {
@@ -138,7 +155,7 @@ int runPoster(const QStringList& arguments) {
   Poster poster(here, arguments.at(1).toUInt());
   const int steps = arguments.at(2).toInt();
   report(QLatin1String(word::ready));
-  while (steps == 0 || poster.steps() < steps) poster.sell();
+  while (steps == 0 || (poster.steps() < steps && poster.failures() < failuresBorne)) poster.sell();
   report(u"%1 %2 %3"_s.arg(QLatin1String(word::done)).arg(poster.steps()).arg(poster.longest()));
   return 0;
 }

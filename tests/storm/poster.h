@@ -25,7 +25,8 @@ inline const char* const done = "done";
 /** One line of a report, at once. */
 void report(const QString& text);
 
-/** The process's work: ROOT SEED STEPS; steps 0 works until it is killed. */
+/** The process's work: ROOT SEED STEPS; steps 0 works until it is killed, any other count at most until failures
+ *  have become the rule. */
 int runPoster(const QStringList& arguments);
 
 }  // namespace storm

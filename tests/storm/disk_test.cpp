@@ -1,0 +1,129 @@
+// Disks that fill up and folders that turn read-only while a PC posts.
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "tests/storm/child.h"
+#include "tests/storm/pcs.h"
+#include "tests/storm/poster.h"
+
+namespace storm {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int postings = 1500;  // far more than there is room for
+
+bool isKorean(const QString& text) {
+  return std::any_of(text.begin(), text.end(), [](QChar c) { return c.script() == QChar::Script_Hangul; });
+}
+
+/** Every failure was one of these and was told in words. */
+void expectTold(const Told& told, const QList<int>& numbers) {
+  EXPECT_FALSE(told.failures.isEmpty());
+  for (qsizetype i = 0; i < told.failures.size(); ++i) {
+    EXPECT_TRUE(numbers.contains(told.failures.at(i)))
+        << told.failures.at(i) << told.failureTexts.at(i).toStdString();
+    EXPECT_TRUE(isKorean(told.failureTexts.at(i))) << told.failureTexts.at(i).toStdString();
+  }
+}
+
+void expectWhole(const QString& root, const Told& told) {
+  EXPECT_EQ(faultsOf(root).join(u'\n').toStdString(), "");
+  Pc here(root);
+  here.open();
+  Lines stored = storedLines(here.session);
+  // A line begun when there was no room for its figures stays a skeleton; it holds nothing.
+  stored.removeIf([&](const auto& line) { return !told.lines.contains(line.key()) && line->number == 0; });
+  EXPECT_EQ(differences(stored, told.lines, told.gone, told.open).join(u'\n').toStdString(), "");
+}
+
+qint64 bytesBelow(const QString& folder) {
+  qint64 sum = 0;
+  for (QDirIterator it(folder, QDir::Files, QDirIterator::Subdirectories); it.hasNext();)
+    sum += (QFileInfo(it.next()).size() + 4095) / 4096 * 4096;
+  return sum;
+}
+
+/** A small file system of its own; gone with the test. */
+struct SmallDisk {
+  QTemporaryDir folder;
+  bool mounted = false;
+
+  bool resize(qint64 bytes) {
+    const QByteArray size = "size=" + QByteArray::number(bytes);
+    mounted = ::mount("none", folder.path().toLocal8Bit().constData(), "tmpfs", mounted ? MS_REMOUNT : 0,
+                      size.constData()) == 0;
+    return mounted;
+  }
+  ~SmallDisk() {
+    if (mounted) ::umount(folder.path().toLocal8Bit().constData());
+  }
+};
+
+TEST(Disk, AFullDiskIsToldAndWhatWasPostedBeforeStays) {
+  SmallDisk disk;
+  if (!disk.resize(64 << 20)) GTEST_SKIP() << "only root may mount a small file system";
+  const QString root = disk.folder.path();
+  Pc(root).makeBooks();
+  ASSERT_TRUE(disk.resize(bytesBelow(root) + (40 << 10)));
+  Child child({u"--pc"_s, u"post"_s, root, u"7"_s, QString::number(postings)});
+  EXPECT_TRUE(child.finish(120000)) << "the program is alive at the end";
+  const Told told = Told::of(child.lines());
+  expectTold(told, {3026});
+  EXPECT_GT(told.lines.size(), 5);
+  ASSERT_TRUE(disk.resize(64 << 20));
+  expectWhole(root, told);
+  std::printf("full disk: %d lines posted, then %d statements refused\n", int(told.lines.size()),
+              int(told.failures.size()));
+
+  Child after({u"--pc"_s, u"post"_s, root, u"8"_s, u"20"_s});
+  EXPECT_TRUE(after.finish(120000));
+  EXPECT_TRUE(Told::of(after.lines()).failures.isEmpty()) << "with room again the work goes on";
+}
+
+TEST(Disk, AFileThatMayNotGrowIsTold) {
+  const QTemporaryDir folder;
+  Pc here(folder.path());
+  here.makeBooks();
+  const qint64 limit = QFileInfo(here.pc.paths.native(here.session.DbPath + u"2026Foundation.mdb"_s)).size();
+  here.close();
+  Child child({u"--pc"_s, u"post-limited"_s, QString::number(limit), folder.path(), u"9"_s,
+               QString::number(postings)});
+  EXPECT_TRUE(child.finish(120000));
+  const Told told = Told::of(child.lines());
+  expectTold(told, {3043});
+  EXPECT_GT(told.lines.size(), 5);
+  expectWhole(folder.path(), told);
+}
+
+TEST(Disk, AFolderThatTurnsReadOnlyIsToldAndTheWorkGoesOnWhenItIsBack) {
+  const QTemporaryDir folder;
+  Pc(folder.path()).makeBooks();
+  const QString data = Pc(folder.path()).pc.paths.native(u"C:\\RWGas\\Dbs"_s);
+  if (geteuid() == 0) {
+    for (QDirIterator it(folder.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+         it.hasNext();)
+      ASSERT_EQ(::chown(it.next().toLocal8Bit().constData(), anyone, anyone), 0);
+    ASSERT_EQ(::chown(folder.path().toLocal8Bit().constData(), anyone, anyone), 0);
+  }
+  const QByteArray path = data.toLocal8Bit();
+  Child child({u"--pc"_s, u"post-as-anyone"_s, folder.path(), u"10"_s, u"0"_s});
+  ASSERT_TRUE(child.waitFor(QLatin1String(word::line), 30000));
+  ASSERT_EQ(::chmod(path.constData(), 0555), 0);
+  EXPECT_TRUE(child.waitFor(QLatin1String(word::told), 30000));
+  ASSERT_EQ(::chmod(path.constData(), 0755), 0);
+  EXPECT_TRUE(child.waitForAnother(QLatin1String(word::line), 30000));
+  child.kill();
+  const Told told = Told::of(child.lines());
+  expectTold(told, {3027, 3043, 3051});
+  expectWhole(folder.path(), told);
+}
+
+}  // namespace
+}  // namespace storm

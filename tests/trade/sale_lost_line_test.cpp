@@ -1,0 +1,59 @@
+// A line that the store could not keep: its row must not write on whatever line gets its number.
+#include <sqlite3.h>
+
+#include "store/jet/error.h"
+#include "tests/trade/sale_desk.h"
+
+namespace {
+
+using tests::SaleDesk;
+
+/** Another PC that reads a file and does not let it go. */
+class ReadingPc {
+ public:
+  explicit ReadingPc(const QString& path) {
+    sqlite3_open(path.toUtf8().constData(), &handle_);
+    sqlite3_exec(handle_, "BEGIN; SELECT * FROM jet_links;", nullptr, nullptr, nullptr);
+  }
+  ~ReadingPc() { sqlite3_close(handle_); }
+
+ private:
+  sqlite3* handle_ = nullptr;
+};
+
+TEST(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
+  SaleDesk desk;
+  Session& session = desk.pc.session;
+  // The same files with little patience.
+  for (auto* handle : {&session.dbBasic, &session.dbYear, &session.dbTax, &session.dbCommon}) handle->Close();
+  session.wsMain =
+      jet::Workspace({.mainFile = session.DbPath + "Basic.mdb",
+                      .resolvePath = [&](const QString& path) { return session.pc.paths.native(path); },
+                      .busyMilliseconds = 50});
+  session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
+  session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
+
+  SalePosting posting(session);
+  SaleEntry entry(posting, desk.pickers, desk.calls);
+  posting.FillSaleGrid(SaleSheet::General, true);
+  desk.pickers.clients.push_back(ClientChoice{SaleDesk::Plain, "산골식당"});
+  const int row = entry.enterKey(posting.grid(SaleSheet::General).MaxRows(), SaleCol::Client, "산골").row;
+  const auto key = [&] { return posting.grid(posting.sheet()).text(row, SaleCol::Key); };
+  const QString yearPath = session.pc.paths.native(yearFile(session, session.WorkYear));
+  {
+    const ReadingPc other(yearPath);  // the line is written, but the group cannot be committed
+    EXPECT_THROW(entry.finishCell(row, SaleCol::Kind, "가스"), jet::Error);
+    EXPECT_EQ(key(), "");
+    desk.pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
+    EXPECT_THROW(entry.enterKey(row, SaleCol::Item, {}), jet::Error);
+    EXPECT_EQ(key(), "") << "begun and filled in one group, lost with it";
+  }
+  // Meanwhile the number goes to another line.
+  desk.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, SaleNum) Values('2026-03-05', 2, 1, 9)");
+  desk.pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
+  entry.enterKey(row, SaleCol::Item, {});
+  EXPECT_EQ(key(), "2");
+  EXPECT_EQ(desk.rows("Select ClientCode, SaleNum From Sale Order By SaleID"), "2|9;1|1");
+}
+
+}  // namespace
