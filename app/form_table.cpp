@@ -6,6 +6,11 @@
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
+#include "giro/FrmMargin.h"
+#include "giro/FrmPrintSection.h"
+#include "giro/FrmSetPrinter.h"
+#include "giro/frmPrtChange.h"
+#include "giro/frmPrtJiroOCR.h"
 #include "master/frmBank.h"
 #include "master/frmClient.h"
 #include "master/frmGasUtil.h"
@@ -33,11 +38,16 @@ FormEntry formEntry(const char16_t* name) {
 const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
     formEntry<frmBank>(u"frmBank"),
+    formEntry<FrmMargin>(u"FrmMargin"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),
+    formEntry<FrmPrintSection>(u"FrmPrintSection"),
+    formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
     formEntry<frmClient>(u"frmClient"),
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmHouseStyle>(u"frmHouseStyle"),
+    formEntry<frmPrtChange>(u"frmPrtChange"),
+    formEntry<frmPrtJiroOCR>(u"frmPrtJiroOCR"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmSale>(u"frmSale"),

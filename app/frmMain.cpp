@@ -286,12 +286,12 @@ bool frmMain::openForm(const QString& name) {
   if (!entry) return false;
   QWidget* above = QApplication::activeModalWidget();
   QWidget* form = entry->create(context_, above ? above : this);
+  if (entry->showPage && !page.isEmpty()) entry->showPage(form, page);
   if (auto* dialog = qobject_cast<QDialog*>(form)) {
     dialog->exec();
     delete dialog;
     return true;
   }
-  if (entry->showPage && !page.isEmpty()) entry->showPage(form, page);
   // A form stands at the size it is designed for, as far as there is room.
   const QSize design = form->testAttribute(Qt::WA_Resized) ? form->size() : form->sizeHint();
   auto* window = new ChildWindow(form);

@@ -13,7 +13,8 @@ GiroSetup readGiroSetup(const Session& session) {
   const auto setting = [&](const QString& key) {
     return session.pc.settings.GetSetting(session.AppTitle, giroSection, key);
   };
-  return {setting(u"DEVICENAME"_s), vb::Val(setting(u"TOP"_s)), vb::Val(setting(u"LEFT"_s))};
+  const QString top = setting(u"TOP"_s), left = setting(u"LEFT"_s);
+  return {setting(u"DEVICENAME"_s), vb::Val(top), vb::Val(left), top, left};
 }
 
 bool saveGiroSetup(Session& session, const QString& device, const QString& top, const QString& left) {

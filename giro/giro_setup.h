@@ -8,6 +8,7 @@ struct Session;
 struct GiroSetup {
   QString device;  ///< the printer's name; '' until the operator has chosen one
   double top = 0, left = 0;
+  QString topText = {}, leftText = {};  ///< as the operator typed them
 
   /** Inches from the paper's edge. */
   double y(double row) const { return (row + top) / 8; }

@@ -23,6 +23,7 @@
 #include "master/frmNewClient.h"
 #include "samples/sample_books.h"
 #include "ui/message_boxes.h"
+#include "ui/printers.h"
 #include "ui/style.h"
 
 namespace {
@@ -87,7 +88,8 @@ void pickers(FormPickers& pickers, Session& session, Photographer& photographer)
 }
 
 void small(frmMain& window, Session& session, Photographer& photographer) {
-  for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout"}) {
+  for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtJiroOCR", "frmPrtChange",
+                           "FrmSetPrinter", "FrmMargin", "FrmPrintSection"}) {
     // A dialog runs inside openForm; a child is taken from the main window. The profile asks for the password first.
     QTimer::singleShot(300, [&, name] {
       while (QWidget* box = QApplication::activeModalWidget()) {
@@ -135,6 +137,8 @@ int main(int argc, char** argv) {
   MessageBoxes boxes([&open] { return open ? open->AppTitle : QString(); });
   Session session(pc, boxes);
   open = &session;
+  PcPrinters printers(pc);
+  session.printers = &printers;
   StartUp startUp(session);
   FormPickers searches(session);
   Photographer photographer(application.arguments().at(2));

@@ -6,6 +6,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QTimer>
 
 #include "app/frame_rules.h"
 #include "links/caller.h"
@@ -53,6 +54,18 @@ TEST_F(MainWindow, EntriesWithoutTheirFormAreOffAndStockEntriesFollowTheCompany)
   EXPECT_TRUE(window->findChild<QWidget*>("TBar11")->isEnabled());
   EXPECT_FALSE(window->findChild<QWidget*>("TBar2")->isEnabled());
   tests::grab(*window, "frmMain");
+}
+
+TEST_F(MainWindow, APageReachesADialogBeforeItRuns) {
+  QString title;
+  QTimer::singleShot(0, window.get(), [&] {
+    if (QWidget* box = QApplication::activeModalWidget()) {
+      title = box->windowTitle();
+      box->close();
+    }
+  });
+  EXPECT_TRUE(window->openForm("frmPrtJiroOCR:a4"));
+  EXPECT_EQ(title, "OCR-A4");
 }
 
 TEST_F(MainWindow, AMenuIsReachedByAltAndItsEntryRelinksAndOpensOneChild) {

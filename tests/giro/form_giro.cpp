@@ -1,0 +1,234 @@
+// The windows of the slips, driven by keys and mouse; both papers printed as PDF and read back.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTest>
+
+#include "giro/FrmMargin.h"
+#include "giro/FrmPrintSection.h"
+#include "giro/FrmSetPrinter.h"
+#include "giro/frmPrtChange.h"
+#include "giro/frmPrtJiroOCR.h"
+#include "tests/giro/reading_rows.h"
+#include "tests/idle_context.h"
+#include "tests/recorded_print.h"
+#include "tests/support.h"
+#include "tests/ui/grab.h"
+#include "ui/printers.h"
+#include "ui/spread.h"
+
+namespace {
+
+/** Stands for the window of the meter book. */
+struct ReadingWindow : QWidget, tests::ReadingRows {};
+
+struct GiroForms : testing::Test, tests::TestPc {
+  struct Front : tests::IdleCommands {
+    ReadingWindow window;
+    QWidget* activeForm() const override { return const_cast<ReadingWindow*>(&window); }
+  };
+  Front front;
+  tests::IdlePickers pickers;
+  tests::IdleCalls calls;
+  FormContext context{session, pickers, front, calls};
+  tests::RecordedPrinters printers;
+
+  void SetUp() override {
+    openBooks(QDate(2026, 3, 16));
+    session.printers = &printers;
+    session.dbBasic.Execute("Insert Into User(Company, PayState) Values('해온가스', 1)");
+    session.rates.books = {{{2, 0}, {3, 0}, {1, 0}}};
+    pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "지로프린터");
+    pc.settings.SaveSetting("해온판매", "Registration", "Ocr", "1234567");
+  }
+  template <class W>
+  static W* part(QWidget& form, const char* name) {
+    W* found = form.findChild<W*>(QString::fromUtf8(name));
+    EXPECT_TRUE(found) << name;
+    return found;
+  }
+  static void click(QWidget& form, const char* name) {
+    QTest::mouseClick(part<QPushButton>(form, name), Qt::LeftButton);
+  }
+  QString setting(const char* section, const char* key) {
+    return pc.settings.GetSetting("해온판매", QString::fromUtf8(section), QString::fromUtf8(key));
+  }
+};
+
+TEST_F(GiroForms, BoxesBeginWithTodayAndTheUseMonth) {
+  frmPrtJiroOCR form(context);
+  tests::show(form);
+  EXPECT_EQ(part<QLineEdit>(form, "TxtYear")->text(), "2026");
+  EXPECT_EQ(part<QLineEdit>(form, "TxtMon")->text(), "03");
+  EXPECT_EQ(part<QLineEdit>(form, "TxtDay")->text(), "16");
+  auto* from = part<QLineEdit>(form, "TxtUse1");
+  EXPECT_EQ(from->text(), "2026.02.01");
+  part<QCheckBox>(form, "chkThisMon")->click();
+  EXPECT_EQ(from->text(), "2026.03.01") << "the shown month";
+  EXPECT_EQ(setting("환경설정", "OCRA4지로_당월기본"), "1");
+  part<QComboBox>(form, "cmbUseMon")->setCurrentIndex(0);
+  EXPECT_EQ(part<QLineEdit>(form, "TxtUse2")->text(), "2026.01.31");
+
+  part<QLineEdit>(form, "TxtYear")->setFocus();
+  for (const char* next : {"TxtMon", "TxtDay", "cmbUseMon"}) {
+    tests::key(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), next);
+  }
+  EXPECT_TRUE(form.isVisible()) << "Enter leaves a box, not the window";
+  click(form, "BtnPrinter");
+  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "새 프린터");
+  click(form, "BtnPrtChange");
+  EXPECT_EQ(front.asked, (QStringList{"FrmSetPrinter", "frmPrtChange"}));
+  EXPECT_EQ(part<QLabel>(form, "LblPrinter")->text(), "지로프린터 : 새 프린터");
+}
+
+TEST_F(GiroForms, TheButtonPrintsWhatIsTyped) {
+  for (int i = 1; i <= 3; ++i)
+    front.window.rows.setText(front.window.add("고객", QString::number(i), "1000"), EvaCol::Prnt,
+                              i == 2 ? "1" : "0");
+  front.window.active = 3;
+  frmPrtJiroOCR form(context);
+  form.showPage("continuous");
+  tests::show(form);
+  auto* notes = part<Spread>(form, "TxtAnnounce");
+  notes->setFocus();
+  notes->setActiveCell(1, 1);
+  tests::compose({"ㄱ", "가"}, "감사합니다");
+  part<QLineEdit>(form, "TxtDay")->setText("25");
+  click(form, "BtnJiro");  // the note is still open
+  ASSERT_EQ(printers.jobs.size(), 1u);
+  EXPECT_EQ(printers.jobs[0]->at(1, 62 / 15.0, 10 / 8.0)->text, "감사합니다");
+  EXPECT_EQ(printers.jobs[0]->at(1, 19 / 15.0, 5 / 8.0)->text, "25");
+  EXPECT_EQ(printers.jobs[0]->at(1, 7 / 15.0, 16 / 8.0)->text, "0000003") << "the customer chosen";
+  part<QRadioButton>(form, "Opt3")->click();
+  click(form, "BtnJiro");
+  EXPECT_EQ(printers.jobs[1]->pages, 2) << "those without a tick";
+
+  printers.refusal = "꺼져 있습니다.";
+  prompts.expect("꺼져 있습니다.");
+  click(form, "BtnJiro");
+  EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(GiroForms, BothPapersAsPdfReadBack) {
+  PcPrinters real(pc);
+  session.printers = &real;
+  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", pdfPrinterName());
+  front.window.shownBook = MeterBook::Apartment;
+  front.window.entry = "행복아파트";
+  front.window.add("101동 203호", "1234", "60590");
+  front.window.add("101동 204호", "5", "0");
+  front.window.rows.setText(front.window.add("102동 1507호", "70123", "123456780"), EvaCol::PayWay, "3");
+  for (const QString paper : {"continuous", "a4"}) {
+    const QString file = folder.filePath(paper + ".pdf");
+    qputenv("HAEON_PDF", file.toUtf8());
+    frmPrtJiroOCR form(context);
+    form.showPage(paper);
+    EXPECT_EQ(form.windowTitle(), paper == "a4" ? "OCR-A4" : "OCR");
+    part<Spread>(form, "TxtAnnounce")->model().setText(1, 1, "가스 사용에 늘 감사드립니다.");
+    part<Spread>(form, "TxtAnnounce")->model().setText(2, 1, "문의 053-700-0000");
+    tests::show(form);
+    tests::grab(form, "frmPrtJiroOCR-" + paper);
+    part<QRadioButton>(form, "Opt4")->click();
+    click(form, "BtnJiro");
+    qunsetenv("HAEON_PDF");
+
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", file, "-"});
+    reader.waitForFinished();
+    const QStringList pages =
+        QString::fromUtf8(reader.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts);
+    ASSERT_EQ(pages.size(), paper == "a4" ? 2 : 3);
+    // 60590 weighs 0 + 27 + 5 + 0 + 18 = 50; 2% or 3% of it is charged after the due date: here 3%, 1,810 by ten
+    EXPECT_TRUE(pages[0].contains(QRegularExpression("<1234567\\+ +\\+12344\\+ +\\+605900< +<11<")))
+        << pages[0].toStdString();
+    for (const char* text : {"60,590", "1,810", "62,400", "0001234", "행복아파트 101동", "감사드립니다."})
+      EXPECT_TRUE(pages[0].contains(QString::fromUtf8(text))) << text << '\n' << pages[0].toStdString();
+    EXPECT_TRUE(pages.last().contains("(자동이체)"));
+    if (const QString pictures = qEnvironmentVariable("HAEON_PICTURES"); !pictures.isEmpty())
+      QProcess::execute("pdftoppm", {"-png", "-r", "110", file, pictures + "/giro-" + paper});
+  }
+}
+
+TEST_F(GiroForms, GiroPrinterIsChosenWithItsPlace) {
+  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "");
+  frmPrtChange form(context);
+  tests::show(form);
+  auto* list = part<QListWidget>(form, "LstPrt");
+  EXPECT_EQ(list->count(), printers.installed.size());
+  prompts.expect("프린터를 선택해 주십시오");
+  click(form, "BtnPrt");
+  EXPECT_TRUE(prompts.seen.last().startsWith("인쇄 관리자|"));
+  EXPECT_EQ(setting("프린터설정", "DEVICENAME"), "");
+
+  part<QLineEdit>(form, "TxtTop")->setFocus();
+  part<QLineEdit>(form, "TxtLeft")->setFocus();
+  EXPECT_EQ(part<QLineEdit>(form, "TxtTop")->text(), "0") << "left empty";
+  tests::type("-1.5");
+  list->setFocus();
+  QTest::keyClick(list, Qt::Key_Down);
+  tests::grab(form, "frmPrtChange");
+  prompts.expect("프린터가 설정되었습니다.");
+  click(form, "BtnPrt");
+  EXPECT_EQ(setting("프린터설정", "DEVICENAME"), list->currentItem()->text());
+  EXPECT_EQ(setting("프린터설정", "TOP"), "0");
+  EXPECT_EQ(setting("프린터설정", "LEFT"), "-1.5");
+  frmPrtChange again(context);
+  EXPECT_EQ(part<QListWidget>(again, "LstPrt")->currentRow(), list->currentRow());
+  EXPECT_EQ(part<QLineEdit>(again, "TxtLeft")->text(), "-1.5");
+}
+
+TEST_F(GiroForms, EachDocumentHasItsPrinterAndMargins) {
+  FrmSetPrinter printer(context);
+  printer.showPage("세금계산서");
+  tests::show(printer);
+  EXPECT_EQ(part<QLabel>(printer, "Spn기본프린터")->text(), "지로프린터");
+  auto* list = part<QListWidget>(printer, "List1");
+  QStringList kinds;
+  for (int i = 0; i < list->count(); ++i) kinds << list->item(i)->text();
+  EXPECT_EQ(kinds, (QStringList{"거래명세표", "세금계산서", "청구서", "물품가격", "DM인쇄"}));
+  part<QComboBox>(printer, "CboPrinter")->setCurrentText("PDF 파일");
+  click(printer, "Command1");
+  EXPECT_EQ(setting("Drive", "세금계산서"), "PDF 파일");
+  EXPECT_EQ(setting("Drive", "거래명세표"), "");
+  tests::grab(printer, "FrmSetPrinter");
+  list->setCurrentRow(0);
+  EXPECT_EQ(part<QComboBox>(printer, "CboPrinter")->currentText(), "지로프린터") << "none yet: the PC's own";
+
+  pc.settings.SaveSetting("해온판매", "거래명세표", "TopMargin", "3");
+  FrmMargin margin(context);
+  tests::show(margin);
+  EXPECT_EQ(part<QLineEdit>(margin, "TxtTop")->text(), "3");
+  part<QListWidget>(margin, "List1")->setCurrentRow(4);
+  EXPECT_EQ(part<QLineEdit>(margin, "TxtTop")->text(), "");
+  part<QLineEdit>(margin, "TxtTop")->setText("1");
+  part<QLineEdit>(margin, "TxtLeft")->setText("2.5");
+  tests::grab(margin, "FrmMargin");
+  click(margin, "Cmd설정");
+  EXPECT_EQ(setting("DM인쇄", "TopMargin") + '/' + setting("DM인쇄", "LeftMargin"), "1/2.5");
+  EXPECT_EQ(setting("거래명세표", "TopMargin"), "3");
+  EXPECT_FALSE(margin.isVisible());
+}
+
+TEST_F(GiroForms, ProductListsAreToldApart) {
+  FrmPrintSection form(context);
+  tests::show(form);
+  tests::grab(form, "FrmPrintSection");
+  click(form, "btnPrint2");
+  EXPECT_EQ(form.result(), FrmPrintSection::ProductList);
+  form.show();
+  click(form, "btnPrint1");
+  EXPECT_EQ(form.result(), FrmPrintSection::ByCategory);
+  form.show();
+  QTest::keyClick(&form, Qt::Key_Escape);
+  EXPECT_EQ(form.result(), FrmPrintSection::Cancelled);
+}
+
+}  // namespace
