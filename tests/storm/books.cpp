@@ -106,6 +106,18 @@ Figures storedFigures(const Session& session) {
   return figures;
 }
 
+void checkCarry(const Session& session, QStringList& faults) {
+  const auto rs = [&](int month, const QString& field) {
+    return session.dbYear.OpenRecordset(
+        u"Select ClientCode, %1 From Evaporation Where Mon = %2 Order By ClientCode"_s.arg(field).arg(month));
+  };
+  jet::Recordset bill = rs(readMonth, u"Total"_s), arrears = rs(readMonth + 1, u"Trust"_s);
+  for (; !bill.atEnd() && !arrears.atEnd(); bill.MoveNext(), arrears.MoveNext())
+    if (bill[1].toDouble() != arrears[1].toDouble())
+      faults << u"bill %1 of customer %2 went on as %3"_s.arg(bill[1].toText(), bill[0].toText(),
+                                                              arrears[1].toText());
+}
+
 void checkFile(const QString& path, QStringList& faults) {
   try {
     jet::Connection connection(path, 4000);
@@ -137,6 +149,14 @@ void Pc::makeBooks() {
       run(u"Insert Into Client(Code, Name, HouseStyle, GasInit, UtilInit, VolumeYesNo) "
           u"Values(%1, '손님%1', 0, %2, %2, False)"_s.arg(code)
               .arg(startBalance));
+    for (int code = clientCount + 1; code <= clientCount + meteredCount; ++code) {
+      run(u"Insert Into Client(Code, Name, HouseStyle, VolumeYesNo, VolumeUnit) Values(%1, '체적%1', 0, True, 1500)"_s
+              .arg(code));
+      for (int month = 0; month <= 12; ++month)
+        session.dbYear.Execute(
+            u"Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)"_s.arg(code).arg(month));
+    }
+    run(u"Insert Into User(Company, PayState, Rate, Security) Values('해온가스', 1, 2, 1000)"_s);
     for (const QString& size : gasSizes)
       run(u"Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) "
           u"Values('LPG', '%1', %2, %2, %2, %2, %2)"_s.arg(size)
@@ -178,6 +198,15 @@ Lines storedLines(const Session& session) {
   return lines;
 }
 
+Readings storedReadings(const Session& session) {
+  Readings readings;
+  for (auto rs = session.dbYear.OpenRecordset(
+           u"Select ClientCode, UseGage, Total From Evaporation Where Mon = "_s + QString::number(readMonth));
+       !rs.atEnd(); rs.MoveNext())
+    readings[rs[0].toLong()] = {rs[1].toLong(), rs[2].toLong()};
+  return readings;
+}
+
 QStringList faultsOf(const QString& root) {
   QStringList faults;
   try {
@@ -189,6 +218,7 @@ QStringList faultsOf(const QString& root) {
     Figures due = startFigures();
     for (auto rs = here.session.dbYear.OpenRecordset(u"Select * From Sale"_s); !rs.atEnd(); rs.MoveNext())
       addLine(due, rs);
+    checkCarry(here.session, faults);
     const Figures stored = storedFigures(here.session);
     for (const auto& [what, figure] : due)
       if (const auto at = stored.find(what); at == stored.end() || at->second != figure)

@@ -13,6 +13,8 @@
 namespace storm {
 
 constexpr int clientCount = 40;           ///< codes 1 to clientCount, all of whom owe the same at first
+constexpr int meteredCount = 15;          ///< codes behind them, with a meter and thirteen rows each
+constexpr int readMonth = 3;              ///< the month that is read
 constexpr qint64 startBalance = 500'000;  ///< won, gas and material alike
 
 /** Says Yes to every question and keeps what it was told; nobody sits at this PC. */
@@ -61,8 +63,12 @@ using Lines = QMap<qint64, Line>;
 /** Sale as it lies in the year file. */
 Lines storedLines(const Session& session);
 
-/** What is wrong with the books: an integrity check of every file, and balances and stock recomputed from the lines
- *  of Sale. Empty when all is well. */
+/** Meter and bill of the month that is read, by customer. */
+using Readings = QMap<qint64, QPair<qint64, qint64>>;
+Readings storedReadings(const Session& session);
+
+/** What is wrong with the books: an integrity check of every file, balances and stock recomputed from the lines of
+ *  Sale, and bills that were not carried into the next month. Empty when all is well. */
 QStringList faultsOf(const QString& root);
 
 }  // namespace storm

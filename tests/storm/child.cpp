@@ -71,6 +71,9 @@ Told Told::of(const QStringList& report) {
     } else if (is(word::line)) {
       told.lines[number(1)] = {int(number(3)), number(2), number(4), number(5), number(6)};
       told.open.reset();
+    } else if (is(word::read)) {
+      told.readings[number(1)] = {number(2), number(3)};
+      told.open.reset();
     } else if (is(word::gone)) {
       told.lines.remove(number(1));
       told.gone << number(1);

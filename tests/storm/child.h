@@ -35,7 +35,8 @@ class Child {
 
 /** What a child has told, put together. */
 struct Told {
-  Lines lines;                 ///< as told last
+  Lines lines;  ///< as told last
+  Readings readings;
   QList<qint64> gone;          ///< told as deleted
   std::optional<qint64> open;  ///< the step under way at the end: its line, 0 for a new one
   QList<int> failures;

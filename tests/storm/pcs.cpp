@@ -65,6 +65,7 @@ int postAsAnyone(const QStringList& arguments) {
 int runPc(const QStringList& arguments) {
   const QString work = arguments.value(0);
   if (work == u"post") return runPoster(arguments.mid(1));
+  if (work == u"read") return runReader(arguments.mid(1));
   if (work == u"hold") return holdLock(arguments.mid(1));
   if (work == u"start") return startOver(arguments.mid(1));
   if (work == u"post-limited") return postWithinLimit(arguments.mid(1));

@@ -9,6 +9,7 @@ namespace storm {
  *    ready                                      the books are open
  *    at KEY                                     a step on this line begins; 0 for a new one
  *    line KEY CLIENT KIND PIECES INCOME CREDIT   it is written so
+ *    read CODE METER BILL                       a customer's month is written so
  *    gone KEY                                   it is deleted
  *    told NUMBER TEXT                           a statement failed with this error
  *    done STEPS LONGEST                         steps done, the longest in milliseconds
@@ -17,6 +18,7 @@ namespace word {
 inline const char* const ready = "ready";
 inline const char* const at = "at";
 inline const char* const line = "line";
+inline const char* const read = "read";
 inline const char* const gone = "gone";
 inline const char* const told = "told";
 inline const char* const done = "done";
@@ -28,5 +30,7 @@ void report(const QString& text);
 /** The process's work: ROOT SEED STEPS; steps 0 works until it is killed, any other count at most until failures
  *  have become the rule. */
 int runPoster(const QStringList& arguments);
+/** ROOT SEED: reads meters until it is killed. */
+int runReader(const QStringList& arguments);
 
 }  // namespace storm
