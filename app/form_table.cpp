@@ -6,6 +6,7 @@
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
+#include "billing/FrmSukum.h"
 #include "giro/FrmMargin.h"
 #include "giro/FrmPrintSection.h"
 #include "giro/FrmSetPrinter.h"
@@ -51,6 +52,7 @@ const FormEntry formTable[] = {
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmSale>(u"frmSale"),
+    formEntry<FrmSukum>(u"FrmSukum"),
     formEntry<frmTodaySale>(u"frmTodaySale"),
     formEntry<frmUser>(u"frmUser"),
     formEntry<frmVolume>(u"frmVolume"),

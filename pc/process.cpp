@@ -25,4 +25,13 @@ bool Process::open(const QString& written) const {
 #endif
 }
 
+bool Process::shell(const QString& line) const {
+  const QString file = line.section(u' ', 1);
+#ifdef Q_OS_WIN
+  return run(line.section(u' ', 0, 0), {paths_.native(file)}, QString());
+#else
+  return open(file);
+#endif
+}
+
 }  // namespace pc

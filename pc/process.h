@@ -21,6 +21,9 @@ class Process {
   bool start(const QString& written, const QStringList& arguments = {}) const;
   /** Hands a file or folder to the PC's own program for it; False when it is missing. */
   bool open(const QString& written) const;
+  /** Runs a command line of one program and one file, "notepad C:\\RWGas\\202603Out.txt". Outside Windows its own
+   *  programs are missing: the file goes to the PC's program for it. False when nothing was started. */
+  bool shell(const QString& line) const;
   void setStarter(Starter starter) { starter_ = std::move(starter); }
 
  private:
