@@ -10,6 +10,7 @@
 
 #include "billing/reading_screen.h"
 #include "giro/form_giro_parts.h"
+#include "ui/frmFloatMsg.h"
 #include "ui/guard.h"
 #include "ui/spread.h"
 
@@ -107,7 +108,7 @@ QGroupBox* frmPrtJiroOCR::buildDates() {
 
 QGroupBox* frmPrtJiroOCR::buildNotes() {
   auto* group = new QGroupBox(u"알림 글 (여덟 줄까지)"_s);
-  notes_.setColumns({{.header = u"알림 글"_s, .width = 48}});
+  notes_.setColumns({{.header = u"알림 글"_s, .width = 40}});
   notes_.setMaxRows(noteLinesOffered);
   txtAnnounce_ = new Spread(notes_);
   txtAnnounce_->setObjectName(u"TxtAnnounce"_s);
@@ -135,7 +136,7 @@ void frmPrtJiroOCR::showPage(const QString& page) {
   rules_.setPaper(a4 ? OcrPaper::A4 : OcrPaper::Continuous);
   setWindowTitle(a4 ? u"OCR-A4"_s : u"OCR"_s);
   // A line of Hangul, two half-width characters each, has room on the paper.
-  notes_.setColumns({{.header = u"알림 글"_s, .width = 48, .maxLength = rules_.noteWidth() / 2}});
+  notes_.setColumns({{.header = u"알림 글"_s, .width = 40, .maxLength = rules_.noteWidth() / 2}});
 }
 
 void frmPrtJiroOCR::startUseMonth() {
@@ -163,5 +164,8 @@ void frmPrtJiroOCR::print() {
   if (!txtAnnounce_->commitEdit()) return;
   GiroInput input{due_->year(), due_->month(), due_->day(), txtUse1_->text(), txtUse2_->text(), {}};
   for (int row = 1; row <= notes_.MaxRows(); ++row) input.notes << notes_.text(row, 1);
-  printUnderProgress(this, [&](const auto& tell) { rules_.print(input, selection_->chosen(), tell); });
+  int printed = 0;
+  printUnderProgress(this,
+                     [&](const auto& tell) { printed = rules_.print(input, selection_->chosen(), tell); });
+  if (printed > 0) showFloatMsg(u"고객 %1명의 지로용지를 인쇄하였습니다."_s.arg(printed), 2000, this);
 }

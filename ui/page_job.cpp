@@ -1,18 +1,20 @@
 #include "ui/page_job.h"
 
 #include <QPageLayout>
-#include <QPageSize>
 
 using namespace Qt::StringLiterals;
+
+QPageSize::PageSizeId sheetOf(const pc::PaperSize& paper) {
+  const QSizeF upright(qMin(paper.width, paper.height), qMax(paper.width, paper.height));
+  return QPageSize::id(upright, QPageSize::Inch, QPageSize::FuzzyMatch);
+}
 
 namespace {
 
 /** A sheet of the trade lies as it is wanted; any other paper is what it is, fed by its width. */
 QPageLayout layoutOf(const pc::PaperSize& paper) {
-  const QSizeF upright(qMin(paper.width, paper.height), qMax(paper.width, paper.height));
-  const QPageSize::PageSizeId known = QPageSize::id(upright, QPageSize::Inch, QPageSize::FuzzyMatch);
-  if (known != QPageSize::Custom) {
-    return {QPageSize(known), paper.width > paper.height ? QPageLayout::Landscape : QPageLayout::Portrait,
+  if (const QPageSize::PageSizeId sheet = sheetOf(paper); sheet != QPageSize::Custom) {
+    return {QPageSize(sheet), paper.width > paper.height ? QPageLayout::Landscape : QPageLayout::Portrait,
             QMarginsF()};
   }
   return {QPageSize(QSizeF(paper.width, paper.height), QPageSize::Inch, QString(), QPageSize::ExactMatch),

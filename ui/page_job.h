@@ -1,10 +1,14 @@
 #pragma once
 // A print job painted on a QPrinter. What happens to the finished pages is told by whoever opened it.
+#include <QPageSize>
 #include <QPrinter>
 #include <functional>
 #include <memory>
 
 #include "ui/painted_job.h"
+
+/** The trade's sheet of these measures, whichever way it lies; Custom when there is none. */
+QPageSize::PageSizeId sheetOf(const pc::PaperSize& paper);
 
 class PageJob : public PaintedJob {
  public:

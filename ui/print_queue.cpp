@@ -1,6 +1,5 @@
 #include "ui/print_queue.h"
 
-#include <QSizeF>
 #include <QTemporaryFile>
 #include <QtGlobal>
 
@@ -8,6 +7,8 @@
 #include <QDir>
 
 #include <cups/cups.h>
+
+#include "ui/page_job.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,12 +24,10 @@ void sendToQueue(const QString& printer, const QString& title, const QString& fi
   cups_option_t* options = nullptr;
   int count = 0;
   count = cupsAddOption("print-scaling", "none", count, &options);
-  // Only a paper of the forms' own measures is named; sheets are the queue's default.
-  if (const QSizeF size(paper.width, paper.height);
-      size != QSizeF(11.69, 8.27) && size != QSizeF(8.27, 11.69)) {
-    const QByteArray media = u"Custom.%1x%2in"_s.arg(paper.width).arg(paper.height).toLatin1();
-    count = cupsAddOption("media", media.constData(), count, &options);
-  }
+  const QPageSize::PageSizeId sheet = sheetOf(paper);
+  const QString media = sheet == QPageSize::Custom ? u"Custom.%1x%2in"_s.arg(paper.width).arg(paper.height)
+                                                   : QPageSize::key(sheet);
+  count = cupsAddOption("media", media.toLatin1().constData(), count, &options);
   const int job = cupsPrintFile(printer.toUtf8().constData(), file.toLocal8Bit().constData(),
                                 title.toUtf8().constData(), count, options);
   cupsFreeOptions(count, options);

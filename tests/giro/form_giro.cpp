@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 
 #include "giro/FrmMargin.h"
 #include "giro/FrmPrintSection.h"
@@ -115,6 +116,20 @@ TEST_F(GiroForms, TheButtonPrintsWhatIsTyped) {
   prompts.expect("꺼져 있습니다.");
   click(form, "BtnJiro");
   EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(GiroForms, TheProgressBarStopsTheRunBetweenSlips) {
+  for (int i = 1; i <= 50; ++i) front.window.add("고객", QString::number(i), "1000");
+  frmPrtJiroOCR form(context);
+  tests::show(form);
+  part<QRadioButton>(form, "Opt4")->click();
+  QTimer::singleShot(0, &form, [] {
+    if (QWidget* bar = QApplication::activeModalWidget()) click(*bar, "BtnStop");
+  });
+  click(form, "BtnJiro");
+  ASSERT_EQ(printers.jobs.size(), 1u);
+  EXPECT_EQ(printers.jobs[0]->pages, 1);
+  EXPECT_TRUE(printers.jobs[0]->ended) << "what is printed goes out";
 }
 
 TEST_F(GiroForms, BothPapersAsPdfReadBack) {

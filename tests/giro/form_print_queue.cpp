@@ -86,7 +86,8 @@ TEST_F(PrintQueue, SlipsReachTheQueueWholeOrNotAtAll) {
   QStringList pages = take(&options).split('\f', Qt::SkipEmptyParts);
   ASSERT_EQ(pages.size(), 2);
   EXPECT_TRUE(pages[0].simplified().contains("<0000000+ +12344+ +150002< <11<")) << pages[0].toStdString();
-  EXPECT_TRUE(options.startsWith("OCR-A4 지로\n") && options.contains("print-scaling=none"))
+  EXPECT_TRUE(options.startsWith("OCR-A4 지로\n") && options.contains("print-scaling=none") &&
+              options.contains("media=A4"))
       << options.toStdString();
   giro.setPaper(OcrPaper::Continuous);
   EXPECT_EQ(giro.print(input, GiroSelection::Active), 1);
