@@ -6,8 +6,9 @@
 namespace samples {
 
 /** Fills the data folder of an empty PC: about 300 customers of all three house styles, catalogue, staff, suppliers,
- *  postcodes and two years of sales up to the day before the PC's clock. The same clock gives the same books, and
- *  every balance and stock figure equals what its lines add up to. Throws jet::Error. */
+ *  postcodes, two years of sales up to the day before the PC's clock, and this year's meter book with every month
+ *  before the clock's read, billed and mostly paid. The same clock gives the same books, and every balance and stock
+ *  figure equals what its lines add up to. Throws jet::Error. */
 void makeBooks(pc::Pc& pc, Prompts& prompts);
 
 /** The sample company's password. */
