@@ -7,6 +7,7 @@
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
 #include "billing/FrmSukum.h"
+#include "billing/frmEvaTotal.h"
 #include "giro/FrmMargin.h"
 #include "giro/FrmPrintSection.h"
 #include "giro/FrmSetPrinter.h"
@@ -45,6 +46,7 @@ const FormEntry formTable[] = {
     formEntry<FrmPrintSection>(u"FrmPrintSection"),
     formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
     formEntry<frmClient>(u"frmClient"),
+    formEntry<frmEvaTotal>(u"frmEvaTotal"),
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmHouseStyle>(u"frmHouseStyle"),
     formEntry<frmPrtChange>(u"frmPrtChange"),

@@ -187,8 +187,13 @@ void frmMain::perform(const CommandEntry& entry) {
     switch (entry.kind) {
       case CommandKind::Form:
       case CommandKind::Dialog:
-        if (!entry.kindOfBook().isEmpty()) session_.CheckKind = entry.kindOfBook();
-        openForm(entry.formName());
+        if (entry.kindOfBook().isEmpty()) {
+          openForm(entry.formName());
+        } else {
+          // As a page too: a form that stands open turns to the book that was asked for.
+          session_.CheckKind = entry.kindOfBook();
+          openForm(entry.formName() + u':' + entry.kindOfBook());
+        }
         break;
       case CommandKind::InitStock:
         initStock(session_, context_.pickers);

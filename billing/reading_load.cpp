@@ -6,6 +6,7 @@
 #include "billing/building_rate.h"
 #include "billing/reading_bill.h"
 #include "billing/reading_months.h"
+#include "billing/reading_name.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
 #include "store/rounding.h"
@@ -80,9 +81,7 @@ std::vector<QString> readingRow(const ReadingSheet& sheet, const jet::Recordset&
                                 std::optional<int> payState) {
   const auto text = [&rs](const QString& column) { return rs[column].toText(); };
   const auto tick = [&rs](const QString& column) { return rs[column].toBool() ? u"1"_s : u"0"_s; };
-  const QString name = sheet.book == MeterBook::Individual
-                           ? text(u"Name"_s)
-                           : text(u"Dong"_s) + u"동 "_s + text(u"Ho"_s) + u"호"_s;
+  const QString name = readingName(sheet.book, text(u"Name"_s), text(u"Dong"_s), text(u"Ho"_s));
   const QString total = jet::Value(roundToTen(rs[u"Total"_s].toDouble(), payState)).toText();
   return {name,
           QString(),

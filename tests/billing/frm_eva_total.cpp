@@ -1,0 +1,113 @@
+// The totals of the meter book on the real window, and their paper.
+#include "billing/frmEvaTotal.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
+
+#include "tests/billing/meter_desk.h"
+#include "tests/idle_context.h"
+#include "tests/ui/grab.h"
+#include "ui/printers.h"
+#include "ui/report_viewer.h"
+
+namespace {
+
+struct EvaTotalForm : testing::Test, tests::MeterDesk {
+  EvaTotalForm() : MeterDesk(QDate(2026, 5, 20)) {
+    session.RptPath = "C:\\RWGas\\RPT\\";
+    session.reports = &viewer;
+    session.printers = &printers;
+    const int kim = customer("김하나 식당", 1000);
+    set(kim, 4, "Total = 12000");
+    set(kim, 5,
+        "Trust = 12000, UsePay = 34560, Delay = 240, Manage = 1000, Pay = 12000, TrustDay = '05/08', "
+        "Total = 35800");
+    session.wsMain.Together([this] { block(); });
+  }
+  void block() {
+    for (int each = 0; each < 60; ++each) {
+      const int code =
+          customer("입주자" + QString::number(each), 2160, 1, each < 40 ? "한빛아파트" : "새봄아파트",
+                   QString::number(101 + each / 20), QString::number(each % 20 / 4 * 100 + each % 4 + 101));
+      set(code, 4, "Total = 40000");
+      set(code, 5,
+          QString("Trust = 40000, UsePay = %1, Delay = 800, Manage = 800, Pay = %2, TrustDay = '%3'")
+              .arg(2160 * (10 + each % 9))
+              .arg(each % 3 == 0 ? 40000 : 0)
+              .arg(each % 3 == 0 ? "05/12" : ""));
+    }
+  }
+  QString label(const frmEvaTotal& form, const char* name) { return form.findChild<QLabel*>(name)->text(); }
+  void press(frmEvaTotal& form, const char* name) {
+    QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
+  }
+
+  ReportViewer viewer{session};
+  PcPrinters printers{pc.pc};
+  tests::IdleContext idle{session};
+};
+
+TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
+  session.CheckKind = "1";
+  frmEvaTotal form(idle.context);
+  tests::show(form);
+  EXPECT_EQ(form.findChild<QTabBar*>("TabEvaTotal")->currentIndex(), 0);
+  EXPECT_FALSE(form.findChild<QComboBox*>("CboGubun")->isVisible());
+  EXPECT_EQ(form.findChild<QComboBox*>("CboMonFrom")->currentText(), "05월");
+  press(form, "BtnRefresh");
+  EXPECT_EQ(label(form, "PnlPeriod"), "05월");
+  EXPECT_EQ(label(form, "PnlPrev"), "12,000");
+  EXPECT_EQ(label(form, "PnlIncome"), "12,000");
+  EXPECT_EQ(label(form, "PnlRemain"), "35,800");
+
+  form.showPage("2");
+  EXPECT_TRUE(form.findChild<QComboBox*>("CboGubun")->isVisible());
+  EXPECT_EQ(label(form, "PnlRemain"), "0") << "another book begins empty";
+  form.findChild<QComboBox*>("CboGubun")->setFocus();
+  for (int step = 0; step < 5; ++step) tests::key(Qt::Key_Return);  // building, block, room, from, to
+  EXPECT_EQ(label(form, "PnlPrev"), "2,400,000") << "Enter in the last box asks";
+  form.resize(form.sizeHint());
+  tests::grab(form, "frmEvaTotal");
+  form.showPage("3");
+  pc.prompts.expect("기간내의 검침자료가 없습니다!");
+  press(form, "BtnRefresh");
+}
+
+TEST_F(EvaTotalForm, CollectionDaysAreAskedForWhenTickedAndTheTickStays) {
+  session.CheckKind = "2";
+  {
+    frmEvaTotal form(idle.context);
+    tests::show(form);
+    EXPECT_FALSE(form.findChild<QWidget*>("TxtDayFrom")->isVisible());
+    form.findChild<QCheckBox*>("chkSuKum")->click();
+    EXPECT_TRUE(form.findChild<QWidget*>("TxtDayFrom")->isVisible());
+    EXPECT_FALSE(form.findChild<QWidget*>("CboMonFrom")->isVisible());
+    press(form, "BtnRefresh");
+    EXPECT_EQ(label(form, "PnlPeriod"), "05/01 ~ 05/20");
+    EXPECT_EQ(label(form, "PnlIncome"), "800,000") << "twenty times 40,000";
+    tests::grab(form, "frmEvaTotal-collections");
+  }
+  frmEvaTotal again(idle.context);
+  EXPECT_TRUE(again.findChild<QCheckBox*>("chkSuKum")->isChecked());
+}
+
+TEST_F(EvaTotalForm, F10ShowsThePaper) {
+  session.CheckKind = "2";
+  const QString pictures = qEnvironmentVariable("HAEON_PICTURES");
+  const QString file = pictures.isEmpty() ? pc.folder.filePath("total.pdf") : pictures + "/total.pdf";
+  printers.askFile = [&](const QString&) { return file; };
+  frmEvaTotal form(idle.context);
+  tests::show(form);
+  press(form, "BtnRefresh");
+  tests::key(Qt::Key_F10);
+  ASSERT_TRUE(viewer.window());
+  EXPECT_EQ(viewer.window()->windowTitle(), "체적검침조회");
+  QTest::mouseClick(viewer.window()->findChild<QPushButton*>("BtnPdf"), Qt::LeftButton);
+  EXPECT_GT(QFileInfo(file).size(), 1000);
+  delete viewer.window();
+}
+
+}  // namespace
