@@ -18,7 +18,8 @@ FrmSetPrinter::FrmSetPrinter(FormContext& context, QWidget* parent) : QDialog(pa
   setWindowTitle(u"프린트 드라이버 설정"_s);
   const pc::Printers* printers = context_.session.printers;
   list1_ = documentKindList();
-  auto* standard = new QLabel(printers ? printers->defaultName() : QString());
+  auto* standard =
+      new QLabel(printers && !printers->defaultName().isEmpty() ? printers->defaultName() : u"없음"_s);
   standard->setObjectName(u"Spn기본프린터"_s);
   standard->setProperty("role", u"value"_s);
   standard->setTextFormat(Qt::PlainText);

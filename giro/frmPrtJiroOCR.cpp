@@ -108,15 +108,15 @@ QGroupBox* frmPrtJiroOCR::buildDates() {
 
 QGroupBox* frmPrtJiroOCR::buildNotes() {
   auto* group = new QGroupBox(u"알림 글 (여덟 줄까지)"_s);
-  notes_.setColumns({{.header = u"알림 글"_s, .width = 40}});
+  notes_.setColumns({{.header = u"알림 글"_s, .width = 46}});
   notes_.setMaxRows(noteLinesOffered);
   txtAnnounce_ = new Spread(notes_);
   txtAnnounce_->setObjectName(u"TxtAnnounce"_s);
-  txtAnnounce_->setFillColumn(1);
   txtAnnounce_->guard = [this](const std::function<void()>& work) {
     return guarded(context_.session.prompts, work);
   };
   txtAnnounce_->setMinimumWidth(txtAnnounce_->fullWidth());
+  txtAnnounce_->setFillColumn(1);
   auto* rows = new QVBoxLayout(group);
   rows->addWidget(txtAnnounce_);
   return group;
@@ -136,7 +136,7 @@ void frmPrtJiroOCR::showPage(const QString& page) {
   rules_.setPaper(a4 ? OcrPaper::A4 : OcrPaper::Continuous);
   setWindowTitle(a4 ? u"OCR-A4"_s : u"OCR"_s);
   // A line of Hangul, two half-width characters each, has room on the paper.
-  notes_.setColumns({{.header = u"알림 글"_s, .width = 40, .maxLength = rules_.noteWidth() / 2}});
+  notes_.setColumns({{.header = u"알림 글"_s, .width = 46, .maxLength = rules_.noteWidth() / 2}});
 }
 
 void frmPrtJiroOCR::startUseMonth() {
