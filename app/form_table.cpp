@@ -7,6 +7,7 @@
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
 #include "billing/FrmSukum.h"
+#include "billing/frmEva.h"
 #include "billing/frmEvaTotal.h"
 #include "giro/FrmMargin.h"
 #include "giro/FrmPrintSection.h"
@@ -46,6 +47,7 @@ const FormEntry formTable[] = {
     formEntry<FrmPrintSection>(u"FrmPrintSection"),
     formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
     formEntry<frmClient>(u"frmClient"),
+    formEntry<frmEva>(u"frmEva"),
     formEntry<frmEvaTotal>(u"frmEvaTotal"),
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmHouseStyle>(u"frmHouseStyle"),

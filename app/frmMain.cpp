@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -135,6 +136,10 @@ void frmMain::buildToolBar() {
 void frmMain::buildStatusLine() {
   statusBar()->setObjectName(u"StatusMain"_s);
   statusBar()->setSizeGripEnabled(false);
+  status_ = new QLabel;
+  status_->setObjectName(u"PnlStatus"_s);
+  status_->setTextFormat(Qt::PlainText);
+  statusBar()->addWidget(status_, 1);
   clock_ = new QLabel;
   clock_->setObjectName(u"LblClock"_s);
   clock_->setContentsMargins(8, 1, 8, 1);
@@ -313,6 +318,13 @@ bool frmMain::openForm(const QString& name) {
 
 bool frmMain::hasForm(const QString& name) const {
   return findForm(name) != nullptr;
+}
+
+void frmMain::showStatus(const QString& text) {
+  status_->setText(text);
+  status_->setProperty("role", text.isEmpty() ? QVariant() : QVariant(u"status"_s));
+  status_->style()->unpolish(status_);
+  status_->style()->polish(status_);
 }
 
 QWidget* frmMain::activeForm() const {

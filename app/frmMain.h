@@ -28,6 +28,7 @@ class frmMain : public QMainWindow, public Commands {
   bool run(const QString& command);
   bool openForm(const QString& name) override;
   bool hasForm(const QString& name) const override;
+  void showStatus(const QString& text) override;
   QWidget* activeForm() const override;
 
   FormContext& context() { return context_; }
@@ -72,7 +73,7 @@ class frmMain : public QMainWindow, public Commands {
   QHash<QString, QAction*> actions_;
   QHash<QString, QMenu*> menus_;
   QLabel* pnlCompany_ = nullptr;
-  QLabel* clock_ = nullptr;
+  QLabel *clock_ = nullptr, *status_ = nullptr;
   QTimer* timer1_ = nullptr;
   bool silentClose_ = false;
 };

@@ -33,6 +33,8 @@ class Spread : public QAbstractScrollArea {
   /** The current cell changed, or the grid took the focus. */
   std::function<void(int row, int col)> cellEntered;
   std::function<void(int row)> rowEntered;
+  /** The keyboard went to another control of the program, not to a box or a menu. */
+  std::function<void()> left;
   /** Before the operator (not the program) leaves a cell for another; False stays. */
   std::function<bool(int row, int col, int toRow, int toCol)> cellLeaving;
   /** Before an edit opens; False keeps the cell at rest. */

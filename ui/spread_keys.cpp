@@ -46,13 +46,15 @@ bool Spread::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusOut: {
       viewport()->update();
       const auto reason = static_cast<QFocusEvent*>(event)->reason();
-      if (isEditing() && reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
-          reason != Qt::MenuBarFocusReason) {
-        // Later, so that a box about the refused text does not come up in the middle of the change of focus.
+      if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
+          reason == Qt::MenuBarFocusReason)
+        return false;
+      if (left) run(left);
+      // Later, so that a box about the refused text does not come up in the middle of the change of focus.
+      if (isEditing())
         QTimer::singleShot(0, this, [this] {
           if (isEditing() && !line_->hasFocus()) commitEdit();
         });
-      }
       return false;
     }
     default:

@@ -1,0 +1,385 @@
+#include "billing/frmEva.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QTimer>
+
+#include <memory>
+
+#include "billing/reading_list.h"
+#include "billing/reading_load.h"
+#include "billing/reading_months.h"
+#include "ui/FrmProgress.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int firstColumn = EvaCol::UseGage;  // where a month's work is done
+
+bool isReadingEnter(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
+frmEva::frmEva(FormContext& context, QWidget* parent)
+    : Form(u"frmEva"_s, u"체적검침 관리"_s, context.session, parent),
+      context_(context),
+      sheet_(context.session) {
+  tabs_ = new QTabBar(this);
+  tabs_->setObjectName(u"TabEva"_s);
+  tabs_->setExpanding(false);
+  tabs_->setDrawBase(false);
+  for (const MeterBook book : {MeterBook::Individual, MeterBook::Apartment, MeterBook::MultiHousehold})
+    tabs_->addTab(bookCaption(book));
+  body()->addWidget(tabs_);
+  buildChoice();
+  buildGrid();
+  buildButtons();
+  setBottomLine(u" F5:검침원/수금원   오른쪽 단추:사용량 수정, 재계산, 사용량 클리어"_s);
+
+  guard([this] {
+    if (!readRateBook(session()))
+      session().prompts.MsgWarn(
+          u"연체료 및 안전관리비에 대한 기본설정이 되어 있지 않습니다!\n"
+          "사용자 등록화면에서 설정해 주시기 바랍니다"_s,
+          u"검침 관리자"_s);
+    sheet_.month = sheet_.calendarMonth();
+    showPage(session().CheckKind);
+    chooseBook(tabs_->currentIndex());
+  });
+  connect(tabs_, &QTabBar::currentChanged, this, [this](int index) {
+    if (index == int(sheet_.book)) return;
+    const bool closed = command([&] { chooseBook(index); });
+    if (closed) return;
+    const QSignalBlocker quiet(tabs_);
+    tabs_->setCurrentIndex(int(sheet_.book));
+  });
+}
+
+// --- building -----------------------------------------------------------------------------------------------
+
+void frmEva::buildChoice() {
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(6);
+  const auto label = [&](const QString& text) { row->addWidget(new QLabel(text, this)); };
+  const int digit = fontMetrics().horizontalAdvance(u'0');
+
+  label(u"월"_s);
+  cboMon_ = new QComboBox(this);
+  cboMon_->setObjectName(u"CboMon"_s);
+  cboMon_->setMinimumWidth(10 * digit);
+  row->addWidget(cboMon_);
+  cboBDName_ = new QComboBox(this);
+  cboBDName_->setObjectName(u"CboBDName"_s);
+  cboBDName_->setPlaceholderText(u"건물을 선택하세요"_s);
+  cboBDName_->setMinimumWidth(26 * digit);
+  row->addWidget(cboBDName_);
+  row->addWidget(addButton("BtnRefresh", u"조회(&F)"_s, [this] { refresh(); }));
+  row->addSpacing(12);
+  label(u"검침월일"_s);
+  txtDay_ = new QLineEdit(this);
+  txtDay_->setObjectName(u"TxtDay"_s);
+  txtDay_->setFixedWidth(11 * digit);
+  row->addWidget(txtDay_);
+  row->addSpacing(12);
+  chkOrdSeq_ = addSetting("chkOrdSEQ", u"동, 호수 순차 정렬"_s, u"체적검침정렬방식"_s, [this] {
+    if (sheet_.grid.MaxRows() > 0) reload(1, firstColumn);
+  });
+  chkDongShow_ =
+      addSetting("chkDongShow", u"동별로 보기"_s, u"체적검침동별보기"_s, [this] { fillChoices(); });
+  row->addWidget(chkOrdSeq_);
+  row->addWidget(chkDongShow_);
+  row->addStretch(1);
+  body()->addLayout(row);
+
+  enterOrder({cboMon_, cboBDName_}, [this] { refresh(); });
+  setHelp(txtDay_, u"검침일자를 입력/수정합니다"_s);
+  txtDay_->installEventFilter(this);
+  connect(txtDay_, &QLineEdit::textEdited, this, [this](const QString& text) { sheet_.readingDay = text; });
+  connect(cboMon_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseMonth(index); });
+  connect(cboBDName_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseBuilding(index); });
+}
+
+QCheckBox* frmEva::addSetting(const char* name, const QString& caption, const QString& key,
+                              std::function<void()> changed) {
+  auto* const box = new QCheckBox(caption, this);
+  box->setObjectName(QString::fromUtf8(name));
+  pc::Settings& settings = session().pc.settings;
+  box->setChecked(settings.GetSetting(session().AppTitle, u"Config"_s, key, u"0"_s) != "0"_L1);
+  connect(box, &QCheckBox::clicked, this, [this, &settings, key, changed = std::move(changed)](bool on) {
+    command([&] {
+      settings.SaveSetting(session().AppTitle, u"Config"_s, key, on ? u"1"_s : u"0"_s);
+      changed();
+    });
+  });
+  return box;
+}
+
+void frmEva::buildGrid() {
+  grid_ = addSpread("SpEva", sheet_.grid);
+  grid_->setFillColumn(EvaCol::Name);
+  grid_->cellFinished = [this](int row, int col, const QString&, const QString& typed) {
+    return cellFinished(row, col, typed);
+  };
+  grid_->keyPressed = [this](int row, int col, int key, Qt::KeyboardModifiers) {
+    return gridKey(row, col, key);
+  };
+  grid_->enterPressed = [this](int row, int col) { moveOn(row, col); };
+  grid_->rowEntered = [this](int row) { showCustomer(row); };
+  grid_->cellEntered = [this](int, int col) {
+    showHelp(readingHelp(col));
+    pnlMan_->setText(panel_.man);
+  };
+  grid_->left = [this] {
+    showHelp({});
+    pnlMan_->clear();
+  };
+  grid_->menuAsked = [this](const QPoint& place) { showPopup(place); };
+  sheet_.showRow = [this](int row) { grid_->setActiveCell(row, grid_->activeCol()); };
+  body()->addWidget(grid_, 1);
+
+  pnlMan_ = new QLabel(this);
+  pnlMan_->setObjectName(u"PnlMan"_s);
+  pnlMan_->setProperty("role", "value");
+  body()->addWidget(pnlMan_);
+}
+
+void frmEva::buildButtons() {
+  const auto opens = [this](const char* name, const QString& caption, const char* form) {
+    QPushButton* const button =
+        addButton(name, caption, [this, form] { context_.commands.openForm(QString::fromUtf8(form)); });
+    button->setEnabled(context_.commands.hasForm(QString::fromUtf8(form)));
+    return button;
+  };
+  btnNoEva_ = addButton("BtnNoEva", u"미검침(&N)"_s, [this] {
+    if (skipReadings(sheet_, progress(u"미검침 처리"_s))) reload(grid_->activeRow(), grid_->activeCol());
+  });
+  auto* const print = addButton("BtnPrt", u"인쇄(&P)"_s, [this] { printReadingList(sheet_); });
+  auto* const leave = addButton("BtnExit", u"닫기(&X)"_s, [this] { close(); });
+  body()->addWidget(buttonRow(
+      {opens("BtnOCR", u"OCR"_s, "frmPrtJiroOCR:continuous"),
+       opens("BtnOCR4", u"OCR-A4"_s, "frmPrtJiroOCR:a4"), opens("BtnMicr", u"MICR-A4"_s, "frmPrtMicr"),
+       opens("BtnJiro", u"MICR"_s, "frmPrtJiro"), opens("BtnOrgJiro", u"일반지로"_s, "frmPrtJiroOrg"),
+       opens("BtnA4", u"일반-A4"_s, "frmPrtJiroOrgA4"), nullptr, btnNoEva_, print, leave}));
+}
+
+void frmEva::showEvent(QShowEvent* event) {
+  Form::showEvent(event);
+  QTimer::singleShot(0, this, [this] {
+    if (sheet_.grid.MaxRows() > 0)
+      grid_->setFocus();
+    else
+      cboMon_->setFocus();
+  });
+}
+
+void frmEva::closeEvent(QCloseEvent* event) {
+  Form::closeEvent(event);
+  if (event->isAccepted()) context_.commands.showStatus({});
+}
+
+// --- what is shown ------------------------------------------------------------------------------------------
+
+void frmEva::showPage(const QString& page) {
+  tabs_->setCurrentIndex(qBound(0, page.toInt() - 1, tabs_->count() - 1));
+}
+
+void frmEva::chooseBook(int index) {
+  sheet_.book = MeterBook(index);
+  const bool individual = sheet_.book == MeterBook::Individual;
+  for (QWidget* const ofBuildings : {static_cast<QWidget*>(cboBDName_), static_cast<QWidget*>(chkOrdSeq_),
+                                     static_cast<QWidget*>(chkDongShow_)})
+    ofBuildings->setVisible(!individual);
+  fillChoices();
+  if (individual) refresh();
+}
+
+/** The lists of months and buildings anew; no building is chosen then. */
+void frmEva::fillChoices() {
+  const QSignalBlocker months(cboMon_), buildings(cboBDName_);
+  cboMon_->clear();
+  cboMon_->addItems(FillMonthList(session().pc.clock));
+  sheet_.month = qMin(sheet_.month, cboMon_->count() - 1);
+  cboMon_->setCurrentIndex(sheet_.month);
+  btnNoEva_->setEnabled(maySkipReadings(sheet_));
+  fillBuildings(sheet_);
+  cboBDName_->clear();
+  cboBDName_->addItems(sheet_.buildings);
+  cboBDName_->setCurrentIndex(sheet_.building);
+  clearRows();
+}
+
+void frmEva::clearRows() {
+  sheet_.grid.clear();
+  panel_ = {};
+  pnlMan_->clear();
+  context_.commands.showStatus({});
+}
+
+void frmEva::chooseMonth(int index) {
+  if (index == sheet_.month) return;
+  const bool done = command([&] {
+    sheet_.month = index;
+    btnNoEva_->setEnabled(maySkipReadings(sheet_));
+    if (sheet_.book == MeterBook::Individual)
+      refresh();
+    else
+      clearRows();
+  });
+  if (done || sheet_.month == index) return;
+  const QSignalBlocker quiet(cboMon_);  // an open cell was refused
+  cboMon_->setCurrentIndex(sheet_.month);
+}
+
+void frmEva::chooseBuilding(int index) {
+  if (index == sheet_.building) return;
+  const bool done = command([&] {
+    sheet_.building = index;
+    clearRows();
+  });
+  if (done || sheet_.building == index) return;
+  const QSignalBlocker quiet(cboBDName_);
+  cboBDName_->setCurrentIndex(sheet_.building);
+}
+
+void frmEva::refresh() {
+  switch (CheckSelection(sheet_)) {
+    case Selection::NoMonth:
+      return focus(cboMon_);
+    case Selection::NoBuilding:
+      return focus(cboBDName_);
+    case Selection::Complete:
+      break;
+  }
+  reload(1, firstColumn);
+  if (sheet_.grid.MaxRows() > 0) grid_->setFocus();
+}
+
+void frmEva::reload(int row, int col) {
+  showReadings(sheet_);
+  const QString today = sheet_.readingDay;
+  grid_->setActiveCell(qMin(row, sheet_.grid.MaxRows()), col);
+  sheet_.readingDay = today;  // the row the cursor stands on after loading does not change it
+  showReadingDay();
+}
+
+void frmEva::showCustomer(int row) {
+  panel_ = enterReadingRow(sheet_, row);
+  pnlMan_->setText(panel_.man);
+  context_.commands.showStatus(panel_.status);
+  showReadingDay();
+}
+
+// --- the reading day ----------------------------------------------------------------------------------------
+
+void frmEva::showReadingDay() {
+  if (txtDay_->text() != sheet_.readingDay) txtDay_->setText(sheet_.readingDay);
+}
+
+bool frmEva::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == txtDay_ && event->type() == QEvent::KeyPress &&
+      isReadingEnter(static_cast<QKeyEvent*>(event)->key())) {
+    leaveReadingDay();
+    grid_->setFocus();
+    return true;
+  }
+  if (watched == txtDay_ && event->type() == QEvent::FocusOut) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    // Later, so that a box about a wrong day does not come up in the middle of the change of focus.
+    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+      QTimer::singleShot(0, this, [this] { leaveReadingDay(); });
+  }
+  return Form::eventFilter(watched, event);
+}
+
+void frmEva::leaveReadingDay() {
+  guard([this] {
+    takeReadingDay(sheet_, txtDay_->text());
+    showReadingDay();
+  });
+}
+
+// --- the grid -----------------------------------------------------------------------------------------------
+
+bool frmEva::cellFinished(int row, int col, const QString& typed) {
+  ReadingEdit edit;
+  const auto finish = [&] { edit = finishReadingCell(sheet_, row, col, typed); };
+  if (col != EvaCol::PayDelayed)
+    finish();
+  else if (!trap(u"SpEva_ButtonClicked"_s, finish))
+    return false;
+  justEdited_ = true;
+  grid_->cancelEdit();
+  if (edit.end == ReadingEdit::PutBack) return false;
+  grid_->setActiveCell(edit.next.row, edit.next.col);
+  return true;
+}
+
+bool frmEva::gridKey(int row, int col, int key) {
+  justEdited_ = false;
+  if (key != Qt::Key_F5) return false;
+  if (!grid_->commitEdit()) return true;
+  askPerson(sheet_, row, col);
+  showCustomer(grid_->activeRow());
+  return true;
+}
+
+/** Enter on a cell that was not changed goes the way an edit would. */
+void frmEva::moveOn(int row, int col) {
+  if (justEdited_) return;
+  const CellPlace next = MoveAfterEdit(sheet_, row, col);
+  if (next.row == row && next.col == col && row < sheet_.grid.MaxRows())
+    grid_->moveToNextOpenCell();
+  else
+    grid_->setActiveCell(next.row, next.col);
+}
+
+void frmEva::showPopup(const QPoint& place) {
+  if (sheet_.isOpening() || !grid_->commitEdit()) return;
+  enum { Close, CorrectUse, Recalculate, ClearUse };
+  QMenu menu(this);
+  menu.setObjectName(u"MnuEva"_s);
+  const auto add = [&menu](const QString& caption, int id) { menu.addAction(caption)->setData(id); };
+  add(u"사용량 수정"_s, CorrectUse);
+  add(u"재계산(미수,연체료,사용량)"_s, Recalculate);
+  add(u"사용량 클리어"_s, ClearUse);
+  menu.addSeparator();
+  add(u"메 뉴 닫기"_s, Close);
+  const QAction* const chosen = menu.exec(place);
+  if (!chosen) return;
+  switch (chosen->data().toInt()) {
+    case CorrectUse:
+      correctUse(sheet_, grid_->activeRow());
+      break;
+    case Recalculate:
+      recalculate(sheet_, progress(u"재계산"_s));
+      showCustomer(grid_->activeRow());
+      break;
+    case ClearUse:
+      if (clearUse(sheet_, progress(u"사용량 클리어"_s))) reload(grid_->activeRow(), grid_->activeCol());
+      break;
+    default:
+      break;
+  }
+}
+
+/** A bar that comes up when the work is longer than its first group, and is gone before what is told at the end. */
+ReadingProgress frmEva::progress(const QString& caption) {
+  return [this, caption, bar = std::shared_ptr<FrmProgress>()](int done, int count) mutable {
+    if (!bar && done < count) bar = std::make_shared<FrmProgress>(caption, count, true, this);
+    const bool goOn = !bar || bar->step(done);
+    if (!goOn || done == count) bar.reset();
+    return goOn;
+  };
+}
