@@ -46,6 +46,7 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
   buildChoice();
   buildGrid();
   buildButtons();
+  resize(sizeHint());
   setBottomLine(u" F5:검침원/수금원   오른쪽 단추:사용량 수정, 재계산, 사용량 클리어"_s);
 
   guard([this] {
@@ -201,6 +202,7 @@ void frmEva::chooseBook(int index) {
   for (QWidget* const ofBuildings : {static_cast<QWidget*>(cboBDName_), static_cast<QWidget*>(chkOrdSeq_),
                                      static_cast<QWidget*>(chkDongShow_)})
     ofBuildings->setVisible(!individual);
+  sheet_.grid.setColumnHeader(EvaCol::Name, individual ? u"상호/성명"_s : u"동 / 호"_s);
   fillChoices();
   if (individual) refresh();
 }

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr int lockedCell = 0xE6EFF7;  // sky: not for typing
+constexpr int lockedCell = 0xEEF2F6;  // pale sky: not for typing
 
 SpreadColumn shown(const char* header, double width) {
   return {.header = header,

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "app/frame_rules.h"
+#include "billing/reading_screen.h"
 #include "links/caller.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
@@ -84,6 +85,22 @@ TEST_F(MainWindow, AMenuIsReachedByAltAndItsEntryRelinksAndOpensOneChild) {
   tests::show(*window);  // the menu took the focus with it
   tests::key(Qt::Key_F4, Qt::ControlModifier);
   EXPECT_EQ(children(), 0);
+}
+
+TEST_F(MainWindow, AnotherBooksEntryTurnsTheOpenReadingScreen) {
+  session.dbBasic.Execute("Insert Into User(Company) Values('해온가스')");
+  ASSERT_TRUE(window->run("MnuIndivisualCheck"));
+  auto* const screen = dynamic_cast<ReadingScreen*>(window->activeForm());
+  ASSERT_TRUE(screen);
+  EXPECT_EQ(screen->book(), MeterBook::Individual);
+  ASSERT_TRUE(window->run("MnuManyCheck"));
+  EXPECT_EQ(children(), 1);
+  EXPECT_EQ(screen->book(), MeterBook::MultiHousehold);
+  auto* const status = window->findChild<QLabel*>("PnlStatus");
+  window->showStatus("가람식당");
+  EXPECT_EQ(status->property("role"), "status");
+  window->activeForm()->close();
+  EXPECT_EQ(status->text() + status->property("role").toString(), "") << "colour and text go with the form";
 }
 
 TEST_F(MainWindow, AFormThatClosesItselfTakesItsFrameAlong) {
