@@ -43,10 +43,16 @@ QString Paths::driveFolder(QChar letter) const {
 QString Paths::native(const QString& written) const {
   if (hasDriveLetters || !startsWithDrive(written)) return written;
   if (const QString known = found_.value(written); !known.isEmpty() && QFileInfo::exists(known)) return known;
-  QString path = driveFolder(written[0]);
+  const QString drive = driveFolder(written[0]);
+  QString path = drive;
   QString rest = written.sliced(2);
   rest.replace(u'\\', u'/');
   for (const QString& name : rest.split(u'/', Qt::SkipEmptyParts)) {
+    if (name == u".") continue;
+    if (name == u"..") {  // never above the drive
+      if (path != drive) path.truncate(path.lastIndexOf(u'/'));
+      continue;
+    }
     QString next = path + u'/' + name;
     if (!QFileInfo::exists(next)) {
       const QStringList names =

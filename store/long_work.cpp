@@ -1,10 +1,13 @@
 #include "store/long_work.h"
 
 #include <QElapsedTimer>
+#include <QThread>
 
 namespace {
 
 constexpr int groupMilliseconds = 200;
+/** Longer than a waiting PC's look at the lock; without it the next group would begin before anybody had looked. */
+constexpr int gapMilliseconds = 20;
 
 }  // namespace
 
@@ -23,6 +26,7 @@ int run(const jet::Workspace& workspace, const LongWork& work) {
       });
     }
     if (work.tell && !work.tell(done)) break;
+    if (done < work.count) QThread::msleep(gapMilliseconds);
   }
   return done;
 }

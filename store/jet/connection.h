@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QString>
 #include <memory>
 
@@ -45,6 +46,10 @@ class Connection {
   struct Closer {
     void operator()(sqlite3* handle) const { sqlite3_close_v2(handle); }
   };
+  static int waitForLock(void* connection, int tries);
+
+  int patience_;  ///< milliseconds
+  QElapsedTimer waiting_;
   std::unique_ptr<sqlite3, Closer> handle_;
 };
 

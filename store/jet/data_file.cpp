@@ -105,6 +105,11 @@ void DataFile::create(const QString& nativePath) {
   }
 }
 
+void DataFile::useRollbackJournal(Connection& connection) {
+  SqliteStatement mode(connection, "PRAGMA " + alias_ + ".journal_mode = DELETE");
+  if (mode.step(path_) && mode.text(0) == u"wal") fail(3051, path_);
+}
+
 void DataFile::load(Connection& connection) {
   std::vector<TableDef> tables;
   QHash<QString, int> byName;

@@ -36,6 +36,9 @@ class DataFile {
   bool outdated = false;
   quint64 lastUse = 0;
 
+  /** Right after opening: a file that a foreign tool has switched to write-ahead logging is switched back, or a group
+   *  over several files would not be whole; 3051 when others keep it so. */
+  void useRollbackJournal(Connection& connection);
   /** Reads the catalogue; throws 3343 for a file that has none. */
   void load(Connection& connection);
   /** The same when another program has changed it since; true when it had. */

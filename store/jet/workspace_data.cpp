@@ -112,6 +112,7 @@ void WorkspaceData::ensureAttached(const FilePtr& file) {
   connection_->attach(file->path(), file->alias());
   try {
     file->load(*connection_);
+    file->useRollbackJournal(*connection_);
     connection_->exec("PRAGMA " + file->alias() + ".cache_size = -16000");
   } catch (const Error&) {
     connection_->detach(file->alias());
@@ -142,6 +143,7 @@ void WorkspaceData::connect(const FilePtr& file) {
       connection_ = std::make_unique<Connection>(candidate->path(), options_.busyMilliseconds);
       candidate->setAlias(kMainAlias);
       candidate->load(*connection_);
+      candidate->useRollbackJournal(*connection_);
       candidate->attached = true;
       files_ = {candidate};
       return;

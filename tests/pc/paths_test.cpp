@@ -86,6 +86,18 @@ TEST_F(PathsTest, FindsAWindowsShareWhereTheDesktopMountsIt) {
   EXPECT_TRUE(paths.exists("G:\\basic.mdb"));
 }
 
+TEST_F(PathsTest, NoWrittenPathLeavesItsDrive) {
+  touch(at("/c/RWGas/Dbs/Basic.mdb"));
+  touch(at("/settings/secret.ini"));
+  EXPECT_EQ(paths.native("C:\\RWGas\\Dbs\\..\\.\\dbs\\basic.mdb"), at("/c/RWGas/Dbs/Basic.mdb"));
+  for (const char* up :
+       {"C:\\..\\settings\\secret.ini", "C:..\\settings\\secret.ini", "C:/RWGas/../../settings/secret.ini",
+        "C:\\RWGas\\Dbs\\..\\..\\..\\..\\settings\\secret.ini"}) {
+    EXPECT_EQ(paths.native(up), at("/c/settings/secret.ini")) << up;
+    EXPECT_FALSE(paths.exists(up)) << up;
+  }
+}
+
 TEST_F(PathsTest, StartsCompanionToolsThatAreThere) {
   touch(at("/c/RWGas/MapEdit.exe"));
   pc::Process process(paths);

@@ -69,6 +69,20 @@ TEST_F(ManyPcs, AProgramThatIsStartedAgainAndAgainDisturbsNobody) {
   EXPECT_EQ(starter.lines().join(u'\n').toStdString(), "");
 }
 
+TEST_F(ManyPcs, LongWorkLetsTheOthersIn) {
+  const int steps = measure(30000, 600000);
+  Child worker({u"--pc"_s, u"work-long"_s, folder.path(), QString::number(steps)});
+  ASSERT_TRUE(worker.waitFor(QLatin1String(word::ready), 30000));
+  postTogether(2, measure(30, 400));
+  EXPECT_FALSE(worker.finish(0)) << "the others were done long before";
+  EXPECT_TRUE(worker.finish(600000));
+  Pc here(folder.path());
+  here.open();
+  EXPECT_EQ(
+      here.session.dbYear.OpenRecordset(u"Select Sum(UseMuch) From Evaporation Where Mon = 9"_s)[0].toLong(),
+      steps);
+}
+
 TEST_F(ManyPcs, AHeldLockIsToldAndTheWorkGoesOnAfterwards) {
   Pc here(folder.path());
   here.open();

@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include "app/start_up.h"
+#include "store/long_work.h"
 #include "tests/storm/books.h"
 #include "tests/storm/poster.h"
 
@@ -26,6 +27,25 @@ int holdLock(const QStringList& arguments) {
     QThread::msleep(arguments.at(1).toULong());
   });
   return 0;
+}
+
+/** ROOT STEPS: long work over both files, as a recalculation is. */
+int workLong(const QStringList& arguments) {
+  Pc here(arguments.at(0));
+  here.open();
+  report(QLatin1String(word::ready));
+  const Session& session = here.session;
+  const int count = arguments.at(1).toInt();
+  const int done =
+      run(session.wsMain,
+          {.count = count, .step = [&](int step) {
+             const QString code = QString::number(clientCount + 1 + step % meteredCount);
+             session.dbYear.Execute(u"Update Client Set Memo = '"_s + QString::number(step) +
+                                    u"' Where Code = "_s + code);
+             session.dbYear.Execute(
+                 u"Update Evaporation Set UseMuch = UseMuch + 1 Where Mon = 9 And ClientCode = "_s + code);
+           }});
+  return done == count ? 0 : 8;
 }
 
 /** ROOT TIMES: a program that is started and ended so often while others work. */
@@ -67,6 +87,7 @@ int runPc(const QStringList& arguments) {
   if (work == u"post") return runPoster(arguments.mid(1));
   if (work == u"read") return runReader(arguments.mid(1));
   if (work == u"hold") return holdLock(arguments.mid(1));
+  if (work == u"work-long") return workLong(arguments.mid(1));
   if (work == u"start") return startOver(arguments.mid(1));
   if (work == u"post-limited") return postWithinLimit(arguments.mid(1));
   if (work == u"post-as-anyone") return postAsAnyone(arguments.mid(1));
