@@ -2,6 +2,8 @@
 
 #include <QChar>
 #include <QLocale>
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -11,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace jet {
 namespace {
+
+constexpr double kFifteenDigits = 1e15;
 
 bool isBlankUnit(QChar c) {
   return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
@@ -59,6 +63,29 @@ qsizetype plainNumberLength(QStringView text, bool commas) {
     if (exponent > first) at = exponent;
   }
   return at;
+}
+
+/** Digits with one point at most, as cells hold them: up to 15 of them are exact in a double, and so is the power of
+ *  ten below, so one division rounds once, as the full reading does. Nothing when the text is anything else. */
+std::optional<double> shortNumber(QStringView text) {
+  constexpr double powers[] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                               1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+  const bool minus = text.startsWith(u'-');
+  if (minus) text = text.sliced(1);
+  if (text.isEmpty() || text.size() > 15 || !isDigitUnit(text.front())) return {};
+  qint64 digits = 0;
+  qsizetype point = text.size();
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    if (text[at] == u'.' && point == text.size())
+      point = at;
+    else if (isDigitUnit(text[at]))
+      digits = digits * 10 + (text[at].unicode() - u'0');
+    else
+      return {};
+  }
+  const qsizetype places = std::max<qsizetype>(text.size() - point - 1, 0);
+  const double number = double(digits) / powers[places];
+  return minus ? -number : number;
 }
 
 double plainNumber(QStringView text) {
@@ -163,6 +190,8 @@ bool matchesOne(char16_t unit, QStringView pattern, qsizetype* at) {
 }  // namespace
 
 double val(QStringView text) {
+  if (text.isEmpty()) return 0;
+  if (const auto number = shortNumber(text)) return *number;
   QString kept;
   kept.reserve(text.size());
   for (const QChar c : text)
@@ -177,6 +206,7 @@ double val(QStringView text) {
 }
 
 std::optional<double> numberOf(QStringView text) {
+  if (const auto number = shortNumber(text)) return number;
   text = text.trimmed();
   qsizetype used = 0;
   if (const auto number = radixNumber(text, &used)) {
@@ -212,6 +242,16 @@ std::optional<double> numberOf(QStringView text) {
 
 QString textOf(double number) {
   if (number == 0) return u"0"_s;
+  if (std::fabs(number) < kFifteenDigits && number == std::trunc(number))
+    return QString::number(qint64(number));
+  // What is told apart by 15 digits or less is what 15 digits show.
+  if (std::fabs(number) >= 1e-4 && std::fabs(number) < kFifteenDigits) {
+    char text[32];
+    char* const end = std::to_chars(text, text + sizeof text, number, std::chars_format::fixed).ptr;
+    char* const first = std::find_if(&text[0], end, [](char c) { return c >= '1' && c <= '9'; });
+    if (end - first <= (std::find(first, end, '.') == end ? 15 : 16))
+      return QString::fromLatin1(text, end - text);
+  }
   return QString::number(number, 'G', 15);
 }
 
@@ -221,6 +261,7 @@ double roundHalfEven(double number) {
 }
 
 double roundHalfEven(double number, int places) {
+  if (number == std::trunc(number)) return number;
   const double scale = std::pow(10.0, places);
   const double scaled = number * scale;
   // 2.675 is stored a little below; the language rounds what its 15 digits show.

@@ -59,6 +59,23 @@ TEST(TextRules, ADoubleShowsFifteenDigits) {
   EXPECT_EQ(jet::textOf(-2.0 / 3), u"-0.666666666666667"_s);
 }
 
+TEST(TextRules, QuickWaysGiveWhatTheFullReadingGives) {
+  quint64 dice = 20020101;
+  for (int turn = 0; turn < 20000; ++turn) {
+    dice = dice * 6364136223846793005ull + 1442695040888963407ull;
+    const QString digits = QString::number(dice >> (4 + turn % 56));
+    const qsizetype point = qsizetype(dice % 7);
+    const QString text = (turn % 3 ? "" : "-") +
+                         (point < digits.size() ? digits.left(digits.size() - point) : "0") +
+                         (turn % 2 ? "." + digits.right(point) : "");
+    ASSERT_EQ(jet::val(text), text.toDouble()) << text.toStdString();
+    const double number = text.toDouble() * (turn % 5 == 0 ? 1e-9 : 1) / (turn % 4 == 0 ? 3 : 1);
+    if (number != 0) {
+      ASSERT_EQ(jet::textOf(number), QString::number(number, 'G', 15)) << text.toStdString();
+    }
+  }
+}
+
 TEST(TextRules, TiesGoToTheEvenNumber) {
   EXPECT_EQ(jet::Value(0.5).toLong(), 0);
   EXPECT_EQ(jet::Value(1.5).toLong(), 2);
