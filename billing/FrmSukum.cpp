@@ -69,14 +69,9 @@ void FrmSukum::leaveYear() {
 void FrmSukum::collect() {
   count_->clear();
   sum_->clear();
-  const auto collected = [this] {
-    const BusyPointer busy;
-    std::unique_ptr<FrmProgress> bar;
-    return collection_.run(year_->text(), month_->currentText(), [&](int count) {
-      bar = std::make_unique<FrmProgress>(u"수납파일을 처리하고 있습니다..."_s, count, false, this);
-      return [&](int done) { return bar->step(done); };
-    });
-  }();
+  const auto collected = collection_.run(year_->text(), month_->currentText(), [this](int count) {
+    return barTeller(u"수납파일을 처리하고 있습니다..."_s, count, this);
+  });
   if (!collected) return;
   count_->setText(vb::Format(collected->count, u"#,##0"_s));
   sum_->setText(vb::Format(collected->sum, u"#,##0"_s));

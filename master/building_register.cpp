@@ -108,11 +108,13 @@ void BuildingRegister::showUnits(const RegisterFields& boxes) {
   if (plan_ == plan) return;
   plan_ = plan;
   std::vector<QStringList> floors;
-  for (const std::vector<int>& floor : unitNumbers(plan)) {
+  const bool sensible =
+      plan.width > 0 && plan.width <= BuildingPlan::Most && plan.floors <= BuildingPlan::Most;
+  for (const std::vector<int>& floor : unitNumbers(sensible ? plan : BuildingPlan())) {
     QStringList& texts = floors.emplace_back();
     for (const int number : floor) texts << QString::number(number);
   }
-  ::showUnits(units_, plan.width > 0 ? floors : std::vector<QStringList>(), false);
+  ::showUnits(units_, floors, false);
 }
 
 void BuildingRegister::showHouseholds() {
@@ -136,14 +138,15 @@ void BuildingRegister::showHouseholds() {
 // --- save and delete ----------------------------------------------------------------------------------------
 
 RegisterRules::Outcome BuildingRegister::checkRequired(const RegisterFields& boxes) {
-  const auto missing = [&](const QString& column) {
-    const QString text = boxes[column].trimmed();
-    return text.isEmpty() || text == u"0"_s;
-  };
+  const auto missing = [&](const QString& column) { return typedNumber(boxes[column]).toDouble() <= 0; };
+  const auto tooMany = [&](const QString& column) { return boxes[column].toInt() > BuildingPlan::Most; };
   if (boxes[u"Name"_s].isEmpty()) return refuse(u"건물명은 필수입력사항입니다!"_s, buildingTitle, u"Name"_s);
   if (boxes[u"Dong"_s].isEmpty()) return refuse(u"동명은 필수입력사항입니다!"_s, buildingTitle, u"Dong"_s);
   if (missing(u"Height"_s)) return refuse(u"층수는 필수입력사항입니다!"_s, buildingTitle, u"Height"_s);
   if (missing(u"Width"_s)) return refuse(u"층당 세대수는 필수입력사항입니다!"_s, buildingTitle, u"Width"_s);
+  if (tooMany(u"Height"_s) || tooMany(u"Width"_s))
+    return refuse(u"층수와 층당 세대수는 99까지 입력할 수 있습니다!"_s, buildingTitle,
+                  tooMany(u"Height"_s) ? u"Height"_s : u"Width"_s);
   if (boxes[u"PostCode"_s].isEmpty())
     return refuse(u"우편번호는 필수입력사항입니다!"_s, buildingTitle, u"PostCode"_s);
   if (boxes[u"Address"_s].isEmpty())

@@ -8,6 +8,8 @@
 
 /** How a building is laid out. */
 struct BuildingPlan {
+  static constexpr int Most = 99;  ///< floors, and units a floor
+
   int floors = 0;  ///< built ones: a floor 4 that does not exist is none of them
   int width = 0;   ///< units a floor
   bool staircase =

@@ -7,8 +7,6 @@
 #include <QRadioButton>
 #include <QRegularExpressionValidator>
 
-#include <memory>
-
 #include "master/form_lookups.h"
 #include "ui/FrmProgress.h"
 
@@ -16,18 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostFloors = 99, mostUnits = 99;
-
-/** The bar comes up with the first group of households, so that a small house is made without one. */
-std::function<bool(int)> householdTeller(QWidget* over, int count) {
-  auto bar = std::make_shared<std::unique_ptr<FrmProgress>>();
-  return [=](int done) {
-    if (!*bar && done < count)
-      *bar = std::make_unique<FrmProgress>(u"세대별 고객을 등록하고 있습니다..."_s, count, false, over);
-    if (*bar) (*bar)->step(done);
-    return true;
-  };
-}
+constexpr qint64 mostWon = 999'999'999;
 
 }  // namespace
 
@@ -50,7 +37,9 @@ frmHouseStyle::frmHouseStyle(FormContext& context, QWidget* parent)
 
 void frmHouseStyle::buildPage(BuildingRegister& buildings, Page& page, const char* gridName,
                               const QString& title) {
-  buildings.beginWork = [this](int count) { return householdTeller(this, count); };
+  buildings.beginWork = [this](int count) {
+    return barTeller(u"세대별 고객을 등록하고 있습니다..."_s, count, this);
+  };
   page.sheet = addPage(buildings, gridName, "TabHouse", title);
   page.sheet->setListHelp(u"건물자료 삭제 : Delete"_s);
   page.sheet->boxPanel()->setStyleSheet(u"#PnlBoxes { border: none; margin-top: 0; padding: 0; }"_s);
@@ -79,8 +68,9 @@ QGroupBox* frmHouseStyle::buildBoxes(Page& page) {
   QGroupBox* const group = addGroup(u"건물"_s);
   Fields fields(group, 2);
   RegisterPage* const sheet = page.sheet;
-  const auto count = [&](const char* name, const QString& label, int most) {
+  const auto count = [&](const char* name, const QString& label, int digits, qint64 most) {
     MoneyBox* const box = fields.money(name, label, 8);
+    box->setMaxLength(digits);
     box->setRange(0, most);
     return box;
   };
@@ -106,9 +96,9 @@ QGroupBox* frmHouseStyle::buildBoxes(Page& page) {
   fields.add(u"세대구조"_s, structure, 2);
   sheet->bind(stair, u"Structure"_s, u"세대구조를 화살표키로 선택합니다"_s);
 
-  page.floors = count("TxtHeight", u"층수"_s, mostFloors);
+  page.floors = count("TxtHeight", u"층수"_s, 2, BuildingPlan::Most);
   sheet->bind(page.floors, u"Height"_s, u"건물의 층수를 입력합니다"_s);
-  page.width = count("TxtWidth", u"층당 세대수"_s, mostUnits);
+  page.width = count("TxtWidth", u"층당 세대수"_s, 2, BuildingPlan::Most);
   sheet->bind(page.width, u"Width"_s, u"건물의 층당 세대수를 입력합니다"_s);
   const auto exists = [&](const char* name, const QString& caption) {
     QCheckBox* const box = fields.check(name, caption);
@@ -134,7 +124,7 @@ QGroupBox* frmHouseStyle::buildBoxes(Page& page) {
   sheet->bind(page.metered, u"Evaporation"_s, u"체적은 스페이스바로 체크, 일반은 엔터 치세요"_s);
   page.pressure = fields.text("TxtPressure", u"압력조정기"_s, 12, 20);
   sheet->bind(page.pressure, u"Pressure"_s, u"엔터를 누른후 압력조정기를 선택하세요"_s);
-  page.price = count("TxtEva", u"체적단가"_s, 999'999'999);
+  page.price = count("TxtEva", u"체적단가"_s, 11, mostWon);
   sheet->bind(page.price, u"Eva"_s, u"사용량 계산시 적용할 단가를 입력합니다"_s);
   connect(page.metered, &QCheckBox::toggled, this, [&page](bool on) {
     page.pressure->setEnabled(on);

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -57,4 +59,12 @@ void FrmProgress::reject() {
 void FrmProgress::closeEvent(QCloseEvent* event) {
   reject();
   event->ignore();
+}
+
+std::function<bool(int done)> barTeller(const QString& caption, int total, QWidget* over) {
+  auto bar = std::make_shared<std::unique_ptr<FrmProgress>>();
+  return [=](int done) {
+    if (!*bar && done < total) *bar = std::make_unique<FrmProgress>(caption, total, false, over);
+    return !*bar || (*bar)->step(done);
+  };
 }

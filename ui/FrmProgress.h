@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QElapsedTimer>
 
+#include <functional>
+
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -27,3 +29,7 @@ class FrmProgress : public QDialog {
   QElapsedTimer sinceDrawn_;
   bool stopped_ = false;
 };
+
+/** A teller for work of so many steps that may not be stopped: the bar comes up with the first word before the end, so
+ *  short work is done without one, and goes when the teller does. */
+std::function<bool(int done)> barTeller(const QString& caption, int total, QWidget* over);

@@ -114,6 +114,9 @@ TEST_F(BuildingRegisterTest, WhatIsMissingIsAskedForInOrder) {
     EXPECT_EQ(buildings.save(boxes).focus, column);
     boxes[column] = block[column];
   }
+  boxes[u"Height"_s] = u"100"_s;
+  pc.prompts.expect(u"층수와 층당 세대수는 99까지 입력할 수 있습니다!"_s);
+  EXPECT_EQ(buildings.save(boxes).focus, u"Height"_s);
   save(block);
   buildings.beginNew();
   pc.prompts.expect(u"달빛 101동은 이미 등록되어 있습니다!"_s);
@@ -173,6 +176,23 @@ TEST_F(BuildingRegisterTest, WhatFailsOnTheWayIsTakenBackAndTold) {
   EXPECT_EQ(rows(u"Select Name From Client"_s), u"옛 고객"_s) << "whoever stood there before stays";
   EXPECT_EQ(rows(u"Select Count(Mon) As C From Evaporation"_s), u"0"_s);
   EXPECT_TRUE(buildings.isNew()) << "the boxes stay for another try";
+}
+
+TEST_F(BuildingRegisterTest, WhatCannotBeTakenBackIsTold) {
+  block[u"Height"_s] = u"50"_s;
+  block[u"Width"_s] = u"80"_s;
+  buildings.beginWork = [&](int) {
+    return [&](int) {
+      pc.session.dbYear.Close();  // the year's file is gone after the first group
+      return true;
+    };
+  };
+  buildings.beginNew();
+  pc.prompts.expect(u"세대까지만 등록되었습니다!\n건물을 삭제한 후 다시 등록하십시오."_s);
+  EXPECT_THROW(buildings.save(block), jet::Error);
+  EXPECT_TRUE(pc.prompts.seen.last().startsWith(u"건물관리자|4000세대 중 "_s))
+      << pc.prompts.seen.last().toStdString();
+  EXPECT_EQ(blocks(), u"달빛 101"_s) << "the block stands, so that it can be deleted";
 }
 
 TEST_F(BuildingRegisterTest, AChangeReachesEveryHouseholdButNotItsName) {
@@ -255,6 +275,13 @@ TEST_F(BuildingRegisterTest, AThousandHouseholdsAreMadeWithinSeconds) {
   EXPECT_EQ(of, 1000);
   EXPECT_EQ(told, 1000);
   EXPECT_EQ(rows(u"Select Count(Mon) As C From Evaporation"_s), u"13000"_s);
+  since.start();
+  buildings.select(1);
+  pc.prompts.expect(u"모두 지우시겠습니까?"_s);
+  pc.prompts.expect(u"삭제하시겠습니까?"_s);
+  EXPECT_TRUE(buildings.remove().done);
+  EXPECT_LT(since.elapsed(), 4000) << "other PCs wait no longer than this";
+  EXPECT_EQ(rows(u"Select Count(Code) As C From Client"_s), u"0"_s);
 }
 
 }  // namespace

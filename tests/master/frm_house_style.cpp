@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTimer>
 #include <memory>
 
 #include "tests/idle_context.h"
@@ -126,6 +127,28 @@ TEST_F(HouseStyleForm, BoxesDecideTheNumbersUntilTheBlockIsStored) {
   box<QPushButton>("BtnCancel")->click();
   EXPECT_EQ(units->model().MaxRows(), 0);
   EXPECT_EQ(households(), QString());
+}
+
+TEST_F(HouseStyleForm, ABigBlockShowsHowFarItIs) {
+  enterBlock();
+  box("TxtHeight")->setText(u"30"_s);
+  box("TxtWidth")->setText(u"60"_s);
+  tests::grab(*form, u"frmHouseStyle-big"_s);
+  bool seen = false;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, form.get(), [&] {
+    if (auto* const bar = form->findChild<QWidget*>(u"FrmProgress"_s); bar && !seen) {
+      seen = true;
+      EXPECT_FALSE(bar->findChild<QPushButton*>()) << "half a block is none";
+      tests::grab(*bar, u"FrmProgress-households"_s);
+    }
+  });
+  watch.start(0);
+  at.prompts.expect(u"건물등록을 마쳤습니다"_s);
+  tests::key(Qt::Key_Return);
+  EXPECT_TRUE(seen);
+  EXPECT_FALSE(form->findChild<QWidget*>(u"FrmProgress"_s)) << "it goes when the work is done";
+  EXPECT_EQ(form->grid()->model().text(1, 6), u"1800"_s);
 }
 
 TEST_F(HouseStyleForm, AStoredBlockIsChangedAndDeletedByKeys) {
