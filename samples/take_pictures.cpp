@@ -1,10 +1,12 @@
 // Pictures of every form on the sample retailer's books, for the documents and for looking at.
 //   take_pictures PC FOLDER        (QT_SCALE_FACTOR=1.5 shows them as on a 144 dpi screen)
 #include <QApplication>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPushButton>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -24,6 +26,7 @@
 #include "samples/sample_books.h"
 #include "ui/message_boxes.h"
 #include "ui/printers.h"
+#include "ui/report_viewer.h"
 #include "ui/style.h"
 
 namespace {
@@ -70,6 +73,23 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
     if (auto* form = window.findChild<QWidget*>(QString::fromLatin1(name))) photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");
+}
+
+/** The meter book's totals of the month before, and their paper. */
+void totals(frmMain& window, ReportViewer& reports, Photographer& photographer) {
+  if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow()) before->close();
+  if (!window.run("MnuAPTTotal")) return;
+  auto* form = window.findChild<QWidget*>("frmEvaTotal");
+  for (const char* end : {"CboMonFrom", "CboMonTo"}) {
+    auto* month = form->findChild<QComboBox*>(end);
+    month->setCurrentIndex(month->currentIndex() - 1);
+  }
+  form->findChild<QPushButton*>("BtnRefresh")->click();
+  photographer.take(*form, "frmEvaTotal");
+  form->findChild<QPushButton*>("BtnPrt")->click();
+  if (!reports.window()) return;
+  photographer.take(*reports.window(), "frmReport");
+  reports.window()->close();
 }
 
 void pickers(FormPickers& pickers, Session& session, Photographer& photographer) {
@@ -139,6 +159,8 @@ int main(int argc, char** argv) {
   open = &session;
   PcPrinters printers(pc);
   session.printers = &printers;
+  ReportViewer reports(session);
+  session.reports = &reports;
   StartUp startUp(session);
   FormPickers searches(session);
   Photographer photographer(application.arguments().at(2));
@@ -158,6 +180,7 @@ int main(int argc, char** argv) {
     frmMain window(session, searches);
     searches.setContext(window.context());
     mainWindowForms(window, session, photographer);
+    totals(window, reports, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);
     window.setSilentClose();

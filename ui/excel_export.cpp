@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <cmath>
+
 #include "store/session.h"
 #include "ui/spread_model.h"
 
@@ -47,9 +49,12 @@ void writeCell(lxw_worksheet* sheet, lxw_row_t at, lxw_col_t place, const Spread
   if (text.isEmpty()) return;
   bool numeric = false;
   const double number = QString(text).remove(u',').toDouble(&numeric);
-  // Only an amount's column becomes a number: codes, telephone and account numbers keep their leading zeros.
+  // Only an amount's column becomes a number: codes, telephone and account numbers keep their leading zeros. A
+  // fraction keeps its places; under a picture for both a whole amount would end in a point.
+  const bool whole = number == std::floor(number);
   if (isAmountColumn(column.kind) && numeric)
-    worksheet_write_number(sheet, at, place, number, column.kind == CellKind::Money ? amounts : nullptr);
+    worksheet_write_number(sheet, at, place, number,
+                           column.kind == CellKind::Money && whole ? amounts : nullptr);
   else
     worksheet_write_string(sheet, at, place, text.toUtf8().constData(), nullptr);
 }
@@ -63,7 +68,7 @@ bool writeGrid(const QString& file, const SpreadModel& grid, const QString& titl
   format_set_bold(head);
   format_set_align(head, LXW_ALIGN_CENTER);
   lxw_format* const amounts = workbook_add_format(book.get());
-  format_set_num_format(amounts, "#,##0.##;-#,##0.##");
+  format_set_num_format(amounts, "#,##0");
 
   lxw_col_t place = 0;
   const lxw_row_t first = keepHeaders ? 1 : 0;
