@@ -1,0 +1,63 @@
+// From the reading screen to the slip: the real windows, the printers alone are a recorder.
+#include <QMdiArea>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QTimer>
+
+#include "app/frmMain.h"
+#include "tests/billing/meter_desk.h"
+#include "tests/idle_context.h"
+#include "tests/recorded_print.h"
+#include "tests/ui/grab.h"
+
+namespace {
+
+TEST(GiroRoad, TheSlipShowsWhatTheReadingScreenShows) {
+  tests::MeterDesk desk({2026, 3, 16});
+  tests::RecordedPrinters printers;
+  desk.session.printers = &printers;
+  desk.pc.pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "지로프린터");
+  const int code = desk.customer("달빛식당", 1500);
+  desk.set(code, 2, "UseGage = 1100, Total = 12000");
+  desk.set(code, 3,
+           "UseGage = 1130, UseMuch = 30, UsePay = 45000, Trust = 12000, Delay = 240, Manage = 1000, "
+           "Total = 58240");
+  const int other = desk.customer("별빛식당", 1500);
+  desk.set(other, 3, "Total = 1000");
+
+  tests::IdlePickers pickers;
+  frmMain window(desk.session, pickers);
+  tests::show(window);
+  ASSERT_TRUE(window.openForm("frmEva:1"));
+  QWidget* screen = window.activeForm();
+  ASSERT_EQ(screen->objectName(), "frmEva");
+  QTest::qWait(10);
+  for (const char* paper : {"BtnOCR", "BtnOCR4"}) {
+    QTimer::singleShot(0, &window, [] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      ASSERT_TRUE(dialog);
+      dialog->findChild<QRadioButton*>("Opt4")->click();
+      QTest::mouseClick(dialog->findChild<QPushButton*>("BtnJiro"), Qt::LeftButton);
+      dialog->close();
+    });
+    auto* button = screen->findChild<QPushButton*>(QString::fromUtf8(paper));
+    ASSERT_TRUE(button && button->isEnabled());
+    QTest::mouseClick(button, Qt::LeftButton);
+    ASSERT_FALSE(printers.jobs.empty());
+    const auto& job = *printers.jobs.back();
+    EXPECT_EQ(job.pages, paper == std::string("BtnOCR") ? 2 : 1);
+    QStringList texts;
+    for (const QString& text : job.texts()) texts << text.trimmed();
+    // 2% of 12,000 in arrears; 2% of 58,240 is 1,164, cut to ten
+    for (const char* text : {"달빛식당", "1,100", "1,130", "30", "45,000", "1,000", "12,000", "240", "58,240",
+                             "1,160", "59,400", "대구"})
+      EXPECT_TRUE(texts.contains(QString::fromUtf8(text))) << text;
+    // 58240 from the right: 0 + 12 + 2 + 56 + 15 = 85
+    EXPECT_EQ(texts.filter("+582405<").size(), 1) << "the total without separators";
+  }
+  window.setSilentClose();
+  window.close();
+}
+
+}  // namespace
