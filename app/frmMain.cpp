@@ -139,6 +139,7 @@ void frmMain::buildStatusLine() {
   status_ = new QLabel;
   status_->setObjectName(u"PnlStatus"_s);
   status_->setTextFormat(Qt::PlainText);
+  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // a long address widens no window
   statusBar()->addWidget(status_, 1);
   clock_ = new QLabel;
   clock_->setObjectName(u"LblClock"_s);

@@ -138,7 +138,8 @@ QWidget* frmUser::buildSettingsPage() {
   grid->addWidget(buildChoices(u"연체료 계산"_s, {u"해당 한달만적용"_s, u"누적 연체료적용"_s},
                                {u"SSOption1"_s, u"SSOption2"_s}, delayCharge_),
                   1, 1);
-  grid->addWidget(buildChoices(u"납기후 금액 계산"_s, {u"전월 연체료 포함"_s, u"전월 연체료 제외"_s},
+  grid->addWidget(buildChoices(u"미납요금 계산시 전월 연체료에 대한 처리"_s,
+                               {u"전월 연체료 포함"_s, u"전월 연체료 제외"_s},
                                {u"optDelayType0"_s, u"optDelayType1"_s}, delayType_),
                   2, 1);
 

@@ -180,8 +180,10 @@ void frmEva::showEvent(QShowEvent* event) {
   QTimer::singleShot(0, this, [this] {
     if (sheet_.grid.MaxRows() > 0)
       grid_->setFocus();
-    else
+    else if (sheet_.book == MeterBook::Individual)
       cboMon_->setFocus();
+    else
+      cboBDName_->setFocus();
   });
 }
 
@@ -224,9 +226,13 @@ void frmEva::fillChoices() {
 
 void frmEva::clearRows() {
   sheet_.grid.clear();
-  panel_ = {};
-  pnlMan_->clear();
-  context_.commands.showStatus({});
+  showPanel({});
+}
+
+void frmEva::showPanel(const ReadingPanel& panel) {
+  panel_ = panel;
+  pnlMan_->setText(panel.man);
+  context_.commands.showStatus(panel.status);
 }
 
 void frmEva::chooseMonth(int index) {
@@ -271,15 +277,14 @@ void frmEva::refresh() {
 void frmEva::reload(int row, int col) {
   showReadings(sheet_);
   const QString today = sheet_.readingDay;
+  showPanel({});
   grid_->setActiveCell(qMin(row, sheet_.grid.MaxRows()), col);
   sheet_.readingDay = today;  // the row the cursor stands on after loading does not change it
   showReadingDay();
 }
 
 void frmEva::showCustomer(int row) {
-  panel_ = enterReadingRow(sheet_, row);
-  pnlMan_->setText(panel_.man);
-  context_.commands.showStatus(panel_.status);
+  showPanel(enterReadingRow(sheet_, row));
   showReadingDay();
 }
 

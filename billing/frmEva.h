@@ -49,6 +49,7 @@ class frmEva : public Form, public ReadingScreen {
   void refresh();
   void reload(int row, int col);
   void showCustomer(int row);
+  void showPanel(const ReadingPanel& panel);
   void showReadingDay();
   void leaveReadingDay();
 
