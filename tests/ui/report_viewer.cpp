@@ -1,9 +1,14 @@
 #include "ui/report_viewer.h"
 
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTimer>
+#include <QWheelEvent>
 
 #include "store/report_staging.h"
 #include "tests/recorded_print.h"
@@ -107,6 +112,60 @@ TEST_F(ReportViewing, PrintsWhatIsChosenOnTheChosenPrinterAndRemembersIt) {
   form->choosePrinter = [](int) { return std::nullopt; };
   tests::key(Qt::Key_F10);
   EXPECT_EQ(printers.jobs.size(), 1u);
+}
+
+TEST_F(ReportViewing, TheQuestionOffersTheLastPrinterAndAllPages) {
+  stageReadings(100);
+  pc.pc.settings.SaveSetting("해온판매", "프린터설정", "보고서", "PDF 파일");
+  frmReport* const form = show();
+  const auto answer = [form](int first, int last, int key) {
+    QTimer::singleShot(150, qApp, [=] {
+      QWidget* const box = QApplication::activeModalWidget();
+      ASSERT_TRUE(box);
+      EXPECT_EQ(box->findChild<QComboBox*>("CboPrinter")->currentText(), "PDF 파일");
+      auto* const from = box->findChild<QSpinBox*>("SpnFirst");
+      auto* const to = box->findChild<QSpinBox*>("SpnLast");
+      EXPECT_EQ(from->value(), 1);
+      EXPECT_EQ(to->value(), to->maximum());
+      tests::grab(*box, "frmReport-print");
+      from->setValue(first);
+      to->setValue(last);
+      QTest::keyClick(box, Qt::Key(key));
+    });
+    tests::show(*form);
+    form->findChild<PageView*>()->setFocus();
+    tests::key(Qt::Key_F10);
+  };
+  answer(1, 1, Qt::Key_Escape);
+  EXPECT_TRUE(printers.jobs.empty());
+  answer(3, 2, Qt::Key_Return);
+  ASSERT_EQ(printers.jobs.size(), 1u);
+  EXPECT_EQ(printers.jobs[0]->printer, "PDF 파일");
+  EXPECT_EQ(printers.jobs[0]->pages, 2) << "a range the wrong way round is turned";
+}
+
+TEST_F(ReportViewing, TheWheelGoesOnToTheNextPageOnlyAtTheEnd) {
+  stageReadings(100);
+  frmReport* const form = show();
+  auto* const view = form->findChild<PageView*>();
+  const auto turn = [&](int by, Qt::KeyboardModifiers with = {}) {
+    QWheelEvent event({50, 50}, view->viewport()->mapToGlobal(QPointF(50, 50)), {}, {0, by}, Qt::NoButton,
+                      with, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(view->viewport(), &event);
+  };
+  for (int step = 0; step < 3; ++step) tests::key(Qt::Key_Plus);
+  turn(-120);
+  EXPECT_EQ(view->page(), 0) << "the page itself is not seen to its end";
+  view->verticalScrollBar()->setValue(view->verticalScrollBar()->maximum());
+  turn(-120);
+  EXPECT_EQ(view->page(), 1);
+  EXPECT_EQ(view->verticalScrollBar()->value(), 0);
+  turn(120);
+  EXPECT_EQ(view->page(), 0);
+  EXPECT_EQ(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
+  const double zoom = view->zoom();
+  turn(120, Qt::ControlModifier);
+  EXPECT_GT(view->zoom(), zoom);
 }
 
 TEST_F(ReportViewing, TellsWhatIsWrongAndOpensNothing) {
