@@ -1,0 +1,118 @@
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "store/jet/database.h"
+#include "store/jet/error.h"
+#include "tests/fuzz/targets.h"
+
+using namespace Qt::StringLiterals;
+
+namespace fuzz {
+namespace {
+
+jet::Field field(const QString& name, jet::Type type, bool autonumber = false) {
+  jet::Field made;
+  made.name = name;
+  made.type = type;
+  made.autonumber = autonumber;
+  return made;
+}
+
+/** Basic.mdb with customers and a year file that is linked to it, a few rows each. */
+class Books {
+ public:
+  Books() {
+    using jet::Type;
+    workspace_ =
+        jet::Workspace({.mainFile = path(u"Basic.mdb"_s), .resolvePath = [this](const QString& written) {
+                          // Whatever a statement names lies in this folder.
+                          return path(written.section(u'\\', -1).section(u'/', -1));
+                        }});
+    const jet::Database basic = workspace_.CreateDatabase(u"Basic.mdb"_s);
+    basic.createTable(
+        {u"Client"_s,
+         {field(u"Code"_s, Type::Long, true), field(u"Name"_s, Type::Text), field(u"Tel"_s, Type::Text),
+          field(u"Memo"_s, Type::Memo), field(u"GasInit"_s, Type::Long),
+          field(u"VolumeYesNo"_s, Type::Boolean), field(u"Rate"_s, Type::Double)},
+         {{u"PK"_s, {u"Code"_s}, true, true}, {u"Name"_s, {u"Name"_s}, false, false}},
+         {},
+         {}});
+    db = workspace_.CreateDatabase(u"2026Foundation.mdb"_s);
+    db.createTable({u"Sale"_s,
+                    {field(u"SaleID"_s, Type::Long, true), field(u"SaleDate"_s, Type::Text),
+                     field(u"ClientCode"_s, Type::Long), field(u"SaleNum"_s, Type::Long),
+                     field(u"Trust"_s, Type::Double), field(u"Gubun"_s, Type::Boolean)},
+                    {{u"PK"_s, {u"SaleID"_s}, true, true}},
+                    {},
+                    {}});
+    db.createTable({u"Client"_s, {}, {}, u";DATABASE=Basic.mdb"_s, u"Client"_s});
+    workspace_.Together([&] {
+      for (const char* row : {"'홍길동', '053-123-4567', 'a', 100, True, 1.5",
+                              "'lpg ', '', Null, -5, False, 0", "'LPG', Null, '', 0, False, 1E300"})
+        db.Execute(u"Insert Into Client(Name, Tel, Memo, GasInit, VolumeYesNo, Rate) Values(%1)"_s.arg(
+            QString::fromUtf8(row)));
+      for (const char* row : {"'2026-01-02', 1, 3, 0.5, True", "'2026-02-03', 2, 2147483647, 0, False",
+                              "Null, 9, 0, -1, False"})
+        db.Execute(u"Insert Into Sale(SaleDate, ClientCode, SaleNum, Trust, Gubun) Values(%1)"_s.arg(
+            QString::fromUtf8(row)));
+    });
+  }
+  std::string clients() const {
+    std::string all;
+    for (auto rs = db.OpenRecordset(u"Select * From Client Order By Code"_s); !rs.atEnd(); rs.MoveNext())
+      for (int i = 0; i < rs.fieldNames().size(); ++i) all += rs[i].toText().toStdString() + '|';
+    return all;
+  }
+
+  jet::Database db;
+
+ private:
+  QString path(const QString& name) const { return folder_.filePath(name); }
+  QTemporaryDir folder_;
+  jet::Workspace workspace_;
+};
+
+}  // namespace
+
+QByteArrayList statementSeeds() {
+  QByteArrayList seeds = corpusOf("statement");
+  for (const char* name : {"cases.txt", "rows.txt", "statements_in_use.txt"}) {
+    QFile file(QStringLiteral(HAEON_TEST_DATA "/jet/") + QLatin1StringView(name));
+    if (!file.open(QIODevice::ReadOnly)) continue;
+    for (const QByteArray& line : file.readAll().split('\n'))
+      if (!line.isEmpty() && line[0] != '#' && line[0] != '@') seeds << line.split('\t').first();
+  }
+  return seeds;
+}
+
+void runStatement(const QByteArray& input) {
+  static std::unique_ptr<Books> books;
+  static int left = 0;
+  if (left-- == 0) {
+    books = std::make_unique<Books>();
+    left = 500;
+  }
+  const QString sql = QString::fromUtf8(input);
+  const bool asks = sql.trimmed().startsWith(u"select"_s, Qt::CaseInsensitive);
+  try {
+    if (asks) {
+      const std::string before = left % 8 == 0 ? books->clients() : std::string();
+      for (auto rs = books->db.OpenRecordset(
+               sql, left % 2 ? jet::RecordsetType::Dynaset : jet::RecordsetType::Snapshot);
+           !rs.atEnd(); rs.MoveNext())
+        for (int i = 0; i < rs.fieldNames().size(); ++i) (void)rs[i].toText();
+      if (!before.empty() && before != books->clients()) broken(input, u"a query changes nothing"_s);
+    } else {
+      books->db.Execute(sql);
+      left = std::min(left, 60);  // the books are others now
+    }
+  } catch (const jet::Error& error) {
+    // SQLite never sees a text that it cannot read: whatever the dialect does not allow was refused before.
+    if (error.number() == 3146 && !error.description().contains(u"too many"))
+      broken(input, error.description());
+    if (!asks) left = std::min(left, 60);
+  }
+}
+
+}  // namespace fuzz
