@@ -47,13 +47,14 @@ void frmHouseStyle::buildPage(BuildingRegister& buildings, Page& page, const cha
   halves->setContentsMargins(0, 0, 0, 0);
   halves->addWidget(buildBoxes(page), 0);
 
-  QGroupBox* const side = addGroup(u"호수 (저장하기 전에 고칠 수 있습니다)"_s);
-  auto* const whole = new QVBoxLayout(side);
+  page.side = addGroup(u"호수"_s);
+  auto* const whole = new QVBoxLayout(page.side);
   whole->setContentsMargins(6, 4, 6, 4);
-  page.units = addSpread("SpBDAddress", buildings.units(), side);
+  page.units = addSpread("SpBDAddress", buildings.units(), page.side);
   page.units->setMinimumHeight(10 * fontMetrics().lineSpacing());
   page.units->cellEntered = [this](int, int) {
-    showHelp(u"없는 세대는 호수를 지우십시오. 지운 세대는 등록되지 않습니다"_s);
+    showHelp(this->buildings().isNew() ? u"없는 세대는 호수를 지우십시오. 지운 세대는 등록되지 않습니다"_s
+                                       : u"등록된 세대의 호수입니다"_s);
   };
   page.units->cellFinished = [&buildings](int row, int col, const QString&, const QString& typed) {
     buildings.units().setText(row, col, typed.trimmed());
@@ -61,7 +62,7 @@ void frmHouseStyle::buildPage(BuildingRegister& buildings, Page& page, const cha
     return true;
   };
   whole->addWidget(page.units);
-  halves->addWidget(side, 1);
+  halves->addWidget(page.side, 1);
 }
 
 QGroupBox* frmHouseStyle::buildBoxes(Page& page) {
@@ -144,6 +145,7 @@ void frmHouseStyle::recordShown() {
   for (QLineEdit* const box :
        {boxes().name, static_cast<QLineEdit*>(boxes().floors), static_cast<QLineEdit*>(boxes().width)})
     box->setReadOnly(!fresh);
+  boxes().side->setTitle(fresh ? u"호수 (저장하기 전에 고칠 수 있습니다)"_s : u"호수"_s);
   for (QWidget* const box : {boxes().floor4, boxes().unit4}) box->setVisible(fresh);
   boxes().pressure->setEnabled(boxes().metered->isChecked());
   boxes().price->setEnabled(boxes().metered->isChecked());

@@ -20,6 +20,7 @@ class frmHouseStyle : public RegisterForm {
   /** One style's page and the boxes that the form itself moves. */
   struct Page {
     RegisterPage* sheet = nullptr;
+    QGroupBox* side = nullptr;  ///< around the units
     Spread* units = nullptr;
     QLineEdit *name = nullptr, *dong = nullptr, *post = nullptr, *address = nullptr, *pressure = nullptr;
     MoneyBox *floors = nullptr, *width = nullptr, *price = nullptr;
