@@ -45,10 +45,10 @@ FrmSukum::FrmSukum(FormContext& context, QWidget* parent)
   body()->addStretch(1);
 
   QPushButton* const save = addButton("BtnSave", u"수납처리(&S)"_s, [this] { collect(); });
-  QPushButton* const list = addButton("BtnList", u"수납목록(&L)"_s,
+  QPushButton* const list = addButton("BtnList", u"수납목록(&T)"_s,
                                       [this] { collection_.showList(year_->text(), month_->currentText()); });
   QPushButton* const leave =
-      addButton("BtnCancle", u"취소(&C)"_s, [this] { (parentWidget() ? parentWidget() : this)->close(); });
+      addButton("BtnCancle", u"취소(&X)"_s, [this] { (parentWidget() ? parentWidget() : this)->close(); });
   body()->addWidget(buttonRow({save, list, nullptr, leave}));
   enterOrder({year_, month_, save});
   resize(sizeHint());

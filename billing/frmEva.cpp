@@ -47,7 +47,7 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
   buildGrid();
   buildButtons();
   resize(sizeHint());
-  setBottomLine(u" F5:검침원/수금원   오른쪽 단추:사용량 수정, 재계산, 사용량 클리어"_s);
+  setBottomLine(u" F5:검침원/수금원   오른쪽 단추:사용량 수정, 재계산, 사용량 클리어   Ctrl+1~6:지로"_s);
 
   guard([this] {
     if (!readRateBook(session()))
@@ -58,6 +58,7 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
     sheet_.month = sheet_.calendarMonth();
     showPage(session().CheckKind);
     chooseBook(tabs_->currentIndex());
+    showReadingDay();
   });
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) {
     if (index == int(sheet_.book)) return;
@@ -157,10 +158,14 @@ void frmEva::buildGrid() {
 }
 
 void frmEva::buildButtons() {
-  const auto opens = [this](const char* name, const QString& caption, const char* form) {
+  int giroForms = 0;
+  const auto opens = [&](const char* name, const QString& caption, const char* form) {
     QPushButton* const button =
         addButton(name, caption, [this, form] { context_.commands.openForm(QString::fromUtf8(form)); });
     button->setEnabled(context_.commands.hasForm(QString::fromUtf8(form)));
+    // The captions have no letter of their own, and the hand stands in the grid.
+    button->setShortcut(Qt::CTRL | Qt::Key(Qt::Key_1 + giroForms++));
+    button->setToolTip(button->shortcut().toString(QKeySequence::NativeText));
     return button;
   };
   btnNoEva_ = addButton("BtnNoEva", u"미검침(&N)"_s, [this] {
@@ -177,14 +182,21 @@ void frmEva::buildButtons() {
 
 void frmEva::showEvent(QShowEvent* event) {
   Form::showEvent(event);
-  QTimer::singleShot(0, this, [this] {
-    if (sheet_.grid.MaxRows() > 0)
-      grid_->setFocus();
-    else if (sheet_.book == MeterBook::Individual)
-      cboMon_->setFocus();
-    else
-      cboBDName_->setFocus();
-  });
+  QTimer::singleShot(0, this, [this] { focusWork(); });
+}
+
+/** The readings; before them the building, whose month is the present one as a rule. */
+void frmEva::focusWork() {
+  if (sheet_.grid.MaxRows() > 0)
+    grid_->setFocus();
+  else if (sheet_.book != MeterBook::Individual)
+    cboBDName_->setFocus();
+  else
+    cboMon_->setFocus();
+}
+
+QSize frmEva::sizeHint() const {
+  return {Form::sizeHint().width(), 34 * grid_->fontMetrics().height() + 200};
 }
 
 void frmEva::closeEvent(QCloseEvent* event) {
@@ -196,6 +208,7 @@ void frmEva::closeEvent(QCloseEvent* event) {
 
 void frmEva::showPage(const QString& page) {
   tabs_->setCurrentIndex(qBound(0, page.toInt() - 1, tabs_->count() - 1));
+  if (isVisible()) focusWork();
 }
 
 void frmEva::chooseBook(int index) {

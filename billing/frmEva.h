@@ -21,6 +21,7 @@ class frmEva : public Form, public ReadingScreen {
 
   /** "1", "2" or "3": the book that the menu's entry means. */
   void showPage(const QString& page);
+  QSize sizeHint() const override;
 
   const SpreadModel& readings() const override { return sheet_.grid; }
   int activeReading() const override { return grid_->activeRow(); }
@@ -46,6 +47,7 @@ class frmEva : public Form, public ReadingScreen {
   void chooseBuilding(int index);
   void fillChoices();
   void clearRows();
+  void focusWork();
   void refresh();
   void reload(int row, int col);
   void showCustomer(int row);

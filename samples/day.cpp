@@ -1,5 +1,6 @@
 #include "samples/day.h"
 
+#include "samples/entrance.h"
 #include "samples/sample_books.h"
 
 namespace samples {
@@ -24,7 +25,7 @@ class Day {
   DayReport play() {
     DayReport report;
     report.before = figures();
-    signIn();
+    openSales();
     call();
     gasLine();
     collection();
@@ -36,7 +37,8 @@ class Day {
                                 "Select SaleGubun, SaleName, SaleThing, SaleNum, Income, Trust From Sale "
                                 "Where SaleDate = '" +
                                     date_ + "' Order By SaleID");
-    leave();
+    leave(stage_);
+    tell_(QStringLiteral("the program was closed"));
     return report;
   }
 
@@ -68,14 +70,8 @@ class Day {
                     values);
   }
 
-  void signIn() {
-    stage_.awaitWindow(QStringLiteral("로그인"));
-    stage_.picture(QStringLiteral("day-1-sign-in"));
-    stage_.type(QString::fromLatin1(password));
-    stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("공지"));
-    stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+  void openSales() {
+    signIn(stage_, QStringLiteral("day-1-sign-in"));
     stage_.keys({"alt+l", "s"});
     tell_(QStringLiteral("signed in and opened the sale screen"));
   }
@@ -168,15 +164,6 @@ class Day {
     stage_.keys({"F5"});
     stage_.picture(QStringLiteral("day-7-figures-of-the-day"));
     stage_.keys({"Escape"});
-  }
-
-  void leave() {
-    stage_.keys({"alt+F4"});
-    stage_.awaitWindow(QStringLiteral("프로그램 종료"));
-    stage_.keys({"Return"});
-    if (const int status = stage_.awaitEnd(); status != 0)
-      throw std::runtime_error("the program ended with status " + std::to_string(status));
-    tell_(QStringLiteral("the program was closed"));
   }
 
   Stage& stage_;

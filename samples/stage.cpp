@@ -50,6 +50,7 @@ Stage::Stage(Options options)
   environment_.insert(QStringLiteral("HAEON_PC"), options_.pcRoot);
   environment_.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
   environment_.insert(QStringLiteral("QT_SCALE_FACTOR"), QString::number(options_.scale));
+  if (!options_.pdf.isEmpty()) environment_.insert(QStringLiteral("HAEON_PDF"), options_.pdf);
   if (!options_.clock.isEmpty()) environment_.insert(QStringLiteral("HAEON_CLOCK"), options_.clock);
 
   manager_ = std::make_unique<QProcess>();
@@ -106,15 +107,21 @@ void Stage::keys(const QStringList& names) {
 }
 
 void Stage::awaitRest() const {
-  const QString file = QStringLiteral("/proc/%1/stat").arg(program_->processId());
   qint64 lastTicks = -1;
   int calm = 0;
   await(QStringLiteral("the program at rest"), [&] {
-    QFile stat(file);
-    if (!programRuns() || !stat.open(QIODevice::ReadOnly)) return true;
-    const QList<QByteArray> fields = stat.readAll().split(')').last().trimmed().split(' ');
-    const qint64 ticks = fields.value(11).toLongLong() + fields.value(12).toLongLong();
-    calm = fields.value(0) == "S" && ticks == lastTicks ? calm + 1 : 0;
+    if (!programRuns()) return true;
+    // A key goes through the display and the window manager: none of the three may be at work.
+    qint64 ticks = 0;
+    bool sleeping = true;
+    for (const QProcess* process : {display_.get(), manager_.get(), program_.get()}) {
+      QFile stat(QStringLiteral("/proc/%1/stat").arg(process->processId()));
+      if (!stat.open(QIODevice::ReadOnly)) continue;
+      const QList<QByteArray> fields = stat.readAll().split(')').last().trimmed().split(' ');
+      ticks += fields.value(11).toLongLong() + fields.value(12).toLongLong();
+      sleeping = sleeping && fields.value(0) == "S";
+    }
+    calm = sleeping && ticks == lastTicks ? calm + 1 : 0;
     lastTicks = ticks;
     return calm >= 4;
   });

@@ -16,6 +16,7 @@ class Stage {
     QString pcRoot;    ///< the PC that the program runs on
     QString clock;     ///< "yyyy-MM-dd HH:mm:ss" at start; empty: the real one
     QString pictures;  ///< folder for screenshots; empty: none are taken
+    QString pdf;       ///< file that the PDF writer fills; empty: it asks
     QString size = QStringLiteral("1280x900");
     double scale = 1;  ///< 1.5 shows the program as on a 144 dpi screen
   };

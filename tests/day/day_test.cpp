@@ -22,8 +22,12 @@ TEST(SampleDay, BalancesAndStockAreRightToTheWonAndThePiece) {
   }
   samples::DayReport day;
   try {
-    samples::Stage stage(
-        {HAEON_PROGRAMS, root.path(), samples::dayClock, qEnvironmentVariable("HAEON_PICTURES")});
+    samples::Stage::Options options;
+    options.programs = HAEON_PROGRAMS;
+    options.pcRoot = root.path();
+    options.clock = samples::dayClock;
+    options.pictures = qEnvironmentVariable("HAEON_PICTURES");
+    samples::Stage stage(options);
     try {
       day = samples::playDay(stage, [](const QString&) {});
     } catch (...) {

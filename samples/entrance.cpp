@@ -1,0 +1,27 @@
+#include "samples/entrance.h"
+
+#include <stdexcept>
+
+#include "samples/sample_books.h"
+
+namespace samples {
+
+void signIn(Stage& stage, const QString& pictureName) {
+  stage.awaitWindow(QStringLiteral("로그인"));
+  if (!pictureName.isEmpty()) stage.picture(pictureName);
+  stage.type(QString::fromLatin1(password));
+  stage.keys({"Return"});
+  stage.awaitWindow(QStringLiteral("공지"));
+  stage.keys({"Return"});
+  stage.awaitWindow(QStringLiteral("LP가스 판매관리"));
+}
+
+void leave(Stage& stage) {
+  stage.keys({"alt+F4"});
+  stage.awaitWindow(QStringLiteral("프로그램 종료"));
+  stage.keys({"Return"});
+  if (const int status = stage.awaitEnd(); status != 0)
+    throw std::runtime_error("the program ended with status " + std::to_string(status));
+}
+
+}  // namespace samples
