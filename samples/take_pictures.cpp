@@ -65,7 +65,7 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
   photographer.take(window, "frmMain");
   session.SaleDay = session.pc.clock.dateText();  // the day whose figures F5 shows
   for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
-                           "frmHouseStyle", "FrmSukum", "frmSale", "frmTodaySale"}) {
+                           "frmHouseStyle", "frmEva", "FrmSukum", "frmSale", "frmTodaySale"}) {
     if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow(); before && name[3] != 'T')
       before->close();
     window.openForm(QString::fromLatin1(name));
