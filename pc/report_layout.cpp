@@ -224,6 +224,19 @@ double ReportLayout::headingHeight() const {
   return font.points * rowSpacing / pointsAnInch * (spans.empty() ? 1.15 : 2);
 }
 
+QStringList ReportLayout::fields() const {
+  static const QRegularExpression named(u"\\{((?:Str|Lng|Dbl)\\d\\d)\\}"_s);
+  QStringList fields;
+  for (const ReportColumn& column : columns)
+    if (column.field != "no"_L1) fields << column.field;
+  if (!groupField.isEmpty()) fields << groupField;
+  for (const ReportLine& line : group)
+    for (const ReportText& text : line.texts)
+      for (const auto& found : named.globalMatch(text.text)) fields << found.captured(1);
+  fields.removeDuplicates();
+  return fields;
+}
+
 ReportLayout parseReportLayout(const QString& text) {
   ReportLayout layout;
   const QStringList lines = text.split(u'\n');

@@ -67,6 +67,8 @@ struct ReportLayout {
   double rowHeight() const;      ///< inches
   double headingHeight() const;  ///< inches, of the columns' captions
   double width() const { return paper.width - left - right; }
+  /** What the report needs of a row: columns, the group's field, fields named in the group's texts. */
+  QStringList fields() const;
 };
 
 /** Throws ReportError with the line's number. */

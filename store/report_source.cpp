@@ -35,20 +35,22 @@ pc::ReportLayout findReportLayout(const Session& session, const QString& file) {
   }
 }
 
-pc::ReportTable readStagedRows(const Session& session, const QString& dataFile) {
+pc::ReportTable readStagedRows(const Session& session, const QString& dataFile, const QStringList& fields) {
   const jet::Database print = session.wsMain.OpenDatabase(dataFile);
-  jet::Recordset rs = print.OpenRecordset(u"Select * From Print"_s);
-  pc::ReportTable table{.fields = rs.fieldNames()};
+  pc::ReportTable table{.fields = fields};
+  jet::Recordset rs = print.OpenRecordset(u"Select "_s + fields.join(u", "_s) + u" From Print"_s);
   for (; !rs.atEnd(); rs.MoveNext()) {
     std::vector<pc::ReportValue>& row = table.rows.emplace_back();
-    for (int field = 0; field < int(table.fields.size()); ++field) row.push_back(reportValue(rs[field]));
+    row.reserve(size_t(fields.size()));
+    for (int field = 0; field < int(fields.size()); ++field) row.push_back(reportValue(rs[field]));
   }
   return table;
 }
 
 std::unique_ptr<pc::Report> makeReport(const Session& session, const pc::ReportRequest& request) {
+  pc::ReportLayout layout = findReportLayout(session, request.file);
+  pc::ReportTable rows = readStagedRows(session, request.dataFile, layout.fields());
   return std::make_unique<pc::Report>(
-      findReportLayout(session, request.file), readStagedRows(session, request.dataFile), request.formulas,
-      session.pc.clock.dateText(),
+      std::move(layout), std::move(rows), request.formulas, session.pc.clock.dateText(),
       [](const QString& number, const QString& picture) { return jet::format(number, picture); });
 }

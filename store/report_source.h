@@ -12,8 +12,8 @@ struct Session;
  *  did not. Throws pc::ReportError. */
 pc::ReportLayout findReportLayout(const Session& session, const QString& file);
 
-/** The rows of the data file's table Print in the order they were staged. Throws jet::Error. */
-pc::ReportTable readStagedRows(const Session& session, const QString& dataFile);
+/** These fields of the data file's table Print, in the order the rows were staged. Throws jet::Error. */
+pc::ReportTable readStagedRows(const Session& session, const QString& dataFile, const QStringList& fields);
 
 /** Throws pc::ReportError for a report that cannot be made: no or a damaged layout, no rows; jet::Error. */
 std::unique_ptr<pc::Report> makeReport(const Session& session, const pc::ReportRequest& request);

@@ -61,7 +61,7 @@ TEST(ReportLayoutTest, ReadsPaperBandsAndColumns) {
       "column Lng01 \"금액\" 10 right \"#,##0\" sum\n"
       "column Dbl01 \"양\" 10 right\n"
       "span \"위\" Lng01 Dbl01\n"
-      "group Str02 bold \"{Str02}\"\n"
+      "group Str02 bold \"{Str02} {Lng03} {월}\"\n"
       "total \"[합 계]\"\n");
   EXPECT_DOUBLE_EQ(layout.paper.width, 11.69);
   EXPECT_DOUBLE_EQ(layout.left, 1);
@@ -78,6 +78,7 @@ TEST(ReportLayoutTest, ReadsPaperBandsAndColumns) {
   EXPECT_FALSE(layout.columns[3].sum);
   EXPECT_EQ(layout.spans[0].last, 3);
   EXPECT_EQ(layout.groupField, "Str02");
+  EXPECT_EQ(layout.fields(), QStringList({"Str01", "Lng01", "Dbl01", "Str02", "Lng03"}));
 }
 
 TEST(ReportLayoutTest, TellsWhereADamagedFileIsWrong) {

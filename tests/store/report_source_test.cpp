@@ -40,7 +40,8 @@ TEST_F(ReportSourceTest, StagedRowsComeAsTheyWereStaged) {
   const QStringList rows{"Values('101동 201호', 12.5, -3, Null)", "Values('', 0, 0, '')"};
   stageReport(session, 2,
               [&](int row) { return "Insert Into Print(Str01, Dbl01, Lng02, Str13) " + rows[row - 1]; });
-  const pc::ReportTable table = readStagedRows(session, printFile());
+  const pc::ReportTable table =
+      readStagedRows(session, printFile(), {"Lng02", "Lng01", "Str01", "Str13", "Dbl01"});
   ASSERT_EQ(table.rows.size(), 2u);
   EXPECT_EQ(pc::plainText(table.value(0, "Str01")), "101동 201호");
   EXPECT_EQ(table.value(0, "Dbl01"), pc::ReportValue(12.5));
