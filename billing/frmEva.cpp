@@ -119,11 +119,12 @@ QCheckBox* frmEva::addSetting(const char* name, const QString& caption, const QS
   box->setObjectName(QString::fromUtf8(name));
   pc::Settings& settings = session().pc.settings;
   box->setChecked(settings.GetSetting(session().AppTitle, u"Config"_s, key, u"0"_s) != "0"_L1);
-  connect(box, &QCheckBox::clicked, this, [this, &settings, key, changed = std::move(changed)](bool on) {
-    command([&] {
+  connect(box, &QCheckBox::clicked, this, [this, box, &settings, key, changed = std::move(changed)](bool on) {
+    const bool done = command([&] {
       settings.SaveSetting(session().AppTitle, u"Config"_s, key, on ? u"1"_s : u"0"_s);
       changed();
     });
+    if (!done) box->setChecked(!on);  // an open cell was refused
   });
   return box;
 }
@@ -360,11 +361,12 @@ bool frmEva::gridKey(int row, int col, int key) {
   return true;
 }
 
-/** Enter on a cell that was not changed goes the way an edit would. */
+/** Enter on a cell that was not changed goes the way an edit would, and from a column without one to the next cell. */
 void frmEva::moveOn(int row, int col) {
   if (justEdited_) return;
   const CellPlace next = MoveAfterEdit(sheet_, row, col);
-  if (next.row == row && next.col == col && row < sheet_.grid.MaxRows())
+  const bool bottom = col == EvaCol::UseGage || col == EvaCol::Pay;
+  if (next.row == row && next.col == col && !bottom)
     grid_->moveToNextOpenCell();
   else
     grid_->setActiveCell(next.row, next.col);

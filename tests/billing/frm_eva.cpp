@@ -273,6 +273,9 @@ TEST(FrmEva, PeopleTickAndDaysAreStoredFromTheGrid) {
   desk.pc.prompts.expect("납기후에 수금한 경우 다음달에 연체료를 청구하기 위한 선택사항 입니다.");
   tests::key(Qt::Key_Space);
   EXPECT_EQ(screen.cell(2, EvaCol::PayDelayed), "0");
+  screen.go(2, EvaCol::Prnt);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(screen.at(), "2,12");
   screen.go(1, EvaCol::UseGage);
   EXPECT_EQ(screen.day(), "03/02 ");
 
