@@ -181,11 +181,6 @@ void frmEva::buildButtons() {
        opens("BtnA4", u"일반-A4"_s, "frmPrtJiroOrgA4"), nullptr, btnNoEva_, print, leave}));
 }
 
-QSize frmEva::sizeHint() const {
-  // Every column shows, and a page of households.
-  return {grid_->fullWidth() + 40, 34 * grid_->fontMetrics().height() + 180};
-}
-
 void frmEva::showEvent(QShowEvent* event) {
   Form::showEvent(event);
   QTimer::singleShot(0, this, [this] { focusWork(); });

@@ -29,8 +29,6 @@ class frmEva : public Form, public ReadingScreen {
   int month() const override { return sheet_.month; }
   QString buildingEntry() const override { return sheet_.buildingEntry(); }
 
-  QSize sizeHint() const override;
-
  protected:
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
