@@ -160,13 +160,15 @@ void frmEva::buildGrid() {
 
 void frmEva::buildButtons() {
   int giroForms = 0;
-  const auto opens = [&](const char* name, const QString& caption, const char* form) {
+  const auto opens = [&](const char* name, const QString& caption, const char* form,
+                         const QString& tip = {}) {
     QPushButton* const button =
         addButton(name, caption, [this, form] { context_.commands.openForm(QString::fromUtf8(form)); });
     button->setEnabled(context_.commands.hasForm(QString::fromUtf8(form)));
     // The captions have no letter of their own, and the hand stands in the grid.
     button->setShortcut(Qt::CTRL | Qt::Key(Qt::Key_1 + giroForms++));
-    button->setToolTip(button->shortcut().toString(QKeySequence::NativeText));
+    const QString keys = button->shortcut().toString(QKeySequence::NativeText);
+    button->setToolTip(tip.isEmpty() ? keys : tip + u"  "_s + keys);
     return button;
   };
   btnNoEva_ = addButton("BtnNoEva", u"미검침(&N)"_s, [this] {
@@ -176,7 +178,8 @@ void frmEva::buildButtons() {
   auto* const leave = addButton("BtnExit", u"닫기(&X)"_s, [this] { close(); });
   body()->addWidget(buttonRow(
       {opens("BtnOCR", u"OCR"_s, "frmPrtJiroOCR:continuous"),
-       opens("BtnOCR4", u"OCR-A4"_s, "frmPrtJiroOCR:a4"), opens("BtnMicr", u"MICR-A4"_s, "frmPrtMicr"),
+       opens("BtnOCR4", u"OCR-A4"_s, "frmPrtJiroOCR:a4"),
+       opens("BtnMicr", u"MICR-A4"_s, "frmPrtMicr", u"금융결재원용 지로용지를 출력합니다"_s),
        opens("BtnJiro", u"MICR"_s, "frmPrtJiro"), opens("BtnOrgJiro", u"일반지로"_s, "frmPrtJiroOrg"),
        opens("BtnA4", u"일반-A4"_s, "frmPrtJiroOrgA4"), nullptr, btnNoEva_, print, leave}));
 }

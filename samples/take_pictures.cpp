@@ -7,6 +7,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -56,6 +57,8 @@ class Photographer {
     open();
   }
 
+  QString file(const QString& name) const { return folder_ + u'/' + name; }
+
  private:
   QString folder_;
 };
@@ -73,6 +76,28 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
     if (auto* form = window.findChild<QWidget*>(QString::fromLatin1(name))) photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");
+}
+
+/** The month before of one block, and its slips on paper: slips.pdf in the folder. */
+void meterBook(frmMain& window, Session& session, Photographer& photographer) {
+  if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow()) before->close();
+  if (!window.run("MnuAPTCheck")) return;
+  auto* form = window.findChild<QWidget*>("frmEva");
+  auto* const months = form->findChild<QComboBox*>("CboMon");
+  months->setCurrentIndex(months->currentIndex() - 1);
+  form->findChild<QComboBox*>("CboBDName")->setCurrentIndex(1);
+  form->findChild<QPushButton*>("BtnRefresh")->click();
+  photographer.take(*form, "frmEva");
+  session.pc.settings.SaveSetting(session.AppTitle, "프린터설정", "DEVICENAME", pdfPrinterName());
+  qputenv("HAEON_PDF", photographer.file("slips.pdf").toUtf8());
+  photographer.takeModal("frmPrtJiroOCR", [&] {
+    QTimer::singleShot(100, [&] {
+      QWidget* const slips = QApplication::activeModalWidget();
+      slips->findChild<QRadioButton*>("Opt4")->click();
+      slips->findChild<QPushButton*>("BtnJiro")->click();
+    });
+    window.openForm("frmPrtJiroOCR:a4");
+  });
 }
 
 /** The meter book's totals of the month before, and their paper. */
@@ -108,8 +133,8 @@ void pickers(FormPickers& pickers, Session& session, Photographer& photographer)
 }
 
 void small(frmMain& window, Session& session, Photographer& photographer) {
-  for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtJiroOCR", "frmPrtChange",
-                           "FrmSetPrinter", "FrmMargin", "FrmPrintSection"}) {
+  for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtChange", "FrmSetPrinter",
+                           "FrmMargin", "FrmPrintSection"}) {
     // A dialog runs inside openForm; a child is taken from the main window. The profile asks for the password first.
     QTimer::singleShot(300, [&, name] {
       while (QWidget* box = QApplication::activeModalWidget()) {
@@ -180,6 +205,7 @@ int main(int argc, char** argv) {
     frmMain window(session, searches);
     searches.setContext(window.context());
     mainWindowForms(window, session, photographer);
+    meterBook(window, session, photographer);
     totals(window, reports, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);

@@ -1,0 +1,82 @@
+// Slips to a PDF file: the rows' figures, layout and print job beside the same texts drawn straight on the file.
+#include <QFontMetricsF>
+#include <QHash>
+#include <QPainter>
+#include <QPrinter>
+
+#include <memory>
+
+#include "bench/books.h"
+#include "bench/pairs.h"
+#include "giro/jiro_ocr.h"
+#include "store/rate_book.h"
+#include "tests/giro/reading_rows.h"
+#include "tests/recorded_print.h"
+#include "ui/print_fonts.h"
+#include "ui/printers.h"
+
+namespace {
+
+GiroInput slipInput() {
+  return {"2026", "03", "31", "2026.02.01", "2026.02.28", {QStringLiteral("가스를 아껴 씁시다.")}};
+}
+
+/** The recorded texts on a landscape A4 file, each in its font at its place. */
+void drawPlainly(const tests::RecordedJob& job, const QString& file) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(file);
+  printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()));
+  printer.setFullPage(true);
+  QPainter painter(&printer);
+  const double dot = printer.logicalDpiX();
+  QHash<QString, std::pair<QFont, double>> fonts;
+  int page = 1;
+  for (const tests::PrintedItem& item : job.items) {
+    for (; page < item.page; ++page) printer.newPage();
+    if (item.kind != tests::PrintedItem::Text) continue;
+    auto& [font, ascent] = fonts[item.font.family + QString::number(item.font.points)];
+    if (ascent == 0) {
+      font = printFont(item.font);
+      font.setPixelSize(int(font.pointSizeF() / 72 * dot));
+      ascent = QFontMetricsF(font).ascent();
+    }
+    painter.setFont(font);
+    painter.drawText(QPointF(item.x * dot, item.y * dot + ascent), item.text);
+  }
+}
+
+const int slips = bench::addPair(
+    {"giro slips to a PDF file",
+     1.2,
+     {100, 1000, 10000},
+     [](int size, bench::Side& ours, bench::Side& plain) {
+       auto books = std::make_shared<bench::Books>();
+       Session& session = books->session;
+       bench::require(readRateBook(session), "rates");
+       auto screen = std::make_shared<tests::ReadingRows>();
+       screen->shownBook = MeterBook::Apartment;
+       for (int row = 1; row <= size; ++row)
+         screen->add(QStringLiteral("101동 %1호").arg(row), QString::number(row),
+                     QString::number(50000 + row * 10));
+       auto slipsOf = std::make_shared<JiroOcr>(session, [screen] { return screen.get(); });
+       slipsOf->setPaper(OcrPaper::A4);
+
+       auto recorder = std::make_shared<tests::RecordedPrinters>();
+       session.printers = recorder.get();
+       session.pc.settings.SaveSetting(session.AppTitle, "프린터설정", "DEVICENAME", pdfPrinterName());
+       bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
+
+       auto printers = std::make_shared<PcPrinters>(session.pc);
+       session.printers = printers.get();
+       qputenv("HAEON_PDF", books->folder.filePath("ours.pdf").toUtf8());
+       ours.run = [books, screen, slipsOf, printers, size] {
+         bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
+       };
+       plain.run = [books, recorder] {
+         drawPlainly(*recorder->jobs.back(), books->folder.filePath("plain.pdf"));
+       };
+     },
+     3});
+
+}  // namespace
