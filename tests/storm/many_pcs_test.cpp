@@ -54,11 +54,11 @@ struct ManyPcs : testing::Test {
 };
 
 TEST_F(ManyPcs, TwoLoseNothing) {
-  postTogether(2, measure(60, 4000));
+  postTogether(2, measure(60, 3000));
 }
 
 TEST_F(ManyPcs, FourLoseNothing) {
-  postTogether(4, measure(40, 4000));
+  postTogether(4, measure(40, 1500));
 }
 
 TEST_F(ManyPcs, AProgramThatIsStartedAgainAndAgainDisturbsNobody) {
@@ -70,7 +70,7 @@ TEST_F(ManyPcs, AProgramThatIsStartedAgainAndAgainDisturbsNobody) {
 }
 
 TEST_F(ManyPcs, LongWorkLetsTheOthersIn) {
-  const int steps = measure(30000, 600000);
+  const int steps = measure(30000, 300000);
   Child worker({u"--pc"_s, u"work-long"_s, folder.path(), QString::number(steps)});
   ASSERT_TRUE(worker.waitFor(QLatin1String(word::ready), 30000));
   postTogether(2, measure(30, 400));
