@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <cmath>
 
 #include "store/jet/error_texts.h"
 #include "store/jet/format_rules.h"
@@ -43,6 +44,7 @@ double Val(QStringView text) {
 double CDbl(QStringView text) {
   const std::optional<double> number = jet::numberOf(text);
   if (!number) jet::fail(13);
+  if (std::isinf(*number)) jet::fail(6);
   return *number;
 }
 

@@ -17,7 +17,7 @@ int CInt(double number);
 int CInt(QStringView text);
 /** Four decimal places, a tie to the even one. Error 6 beyond a currency's range. */
 double CCur(double number);
-/** Error 13 for a text that is no number. */
+/** Error 13 for a text that is no number, 6 for one that is none any more, such as 1E400. */
 double CDbl(QStringView text);
 /** 15 significant digits. */
 QString CStr(double number);

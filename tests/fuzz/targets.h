@@ -22,9 +22,10 @@ QByteArrayList corpusOf(const char* name);
 [[noreturn]] void broken(const QByteArray& input, const QString& promise);
 
 void runStatement(
-    const QByteArray& input);             ///< lexer, parser, resolver, writer and the rows of two real files
-QByteArrayList statementSeeds();          ///< besides the corpus every statement of the engine's own tests
-void runIni(const QByteArray& input);     ///< a settings file's bytes
-void runDevice(const QByteArray& input);  ///< what a caller unit sends
+    const QByteArray& input);          ///< lexer, parser, resolver, writer and the rows of two real files
+QByteArrayList statementSeeds();       ///< besides the corpus every statement of the engine's own tests
+void runIni(const QByteArray& input);  ///< a settings file's bytes
+void runCollection(const QByteArray& input);  ///< the bank's file of a month
+void runDevice(const QByteArray& input);      ///< what a caller unit sends
 
 }  // namespace fuzz

@@ -29,6 +29,7 @@ TEST(Vb, WholeNumbersTakeTheEvenOneAndTellWhatDoesNotFit) {
   EXPECT_EQ(errorOf([] { vb::CLng(std::numeric_limits<double>::quiet_NaN()); }), 6);
   EXPECT_EQ(errorOf([] { vb::CLng(u"12kg"); }), 13);
   EXPECT_EQ(errorOf([] { vb::CDbl(u""); }), 13);
+  EXPECT_EQ(errorOf([] { vb::CDbl(u"1E400"); }), 6);
   EXPECT_EQ(vb::CCur(1.00005), 1.0);
   EXPECT_EQ(vb::CCur(-2.00015), -2.0002);
   EXPECT_EQ(errorOf([] { vb::CCur(1e15); }), 6);
