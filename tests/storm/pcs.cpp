@@ -3,6 +3,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <QFile>
 #include <QThread>
 #include <csignal>
 
@@ -29,23 +30,25 @@ int holdLock(const QStringList& arguments) {
   return 0;
 }
 
-/** ROOT STEPS: long work over both files, as a recalculation is. */
+/** ROOT: long work over both files, as a recalculation is, until there is a file "stop"; tells its steps. */
 int workLong(const QStringList& arguments) {
   Pc here(arguments.at(0));
   here.open();
   report(QLatin1String(word::ready));
   const Session& session = here.session;
-  const int count = arguments.at(1).toInt();
+  const auto step = [&](int at) {
+    const QString code = QString::number(clientCount + 1 + at % meteredCount);
+    session.dbYear.Execute(u"Update Client Set Memo = '"_s + QString::number(at) + u"' Where Code = "_s +
+                           code);
+    session.dbYear.Execute(u"Update Evaporation Set UseMuch = UseMuch + 1 Where Mon = 9 And ClientCode = "_s +
+                           code);
+  };
+  const QString stop = arguments.at(0) + u"/stop"_s;
   const int done =
       run(session.wsMain,
-          {.count = count, .step = [&](int step) {
-             const QString code = QString::number(clientCount + 1 + step % meteredCount);
-             session.dbYear.Execute(u"Update Client Set Memo = '"_s + QString::number(step) +
-                                    u"' Where Code = "_s + code);
-             session.dbYear.Execute(
-                 u"Update Evaporation Set UseMuch = UseMuch + 1 Where Mon = 9 And ClientCode = "_s + code);
-           }});
-  return done == count ? 0 : 8;
+          {.count = 100'000'000, .step = step, .tell = [&](int) { return !QFile::exists(stop); }});
+  report(u"%1 %2 0"_s.arg(QLatin1String(word::done)).arg(done));
+  return 0;
 }
 
 /** ROOT TIMES: a program that is started and ended so often while others work. */
