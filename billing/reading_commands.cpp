@@ -34,7 +34,7 @@ bool runRows(ReadingSheet& sheet, LongWork work, const ReadingProgress& progress
 }
 
 void recalculateRow(ReadingSheet& sheet, int row) {
-  enterReadingRow(sheet, row);  // its own reading day is saved with it
+  takeStoredReadingDay(sheet, row);  // it is saved with the row
   RowBackup backup(sheet.grid, row);
   CalcReadingRow(sheet, row);
   SaveReadingRow(sheet, row);

@@ -13,7 +13,22 @@ QString orUnknown(const QString& text) {
   return text.trimmed().isEmpty() ? u"미입력"_s : text;
 }
 
+/** What the table holds beside the cells; the row's own reading day becomes the sheet's. */
+jet::Recordset openRowNotes(ReadingSheet& sheet, int row) {
+  jet::Recordset rs;
+  if (OpenSnapshot(sheet.session.prompts, sheet.session.dbYear, rs,
+                   u"Select PrntDay, ChkMan, CashMan From Evaporation Where ClientCode = "_s +
+                       sheet.code(row) + u" And Mon = "_s + QString::number(sheet.month)) &&
+      !rs.atEnd() && !rs[0].isNull())
+    sheet.readingDay = rs[0].toText().trimmed() + u' ';
+  return rs;
+}
+
 }  // namespace
+
+void takeStoredReadingDay(ReadingSheet& sheet, int row) {
+  openRowNotes(sheet, row);
+}
 
 ReadingPanel enterReadingRow(ReadingSheet& sheet, int row) {
   if (sheet.code(row).isEmpty()) return {};
@@ -22,14 +37,10 @@ ReadingPanel enterReadingRow(ReadingSheet& sheet, int row) {
   panel.status = u" 상호/성명:"_s + known(EvaCol::ClientName) + u"   전화:"_s + known(EvaCol::Tel) +
                  u"   주소:"_s + known(EvaCol::Address);
   QString reader, collector;
-  jet::Recordset rs;
-  if (OpenSnapshot(sheet.session.prompts, sheet.session.dbYear, rs,
-                   u"Select PrntDay, ChkMan, CashMan From Evaporation Where ClientCode = "_s +
-                       sheet.code(row) + u" And Mon = "_s + QString::number(sheet.month)) &&
-      !rs.atEnd()) {
-    if (!rs[0].isNull()) sheet.readingDay = rs[0].toText().trimmed() + u' ';
-    reader = rs[1].toText();
-    collector = rs[2].toText();
+  const jet::Recordset notes = openRowNotes(sheet, row);
+  if (notes.isOpen() && !notes.atEnd()) {
+    reader = notes[1].toText();
+    collector = notes[2].toText();
   }
   panel.man = u"체적단가 : "_s + moneyText(sheet.number(row, EvaCol::VolumeUnit)) + u"원  검침원 : "_s +
               orUnknown(reader) + u"  수금원 : "_s + orUnknown(collector);

@@ -12,3 +12,6 @@ struct ReadingPanel {
 /** The cursor came to a row: the sheet's reading day becomes the row's own, with one blank behind it, unless the row
  *  has none. Both texts are empty for a row without a customer. */
 ReadingPanel enterReadingRow(ReadingSheet& sheet, int row);
+
+/** The row's own reading day, when it has one, becomes the sheet's. */
+void takeStoredReadingDay(ReadingSheet& sheet, int row);

@@ -126,7 +126,7 @@ Recordset Database::OpenRecordset(const QString& sql, RecordsetType type) const 
   }
   Recordset recordset;
   recordset.data_ = std::make_shared<RecordsetData>(compiled.columns, std::move(rows));
-  if (dynaset) recordset.data_->makeWritable(data_, std::move(sources));
+  if (dynaset) recordset.data_->makeWritable(data_, compiled.columns, std::move(sources));
   return recordset;
 }
 

@@ -6,14 +6,17 @@
 
 namespace jet {
 
-RecordsetData::RecordsetData(std::vector<ResultColumn> columns, RowStore rows)
-    : columns_(std::move(columns)), rows_(std::move(rows)) {
-  for (const ResultColumn& column : columns_) {
-    const QString key = column.name.toCaseFolded();
-    if (!byName_.contains(key)) byName_.insert(key, int(names_.size()));
-    names_ << column.name;
-  }
+RecordsetData::RecordsetData(const std::vector<ResultColumn>& columns, RowStore rows)
+    : rows_(std::move(rows)) {
+  names_.reserve(qsizetype(columns.size()));
+  for (const ResultColumn& column : columns) names_ << column.name;
   reach();
+}
+
+int RecordsetData::fieldIndex(const QString& name) const {
+  for (qsizetype at = 0; at < names_.size(); ++at)
+    if (names_[at].compare(name, Qt::CaseInsensitive) == 0) return int(at);
+  return -1;
 }
 
 int RecordsetData::fieldOf(const QString& name) const {
@@ -34,7 +37,7 @@ int RecordsetData::fieldOf(const char* name) const {
 }
 
 Value RecordsetData::value(int field) const {
-  if (field < 0 || field >= int(columns_.size())) fail(3265, QString::number(field));
+  if (field < 0 || field >= int(names_.size())) fail(3265, QString::number(field));
   if (mode_ != Mode::Reading) {
     if (const auto set = pending_.find(field); set != pending_.end()) return set->second;
     if (mode_ == Mode::Adding) return {};

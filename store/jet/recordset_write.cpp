@@ -23,8 +23,10 @@ QByteArray tableName(const DataFile& file, const TableInfo& table) {
 
 }  // namespace
 
-void RecordsetData::makeWritable(std::weak_ptr<DatabaseData> database, std::vector<Source> sources) {
+void RecordsetData::makeWritable(std::weak_ptr<DatabaseData> database, std::vector<ResultColumn> columns,
+                                 std::vector<Source> sources) {
   database_ = std::move(database);
+  columns_ = std::move(columns);
   sources_ = std::move(sources);
   writable_ = !sources_.empty();
 }
