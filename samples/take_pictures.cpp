@@ -90,14 +90,15 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
   photographer.take(*form, "frmEva");
   session.pc.settings.SaveSetting(session.AppTitle, "프린터설정", "DEVICENAME", pdfPrinterName());
   qputenv("HAEON_PDF", photographer.file("slips.pdf").toUtf8());
-  photographer.takeModal("frmPrtJiroOCR", [&] {
-    QTimer::singleShot(100, [&] {
-      QWidget* const slips = QApplication::activeModalWidget();
-      slips->findChild<QRadioButton*>("Opt4")->click();
-      slips->findChild<QPushButton*>("BtnJiro")->click();
-    });
-    window.openForm("frmPrtJiroOCR:a4");
+  QTimer::singleShot(300, [&] {
+    auto* const slips = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (!slips) return;
+    slips->findChild<QRadioButton*>("Opt4")->click();
+    photographer.take(*slips, "frmPrtJiroOCR");
+    slips->findChild<QPushButton*>("BtnJiro")->click();
+    slips->reject();
   });
+  window.openForm("frmPrtJiroOCR:a4");
 }
 
 /** The meter book's totals of the month before, and their paper. */
