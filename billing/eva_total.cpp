@@ -67,7 +67,6 @@ QStringList EvaTotal::buildings(MeterBook book) const {
     return entries;
   for (; !rs.atEnd(); rs.MoveNext())
     if (const QString name = rs[u"BDName"_s].toText(); !name.isEmpty()) entries << name;
-  std::sort(entries.begin() + 1, entries.end());
   return entries;
 }
 

@@ -142,7 +142,11 @@ void Writer::writeDelete(const Statement& statement) {
 void Writer::writeQuery(const Select& select, bool named) {
   if (select.top > 0 && select.unions.empty()) return writeTop(select, named);
   writeBody(select, named);
-  if (select.orderBy.empty()) return;
+  if (select.orderBy.empty()) {
+    // The dialect's engine finds the distinct rows by sorting them: lists of buildings come in their order.
+    if (select.distinct && select.unions.empty()) writeItemOrder(select);
+    return;
+  }
   *this << " ORDER BY ";
   around_.push_back(&select);
   writeOrder(select.orderBy);
@@ -257,6 +261,14 @@ void Writer::writeOrder(const std::vector<OrderItem>& order) {
       writeKey(order[i].expr);
     collate(order[i].expr);
     if (order[i].descending) *this << " DESC";
+  });
+}
+
+void Writer::writeItemOrder(const Select& select) {
+  *this << " ORDER BY ";
+  list(select.items.size(), [&](size_t i) {
+    *this << int(i + 1);
+    collate(select.items[i].expr);
   });
 }
 

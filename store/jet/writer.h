@@ -30,6 +30,7 @@ class Writer {
   void writeCore(const Select& select, bool named);
   void writeItems(const Select& select, bool named);
   void writeOrder(const std::vector<OrderItem>& order);
+  void writeItemOrder(const Select& select);
   /** What rows are ordered or grouped by. */
   void writeKey(const Expr& expr);
   bool breaksTies(const Select& select) const;
