@@ -1,6 +1,5 @@
 #include "billing/reading_load.h"
 
-#include <algorithm>
 #include <optional>
 
 #include "billing/building_rate.h"
@@ -156,7 +155,6 @@ void fillBuildings(ReadingSheet& sheet) {
     return;
   for (; !rs.atEnd(); rs.MoveNext())
     sheet.buildings << rs[0].toText() + (blocks ? u' ' + rs[1].toText() : QString());
-  std::sort(sheet.buildings.begin() + 1, sheet.buildings.end());
 }
 
 void showReadings(ReadingSheet& sheet) {
