@@ -23,7 +23,13 @@ QString StripNumber(const QString& text) {
 
 QString moneyText(double won) {
   const bool whole = won == std::trunc(won);
-  const QString text =
-      vb::Format(won, whole ? QStringLiteral("###,###,###") : QStringLiteral("###,###,###.##"));
-  return text.isEmpty() ? QStringLiteral("0") : text;
+  constexpr double exact = 9007199254740992.0;  // 2^53
+  if (!whole || std::fabs(won) >= exact) {
+    const QString text =
+        vb::Format(won, whole ? QStringLiteral("###,###,###") : QStringLiteral("###,###,###.##"));
+    return text.isEmpty() ? QStringLiteral("0") : text;
+  }
+  QString text = QString::number(qint64(won));
+  for (qsizetype at = text.size() - 3; at > (won < 0 ? 1 : 0); at -= 3) text.insert(at, u',');
+  return text;
 }

@@ -27,7 +27,8 @@ void PaintedJob::setFont(const pc::PrintFont& font) {
     QFont made = printFont(font);
     made.setPixelSize(std::max(1, int(std::lround(dots(made.pointSizeF() / 72)))));
     const QFontMetricsF metrics(made);
-    face = std::make_shared<const Face>(Face{made, metrics, metrics.ascent()});
+    face =
+        std::make_shared<const Face>(Face{made, metrics, metrics.ascent(), metrics.horizontalAdvance(u' ')});
   }
   face_ = face;
   painter_.setFont(face_->font);
@@ -44,16 +45,19 @@ double PaintedJob::lineHeight() const {
 void PaintedJob::text(double x, double y, const QString& text) {
   // Word by word, each at its place: the blank of some fonts comes out of a PDF as a control sign.
   const double baseline = dots(y) + face_->ascent;
+  double at = dots(x);
   for (qsizetype from = 0; from < text.size();) {
     if (text[from] == u' ') {
+      at += face_->blank;
       ++from;
       continue;
     }
     const qsizetype blank = text.indexOf(u' ', from);
-    const qsizetype to = blank < 0 ? text.size() : blank;
-    const double before = from == 0 ? 0 : face_->metrics.horizontalAdvance(text.left(from));
-    painter_.drawText(QPointF(dots(x) + before, baseline), text.mid(from, to - from));
-    from = to;
+    const QString word = blank < 0 ? text.mid(from) : text.mid(from, blank - from);
+    painter_.drawText(QPointF(at, baseline), word);
+    if (blank < 0) return;
+    at += face_->metrics.horizontalAdvance(word);
+    from = blank;
   }
 }
 

@@ -32,7 +32,7 @@ class PaintedJob : public pc::PrintJob {
   struct Face {
     QFont font;
     QFontMetricsF metrics;
-    double ascent;  ///< dots
+    double ascent, blank;  ///< dots
   };
   double dots(double inches) const { return inches * dotsPerInch_; }
 

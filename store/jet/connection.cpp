@@ -76,7 +76,9 @@ Connection::Connection(const QString& nativePath, int busyMilliseconds) : patien
   if (!file.isFile()) fail(3044, nativePath);
   sqlite3* handle = nullptr;
   // Without the create flag: a file that is not there is never made by looking at it, neither here nor attached.
-  const int code = sqlite3_open_v2(nativePath.toUtf8().constData(), &handle, SQLITE_OPEN_READWRITE, nullptr);
+  // And without locks around every call: one thread at a time works with a connection.
+  const int code = sqlite3_open_v2(nativePath.toUtf8().constData(), &handle,
+                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
   handle_.reset(handle);
   if (code != SQLITE_OK) throw error(code, nativePath);
   sqlite3_extended_result_codes(handle, 1);

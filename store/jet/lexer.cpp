@@ -10,14 +10,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool startsNameSign(QChar c) {
-  return c.isLetter() || c == u'_' || c.isSurrogate();
-}
-bool continuesNameSign(QChar c) {
-  return c.isLetterOrNumber() || c == u'_' || c.isSurrogate();
-}
 bool isDigitSign(QChar c) {
   return c >= u'0' && c <= u'9';
+}
+// Most of a statement is plain Latin: a look at the number spares the look into the tables of Unicode.
+bool startsNameSign(QChar c) {
+  if (c < u'\x80') return ((c.unicode() | 0x20) >= u'a' && (c.unicode() | 0x20) <= u'z') || c == u'_';
+  return c.isLetter() || c.isSurrogate();
+}
+bool continuesNameSign(QChar c) {
+  if (c < u'\x80') return startsNameSign(c) || isDigitSign(c);
+  return c.isLetterOrNumber() || c.isSurrogate();
 }
 
 /** #2024-01-05# or #1/5/2024#; an invalid date for anything else. */
