@@ -11,7 +11,7 @@ RegisterForm::RegisterForm(const QString& name, const QString& caption, Session&
     : Form(name, caption, session, parent) {
   new_ = addButton("BtnNew", u"신규(&N)"_s, [this] { page()->newRecord(); });
   save_ = addButton("BtnSave", u"저장(&S)"_s, [this] { saveRecord(); });
-  cancel_ = addButton("BtnCancel", u"취소(&C)"_s, [this] { page()->cancelRecord(); });
+  cancel_ = addButton("BtnCancel", u"취소(&Q)"_s, [this] { page()->cancelRecord(); });
   delete_ = addButton("BtnDel", u"삭제(&D)"_s, [this] { page()->deleteRecord(); });
   exit_ = addButton("BtnExit", u"닫기(&X)"_s, [this] { (parentWidget() ? parentWidget() : this)->close(); });
   onKey(Qt::Key_Escape, [this] { page()->cancelRecord(); });

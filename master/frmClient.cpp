@@ -58,7 +58,7 @@ frmClient::~frmClient() {
 void frmClient::buildButtons() {
   new_ = addButton("BtnNew", "신규(&N)", [this] { newClient(); });
   save_ = addButton("BtnSave", "저장(&S)", [this] { save(); });
-  cancel_ = addButton("BtnCancel", "취소(&C)", [this] { cancel(); });
+  cancel_ = addButton("BtnCancel", "취소(&Q)", [this] { cancel(); });
   delete_ = addButton("BtnDel", "삭제(&D)", [this] {
     session().prompts.MsgInfo(deleteHelp, "고객 관리자");
     page().grid->setFocus();

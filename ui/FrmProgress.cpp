@@ -31,6 +31,8 @@ FrmProgress::FrmProgress(const QString& caption, int total, bool mayStop, QWidge
   if (mayStop) {
     stop_ = new QPushButton(u"중지(&S)"_s, this);
     stop_->setObjectName(u"BtnStop"_s);
+    // The Enter that began the work, held a moment too long, must not stop it.
+    stop_->setAutoDefault(false);
     connect(stop_, &QPushButton::clicked, this, [this] { reject(); });
     whole->addWidget(stop_, 0, Qt::AlignRight);
   }

@@ -118,6 +118,9 @@ TEST_F(Boxes, ProgressStopsOnlyWhereTheWorkMay) {
   EXPECT_TRUE(fixed.step(10));
   FrmProgress free(u"자료 검색"_s, 10, true);
   tests::grab(free, u"FrmProgress"_s);
+  tests::show(free);
+  tests::key(Qt::Key_Return);
+  EXPECT_TRUE(free.step(1)) << "an Enter held too long stops nothing";
   QTest::keyClick(&free, Qt::Key_Escape);
   EXPECT_TRUE(free.isVisible()) << "the work says when it ends";
   EXPECT_FALSE(free.step(5));
