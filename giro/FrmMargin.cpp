@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 
 #include "giro/form_document_kinds.h"
+#include "giro/form_giro_parts.h"
 #include "master/form_context.h"
 
 using namespace Qt::StringLiterals;
@@ -21,12 +21,7 @@ FrmMargin::FrmMargin(FormContext& context, QWidget* parent) : QDialog(parent), c
   grid->setVerticalSpacing(8);
   grid->addWidget(list1_, 0, 0, 4, 1);
   const auto box = [&](int row, const QString& name, const QString& label) {
-    auto* made = new QLineEdit;
-    made->setObjectName(name);
-    made->setAlignment(Qt::AlignRight);
-    made->setFixedWidth(8 * made->fontMetrics().horizontalAdvance(u'0') + 16);
-    made->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"-?\\d{0,3}(\\.\\d{0,2})?"_s), made));
+    auto* made = correctionBox(name);
     connect(made, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
     auto* words = new QLabel(label);
     words->setBuddy(made);

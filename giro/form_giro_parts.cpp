@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 #include <memory>
 
@@ -63,6 +64,16 @@ QString DueDateBoxes::month() const {
 
 QString DueDateBoxes::day() const {
   return day_->text();
+}
+
+QLineEdit* correctionBox(const QString& name, const QString& text) {
+  auto* made = new QLineEdit(text);
+  made->setObjectName(name);
+  made->setAlignment(Qt::AlignRight);
+  made->setFixedWidth(8 * made->fontMetrics().horizontalAdvance(u'0') + 16);
+  made->setValidator(
+      new QRegularExpressionValidator(QRegularExpression(u"-?\\d{0,3}(\\.\\d{0,2})?"_s), made));
+  return made;
 }
 
 void printUnderProgress(QWidget* over,

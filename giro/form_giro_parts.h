@@ -38,3 +38,6 @@ class DueDateBoxes : public QWidget {
 /** Runs print with a progress bar over the window; its tell stops the run when the operator asks. */
 void printUnderProgress(QWidget* over,
                         const std::function<void(const std::function<bool(int done, int of)>& tell)>& print);
+
+/** A box for how far printing is moved on its paper: up to three digits, two decimals, a minus. */
+QLineEdit* correctionBox(const QString& name, const QString& text = {});

@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 
+#include "giro/form_giro_parts.h"
 #include "giro/giro_setup.h"
 #include "master/form_context.h"
 #include "pc/print_job.h"
@@ -37,12 +37,7 @@ frmPrtChange::frmPrtChange(FormContext& context, QWidget* parent) : QDialog(pare
   grid->addWidget(lstPrt_, 1, 0, 1, 3);
   const auto box = [&](int row, const QString& name, const QString& text, const QString& label,
                        const QString& unit) {
-    auto* made = new QLineEdit(text);
-    made->setObjectName(name);
-    made->setAlignment(Qt::AlignRight);
-    made->setFixedWidth(8 * made->fontMetrics().horizontalAdvance(u'0') + 16);
-    made->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"-?\\d{0,3}(\\.\\d{0,2})?"_s), made));
+    auto* made = correctionBox(name, text);
     made->installEventFilter(this);
     connect(made, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
     auto* words = new QLabel(label);
