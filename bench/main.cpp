@@ -12,10 +12,9 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QStringList arguments = QApplication::arguments().sliced(1);
   const bool quick = arguments.removeAll(QStringLiteral("--quick")) > 0;
-  // The two sides take turns: what disturbs the machine disturbs both.
-  char program[] = "bench", turns[] = "--benchmark_enable_random_interleaving=true";
-  char* flags[] = {program, turns, nullptr};
-  int count = 2;
+  char program[] = "bench";
+  char* flags[] = {program, nullptr};
+  int count = 1;
   benchmark::Initialize(&count, flags);
   bench::runAll(arguments.value(0), quick);
   return 0;

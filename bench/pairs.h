@@ -1,6 +1,7 @@
 #pragma once
 // One row of the table: a piece of the program's work, and beside it the least code on plain SQLite (or plain drawing)
-// that does the same to equal data. Both run in one process, turn by turn, and the ratio of their medians is printed.
+// that does the same to equal data. Both run in one process, turn by turn. Printed are the ratio of their medians and,
+// beside it, the lowest and highest ratio of a turn.
 #include <QString>
 
 #include <functional>
@@ -23,7 +24,7 @@ struct Pair {
   std::vector<int> sizes;  ///< of the work: 1x, 10x, 100x
   /** Makes the data of one size and the two sides on it; what the sides hold lives until the pair is done. */
   std::function<void(int size, Side& ours, Side& plain)> make;
-  int repetitions = 5;
+  int repetitions = 5;  ///< turns of both sides
 };
 
 /** Rows stand in the order in which they were added. */
