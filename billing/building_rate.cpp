@@ -20,6 +20,18 @@ double lateRate(Session& session, MeterBook book, qint64 code) {
   return own != 0 ? own : session.rates.of(book).rate;
 }
 
+LateRates::LateRates(Session& session, MeterBook book, bool buildingsToo)
+    : ofBook_(session.rates.of(book).rate) {
+  if (!buildingsToo || book != MeterBook::Apartment) return;
+  jet::Recordset rs;
+  const QString sql = QStringLiteral(
+      "SELECT Client.Code, delaypay "
+      "FROM apt INNER JOIN Client ON (Client.BDName = apt.Name and client.Dong = apt.Dong )"
+      " WHERE delaypay <> 0");
+  if (!OpenSnapshot(session.prompts, session.dbBasic, rs, sql)) return;
+  for (; !rs.atEnd(); rs.MoveNext()) own_.insert(rs[0].toLong(), rs[1].toDouble());
+}
+
 bool showsBlocks(const Session& session) {
   return session.pc.settings.GetSetting(session.AppTitle, QStringLiteral("Config"),
                                         QStringLiteral("체적검침동별보기"),

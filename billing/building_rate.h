@@ -1,5 +1,6 @@
 #pragma once
 // The late-charge rate of a household, and a building's name as lists and slips print it.
+#include <QHash>
 #include <QString>
 
 #include "store/rate_book.h"
@@ -11,6 +12,19 @@ struct Session;
 double GetBuildingDelayPay(Session& session, qint64 code);
 /** Percent a month for a customer of the book: an apartment's building goes before the apartments' rate. */
 double lateRate(Session& session, MeterBook book, qint64 code);
+
+/** The rates of a whole run, read by one statement at its beginning. */
+class LateRates {
+ public:
+  /** buildingsToo: an apartment's building goes before the apartments' rate, as in lateRate. A failed query has been
+   *  told and leaves the book's rate. */
+  LateRates(Session& session, MeterBook book, bool buildingsToo);
+  double of(qint64 code) const { return own_.value(code, ofBook_); }
+
+ private:
+  double ofBook_;
+  QHash<qint64, double> own_;  ///< of the households whose building has a rate
+};
 
 /** Whether the building list has one entry a block, "<building> <dong>". */
 bool showsBlocks(const Session& session);

@@ -1,5 +1,7 @@
 #include "giro/jiro_ocr.h"
 
+#include <optional>
+
 #include "billing/reading_screen.h"
 #include "giro/ocr_layout.h"
 #include "store/session.h"
@@ -48,8 +50,10 @@ int JiroOcr::print(const GiroInput& input, GiroSelection selection,
                    const std::function<bool(int done, int of)>& tell) {
   const ReadingScreen* screen = screen_();
   const OcrLayout& layout = ocrLayout(paper_);
+  std::optional<SlipWriter> writer;  // begins with the first slip: the checks before it may end in a box
   const auto slip = [&](pc::PrintJob& job, const GiroSetup& setup, int row, int place) {
-    printOcrSlip(job, setup, paper_, place, slipTexts(session_, *screen, row, paper_, input), input.notes);
+    if (!writer) writer.emplace(session_, *screen, paper_, input);
+    printOcrSlip(job, setup, paper_, place, writer->texts(row), input.notes);
   };
   return runGiro(session_, screen,
                  {.title = paper_ == OcrPaper::A4 ? u"OCR-A4 지로"_s : u"OCR 지로"_s,

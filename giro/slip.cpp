@@ -1,6 +1,5 @@
 #include "giro/slip.h"
 
-#include "billing/building_rate.h"
 #include "billing/reading_screen.h"
 #include "giro/giro_run.h"
 #include "giro/scan_line.h"
@@ -35,14 +34,13 @@ bool isWholeBook(const QString& entry) {
 
 }  // namespace
 
-SlipTexts slipTexts(Session& session, const ReadingScreen& screen, int row, OcrPaper paper,
-                    const GiroInput& input) {
-  const SpreadModel& readings = screen.readings();
-  const auto cell = [&](int col) { return readings.text(row, col); };
-  const auto number = [&](int col) { return vb::Val(cell(col)); };
-  SlipTexts texts;
-  const auto put = [&](SlipText what, const QString& text) { texts[size_t(what)] = text; };
-
+SlipWriter::SlipWriter(Session& session, const ReadingScreen& screen, OcrPaper paper, const GiroInput& input)
+    : screen_(screen),
+      giroNumber_(
+          session.pc.settings.GetSetting(session.AppTitle, u"Registration"_s, u"Ocr"_s, u"0000000"_s)),
+      rates_(session, screen.book(), paper == OcrPaper::A4),
+      payState_(companyPayState(session)) {
+  const auto put = [&](SlipText what, const QString& text) { common_[size_t(what)] = text; };
   const QDate thisYear(session.pc.clock.today().year(), 1, 1);
   const QDate issue = thisYear.addMonths(screen.month() - 2);  // kept: the month before the shown one
   put(SlipText::IssueYear, issue.toString(u"yyyy"_s));
@@ -51,40 +49,47 @@ SlipTexts slipTexts(Session& session, const ReadingScreen& screen, int row, OcrP
   put(SlipText::DueYear, input.year);
   put(SlipText::DueMonth, input.month);
   put(SlipText::DueDay, input.day);
+  if (const QString entry = screen.buildingEntry(); !isWholeBook(entry))
+    buildingLabel_ = BuildingLabelForDong(session, entry);
+}
+
+SlipTexts SlipWriter::texts(int row) const {
+  const SpreadModel& readings = screen_.readings();
+  const auto cell = [&](int col) { return readings.text(row, col); };
+  const auto number = [&](int col) { return vb::Val(cell(col)); };
+  SlipTexts texts = common_;
+  const auto put = [&](SlipText what, const QString& text) { texts[size_t(what)] = text; };
 
   const QString code = cell(EvaCol::Code);
-  const double rate = paper == OcrPaper::A4 ? lateRate(session, screen.book(), code.toLongLong())
-                                            : session.rates.of(screen.book()).rate;
-  const auto charge = [&](double on) { return rate == 0 ? 0 : RoundByPayState(session, rate / 100 * on); };
-  const double total = number(EvaCol::Total);
+  const double rate = rates_.of(code.toLongLong());
+  const auto charge = [&](double on) { return rate == 0 ? 0 : roundToTen(rate / 100 * on, payState_); };
+  const double total = number(EvaCol::Total), arrears = number(EvaCol::Trust);
   const double afterDue = charge(total);
-  put(SlipText::Total, amountText(total));
-  put(SlipText::AmountToPay, cell(EvaCol::PayWay) == "3"_L1 ? automaticTransfer() : amountText(total));
+  const QString totalText = amountText(total);
+  put(SlipText::Total, totalText);
+  put(SlipText::AmountToPay, cell(EvaCol::PayWay) == "3"_L1 ? automaticTransfer() : totalText);
   put(SlipText::AfterDueCharge, amountText(afterDue));
   put(SlipText::AfterDueAmount, amountText(total + afterDue));
-  put(SlipText::Late, amountText(charge(number(EvaCol::Trust))));
+  put(SlipText::Late, amountText(charge(arrears)));
   put(SlipText::PrevReading, amountText(number(EvaCol::PrevUseGage)));
   put(SlipText::Reading, amountText(number(EvaCol::UseGage)));
   put(SlipText::Use, amountText(number(EvaCol::UseMuch)));
   put(SlipText::Amount, amountText(number(EvaCol::UsePay)));
   put(SlipText::Manage, amountText(number(EvaCol::Manage)));
-  put(SlipText::Arrears, amountText(number(EvaCol::Trust)));
+  put(SlipText::Arrears, amountText(arrears));
 
   put(SlipText::Code, code.rightJustified(codePlaces, u'0'));
   put(SlipText::Name, cell(EvaCol::Name));
-  if (screen.book() == MeterBook::Individual) {
+  if (screen_.book() == MeterBook::Individual) {
     put(SlipText::Address, cell(EvaCol::Address));
     put(SlipText::AddressLine, cell(EvaCol::Address));
   } else {
     const auto [dong, room] = householdOf(cell(EvaCol::Name));
-    const QString building = cell(EvaCol::BDName), entry = screen.buildingEntry();
-    const QString label = isWholeBook(entry) ? building : BuildingLabelForDong(session, entry);
+    const QString building = cell(EvaCol::BDName);
+    const QString label = buildingLabel_.value_or(building);
     put(SlipText::Address, building + u' ' + dong + u"동  "_s + room + u"호"_s);
     put(SlipText::AddressLine, label + u' ' + dong + u"동 "_s + room + u"호"_s);
   }
-
-  const QString giroNumber =
-      session.pc.settings.GetSetting(session.AppTitle, u"Registration"_s, u"Ocr"_s, u"0000000"_s);
-  put(SlipText::ScanLine, scanLine(giroNumber, code, cell(EvaCol::Total)));
+  put(SlipText::ScanLine, scanLine(giroNumber_, code, cell(EvaCol::Total)));
   return texts;
 }

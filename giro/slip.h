@@ -4,6 +4,9 @@
 #include <QStringList>
 
 #include <array>
+#include <optional>
+
+#include "billing/building_rate.h"
 
 class ReadingScreen;
 struct Session;
@@ -47,7 +50,20 @@ struct GiroInput {
 
 using SlipTexts = std::array<QString, size_t(SlipText::Count)>;
 
-/** Notes are left to the layout. The rate of the late charge is the book's; on A4 an apartment's building goes before
- *  it, on continuous paper not (kept). Neither the late line nor the after-due figures are stored. */
-SlipTexts slipTexts(Session& session, const ReadingScreen& screen, int row, OcrPaper paper,
-                    const GiroInput& input);
+/** Makes the texts of one run's slips. What is the same on all of them, the company's rounding and the buildings' rates
+ *  too, is read once at the beginning: the slips of a run agree, whatever another PC changes meanwhile. */
+class SlipWriter {
+ public:
+  SlipWriter(Session& session, const ReadingScreen& screen, OcrPaper paper, const GiroInput& input);
+  /** Notes are left to the layout. The rate of the late charge is the book's; on A4 an apartment's building goes before
+   *  it, on continuous paper not (kept). Neither the late line nor the after-due figures are stored. */
+  SlipTexts texts(int row) const;
+
+ private:
+  const ReadingScreen& screen_;
+  SlipTexts common_;  ///< what stands on every slip
+  QString giroNumber_;
+  std::optional<QString> buildingLabel_;  ///< nothing when a household's own building is printed
+  LateRates rates_;
+  std::optional<int> payState_;
+};

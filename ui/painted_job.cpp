@@ -27,8 +27,7 @@ void PaintedJob::setFont(const pc::PrintFont& font) {
     QFont made = printFont(font);
     made.setPixelSize(std::max(1, int(std::lround(dots(made.pointSizeF() / 72)))));
     const QFontMetricsF metrics(made);
-    face =
-        std::make_shared<const Face>(Face{made, metrics, metrics.ascent(), metrics.horizontalAdvance(u' ')});
+    face = std::make_shared<Face>(Face{made, metrics, metrics.ascent(), metrics.horizontalAdvance(u' '), {}});
   }
   face_ = face;
   painter_.setFont(face_->font);
@@ -40,6 +39,14 @@ double PaintedJob::textWidth(const QString& text) const {
 
 double PaintedJob::lineHeight() const {
   return face_->metrics.height() / dotsPerInch_;
+}
+
+double PaintedJob::advanceOf(const QString& word) {
+  constexpr qsizetype keptAtMost = 4096;
+  QHash<QString, double>& known = face_->advances;
+  if (const auto at = known.constFind(word); at != known.constEnd()) return *at;
+  if (known.size() >= keptAtMost) known.clear();
+  return *known.insert(word, face_->metrics.horizontalAdvance(word));
 }
 
 void PaintedJob::text(double x, double y, const QString& text) {
@@ -56,7 +63,7 @@ void PaintedJob::text(double x, double y, const QString& text) {
     const QString word = blank < 0 ? text.mid(from) : text.mid(from, blank - from);
     painter_.drawText(QPointF(at, baseline), word);
     if (blank < 0) return;
-    at += face_->metrics.horizontalAdvance(word);
+    at += advanceOf(word);
     from = blank;
   }
 }

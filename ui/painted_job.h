@@ -32,16 +32,19 @@ class PaintedJob : public pc::PrintJob {
   struct Face {
     QFont font;
     QFontMetricsF metrics;
-    double ascent, blank;  ///< dots
+    double ascent, blank;             ///< dots
+    QHash<QString, double> advances;  ///< dots; of words that others follow
   };
+  /** How far a word moves what follows it. The same words stand on page after page: each is measured once. */
+  double advanceOf(const QString& word);
   double dots(double inches) const { return inches * dotsPerInch_; }
 
   QPainter painter_;
   const pc::PaperSize paper_;
   double dotsPerInch_ = 72;
   pc::PrintFont font_;
-  QHash<QString, std::shared_ptr<const Face>> faces_;  ///< each font is measured once a job
-  std::shared_ptr<const Face> face_;
+  QHash<QString, std::shared_ptr<Face>> faces_;  ///< each font is measured once a job
+  std::shared_ptr<Face> face_;
 };
 
 /** One page on a picture or a window's pixmap; further pages are not taken. */

@@ -225,6 +225,35 @@ TEST_F(JiroOcrTest, TheBuildingsOwnRateCountsOnA4Alone) {
   EXPECT_EQ(job().at(1, 31 / 15.0, 4 / 8.0)->text.trimmed(), "300") << "none of its own";
 }
 
+TEST_F(JiroOcrTest, TheSlipsOfARunAgreeWhateverIsChangedMeanwhile) {
+  screen.shownBook = MeterBook::Apartment;
+  for (const char* code : {"5", "6", "7"}) screen.add("101동 203호", code, "10100");
+  for (const char* code : {"5", "6"})
+    session.dbBasic.Execute(
+        "Insert Into Client(Code, Name, BDName, Dong, HouseStyle) "
+        "Values(" +
+        QString(code) + ", '홍길동', '행복아파트', '101', 1)");
+  session.dbBasic.Execute("Insert Into apt(Name, Dong, delaypay) Values('행복아파트', '101', 5)");
+  giro.setPaper(OcrPaper::A4);
+  const auto charges = [&](const std::function<bool(int, int)>& tell) {
+    giro.print(input, GiroSelection::All, tell);
+    return (job().at(1, 31 / 15.0, 4 / 8.0)->text + job().at(1, 31 / 15.0, 32 / 8.0)->text +
+            job().at(2, 31 / 15.0, 4 / 8.0)->text)
+        .simplified();
+  };
+  const auto change = [&](int, int) {
+    session.dbBasic.Execute("Update User Set PayState = 2");
+    session.dbBasic.Execute("Update apt Set delaypay = 4");
+    pc.settings.SaveSetting("해온판매", "Registration", "Ocr", "7654321");
+    return true;
+  };
+  // 5% and, for the one in no building, 3% of 10,100: 505 and 303, down; then 4% and 3%: 404 and 303, up
+  EXPECT_EQ(charges(change), "500 500 300");
+  EXPECT_TRUE(job().at(2, 90 / 15.0, 6.9 / 8)->text.startsWith("<1234567+"));
+  EXPECT_EQ(charges({}), "410 410 310");
+  EXPECT_TRUE(job().at(1, 90 / 15.0, 6.9 / 8)->text.startsWith("<7654321+"));
+}
+
 TEST_F(JiroOcrTest, WithoutARateNothingIsCharged) {
   session.rates.books[0].rate = 0;
   screen.add("달빛식당", "1", "10000");

@@ -48,6 +48,9 @@ TEST(TextWidth, CutsByColumnsAndFillsTheHalfCharacter) {
   EXPECT_EQ(CutByWidth("가", 0), "");
   EXPECT_EQ(CutByWidth("가", -1), "");
   EXPECT_EQ(widthOf("가a나"), 5);
+  EXPECT_EQ(CutByWidth("가金나", 5), "가金 ") << "what is no Hangul is looked up in the code page";
+  EXPECT_EQ(CutByWidth("가鷄\u00e9a", 5), "가鷄?") << "as is what it does not hold";
+  EXPECT_EQ(widthOf("金\u00e9"), 3);
 }
 
 TEST(TextWidth, NumbersAndMoney) {
