@@ -69,11 +69,15 @@ void StartUp::loadSteps() {
   session_.wsMain = openWorkspace(session_, session_.DbPath);
   upgrades::makeDealList(session_);
   upgradePostCodes();
-  upgrades::addDealMarks(session_);
-  session_.dbBasic = session_.wsMain.OpenDatabase(session_.DbPath + u"Basic.mdb"_s);
-  upgrades::addClientTaxFields(session_.dbBasic);
-  upgrades::removeOrphans(session_);
-  if (!upgrades::relink(session_)) return;  // silently: the start window stays as it is
+  bool linked = false;
+  session_.wsMain.KeepingFiles([&] {
+    upgrades::addDealMarks(session_);
+    session_.dbBasic = session_.wsMain.OpenDatabase(session_.DbPath + u"Basic.mdb"_s);
+    upgrades::addClientTaxFields(session_.dbBasic);
+    upgrades::removeOrphans(session_);
+    linked = upgrades::relink(session_);
+  });
+  if (!linked) return;  // silently: the start window stays as it is
 
   pc.settings.SaveSetting(u"Backup"_s, u"DB경로"_s, u"경로"_s, session_.DbPath);
   session_.dbYear = session_.wsMain.OpenDatabase(yearFile(session_, session_.WorkYear));

@@ -1,6 +1,7 @@
 #include "store/upgrades.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "store/data_access.h"
 #include "store/data_files.h"
@@ -32,6 +33,40 @@ jet::Field newField(const QString& name, jet::Type type, int size = 0) {
   return field;
 }
 
+/** By its exact name. */
+std::optional<jet::TableDef> tableOf(const std::vector<jet::TableDef>& tables, const QString& name) {
+  const auto at = std::find_if(tables.begin(), tables.end(),
+                               [&](const jet::TableDef& table) { return table.name == name; });
+  return at == tables.end() ? std::nullopt : std::optional(*at);
+}
+
+jet::TableDef linkTo(const QString& basic, const QString& name) {
+  jet::TableDef link;
+  link.name = name;
+  link.connect = u";DATABASE="_s + basic;
+  link.sourceTableName = name;
+  return link;
+}
+
+/** Whether the links would be made anew as they are. */
+bool isLinked(const jet::Database& year, const QString& basic) {
+  const std::vector<jet::TableDef> tables = year.TableDefs();
+  const QStringList& names = schema::linkedTables();
+  return std::all_of(names.begin(), names.end(), [&](const QString& name) {
+    const std::optional<jet::TableDef> known = tableOf(tables, name);
+    const jet::TableDef wanted = linkTo(basic, name);
+    return known && known->connect == wanted.connect && known->sourceTableName == wanted.sourceTableName;
+  });
+}
+
+/** A link is never repaired: it is deleted and made anew, so that a moved Basic.mdb is followed. */
+void linkAnew(const jet::Database& year, const QString& basic) {
+  for (const QString& name : schema::linkedTables()) {
+    if (tableOf(year.TableDefs(), name)) year.deleteTable(name);
+    year.createTable(linkTo(basic, name));
+  }
+}
+
 }  // namespace
 
 void walkYears(const Session& session, const std::function<void(const QString& file)>& work) {
@@ -55,15 +90,18 @@ void addLateCharges(Session& session) {
   const QString folder = u"C:\\rwgas\\dbs\\"_s;
   if (!session.pc.paths.exists(folder + u"basic.mdb"_s)) return;
   const jet::Workspace workspace = openWorkspace(session, folder);
-  jet::Database basic, year;
+  jet::Database basic;
   if (!OpenDB(workspace, basic, folder + u"basic.mdb"_s)) return;
   DAO_AddField(session.prompts, basic, u"apt"_s, u"delaypay"_s, jet::Type::Double, 0, false,
                u"UPDATE apt SET delaypay = 0"_s);
-  for (const QString& file : yearFiles(session, workspace, folder)) {
-    if (!OpenDB(workspace, year, file)) return;
-    DAO_AddField(session.prompts, year, u"Evaporation"_s, u"paydelayed"_s, jet::Type::Boolean, 0, false,
-                 u"UPDATE Evaporation SET paydelayed = false"_s);
-  }
+  workspace.KeepingFiles([&] {
+    jet::Database year;
+    for (const QString& file : yearFiles(session, workspace, folder)) {
+      if (!OpenDB(workspace, year, file)) return;
+      DAO_AddField(session.prompts, year, u"Evaporation"_s, u"paydelayed"_s, jet::Type::Boolean, 0, false,
+                   u"UPDATE Evaporation SET paydelayed = false"_s);
+    }
+  });
 }
 
 void makeDealList(Session& session) {
@@ -135,26 +173,17 @@ bool relink(Session& session) {
   const QString chosen = session.pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"db경로"_s);
   session.BasicPath =
       chosen.isEmpty() ? u"C:\\rwgas\\dbs\\basic.mdb"_s : dataFolder(session) + u"Basic.mdb"_s;
-  for (const QString& file : yearFiles(session, session.wsMain, session.DbPath)) {
+  bool all = true;
+  session.wsMain.KeepingFiles([&] {
     jet::Database year;
-    if (!OpenDB(session.wsMain, year, file)) return false;
-    session.wsMain.Together([&] {
-      for (const QString& name : schema::linkedTables()) {
-        const std::vector<jet::TableDef> tables = year.TableDefs();
-        // A link is never repaired: it is deleted and made anew, so that a moved Basic.mdb is followed.
-        if (std::any_of(tables.begin(), tables.end(),
-                        [&](const auto& table) { return table.name == name; })) {
-          year.deleteTable(name);
-        }
-        jet::TableDef link;
-        link.name = name;
-        link.connect = u";DATABASE="_s + session.BasicPath;
-        link.sourceTableName = name;
-        year.createTable(link);
-      }
-    });
-  }
-  return true;
+    for (const QString& file : yearFiles(session, session.wsMain, session.DbPath)) {
+      all = OpenDB(session.wsMain, year, file);
+      if (!all) return;
+      if (isLinked(year, session.BasicPath)) continue;  // at most starts; a write would hold up the other PCs
+      session.wsMain.Together([&] { linkAnew(year, session.BasicPath); });
+    }
+  });
+  return all;
 }
 
 void addMoreTelephones(Session& session) {

@@ -121,6 +121,7 @@ void DataFile::load(Connection& connection) {
     return tables.emplace_back(TableDef{name, {}, {}, {}, {}});
   };
 
+  Savepoint oneLook(connection);  // one lock for all of it, and nobody changes the file in between
   const int version = userVersion(connection, alias_, path_);
   SqliteStatement known(connection, "SELECT 1 FROM " + alias_ + ".sqlite_schema WHERE name = 'jet_links'");
   if (!known.step(path_)) fail(3343, path_);
@@ -156,6 +157,7 @@ void DataFile::load(Connection& connection) {
     link.connect = links.text(1);
     link.sourceTableName = links.text(2);
   }
+  oneLook.release();
   tables_ = std::move(tables);
   byName_ = std::move(byName);
   version_ = version;

@@ -69,6 +69,10 @@ void Workspace::Together(const std::function<void()>& work) const {
   checked(data_).together(work);
 }
 
+void Workspace::KeepingFiles(const std::function<void()>& work) const {
+  checked(data_).keepingFiles(work);
+}
+
 // ---- statements
 
 QString Database::path() const {

@@ -142,6 +142,9 @@ class Workspace {
   /** One flush for what work does. No undo: when a step throws, what ran before it stays and is committed, and
    *  the error goes on. Nested calls join the outer one. */
   void Together(const std::function<void()>& work) const;
+  /** A file that is closed within work keeps its place, unless another needs it, until work ends: opening it again
+   *  reads nothing anew. Nothing of it is locked. */
+  void KeepingFiles(const std::function<void()>& work) const;
 
  private:
   std::shared_ptr<WorkspaceData> data_;

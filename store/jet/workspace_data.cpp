@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <algorithm>
 
 #include "store/jet/error_texts.h"
@@ -178,12 +179,16 @@ void WorkspaceData::reconnect() {
 
 void WorkspaceData::makeRoom() {
   if (files_.size() < kAttachedAtMost) return;
-  FilePtr oldest;
+  // The longest unused goes. Who keeps files walks over them again and again: there it would be the one that is wanted
+  // next, and the last used goes.
+  const auto goesBefore = [this](const FilePtr& one, const FilePtr& other) {
+    return keeping_ > 0 ? one->lastUse > other->lastUse : one->lastUse < other->lastUse;
+  };
+  FilePtr first;
   for (const FilePtr& file : files_)
-    if (file->handles == 0 && file != files_.front() && (!oldest || file->lastUse < oldest->lastUse))
-      oldest = file;
-  if (!oldest) fail(3048);
-  letGo(oldest);
+    if (file->handles == 0 && file != files_.front() && (!first || goesBefore(file, first))) first = file;
+  if (!first) fail(3048);
+  letGo(first);
 }
 
 void WorkspaceData::letGo(FilePtr file) {
@@ -198,6 +203,7 @@ void WorkspaceData::letGo(FilePtr file) {
 
 void WorkspaceData::release(const FilePtr& file, bool exclusive) {
   --file->handles;
+  file->lastUse = ++clock_;
   if (exclusive && --file->exclusiveHandles == 0 && file->attached) unlock(*file);
   tidy();
 }
@@ -216,10 +222,23 @@ QStringList WorkspaceData::linkedPaths() const {
   return paths;
 }
 
-/** Lets go what no handle and no link of an open file needs. Within a group that waits for its end. */
+void WorkspaceData::keepingFiles(const std::function<void()>& work) {
+  ++keeping_;
+  const auto atEnd = qScopeGuard([this] {
+    --keeping_;
+    try {
+      tidy();
+    } catch (const Error&) {  // a file that cannot be let go now is let go with the next one
+    }
+  });
+  work();
+}
+
+/** Lets go what no handle and no link of an open file needs. Within a group, or while files are kept, that waits for
+ *  the end. */
 void WorkspaceData::tidy() {
   untidy_ = true;
-  if (!connection_ || groupDepth_ > 0) return;
+  if (!connection_ || groupDepth_ > 0 || keeping_ > 0) return;
   untidy_ = false;
   if (std::none_of(files_.begin(), files_.end(), [](const FilePtr& file) { return file->handles > 0; }))
     return disconnect();

@@ -49,6 +49,7 @@ class WorkspaceData {
   void runOn(const FilePtr& file, const std::function<void(Connection&)>& work);
 
   void together(const std::function<void()>& work);
+  void keepingFiles(const std::function<void()>& work);
 
  private:
   FilePtr attach(const QString& nativePath);
@@ -80,10 +81,11 @@ class WorkspaceData {
   QHash<QString, std::shared_ptr<Prepared>> prepared_;
   int aliases_ = 0;
   quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
+  int keeping_ = 0;    ///< depth of keepingFiles
   int groupDepth_ = 0;
   bool groupBegan_ = false;  ///< a transaction was begun for the group and neither committed nor given up
   std::optional<Error> undoneBy_;  ///< the failure that undid it
-  bool untidy_ = false;            ///< a file may have become needless within the group
+  bool untidy_ = false;            ///< a file may have become needless, and stays for now
 };
 
 /** An open handle's part of a file; the last copy lets the file go. */

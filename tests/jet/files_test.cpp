@@ -2,7 +2,10 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <algorithm>
 #include <thread>
 
 #include "tests/jet/engine_fixture.h"
@@ -154,6 +157,36 @@ TEST_F(Files, ElevenFilesAreTheLimitAndItIsTold) {
   open.pop_back();
   EXPECT_EQ(failureOf([&] { open.push_back(workspace.OpenDatabase(path(u"last.mdb"_s))); }), 0);
   EXPECT_EQ(rows(year, u"Select Count(*) From Client"_s), "0");
+}
+
+/** Whether this process has the file open. */
+bool hasOpen(const QString& path) {
+  const QFileInfoList open = QDir(u"/proc/self/fd"_s).entryInfoList(QDir::Files | QDir::System);
+  return std::ranges::any_of(open, [&](const QFileInfo& one) { return one.symLinkTarget() == path; });
+}
+
+TEST_F(Files, KeptFilesStayUntilTheEndOrUntilTheirPlaceIsNeeded) {
+  const auto file = [&](int i) { return path(u"f%1.mdb"_s.arg(i)); };
+  workspace.KeepingFiles([&] {
+    for (int i = 0; i < 14; ++i) workspace.CreateDatabase(file(i));
+    EXPECT_TRUE(hasOpen(file(0)) && hasOpen(file(13)));
+    EXPECT_FALSE(hasOpen(file(12))) << "the last used made room";
+    ASSERT_TRUE(QFile::remove(file(13)) && QFile::copy(path(u"Basic.mdb"_s), file(13)));
+    EXPECT_EQ(rows(workspace.OpenDatabase(file(13)), u"Select Count(*) From Client"_s),
+              rows(year, u"Select Count(*) From Client"_s))
+        << "replaced on the disk, read anew";
+    workspace.KeepingFiles([] {});
+    EXPECT_TRUE(hasOpen(file(13)));
+  });
+  EXPECT_FALSE(hasOpen(file(13)));
+  EXPECT_EQ(failureOf([&] {
+              workspace.KeepingFiles([&] {
+                workspace.OpenDatabase(file(13));
+                workspace.OpenDatabase(path(u"none.mdb"_s));
+              });
+            }),
+            3024);
+  EXPECT_FALSE(hasOpen(file(13))) << "a failure ends it too";
 }
 
 TEST_F(Files, AnUnsetHandleAnswersWith91) {

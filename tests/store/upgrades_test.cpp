@@ -85,6 +85,13 @@ TEST_F(Upgrades, LinksAreMadeAnewAndFollowAMovedBasic) {
   EXPECT_EQ(firstOf(year(u"2023"_s),
                     u"Select Client.Name From Sale Inner Join Client On Sale.ClientCode = Client.Code"_s),
             "김가네");
+  QFile linked(here.pc.paths.native(yearFile(session, u"2023"_s)));
+  ASSERT_TRUE(linked.open(QIODevice::ReadOnly));
+  const QByteArray before = linked.readAll();
+  ASSERT_TRUE(upgrades::relink(session));
+  linked.seek(0);
+  EXPECT_TRUE(linked.readAll() == before) << "the next start writes nothing";
+  linked.close();
   ASSERT_TRUE(here.pc.paths.makeFolder(u"D:\\새폴더\\DBS"_s));
   for (const char* name : {"Basic.mdb", "2026Foundation.mdb"}) {
     ASSERT_TRUE(here.pc.paths.copy(session.DbPath + QLatin1String(name),
