@@ -71,7 +71,6 @@ const int start = bench::addPair({"start with ten year files: upgrades, orphan r
                                       });
                                     };
                                     plain.run = [books] { plainStart(*books); };
-                                  },
-                                  3});
+                                  }});
 
 }  // namespace

@@ -205,6 +205,8 @@ void WorkspaceData::release(const FilePtr& file, bool exclusive) {
   --file->handles;
   file->lastUse = ++clock_;
   if (exclusive && --file->exclusiveHandles == 0 && file->attached) unlock(*file);
+  if (keeping_ > 0 && connection_)
+    connection_->forgetPages();  // the file stays, what was read of it need not
   tidy();
 }
 
