@@ -9,6 +9,7 @@
 #include "bench/pairs.h"
 #include "store/jet/compile.h"
 #include "store/jet/connection.h"
+#include "store/jet/shape.h"
 #include "tests/jet/sample_catalogue.h"
 
 namespace {

@@ -7,6 +7,7 @@
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
 #include "store/data_files.h"
+#include "store/jet/sql.h"
 #include "store/rounding.h"
 #include "store/session.h"
 #include "store/vb.h"
@@ -17,8 +18,8 @@ namespace {
 bool wasPaidLate(const ReadingSheet& sheet, int row) {
   Session& session = sheet.session;
   return DAO_GetValue(
-             session.prompts, session.dbYear, "paydelayed", "evaporation",
-             "where clientcode = " + sheet.code(row) + " and mon = " + QString::number(sheet.month - 1))
+             session.prompts, session.dbYear, u"paydelayed", u"evaporation",
+             jet::Sql() << u"where clientcode = " << sheet.code(row) << u" and mon = " << sheet.month - 1)
       .toBool();
 }
 
@@ -27,8 +28,8 @@ std::optional<double> usePayOf(Session& session, const jet::Database& year, cons
                                double otherwise) {
   jet::Recordset rs;
   if (!OpenSnapshot(session.prompts, year, rs,
-                    "Select UsePay from Evaporation where ClientCode = " + code +
-                        " AND Mon = " + QString::number(month)))
+                    jet::Sql() << u"Select UsePay from Evaporation where ClientCode = " << code
+                               << u" AND Mon = " << month))
     return {};
   return rs.atEnd() ? otherwise : rs[0].toDouble();
 }

@@ -2,6 +2,7 @@
 
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
+#include "store/jet/sql.h"
 #include "store/session.h"
 #include "store/text_width.h"
 
@@ -17,8 +18,8 @@ QString orUnknown(const QString& text) {
 jet::Recordset openRowNotes(ReadingSheet& sheet, int row) {
   jet::Recordset rs;
   if (OpenSnapshot(sheet.session.prompts, sheet.session.dbYear, rs,
-                   u"Select PrntDay, ChkMan, CashMan From Evaporation Where ClientCode = "_s +
-                       sheet.code(row) + u" And Mon = "_s + QString::number(sheet.month)) &&
+                   jet::Sql() << u"Select PrntDay, ChkMan, CashMan From Evaporation Where ClientCode = "
+                              << sheet.code(row) << u" And Mon = " << sheet.month) &&
       !rs.atEnd() && !rs[0].isNull())
     sheet.readingDay = rs[0].toText().trimmed() + u' ';
   return rs;

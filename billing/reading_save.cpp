@@ -1,32 +1,31 @@
 #include "billing/reading_save.h"
 
 #include "billing/reading_sheet.h"
+#include "store/jet/sql.h"
 #include "store/rounding.h"
 #include "store/session.h"
-#include "store/vb.h"
 
 namespace {
 
 constexpr int lastMonth = 12;
 
-QString markOf(bool on) {
-  return on ? QStringLiteral("-1") : QStringLiteral("0");
-}
-
-QString saveStatement(const ReadingSheet& sheet, int row) {
-  const auto cell = [&](int col) { return vb::CStr(sheet.number(row, col)); };
-  const auto ticked = [&](int col) { return markOf(sheet.number(row, col) != 0); };
+jet::Sql saveStatement(const ReadingSheet& sheet, int row) {
+  const auto cell = [&](int col) { return sheet.number(row, col); };
+  const auto ticked = [&](int col) { return cell(col) != 0 ? -1 : 0; };
+  jet::Sql sql;
+  sql << u"Update Evaporation Set UseGage = " << cell(EvaCol::UseGage) << u", UseMuch = "
+      << cell(EvaCol::UseMuch) << u", UsePay = " << cell(EvaCol::UsePay) << u", Trust = "
+      << cell(EvaCol::Trust) << u", Delay = " << cell(EvaCol::Delay) << u", Manage = " << cell(EvaCol::Manage)
+      << u", Total = " << cell(EvaCol::Total) << u", Pay = " << cell(EvaCol::Pay) << u", Prnt = "
+      << ticked(EvaCol::Prnt) << u", paydelayed = " << ticked(EvaCol::PayDelayed) << u", PrntDay = '"
+      << sheet.readingDay << u"', TrustDay = '" << sheet.grid.text(row, EvaCol::TrustDay)
+      << u"' Where ClientCode = " << sheet.code(row);
   // Kept: the opening row fills the months before the calendar month, so that the first real month starts from it.
-  const QString months = sheet.isOpening() ? " And Mon < " + sheet.today().left(2)
-                                           : " And Mon = " + QString::number(sheet.month);
-  return "Update Evaporation Set UseGage = " + cell(EvaCol::UseGage) +
-         ", UseMuch = " + cell(EvaCol::UseMuch) + ", UsePay = " + cell(EvaCol::UsePay) +
-         ", Trust = " + cell(EvaCol::Trust) + ", Delay = " + cell(EvaCol::Delay) +
-         ", Manage = " + cell(EvaCol::Manage) + ", Total = " + cell(EvaCol::Total) +
-         ", Pay = " + cell(EvaCol::Pay) + ", Prnt = " + ticked(EvaCol::Prnt) +
-         ", paydelayed = " + ticked(EvaCol::PayDelayed) + ", PrntDay = '" + sheet.readingDay +
-         "', TrustDay = '" + sheet.grid.text(row, EvaCol::TrustDay) +
-         "' Where ClientCode = " + sheet.code(row) + months;
+  if (sheet.isOpening())
+    sql << u" And Mon < " << QStringView(sheet.today()).left(2);
+  else
+    sql << u" And Mon = " << sheet.month;
+  return sql;
 }
 
 /** The next month's arrears: the whole total, or without this month's late charge unless the bill is nothing but
@@ -38,20 +37,23 @@ double carriedArrears(const ReadingSheet& sheet, int row) {
   return total == gasAlone ? total : total - sheet.number(row, EvaCol::Delay);
 }
 
-QString carryStatement(const ReadingSheet& sheet, int row) {
+jet::Sql carryStatement(const ReadingSheet& sheet, int row) {
   const int next = sheet.isOpening() ? sheet.calendarMonth() : sheet.month + 1;
-  return "Update Evaporation Set Trust = " + vb::CStr(carriedArrears(sheet, row)) +
-         " Where ClientCode = " + sheet.code(row) + " And Mon = " + QString::number(next);
+  jet::Sql sql;
+  sql << u"Update Evaporation Set Trust = " << carriedArrears(sheet, row) << u" Where ClientCode = "
+      << sheet.code(row) << u" And Mon = " << next;
+  return sql;
 }
 
 }  // namespace
 
 void SaveReadingRow(ReadingSheet& sheet, int row) {
-  const QString save = saveStatement(sheet, row);
-  const QString carry = sheet.month == lastMonth ? QString() : carryStatement(sheet, row);
+  const jet::Sql save = saveStatement(sheet, row);
+  const bool carries = sheet.month != lastMonth;
+  const jet::Sql carry = carries ? carryStatement(sheet, row) : jet::Sql();
   const Session& session = sheet.session;
   session.wsMain.Together([&] {
     session.dbYear.Execute(save);
-    if (!carry.isEmpty()) session.dbYear.Execute(carry);
+    if (carries) session.dbYear.Execute(carry);
   });
 }

@@ -129,6 +129,7 @@ QString readingHelp(int col) {
 }
 
 RowBackup::RowBackup(SpreadModel& grid, int row) : grid_(grid), row_(row) {
+  cells_.reserve(grid.MaxCols());
   for (int col = 1; col <= grid.MaxCols(); ++col) cells_ << grid.text(row, col);
 }
 

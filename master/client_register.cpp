@@ -108,7 +108,7 @@ bool ClientRegister::loadPage(HouseStyle page) {
 }
 
 QString ClientRegister::bottomLine() const {
-  const jet::Value count = DAO_GetValue(session_.prompts, session_.dbBasic, "Count(Code)", "Client", "");
+  const jet::Value count = DAO_GetValue(session_.prompts, session_.dbBasic, u"Count(Code)", u"Client", {});
   return " 기존고객 및 신규고객을 거주지별로 등록    인쇄 : F10    등록고객수 : " +
          jet::format(count, u"##,###") + "명";
 }

@@ -2,15 +2,16 @@
 
 #include <set>
 
+#include "store/jet/sql.h"
+
 namespace {
 
 constexpr int lastMonth = 12;
 
 void addMeterRow(const Session& session, qint64 clientCode, int month) {
-  session.dbYear.Execute(
-      "Insert Into Evaporation(ClientCode, Mon) "
-      "Values(" +
-      QString::number(clientCode) + ", " + QString::number(month) + ")");
+  session.dbYear.Execute(jet::Sql() << u"Insert Into Evaporation(ClientCode, Mon) "
+                                       u"Values("
+                                    << clientCode << u", " << month << u")");
 }
 
 }  // namespace

@@ -2,12 +2,14 @@
 
 #include <algorithm>
 
+#include "store/jet/sql.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 /** A failed query's box: the text by the error's number, then the statement. */
-void reportQuery(Prompts& prompts, const jet::Error& error, const QString& sql) {
+void reportQuery(Prompts& prompts, const jet::Error& error, QStringView sql) {
   QString text = error.description(), title = u"ERROR"_s;
   if (error.number() == 3011) {
     text = u"Jet Data Base Engine의 식을 확인하세요."_s;
@@ -18,10 +20,10 @@ void reportQuery(Prompts& prompts, const jet::Error& error, const QString& sql) 
   } else if (error.number() == 3261) {
     title = u"MDB 오류"_s;
   }
-  prompts.MsgInfo(text + u'\r' + sql, title);
+  prompts.MsgInfo(text + u'\r' + sql.toString(), title);
 }
 
-bool openRows(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql,
+bool openRows(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, QStringView sql,
               jet::RecordsetType type) {
   rs.Close();
   try {
@@ -53,14 +55,16 @@ bool OpenDynaset(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, 
   return openRows(prompts, db, rs, sql, jet::RecordsetType::Dynaset);
 }
 
-bool OpenSnapshot(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql) {
+bool OpenSnapshot(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, QStringView sql) {
   return openRows(prompts, db, rs, sql, jet::RecordsetType::Snapshot);
 }
 
-jet::Value DAO_GetValue(Prompts& prompts, const jet::Database& db, const QString& field, const QString& table,
-                        const QString& where) {
+jet::Value DAO_GetValue(Prompts& prompts, const jet::Database& db, QStringView field, QStringView table,
+                        QStringView where) {
   jet::Recordset rs;
-  if (!OpenSnapshot(prompts, db, rs, u"SELECT "_s + field + u" FROM "_s + table + u' ' + where)) return {};
+  if (!OpenSnapshot(prompts, db, rs,
+                    jet::Sql() << u"SELECT " << field << u" FROM " << table << u" " << where))
+    return {};
   return rs.atEnd() ? jet::Value() : rs[0];
 }
 

@@ -14,12 +14,15 @@ bool OpenDB(const jet::Workspace& workspace, jet::Database& db, const QString& p
 /** A recordset whose rows can be written back. False after a failure has been told, rs is then unset. */
 bool OpenDynaset(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql);
 /** The same, read only. */
-bool OpenSnapshot(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql);
+bool OpenSnapshot(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, QStringView sql);
+inline bool OpenSnapshot(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, const QString& sql) {
+  return OpenSnapshot(prompts, db, rs, QStringView(sql));
+}
 
 /** First field of the first row of "SELECT field FROM table where"; Null when there is no row. `where` is the whole
  *  rest of the statement, its word Where included. */
-jet::Value DAO_GetValue(Prompts& prompts, const jet::Database& db, const QString& field, const QString& table,
-                        const QString& where);
+jet::Value DAO_GetValue(Prompts& prompts, const jet::Database& db, QStringView field, QStringView table,
+                        QStringView where);
 
 bool DAO_ExistTable(Prompts& prompts, const jet::Database& db, const QString& name);
 

@@ -45,15 +45,6 @@ class Catalogue {
   virtual std::optional<TableInfo> tableIn(const QString& path, const QString& name) = 0;
 };
 
-/** A statement cut into its shape (the cache's key: the text without its literals) and the literals. Literals that
- *  decide the statement's form (Top n, order by position) stay in the shape. */
-struct Shape {
-  QString key;
-  std::vector<Value> literals;
-};
-/** Throws 3075 with the place for a text that no token fits. */
-Shape shapeOf(const QString& sql);
-
 /** One column of a result; source names are set when it is a plain column of a table. */
 struct ResultColumn {
   QString name;
@@ -74,7 +65,7 @@ struct Compiled {
     DropIndex
   };
   Kind kind = Kind::Select;
-  QByteArray sql;                     ///< SQLite text, one statement, ?1 ?2 ... for Shape::literals in order
+  QByteArray sql;                     ///< SQLite text, one statement, ?1 ?2 ... for the text's literals in order
   std::vector<ResultColumn> columns;  ///< Select
   /** Select with Keys::With: one more SQLite column behind `columns` for each of these, the rowid in that table of
    *  the row's part; empty when a row is no longer a table's row (groups, DISTINCT, UNION). */

@@ -168,11 +168,17 @@ SqliteStatement& SqliteStatement::bind(int index, const Value& value) {
   } else if (value.isDouble()) {
     sqlite3_bind_double(raw(), index, value.toDouble());
   } else {
-    const QByteArray utf8 = value.toText().toUtf8();
-    sqlite3_bind_text64(raw(), index, utf8.constData(), sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT,
-                        SQLITE_UTF8);
+    bindText(index, value.toText());
   }
   return *this;
+}
+
+void SqliteStatement::bindText(int index, QStringView text) {
+  if (texts_.size() <= size_t(index)) texts_.resize(size_t(index) + 1);
+  QByteArray& utf8 = texts_[size_t(index)];
+  utf8 = text.toUtf8();
+  sqlite3_bind_text64(raw(), index, utf8.constData(), sqlite3_uint64(utf8.size()), SQLITE_STATIC,
+                      SQLITE_UTF8);
 }
 
 bool SqliteStatement::step(const QString& about) {

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QString>
 #include <memory>
+#include <vector>
 
 #include "store/jet/error.h"
 #include "store/jet/value.h"
@@ -62,6 +63,9 @@ class SqliteStatement {
   SqliteStatement(Connection& connection, const QByteArray& sql, bool persistent = false);
 
   SqliteStatement& bind(int index, const Value& value);  ///< from 1
+  void bindNumber(int index, qint64 number) { sqlite3_bind_int64(raw(), index, number); }
+  /** The text is kept here until another takes its place. */
+  void bindText(int index, QStringView text);
   /** True: a row stands ready. Throws the failure; `about` fills its text. */
   bool step(const QString& about = {});
   void reset() noexcept;
@@ -77,6 +81,7 @@ class SqliteStatement {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
   };
   Connection* connection_ = nullptr;
+  std::vector<QByteArray> texts_;  ///< bound ones
   std::unique_ptr<sqlite3_stmt, Finalizer> statement_;
 };
 

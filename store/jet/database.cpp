@@ -18,7 +18,16 @@ auto& checked(const Pointer& data) {
 }
 
 void bindLiterals(SqliteStatement& statement, const Shape& shape) {
-  for (size_t i = 0; i < shape.literals.size(); ++i) statement.bind(int(i) + 1, shape.literals[i]);
+  int parameter = 0;
+  for (const Token& literal : shape.literals) {
+    ++parameter;
+    if (literal.isPlainText())
+      statement.bindText(parameter, literal.text);
+    else if (literal.isPlainWhole())
+      statement.bindNumber(parameter, literal.whole());
+    else
+      statement.bind(parameter, literal.value());
+  }
 }
 
 /** The file with its catalogue as it is now; another PC may have changed it. */
@@ -79,11 +88,11 @@ QString Database::path() const {
   return checked(data_).written();
 }
 
-int Database::Execute(const QString& sql) const {
+int Database::Execute(QStringView sql) const {
   DatabaseData& data = checked(data_);
   WorkspaceData& workspace = data.workspace();
   const Shape shape = shapeOf(sql);
-  Prepared& prepared = workspace.prepare(data.file(), shape, sql, Keys::None);
+  Prepared& prepared = workspace.prepare(data.file(), shape.key(), sql, Keys::None);
   switch (prepared.compiled.kind) {
     case Compiled::Kind::Select:
       fail(3065);
@@ -96,29 +105,31 @@ int Database::Execute(const QString& sql) const {
       return 0;
   }
   qint64 rows = 0;
-  workspace.run(prepared, [&](Connection& connection) {
+  const auto write = [&](Connection& connection) {
     bindLiterals(prepared.statement, shape);
-    prepared.statement.run(prepared.about());
+    prepared.statement.run(prepared.about);
     rows = connection.changes();
-  });
+  };
+  workspace.run(prepared, std::ref(write));
   return int(rows);
 }
 
-Recordset Database::OpenRecordset(const QString& sql, RecordsetType type) const {
+Recordset Database::OpenRecordset(QStringView sql, RecordsetType type) const {
   DatabaseData& data = checked(data_);
   WorkspaceData& workspace = data.workspace();
   const Shape shape = shapeOf(sql);
   const bool dynaset = type == RecordsetType::Dynaset;
-  Prepared& prepared = workspace.prepare(data.file(), shape, sql, dynaset ? Keys::With : Keys::None);
+  Prepared& prepared = workspace.prepare(data.file(), shape.key(), sql, dynaset ? Keys::With : Keys::None);
   const Compiled& compiled = prepared.compiled;
-  if (compiled.kind != Compiled::Kind::Select) fail(3219, sql);
+  if (compiled.kind != Compiled::Kind::Select) fail(3219, sql.toString());
 
-  RowStore rows(int(compiled.columns.size() + compiled.keys.size()));
-  workspace.run(prepared, [&](Connection&) {
+  RowStore rows(int(prepared.columns->size() + compiled.keys.size()));
+  const auto read = [&](Connection&) {
     bindLiterals(prepared.statement, shape);
-    while (prepared.statement.step(prepared.about())) rows.appendRow(prepared.statement.raw());
+    while (prepared.statement.step(prepared.about)) rows.appendRow(prepared.statement.raw());
     prepared.statement.reset();
-  });
+  };
+  workspace.run(prepared, std::ref(read));
   rows.stopFilling();
 
   std::vector<RecordsetData::Source> sources;
@@ -129,8 +140,8 @@ Recordset Database::OpenRecordset(const QString& sql, RecordsetType type) const 
     if (file != prepared.files.end()) sources.push_back({*file, table});
   }
   Recordset recordset;
-  recordset.data_ = std::make_shared<RecordsetData>(compiled.columns, std::move(rows));
-  if (dynaset) recordset.data_->makeWritable(data_, compiled.columns, std::move(sources));
+  recordset.data_ = std::make_shared<RecordsetData>(prepared.columns, std::move(rows));
+  if (dynaset) recordset.data_->makeWritable(data_, std::move(sources));
   return recordset;
 }
 

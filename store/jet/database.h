@@ -103,8 +103,12 @@ class Database {
   void Close() { data_.reset(); }
 
   /** Runs one statement, returns the rows it touched. Throws Error. */
-  int Execute(const QString& sql) const;
-  Recordset OpenRecordset(const QString& sql, RecordsetType type = RecordsetType::Snapshot) const;
+  int Execute(QStringView sql) const;
+  int Execute(const QString& sql) const { return Execute(QStringView(sql)); }
+  Recordset OpenRecordset(QStringView sql, RecordsetType type = RecordsetType::Snapshot) const;
+  Recordset OpenRecordset(const QString& sql, RecordsetType type = RecordsetType::Snapshot) const {
+    return OpenRecordset(QStringView(sql), type);
+  }
 
   std::vector<TableDef> TableDefs() const;
   bool hasTable(const QString& name) const;       ///< upper-cased names compared

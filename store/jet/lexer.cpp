@@ -1,6 +1,8 @@
 #include "store/jet/lexer.h"
 
 #include <QDate>
+#include <array>
+#include <string_view>
 
 #include "store/jet/error_texts.h"
 
@@ -10,17 +12,43 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/** What a character may begin or go on with. */
+enum class Sign : unsigned char { Unknown, Space, Letter, Digit, Point, Quote, Bracket, Hash, Symbol };
+
+constexpr std::array<Sign, 128> plainSigns() {
+  std::array<Sign, 128> signs{};
+  for (char c = '\t'; c <= '\r'; ++c) signs[size_t(c)] = Sign::Space;
+  signs[size_t(' ')] = Sign::Space;
+  for (char c = 'a'; c <= 'z'; ++c) signs[size_t(c)] = signs[size_t(c - 'a' + 'A')] = Sign::Letter;
+  signs[size_t('_')] = Sign::Letter;
+  for (char c = '0'; c <= '9'; ++c) signs[size_t(c)] = Sign::Digit;
+  for (const char c : std::string_view("(),=<>+-*/\\^&;")) signs[size_t(c)] = Sign::Symbol;
+  signs[size_t('.')] = Sign::Point;
+  signs[size_t('\'')] = signs[size_t('"')] = Sign::Quote;
+  signs[size_t('[')] = signs[size_t('`')] = Sign::Bracket;
+  signs[size_t('#')] = Sign::Hash;
+  return signs;
+}
+
+constexpr std::array<Sign, 128> kPlain = plainSigns();
+
+Sign foreignSign(QChar c) {
+  if (c.isLetter() || c.isSurrogate()) return Sign::Letter;
+  return c.isSpace() ? Sign::Space : Sign::Unknown;
+}
+// Most of a statement is plain Latin: a look into a small table spares the look into those of Unicode.
+inline Sign signOf(QChar c) {
+  return c.unicode() < kPlain.size() ? kPlain[c.unicode()] : foreignSign(c);
+}
+inline bool continuesNameSign(QChar c) {
+  if (c.unicode() >= kPlain.size()) return c.isLetterOrNumber() || c.isSurrogate();
+  return kPlain[c.unicode()] == Sign::Letter || kPlain[c.unicode()] == Sign::Digit;
+}
+bool isWord(QStringView text, QLatin1StringView word) {
+  return text.size() == word.size() && text.compare(word, Qt::CaseInsensitive) == 0;
+}
 bool isDigitSign(QChar c) {
   return c >= u'0' && c <= u'9';
-}
-// Most of a statement is plain Latin: a look at the number spares the look into the tables of Unicode.
-bool startsNameSign(QChar c) {
-  if (c < u'\x80') return ((c.unicode() | 0x20) >= u'a' && (c.unicode() | 0x20) <= u'z') || c == u'_';
-  return c.isLetter() || c.isSurrogate();
-}
-bool continuesNameSign(QChar c) {
-  if (c < u'\x80') return startsNameSign(c) || isDigitSign(c);
-  return c.isLetterOrNumber() || c.isSurrogate();
 }
 
 /** #2024-01-05# or #1/5/2024#; an invalid date for anything else. */
@@ -45,12 +73,8 @@ Value Token::value() const {
       if (plain.contains(quote)) plain.replace(QString(2, quote), QString(quote));
       return plain;
     }
-    case Kind::Whole: {
-      if (text.size() > 18) return text.toDouble();
-      qint64 whole = 0;
-      for (const QChar digit : text) whole = whole * 10 + (digit.unicode() - u'0');
-      return whole;
-    }
+    case Kind::Whole:
+      return isPlainWhole() ? Value(whole()) : Value(text.toDouble());
     case Kind::Floating:
       return text.toDouble();
     case Kind::Date:
@@ -60,66 +84,41 @@ Value Token::value() const {
   }
 }
 
-Token Lexer::next() {
-  while (at_ < sql_.size() && sql_[at_].isSpace()) ++at_;
-  if (at_ >= sql_.size()) return made(Token::Kind::End, sql_.size(), sql_.size(), sql_.size(), sql_.size());
-  Token token = read();
-  follow(token);
-  return token;
-}
-
-Token Lexer::read() {
-  const QChar c = sql_[at_];
-  if (startsNameSign(c)) return readName();
-  if (isDigitSign(c) || (c == u'.' && at_ + 1 < sql_.size() && isDigitSign(sql_[at_ + 1])))
-    return readNumber();
-  if (c == u'\'' || c == u'"') return readQuoted(c);
-  if (c == u'[') return readBracketed(u']');
-  if (c == u'`') return readBracketed(u'`');
-  if (c == u'#') return readDate();
-  return readSymbol();
-}
-
-Token Lexer::made(Token::Kind kind, qsizetype place, qsizetype from, qsizetype to, qsizetype end) {
-  Token token;
+inline void Lexer::made(Token& token, Token::Kind kind, qsizetype from, qsizetype to, qsizetype end) {
   token.kind = kind;
-  token.place = place;
-  token.text = sql_.mid(from, to - from);
+  token.text = QStringView(sql_.utf16() + from, to - from);
   token.end = at_ = end;
-  return token;
 }
 
-Token Lexer::readQuoted(QChar quote) {
+void Lexer::readQuoted(Token& token, QChar quote) {
   for (qsizetype i = at_ + 1; i < sql_.size(); ++i) {
     if (sql_[i] != quote) continue;
     if (i + 1 < sql_.size() && sql_[i + 1] == quote) {
       ++i;
       continue;
     }
-    Token token = made(Token::Kind::Text, at_, at_ + 1, i, i + 1);
     token.quote = quote;
-    return token;
+    return made(token, Token::Kind::Text, at_ + 1, i, i + 1);
   }
   throwSyntax(sql_, at_, u"문자열이 닫히지 않았습니다"_s);
 }
 
-Token Lexer::readBracketed(QChar close) {
+void Lexer::readBracketed(Token& token, QChar close) {
   const qsizetype end = sql_.indexOf(close, at_ + 1);
   if (end < 0) throwSyntax(sql_, at_, u"대괄호가 닫히지 않았습니다"_s);
   if (end == at_ + 1) throwSyntax(sql_, at_, u"이름이 비어 있습니다"_s);
-  Token token = made(Token::Kind::Name, at_, at_ + 1, end, end + 1);
   token.bracketed = true;
-  return token;
+  made(token, Token::Kind::Name, at_ + 1, end, end + 1);
 }
 
-Token Lexer::readDate() {
+void Lexer::readDate(Token& token) {
   const qsizetype end = sql_.indexOf(u'#', at_ + 1);
   if (end < 0 || !dateLiteral(sql_.mid(at_ + 1, end - at_ - 1)).isValid())
     throwSyntax(sql_, at_, u"날짜가 잘못되었습니다"_s);
-  return made(Token::Kind::Date, at_, at_ + 1, end, end + 1);
+  made(token, Token::Kind::Date, at_ + 1, end, end + 1);
 }
 
-Token Lexer::readNumber() {
+inline void Lexer::readNumber(Token& token) {
   qsizetype i = at_;
   bool floating = false;
   auto digits = [&] {
@@ -141,71 +140,124 @@ Token Lexer::readNumber() {
     }
   }
   if (i < sql_.size() && continuesNameSign(sql_[i])) throwSyntax(sql_, at_, u"숫자 뒤에 글자가 있습니다"_s);
-  return made(floating ? Token::Kind::Floating : Token::Kind::Whole, at_, at_, i, i);
+  made(token, floating ? Token::Kind::Floating : Token::Kind::Whole, at_, i, i);
 }
 
-Token Lexer::readName() {
-  qsizetype i = at_;
-  while (i < sql_.size() && continuesNameSign(sql_[i])) ++i;
-  const qsizetype nameEnd = i;
-  if (i < sql_.size() && sql_[i] == u'$') ++i;  // Left$ is Left
-  return made(Token::Kind::Name, at_, at_, nameEnd, i);
+inline QStringView Lexer::takeWord() {
+  const QChar* const word = sql_.data() + at_;
+  const QChar* const end = sql_.data() + sql_.size();
+  const QChar* behind = word + 1;
+  while (behind != end && continuesNameSign(*behind)) ++behind;
+  const qsizetype length = behind - word;
+  at_ += behind != end && *behind == u'$' ? length + 1 : length;  // Left$ is Left
+  return QStringView(word, length);
 }
 
-Token Lexer::readSymbol() {
+inline void Lexer::readSymbol(Token& token) {
   const char16_t c = sql_[at_].unicode();
   const char16_t next = at_ + 1 < sql_.size() ? sql_[at_ + 1].unicode() : u'\0';
   const bool pair = (c == u'<' && (next == u'>' || next == u'=')) || (c == u'>' && next == u'=') ||
                     (c == u'=' && (next == u'<' || next == u'>'));
-  if (!pair && !QStringView(u"(),.=<>+-*/\\^&;").contains(QChar(c)))
-    throwSyntax(sql_, at_, u"알 수 없는 글자입니다"_s);
   const qsizetype end = at_ + (pair ? 2 : 1);
-  return made(Token::Kind::Symbol, at_, at_, end, end);
+  made(token, Token::Kind::Symbol, at_, end, end);
 }
 
-/** Keeps what is needed to tell a number that is data from one that decides the statement's form. */
-void Lexer::follow(Token& token) {
-  if (first_) {
-    first_ = false;
-    definition_ = token.isWord("CREATE"_L1) || token.isWord("ALTER"_L1) || token.isWord("DROP"_L1);
-  }
-  if (token.isLiteral()) {
-    const bool number = token.kind == Token::Kind::Whole || token.kind == Token::Kind::Floating;
-    const bool form =
-        number && (definition_ || ordering_ || previous_.compare("TOP"_L1, Qt::CaseInsensitive) == 0);
-    if (!form) token.parameter = ++parameters_;
-  } else if (token.kind == Token::Kind::Symbol) {
-    if (token.isSymbol(u'(')) ++depth_;
-    if (token.isSymbol(u')')) {
-      --depth_;
-      if (depth_ < orderingDepth_) ordering_ = false;
-    }
-  } else if (token.isWord("BY"_L1)) {
-    if (previous_.compare("ORDER"_L1, Qt::CaseInsensitive) == 0) {
-      ordering_ = true;
-      orderingDepth_ = depth_;
-    }
-  }
-  previous_ = token.kind == Token::Kind::Name && !token.bracketed ? token.text : QStringView();
+Lexer::Lexer(QStringView sql) : sql_(sql) {
+  while (at_ < sql_.size() && signOf(sql_[at_]) == Sign::Space) ++at_;
+  const qsizetype begin = at_;
+  if (at_ == sql_.size() || signOf(sql_[at_]) != Sign::Letter) return;
+  const QStringView word = takeWord();
+  definition_ = isWord(word, "CREATE"_L1) || isWord(word, "ALTER"_L1) || isWord(word, "DROP"_L1);
+  at_ = begin;
 }
 
-Shape shapeOf(const QString& sql) {
-  Shape shape;
-  shape.key.reserve(sql.size());
-  Lexer lexer(sql);
-  qsizetype copied = 0;
-  for (Token token = lexer.next(); token.kind != Token::Kind::End; token = lexer.next()) {
-    if (token.parameter == 0) continue;
-    // No token contains a question mark, so a mark cannot be mistaken for text of the statement.
-    shape.key += QStringView(sql).mid(copied, token.place - copied);
-    shape.key += token.kind == Token::Kind::Whole      ? "?w"_L1
-                 : token.kind == Token::Kind::Floating ? "?f"_L1
-                                                       : "?t"_L1;
-    shape.literals.push_back(token.value());
-    copied = token.end;
+// What is needed to tell a number that is data from one that decides the statement's form.
+
+inline void Lexer::followWord(QStringView word) {
+  if (isWord(word, "BY"_L1) && isWord(previous_, "ORDER"_L1)) {
+    ordering_ = true;
+    orderingDepth_ = depth_;
   }
-  shape.key += QStringView(sql).mid(copied);
-  return shape;
+  previous_ = word;
+}
+
+inline void Lexer::followSymbol(char16_t symbol) {
+  if (symbol == u'(') ++depth_;
+  if (symbol == u')' && --depth_ < orderingDepth_) ordering_ = false;
+  previous_ = {};
+}
+
+inline void Lexer::followLiteral(Token& token) {
+  const bool number = token.kind == Token::Kind::Whole || token.kind == Token::Kind::Floating;
+  const bool form = number && (definition_ || ordering_ || isWord(previous_, "TOP"_L1));
+  if (!form) token.parameter = ++parameters_;
+  previous_ = {};
+}
+
+inline void Lexer::read(Token& token) {
+  token.place = at_;
+  const QChar c = sql_[at_];
+  switch (signOf(c)) {
+    case Sign::Letter:
+      token.kind = Token::Kind::Name;
+      token.text = takeWord();
+      token.end = at_;
+      return followWord(token.text);
+    case Sign::Bracket:
+      readBracketed(token, c == u'[' ? u']' : u'`');
+      previous_ = {};
+      return;
+    case Sign::Digit:
+      readNumber(token);
+      return followLiteral(token);
+    case Sign::Quote:
+      readQuoted(token, c);
+      return followLiteral(token);
+    case Sign::Hash:
+      readDate(token);
+      return followLiteral(token);
+    case Sign::Point:
+      if (at_ + 1 < sql_.size() && isDigitSign(sql_[at_ + 1])) {
+        readNumber(token);
+        return followLiteral(token);
+      }
+      [[fallthrough]];
+    case Sign::Symbol:
+      readSymbol(token);
+      return followSymbol(c.unicode());
+    default:
+      throwSyntax(sql_, at_, u"알 수 없는 글자입니다"_s);
+  }
+}
+
+Token Lexer::next() {
+  Token token;
+  while (at_ < sql_.size() && signOf(sql_[at_]) == Sign::Space) ++at_;
+  token.place = token.end = at_;
+  if (at_ < sql_.size()) read(token);
+  return token;
+}
+
+bool Lexer::toParameter(Token& token) {
+  while (at_ < sql_.size()) {
+    switch (signOf(sql_[at_])) {
+      case Sign::Space:
+        ++at_;
+        continue;
+      case Sign::Letter:
+        followWord(takeWord());
+        continue;
+      case Sign::Symbol:
+        followSymbol(sql_[at_++].unicode());
+        continue;
+      default:
+        break;
+    }
+    token = {};
+    read(token);
+    if (token.parameter > 0) return true;
+  }
+  return false;
 }
 
 }  // namespace jet

@@ -2,7 +2,7 @@
 // A statement's text as tokens. One pass serves both uses: the shape (cache key) and the parser.
 #include <QString>
 
-#include "store/jet/compile.h"
+#include "store/jet/value.h"
 
 namespace jet {
 
@@ -29,30 +29,42 @@ struct Token {
   }
   /** A literal's value; a date reads as the text yyyy-MM-dd. */
   Value value() const;
+  /** A text that stands as it is, a whole number that fits: most literals are, and need no Value. */
+  bool isPlainText() const { return kind == Kind::Text && !text.contains(quote); }
+  bool isPlainWhole() const { return kind == Kind::Whole && text.size() <= 18; }
+  qint64 whole() const {
+    qint64 number = 0;
+    for (const QChar digit : text) number = number * 10 + (digit.unicode() - u'0');
+    return number;
+  }
 };
 
 class Lexer {
  public:
-  explicit Lexer(QStringView sql) : sql_(sql) {}
+  explicit Lexer(QStringView sql);
   /** The next token, End for ever at the end. Throws 3075 for a text that no token fits. */
   Token next();
+  /** Goes on to the next literal that becomes a parameter, False at the end. The same reading for those who need no
+   *  token for every word between. */
+  bool toParameter(Token& token);
 
  private:
-  Token read();
-  Token readQuoted(QChar quote);
-  Token readBracketed(QChar close);
-  Token readDate();
-  Token readNumber();
-  Token readName();
-  Token readSymbol();
-  Token made(Token::Kind kind, qsizetype place, qsizetype from, qsizetype to, qsizetype end);
-  void follow(Token& token);
+  void read(Token& token);
+  void readQuoted(Token& token, QChar quote);
+  void readBracketed(Token& token, QChar close);
+  void readDate(Token& token);
+  void readNumber(Token& token);
+  void readSymbol(Token& token);
+  void made(Token& token, Token::Kind kind, qsizetype from, qsizetype to, qsizetype end);
+  QStringView takeWord();
+  void followWord(QStringView word);
+  void followSymbol(char16_t symbol);
+  void followLiteral(Token& token);
 
   QStringView sql_;
   qsizetype at_ = 0;
   int parameters_ = 0;
   QStringView previous_;     ///< the last bare word, empty after anything else
-  bool first_ = true;        ///< before the first token
   bool definition_ = false;  ///< CREATE, ALTER, DROP: sizes are part of the form
   bool ordering_ = false;    ///< behind ORDER BY, where a number may be a position
   int depth_ = 0, orderingDepth_ = 0;

@@ -6,22 +6,26 @@
 
 namespace jet {
 
-RecordsetData::RecordsetData(const std::vector<ResultColumn>& columns, RowStore rows)
-    : rows_(std::move(rows)) {
-  names_.reserve(qsizetype(columns.size()));
-  for (const ResultColumn& column : columns) names_ << column.name;
+RecordsetData::RecordsetData(std::shared_ptr<const std::vector<ResultColumn>> columns, RowStore rows)
+    : columns_(std::move(columns)), rows_(std::move(rows)) {
   reach();
 }
 
-int RecordsetData::fieldIndex(const QString& name) const {
-  for (qsizetype at = 0; at < names_.size(); ++at)
-    if (names_[at].compare(name, Qt::CaseInsensitive) == 0) return int(at);
+QStringList RecordsetData::names() const {
+  QStringList names;
+  for (const ResultColumn& column : *columns_) names << column.name;
+  return names;
+}
+
+int RecordsetData::fieldIndex(QAnyStringView name) const {
+  for (size_t at = 0; at < columns_->size(); ++at)
+    if (QAnyStringView::compare((*columns_)[at].name, name, Qt::CaseInsensitive) == 0) return int(at);
   return -1;
 }
 
-int RecordsetData::fieldOf(const QString& name) const {
+int RecordsetData::fieldOf(QAnyStringView name) const {
   const int field = fieldIndex(name);
-  if (field < 0) fail(3265, name);
+  if (field < 0) fail(3265, name.toString());
   return field;
 }
 
@@ -31,13 +35,13 @@ int RecordsetData::fieldOf(const char* name) const {
     const auto& [met, field] = met_[nextMet_++];
     if (met == name) return field;
   }
-  const int field = fieldOf(QString::fromUtf8(name));
-  met_.emplace_back(name, field);
+  const int field = fieldOf(QAnyStringView(name));
+  if (position_ > 0) met_.emplace_back(name, field);  // of a single row no name is asked for again and again
   return field;
 }
 
 Value RecordsetData::value(int field) const {
-  if (field < 0 || field >= int(names_.size())) fail(3265, QString::number(field));
+  if (field < 0 || field >= int(columns_->size())) fail(3265, QString::number(field));
   if (mode_ != Mode::Reading) {
     if (const auto set = pending_.find(field); set != pending_.end()) return set->second;
     if (mode_ == Mode::Adding) return {};

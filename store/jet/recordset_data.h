@@ -16,19 +16,18 @@ class WorkspaceData;
 class RecordsetData {
  public:
   /** Takes the rows; hidden row keys stand behind the columns, one for each source. */
-  RecordsetData(const std::vector<ResultColumn>& columns, RowStore rows);
+  RecordsetData(std::shared_ptr<const std::vector<ResultColumn>> columns, RowStore rows);
 
   /** A table that rows are written back to. */
   struct Source {
     std::weak_ptr<DataFile> file;
     TableInfo table;
   };
-  void makeWritable(std::weak_ptr<DatabaseData> database, std::vector<ResultColumn> columns,
-                    std::vector<Source> sources);
+  void makeWritable(std::weak_ptr<DatabaseData> database, std::vector<Source> sources);
 
-  const QStringList& names() const { return names_; }
-  int fieldIndex(const QString& name) const;  ///< of names that stand twice the first; -1
-  int fieldOf(const QString& name) const;     ///< 3265
+  QStringList names() const;
+  int fieldIndex(QAnyStringView name) const;  ///< of names that stand twice the first; -1
+  int fieldOf(QAnyStringView name) const;     ///< 3265
   int fieldOf(const char* name) const;        ///< 3265; a name met before costs one comparison
   Value value(int field) const;
 
@@ -56,14 +55,15 @@ class RecordsetData {
   void checkCurrent() const;
   void checkWritable() const;
   int sourceOf(int field) const;
-  int keyColumn(int source) const { return int(names_.size()) + source; }
+  int keyColumn(int source) const { return int(columns_->size()) + source; }
   void writeBack(int source, const std::map<int, Value>& fields);
   qint64 writeRow(class Connection& connection, int source, const std::map<int, Value>& fields,
                   const Value& key);
   std::vector<Value> readRow(class Connection& connection, int source, qint64 key,
                              const std::vector<int>& fields);
 
-  QStringList names_;
+  std::shared_ptr<const std::vector<ResultColumn>>
+      columns_;  ///< of the statement, where each field came from
   /** Names as they were asked for, in that order: a loop asks for the same ones row after row. */
   mutable std::vector<std::pair<QByteArray, int>> met_;
   mutable size_t nextMet_ = 0;
@@ -75,7 +75,6 @@ class RecordsetData {
 
   bool writable_ = false;
   std::weak_ptr<DatabaseData> database_;
-  std::vector<ResultColumn> columns_;  ///< where each field came from, of a writable one
   std::vector<Source> sources_;
   Mode mode_ = Mode::Reading;
   std::map<int, Value> pending_;

@@ -23,10 +23,8 @@ QByteArray tableName(const DataFile& file, const TableInfo& table) {
 
 }  // namespace
 
-void RecordsetData::makeWritable(std::weak_ptr<DatabaseData> database, std::vector<ResultColumn> columns,
-                                 std::vector<Source> sources) {
+void RecordsetData::makeWritable(std::weak_ptr<DatabaseData> database, std::vector<Source> sources) {
   database_ = std::move(database);
-  columns_ = std::move(columns);
   sources_ = std::move(sources);
   writable_ = !sources_.empty();
 }
@@ -37,7 +35,7 @@ void RecordsetData::checkWritable() const {
 }
 
 int RecordsetData::sourceOf(int field) const {
-  const ResultColumn& column = columns_[size_t(field)];
+  const ResultColumn& column = (*columns_)[size_t(field)];
   for (size_t i = 0; i < sources_.size(); ++i) {
     const TableInfo& table = sources_[i].table;
     if (!column.column.isEmpty() && table.schema == column.schema && table.name == column.table)
@@ -77,7 +75,7 @@ qint64 RecordsetData::writeRow(Connection& connection, int source, const std::ma
   QByteArray names, values, pairs;
   int parameter = 0;
   for (const auto& [field, value] : fields) {
-    const Field& column = tableField(table, columns_[size_t(field)].column);
+    const Field& column = tableField(table, (*columns_)[size_t(field)].column);
     const PutCall call = putCall(column);
     const QByteArray name = quotedName(column.name);
     const QByteArray put = call.before + '?' + QByteArray::number(++parameter) + call.behind;
@@ -107,7 +105,7 @@ std::vector<Value> RecordsetData::readRow(Connection& connection, int source, qi
   const FilePtr file = sources_[size_t(source)].file.lock();
   const TableInfo& table = sources_[size_t(source)].table;
   QByteArray names = "rowid";
-  for (const int field : fields) names += ", " + quotedName(columns_[size_t(field)].column);
+  for (const int field : fields) names += ", " + quotedName((*columns_)[size_t(field)].column);
   SqliteStatement statement(connection,
                             "SELECT " + names + " FROM " + tableName(*file, table) + " WHERE rowid = ?1");
   statement.bind(1, key);
@@ -129,8 +127,8 @@ void RecordsetData::writeBack(int source, const std::map<int, Value>& fields) {
     if (key.isNull()) fail(3164, sources_[size_t(source)].table.name);  // an outer join's empty side
   }
   std::vector<int> shown;
-  for (int field = 0; field < int(columns_.size()); ++field) {
-    const ResultColumn& column = columns_[size_t(field)];
+  for (int field = 0; field < int(columns_->size()); ++field) {
+    const ResultColumn& column = (*columns_)[size_t(field)];
     if (column.schema == sources_[size_t(source)].table.schema &&
         column.table == sources_[size_t(source)].table.name && !column.column.isEmpty())
       shown.push_back(field);
@@ -140,7 +138,7 @@ void RecordsetData::writeBack(int source, const std::map<int, Value>& fields) {
     const std::vector<Value> values = readRow(connection, source, written, shown);
     int row = position_;
     if (adding) {
-      std::vector<Value> empty(columns_.size() + sources_.size());
+      std::vector<Value> empty(columns_->size() + sources_.size());
       empty[size_t(keyColumn(source))] = written;
       row = rows_.rows();
       rows_.appendRow(empty);

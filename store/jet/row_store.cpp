@@ -11,6 +11,8 @@
 namespace jet {
 namespace {
 
+/** The single row that most statements ask for needs no table to find equal texts by. */
+constexpr size_t kTooFewToShare = 4;
 /** Dates, items, staff: the few texts that stand in row after row are decoded once. */
 constexpr quint32 kKeptDecoded = 1024;
 constexpr qint64 kExactInDouble = 9007199254740992;  // 2^53
@@ -54,7 +56,8 @@ void TextPool::growSlots() {
 
 quint32 TextPool::add(std::string_view utf8) {
   size_t slot = 0;
-  if (sharing_) {
+  const bool looksUp = sharing_ && ends_.size() >= kTooFewToShare;
+  if (looksUp) {
     ++asked_;
     if (ends_.size() * 2 >= slots_.size()) growSlots();
     for (slot = slotOf(utf8, slots_.size()); slots_[slot] != 0; slot = (slot + 1) & (slots_.size() - 1))
@@ -64,7 +67,7 @@ quint32 TextPool::add(std::string_view utf8) {
   text_.append(utf8);
   ends_.push_back(quint32(text_.size()));
   const quint32 number = quint32(ends_.size() - 1);
-  if (sharing_) slots_[slot] = number + 1;
+  if (looksUp) slots_[slot] = number + 1;
   // Addresses, names: where almost every text is new, looking for its twin costs more than it saves.
   if (sharing_ && ends_.size() > 4096 && ends_.size() * 4 > asked_ * 3) {
     sharing_ = false;
@@ -182,6 +185,7 @@ void PackedColumn::append(sqlite3_stmt* statement, int column) {
       return append(Value());
     case SQLITE_INTEGER: {
       const qint64 number = sqlite3_column_int64(statement, column);
+      if (rows_ == 0 && fitsNarrow(number)) kind_ = Kind::Narrow;
       if (kind_ != Kind::Narrow || !nulls_.empty() || !fitsNarrow(number)) return append(Value(number));
       narrow_.push_back(qint32(number));
       ++rows_;
@@ -194,6 +198,7 @@ void PackedColumn::append(sqlite3_stmt* statement, int column) {
   }
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
   const std::string_view utf8(text, size_t(sqlite3_column_bytes(statement, column)));
+  if (rows_ == 0) kind_ = Kind::Text;
   if (kind_ == Kind::Text) {  // straight into the pool, without a QString between
     text_.push_back(texts_.add(utf8) + 1);
     ++rows_;

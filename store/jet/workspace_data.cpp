@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <algorithm>
+#include <cstring>
 
 #include "store/jet/error_texts.h"
 #include "store/jet/handle_catalogue.h"
@@ -14,7 +15,7 @@ namespace jet {
 namespace {
 
 constexpr size_t kAttachedAtMost = 11;  // the main file and SQLite's ten
-constexpr qsizetype kPreparedAtMost = 300;
+constexpr size_t kPreparedAtMost = 300;
 const char* const kMainAlias = "main";
 
 /** One path for one file, however it was written. */
@@ -24,13 +25,27 @@ QString samePath(const QString& path) {
   return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
 }
 
+QString aboutOf(const Prepared& prepared) {
+  if (!prepared.compiled.target.name.isEmpty()) return prepared.compiled.target.name;
+  for (const ResultColumn& column : *prepared.columns)
+    if (!column.table.isEmpty()) return column.table;
+  return prepared.files.empty() ? QString() : QFileInfo(prepared.files.front()->path()).fileName();
+}
+
 }  // namespace
 
-QString Prepared::about() const {
-  if (!compiled.target.name.isEmpty()) return compiled.target.name;
-  for (const ResultColumn& column : compiled.columns)
-    if (!column.table.isEmpty()) return column.table;
-  return files.empty() ? QString() : QFileInfo(files.front()->path()).fileName();
+// Eight bytes at a time: a statement is short, and finding it must cost less than running it.
+size_t StatementHash::operator()(const StatementKeyView& key) const {
+  constexpr quint64 spread = 0x9E3779B97F4A7C15;
+  const char16_t* text = key.shape.utf16();
+  quint64 hash = quint64(key.shape.size()) + 1;
+  for (qsizetype left = key.shape.size(); left > 0; left -= 4, text += 4) {
+    quint64 word = 0;
+    memcpy(&word, text, size_t(std::min<qsizetype>(left, 4)) * sizeof *text);
+    hash = (hash ^ word) * spread;
+    hash ^= hash >> 32;
+  }
+  return hash;
 }
 
 // ---- files
@@ -192,8 +207,8 @@ void WorkspaceData::makeRoom() {
 }
 
 void WorkspaceData::letGo(FilePtr file) {
-  prepared_.removeIf([&](const auto& entry) {
-    const auto& files = entry.value()->files;
+  std::erase_if(prepared_, [&](const auto& entry) {
+    const auto& files = entry.second.files;
     return std::find(files.begin(), files.end(), file) != files.end();
   });
   connection_->detach(file->alias());
@@ -269,30 +284,34 @@ void WorkspaceData::unlock(DataFile& file) {
 
 // ---- statements
 
-Prepared& WorkspaceData::prepare(const FilePtr& file, const Shape& shape, const QString& sql, Keys keys) {
+Prepared& WorkspaceData::prepare(const FilePtr& file, QStringView shape, QStringView sql, Keys keys) {
   ensureAttached(file);
-  const QString key = QString::fromLatin1(file->alias()) + (keys == Keys::With ? u'+' : u' ') + shape.key;
-  const auto known = file->outdated ? prepared_.constEnd() : prepared_.constFind(key);
-  if (known != prepared_.constEnd()) {
-    (*known)->lastUse = ++clock_;
-    return **known;
+  const auto known =
+      file->outdated ? prepared_.end() : prepared_.find(StatementKeyView{file->alias(), keys, shape});
+  if (known != prepared_.end()) {
+    known->second.lastUse = ++clock_;
+    return known->second;
   }
+  Prepared made = compiled(file, sql, keys);
+  if (prepared_.size() >= kPreparedAtMost)
+    prepared_.erase(
+        std::ranges::min_element(prepared_, {}, [](const auto& entry) { return entry.second.lastUse; }));
+  return prepared_.insert_or_assign(StatementKey{file->alias(), keys, shape.toString()}, std::move(made))
+      .first->second;
+}
+
+Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys) {
   beginStatement({file});
   file->refresh(*connection_);
   HandleCatalogue catalogue(*this, file);
-  auto prepared = std::make_shared<Prepared>();
-  prepared->compiled = compile(sql, catalogue, keys);
-  prepared->files = catalogue.takeFiles();
-  if (!prepared->compiled.sql.isEmpty())
-    prepared->statement = SqliteStatement(*connection_, prepared->compiled.sql, true);
-  prepared->lastUse = ++clock_;
-  if (prepared_.size() >= kPreparedAtMost) {
-    auto oldest = prepared_.begin();
-    for (auto it = prepared_.begin(); it != prepared_.end(); ++it)
-      if ((*it)->lastUse < (*oldest)->lastUse) oldest = it;
-    prepared_.erase(oldest);
-  }
-  return **prepared_.insert(key, std::move(prepared));
+  Prepared made;
+  made.compiled = compile(sql.toString(), catalogue, keys);
+  made.columns = std::make_shared<const std::vector<ResultColumn>>(std::move(made.compiled.columns));
+  made.files = catalogue.takeFiles();
+  made.about = aboutOf(made);
+  if (!made.compiled.sql.isEmpty()) made.statement = SqliteStatement(*connection_, made.compiled.sql, true);
+  made.lastUse = ++clock_;
+  return made;
 }
 
 /** A statement over several files is a group of its own. SQLite would take its files in their order and hold the first

@@ -1,15 +1,16 @@
 #pragma once
 // What stands behind a workspace: its one connection, the files attached to it, the prepared statements, the group.
-#include <QHash>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 #include "store/jet/compile.h"
 #include "store/jet/connection.h"
 #include "store/jet/data_file.h"
 #include "store/jet/database.h"
+#include "store/jet/shape.h"
 
 namespace jet {
 
@@ -20,8 +21,34 @@ struct Prepared {
   Compiled compiled;
   SqliteStatement statement;
   std::vector<FilePtr> files;
+  /** Of a query: what its recordsets share. */
+  std::shared_ptr<const std::vector<ResultColumn>> columns;
+  QString about;  ///< the table's name, for a failure's text
   quint64 lastUse = 0;
-  QString about() const;  ///< the table's name, for a failure's text
+};
+
+/** What a prepared statement is found by: the handle's file, whether row keys are read, the statement's shape. */
+struct StatementKeyView {
+  const QByteArray& alias;
+  Keys keys;
+  QStringView shape;
+};
+struct StatementKey {
+  QByteArray alias;
+  Keys keys;
+  QString shape;
+  operator StatementKeyView() const { return {alias, keys, shape}; }
+};
+/** By the shape alone: few statements are asked of two files. */
+struct StatementHash {
+  using is_transparent = void;
+  size_t operator()(const StatementKeyView& key) const;
+};
+struct SameStatement {
+  using is_transparent = void;
+  bool operator()(const StatementKeyView& a, const StatementKeyView& b) const {
+    return a.keys == b.keys && a.shape == b.shape && a.alias == b.alias;
+  }
 };
 
 /** The connection's main file is Options.mainFile where that exists, else the first file opened; every other file is
@@ -40,7 +67,7 @@ class WorkspaceData {
   /** The file of a link or of [path].table, attached when needed. */
   FilePtr fileAt(const QString& written);
 
-  Prepared& prepare(const FilePtr& file, const Shape& shape, const QString& sql, Keys keys);
+  Prepared& prepare(const FilePtr& file, QStringView shape, QStringView sql, Keys keys);
   /** Runs work with the statement's files locked as the group asks; work steps and resets. */
   void run(Prepared& prepared, const std::function<void(Connection&)>& work);
   /** A change of tables, fields, indexes or links of one file. */
@@ -67,6 +94,7 @@ class WorkspaceData {
   void unlock(DataFile& file);
 
   void runNow(Prepared& prepared, const std::function<void(Connection&)>& work);
+  Prepared compiled(const FilePtr& file, QStringView sql, Keys keys);
   void readBehindMainFile(const std::function<void(Connection&)>& work);
   void beginStatement(const std::vector<FilePtr>& files);
   void reserve(DataFile& file);
@@ -78,7 +106,7 @@ class WorkspaceData {
   Workspace::Options options_;
   std::unique_ptr<Connection> connection_;
   std::vector<FilePtr> files_;  ///< the main file first
-  QHash<QString, std::shared_ptr<Prepared>> prepared_;
+  std::unordered_map<StatementKey, Prepared, StatementHash, SameStatement> prepared_;
   int aliases_ = 0;
   quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
   int keeping_ = 0;    ///< depth of keepingFiles

@@ -1,9 +1,12 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "store/jet/database.h"
 #include "store/jet/error.h"
+#include "store/jet/shape.h"
 #include "tests/fuzz/targets.h"
 
 using namespace Qt::StringLiterals;
@@ -73,6 +76,32 @@ class Books {
   jet::Workspace workspace_;
 };
 
+/** Where the literals begin and end, as the parser's tokens count them. */
+std::vector<qsizetype> literalsOfTokens(const QString& sql) {
+  std::vector<qsizetype> places;
+  jet::Lexer lexer(sql);
+  for (jet::Token token = lexer.next(); token.kind != jet::Token::Kind::End; token = lexer.next())
+    if (token.parameter > 0) places.insert(places.end(), {token.place, token.end});
+  return places;
+}
+
+/** The quick reading for the shape finds the same literals, or fails as well. */
+void compareReadings(const QByteArray& input, const QString& sql) {
+  std::optional<std::vector<qsizetype>> quick, whole;
+  try {
+    whole = literalsOfTokens(sql);
+  } catch (const jet::Error&) {
+  }
+  try {
+    quick.emplace();
+    for (const jet::Token& literal : jet::shapeOf(sql).literals)
+      quick->insert(quick->end(), {literal.place, literal.end});
+  } catch (const jet::Error&) {
+    quick.reset();
+  }
+  if (quick != whole) broken(input, u"the shape has other literals than the statement"_s);
+}
+
 }  // namespace
 
 QByteArrayList statementSeeds() {
@@ -94,6 +123,7 @@ void runStatement(const QByteArray& input) {
     left = 500;
   }
   const QString sql = QString::fromUtf8(input);
+  compareReadings(input, sql);
   const bool asks = sql.trimmed().startsWith(u"select"_s, Qt::CaseInsensitive);
   try {
     if (asks) {

@@ -52,11 +52,11 @@ TEST_F(DataAccess, ALockedTableIsToldInItsOwnWords) {
 
 TEST_F(DataAccess, GetValueGivesTheFirstFieldOrNull) {
   basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-  EXPECT_EQ(DAO_GetValue(prompts, basic, u"Name"_s, u"Client"_s, u"Where Code = 1"_s).toText(), u"a"_s);
-  EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Name"_s, u"Client"_s, u"Where Code = 2"_s).isNull());
-  EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Rate"_s, u"Client"_s, {}).isNull());
+  EXPECT_EQ(DAO_GetValue(prompts, basic, u"Name", u"Client", u"Where Code = 1").toText(), u"a"_s);
+  EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Name", u"Client", u"Where Code = 2").isNull());
+  EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Rate", u"Client", {}).isNull());
   prompts.expect(u"SELECT Nothing FROM Client "_s);
-  EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Nothing"_s, u"Client"_s, {}).isNull());
+  EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Nothing", u"Client", {}).isNull());
 }
 
 TEST_F(DataAccess, AddFieldRunsItsStatementOnceOnly) {
