@@ -10,6 +10,7 @@
 #include "store/jet/compile.h"
 #include "store/jet/connection.h"
 #include "store/jet/shape.h"
+#include "store/jet/sql.h"
 #include "tests/jet/sample_catalogue.h"
 
 namespace {
@@ -27,8 +28,8 @@ const int balances = bench::addPair(
        ours.run = [books, size] {
          books->session.wsMain.Together([&] {
            for (int at = 0; at < size; ++at)
-             books->session.dbYear.Execute("Update Client Set GasInit = GasInit + " + QString::number(at) +
-                                           " - 0" + " Where Code = " + QString::number(1 + at % 1000));
+             books->session.dbYear.Execute(jet::Sql() << u"Update Client Set GasInit = GasInit + " << at
+                                                      << u" - " << 0 << u" Where Code = " << 1 + at % 1000);
          });
        };
        sqlite3_stmt* update =

@@ -4,6 +4,7 @@
 #include "master/register_rules.h"
 #include "store/data_access.h"
 #include "store/jet/error.h"
+#include "store/jet/sql.h"
 #include "store/long_work.h"
 
 namespace {
@@ -23,27 +24,35 @@ QString buildingStatement(const Building& b) {
          typedNumber(b.unitPrice) + ", " + typedNumber(b.lateRate) + ")";
 }
 
+void putPlace(jet::Sql& sql, const Building& b) {
+  sql << int(b.houseStyle) << u", '" << b.name << u"', '" << b.dong << u"', '";
+}
+
 /** What head row and households share behind their place. */
-QString commonValues(const Session& session, const Building& b) {
-  return "', '" + b.postCode + "', '" + b.address + "', " + yesNo(b.metered) + ", '" + b.pressure + "', " +
-         typedNumber(b.unitPrice) + ", 2, '" + session.pc.clock.dateText() + "')";
+void putShared(jet::Sql& sql, const Session& session, const Building& b) {
+  sql << b.postCode << u"', '" << b.address << u"', " << yesNo(b.metered) << u", '" << b.pressure << u"', "
+      << typedNumber(b.unitPrice) << u", 2, '" << session.pc.clock.dateText() << u"')";
 }
 
-QString placeValues(const Building& b) {
-  return QString::number(int(b.houseStyle)) + ", '" + b.name + "', '" + b.dong;
+jet::Sql headStatement(const Session& session, const Building& b) {
+  jet::Sql sql;
+  sql << u"Insert Into Client(Name, HouseStyle, BDName, Dong, PostCode, Address, VolumeYesNo, "
+         u"Volume, VolumeUnit, PayWay, AppDate) Values('"
+      << b.name << u" " << b.dong << u"동', ";
+  putPlace(sql, b);
+  putShared(sql, session, b);
+  return sql;
 }
 
-QString headStatement(const Session& session, const Building& b) {
-  return "Insert Into Client(Name, HouseStyle, BDName, Dong, PostCode, Address, VolumeYesNo, "
-         "Volume, VolumeUnit, PayWay, AppDate) Values('" +
-         b.name + " " + b.dong + "동', " + placeValues(b) + commonValues(session, b);
-}
-
-QString householdStatement(const Session& session, const Building& b, const QString& unit) {
-  return "Insert Into Client(Name, HouseStyle, BDName, Dong, Ho, PostCode, Address, VolumeYesNo, "
-         "Volume, VolumeUnit, PayWay, AppDate) Values('" +
-         b.name + " " + b.dong + "동 " + unit + "호', " + placeValues(b) + "', '" + unit +
-         commonValues(session, b);
+jet::Sql householdStatement(const Session& session, const Building& b, const QString& unit) {
+  jet::Sql sql;
+  sql << u"Insert Into Client(Name, HouseStyle, BDName, Dong, Ho, PostCode, Address, VolumeYesNo, "
+         u"Volume, VolumeUnit, PayWay, AppDate) Values('"
+      << b.name << u" " << b.dong << u"동 " << unit << u"호', ";
+  putPlace(sql, b);
+  sql << unit << u"', '";
+  putShared(sql, session, b);
+  return sql;
 }
 
 QString ofBlock(const QString& name, const QString& dong) {

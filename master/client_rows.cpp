@@ -16,7 +16,7 @@ void addMeterRow(const Session& session, qint64 clientCode, int month) {
 
 }  // namespace
 
-qint64 addClient(const Session& session, const QString& insertStatement, bool metered) {
+qint64 addClient(const Session& session, QStringView insertStatement, bool metered) {
   qint64 code = 0;
   session.wsMain.Together([&] {
     session.dbBasic.Execute(insertStatement);

@@ -4,7 +4,7 @@
 #include "store/session.h"
 
 /** Runs the statement that makes a customer and reads the new code back; a metered one's meter rows come with it. */
-qint64 addClient(const Session& session, const QString& insertStatement, bool metered);
+qint64 addClient(const Session& session, QStringView insertStatement, bool metered);
 
 /** Those of the thirteen meter rows that are not there yet. */
 void completeMeterRows(const Session& session, qint64 clientCode);

@@ -2,15 +2,8 @@
 
 #include "store/data_access.h"
 #include "store/date_text.h"
+#include "store/jet/sql.h"
 #include "store/text_width.h"
-
-namespace {
-
-QString saleWholeText(qint64 figure) {
-  return QString::number(figure);
-}
-
-}  // namespace
 
 SalePosting::SalePosting(Session& session) : session_(session), date_(session.pc.clock.dateText().right(5)) {
   for (const SaleSheet sheet : {SaleSheet::General, SaleSheet::Volume, SaleSheet::Material})
@@ -74,31 +67,27 @@ void SalePosting::insertSkeleton(int row, SaleSheet sheet, const SaleLine& line)
 
 void SalePosting::moveBalance(SaleSheet sheet, const SaleLine& line, qint64 oldTrust, qint64 oldIncome) {
   const bool material = sheet == SaleSheet::Material;
-  const QString where = " Where Code = " + line.code;
-  if (isCollection(line.kind)) {
-    const QString figures =
-        saleWholeText(jet::Value(line.income).toLong()) + " + " + saleWholeText(oldIncome) + where;
-    session_.dbYear.Execute(
-        (material ? "Update Client Set UtilInit = UtilInit - " : "Update Client Set GasInit = GasInit - ") +
-        figures);
-  } else {
-    const QString figures =
-        saleWholeText(jet::Value(line.trust).toLong()) + " - " + saleWholeText(oldTrust) + where;
-    session_.dbYear.Execute(
-        (material ? "Update Client Set UtilInit = UtilInit + " : "Update Client Set GasInit = GasInit + ") +
-        figures);
-  }
+  jet::Sql sql;
+  if (isCollection(line.kind))
+    sql << (material ? u"Update Client Set UtilInit = UtilInit - "
+                     : u"Update Client Set GasInit = GasInit - ")
+        << jet::Value(line.income).toLong() << u" + " << oldIncome;
+  else
+    sql << (material ? u"Update Client Set UtilInit = UtilInit + "
+                     : u"Update Client Set GasInit = GasInit + ")
+        << jet::Value(line.trust).toLong() << u" - " << oldTrust;
+  session_.dbYear.Execute(sql << u" Where Code = " << line.code);
 }
 
 void SalePosting::updateLine(SaleSheet sheet, const SaleLine& line) {
-  session_.dbYear.Execute("Update Sale Set SaleDate = '" + line.date + "', ClientCode = " + line.code +
-                          ", Response = '" + line.person + "', " + "SaleName = '" + line.item.name +
-                          "', SaleThing = '" + line.item.size + "', SaleUnit = " + saleText(line.unit) +
-                          ", " + "SaleNum = " + saleWholeText(line.number) +
-                          ", SaleGubun = " + saleWholeText(line.kind) +
-                          (sheet == SaleSheet::Volume ? ", Gubun = True, " : ", Gubun = False, ") +
-                          "Income = " + saleText(line.income) + ", DC = " + saleText(line.discount) +
-                          ", Trust = " + saleText(line.trust) + " " + "Where SaleID = " + line.key);
+  session_.dbYear.Execute(
+      jet::Sql() << u"Update Sale Set SaleDate = '" << line.date << u"', ClientCode = " << line.code
+                 << u", Response = '" << line.person << u"', SaleName = '" << line.item.name
+                 << u"', SaleThing = '" << line.item.size << u"', SaleUnit = " << line.unit << u", SaleNum = "
+                 << line.number << u", SaleGubun = " << line.kind
+                 << (sheet == SaleSheet::Volume ? u", Gubun = True, " : u", Gubun = False, ") << u"Income = "
+                 << line.income << u", DC = " << line.discount << u", Trust = " << line.trust
+                 << u" Where SaleID = " << line.key);
 }
 
 void SalePosting::ApplySaleStock(int row, StockMode mode) {

@@ -278,8 +278,7 @@ void truncated(const Call& call) {
 
 void putLong(const Call& call) {
   if (call.isNull(0)) return call.give();
-  const double number = operand(call, 0);
-  const double whole = roundHalfEven(number);
+  const double whole = roundHalfEven(operand(call, 0));
   if (!(whole >= std::numeric_limits<qint32>::min() && whole <= std::numeric_limits<qint32>::max())) fail(6);
   call.give(qint64(whole));
 }
@@ -295,10 +294,18 @@ void putBool(const Call& call) {
 
 void putText(const Call& call) {
   if (call.isNull(0)) return call.give();
-  const QString text = call.text(0);
   const qint64 size = call.whole(1);
-  if (text.isEmpty() && call.whole(2) == 0) fail(3315);
-  if (size > 0 && text.size() > size) fail(3163);
+  const auto check = [&](qsizetype length) {
+    if (length == 0 && call.whole(2) == 0) fail(3315);
+    if (size > 0 && length > size) fail(3163);
+  };
+  // A text has at most as many characters as bytes: most need no counting.
+  if (call.isText(0) && (size == 0 || qint64(call.utf8(0).size()) <= size)) {
+    check(qsizetype(call.utf8(0).size()));
+    return call.giveSame(0);
+  }
+  const QString text = call.text(0);
+  check(text.size());
   call.give(text);
 }
 
