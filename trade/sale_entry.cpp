@@ -258,7 +258,8 @@ SaleStep SaleEntry::chooseClient(int row, const QString& text, bool wholeNumber)
   SaleSheet sheet = posting_.sheet();
   const QString code = QString::number(chosen->code);
   if (sheet == SaleSheet::General &&
-      DAO_GetValue(session.prompts, session.dbYear, u"VolumeYesNo", u"Client", "Where Code = " + code).toBool())
+      DAO_GetValue(session.prompts, session.dbYear, u"VolumeYesNo", u"Client", "Where Code = " + code)
+          .toBool())
     sheet = SaleSheet::Volume;
   posting_.setClient(chosen->code);
   if (!posting_.FillSaleGrid(sheet, false)) return {SaleStep::PutBack};

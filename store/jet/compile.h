@@ -65,7 +65,7 @@ struct Compiled {
     DropIndex
   };
   Kind kind = Kind::Select;
-  QByteArray sql;                     ///< SQLite text, one statement, ?1 ?2 ... for the text's literals in order
+  QByteArray sql;  ///< SQLite text, one statement, ?1 ?2 ... for the text's literals in order
   std::vector<ResultColumn> columns;  ///< Select
   /** Select with Keys::With: one more SQLite column behind `columns` for each of these, the rowid in that table of
    *  the row's part; empty when a row is no longer a table's row (groups, DISTINCT, UNION). */
