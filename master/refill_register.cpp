@@ -47,8 +47,7 @@ bool RefillRegister::nameAccepted(const QString& company, const QString& ownCode
 
 QString RefillRegister::nextCode() const {
   const qint64 last =
-      DAO_GetValue(session_.prompts, session_.dbBasic, u"Max(Code) As MCode", u"RefillState", {})
-          .toLong();
+      DAO_GetValue(session_.prompts, session_.dbBasic, u"Max(Code) As MCode", u"RefillState", {}).toLong();
   return u"%1"_s.arg(last + 1, 4, 10, QChar(u'0'));
 }
 
