@@ -18,7 +18,10 @@ void runIni(const QByteArray& input) {
 
   // Half of the input is also what is stored: any text must come back as it was.
   const QString text = QString::fromUtf8(input.right(input.size() / 2)).remove(QChar(0xFEFF));
-  const QString section = text.left(text.size() / 3), key = text.mid(text.size() / 3, text.size() / 3);
+  // Cut in three without leaving half a character, which no file can hold.
+  const auto whole = [](const QString& cut) { return QString::fromUtf8(cut.toUtf8()); };
+  const qsizetype third = text.size() / 3;
+  const QString section = whole(text.left(third)), key = whole(text.mid(third, third));
   pc::IniFile ini(path);
   const QStringList others = ini.keys(u"other"_s);
   QStringList values;
