@@ -26,10 +26,17 @@ LateRates::LateRates(Session& session, MeterBook book, bool buildingsToo)
   jet::Recordset rs;
   const QString sql = QStringLiteral(
       "SELECT Client.Code, delaypay "
-      "FROM apt INNER JOIN Client ON (Client.BDName = apt.Name and client.Dong = apt.Dong )"
-      " WHERE delaypay <> 0");
+      "FROM apt INNER JOIN Client ON (Client.BDName = apt.Name and client.Dong = apt.Dong )");
   if (!OpenSnapshot(session.prompts, session.dbBasic, rs, sql)) return;
-  for (; !rs.atEnd(); rs.MoveNext()) own_.insert(rs[0].toLong(), rs[1].toDouble());
+  for (; !rs.atEnd(); rs.MoveNext()) {
+    const qint64 code = rs[0].toLong();
+    if (!own_.contains(code)) own_.insert(code, rs[1].toDouble());
+  }
+}
+
+double LateRates::of(qint64 code) const {
+  const double own = own_.value(code);
+  return own != 0 ? own : ofBook_;
 }
 
 bool showsBlocks(const Session& session) {

@@ -19,11 +19,11 @@ class LateRates {
   /** buildingsToo: an apartment's building goes before the apartments' rate, as in lateRate. A failed query has been
    *  told and leaves the book's rate. */
   LateRates(Session& session, MeterBook book, bool buildingsToo);
-  double of(qint64 code) const { return own_.value(code, ofBook_); }
+  double of(qint64 code) const;
 
  private:
   double ofBook_;
-  QHash<qint64, double> own_;  ///< of the households whose building has a rate
+  QHash<qint64, double> own_;  ///< of each household the building's, of two entries of one block the first's
 };
 
 /** Whether the building list has one entry a block, "<building> <dong>". */

@@ -10,6 +10,7 @@ TEST(BuildingRate, TheBuildingsOwnRateGoesBeforeTheApartments) {
   const auto run = [&](const char* sql) { pc.session.dbBasic.Execute(QString::fromUtf8(sql)); };
   run("Insert Into APT(Name, Dong, delaypay) Values('한빛', '101', 3.5)");
   run("Insert Into APT(Name, Dong) Values('한빛', '102')");
+  run("Insert Into APT(Name, Dong, delaypay) Values('한빛', '102', 9)");  // a block's second entry counts nowhere
   run("Insert Into Client(Name, HouseStyle, BDName, Dong) Values('가', 1, '한빛', '101')");
   run("Insert Into Client(Name, HouseStyle, BDName, Dong) Values('나', 1, '한빛', '102')");
   run("Insert Into Client(Name, HouseStyle, BDName, Dong) Values('다', 1, '별빛', '101')");
