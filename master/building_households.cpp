@@ -1,5 +1,7 @@
 #include "master/building_households.h"
 
+#include <optional>
+
 #include "master/client_rows.h"
 #include "master/register_rules.h"
 #include "store/data_access.h"
@@ -87,31 +89,51 @@ void takeBack(const Session& session, const Building& b, qint64 lastCodeBefore) 
 
 void makeBuilding(const Session& session, const Building& building, const QStringList& units,
                   const std::function<bool(int done)>& tell) {
-  const qint64 lastCodeBefore =
-      session.dbBasic.OpenRecordset("Select Max(Code) As C From Client")["C"].toLong();
-  session.dbBasic.Execute(buildingStatement(building));
-  int made = 0;
-  try {
+  std::optional<qint64> lastCodeBefore;  // set when there is something to take back
+  const auto clear = [&] {
+    if (lastCodeBefore) takeBack(session, building, *lastCodeBefore);
+  };
+  // Step 0 makes the block and its head row, each further one a household.
+  const auto make = [&](int step) {
+    if (step > 0) {
+      addClient(session, householdStatement(session, building, units[step - 1]), building.metered);
+      return;
+    }
+    const qint64 last = session.dbBasic.OpenRecordset("Select Max(Code) As C From Client")["C"].toLong();
+    session.dbBasic.Execute(buildingStatement(building));
+    lastCodeBefore = last;
     addClient(session, headStatement(session, building), false);
-    run(session.wsMain, {.count = int(units.size()),
+  };
+  try {
+    run(session.wsMain, {.count = 1 + int(units.size()),
                          .step =
-                             [&](int at) {
-                               addClient(session, householdStatement(session, building, units[at]),
-                                         building.metered);
-                               ++made;
+                             [&](int step) {
+                               try {
+                                 make(step);
+                               } catch (const jet::Error&) {
+                                 // Within the group, so that no part of what it has made is ever stored.
+                                 try {
+                                   clear();
+                                 } catch (const jet::Error&) {
+                                 }
+                                 throw;
+                               }
                              },
                          .tell =
                              [&](int done) {
-                               if (tell) tell(done);
+                               if (tell) tell(done - 1);
                                return true;
-                             }});
+                             },
+                         .whole = units.size() <= wholeBuilding});
   } catch (const jet::Error& error) {
+    if (!lastCodeBefore) throw;
     QString end = "건물등록을 마치지 못하여 등록하던 자료를 모두 지웠습니다!";
     try {
-      takeBack(session, building, lastCodeBefore);
+      clear();  // the groups before, or all when the disk has undone what was done within the group
     } catch (const jet::Error&) {
-      end = QString::number(units.size()) + "세대 중 " + QString::number(made) +
-            "세대까지만 등록되었습니다!\n건물을 삭제한 후 다시 등록하십시오.";
+      end =
+          "건물등록을 마치지 못하였고 등록하던 자료를 모두 지우지도 못했습니다!\n"
+          "건물이 목록에 있으면 삭제한 후 다시 등록하십시오.";
     }
     session.prompts.MsgWarn(end, registerOfBuildings);
     throw error;

@@ -20,9 +20,13 @@ struct Building {
   QString lateRate;   ///< percent a month; 0: the company's own
 };
 
+/** A block of up to so many households is one group: a power cut leaves all of it or nothing. A bigger one lets other
+ *  PCs in on the way; a power cut then leaves it with the households made so far, and it can be deleted as any other. */
+constexpr int wholeBuilding = 1000;
+
 /** Makes the block, its head row without a unit number, and one household a unit with its thirteen meter rows. Told
- *  the steps done while it works; cannot be stopped. When it fails, what was made is taken back and the operator told
- *  so, or told what was left when even that fails; then the error goes on (jet::Error). */
+ *  the households done after each group; cannot be stopped. When it fails, what was made is taken back and the operator
+ *  told so, or that it could not be; then the error goes on (jet::Error). */
 void makeBuilding(const Session& session, const Building& building, const QStringList& units,
                   const std::function<bool(int done)>& tell);
 

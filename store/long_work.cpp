@@ -22,7 +22,7 @@ int run(const jet::Workspace& workspace, const LongWork& work) {
         QElapsedTimer since;
         since.start();
         do work.step(done++);
-        while (done < work.count && since.elapsed() < groupMilliseconds && !asks(done));
+        while (done < work.count && (work.whole || since.elapsed() < groupMilliseconds) && !asks(done));
       });
     }
     if (work.tell && !work.tell(done)) break;

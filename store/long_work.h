@@ -12,6 +12,9 @@ struct LongWork {
   std::function<bool(int)> asks = {};
   /** Told after each group, with the steps done; False stops the work there. */
   std::function<bool(int done)> tell = {};
+  /** All steps in one group: a power cut leaves all of them or none. For work that is over before a waiting PC gives
+   *  up; no step of it may ask. */
+  bool whole = false;
 };
 
 /** Steps done. An error of a step goes on to the caller; the steps before it stay. */

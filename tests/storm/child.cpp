@@ -78,6 +78,12 @@ Told Told::of(const QStringList& report) {
       told.lines.remove(number(1));
       told.gone << number(1);
       told.open.reset();
+    } else if (is(word::made)) {
+      told.blocks << int(number(1));
+      told.open.reset();
+    } else if (is(word::razed)) {
+      told.blocks.removeOne(int(number(1)));
+      told.open.reset();
     } else if (is(word::told)) {
       told.failures << int(number(1));
       told.failureTexts << words.mid(2).join(u' ');

@@ -38,7 +38,8 @@ struct Told {
   Lines lines;  ///< as told last
   Readings readings;
   QList<qint64> gone;          ///< told as deleted
-  std::optional<qint64> open;  ///< the step under way at the end: its line, 0 for a new one
+  QList<int> blocks;           ///< told as made and not as razed
+  std::optional<qint64> open;  ///< the step under way at the end: its line, 0 for a new one, or its block
   QList<int> failures;
   QStringList failureTexts;
   int steps = 0;

@@ -9,6 +9,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include "store/jet/error.h"
+#include "tests/storm/builder.h"
 #include "tests/storm/child.h"
 #include "tests/storm/pcs.h"
 #include "tests/storm/poster.h"
@@ -101,6 +103,42 @@ TEST(Disk, AFullDiskIsToldAndWhatWasPostedBeforeStays) {
   Child after({u"--pc"_s, u"post"_s, root, u"8"_s, u"20"_s});
   EXPECT_TRUE(after.finish(120000));
   EXPECT_TRUE(Told::of(after.lines()).failures.isEmpty()) << "with room again the work goes on";
+}
+
+/** Registers a block where there is no room for it; the failure was told in words. */
+void buildInVain(Pc& here, int block, int floors, int width) {
+  try {
+    Builder(here).make(block, floors, width);
+    ADD_FAILURE() << "there was room for block " << block;
+  } catch (const jet::Error& error) {
+    EXPECT_TRUE(error.number() == 3026 || error.number() == 3043) << error.number();
+    EXPECT_TRUE(isKorean(error.description())) << error.description().toStdString();
+  }
+}
+
+TEST(Disk, ABuildingThatDoesNotFitLeavesNothingAndIsMadeWhenThereIsRoom) {
+  SmallDisk disk;
+  if (geteuid() != 0) enterOwnMounts();
+  ASSERT_TRUE(disk.resize(64 << 20)) << "a small file system needs root or user name spaces";
+  const QString root = disk.folder.path();
+  Pc(root).makeBooks();
+  Pc here(root);
+  here.open();
+  Builder(here).make(1, 2, 3);
+  const BuildingRows before = buildingRows(here.session);
+  int block = 2, refused = 0;
+  for (const int kilobytes : {0, 16, 100, 300, 600}) {
+    ASSERT_TRUE(disk.resize(bytesBelow(root) + (kilobytes << 10)));
+    buildInVain(here, block++, 20, 50);
+    EXPECT_EQ(buildingRows(here.session), before) << kilobytes << " kB free";
+    EXPECT_EQ(Builder(here).list(), (QMap<int, int>{{1, 6}})) << kilobytes << " kB free";
+    ASSERT_TRUE(disk.resize(64 << 20));
+    EXPECT_EQ(faultsOf(root).join(u'\n').toStdString(), "");
+    ++refused;
+  }
+  Builder(here).make(block, 20, 50);
+  EXPECT_EQ(Builder(here).list(), (QMap<int, int>{{1, 6}, {block, 1000}}));
+  std::printf("full disk: %d buildings of 1,000 households refused, nothing left of any\n", refused);
 }
 
 TEST(Disk, AFileThatMayNotGrowIsTold) {

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include "tests/storm/builder.h"
 #include "tests/storm/child.h"
 #include "tests/storm/pcs.h"
 #include "tests/storm/poster.h"
@@ -21,11 +22,12 @@ struct Kill : testing::Test {
 
   void SetUp() override { Pc(folder.path()).makeBooks(); }
 
-  /** One child at work until it is killed; what it had told by then. The books are whole afterwards. */
-  Told killed(const QString& work, int round) {
-    Child child({u"--pc"_s, work, folder.path(), QString::number(round + 1), u"0"_s});
+  /** One child at work until it is killed, after so many milliseconds at most; what it had told by then. The books are
+   *  whole afterwards. */
+  Told killed(const QString& work, int round, const QStringList& more = {u"0"_s}, int latest = 200) {
+    Child child(QStringList{u"--pc"_s, work, folder.path(), QString::number(round + 1)} + more);
     EXPECT_TRUE(child.waitFor(QLatin1String(word::ready), 30000));
-    QThread::usleep(random.bounded(200000));
+    QThread::usleep(random.bounded(latest * 1000));
     child.kill();
     const Told told = Told::of(child.lines());
     EXPECT_EQ(told.failureTexts.join(u'\n').toStdString(), "");
@@ -79,6 +81,62 @@ TEST_F(Kill, EveryToldReadingIsThereWithItsCarry) {
               rounds, caught, told);
   EXPECT_GT(caught, 0);
   EXPECT_GT(told, rounds);
+}
+
+TEST_F(Kill, ABuildingIsThereWithAllItsHouseholdsOrNotAtAll) {
+  const int rounds = measure(8, 300), floors = 10, width = 6, units = floors * width;
+  int stood = 0;
+  for (int round = 0; round < rounds && !HasFailure(); ++round) {
+    const Told told = killed(u"build"_s, round, {QString::number(floors), QString::number(width)});
+    Pc here(folder.path());
+    here.open();
+    Builder builder(here);
+    const QList<int> stored = builder.list().keys();
+    for (const int block : told.blocks)
+      EXPECT_TRUE(stored.contains(block) || told.open == block) << "round " << round;
+    for (const int block : stored)
+      EXPECT_TRUE(told.blocks.contains(block) || told.open == block) << "round " << round;
+    const int blocks = int(stored.size());
+    EXPECT_EQ(buildingRows(here.session), (BuildingRows{blocks, blocks * units, blocks * units * 13}))
+        << "round " << round;
+    for (const int block : stored) EXPECT_TRUE(builder.remove(block));
+    EXPECT_EQ(buildingRows(here.session), BuildingRows());
+    stood += blocks;
+  }
+  std::printf("buildings: killed %d times, %d of them while one was made or deleted; %d stood, all whole\n",
+              rounds, caught, stood);
+  EXPECT_GT(caught, 0);
+}
+
+TEST_F(Kill, APartOfAVeryBigBuildingShowsInTheListAndCanBeDeleted) {
+  const int rounds = measure(3, 60), floors = 50, width = 50, units = floors * width;
+  int parts = 0;
+  for (int round = 0; round < rounds && !HasFailure(); ++round) {
+    killed(u"build"_s, round, {QString::number(floors), QString::number(width), u"stay"_s}, 500);
+    Pc here(folder.path());
+    here.open();
+    Builder builder(here);
+    const QMap<int, int> shown = builder.list();
+    int households = 0;
+    for (const int count : shown) {
+      households += count;
+      parts += count < units;
+    }
+    EXPECT_EQ(buildingRows(here.session), (BuildingRows{int(shown.size()), households, households * 13}))
+        << "round " << round;
+    for (const int block : shown.keys()) {
+      EXPECT_TRUE(builder.remove(block));
+      EXPECT_FALSE(builder.list().contains(block));
+    }
+    EXPECT_EQ(buildingRows(here.session), BuildingRows()) << "nothing is left of it";
+  }
+  Pc here(folder.path());
+  here.open();
+  Builder builder(here);
+  builder.make(7, floors, width);
+  EXPECT_EQ(builder.list().value(7), units);
+  std::printf("buildings of %d households: killed %d times, a part was left %d times\n", units, rounds,
+              parts);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 
 #include "store/data_files.h"
 #include "store/jet/error.h"
+#include "tests/storm/builder.h"
 #include "tests/storm/child.h"
 #include "tests/storm/pcs.h"
 #include "tests/storm/poster.h"
@@ -22,7 +23,8 @@ struct ManyPcs : testing::Test {
   QTemporaryDir folder;
   void SetUp() override { Pc(folder.path()).makeBooks(); }
 
-  void postTogether(int pcs, int steps) {
+  /** beside: what else goes on in the folder, for the report. */
+  void postTogether(int pcs, int steps, const char* beside = "") {
     std::vector<std::unique_ptr<Child>> children;
     for (int pc = 0; pc < pcs; ++pc)
       children.push_back(std::make_unique<Child>(QStringList{
@@ -49,8 +51,17 @@ struct ManyPcs : testing::Test {
     here.open();
     EXPECT_EQ(differences(storedLines(here.session), told, gone, {}).join(u'\n').toStdString(), "");
     EXPECT_LT(longest, 4000) << "milliseconds; a step waits no longer than the time limit";
-    std::printf("%d PCs: %d steps, %d lines in the book, the longest step %d ms\n", pcs, done,
+    std::printf("%d PCs%s: %d steps, %d lines in the book, the longest step %d ms\n", pcs, beside, done,
                 int(told.size()), int(longest));
+  }
+
+  /** Ends a process that works until it is told to stop; the steps it has done. */
+  int stop(Child& other) {
+    EXPECT_TRUE(QFile(folder.filePath(u"stop"_s)).open(QIODevice::WriteOnly));
+    EXPECT_TRUE(other.finish(60000));
+    const Told told = Told::of(other.lines());
+    EXPECT_EQ(told.failureTexts.join(u'\n').toStdString(), "");
+    return told.steps;
   }
 };
 
@@ -63,26 +74,37 @@ TEST_F(ManyPcs, FourLoseNothing) {
 }
 
 TEST_F(ManyPcs, AProgramThatIsStartedAgainAndAgainDisturbsNobody) {
-  const int times = measure(6, 60);
-  Child starter({u"--pc"_s, u"start"_s, folder.path(), QString::number(times)});
-  postTogether(2, measure(40, 1000));
-  EXPECT_TRUE(starter.finish(600000));
-  EXPECT_EQ(starter.lines().join(u'\n').toStdString(), "");
+  Child starter({u"--pc"_s, u"start"_s, folder.path()});
+  ASSERT_TRUE(starter.waitFor(QLatin1String(word::ready), 30000));
+  postTogether(2, measure(40, 4000), " beside a program that is started again and again");
+  const int starts = stop(starter);
+  EXPECT_GT(starts, 1);
+  std::printf("the program was started %d times\n", starts);
 }
 
 TEST_F(ManyPcs, LongWorkLetsTheOthersIn) {
   Child worker({u"--pc"_s, u"work-long"_s, folder.path()});
   ASSERT_TRUE(worker.waitFor(QLatin1String(word::ready), 30000));
-  postTogether(2, measure(20, 400));
-  ASSERT_TRUE(QFile(folder.filePath(u"stop"_s)).open(QIODevice::WriteOnly));
-  EXPECT_TRUE(worker.finish(60000));
-  const Told told = Told::of(worker.lines());
-  EXPECT_GT(told.steps, 100) << "and the long work went on too";
+  postTogether(2, measure(20, 1000), " beside long work");
+  const int steps = stop(worker);
+  EXPECT_GT(steps, 100) << "and the long work went on too";
+  std::printf("the long work did %d steps\n", steps);
   Pc here(folder.path());
   here.open();
   EXPECT_EQ(
       here.session.dbYear.OpenRecordset(u"Select Sum(UseMuch) From Evaporation Where Mon = 9"_s)[0].toLong(),
-      told.steps);
+      steps);
+}
+
+TEST_F(ManyPcs, TheGreatestWholeBuildingLetsTheOthersIn) {
+  Child builder({u"--pc"_s, u"build"_s, folder.path(), u"1"_s, u"20"_s, QString::number(wholeBuilding / 20),
+                 u"pause"_s});
+  ASSERT_TRUE(builder.waitFor(QLatin1String(word::ready), 30000));
+  postTogether(2, measure(20, 2000), " beside buildings of 1,000 households");
+  EXPECT_TRUE(builder.waitForAnother(QLatin1String(word::razed), 60000)) << "and the building went on too";
+  builder.kill();
+  std::printf("%d buildings were made and deleted\n",
+              int(builder.lines().filter(QLatin1String(word::razed)).size()));
 }
 
 TEST_F(ManyPcs, AHeldLockIsToldAndTheWorkGoesOnAfterwards) {

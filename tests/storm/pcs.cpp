@@ -10,12 +10,21 @@
 #include "app/start_up.h"
 #include "store/long_work.h"
 #include "tests/storm/books.h"
+#include "tests/storm/builder.h"
 #include "tests/storm/poster.h"
 
 using namespace Qt::StringLiterals;
 
 namespace storm {
 namespace {
+
+bool toldToStop(const QString& root) {
+  return QFile::exists(root + u"/stop"_s);
+}
+
+void tellDone(int steps) {
+  report(u"%1 %2 0"_s.arg(QLatin1String(word::done)).arg(steps));
+}
 
 /** ROOT MILLISECONDS: one group that writes to both files and is held open so long. */
 int holdLock(const QStringList& arguments) {
@@ -43,17 +52,18 @@ int workLong(const QStringList& arguments) {
     session.dbYear.Execute(u"Update Evaporation Set UseMuch = UseMuch + 1 Where Mon = 9 And ClientCode = "_s +
                            code);
   };
-  const QString stop = arguments.at(0) + u"/stop"_s;
   const int done =
       run(session.wsMain,
-          {.count = 100'000'000, .step = step, .tell = [&](int) { return !QFile::exists(stop); }});
-  report(u"%1 %2 0"_s.arg(QLatin1String(word::done)).arg(done));
+          {.count = 100'000'000, .step = step, .tell = [&](int) { return !toldToStop(arguments.at(0)); }});
+  tellDone(done);
   return 0;
 }
 
-/** ROOT TIMES: a program that is started and ended so often while others work. */
+/** ROOT: a program that is started and ended again and again until there is a file "stop"; tells its starts. */
 int startOver(const QStringList& arguments) {
-  for (int time = 0; time < arguments.at(1).toInt(); ++time) {
+  int starts = 0;
+  for (; !toldToStop(arguments.at(0)); ++starts) {
+    if (starts == 1) report(QLatin1String(word::ready));
     Pc here(arguments.at(0));
     StartUp startUp(here.session);
     const bool started = startUp.SubMain([&] { startUp.load(); });
@@ -64,6 +74,7 @@ int startOver(const QStringList& arguments) {
     if (!started) return 4;
     startUp.shutDown();
   }
+  tellDone(starts);
   return 0;
 }
 
@@ -89,6 +100,7 @@ int runPc(const QStringList& arguments) {
   const QString work = arguments.value(0);
   if (work == u"post") return runPoster(arguments.mid(1));
   if (work == u"read") return runReader(arguments.mid(1));
+  if (work == u"build") return runBuilder(arguments.mid(1));
   if (work == u"hold") return holdLock(arguments.mid(1));
   if (work == u"work-long") return workLong(arguments.mid(1));
   if (work == u"start") return startOver(arguments.mid(1));

@@ -11,6 +11,7 @@ namespace storm {
  *    line KEY CLIENT KIND PIECES INCOME CREDIT   it is written so
  *    read CODE METER BILL                       a customer's month is written so
  *    gone KEY                                   it is deleted
+ *    made BLOCK, razed BLOCK                    a block stands with all its households, or is deleted with them
  *    told NUMBER TEXT                           a statement failed with this error
  *    done STEPS LONGEST                         steps done, the longest in milliseconds
  */
@@ -20,6 +21,8 @@ inline const char* const at = "at";
 inline const char* const line = "line";
 inline const char* const read = "read";
 inline const char* const gone = "gone";
+inline const char* const made = "made";
+inline const char* const razed = "razed";
 inline const char* const told = "told";
 inline const char* const done = "done";
 }  // namespace word
