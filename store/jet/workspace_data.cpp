@@ -38,13 +38,18 @@ QString aboutOf(const Prepared& prepared) {
 size_t StatementHash::operator()(const StatementKeyView& key) const {
   constexpr quint64 spread = 0x9E3779B97F4A7C15;
   const char16_t* text = key.shape.utf16();
+  const char16_t* const end = text + key.shape.size();
   quint64 hash = quint64(key.shape.size()) + 1;
-  for (qsizetype left = key.shape.size(); left > 0; left -= 4, text += 4) {
-    quint64 word = 0;
-    memcpy(&word, text, size_t(std::min<qsizetype>(left, 4)) * sizeof *text);
+  const auto add = [&](quint64 word) {
     hash = (hash ^ word) * spread;
     hash ^= hash >> 32;
+  };
+  for (; end - text >= 4; text += 4) {
+    quint64 word;
+    memcpy(&word, text, sizeof word);
+    add(word);
   }
+  for (; text != end; ++text) add(*text);
   return hash;
 }
 
