@@ -111,7 +111,7 @@ void postByTheRules(SalePosting& posting, int client) {
 
 const int deliveries = bench::addPair({"posting sale lines by the rules, every step flushed",
                                        1.2,
-                                       {10, 100, 1000},
+                                       {100, 1000, 10000},
                                        [](int size, bench::Side& ours, bench::Side& plain) {
                                          auto books = std::make_shared<bench::Books>();
                                          books->addClients(customers);
