@@ -245,6 +245,8 @@ void DataFile::createTable(Connection& connection, const TableDef& table) {
       columns += columnText(field, field.required, inPrimaryKey(table, field.name));
     }
     if (columns.isEmpty()) fail(3264, table.name);
+    if (std::ranges::count_if(table.fields, &Field::autonumber) > 1) fail(3219, table.name);
+    if (std::ranges::count_if(table.indexes, &Index::primary) > 1) fail(3283, table.name);
     connection.exec("CREATE TABLE " + schemaName(table.name) + '(' + columns + ") STRICT");
     writeFields(connection, table);
     for (const Index& index : table.indexes) writeIndex(connection, table, index);
@@ -306,6 +308,7 @@ void DataFile::createIndex(Connection& connection, const QString& name, const In
   checkName(index.name);
   for (const Index& other : table.indexes)
     if (other.name.compare(index.name, Qt::CaseInsensitive) == 0) fail(3284, index.name);
+  if (index.primary && std::ranges::any_of(table.indexes, &Index::primary)) fail(3283, table.name);
   Savepoint step(connection);
   writeIndex(connection, table, index);
   bumpVersion(connection);

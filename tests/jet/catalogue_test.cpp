@@ -64,6 +64,10 @@ TEST_F(CatalogueOnDisk, BadDefinitionsLeaveNothingBehind) {
   EXPECT_EQ(making(table(u"T"_s, {text(u"x"_s), text(u"X"_s)})), 3191);
   EXPECT_EQ(making(table(u"a.b"_s, {text(u"x"_s)})), 3125);
   EXPECT_EQ(making(table(u"T"_s, {text(u"x"_s)}, {{u"i"_s, {u"y"_s}, false, false}})), 3409);
+  const auto running = [&](const QString& sql) { return failureOf([&] { basic.Execute(sql); }); };
+  EXPECT_EQ(running(u"Create Table T (x Counter, y Counter)"_s), 3219);
+  EXPECT_EQ(running(u"Create Table T (x Long Primary Key, y Long Primary Key)"_s), 3283);
+  EXPECT_EQ(running(u"Create Index K On Client (Name) With Primary"_s), 3283);
   EXPECT_FALSE(basic.hasTable(u"T"_s));
   basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
   basic.Execute(u"Insert Into Client(Name) Values('A')"_s);
