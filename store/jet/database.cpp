@@ -4,6 +4,7 @@
 
 #include "store/jet/error_texts.h"
 #include "store/jet/recordset_data.h"
+#include "store/jet/shape.h"
 #include "store/jet/workspace_data.h"
 
 using namespace Qt::StringLiterals;

@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 #include <algorithm>
-#include <cstring>
 
 #include "store/jet/error_texts.h"
 #include "store/jet/handle_catalogue.h"
@@ -15,7 +14,6 @@ namespace jet {
 namespace {
 
 constexpr size_t kAttachedAtMost = 11;  // the main file and SQLite's ten
-constexpr size_t kPreparedAtMost = 300;
 const char* const kMainAlias = "main";
 
 /** One path for one file, however it was written. */
@@ -33,25 +31,6 @@ QString aboutOf(const Prepared& prepared) {
 }
 
 }  // namespace
-
-// Eight bytes at a time: a statement is short, and finding it must cost less than running it.
-size_t StatementHash::operator()(const StatementKeyView& key) const {
-  constexpr quint64 spread = 0x9E3779B97F4A7C15;
-  const char16_t* text = key.shape.utf16();
-  const char16_t* const end = text + key.shape.size();
-  quint64 hash = quint64(key.shape.size()) + 1;
-  const auto add = [&](quint64 word) {
-    hash = (hash ^ word) * spread;
-    hash ^= hash >> 32;
-  };
-  for (; end - text >= 4; text += 4) {
-    quint64 word;
-    memcpy(&word, text, sizeof word);
-    add(word);
-  }
-  for (; text != end; ++text) add(*text);
-  return hash;
-}
 
 // ---- files
 
@@ -212,10 +191,7 @@ void WorkspaceData::makeRoom() {
 }
 
 void WorkspaceData::letGo(FilePtr file) {
-  std::erase_if(prepared_, [&](const auto& entry) {
-    const auto& files = entry.second.files;
-    return std::find(files.begin(), files.end(), file) != files.end();
-  });
+  prepared_.forget(file);
   connection_->detach(file->alias());
   file->attached = false;
   std::erase(files_, file);
@@ -291,18 +267,9 @@ void WorkspaceData::unlock(DataFile& file) {
 
 Prepared& WorkspaceData::prepare(const FilePtr& file, QStringView shape, QStringView sql, Keys keys) {
   ensureAttached(file);
-  const auto known =
-      file->outdated ? prepared_.end() : prepared_.find(StatementKeyView{file->alias(), keys, shape});
-  if (known != prepared_.end()) {
-    known->second.lastUse = ++clock_;
-    return known->second;
-  }
-  Prepared made = compiled(file, sql, keys);
-  if (prepared_.size() >= kPreparedAtMost)
-    prepared_.erase(
-        std::ranges::min_element(prepared_, {}, [](const auto& entry) { return entry.second.lastUse; }));
-  return prepared_.insert_or_assign(StatementKey{file->alias(), keys, shape.toString()}, std::move(made))
-      .first->second;
+  const StatementCache::Key key{file->alias(), keys, shape};
+  if (Prepared* const known = file->outdated ? nullptr : prepared_.find(key)) return *known;
+  return prepared_.keep(key, compiled(file, sql, keys));
 }
 
 Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys) {
@@ -315,7 +282,6 @@ Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys
   made.files = catalogue.takeFiles();
   made.about = aboutOf(made);
   if (!made.compiled.sql.isEmpty()) made.statement = SqliteStatement(*connection_, made.compiled.sql, true);
-  made.lastUse = ++clock_;
   return made;
 }
 

@@ -3,53 +3,12 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
-#include "store/jet/compile.h"
-#include "store/jet/connection.h"
-#include "store/jet/data_file.h"
 #include "store/jet/database.h"
-#include "store/jet/shape.h"
+#include "store/jet/statement_cache.h"
 
 namespace jet {
-
-using FilePtr = std::shared_ptr<DataFile>;
-
-/** A compiled and prepared statement with the files it touches. */
-struct Prepared {
-  Compiled compiled;
-  SqliteStatement statement;
-  std::vector<FilePtr> files;
-  /** Of a query: what its recordsets share. */
-  std::shared_ptr<const std::vector<ResultColumn>> columns;
-  QString about;  ///< the table's name, for a failure's text
-  quint64 lastUse = 0;
-};
-
-/** What a prepared statement is found by: the handle's file, whether row keys are read, the statement's shape. */
-struct StatementKeyView {
-  const QByteArray& alias;
-  Keys keys;
-  QStringView shape;
-};
-struct StatementKey {
-  QByteArray alias;
-  Keys keys;
-  QString shape;
-  operator StatementKeyView() const { return {alias, keys, shape}; }
-};
-/** By the shape alone: few statements are asked of two files. */
-struct StatementHash {
-  using is_transparent = void;
-  size_t operator()(const StatementKeyView& key) const;
-};
-struct SameStatement {
-  using is_transparent = void;
-  bool operator()(const StatementKeyView& a, const StatementKeyView& b) const {
-    return a.keys == b.keys && a.shape == b.shape && a.alias == b.alias;
-  }
-};
 
 /** The connection's main file is Options.mainFile where that exists, else the first file opened; every other file is
  *  attached under an alias that is never used twice. SQLite can neither attach nor detach within a transaction: a
@@ -106,7 +65,7 @@ class WorkspaceData {
   Workspace::Options options_;
   std::unique_ptr<Connection> connection_;
   std::vector<FilePtr> files_;  ///< the main file first
-  std::unordered_map<StatementKey, Prepared, StatementHash, SameStatement> prepared_;
+  StatementCache prepared_;
   int aliases_ = 0;
   quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
   int keeping_ = 0;    ///< depth of keepingFiles
