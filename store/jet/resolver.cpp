@@ -167,11 +167,13 @@ void Resolver::resolveSelect(Select& select, const Scope* outer) {
   output.aggregates = true;
   output.aggregated = &aggregated;
   for (SelectItem& item : select.items) resolveExpr(item.expr, output);
+  const bool groups = aggregated || !select.groupBy.empty();
   if (select.having) resolveExpr(*select.having, output);
   resolveColumns(select, scope);
   resolveUnions(select, outer);
   resolveOrder(select, output);
-  select.grouped = aggregated || !select.groupBy.empty() || select.having;
+  if (!groups && (select.having || aggregated)) fail(3122, select.having ? u"HAVING"_s : u"ORDER BY"_s);
+  select.grouped = groups;
   if (select.grouped) checkGrouped(select);
 }
 
