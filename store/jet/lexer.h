@@ -24,9 +24,6 @@ struct Token {
     return kind == Kind::Name && text.size() == word.size() && !bracketed &&
            text.compare(word, Qt::CaseInsensitive) == 0;
   }
-  bool isSymbol(char16_t symbol) const {
-    return kind == Kind::Symbol && text.size() == 1 && text.front() == symbol;
-  }
   /** A literal's value; a date reads as the text yyyy-MM-dd. */
   Value value() const;
   /** A text that stands as it is, a whole number that fits: most literals are, and need no Value. */
