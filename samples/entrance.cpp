@@ -1,7 +1,5 @@
 #include "samples/entrance.h"
 
-#include <stdexcept>
-
 #include "samples/sample_books.h"
 
 namespace samples {
@@ -17,11 +15,12 @@ void signIn(Stage& stage, const QString& pictureName) {
 }
 
 void leave(Stage& stage) {
+  stage.awaitWindow(QStringLiteral("LP가스 판매관리"));
   stage.keys({"alt+F4"});
   stage.awaitWindow(QStringLiteral("프로그램 종료"));
   stage.keys({"Return"});
   if (const int status = stage.awaitEnd(); status != 0)
-    throw std::runtime_error("the program ended with status " + std::to_string(status));
+    stage.stop(QStringLiteral("the program ended with status ") + QString::number(status));
 }
 
 }  // namespace samples

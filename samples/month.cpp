@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <memory>
-#include <stdexcept>
 
 #include "pc/paths.h"
 #include "samples/entrance.h"
@@ -35,24 +34,15 @@ class Month {
     {
       Stage stage(options_(QString::fromLatin1(readingClock)));
       stage_ = &stage;
-      guarded([this] { readAndPrint(); });
+      readAndPrint();
     }
     Stage stage(options_(QString::fromLatin1(collectingClock)));
     stage_ = &stage;
-    guarded([this] { collect(); });
+    collect();
     return report_;
   }
 
  private:
-  void guarded(const std::function<void()>& work) {
-    try {
-      work();
-    } catch (const std::runtime_error&) {
-      stage_->picture(QStringLiteral("month-stopped-here"));
-      throw;
-    }
-  }
-
   // ---- March
 
   void readAndPrint() {
@@ -140,9 +130,8 @@ class Month {
     stage_->picture(QStringLiteral("month-4-slips"));
     // From the due date over month, period and default to the options, and to the last of them.
     stage_->keys({"Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Down", "Down", "Down", "alt+p"});
-    const QString pdf = options_(QString()).pdf;
+    stage_->awaitFile(options_(QString()).pdf);
     stage_->awaitWindow(QStringLiteral("OCR-A4"));
-    if (!QFile::exists(pdf)) throw std::runtime_error("no slips at " + pdf.toStdString());
     stage_->keys({"alt+x"});
     tell_(QStringLiteral("30 slips were printed on 15 sheets"));
   }
@@ -165,7 +154,7 @@ class Month {
     const pc::Paths paths(options_(QString()).pcRoot);
     QFile file(paths.native(paths.programFolder() + QStringLiteral("\\202603.txt")));
     if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size())
-      throw std::runtime_error("the bank's file cannot be written");
+      stage_->stop(QStringLiteral("the bank's file cannot be written"));
   }
 
   void collect() {

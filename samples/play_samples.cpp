@@ -26,13 +26,7 @@ QString column(const QString& text, int width) {
 
 void playDay(const samples::Stage::Options& options) {
   samples::Stage stage(options);
-  samples::DayReport report;
-  try {
-    report = samples::playDay(stage, tell);
-  } catch (const std::runtime_error&) {
-    stage.picture(QStringLiteral("day-stopped-here"));
-    throw;
-  }
+  const samples::DayReport report = samples::playDay(stage, tell);
   const auto row = [](const char* what, qint64 before, qint64 after) {
     out() << QString::fromUtf8(what).leftJustified(34) << column(QString::number(before), 12)
           << column(QString::number(after), 12) << '\n';

@@ -4,11 +4,15 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStringList>
+#include <functional>
 #include <memory>
 
 namespace samples {
 
-/** Throws std::runtime_error with what was awaited when something does not come in time. */
+class Display;
+
+/** When something does not come in time it throws std::runtime_error with what was awaited and what was on the screen,
+ *  and leaves a picture "stopped-here.png". */
 class Stage {
  public:
   struct Options {
@@ -28,29 +32,36 @@ class Stage {
   /** Waits until the program has ended by itself; its exit status. */
   int awaitEnd();
 
-  /** Keys by their names ("Return", "Down", "alt+l") to the window in front; after each the program comes to rest. */
+  /** Keys by their names ("Return", "Down", "alt+l") to the window in front, each when the one before is done with. */
   void keys(const QStringList& names);
   void type(const QString& digitsAndLetters);
   /** Waits until the window in front has a title with this part. */
   void awaitWindow(const QString& part);
-  QString windowInFront() const;
-  /** What the unit sends over the line. */
+  /** What the unit sends over the line; the program has read it when this returns. */
   void callerUnitSends(const QByteArray& bytes);
 
   /** Rows of a statement, tab-separated lines. file: name in the data folder. */
   QStringList query(const QString& file, const QString& statement) const;
   /** Waits until the statement's first line is this. */
   void awaitRow(const QString& file, const QString& statement, const QString& line);
+  /** Waits until there is a file of this name; the program names a file when it is whole. */
+  void awaitFile(const QString& path);
   void picture(const QString& name);
+  /** Ends the play: what is wrong, what was on the screen, a picture. */
+  [[noreturn]] void stop(const QString& wrong) const;
 
  private:
-  /** Waits until the program has used no time for a little while. */
-  void awaitRest() const;
+  void await(const QString& what, const std::function<bool()>& come) const;
+  /** Waits until the program has done what it was sent, or stands in a box that it opened for it. */
+  void awaitHandled();
+  QString takePicture(const QString& name) const;
   QString run(const QString& program, const QStringList& arguments) const;
 
   Options options_;
   QProcessEnvironment environment_;
   std::unique_ptr<QProcess> display_, manager_, program_;
+  std::unique_ptr<Display> screen_;
+  quint32 lastToken_ = 0;
   int unit_ = -1, unitFarEnd_ = -1;  // the pseudo-terminal's two ends
 };
 
