@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -32,27 +34,48 @@
 
 namespace {
 
+/** While it lives, work is given every modal window that comes up, once each; also one that comes up within work. */
+class WhenModal {
+ public:
+  explicit WhenModal(std::function<void(QWidget&)> work) : work_(std::move(work)) { watch(); }
+
+ private:
+  void watch() {
+    QTimer::singleShot(0, &alive_, [this] {
+      watch();
+      QWidget* const box = QApplication::activeModalWidget();
+      if (!box || seen_.contains(box)) return;
+      seen_ << box;
+      work_(*box);
+    });
+  }
+
+  std::function<void(QWidget&)> work_;
+  QList<QPointer<QWidget>> seen_;
+  QObject alive_;
+};
+
 class Photographer {
  public:
   explicit Photographer(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
 
   void take(QWidget& of, const QString& name) {
     of.show();
-    QTest::qWait(150);
+    if (of.isWindow()) (void)QTest::qWaitForWindowExposed(&of);
+    QCoreApplication::
+        processEvents();  // what the form left for the next round: the first focus, a list's height
     const QString file = folder_ + u'/' + name + ".png";
     if (!of.grab().save(file)) QTextStream(stderr) << "cannot write " << file << '\n';
   }
 
   /** A modal form: taken when it stands, then left. */
   void takeModal(const QString& name, const std::function<void()>& open) {
-    QTimer::singleShot(300, [this, name] {
-      QWidget* box = QApplication::activeModalWidget();
-      if (!box) return;
-      take(*box, name);
-      if (auto* dialog = qobject_cast<QDialog*>(box))
+    const WhenModal then([this, name](QWidget& box) {
+      take(box, name);
+      if (auto* dialog = qobject_cast<QDialog*>(&box))
         dialog->reject();
       else
-        box->close();
+        box.close();
     });
     open();
   }
@@ -63,16 +86,20 @@ class Photographer {
   QString folder_;
 };
 
+/** Closes the form in front; a closed form leaves in the next round, and a further one of its name may not be found. */
+void closeForm(const frmMain& window) {
+  if (QMdiSubWindow* const front = window.findChild<QMdiArea*>()->currentSubWindow()) front->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 void mainWindowForms(frmMain& window, Session& session, Photographer& photographer) {
   window.resize(1280, 860);
   photographer.take(window, "frmMain");
   session.SaleDay = session.pc.clock.dateText();  // the day whose figures F5 shows
   for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
                            "frmHouseStyle", "frmEva", "FrmSukum", "frmSale", "frmTodaySale"}) {
-    if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow(); before && name[3] != 'T')
-      before->close();
+    if (name[3] != 'T') closeForm(window);
     window.openForm(QString::fromLatin1(name));
-    QTest::qWait(100);
     if (auto* form = window.findChild<QWidget*>(QString::fromLatin1(name))) photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");
@@ -80,7 +107,7 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
 
 /** The month before of one block, and its slips on paper: slips.pdf in the folder. */
 void meterBook(frmMain& window, Session& session, Photographer& photographer) {
-  if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow()) before->close();
+  closeForm(window);
   if (!window.run("MnuAPTCheck")) return;
   auto* form = window.findChild<QWidget*>("frmEva");
   auto* const months = form->findChild<QComboBox*>("CboMon");
@@ -90,9 +117,15 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
   photographer.take(*form, "frmEva");
   session.pc.settings.SaveSetting(session.AppTitle, "프린터설정", "DEVICENAME", pdfPrinterName());
   qputenv("HAEON_PDF", photographer.file("slips.pdf").toUtf8());
-  QTimer::singleShot(300, [&] {
-    auto* const slips = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (!slips) return;
+  const WhenModal then([&](QWidget& box) {
+    auto* const slips = qobject_cast<QDialog*>(&box);
+    if (slips->objectName() != "frmPrtJiroOCR") {
+      if (auto* const told = qobject_cast<QMessageBox*>(slips)) {
+        QTextStream(stderr) << told->text() << '\n';
+        told->reject();
+      }
+      return;
+    }
     slips->findChild<QRadioButton*>("Opt4")->click();
     photographer.take(*slips, "frmPrtJiroOCR");
     slips->findChild<QPushButton*>("BtnJiro")->click();
@@ -103,7 +136,7 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
 
 /** The meter book's totals of the month before, and their paper. */
 void totals(frmMain& window, ReportViewer& reports, Photographer& photographer) {
-  if (QMdiSubWindow* before = window.findChild<QMdiArea*>()->currentSubWindow()) before->close();
+  closeForm(window);
   if (!window.run("MnuAPTTotal")) return;
   auto* form = window.findChild<QWidget*>("frmEvaTotal");
   for (const char* end : {"CboMonFrom", "CboMonTo"}) {
@@ -137,23 +170,16 @@ void small(frmMain& window, Session& session, Photographer& photographer) {
   for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtChange", "FrmSetPrinter",
                            "FrmMargin", "FrmPrintSection"}) {
     // A dialog runs inside openForm; a child is taken from the main window. The profile asks for the password first.
-    QTimer::singleShot(300, [&, name] {
-      while (QWidget* box = QApplication::activeModalWidget()) {
-        if (box->objectName() == "frmSecurity") {
-          QTest::keyClicks(box->focusWidget() ? box->focusWidget() : box,
-                           QString::fromLatin1(samples::password));
-          QTest::keyClick(box->focusWidget() ? box->focusWidget() : box, Qt::Key_Return);
-          QTest::qWait(200);
-          if (QApplication::activeModalWidget() == box) static_cast<QDialog*>(box)->reject();
-          continue;
-        }
-        photographer.take(*box, QString::fromLatin1(name));
-        box->close();
-        QTest::qWait(50);
+    const WhenModal then([&](QWidget& box) {
+      if (box.objectName() == "frmSecurity") {
+        QTest::keyClicks(box.focusWidget(), QString::fromLatin1(samples::password));
+        QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+        return;
       }
+      photographer.take(box, QString::fromLatin1(name));
+      box.close();
     });
     window.openForm(QString::fromLatin1(name));
-    QTest::qWait(700);
     QWidget* form = window.activeForm();
     if (form && form->objectName() == QLatin1String(name))
       photographer.take(*form, QString::fromLatin1(name));
