@@ -10,7 +10,7 @@ namespace {
 const QString registrationSection = u"Registration"_s;
 
 QString quoted(const QString& text) {
-  return u"'"_s + text + u"'"_s;
+  return u"'"_s + plainText(text) + u"'"_s;
 }
 QString valText(const QString& text) {
   return jet::textOf(jet::val(text));
@@ -90,11 +90,12 @@ ProfileSaved CompanyProfile::saveProfile(const CompanyData& data) {
   }
   const bool changing = exists();
   if (changing) {
-    session_.dbBasic.Execute(u"Update User Set Company = '"_s + data.Company + u"', User = '"_s + data.User +
-                             u"', BusCode = '"_s + data.BusCode + u"', PostCode = '"_s + data.PostCode +
-                             u"', fax = '"_s + data.Fax + u"', Address = '"_s + data.Address +
-                             u"', Tel = '"_s + data.Tel + u"', BusStyle = '"_s + data.BusStyle +
-                             u"', BusKind = '"_s + data.BusKind + u"'"_s);
+    session_.dbBasic.Execute(
+        u"Update User Set Company = '"_s + plainText(data.Company) + u"', User = '"_s + plainText(data.User) +
+        u"', BusCode = '"_s + plainText(data.BusCode) + u"', PostCode = '"_s + plainText(data.PostCode) +
+        u"', fax = '"_s + plainText(data.Fax) + u"', Address = '"_s + plainText(data.Address) +
+        u"', Tel = '"_s + plainText(data.Tel) + u"', BusStyle = '"_s + plainText(data.BusStyle) +
+        u"', BusKind = '"_s + plainText(data.BusKind) + u"'"_s);
   } else {
     const QStringList values{quoted(data.Company),  quoted(data.User),     quoted(data.BusCode),
                              quoted(data.PostCode), quoted(data.Fax),      quoted(data.Address),
@@ -132,9 +133,9 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
       valText(settings.AptRate) + u", "_s + u"AptSecurity = "_s + wholeText(settings.AptSecurity) +
       u", ManyRate = "_s + valText(settings.ManyRate) + u", "_s + u"ManySecurity = "_s +
       wholeText(settings.ManySecurity) + u", Rate = "_s + valText(settings.Rate) + u", "_s +
-      u"Security = "_s + wholeText(settings.Security) + u", Password = '"_s + settings.password + u"', "_s +
-      u"Post1 = "_s + valText(settings.Post1) + u", Post2 = "_s + valText(settings.Post2) + u", "_s +
-      (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s));
+      u"Security = "_s + wholeText(settings.Security) + u", Password = '"_s + plainText(settings.password) +
+      u"', "_s + u"Post1 = "_s + valText(settings.Post1) + u", Post2 = "_s + valText(settings.Post2) +
+      u", "_s + (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s));
   session_.StockEnabled = settings.Stock;
   readRateBook(session_);
   if (settings.password.isEmpty())

@@ -57,8 +57,7 @@ QString DataFolder::create(const QString& parent) {
 bool DataFolder::remove(const QString& folder) {
   const QString title = u"디렉토리 삭제"_s;
   const QString name = folder.section(u'\\', -1);
-  if (!session_.prompts.MsgAsk(u"'"_s + name + u"'"_s + u" 디렉토리를 삭제하시겠습니까?"_s, title, false))
-    return false;
+  if (!session_.prompts.MsgAsk(u"'%1' 디렉토리를 삭제하시겠습니까?"_s.arg(name), title, false)) return false;
   if (!name.isEmpty() && QDir().rmdir(session_.pc.paths.native(folder))) return true;
   session_.prompts.MsgWarn(u"삭제하는 중 오류가 발생했습니다."_s, title);
   return false;

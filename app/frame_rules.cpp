@@ -49,8 +49,8 @@ void insertBookRows(Session& session, const QString& selectCodes) {
     for (; !clients.atEnd(); clients.MoveNext()) {
       const QString code = clients[u"Code"_s].toText();
       for (int month = 0; month <= 12; ++month)
-        session.dbYear.Execute(u"insert into Evaporation(Clientcode, Mon) Values ("_s + code + u", "_s +
-                               QString::number(month) + u")"_s);
+        session.dbYear.Execute(u"insert into Evaporation(Clientcode, Mon) Values ("_s + plainNumber(code) +
+                               u", "_s + QString::number(month) + u")"_s);
     }
   });
 }
@@ -74,9 +74,9 @@ void clearBook(Session& session, const std::function<void(const std::function<vo
           .value_or(QString());
   if (code.isEmpty()) return;
   busy([&] {
-    session.dbYear.Execute(u"delete from evaporation where clientcode >= "_s + code);
-    insertBookRows(session, u"SELECT Code From Client WHERE VolumeYesNo=True and code >= "_s + code +
-                                u" Order by Client.Code"_s);
+    session.dbYear.Execute(u"delete from evaporation where clientcode >= "_s + plainNumber(code));
+    insertBookRows(session, u"SELECT Code From Client WHERE VolumeYesNo=True and code >= "_s +
+                                plainNumber(code) + u" Order by Client.Code"_s);
   });
   session.prompts.MsgInfo(u"처리완료"_s);
 }

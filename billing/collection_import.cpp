@@ -129,9 +129,10 @@ bool CollectionImport::postRecord(Run& run, const CollectionRecord& record) {
   }
   const QString amount = vb::CStr(record.amount), code = QString::number(record.clientCode);
   const QString monthDay = QString::fromLatin1(record.monthDay);
-  run.book.Execute("Update Evaporation Set Pay = " + amount + " , TrustDay = '" + monthDay.left(2) + "-" +
-                   monthDay.mid(2) + "' , Total = UsePay + Trust + Delay + Manage - " + amount +
-                   " where ClientCode = " + code + " AND Mon = " + QString::number(run.month));
+  run.book.Execute("Update Evaporation Set Pay = " + amount + " , TrustDay = '" +
+                   plainText(monthDay.left(2)) + "-" + plainText(monthDay.mid(2)) +
+                   "' , Total = UsePay + Trust + Delay + Manage - " + amount + " where ClientCode = " + code +
+                   " AND Mon = " + QString::number(run.month));
   jet::Recordset row;
   if (!OpenSnapshot(session_.prompts, run.book, row,
                     "Select Total from Evaporation where Mon = " + QString::number(run.month) +
@@ -147,7 +148,7 @@ bool CollectionImport::writeLine(const Run& run) {
   const CollectionRecord& last = run.last;
   jet::Recordset client;
   if (!OpenSnapshot(session_.prompts, session_.dbYear, client,
-                    "Select Name, Tel from [" + session_.BasicPath +
+                    "Select Name, Tel from [" + plainPath(session_.BasicPath) +
                         "].Client where code = " + QString::number(last.clientCode)))
     return false;
   const bool known = !client.atEnd();

@@ -41,7 +41,7 @@ QString bookCondition(const EvaTotalAsk& ask) {
 }
 
 QString buildingCondition(const EvaTotalAsk& ask) {
-  return ask.building.isEmpty() ? QString() : " And Client.BDName = '" + ask.building + "'";
+  return ask.building.isEmpty() ? QString() : " And Client.BDName = '" + plainText(ask.building) + "'";
 }
 
 qint64 fieldWon(const jet::Recordset& rs, const QString& field) {
@@ -122,8 +122,8 @@ bool EvaTotal::readPeriod(const EvaTotalAsk& ask) {
 
 QString EvaTotal::periodWhere(const EvaTotalAsk& ask) const {
   if (ask.byCollection)
-    return "Evaporation.TrustDay >= '" + fromDay_ + "' " + "And Evaporation.TrustDay <= '" + toDay_ + "' " +
-           " AND Evaporation.Pay > 0 ";
+    return "Evaporation.TrustDay >= '" + plainText(fromDay_) + "' " + "And Evaporation.TrustDay <= '" +
+           plainText(toDay_) + "' " + " AND Evaporation.Pay > 0 ";
   return "Evaporation.Mon >= " + QString::number(ask.fromMonth) + ' ' +
          "And Evaporation.Mon <= " + QString::number(ask.toMonth);
 }
@@ -136,8 +136,8 @@ bool EvaTotal::readLines(const EvaTotalAsk& ask) {
       "Sum(Evaporation.Delay) As Delay, Sum(Evaporation.Manage) As Manage "
       "FROM Evaporation LEFT JOIN Client ON Evaporation.ClientCode = Client.Code " +
       bookCondition(ask) + periodWhere(ask);
-  if (!ask.dong.isEmpty()) sql += " And Client.Dong ='" + ask.dong + "'";
-  if (!ask.ho.isEmpty()) sql += " And Client.Ho = '" + ask.ho + "'";
+  if (!ask.dong.isEmpty()) sql += " And Client.Dong ='" + plainText(ask.dong) + "'";
+  if (!ask.ho.isEmpty()) sql += " And Client.Ho = '" + plainText(ask.ho) + "'";
   sql += buildingCondition(ask) +
          " GROUP BY Client.Name, Client.BDName, Client.Dong, Client.Ho, Client.Code, Evaporation.Mon, "
          "Evaporation.TrustDay "
@@ -186,8 +186,8 @@ bool EvaTotal::readPrev(const EvaTotalAsk& ask) {
   QString before = "Evaporation.Mon = " + QString::number(ask.fromMonth - 1);
   if (ask.byCollection) {
     const QString month = twoDigitMonth(fromDay_.left(2).toInt() - 1);
-    before =
-        "Evaporation.TrustDay >= '" + month + "/01' " + "And Evaporation.TrustDay <= '" + month + "/31' ";
+    before = "Evaporation.TrustDay >= '" + plainText(month) + "/01' " + "And Evaporation.TrustDay <= '" +
+             plainText(month) + "/31' ";
   }
   jet::Recordset rs;
   if (!OpenSnapshot(session_.prompts, session_.dbYear, rs,
@@ -204,7 +204,7 @@ void EvaTotal::print() {
     stageReport(session_, 1, [](int) { return u"Insert Into Print(Str01) Values"_s + u"('')"_s; });
   } else {
     stageReport(session_, lines_, [this](int row) {
-      const auto text = [&](int col) { return u'\'' + grid_.text(row, col) + u'\''; };
+      const auto text = [&](int col) { return u'\'' + plainText(grid_.text(row, col)) + u'\''; };
       const auto won = [&](int col) { return grid_.text(row, col); };
       return u"Insert Into Print(Str01, Lng01, Lng02, Str02, Str03, Lng03, Lng04, Str04, Lng05, Lng06) Values"_s +
              u'(' +

@@ -57,8 +57,8 @@ void askPerson(ReadingSheet& sheet, int row, int col) {
              : session.prompts.InputBox(u"수금담당자를 입력하세요"_s, u"수금담당"_s, rs["CashMan"].toText());
   if (!name) return;
   session.dbYear.Execute(
-      reader ? "Update Evaporation Set ChkMan = '" + *name + "' " + customersMonth(sheet, row)
-             : "Update Evaporation Set CashMan = '" + *name + "' " + customersMonth(sheet, row));
+      reader ? "Update Evaporation Set ChkMan = '" + plainText(*name) + "' " + customersMonth(sheet, row)
+             : "Update Evaporation Set CashMan = '" + plainText(*name) + "' " + customersMonth(sheet, row));
 }
 
 void correctUse(ReadingSheet& sheet, int row) {

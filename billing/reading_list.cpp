@@ -3,6 +3,7 @@
 #include "billing/building_rate.h"
 #include "billing/reading_sheet.h"
 #include "pc/reports.h"
+#include "store/data_access.h"
 #include "store/report_staging.h"
 #include "store/session.h"
 #include "store/vb.h"
@@ -12,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString listStatement(const ReadingSheet& sheet, int row) {
-  const auto text = [&](int col) { return u'\'' + sheet.grid.text(row, col) + u'\''; };
+  const auto text = [&](int col) { return u'\'' + plainText(sheet.grid.text(row, col)) + u'\''; };
   QString values = text(EvaCol::Name);
   for (int col = EvaCol::PrevUseGage; col <= EvaCol::Pay; ++col)
     values += ", " + vb::CStr(sheet.number(row, col));

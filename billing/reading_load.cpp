@@ -41,10 +41,10 @@ QString householdFilter(const ReadingSheet& sheet) {
     const QString entry = sheet.buildingEntry();
     // Kept: an entry "<building> <block>" is cut by length, so only a block of three characters finds its households.
     if (showsBlocks(sheet.session))
-      filter = " And Client.BDName = '" + entry.chopped(qMin<qsizetype>(4, entry.size())) +
-               "' And Client.Dong = '" + entry.right(3) + "' ";
+      filter = " And Client.BDName = '" + plainText(entry.chopped(qMin<qsizetype>(4, entry.size()))) +
+               "' And Client.Dong = '" + plainText(entry.right(3)) + "' ";
     else
-      filter = " And Client.BDName = '" + entry + "' ";
+      filter = " And Client.BDName = '" + plainText(entry) + "' ";
   }
   return filter + " And isnull(Client.Ho) = False ";
 }

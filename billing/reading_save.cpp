@@ -1,6 +1,7 @@
 #include "billing/reading_save.h"
 
 #include "billing/reading_sheet.h"
+#include "store/data_access.h"
 #include "store/jet/sql.h"
 #include "store/rounding.h"
 #include "store/session.h"
@@ -18,8 +19,8 @@ jet::Sql saveStatement(const ReadingSheet& sheet, int row) {
       << cell(EvaCol::Trust) << u", Delay = " << cell(EvaCol::Delay) << u", Manage = " << cell(EvaCol::Manage)
       << u", Total = " << cell(EvaCol::Total) << u", Pay = " << cell(EvaCol::Pay) << u", Prnt = "
       << ticked(EvaCol::Prnt) << u", paydelayed = " << ticked(EvaCol::PayDelayed) << u", PrntDay = '"
-      << sheet.readingDay << u"', TrustDay = '" << sheet.grid.text(row, EvaCol::TrustDay)
-      << u"' Where ClientCode = " << sheet.code(row);
+      << plainText(sheet.readingDay) << u"', TrustDay = '"
+      << plainText(sheet.grid.text(row, EvaCol::TrustDay)) << u"' Where ClientCode = " << sheet.code(row);
   // Kept: the opening row fills the months before the calendar month, so that the first real month starts from it.
   if (sheet.isOpening())
     sql << u" And Mon < " << QStringView(sheet.today()).left(2);

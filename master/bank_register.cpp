@@ -1,5 +1,7 @@
 #include "master/bank_register.h"
 
+#include "store/data_access.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,20 +26,22 @@ RegisterRules::Outcome BankRegister::store(const RegisterFields& boxes) {
   const QString name = boxes[u"BName"_s], number = boxes[u"BNumber"_s], user = boxes[u"BUser"_s];
   if (name.isEmpty()) return refuse(u"은행명을 입력하십시오"_s, bankTitle, u"BName"_s);
   if (number.isEmpty()) return refuse(u"계좌번호를 입력하십시오"_s, bankTitle, u"BNumber"_s);
-  const Found known = lookFor(u"Select * From Bank Where BName = '"_s + name + u"'"_s);
+  const Found known = lookFor(u"Select * From Bank Where BName = '"_s + plainText(name) + u"'"_s);
   if (known == Found::Failed) return {false, u"BName"_s};
   if (known == Found::Something)
-    session_.dbBasic.Execute(u"Update Bank Set BName = '"_s + name + u"', BNumber = '"_s + number +
-                             u"', BUser = '"_s + user + u"' Where BName = '"_s + name + u"'"_s);
+    session_.dbBasic.Execute(u"Update Bank Set BName = '"_s + plainText(name) + u"', BNumber = '"_s +
+                             plainText(number) + u"', BUser = '"_s + plainText(user) +
+                             u"' Where BName = '"_s + plainText(name) + u"'"_s);
   else
-    session_.dbBasic.Execute(u"Insert Into Bank(BName, BNumber, BUser) Values('"_s + name + u"', '"_s +
-                             number + u"', '"_s + user + u"')"_s);
+    session_.dbBasic.Execute(u"Insert Into Bank(BName, BNumber, BUser) Values('"_s + plainText(name) +
+                             u"', '"_s + plainText(number) + u"', '"_s + plainText(user) + u"')"_s);
   return {true};
 }
 
 RegisterRules::Outcome BankRegister::erase() {
   if (!selectedRow()) return refuse(u"삭제할 자료를 선택하십시오"_s, bankTitle);
   if (!session_.prompts.MsgAsk(u"선택한 자료를 삭제하시겠습니까?"_s, bankTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Bank Where BName = '"_s + record()[u"BName"_s] + u"'"_s);
+  session_.dbBasic.Execute(u"Delete * From Bank Where BName = '"_s + plainText(record()[u"BName"_s]) +
+                           u"'"_s);
   return {true};
 }

@@ -20,27 +20,29 @@ QString yesNo(bool yes) {
 QString buildingStatement(const Building& b) {
   return "Insert Into APT(Name, PostCode, Address, Dong, Structure, Height, Width, "
          "Evaporation, Gubun, Pressure, Eva, delaypay) Values('" +
-         b.name + "', '" + b.postCode + "', '" + b.address + "', '" + b.dong + "', " + yesNo(b.staircase) +
-         ", " + QString::number(b.floors) + ", " + QString::number(b.width) + ", " + yesNo(b.metered) + ", " +
-         yesNo(b.houseStyle == HouseStyle::Apartment) + ", '" + b.pressure + "', " +
+         plainText(b.name) + "', '" + plainText(b.postCode) + "', '" + plainText(b.address) + "', '" +
+         plainText(b.dong) + "', " + yesNo(b.staircase) + ", " + QString::number(b.floors) + ", " +
+         QString::number(b.width) + ", " + yesNo(b.metered) + ", " +
+         yesNo(b.houseStyle == HouseStyle::Apartment) + ", '" + plainText(b.pressure) + "', " +
          typedNumber(b.unitPrice) + ", " + typedNumber(b.lateRate) + ")";
 }
 
 void putPlace(jet::Sql& sql, const Building& b) {
-  sql << int(b.houseStyle) << u", '" << b.name << u"', '" << b.dong << u"', '";
+  sql << int(b.houseStyle) << u", '" << plainText(b.name) << u"', '" << plainText(b.dong) << u"', ";
 }
 
 /** What head row and households share behind their place. */
 void putShared(jet::Sql& sql, const Session& session, const Building& b) {
-  sql << b.postCode << u"', '" << b.address << u"', " << yesNo(b.metered) << u", '" << b.pressure << u"', "
-      << typedNumber(b.unitPrice) << u", 2, '" << session.pc.clock.dateText() << u"')";
+  sql << u"'" << plainText(b.postCode) << u"', '" << plainText(b.address) << u"', " << yesNo(b.metered)
+      << u", '" << plainText(b.pressure) << u"', " << typedNumber(b.unitPrice) << u", 2, '"
+      << plainText(session.pc.clock.dateText()) << u"')";
 }
 
 jet::Sql headStatement(const Session& session, const Building& b) {
   jet::Sql sql;
   sql << u"Insert Into Client(Name, HouseStyle, BDName, Dong, PostCode, Address, VolumeYesNo, "
          u"Volume, VolumeUnit, PayWay, AppDate) Values('"
-      << b.name << u" " << b.dong << u"동', ";
+      << plainText(b.name) << u" " << plainText(b.dong) << u"동', ";
   putPlace(sql, b);
   putShared(sql, session, b);
   return sql;
@@ -50,15 +52,15 @@ jet::Sql householdStatement(const Session& session, const Building& b, const QSt
   jet::Sql sql;
   sql << u"Insert Into Client(Name, HouseStyle, BDName, Dong, Ho, PostCode, Address, VolumeYesNo, "
          u"Volume, VolumeUnit, PayWay, AppDate) Values('"
-      << b.name << u" " << b.dong << u"동 " << unit << u"호', ";
+      << plainText(b.name) << u" " << plainText(b.dong) << u"동 " << plainText(unit) << u"호', ";
   putPlace(sql, b);
-  sql << unit << u"', '";
+  sql << u"'" << plainText(unit) << u"', ";
   putShared(sql, session, b);
   return sql;
 }
 
 QString ofBlock(const QString& name, const QString& dong) {
-  return "Where BDName = '" + name + "' And Dong = '" + dong + "'";
+  return "Where BDName = '" + plainText(name) + "' And Dong = '" + plainText(dong) + "'";
 }
 
 /** Codes of the customers under a block, head row included. Asks both files, so that a group is sure of them before it
@@ -78,10 +80,11 @@ void takeBack(const Session& session, const Building& b, qint64 lastCodeBefore) 
   session.wsMain.Together([&] {
     for (const QString& code : codesOfBlock(session, b.name, b.dong)) {
       if (code.toLongLong() <= lastCodeBefore) continue;
-      session.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + code);
-      session.dbBasic.Execute("Delete * From Client Where Code = " + code);
+      session.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + plainNumber(code));
+      session.dbBasic.Execute("Delete * From Client Where Code = " + plainNumber(code));
     }
-    session.dbBasic.Execute("Delete * From APT Where Name = '" + b.name + "' And Dong = '" + b.dong + "'");
+    session.dbBasic.Execute("Delete * From APT Where Name = '" + plainText(b.name) + "' And Dong = '" +
+                            plainText(b.dong) + "'");
   });
 }
 
@@ -143,16 +146,16 @@ void makeBuilding(const Session& session, const Building& building, const QStrin
 void changeBuilding(const Session& session, const Building& b, const QString& code, const QString& oldDong,
                     bool wasMetered) {
   session.wsMain.Together([&] {
-    session.dbBasic.Execute("Update APT Set Dong = '" + b.dong + "', " + "Structure = " + yesNo(b.staircase) +
-                            ", " +
-                            (b.metered ? "Evaporation = True, Pressure = '" + b.pressure + "', " +
-                                             "Eva = " + typedNumber(b.unitPrice) + ", "
-                                       : QString("EVaporation = False, ")) +
-                            "delaypay = " + typedNumber(b.lateRate) + ", " + "Address = '" + b.address +
-                            "', PostCode = '" + b.postCode + "' " + "Where Code = " + code);
-    session.dbBasic.Execute("Update Client Set Dong = '" + b.dong + "', " + "PostCode = '" + b.postCode +
-                            "', Address = '" + b.address + "', " +
-                            (b.metered ? "VolumeYesNo = True, Volume = '" + b.pressure + "', " +
+    session.dbBasic.Execute(
+        "Update APT Set Dong = '" + plainText(b.dong) + "', " + "Structure = " + yesNo(b.staircase) + ", " +
+        (b.metered ? "Evaporation = True, Pressure = '" + plainText(b.pressure) + "', " +
+                         "Eva = " + typedNumber(b.unitPrice) + ", "
+                   : QString("EVaporation = False, ")) +
+        "delaypay = " + typedNumber(b.lateRate) + ", " + "Address = '" + plainText(b.address) +
+        "', PostCode = '" + plainText(b.postCode) + "' " + "Where Code = " + plainNumber(code));
+    session.dbBasic.Execute("Update Client Set Dong = '" + plainText(b.dong) + "', " + "PostCode = '" +
+                            plainText(b.postCode) + "', Address = '" + plainText(b.address) + "', " +
+                            (b.metered ? "VolumeYesNo = True, Volume = '" + plainText(b.pressure) + "', " +
                                              "VolumeUnit = " + typedNumber(b.unitPrice) + " "
                                        : QString("VolumeYesNo = False, Volume = '', VolumeUnit = 0 ")) +
                             ofBlock(b.name, oldDong));
@@ -168,9 +171,9 @@ void changeBuilding(const Session& session, const Building& b, const QString& co
 void removeBuilding(const Session& session, const QString& code, const QString& name, const QString& dong) {
   session.wsMain.Together([&] {
     const QStringList households = codesOfBlock(session, name, dong);
-    session.dbBasic.Execute("Delete * From Apt Where Code = " + code);
+    session.dbBasic.Execute("Delete * From Apt Where Code = " + plainNumber(code));
     for (const QString& household : households)
-      session.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + household);
+      session.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + plainNumber(household));
     session.dbBasic.Execute("Delete * From Client " + ofBlock(name, dong));
   });
 }

@@ -123,8 +123,9 @@ void BuildingRegister::showHouseholds() {
   jet::Recordset households;
   if (selectedRow() &&
       OpenSnapshot(session_.prompts, session_.dbBasic, households,
-                   u"Select Ho From Client Where BDName = '"_s + record()[u"Name"_s] + u"' And Dong = '"_s +
-                       record()[u"Dong"_s] + u"' And Ho Is Not Null Order By Val(Ho), Ho"_s)) {
+                   u"Select Ho From Client Where BDName = '"_s + plainText(record()[u"Name"_s]) +
+                       u"' And Dong = '"_s + plainText(record()[u"Dong"_s]) +
+                       u"' And Ho Is Not Null Order By Val(Ho), Ho"_s)) {
     for (; !households.atEnd(); households.MoveNext()) {
       const QString unit = households[0].toText();
       floors[unit.toInt() / 100] << unit;
@@ -159,8 +160,8 @@ RegisterRules::Outcome BuildingRegister::checkRequired(const RegisterFields& box
 }
 
 RegisterRules::Outcome BuildingRegister::checkTwin(const Building& building) {
-  const Found twin = lookFor(u"Select * From APT Where Name = '"_s + building.name + u"' And Dong = '"_s +
-                             building.dong + u"'"_s);
+  const Found twin = lookFor(u"Select * From APT Where Name = '"_s + plainText(building.name) +
+                             u"' And Dong = '"_s + plainText(building.dong) + u"'"_s);
   if (twin == Found::Failed) return {};
   if (twin == Found::Something)
     return refuse(building.name + u' ' + building.dong + u"동은 이미 등록되어 있습니다!"_s, buildingTitle,

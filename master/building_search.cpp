@@ -42,9 +42,9 @@ bool BuildingSearch::loadBuildings() {
 
 bool BuildingSearch::loadBlocks(const QString& name) {
   jet::Recordset apt;
-  if (!OpenSnapshot(
-          session_.prompts, session_.dbBasic, apt,
-          "Select * From APT Where " + styleClause(style_) + "And Name = '" + name + "' Order By Dong")) {
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, apt,
+                    "Select * From APT Where " + styleClause(style_) + "And Name = '" + plainText(name) +
+                        "' Order By Dong")) {
     return false;
   }
   std::vector<std::vector<QString>> rows;
@@ -58,8 +58,9 @@ bool BuildingSearch::loadBlocks(const QString& name) {
 
 std::optional<BuildingChoice> BuildingSearch::choice(const QString& name, const QString& dong) const {
   jet::Recordset apt;
-  if (!OpenSnapshot(session_.prompts, session_.dbBasic, apt,
-                    "Select * From APT Where Dong = '" + dong + "' And Name = '" + name + "'") ||
+  if (!OpenSnapshot(
+          session_.prompts, session_.dbBasic, apt,
+          "Select * From APT Where Dong = '" + plainText(dong) + "' And Name = '" + plainText(name) + "'") ||
       apt.atEnd()) {
     return {};
   }

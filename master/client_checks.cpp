@@ -27,9 +27,10 @@ bool isMoney(const QString& text) {
 }
 
 QString telStatement(const ClientEntry& boxes, const QString& tel) {
-  const QString start = boxes.houseStyle == HouseStyle::Plain ? "select * From Client Where Tel = '"
-                                                              : "Select * From Client Where Tel = '";
-  return start + tel + "' or Tel1 = '" + tel + "' or Tel2 = '" + tel + "'";
+  const QString others = " or Tel1 = '" + plainText(tel) + "' or Tel2 = '" + plainText(tel) + "'";
+  return boxes.houseStyle == HouseStyle::Plain
+             ? "select * From Client Where Tel = '" + plainText(tel) + "'" + others
+             : "Select * From Client Where Tel = '" + plainText(tel) + "'" + others;
 }
 
 /** True when the save must stop: the number is somebody's, or the question failed. */
@@ -48,11 +49,12 @@ bool telIsTaken(const Session& session, const ClientEntry& boxes, const QString&
 /** The statement that finds a namesake or the same household; '' when there is nothing to compare by. */
 QString namesakeStatement(const ClientEntry& boxes) {
   if (boxes.houseStyle == HouseStyle::Plain) {
-    return boxes.name.isEmpty() ? QString() : "Select * From Client Where Name = '" + boxes.name + "'";
+    return boxes.name.isEmpty() ? QString()
+                                : "Select * From Client Where Name = '" + plainText(boxes.name) + "'";
   }
   if (boxes.bdName.isEmpty()) return {};
-  return "Select * From client Where BDName = '" + boxes.bdName + "' And Dong = '" + boxes.dong +
-         "' And Ho = '" + boxes.ho + "'";
+  return "Select * From client Where BDName = '" + plainText(boxes.bdName) + "' And Dong = '" +
+         plainText(boxes.dong) + "' And Ho = '" + plainText(boxes.ho) + "'";
 }
 
 }  // namespace

@@ -65,7 +65,8 @@ std::vector<std::vector<QString>> listRows(jet::Recordset& clients, HouseStyle p
 bool blockIsMetered(const Session& session, const ClientEntry& c) {
   jet::Recordset block;
   return OpenSnapshot(session.prompts, session.dbBasic, block,
-                      "Select * From APT Where Name = '" + c.bdName + "' And Dong = '" + c.dong + "'") &&
+                      "Select * From APT Where Name = '" + plainText(c.bdName) + "' And Dong = '" +
+                          plainText(c.dong) + "'") &&
          !block.atEnd() && block["Evaporation"].toBool();
 }
 

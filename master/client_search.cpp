@@ -11,7 +11,7 @@ bool allDigits(const QString& text) {
 }
 
 QString likeAround(const char* field, const QString& text) {
-  return QString::fromLatin1(field) + " Like '*" + text + "*'";
+  return QString::fromLatin1(field) + " Like '*" + plainText(text) + "*'";
 }
 
 /** A telephone's last four digits are the usual way to find a customer. */
@@ -21,8 +21,8 @@ QString byFourDigits(const QString& digits) {
 }
 
 QString byEndOfNumber(const QString& n) {
-  return "Select * From Client Where ( Tel Like '*" + n + "' or Tel1 Like '*" + n + "' or Tel2 Like '*" + n +
-         "' or UName Like '*" + n + "')";
+  return "Select * From Client Where ( Tel Like '*" + plainText(n) + "' or Tel1 Like '*" + plainText(n) +
+         "' or Tel2 Like '*" + plainText(n) + "' or UName Like '*" + plainText(n) + "')";
 }
 
 QString byAnyText(const QString& text, bool buildings) {

@@ -1,22 +1,25 @@
 #include "master/client_statements.h"
 
 #include "master/register_rules.h"
+#include "store/data_access.h"
 
 namespace {
 
 QString commonValues(const ClientEntry& c) {
-  return "'" + c.name + "', '" + c.tel + "', '" + c.tel1 + "', '" + c.tel2 + "', '" + c.postCode + "', '" +
-         c.address + "', '" + c.birth + "', '" + c.memo + "', " + QString::number(int(c.houseStyle)) + ", " +
-         typedNumber(c.gasInit) + ", " + typedNumber(c.utilInit) + ", '" + c.appDate + "', " +
+  return "'" + plainText(c.name) + "', '" + plainText(c.tel) + "', '" + plainText(c.tel1) + "', '" +
+         plainText(c.tel2) + "', '" + plainText(c.postCode) + "', '" + plainText(c.address) + "', '" +
+         plainText(c.birth) + "', '" + plainText(c.memo) + "', " + QString::number(int(c.houseStyle)) + ", " +
+         typedNumber(c.gasInit) + ", " + typedNumber(c.utilInit) + ", '" + plainText(c.appDate) + "', " +
          QString::number(int(c.payWay));
 }
 
 QString householdValues(const ClientEntry& c) {
-  return "'" + c.bdName + "', '" + c.dong + "', '" + c.ho + "')";
+  return "'" + plainText(c.bdName) + "', '" + plainText(c.dong) + "', '" + plainText(c.ho) + "')";
 }
 
 QString plainValues(const ClientEntry& c) {
-  return "'" + c.serial + "', '" + c.status + "', '" + c.item + "', '" + c.uname + "')";
+  return "'" + plainText(c.serial) + "', '" + plainText(c.status) + "', '" + plainText(c.item) + "', '" +
+         plainText(c.uname) + "')";
 }
 
 }  // namespace
@@ -29,7 +32,7 @@ QString insertStatement(const ClientEntry& c) {
   const QString unit = typedNumber(c.volumeUnit);
   if (household && c.volume) {
     return start + "VolumeYesNo, Volume, VolumeUnit, BDName, Dong, Ho) Values(" + commonValues(c) +
-           ", True, '" + c.pressure + "', " + unit + ", " + householdValues(c);
+           ", True, '" + plainText(c.pressure) + "', " + unit + ", " + householdValues(c);
   }
   if (household) {
     return start + "VolumeYesNo, BDName, Dong, Ho) Values(" + commonValues(c) + ", False, " +
@@ -37,35 +40,38 @@ QString insertStatement(const ClientEntry& c) {
   }
   if (c.volume) {
     return start + "VolumeYesNo, VolumeUnit, Volume, Serial, status, item, Uname) Values(" + commonValues(c) +
-           ", True, " + unit + ", '" + c.pressure + "', " + plainValues(c);
+           ", True, " + unit + ", '" + plainText(c.pressure) + "', " + plainValues(c);
   }
   return start + "VolumeYesNo, Serial, status, item, Uname) Values(" + commonValues(c) + ", False, " +
          plainValues(c);
 }
 
 QString updateStatement(const ClientEntry& c) {
-  QString sql = "Update Client Set Name = '" + c.name + "', Tel = '" + c.tel + "', Tel1 = '" + c.tel1 +
-                "', Tel2 = '" + c.tel2 + "', PostCode = '" + c.postCode + "', Address = '" + c.address +
-                "', " + "Birth = '" + c.birth + "', Memo = '" + c.memo + "', " +
+  QString sql = "Update Client Set Name = '" + plainText(c.name) + "', Tel = '" + plainText(c.tel) +
+                "', Tel1 = '" + plainText(c.tel1) + "', Tel2 = '" + plainText(c.tel2) + "', PostCode = '" +
+                plainText(c.postCode) + "', Address = '" + plainText(c.address) + "', " + "Birth = '" +
+                plainText(c.birth) + "', Memo = '" + plainText(c.memo) + "', " +
                 "HouseStyle = " + QString::number(int(c.houseStyle)) +
                 ", GasInit = " + typedNumber(c.gasInit) + ", UtilInit = " + typedNumber(c.utilInit) +
-                ", AppDate = '" + c.appDate + "', " + "PayWay = " + QString::number(int(c.payWay));
+                ", AppDate = '" + plainText(c.appDate) + "', " + "PayWay = " + QString::number(int(c.payWay));
   if (c.volume) {
-    sql +=
-        ", VolumeYesNo = True, Volume = '" + c.pressure + "', " + "VolumeUnit = " + typedNumber(c.volumeUnit);
+    sql += ", VolumeYesNo = True, Volume = '" + plainText(c.pressure) + "', " +
+           "VolumeUnit = " + typedNumber(c.volumeUnit);
   } else {
     sql += ", VolumeYesNo = False";
   }
   if (c.houseStyle == HouseStyle::Plain) {
-    sql += ", Serial = '" + c.serial + "', " + "Status = '" + c.status + "', " + "Item = '" + c.item + "', " +
-           "Uname = '" + c.uname + "'";
+    sql += ", Serial = '" + plainText(c.serial) + "', " + "Status = '" + plainText(c.status) + "', " +
+           "Item = '" + plainText(c.item) + "', " + "Uname = '" + plainText(c.uname) + "'";
   } else {
-    sql += ", BDName = '" + c.bdName + "', " + "Dong = '" + c.dong + "', Ho = '" + c.ho + "'";
+    sql += ", BDName = '" + plainText(c.bdName) + "', " + "Dong = '" + plainText(c.dong) + "', Ho = '" +
+           plainText(c.ho) + "'";
   }
   return sql + " Where Code = " + QString::number(c.code);
 }
 
 QString unitSpreadStatement(const ClientEntry& c, const QString& oldUnit) {
-  return "Update Client Set VolumeUnit = " + typedNumber(c.volumeUnit) + " Where BDName = '" + c.bdName +
-         "' And Dong = '" + c.dong + "' And " + "Ho <> Null and VolumeUnit = " + typedNumber(oldUnit);
+  return "Update Client Set VolumeUnit = " + typedNumber(c.volumeUnit) + " Where BDName = '" +
+         plainText(c.bdName) + "' And Dong = '" + plainText(c.dong) + "' And " +
+         "Ho <> Null and VolumeUnit = " + typedNumber(oldUnit);
 }

@@ -1,5 +1,7 @@
 #include "master/gas_catalogue.h"
 
+#include "store/data_access.h"
+
 #include <QtMath>
 
 using namespace Qt::StringLiterals;
@@ -70,8 +72,8 @@ RegisterRules::Outcome GasCatalogue::insert(const RegisterFields& boxes) {
   const QString name = boxes[u"LPGName"_s], size = boxes[u"Size"_s];
   if (name.isEmpty()) return refuse(u"품명은 필수입력사항입니다!"_s, u"LPG 관리자"_s, u"LPGName"_s);
   if (size.isEmpty()) return refuse(u"LPG/용기의 용량은 필수입력사항입니다!"_s, u"LPG 관리자"_s, u"Size"_s);
-  const Found twin =
-      lookFor(u"Select * From LPG Where Size = '"_s + size + u"' And LPGName = '"_s + name + u"'"_s);
+  const Found twin = lookFor(u"Select * From LPG Where Size = '"_s + plainText(size) +
+                             u"' And LPGName = '"_s + plainText(name) + u"'"_s);
   if (twin == Found::Failed) return {};
   if (twin == Found::Something)
     return refuse(u"용량이 "_s + size + u"KG의 LPG/용기는 이미 등록되어 있습니다!"_s, gasTitle, u"Size"_s);
@@ -80,10 +82,10 @@ RegisterRules::Outcome GasCatalogue::insert(const RegisterFields& boxes) {
   session_.dbBasic.Execute(
       u"Insert Into LPG(LPGName, Size, LPGPurchase, LPGSelling, CANPurchase, CANSelling, LPGStock, "
       u"CANTotalHold, CANLoan, CANFull, CANEmpty) Values('"_s +
-      name + u"', '"_s + size + u"', "_s + number(u"LPGPurchase"_s) + u", "_s + number(u"LPGSelling"_s) +
-      u", "_s + number(u"CANPurchase"_s) + u", "_s + number(u"CANSelling"_s) + u", "_s +
-      number(u"LPGStock"_s) + u", "_s + totalHold(boxes) + u", "_s + number(u"CANLoan"_s) + u", "_s +
-      number(u"CANFull"_s) + u", "_s + number(u"CANEmpty"_s) + u")"_s);
+      plainText(name) + u"', '"_s + plainText(size) + u"', "_s + number(u"LPGPurchase"_s) + u", "_s +
+      number(u"LPGSelling"_s) + u", "_s + number(u"CANPurchase"_s) + u", "_s + number(u"CANSelling"_s) +
+      u", "_s + number(u"LPGStock"_s) + u", "_s + totalHold(boxes) + u", "_s + number(u"CANLoan"_s) +
+      u", "_s + number(u"CANFull"_s) + u", "_s + number(u"CANEmpty"_s) + u")"_s);
   return {true};
 }
 
@@ -93,20 +95,20 @@ RegisterRules::Outcome GasCatalogue::change(const RegisterFields& boxes) {
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, gasTitle)) return {};
   const auto number = [&](const QString& column) { return typedNumber(boxes[column]); };
   session_.dbBasic.Execute(
-      u"Update LPG Set LPGName = '"_s + boxes[u"LPGName"_s] + u"', Size = "_s +
+      u"Update LPG Set LPGName = '"_s + plainText(boxes[u"LPGName"_s]) + u"', Size = "_s +
       typedNumber(record()[u"Size"_s]) + u", LPGPurchase = "_s + number(u"LPGPurchase"_s) +
       u", LPGSelling = "_s + number(u"LPGSelling"_s) + u", CANPurchase = "_s + number(u"CANPurchase"_s) +
       u", CANSelling = "_s + number(u"CANSelling"_s) + u", CANLoan = "_s + number(u"CANLoan"_s) +
       u", CANEmpty = "_s + number(u"CANEmpty"_s) + u", CANFull = "_s + number(u"CANFull"_s) +
       u", LPGStock = "_s + number(u"LPGStock"_s) + u", CANTotalHold = "_s + totalHold(boxes) +
-      u" Where Code = "_s + record()[u"Code"_s]);
+      u" Where Code = "_s + plainNumber(record()[u"Code"_s]));
   return {true};
 }
 
 RegisterRules::Outcome GasCatalogue::erase() {
   if (!selectedRow()) return {};
   if (!session_.prompts.MsgAsk(u"선택된 LPG/용기에 대한 자료를 삭제하시겠습니까?"_s, gasTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From LPG Where Code = "_s + record()[u"Code"_s]);
+  session_.dbBasic.Execute(u"Delete * From LPG Where Code = "_s + plainNumber(record()[u"Code"_s]));
   return {true};
 }
 

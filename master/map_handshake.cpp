@@ -60,7 +60,7 @@ MapHandshake::State MapHandshake::look() {
   put(mapState, "MapEdit", "0");
   const QString file = value(mapCustomer, "MapVal");
   if (!file.isEmpty() && session_.pc.paths.exists(file)) {
-    session_.dbBasic.Execute("Update Client Set Position = '" + file +
+    session_.dbBasic.Execute("Update Client Set Position = '" + plainText(file) +
                              "' Where Code = " + QString::number(clientCode_));
   }
   return State::Done;

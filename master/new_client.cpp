@@ -3,6 +3,7 @@
 #include "master/client_rows.h"
 #include "master/register_rules.h"
 #include "master/tel_format.h"
+#include "store/data_access.h"
 #include "store/jet/format_rules.h"
 
 namespace {
@@ -11,11 +12,12 @@ QString newClientStatement(const ClientEntry& c, const QString& today) {
   const QString start =
       "Insert into Client(Name, Tel, PostCode, Address, "
       "Memo, HouseStyle, AppDate, PayWay, ";
-  const QString common = "'" + c.name + "', '" + c.tel + "', '" + c.postCode + "', '" + c.address + "', '" +
-                         c.memo + "', 0, '" + today + "', 1, ";
+  const QString common = "'" + plainText(c.name) + "', '" + plainText(c.tel) + "', '" +
+                         plainText(c.postCode) + "', '" + plainText(c.address) + "', '" + plainText(c.memo) +
+                         "', 0, '" + plainText(today) + "', 1, ";
   if (!c.volume) return start + "VolumeYesNo) Values(" + common + "False)";
   return start + "VolumeYesNo, VolumeUnit, Volume) Values(" + common + "True, " + typedNumber(c.volumeUnit) +
-         ", '" + c.pressure + "')";
+         ", '" + plainText(c.pressure) + "')";
 }
 
 }  // namespace

@@ -41,15 +41,15 @@ QString PostCodeSearch::statement(const QString& text) const {
   }
   QString sql = u"SELECT ZIPCODE, SIDO, GUGUN, DONG, BUNJI FROM Post "_s;
   if (!text.isEmpty()) {
-    sql += beginsInHangul(text) ? u"WHERE DONG LIKE '*"_s + text + u"*' "_s
-                                : u"WHERE ZIPCODE LIKE '*"_s + text + u"*' "_s;
-    if (!from.isEmpty()) sql += u"AND ZIPCODE >= '"_s + from + u"' "_s;
-    if (!to.isEmpty()) sql += u"AND ZIPCODE <= '"_s + to + u"' "_s;
+    sql += beginsInHangul(text) ? u"WHERE DONG LIKE '*"_s + plainText(text) + u"*' "_s
+                                : u"WHERE ZIPCODE LIKE '*"_s + plainText(text) + u"*' "_s;
+    if (!from.isEmpty()) sql += u"AND ZIPCODE >= '"_s + plainText(from) + u"' "_s;
+    if (!to.isEmpty()) sql += u"AND ZIPCODE <= '"_s + plainText(to) + u"' "_s;
   } else if (!from.isEmpty()) {
-    sql += u"WHERE ZIPCODE >= '"_s + from + u"' "_s;
-    if (!to.isEmpty()) sql += u"AND ZIPCODE <= '"_s + to + u"' "_s;
+    sql += u"WHERE ZIPCODE >= '"_s + plainText(from) + u"' "_s;
+    if (!to.isEmpty()) sql += u"AND ZIPCODE <= '"_s + plainText(to) + u"' "_s;
   } else if (!to.isEmpty()) {
-    sql += u"WHERE ZIPCODE <= '"_s + to + u"' "_s;
+    sql += u"WHERE ZIPCODE <= '"_s + plainText(to) + u"' "_s;
   }
   return sql + u"ORDER BY ZIPCODE;"_s;
 }

@@ -38,8 +38,9 @@ std::vector<QString> RefillRegister::cells(const RegisterFields& record) const {
 }
 
 bool RefillRegister::nameAccepted(const QString& company, const QString& ownCode) {
-  const QString others = ownCode.isEmpty() ? QString() : u" And Code <> '"_s + ownCode + u"'"_s;
-  const Found twin = lookFor(u"Select * from Refillstate Where Company = '"_s + company + u"'"_s + others);
+  const QString others = ownCode.isEmpty() ? QString() : u" And Code <> '"_s + plainText(ownCode) + u"'"_s;
+  const Found twin =
+      lookFor(u"Select * from Refillstate Where Company = '"_s + plainText(company) + u"'"_s + others);
   if (twin != Found::Something) return twin == Found::Nothing;
   return session_.prompts.MsgAsk(
       ownCode.isEmpty() ? u"등록을 계속하시겠습니까?"_s : u"수정을 계속하시겠습니까?"_s, refillTitle);
@@ -59,10 +60,11 @@ RegisterRules::Outcome RefillRegister::insert(const RegisterFields& boxes) {
       u"Insert into RefillState(Company, User, BusCode, Tel, Address, Fax, PostCode, GasInit, UtilInit, "
       u"Code) "
       u"Values('"_s +
-      company + u"', '"_s + boxes[u"User"_s] + u"', '"_s + boxes[u"BusCode"_s] + u"', '"_s + boxes[u"Tel"_s] +
-      u"', '"_s + boxes[u"Address"_s] + u"', '"_s + boxes[u"Fax"_s] + u"', '"_s + boxes[u"PostCode"_s] +
-      u"', "_s + typedNumber(boxes[u"GasInit"_s]) + u", "_s + typedNumber(boxes[u"UtilInit"_s]) + u", '"_s +
-      nextCode() + u"')"_s);
+      plainText(company) + u"', '"_s + plainText(boxes[u"User"_s]) + u"', '"_s +
+      plainText(boxes[u"BusCode"_s]) + u"', '"_s + plainText(boxes[u"Tel"_s]) + u"', '"_s +
+      plainText(boxes[u"Address"_s]) + u"', '"_s + plainText(boxes[u"Fax"_s]) + u"', '"_s +
+      plainText(boxes[u"PostCode"_s]) + u"', "_s + typedNumber(boxes[u"GasInit"_s]) + u", "_s +
+      typedNumber(boxes[u"UtilInit"_s]) + u", '"_s + plainText(nextCode()) + u"')"_s);
   return {true};
 }
 
@@ -70,12 +72,13 @@ RegisterRules::Outcome RefillRegister::change(const RegisterFields& boxes) {
   const QString company = boxes[u"Company"_s], code = record()[u"Code"_s];
   if (company.isEmpty()) return refuse(companyMissing, refillTitle, u"Company"_s);
   if (!nameAccepted(company, code)) return {false, u"Company"_s};
-  session_.dbBasic.Execute(u"Update RefillState Set Company = '"_s + company + u"', User = '"_s +
-                           boxes[u"User"_s] + u"', BusCode = '"_s + boxes[u"BusCode"_s] + u"', Tel = '"_s +
-                           boxes[u"Tel"_s] + u"', Address = '"_s + boxes[u"Address"_s] + u"', Fax = '"_s +
-                           boxes[u"Fax"_s] + u"', PostCode = '"_s + boxes[u"PostCode"_s] +
-                           u"', GasInit = "_s + typedNumber(boxes[u"GasInit"_s]) + u", UtilInit = "_s +
-                           typedNumber(boxes[u"UtilInit"_s]) + u" Where Code = '"_s + code + u"'"_s);
+  session_.dbBasic.Execute(
+      u"Update RefillState Set Company = '"_s + plainText(company) + u"', User = '"_s +
+      plainText(boxes[u"User"_s]) + u"', BusCode = '"_s + plainText(boxes[u"BusCode"_s]) + u"', Tel = '"_s +
+      plainText(boxes[u"Tel"_s]) + u"', Address = '"_s + plainText(boxes[u"Address"_s]) + u"', Fax = '"_s +
+      plainText(boxes[u"Fax"_s]) + u"', PostCode = '"_s + plainText(boxes[u"PostCode"_s]) +
+      u"', GasInit = "_s + typedNumber(boxes[u"GasInit"_s]) + u", UtilInit = "_s +
+      typedNumber(boxes[u"UtilInit"_s]) + u" Where Code = '"_s + plainText(code) + u"'"_s);
   return {true};
 }
 
@@ -85,7 +88,7 @@ RegisterRules::Outcome RefillRegister::erase() {
   const QString company = record()[u"Company"_s];
   if (!session_.prompts.MsgAsk(company + u" 인 거래처에 대한 자료를 삭제하시겠습니까?"_s, refillTitle))
     return {};
-  session_.dbBasic.Execute(u"Delete * From RefillState Where company = '"_s + company + u"'"_s);
+  session_.dbBasic.Execute(u"Delete * From RefillState Where company = '"_s + plainText(company) + u"'"_s);
   return {true};
 }
 

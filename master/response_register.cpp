@@ -1,5 +1,6 @@
 #include "master/response_register.h"
 
+#include "store/data_access.h"
 #include "store/date_text.h"
 
 using namespace Qt::StringLiterals;
@@ -49,9 +50,10 @@ RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& typed) {
   if (const Outcome checked = check(boxes); !checked.done) return checked;
   session_.dbBasic.Execute(
       u"Insert Into Response(Name, Tel, AppDate, IdentyNo, HP, PostCode, Address, Memo)  Values('"_s +
-      boxes[u"Name"_s] + u"', '"_s + boxes[u"Tel"_s] + u"', '"_s + boxes[u"AppDate"_s] + u"', '"_s +
-      boxes[u"IdentyNo"_s] + u"', '"_s + boxes[u"HP"_s] + u"', '"_s + boxes[u"PostCode"_s] + u"', '"_s +
-      boxes[u"Address"_s] + u"', '"_s + boxes[u"Memo"_s] + u"')"_s);
+      plainText(boxes[u"Name"_s]) + u"', '"_s + plainText(boxes[u"Tel"_s]) + u"', '"_s +
+      plainText(boxes[u"AppDate"_s]) + u"', '"_s + plainText(boxes[u"IdentyNo"_s]) + u"', '"_s +
+      plainText(boxes[u"HP"_s]) + u"', '"_s + plainText(boxes[u"PostCode"_s]) + u"', '"_s +
+      plainText(boxes[u"Address"_s]) + u"', '"_s + plainText(boxes[u"Memo"_s]) + u"')"_s);
   return {true};
 }
 
@@ -59,18 +61,20 @@ RegisterRules::Outcome ResponseRegister::change(const RegisterFields& typed) {
   RegisterFields boxes = typed;
   if (const Outcome checked = check(boxes); !checked.done) return checked;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, responseTitle)) return {};
-  session_.dbBasic.Execute(
-      u"Update Response Set Name = '"_s + boxes[u"Name"_s] + u"', Tel = '"_s + boxes[u"Tel"_s] +
-      u"', AppDate = '"_s + boxes[u"AppDate"_s] + u"', IdentyNo = '"_s + boxes[u"IdentyNo"_s] +
-      u"', HP = '"_s + boxes[u"HP"_s] + u"', PostCode = '"_s + boxes[u"PostCode"_s] + u"', Address = '"_s +
-      boxes[u"Address"_s] + u"', Memo = '"_s + boxes[u"Memo"_s] + u"' Where Code = "_s + record()[u"Code"_s]);
+  session_.dbBasic.Execute(u"Update Response Set Name = '"_s + plainText(boxes[u"Name"_s]) + u"', Tel = '"_s +
+                           plainText(boxes[u"Tel"_s]) + u"', AppDate = '"_s + plainText(boxes[u"AppDate"_s]) +
+                           u"', IdentyNo = '"_s + plainText(boxes[u"IdentyNo"_s]) + u"', HP = '"_s +
+                           plainText(boxes[u"HP"_s]) + u"', PostCode = '"_s +
+                           plainText(boxes[u"PostCode"_s]) + u"', Address = '"_s +
+                           plainText(boxes[u"Address"_s]) + u"', Memo = '"_s + plainText(boxes[u"Memo"_s]) +
+                           u"' Where Code = "_s + plainNumber(record()[u"Code"_s]));
   return {true};
 }
 
 RegisterRules::Outcome ResponseRegister::erase() {
   if (!selectedRow()) return {};
   if (!session_.prompts.MsgAsk(u"선택된 담당자에 대한 자료를 삭제하시겠습니까?"_s, responseTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Response Where Code = "_s + record()[u"Code"_s]);
+  session_.dbBasic.Execute(u"Delete * From Response Where Code = "_s + plainNumber(record()[u"Code"_s]));
   return {true};
 }
 

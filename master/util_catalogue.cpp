@@ -1,5 +1,7 @@
 #include "master/util_catalogue.h"
 
+#include "store/data_access.h"
+
 #include <QtMath>
 
 using namespace Qt::StringLiterals;
@@ -47,40 +49,43 @@ RegisterRules::Outcome UtilCatalogue::checkRequired(const RegisterFields& boxes)
 }
 
 QString UtilCatalogue::whereChosen() const {
-  return u"' Where Name = '"_s + record()[u"Name"_s] + u"' And Size = '"_s + record()[u"Size"_s] + u"'"_s;
+  return u" Where Name = '"_s + plainText(record()[u"Name"_s]) + u"' And Size = '"_s +
+         plainText(record()[u"Size"_s]) + u"'"_s;
 }
 
 RegisterRules::Outcome UtilCatalogue::insert(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   const QString name = boxes[u"Name"_s], size = boxes[u"Size"_s];
-  const Found twin =
-      lookFor(u"Select * From Util Where Name = '"_s + name + u"' And Size = '"_s + size + u"'"_s);
+  const Found twin = lookFor(u"Select * From Util Where Name = '"_s + plainText(name) + u"' And Size = '"_s +
+                             plainText(size) + u"'"_s);
   if (twin == Found::Failed) return {};
   if (twin == Found::Something)
     return refuse(name + u" "_s + size + u" 의 시설/자재는 이미 등록되어 있습니다!"_s, utilTitle, u"Name"_s);
   session_.dbBasic.Execute(
-      u"Insert into Util(Name,  Size, SizeSize, UtilPurchase, UtilSelling, UtilStock) Values('"_s + name +
-      u"', '"_s + size + u"', '"_s + boxes[u"SizeSize"_s] + u"', "_s + typedNumber(boxes[u"UtilPurchase"_s]) +
-      u", "_s + typedNumber(boxes[u"UtilSelling"_s]) + u", "_s + typedNumber(boxes[u"UtilStock"_s]) + u")"_s);
+      u"Insert into Util(Name,  Size, SizeSize, UtilPurchase, UtilSelling, UtilStock) Values('"_s +
+      plainText(name) + u"', '"_s + plainText(size) + u"', '"_s + plainText(boxes[u"SizeSize"_s]) + u"', "_s +
+      typedNumber(boxes[u"UtilPurchase"_s]) + u", "_s + typedNumber(boxes[u"UtilSelling"_s]) + u", "_s +
+      typedNumber(boxes[u"UtilStock"_s]) + u")"_s);
   return {true};
 }
 
 RegisterRules::Outcome UtilCatalogue::change(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, utilTitle)) return {};
-  session_.dbBasic.Execute(u"Update Util Set Name = '"_s + boxes[u"Name"_s] + u"', Size = '"_s +
-                           boxes[u"Size"_s] + u"', SizeSize = '"_s + boxes[u"SizeSize"_s] +
-                           u"', UtilPurchase = '"_s + typedNumber(boxes[u"UtilPurchase"_s]) +
-                           u"', UtilSelling = '"_s + typedNumber(boxes[u"UtilSelling"_s]) +
-                           u"', UtilStock = '"_s + typedNumber(boxes[u"UtilStock"_s]) + whereChosen());
+  session_.dbBasic.Execute(u"Update Util Set Name = '"_s + plainText(boxes[u"Name"_s]) + u"', Size = '"_s +
+                           plainText(boxes[u"Size"_s]) + u"', SizeSize = '"_s +
+                           plainText(boxes[u"SizeSize"_s]) + u"', UtilPurchase = '"_s +
+                           typedNumber(boxes[u"UtilPurchase"_s]) + u"', UtilSelling = '"_s +
+                           typedNumber(boxes[u"UtilSelling"_s]) + u"', UtilStock = '"_s +
+                           typedNumber(boxes[u"UtilStock"_s]) + u"'"_s + whereChosen());
   return {true};
 }
 
 RegisterRules::Outcome UtilCatalogue::erase() {
   if (!selectedRow()) return {};
   if (!session_.prompts.MsgAsk(u"선택된 자료를 삭제하시겠습니까?"_s, utilTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Util Where Name = '"_s + record()[u"Name"_s] +
-                           u"' And Size = '"_s + record()[u"Size"_s] + u"'"_s);
+  session_.dbBasic.Execute(u"Delete * From Util Where Name = '"_s + plainText(record()[u"Name"_s]) +
+                           u"' And Size = '"_s + plainText(record()[u"Size"_s]) + u"'"_s);
   return {true};
 }
 

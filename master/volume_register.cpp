@@ -1,5 +1,7 @@
 #include "master/volume_register.h"
 
+#include "store/data_access.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -44,12 +46,13 @@ RegisterRules::Outcome VolumeRegister::checkRequired(const RegisterFields& boxes
 RegisterRules::Outcome VolumeRegister::insert(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   const QString size = boxes[u"Size"_s];
-  const Found twin = lookFor(u"Select * From Volume Where Size = '"_s + size + u"' Order By Code"_s);
+  const Found twin =
+      lookFor(u"Select * From Volume Where Size = '"_s + plainText(size) + u"' Order By Code"_s);
   if (twin == Found::Failed) return {};
   if (twin == Found::Something)
     return refuse(u"규격 : "_s + size + u" 은 이미 등록되어 있습니다!"_s, volumeTitle, u"Size"_s);
-  session_.dbBasic.Execute(u"Insert Into Volume(Size, Name, Unit) Values('"_s + size + u"', '"_s +
-                           boxes[u"Name"_s] + u"', '"_s + typedNumber(boxes[u"Unit"_s]) + u"')"_s);
+  session_.dbBasic.Execute(u"Insert Into Volume(Size, Name, Unit) Values('"_s + plainText(size) + u"', '"_s +
+                           plainText(boxes[u"Name"_s]) + u"', '"_s + typedNumber(boxes[u"Unit"_s]) + u"')"_s);
   return {true};
 }
 
@@ -57,9 +60,10 @@ RegisterRules::Outcome VolumeRegister::change(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   const QString oldSize = record()[u"Size"_s], oldUnit = typedNumber(record()[u"Unit"_s]);
   const QString newUnit = typedNumber(boxes[u"Unit"_s]);
-  session_.dbBasic.Execute(u"Update Volume Set Size = '"_s + (chosenIsFixed() ? oldSize : boxes[u"Size"_s]) +
-                           u"', Name = '"_s + boxes[u"Name"_s] + u"', Unit = '"_s + newUnit +
-                           u"' Where Code = "_s + record()[u"Code"_s]);
+  session_.dbBasic.Execute(u"Update Volume Set Size = '"_s +
+                           plainText(chosenIsFixed() ? oldSize : boxes[u"Size"_s]) + u"', Name = '"_s +
+                           plainText(boxes[u"Name"_s]) + u"', Unit = '"_s + plainText(newUnit) +
+                           u"' Where Code = "_s + plainNumber(record()[u"Code"_s]));
   if (newUnit != oldUnit) spreadPrice(oldSize, oldUnit, newUnit);
   return {true};
 }
@@ -70,7 +74,8 @@ void VolumeRegister::spreadPrice(const QString& size, const QString& oldUnit, co
       u"동일한 조정기를 사용 하지만, 단가가 다른 고객도 같이 변경할까요?\n"
       u"[아니오]선택시 동일한 단가를 사용하는 고객만 변경합니다."_s,
       u"단가변경"_s);
-  QString sql = u"Update Client Set VolumeUnit = "_s + newUnit + u" Where Volume = '"_s + size + u"' "_s;
+  QString sql =
+      u"Update Client Set VolumeUnit = "_s + newUnit + u" Where Volume = '"_s + plainText(size) + u"' "_s;
   if (!specialPricesToo) sql += u"And VolumeUnit = "_s + oldUnit;
   const int count = session_.dbBasic.Execute(sql);
   session_.prompts.MsgInfo(u"고객 "_s + QString::number(count) + u" 명의 체적단가가 변경되었습니다!"_s,
@@ -82,7 +87,7 @@ RegisterRules::Outcome VolumeRegister::erase() {
   if (chosenIsFixed())
     return refuse(u"하늘색 부분의 7개의 등록사항은 삭제할 수 없습니다!"_s, u"체적관리자"_s);
   if (!session_.prompts.MsgAsk(u"선택된 자료를 삭제하시겠습니까?"_s, volumeTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Volume Where Code = "_s + record()[u"Code"_s]);
+  session_.dbBasic.Execute(u"Delete * From Volume Where Code = "_s + plainNumber(record()[u"Code"_s]));
   return {true};
 }
 

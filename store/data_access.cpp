@@ -20,7 +20,8 @@ void reportQuery(Prompts& prompts, const jet::Error& error, QStringView sql) {
   } else if (error.number() == 3261) {
     title = u"MDB 오류"_s;
   }
-  prompts.MsgInfo(text + u'\r' + sql.toString(), title);
+  const QString shown = jet::shownSql(sql);
+  prompts.MsgInfo(text.endsWith(shown) ? text : text + u'\r' + shown, title);
 }
 
 bool openRows(Prompts& prompts, const jet::Database& db, jet::Recordset& rs, QStringView sql,

@@ -6,7 +6,14 @@
 #include <optional>
 
 #include "store/jet/database.h"
+#include "store/jet/plain.h"
 #include "ui/prompts.h"
+
+// What the statements of the forms are joined with.
+using jet::copiedText;
+using jet::plainNumber;
+using jet::plainPath;
+using jet::plainText;
 
 /** False when the file cannot be opened, db is then unset. Reports nothing: the caller decides. */
 bool OpenDB(const jet::Workspace& workspace, jet::Database& db, const QString& path, bool exclusive = false);

@@ -2,6 +2,7 @@
 
 #include <QFile>
 
+#include "store/data_access.h"
 #include "store/jet/error.h"
 #include "store/session.h"
 
@@ -13,9 +14,9 @@ const QString templateYear = u"2002"_s;
 
 /** The regulators every retailer knows, whose rows can be priced but not deleted. */
 void fillFixedRegulators(const jet::Database& basic) {
-  for (const char* size : {"4", "5", "7", "10", "20", "30", "50"}) {
-    basic.Execute(u"Insert Into Volume(Size, Name, Unit) Values('"_s + QLatin1String(size) +
-                  u"', '조정기 "_s + QLatin1String(size) + u"kg/h', 0)"_s);
+  for (const QString& size : {u"4"_s, u"5"_s, u"7"_s, u"10"_s, u"20"_s, u"30"_s, u"50"_s}) {
+    basic.Execute(u"Insert Into Volume(Size, Name, Unit) Values('"_s + plainText(size) + u"', '조정기 "_s +
+                  plainText(size) + u"kg/h', 0)"_s);
   }
 }
 

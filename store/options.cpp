@@ -13,11 +13,13 @@ QString GetOption(Session& session, const QString& name, const QString& fallback
   if (!session.dbCommon.isOpen()) return fallback;
   jet::Recordset rs;
   try {
-    const QString sql = QStringLiteral("SELECT OPTValue FROM Options WHERE OPTName = '") + name + u'\'';
+    const QString sql =
+        QStringLiteral("SELECT OPTValue FROM Options WHERE OPTName = '") + plainText(name) + u'\'';
     if (!OpenSnapshot(session.prompts, session.dbCommon, rs, sql)) return fallback;
     if (rs.RecordCount() > 0) return rs["OPTValue"].toText();
-    session.dbCommon.Execute(QStringLiteral("INSERT INTO Options (OPTName, OPTValue) VALUES ('") + name +
-                             QStringLiteral("','") + fallback + QStringLiteral("')"));
+    session.dbCommon.Execute(QStringLiteral("INSERT INTO Options (OPTName, OPTValue) VALUES ('") +
+                             plainText(name) + QStringLiteral("','") + plainText(fallback) +
+                             QStringLiteral("')"));
   } catch (const jet::Error& error) {
     session.prompts.ErrorBox(QString::fromUtf8(optionFailure), error.number(), error.description());
   }
@@ -27,7 +29,7 @@ QString GetOption(Session& session, const QString& name, const QString& fallback
 void SetOption(Session& session, const QString& name, const QString& value) {
   jet::Recordset rs;
   try {
-    const QString sql = QStringLiteral("SELECT * FROM Options WHERE OPTName = '") + name + u'\'';
+    const QString sql = QStringLiteral("SELECT * FROM Options WHERE OPTName = '") + plainText(name) + u'\'';
     if (!OpenDynaset(session.prompts, session.dbCommon, rs, sql)) return;
     if (rs.RecordCount() > 0) {
       rs.Edit();

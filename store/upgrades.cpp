@@ -125,8 +125,8 @@ void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::D
       const QString code = rs[u"zipcode"_s].toText().remove(u'-');
       const QString city = rs[u"sido"_s].toText() + u' ' + rs[u"gugun"_s].toText();
       const QString lots = rs.isNull(u"bunji"_s) ? u" "_s : rs[u"bunji"_s].toText();
-      basic.Execute(u"insert into postcode values('"_s + code + u"' , '"_s + city + u"', '"_s +
-                    rs[u"dong"_s].toText() + u"', '"_s + lots + u"')"_s);
+      basic.Execute(u"insert into postcode values('"_s + copiedText(code) + u"' , '"_s + copiedText(city) +
+                    u"', '"_s + copiedText(rs[u"dong"_s].toText()) + u"', '"_s + copiedText(lots) + u"')"_s);
     }
   });
   session.pc.settings.SaveSetting(session.AppTitle, u"Registration"_s, u"PostC"_s, u"ok"_s);
@@ -157,13 +157,13 @@ void removeOrphans(Session& session) {
   walkYears(session, [&](const QString& file) {
     const jet::Database year = session.wsMain.OpenDatabase(file);
     jet::Recordset rs = year.OpenRecordset(
-        u"Select sale.clientcode From sale Left Join ["_s + session.DbPath + u"Basic.mdb"_s +
+        u"Select sale.clientcode From sale Left Join ["_s + plainPath(session.DbPath) + u"Basic.mdb"_s +
         u"].client on sale.clientcode = client.code where client.code is null"_s);
     if (rs.RecordCount() == 0) return;
     session.wsMain.Together([&] {
       for (; !rs.atEnd(); rs.MoveNext()) {
         if (rs.isNull(u"clientcode"_s)) continue;  // names no customer; the statement could not be written
-        year.Execute(u"delete * from sale where clientcode = "_s + rs[u"clientcode"_s].toText());
+        year.Execute(u"delete * from sale where clientcode = "_s + plainNumber(rs[u"clientcode"_s].toText()));
       }
     });
   });

@@ -31,4 +31,8 @@ arrow billing 'app|trade|giro|documents|links'
 arrow documents 'app|trade|billing|giro|links'
 arrow links 'app|trade|billing|giro|documents'
 arrow giro 'app|trade|documents|links'
+
+# Nothing joined into a statement leaves its place.
+tools/plain_texts $(sources app store master trade billing giro documents links | grep -v '^store/jet/') ||
+  say "a value could become part of a statement"
 exit $bad

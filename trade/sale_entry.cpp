@@ -333,8 +333,9 @@ std::optional<SaleStep> SaleEntry::TakeCallerNumber(const QString& number) {
   jet::Recordset client;
   SaleSheet wanted = posting_.sheet();
   if (OpenSnapshot(session.prompts, session.dbYear, client,
-                   "Select VolumeYesNo From Client Where Tel Like '*" + n + "' OR Tel1 Like '*" + n +
-                       "'  OR Tel2 Like '*" + n + "' OR UName Like '*" + n + "'") &&
+                   "Select VolumeYesNo From Client Where Tel Like '*" + plainText(n) + "' OR Tel1 Like '*" +
+                       plainText(n) + "'  OR Tel2 Like '*" + plainText(n) + "' OR UName Like '*" +
+                       plainText(n) + "'") &&
       !client.atEnd())
     wanted = client["VolumeYesNo"].toBool() ? SaleSheet::Volume : SaleSheet::General;
   if (wanted != posting_.sheet()) posting_.FillSaleGrid(wanted, true);

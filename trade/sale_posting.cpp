@@ -41,7 +41,7 @@ void SalePosting::PostSaleRow(int row, SaleSheet sheet) {
     }
     jet::Recordset before;
     if (!OpenSnapshot(session_.prompts, session_.dbYear, before,
-                      "Select Trust, Income From Sale Where SaleID = " + line.key))
+                      "Select Trust, Income From Sale Where SaleID = " + plainNumber(line.key)))
       return;
     const bool found = before.RecordCount() > 0;
     moveBalance(sheet, line, found ? before["Trust"].toLong() : 0, found ? before["Income"].toLong() : 0);
@@ -49,7 +49,8 @@ void SalePosting::PostSaleRow(int row, SaleSheet sheet) {
     if (line.item.isEmpty()) return;
     updateLine(sheet, line);
     // Kept: an older day takes the last date back.
-    session_.dbYear.Execute("Update Client Set LastDate = '" + line.date + "' Where Code = " + line.code);
+    session_.dbYear.Execute("Update Client Set LastDate = '" + plainText(line.date) +
+                            "' Where Code = " + plainNumber(line.code));
   });
 }
 
@@ -60,7 +61,7 @@ void SalePosting::insertSkeleton(int row, SaleSheet sheet, const SaleLine& line)
   session_.dbYear.Execute(
       "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) "
       "Values(0,0, '" +
-      line.date + "', " + line.code + tail);
+      plainText(line.date) + "', " + plainNumber(line.code) + tail);
   const jet::Recordset key = session_.dbYear.OpenRecordset("Select Max(SaleID) As Saler from Sale");
   grid(sheet).setText(row, SaleCol::Key, key["Saler"].toText());
 }
@@ -76,18 +77,19 @@ void SalePosting::moveBalance(SaleSheet sheet, const SaleLine& line, qint64 oldT
     sql << (material ? u"Update Client Set UtilInit = UtilInit + "
                      : u"Update Client Set GasInit = GasInit + ")
         << jet::Value(line.trust).toLong() << u" - " << oldTrust;
-  session_.dbYear.Execute(sql << u" Where Code = " << line.code);
+  session_.dbYear.Execute(sql << u" Where Code = " << plainNumber(line.code));
 }
 
 void SalePosting::updateLine(SaleSheet sheet, const SaleLine& line) {
   session_.dbYear.Execute(
-      jet::Sql() << u"Update Sale Set SaleDate = '" << line.date << u"', ClientCode = " << line.code
-                 << u", Response = '" << line.person << u"', SaleName = '" << line.item.name
-                 << u"', SaleThing = '" << line.item.size << u"', SaleUnit = " << line.unit << u", SaleNum = "
+      jet::Sql() << u"Update Sale Set SaleDate = '" << plainText(line.date) << u"', ClientCode = "
+                 << plainNumber(line.code) << u", Response = '" << plainText(line.person)
+                 << u"', SaleName = '" << plainText(line.item.name) << u"', SaleThing = '"
+                 << plainText(line.item.size) << u"', SaleUnit = " << line.unit << u", SaleNum = "
                  << line.number << u", SaleGubun = " << line.kind
                  << (sheet == SaleSheet::Volume ? u", Gubun = True, " : u", Gubun = False, ") << u"Income = "
                  << line.income << u", DC = " << line.discount << u", Trust = " << line.trust
-                 << u" Where SaleID = " << line.key);
+                 << u" Where SaleID = " << plainNumber(line.key));
 }
 
 void SalePosting::ApplySaleStock(int row, StockMode mode) {
@@ -138,7 +140,7 @@ void SalePosting::ReverseSaleBalance(int row, const QString& label) {
   const SpreadModel& cells = grid(sheet_);
   const QString income = saleText(saleFigure(cells.text(row, SaleCol::Income)));
   const QString trust = saleText(saleFigure(cells.text(row, SaleCol::Trust)));
-  const QString where = " Where Code = " + cells.text(row, SaleCol::Code);
+  const QString where = " Where Code = " + plainNumber(cells.text(row, SaleCol::Code));
   if (label == "수금")
     session_.dbYear.Execute("Update Client Set GasInit = GasInit + " + income + where);
   else if (label == "자수")
@@ -156,7 +158,7 @@ bool SalePosting::deleteRow(int row) {
   session_.wsMain.Together([&] {
     ReverseSaleBalance(row, label);
     if (label != "가외" && label != "자외") ApplySaleStock(row, StockMode::Delete);
-    session_.dbYear.Execute("Delete From Sale Where SaleID = " + key);
+    session_.dbYear.Execute("Delete From Sale Where SaleID = " + plainNumber(key));
   });
   refill();
   return true;
@@ -166,7 +168,8 @@ bool SalePosting::isStored(int row) {
   const QString key = grid(sheet_).text(row, SaleCol::Key);
   if (key.isEmpty()) return false;
   try {
-    return !session_.dbYear.OpenRecordset("Select SaleID From Sale Where SaleID = " + key).atEnd();
+    return !session_.dbYear.OpenRecordset("Select SaleID From Sale Where SaleID = " + plainNumber(key))
+                .atEnd();
   } catch (const jet::Error&) {
     return false;
   }
@@ -177,7 +180,8 @@ void SalePosting::postPerson(int row) {
   const QString person = cells.text(row, SaleCol::Person);
   const QString key = cells.text(row, SaleCol::Key);
   if (person.isEmpty() || key.isEmpty()) return;
-  session_.dbYear.Execute("Update Sale Set Response = '" + person + "' Where SaleID = " + key);
+  session_.dbYear.Execute("Update Sale Set Response = '" + plainText(person) +
+                          "' Where SaleID = " + plainNumber(key));
 }
 
 SaleClientPanel SalePosting::panel(int row) {

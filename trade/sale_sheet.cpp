@@ -22,9 +22,10 @@ QString sheetStatement(int year, SaleSheet sheet, const SaleFilter& filter) {
   const QString lastYear = QString::number(year - 1);
   return "Select Sale.*, Client.* From Sale Right Join Client On Sale.ClientCode = Client.Code "
          "Where Sale.SaleDate Between '" +
-         lastYear + "-01-01" + "' and '" + thisYear + "-12-31' " + sheetFilter(sheet) +
-         (filter.showDay ? " And Sale.SaleDate = '" + thisYear + "-" + filter.date + "' "
-                         : " And Sale.ClientCode = " + QString::number(filter.client) + " ") +
+         plainText(lastYear) + "-01-01" + "' and '" + plainText(thisYear) + "-12-31' " + sheetFilter(sheet) +
+         (filter.showDay
+              ? " And Sale.SaleDate = '" + plainText(thisYear) + "-" + plainText(filter.date) + "' "
+              : " And Sale.ClientCode = " + QString::number(filter.client) + " ") +
          "Order By Sale.SaleDate, Sale.SaleID ";
 }
 

@@ -97,6 +97,7 @@ void ApplySaleStock(Session& session, const SaleLine& line, StockMode mode) {
   for (const StockEffect& effect : kind->effects)
     setters << stockSetter(effect, mode) + saleText(stockMoved(effect, figures, mode, kind->deletesShown));
   session.dbYear.Execute(u"Update "_s + QString::fromUtf16(kind->table) + u" Set "_s + setters.join(u", "_s) +
-                         u" Where Size = '"_s + line.item.size + u"' And "_s +
-                         QString::fromUtf16(kind->nameColumn) + u" = '"_s + line.item.name + u"'"_s);
+                         u" Where Size = '"_s + plainText(line.item.size) + u"' And "_s +
+                         QString::fromUtf16(kind->nameColumn) + u" = '"_s + plainText(line.item.name) +
+                         u"'"_s);
 }

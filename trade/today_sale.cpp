@@ -9,13 +9,13 @@ namespace {
 QString daySumFilter(SaleSheet sheet) {
   switch (sheet) {
     case SaleSheet::Volume:
-      return u"' And Gubun = True"_s;
+      return u" And Gubun = True"_s;
     case SaleSheet::Material:
-      return u"' And (SaleGubun = 7 or SaleGubun = 8)"_s;
+      return u" And (SaleGubun = 7 or SaleGubun = 8)"_s;
     case SaleSheet::General:
       break;
   }
-  return u"' And Gubun = False And SaleGubun <> 7 And SaleGubun <> 8"_s;
+  return u" And Gubun = False And SaleGubun <> 7 And SaleGubun <> 8"_s;
 }
 
 }  // namespace
@@ -30,7 +30,7 @@ bool TodaySale::load() {
     if (!OpenSnapshot(session_.prompts, session_.dbYear, rows,
                       u"SELECT Sum(Sale.SaleNum) AS SaleNum, Sum(Sale.Income) AS Income, Sum(Sale.DC) AS DC, "
                       u"Sum(Sale.Trust) AS Trust FROM Sale Where SaleDate = '"_s +
-                          session_.SaleDay + daySumFilter(sheet)))
+                          plainText(session_.SaleDay) + u"'"_s + daySumFilter(sheet)))
       return false;
     sums_[size_t(sheet)] = {rows[u"SaleNum"_s].toLong(), rows[u"Income"_s].toLong(), rows[u"DC"_s].toLong(),
                             rows[u"Trust"_s].toLong()};

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "store/jet/error_texts.h"
+#include "store/jet/plain.h"
 
 namespace jet {
 
@@ -60,10 +61,14 @@ QDate dateLiteral(QStringView text) {
 
 }  // namespace
 
-void throwSyntax(QStringView sql, qsizetype place, const QString& what) {
+QString syntaxText(QStringView sql, qsizetype place, const QString& what) {
   const QString near = sql.mid(place, 20).toString();
   const QString where = near.isEmpty() ? u"문장의 끝"_s : u"%1번째 글자 '%2'"_s.arg(place + 1).arg(near);
-  fail(3075, u"%1 (%2)"_s.arg(what, where));
+  return u"%1 (%2)"_s.arg(what, where);
+}
+
+void throwSyntax(QStringView sql, qsizetype place, const QString& what) {
+  fail(3075, syntaxText(sql, place, what));
 }
 
 Value Token::value() const {
@@ -163,6 +168,7 @@ inline void Lexer::readSymbol(Token& token) {
 }
 
 Lexer::Lexer(QStringView sql) : sql_(sql) {
+  requirePlain(sql);
   while (at_ < sql_.size() && signOf(sql_[at_]) == Sign::Space) ++at_;
   const qsizetype begin = at_;
   if (at_ == sql_.size() || signOf(sql_[at_]) != Sign::Letter) return;

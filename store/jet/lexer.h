@@ -67,7 +67,9 @@ class Lexer {
   int depth_ = 0, orderingDepth_ = 0;
 };
 
-/** 3075 with the place: what stands there and the number of its character, from 1. */
+/** What is wrong with its place: what stands there and the number of its character, from 1. */
+QString syntaxText(QStringView sql, qsizetype place, const QString& what);
+/** The same as error 3075. */
 [[noreturn]] void throwSyntax(QStringView sql, qsizetype place, const QString& what);
 
 }  // namespace jet

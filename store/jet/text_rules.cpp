@@ -88,7 +88,7 @@ std::optional<double> shortNumber(QStringView text) {
   return minus ? -number : number;
 }
 
-double plainNumber(QStringView text) {
+double numberAsWritten(QStringView text) {
   QByteArray latin = text.toLatin1();
   latin.replace(',', "");
   latin.replace('d', 'e').replace('D', 'e');
@@ -201,7 +201,7 @@ double val(QStringView text) {
   if (const auto number = radixNumber(rest, &used)) return *number;
   const bool minus = rest.startsWith(u'-');
   if (minus || rest.startsWith(u'+')) rest = rest.sliced(1);
-  const double number = plainNumber(rest.first(plainNumberLength(rest, false)));
+  const double number = numberAsWritten(rest.first(plainNumberLength(rest, false)));
   return minus ? -number : number;
 }
 
@@ -236,7 +236,7 @@ std::optional<double> numberOf(QStringView text) {
   }
   const qsizetype length = plainNumberLength(text, true);
   if (length == 0 || length != text.size()) return {};
-  const double number = plainNumber(text);
+  const double number = numberAsWritten(text);
   return minus ? -number : number;
 }
 

@@ -58,6 +58,10 @@ TEST_F(FrameRulesTest, HiddenClearingStartsAtTheGivenCode) {
   prompts.expectInput("체적자료 클리어", "13579");
   prompts.expectInput("시작할 고객코드를 입력하세요.(전체:0)", "");
   clearBook(session, atOnce);
+  prompts.expect("클리어된 데이터는 복구 불가능합니다.");
+  prompts.expectInput("암호확인", "13579");
+  prompts.expectInput("체적자료 새로 생성", "9 Or 1=1");
+  EXPECT_THROW(clearBook(session, atOnce), jet::Error);
   EXPECT_EQ(number(session.dbYear, "Select Sum(Total) From Evaporation"), 13000) << "nothing has run so far";
 
   prompts.expect("클리어된 데이터는 복구 불가능합니다.");

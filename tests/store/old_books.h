@@ -89,7 +89,7 @@ inline void makeOldBooks(TestPc& here) {
   }
   const jet::Database post = ws.OpenDatabase(session.DbPath + QStringLiteral("dbPost.mdb"));
   post.Execute("Insert Into Post Values('702-010', '대구', '북구', '고성동', '1~99')");
-  post.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('700-020', '대구', '중구', '동인동')");
+  post.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('700-020', '대구', '중구', '동인''동')");
 }
 
 }  // namespace tests

@@ -74,7 +74,7 @@ TEST_F(Upgrades, PostCodesAreMadeAnewOnceUnlessTheyAreWideOrDone) {
   QStringList rows;
   for (; !rs.atEnd(); rs.MoveNext())
     rows << rs[0].toText() + u'/' + rs[1].toText() + u'/' + rs[2].toText() + u'/' + rs[3].toText();
-  EXPECT_EQ(rows, (QStringList{"700020/대구 중구/동인동/ ", "702010/대구 북구/고성동/1~99"}));
+  EXPECT_EQ(rows, (QStringList{"700020/대구 중구/동인'동/ ", "702010/대구 북구/고성동/1~99"}));
   here.pc.settings.SaveSetting(u"해온판매"_s, u"Registration"_s, u"PostC"_s, u""_s);
   upgrades::rebuildPostCodes(session, basic, post);  // DDD is 60 wide now: no box
 }
