@@ -82,6 +82,7 @@ void StartUp::loadSteps() {
   pc.settings.SaveSetting(u"Backup"_s, u"DB경로"_s, u"경로"_s, session_.DbPath);
   session_.dbYear = session_.wsMain.OpenDatabase(yearFile(session_, session_.WorkYear));
   session_.dbTax = session_.wsMain.OpenDatabase(session_.DbPath + u"dbTax.mdb"_s);
+  upgrades::widenTaxFields(session_.dbTax);
   pc.settings.SaveSetting(u"MainProg"_s, u"경로설정"_s, u"Map경로"_s, u"C:\\RWGAS\\MAP\\"_s);
   user_ = session_.dbBasic.OpenRecordset(u"Select * From User"_s);
   fillScreen();

@@ -120,12 +120,12 @@ std::vector<jet::TableDef> taxTables() {
   return {
       make(
           "TaxAcount",
-          {text("Serial", 7), text("CCode", 6), date("DealDate"), text("DealYY", 7), date("IssueDate"),
+          {text("Serial", 20), text("CCode", 6), date("DealDate"), text("DealYY", 7), date("IssueDate"),
            whole("TradeKum"), whole("VatKum"), whole("Blank"), text("List", 100), text("Section", 1)},
           {primary("PK", {"Serial"}), index("Client", {"CCode", "DealYY"}), index("DealDate", {"DealDate"})}),
       make("NewAcount",
-           {text("TaxCode", 7), text("CCode", 6), text("CName", 60), text("PCode", 10), text("PName", 60),
-            text("PNorm", 30), whole("Quantity"), real("UnitCost"), whole("TradeKum"), whole("VatKum"),
+           {text("TaxCode", 20), text("CCode", 6), text("CName", 60), text("PCode", 10), text("PName", 60),
+            text("PNorm", 30), real("Quantity"), real("UnitCost"), whole("TradeKum"), whole("VatKum"),
             whole("SumKum"), date("DealDate"), date("IssueDate"), whole("Item")},
            {index("TaxCode", {"TaxCode"})}),
   };

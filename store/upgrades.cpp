@@ -186,6 +186,20 @@ bool relink(Session& session) {
   return all;
 }
 
+void widenTaxFields(const jet::Database& tax) {
+  for (const auto& [table, field] : {std::pair{u"TaxAcount"_s, u"Serial"_s},
+                                     {u"NewAcount"_s, u"TaxCode"_s},
+                                     {u"NewAcount"_s, u"Quantity"_s}}) {
+    if (!tax.hasTable(table)) continue;
+    const jet::TableDef stored = tax.tableDef(table);
+    const jet::Field *const known = fieldOf(stored, field),
+                            &wanted = *fieldOf(schema::table(schema::File::Tax, table), field);
+    if (!known || (known->type == wanted.type && known->size >= wanted.size)) continue;
+    const QString type = wanted.type == jet::Type::Double ? u"Double"_s : u"Text(%1)"_s.arg(wanted.size);
+    tax.Execute(u"Alter Table %1 Alter Column %2 %3"_s.arg(table, field, type));
+  }
+}
+
 void addMoreTelephones(Session& session) {
   jet::Database basic;
   if (!OpenDB(session.wsMain, basic, session.BasicPath)) return;

@@ -34,6 +34,9 @@ void removeOrphans(Session& session);
 /** Sets BasicPath and links the tables of Basic.mdb into every year file anew. False at the first file that does not
  *  open. */
 bool relink(Session& session);
+/** TaxAcount.Serial and NewAcount.TaxCode take more than the usual seven digits (a month's number goes beyond 999),
+ *  Quantity takes fractions. */
+void widenTaxFields(const jet::Database& tax);
 /** Client.Tel1, and Tel2 only where Tel1 was missing. */
 void addMoreTelephones(Session& session);
 /** Opens dbCommon on the installed folder's Basic.mdb (ends quietly when that fails) and makes its table Options. */

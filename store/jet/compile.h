@@ -61,6 +61,7 @@ struct Compiled {
     CreateTable,
     DropTable,
     AddColumn,
+    AlterColumn,
     CreateIndex,
     DropIndex
   };
@@ -72,7 +73,7 @@ struct Compiled {
   std::vector<TableInfo> keys;
   TableInfo target;  ///< the table written, for the checks before the write (and for DDL)
   TableDef
-      definition;  ///< CreateTable: the table; AddColumn: its one field; indexes: the index. No sql for these
+      definition;  ///< CreateTable: the table; AddColumn, AlterColumn: its one field; indexes: the index. No sql for these
 };
 
 enum class Keys { None, With };

@@ -303,6 +303,43 @@ void DataFile::addField(Connection& connection, const QString& name, const Field
   load(connection);
 }
 
+void DataFile::widenField(Connection& connection, const QString& name, const Field& wanted) {
+  TableDef table = own(name);
+  const Field* const known = fieldOf(table, wanted.name);
+  if (!known) fail(3265, wanted.name);
+  Field& field = table.fields[size_t(known - table.fields.data())];
+  constexpr int longestText = 255;
+  const auto sizeOf = [](const Field& text) { return text.size == 0 ? longestText : text.size; };
+  const bool indexed = std::ranges::any_of(table.indexes, [&](const Index& index) {
+    return index.fields.contains(field.name, Qt::CaseInsensitive);
+  });
+  if (field.type == wanted.type && (field.type != Type::Text || sizeOf(wanted) <= sizeOf(field))) return;
+
+  Savepoint step(connection);
+  if (field.type == Type::Text && wanted.type == Type::Text) {
+    field.size = wanted.size;  // the rows lie in a column without a size
+  } else if (field.type == Type::Long && wanted.type == Type::Double && !indexed && !field.autonumber) {
+    field.type = Type::Double;
+    const QByteArray alter = "ALTER TABLE " + schemaName(table.name), own = quotedName(field.name);
+    Field wide = field;
+    wide.name += u'~';
+    for (const char* event : {" required INSERT", " required UPDATE"})
+      connection.exec("DROP TRIGGER IF EXISTS " +
+                      schemaName(table.name + u'.' + field.name + QLatin1StringView(event)));
+    connection.exec(alter + " ADD COLUMN " + columnText(wide, false, false));
+    connection.exec("UPDATE " + schemaName(table.name) + " SET " + quotedName(wide.name) + " = " + own);
+    connection.exec(alter + " DROP COLUMN " + own);
+    connection.exec(alter + " RENAME COLUMN " + quotedName(wide.name) + " TO " + own);
+    if (field.required) requireFromNowOn(connection, table.name, field.name);
+  } else {
+    fail(3219, field.name);
+  }
+  writeFields(connection, table);
+  bumpVersion(connection);
+  step.release();
+  load(connection);
+}
+
 void DataFile::createIndex(Connection& connection, const QString& name, const Index& index) {
   const TableDef& table = own(name);
   checkName(index.name);

@@ -51,6 +51,9 @@ class DataFile {
   void createTable(Connection& connection, const TableDef& table);
   void dropTable(Connection& connection, const QString& name);
   void addField(Connection& connection, const QString& table, const Field& field, int ordinal);
+  /** A longer text, or a whole number that becomes one with fractions; nothing where the field holds that already. Its
+   *  default and its requirement stay. 3219 for every other change and for a number in an index. */
+  void widenField(Connection& connection, const QString& table, const Field& wanted);
   void createIndex(Connection& connection, const QString& table, const Index& index);
   void dropIndex(Connection& connection, const QString& table, const QString& index);
 

@@ -49,6 +49,8 @@ void runDefinition(DatabaseData& data, const Compiled& compiled) {
         return file->dropTable(connection, wanted.name);
       case Compiled::Kind::AddColumn:
         return file->addField(connection, wanted.name, wanted.fields.front(), -1);
+      case Compiled::Kind::AlterColumn:
+        return file->widenField(connection, wanted.name, wanted.fields.front());
       case Compiled::Kind::CreateIndex:
         return file->createIndex(connection, wanted.name, wanted.indexes.front());
       default:

@@ -66,7 +66,10 @@ Statement Parser::alter() {
   made.kind = Compiled::Kind::AddColumn;
   expectWord("TABLE"_L1);
   made.definition.name = name();
-  expectWord("ADD"_L1);
+  if (takeWord("ALTER"_L1))
+    made.kind = Compiled::Kind::AlterColumn;
+  else
+    expectWord("ADD"_L1);
   takeWord("COLUMN"_L1);
   made.definition.fields.push_back(fieldDefinition(made.definition));
   return made;

@@ -111,6 +111,9 @@ void Resolver::resolveDefinition(Statement& statement) {
   }
   if (!table) fail(3376, name);
   statement.target = *table;
+  if (statement.kind == Compiled::Kind::AlterColumn &&
+      !findField(table->fields, statement.definition.fields.front().name))
+    fail(3061, statement.definition.fields.front().name);
   if (statement.kind == Compiled::Kind::AddColumn &&
       findField(table->fields, statement.definition.fields.front().name))
     fail(3380, statement.definition.fields.front().name);

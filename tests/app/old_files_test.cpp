@@ -24,7 +24,7 @@ const OldStep oldSteps[] = {
     {"Options", schema::File::Basic, "Options", {}},
 };
 
-struct OldFiles : testing::TestWithParam<OldStep> {
+struct OldBooks : testing::Test {
   TestPc here;
   Session& session = here.session;
 
@@ -60,6 +60,7 @@ struct OldFiles : testing::TestWithParam<OldStep> {
     return all;
   }
 };
+struct OldFiles : OldBooks, testing::WithParamInterface<OldStep> {};
 
 TEST_P(OldFiles, AreBroughtUpToDateOnce) {
   here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
@@ -84,6 +85,38 @@ TEST_P(OldFiles, AreBroughtUpToDateOnce) {
   const QString once = dumps();
   ASSERT_TRUE(start());
   EXPECT_EQ(dumps(), once);
+}
+
+TEST_F(OldBooks, TheTaxFileTakesTheNumberAfter999AndFractions) {
+  here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
+  ASSERT_TRUE(start());
+  {
+    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
+    const jet::Database tax = workspace.OpenDatabase(session.DbPath + u"dbTax.mdb"_s);
+    for (jet::TableDef old : schema::tablesOf(schema::File::Tax)) {
+      tax.deleteTable(old.name);
+      for (jet::Field& field : old.fields) {
+        if (field.name == u"Serial" || field.name == u"TaxCode") field.size = 7;
+        if (field.name == u"Quantity") field.type = jet::Type::Long;
+      }
+      tax.createTable(old);
+    }
+    tax.Execute(u"Insert Into TaxAcount(Serial, List) Values('2603999', 'LPG 20')"_s);
+    tax.Execute(u"Insert Into NewAcount(TaxCode, Quantity, UnitCost) Values('2603999', 7, 1.5)"_s);
+  }
+  ASSERT_TRUE(start());
+  const QString once = dumps();
+  ASSERT_TRUE(start());
+  EXPECT_EQ(dumps(), once);
+  const jet::Workspace workspace = openWorkspace(session, session.DbPath);
+  const jet::Database tax = workspace.OpenDatabase(session.DbPath + u"dbTax.mdb"_s);
+  EXPECT_EQ(firstOf(tax, u"Select List & Serial From TaxAcount"_s), "LPG 202603999");
+  tax.Execute(u"Insert Into TaxAcount(Serial) Values('26031000')"_s);
+  tax.Execute(
+      u"INSERT INTO NewAcount VALUES ('26031000', '1', 'c', '0', 'p', 'n', 2.25, 4, 9, 1, 10, '', '', 0)"_s);
+  EXPECT_EQ(firstOf(tax, u"Select Sum(Quantity * UnitCost) From NewAcount"_s), "19.5");  // 7 x 1.5 + 2.25 x 4
+  EXPECT_EQ(firstOf(tax, u"SELECT Serial FROM TaxAcount WHERE Serial LIKE '2603*' ORDER BY Serial Desc;"_s),
+            "2603999");
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, OldFiles, testing::ValuesIn(oldSteps),

@@ -57,6 +57,31 @@ TEST_F(CatalogueOnDisk, TheOrdinalDecidesWhereAFieldStands) {
   EXPECT_EQ(rows(year, u"Select c, * From Tmp Where a = '4'"_s), "6|4|5|6");
 }
 
+TEST_F(CatalogueOnDisk, AWidenedFieldKeepsItsRowsAndItsHabits) {
+  jet::Field count = number(u"Count"_s, 3);
+  count.required = true;
+  year.createTable(table(u"Tax"_s, {text(u"Serial"_s, 7), count, number(u"Item"_s), text(u"Name"_s, 4)},
+                         {{u"PK"_s, {u"Serial"_s}, true, true}, {u"Item"_s, {u"Item"_s}, false, false}}));
+  year.Execute(u"Insert Into Tax(Serial, Item) Values('2601999', 5)"_s);
+  year.Execute(u"ALTER TABLE tax ALTER COLUMN serial Text(20)"_s);
+  year.Execute(u"Alter Table Tax Alter Count Double"_s);
+  year.Execute(u"Alter Table Tax Alter Column Count Double"_s);  // is so already
+  year.Execute(u"Alter Table Tax Alter Column Name Text(2)"_s);  // holds that already
+  year.Execute(u"Insert Into Tax Values('26011000', 2.5, 6, '네글자다')"_s);
+  year.Execute(u"Insert Into Tax(Serial) Values('26011001')"_s);
+  EXPECT_EQ(rows(year, u"Select * From Tax Order By Serial"_s),
+            "26011000|2.5|6|네글자다 26011001|3|-|- 2601999|3|5|-");
+  EXPECT_EQ(failureOf([&] { year.Execute(u"Update Tax Set Count = Null"_s); }), 3314);
+  EXPECT_EQ(failureOf([&] { year.Execute(u"Insert Into Tax(Serial) Values('26011000')"_s); }), 3022);
+  EXPECT_EQ(failureOf([&] { year.Execute(u"Alter Table Tax Alter Column Item Double"_s); }), 3219);
+  EXPECT_EQ(failureOf([&] { year.Execute(u"Alter Table Tax Alter Column Serial Long"_s); }), 3219);
+  EXPECT_EQ(failureOf([&] { year.Execute(u"Alter Table Tax Alter Column Nope Text(9)"_s); }), 3061);
+  const jet::Database again = open().OpenDatabase(path(u"2026Foundation.mdb"_s));
+  EXPECT_EQ(again.tableDef(u"Tax"_s).fields[0].size, 20);
+  EXPECT_EQ(again.tableDef(u"Tax"_s).fields[1].type, jet::Type::Double);
+  EXPECT_EQ(again.tableDef(u"Tax"_s).fields[1].defaultValue.toLong(), 3);
+}
+
 TEST_F(CatalogueOnDisk, BadDefinitionsLeaveNothingBehind) {
   const auto making = [&](const jet::TableDef& made) { return failureOf([&] { basic.createTable(made); }); };
   EXPECT_EQ(making(table(u"client"_s, {text(u"x"_s)})), 3010);

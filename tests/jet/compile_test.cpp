@@ -120,6 +120,7 @@ TEST(Compile, TargetAndDefinition) {
   const Compiled add = compiled(u"ALTER TABLE client ADD COLUMN HPhone Text(14)"_s);
   EXPECT_EQ(add.kind, Compiled::Kind::AddColumn);
   EXPECT_EQ(add.definition.fields.front().size, 14);
+  EXPECT_EQ(compiled(u"Alter Table client Alter Column Tel Text(30)"_s).kind, Compiled::Kind::AlterColumn);
   EXPECT_EQ(compiled(u"drop table sale"_s).kind, Compiled::Kind::DropTable);
   const Compiled index = compiled(u"Create Unique Index i On Client (Tel, Name Desc) With Primary"_s);
   EXPECT_TRUE(index.definition.indexes.front().primary);
