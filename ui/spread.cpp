@@ -16,7 +16,6 @@ Spread::Spread(SpreadModel& model, QWidget* parent)
   setFrameShape(QFrame::StyledPanel);
   setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(line_);
-  setAttribute(Qt::WA_InputMethodEnabled);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -24,7 +23,11 @@ Spread::Spread(SpreadModel& model, QWidget* parent)
   line_->setFrame(false);
   line_->setContextMenuPolicy(Qt::NoContextMenu);
   line_->setStyleSheet(QStringLiteral("border: none; padding: 0 2px; min-height: 0; background: #FFFFFF;"));
+  line_->setAcceptDrops(false);  // a resting cell is not written by a slip of the mouse
   line_->installEventFilter(this);
+  connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {
+    if (isEditing() && !text.isEmpty() && model_.column(editCol_).kind == CellKind::Text) clearable_ = true;
+  });
 
   // The model may be gone before this widget, or the widget before the model: neither asks the other at the end.
   model_.setObserver([self = QPointer<Spread>(this)](SpreadModel::What what, int row, int col) {
@@ -56,6 +59,7 @@ void Spread::told(SpreadModel::What what, int row, int) {
       viewport()->update(QRect(0, cellRect(row, 1).top(), viewport()->width(), rowPixels_));
     return;
   }
+  closeList();
   if (what == What::RowsInserted || what == What::RowsRemoved) {
     const auto moved = [&](int at) {
       if (at < row) return at;

@@ -40,7 +40,8 @@ class Spread : public QAbstractScrollArea {
   /** Before an edit opens; False keeps the cell at rest. */
   std::function<bool(int row, int col)> editStarting;
   /** Every key but the plain typing, first of all. While a cell is being edited (isEditing(), editingText()) only
-   *  Enter and the function keys come. True: the form has done it. */
+   *  Enter and the function keys come. True: the form has done it. Of keys with Shift, Ctrl or Alt only Enter comes:
+   *  the others belong to Form::onKey. */
   std::function<bool(int row, int col, int key, Qt::KeyboardModifiers modifiers)> keyPressed;
   /** Enter, after the edit was accepted and when the rule has not moved the cursor itself. Without the hook the
    *  cursor goes to the next open cell. */
@@ -75,6 +76,8 @@ class Spread : public QAbstractScrollArea {
   bool commitEdit();
   /** Closes the editor; the cell keeps the text it had. */
   void cancelEdit();
+  /** Before the page or window is left whatever the rule says: the open text is taken, a refused one given up. */
+  void leaveEdit();
 
   // --- measures ---------------------------------------------------------------------------------------------
   /** In half-width characters, as SpreadColumn::width. */
@@ -102,7 +105,7 @@ class Spread : public QAbstractScrollArea {
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void inputMethodEvent(QInputMethodEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
@@ -132,15 +135,20 @@ class Spread : public QAbstractScrollArea {
   bool movingKey(QKeyEvent* event);
   void enter();
   void tab(int step);
+  void paste();
+  void leaveEditLater();
   // spread_edit.cpp
   bool openEditor(bool keepText);
   void closeEditor();
   bool canEdit() const;
+  static QString takenBy(CellKind kind, const QString& text);
+  bool saysNothing(const QString& typed) const;
   bool finish(int row, int col, const QString& newText);
   QString typedText() const;
   void flushComposition();
   bool lineInput(QInputMethodEvent* event);
   void openList(const QString& typed);
+  void closeList();
   void takeFromList(bool byEnter);
   bool listEvent(QEvent* event);
   void toggleCheck();
@@ -161,6 +169,7 @@ class Spread : public QAbstractScrollArea {
   int editRow_ = 0, editCol_ = 0;
   bool committing_ = false;
   bool opening_ = false;
+  bool clearable_ = false;  ///< an empty text is meant
   QString preedit_;
 
   std::vector<double> widths_;  ///< the operator's own; 0 takes the column's

@@ -7,9 +7,14 @@
 #include <QListWidget>
 #include <QRegularExpressionValidator>
 
+#include <algorithm>
+
 #include "ui/spread.h"
 
 namespace {
+
+/** More would not fit into the files' whole numbers, and no one would notice what became of it. */
+constexpr int mostDigits = 12;
 
 bool isAmount(CellKind kind) {
   return kind == CellKind::Integer || kind == CellKind::Number || kind == CellKind::Money;
@@ -21,15 +26,13 @@ QString bareText(CellKind kind, QString text) {
 }
 
 QString patternOf(CellKind kind) {
-  switch (kind) {
-    case CellKind::Integer:
-      return QStringLiteral("-?[0-9,]*");
-    case CellKind::Number:
-    case CellKind::Money:
-      return QStringLiteral("-?[0-9,]*(\\.[0-9]*)?");
-    default:
-      return {};
-  }
+  const QString whole = QStringLiteral("-?(,*[0-9]){0,%1},*").arg(mostDigits);
+  if (kind == CellKind::Integer) return whole;
+  return isAmount(kind) ? whole + QStringLiteral("(\\.[0-9]*)?") : QString();
+}
+
+bool hasDigit(const QString& text) {
+  return std::any_of(text.begin(), text.end(), [](QChar letter) { return letter >= u'0' && letter <= u'9'; });
 }
 
 QString maskOf(CellKind kind) {
@@ -38,7 +41,26 @@ QString maskOf(CellKind kind) {
   return {};
 }
 
+/** Amounts and dates: a text without a digit is none of them. */
+bool needsDigits(CellKind kind) {
+  return isAmount(kind) || !maskOf(kind).isEmpty();
+}
+
 }  // namespace
+
+QString Spread::takenBy(CellKind kind, const QString& text) {
+  if (!needsDigits(kind)) return text;
+  QString taken;
+  for (const QChar letter : kind == CellKind::Integer ? text.section(u'.', 0, 0) : text) {
+    const bool digit = letter >= u'0' && letter <= u'9';
+    const bool sign = isAmount(kind) && (letter == u'-' || letter == u',');
+    const bool point = isAmount(kind) && letter == u'.';
+    if (digit || sign || point) taken += letter;
+  }
+  // A whole date pasted into a cell of month and day.
+  if (kind == CellKind::MonthDay && taken.size() == 8) taken.remove(0, 4);
+  return taken;
+}
 
 bool Spread::canEdit() const {
   return activeRow_ > 0 && activeCol_ > 0 && activeRow_ <= model_.MaxRows() &&
@@ -51,7 +73,7 @@ QString Spread::editingText() const {
 
 QString Spread::typedText() const {
   const CellKind kind = model_.column(editCol_).kind;
-  const QString text = line_->text() + preedit_;
+  const QString text = line_->text().insert(line_->cursorPosition(), preedit_);
   const bool emptyMask = !line_->inputMask().isEmpty() && QString(text).remove(u'-').trimmed().isEmpty();
   return emptyMask ? QString() : bareText(kind, text);
 }
@@ -93,6 +115,7 @@ bool Spread::openEditor(bool keepText) {
   line_->setAlignment(
       Qt::AlignVCenter |
       (isAmount(column.kind) || column.align == CellAlign::Right ? Qt::AlignRight : Qt::AlignLeft));
+  clearable_ = keepText;
   line_->setText(keepText ? bareText(column.kind, model_.text(editRow_, editCol_)) : QString());
   if (!line_->inputMask().isEmpty()) line_->setCursorPosition(0);
   placeLine();
@@ -127,19 +150,33 @@ void Spread::flushComposition() {
   QCoreApplication::sendEvent(line_, &whole);
 }
 
+/** Nothing was meant by the text: an editor that took nothing, or an amount or date without a digit. Only what was
+ *  opened with its text is emptied on purpose. */
+bool Spread::saysNothing(const QString& typed) const {
+  if (typed.isEmpty()) return !clearable_;
+  return needsDigits(model_.column(editCol_).kind) && !hasDigit(typed);
+}
+
+void Spread::leaveEdit() {
+  closeList();
+  if (!commitEdit()) cancelEdit();
+}
+
 bool Spread::commitEdit() {
+  closeList();
   if (!isEditing()) return true;
   if (committing_) return false;
   flushComposition();
   const int row = editRow_, col = editCol_;
   const QString typed = typedText();
-  if (typed == bareText(model_.column(col).kind, model_.text(row, col))) {
+  if (saysNothing(typed) || typed == bareText(model_.column(col).kind, model_.text(row, col))) {
     closeEditor();
     return true;
   }
   const bool accepted = finish(row, col, typed);
   if (!isEditing()) return accepted;
-  if (accepted) {
+  // Nobody can mend the text on a page that is no longer seen.
+  if (accepted || !isVisible()) {
     closeEditor();
   } else {
     line_->setFocus();
@@ -161,22 +198,29 @@ bool Spread::finish(int row, int col, const QString& newText) {
   return whole && accepted;
 }
 
-/** An input method speaks to the resting cell: the cell opens and the line box receives the whole event. */
+/** An input method speaks to the cell: a resting one opens and the line box receives the whole event. */
 bool Spread::lineInput(QInputMethodEvent* event) {
-  const bool says = !event->preeditString().isEmpty() || !event->commitString().isEmpty();
-  if (!isEditing()) {
-    if (!says) return false;
-    if (!canEdit()) return true;
-    const CellKind kind = model_.column(activeCol_).kind;
-    if (kind == CellKind::Combo) {
-      QGuiApplication::inputMethod()->reset();
-      openList(event->commitString() + event->preeditString());
-      return true;
-    }
-    if (kind == CellKind::CheckBox || !openEditor(false)) return true;
+  const QString& composed = event->preeditString();
+  const QString& written = event->commitString();
+  const bool says = !composed.isEmpty() || !written.isEmpty();
+  if (!isEditing() && !says) return false;
+  if (!isEditing() && !canEdit()) return true;
+  const CellKind kind = model_.column(isEditing() ? editCol_ : activeCol_).kind;
+  if (kind == CellKind::Text) {
+    if (!openEditor(false)) return true;
+    preedit_ = composed;
+    return false;
   }
-  preedit_ = event->preeditString();
-  return false;
+  // Only a text is composed; of what is written any other cell takes what it can.
+  if (!composed.isEmpty()) QGuiApplication::inputMethod()->reset();
+  if (kind == CellKind::Combo) {
+    if (says) openList(written + composed);
+  } else if (kind == CellKind::CheckBox) {
+    if (written == u' ') toggleCheck();
+  } else if (const QString taken = takenBy(kind, written); !taken.isEmpty() && openEditor(false)) {
+    line_->insert(taken);
+  }
+  return true;
 }
 
 void Spread::toggleCheck() {
@@ -199,6 +243,7 @@ void Spread::openList(const QString& typed) {
     list_->setWindowFlags(Qt::Popup);
     list_->setFrameShape(QFrame::Box);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setAttribute(Qt::WA_InputMethodEnabled);
     list_->installEventFilter(this);
     connect(list_, &QListWidget::itemClicked, this, [this] { takeFromList(false); });
   }
@@ -220,11 +265,16 @@ void Spread::openList(const QString& typed) {
   list_->setFocus();
 }
 
+void Spread::closeList() {
+  if (!list_ || !list_->isVisible()) return;
+  list_->hide();
+  line_->setFocus();
+}
+
 void Spread::takeFromList(bool byEnter) {
   const int row = activeRow_, col = activeCol_;
   const QString chosen = list_->currentItem() ? list_->currentItem()->text() : QString();
-  list_->hide();
-  line_->setFocus();
+  closeList();
   if (chosen != model_.text(row, col) && !finish(row, col, chosen)) return;
   if (!byEnter || row != activeRow_ || col != activeCol_) return;
   if (enterPressed)
@@ -234,6 +284,14 @@ void Spread::takeFromList(bool byEnter) {
 }
 
 bool Spread::listEvent(QEvent* event) {
+  if (event->type() == QEvent::InputMethod) {
+    // The list searches by keys alone; a Hangul syllable finds its entry too.
+    auto* const spoken = static_cast<QInputMethodEvent*>(event);
+    const auto found =
+        list_->findItems(spoken->commitString() + spoken->preeditString(), Qt::MatchStartsWith);
+    if (!found.isEmpty()) list_->setCurrentItem(found.first());
+    return true;
+  }
   if (event->type() != QEvent::KeyPress) return false;
   switch (static_cast<QKeyEvent*>(event)->key()) {
     case Qt::Key_Return:
@@ -242,8 +300,7 @@ bool Spread::listEvent(QEvent* event) {
       takeFromList(true);
       return true;
     case Qt::Key_Escape:
-      list_->hide();
-      line_->setFocus();
+      closeList();
       return true;
     default:
       return false;

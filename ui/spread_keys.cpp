@@ -1,5 +1,6 @@
 // The grid's keyboard: what a key does while a cell rests and while it is edited.
-#include <QCoreApplication>
+#include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -16,10 +17,13 @@ bool isFunctionKey(int key) {
   return key >= Qt::Key_F1 && key <= Qt::Key_F35;
 }
 
+/** Held down with a key they make a command of it; Shift may still be held from the letter before. */
+bool isCommand(const QKeyEvent& event) {
+  return event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+}
+
 bool isTyping(const QKeyEvent& event) {
-  const auto modifiers =
-      event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier);
-  return !modifiers && !event.text().isEmpty() && event.text().at(0).isPrint();
+  return !isCommand(event) && !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
 }  // namespace
@@ -28,15 +32,12 @@ bool Spread::eventFilter(QObject* watched, QEvent* event) {
   if (watched == list_) return listEvent(event);
   if (watched != line_) return QAbstractScrollArea::eventFilter(watched, event);
   switch (event->type()) {
-    case QEvent::KeyPress: {
-      auto* const key = static_cast<QKeyEvent*>(event);
-      if (lineKey(key)) return true;
-      if (isEditing() && !isFunctionKey(key->key())) return false;
-      // Nobody here wants it: the form's own keys are next, and the line box must not see it.
-      QCoreApplication::sendEvent(parentWidget() ? parentWidget() : this, event);
-      event->accept();
+    case QEvent::KeyPress:
+      if (lineKey(static_cast<QKeyEvent*>(event))) return true;
+      if (isEditing()) return false;  // what the line box leaves goes on to the form by itself
+      // Nobody here wants it: the form's own keys are next, and the resting line box must not see it.
+      event->ignore();
       return true;
-    }
     case QEvent::InputMethod:
       return lineInput(static_cast<QInputMethodEvent*>(event));
     case QEvent::FocusIn:
@@ -50,11 +51,7 @@ bool Spread::eventFilter(QObject* watched, QEvent* event) {
           reason == Qt::MenuBarFocusReason)
         return false;
       if (left) run(left);
-      // Later, so that a box about the refused text does not come up in the middle of the change of focus.
-      if (isEditing())
-        QTimer::singleShot(0, this, [this] {
-          if (isEditing() && !line_->hasFocus()) commitEdit();
-        });
+      leaveEditLater();
       return false;
     }
     default:
@@ -62,19 +59,32 @@ bool Spread::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
-void Spread::keyPressEvent(QKeyEvent* event) {
-  QCoreApplication::sendEvent(line_, event);
-  event->accept();
+/** Later, so that a box about the refused text does not come up in the middle of a change of focus or page. */
+void Spread::leaveEditLater() {
+  if (!isEditing()) return;
+  QTimer::singleShot(0, this, [this] {
+    if (isEditing() && !line_->hasFocus()) commitEdit();
+  });
 }
 
-void Spread::inputMethodEvent(QInputMethodEvent* event) {
-  QCoreApplication::sendEvent(line_, event);
+void Spread::hideEvent(QHideEvent* event) {
+  QAbstractScrollArea::hideEvent(event);
+  if (event->spontaneous()) return;
+  if (list_) list_->hide();
+  leaveEditLater();
+}
+
+/** What the line box leaves comes by here on its way to the form. */
+void Spread::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
 }
 
 /** True: done, the line box does not see it. */
 bool Spread::lineKey(QKeyEvent* event) {
   const int key = event->key();
-  const bool hooked = !isEditing() ? !isTyping(*event) : isEnterKey(key) || isFunctionKey(key);
+  // Enter is meant with whatever else is held down; any other key with a modifier is another key.
+  const bool plain = isEnterKey(key) || !(event->modifiers() & ~Qt::KeypadModifier);
+  const bool hooked = plain && (!isEditing() ? !isTyping(*event) : isEnterKey(key) || isFunctionKey(key));
   if (hooked && keyPressed && activeRow_ > 0) {
     bool done = false;
     if (!run([&] { done = keyPressed(activeRow_, activeCol_, key, event->modifiers()); }) || done)
@@ -84,8 +94,12 @@ bool Spread::lineKey(QKeyEvent* event) {
     enter();
     return true;
   }
-  if (key == Qt::Key_Tab || key == Qt::Key_Backtab) {
+  if ((key == Qt::Key_Tab || key == Qt::Key_Backtab) && !isCommand(*event)) {
     tab(key == Qt::Key_Tab ? 1 : -1);
+    return true;
+  }
+  if (event->matches(QKeySequence::Paste)) {
+    paste();
     return true;
   }
   if (!isEditing()) return restingKey(event);
@@ -95,7 +109,17 @@ bool Spread::lineKey(QKeyEvent* event) {
   }
   const bool vertical =
       key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
-  return vertical && movingKey(event);
+  return vertical && !isCommand(*event) && movingKey(event);
+}
+
+/** Into the open cell, or in place of a resting cell's text; of several cells the first one. */
+void Spread::paste() {
+  if (activeRow_ == 0) return;
+  const CellKind kind = model_.column(activeCol_).kind;
+  if (kind == CellKind::Combo || kind == CellKind::CheckBox) return;
+  const QString taken =
+      takenBy(kind, QApplication::clipboard()->text().section(u'\n', 0, 0).section(u'\t', 0, 0));
+  if (!taken.isEmpty() && openEditor(false)) line_->insert(taken);
 }
 
 bool Spread::restingKey(QKeyEvent* event) {
@@ -103,14 +127,12 @@ bool Spread::restingKey(QKeyEvent* event) {
     copy();
     return true;
   }
-  if (event->matches(QKeySequence::Paste)) {
-    if (openEditor(false)) line_->paste();
-    return true;
-  }
   if (movingKey(event)) return true;
-  if (event->key() == Qt::Key_F2) return beginEdit();
-  if (!isTyping(*event) || activeRow_ == 0) return false;
-  switch (model_.column(activeCol_).kind) {
+  if (activeRow_ == 0) return false;
+  const CellKind kind = model_.column(activeCol_).kind;
+  if (event->key() == Qt::Key_F2 && !isCommand(*event)) return kind != CellKind::CheckBox && beginEdit();
+  if (!isTyping(*event)) return false;
+  switch (kind) {
     case CellKind::CheckBox:
       if (event->key() == Qt::Key_Space) toggleCheck();
       return true;
@@ -119,7 +141,7 @@ bool Spread::restingKey(QKeyEvent* event) {
       return true;
     default:
       // The typed character replaces the text: the opened line box receives this very key.
-      return !openEditor(false);
+      return takenBy(kind, event->text()).isEmpty() || !openEditor(false);
   }
 }
 
@@ -143,6 +165,7 @@ bool Spread::movingKey(QKeyEvent* event) {
       return true;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
+      if (control) return false;  // the form turns its pages by it
       moveTo(activeRow_ + (key == Qt::Key_PageDown ? page : -page), activeCol_, extend);
       return true;
     case Qt::Key_Left:

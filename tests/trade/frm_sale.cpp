@@ -2,7 +2,6 @@
 #include "trade/frmSale.h"
 
 #include <QApplication>
-#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -213,15 +212,9 @@ TEST(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
 
 TEST(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
   SaleScreen sale;
-  for (const char* part : {"ㅅ", "사", "산"}) {
-    QInputMethodEvent composing(part, {});
-    QCoreApplication::sendEvent(sale.grid(), &composing);
-  }
-  QInputMethodEvent done;
-  done.setCommitString("산");
-  QCoreApplication::sendEvent(sale.grid(), &done);
+  tests::compose({"ㅅ", "사", "산"}, "산");
   QInputMethodEvent next("골", {});
-  QCoreApplication::sendEvent(sale.grid(), &next);
+  QCoreApplication::sendEvent(QApplication::focusWidget(), &next);
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.pickers.asked.value(0), "client 산골 2 0");
   EXPECT_TRUE(sale.grid()->isEditing()) << "nobody chosen: the text stays open";

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "tests/ui/grab.h"
@@ -26,6 +27,12 @@ std::vector<SpreadColumn> saleColumns() {
       {.header = u"코드"_s, .hidden = true},
       {.header = u"확인"_s, .width = 5, .kind = CellKind::CheckBox}};
 }
+
+/** Counts the keys that nothing inside wanted. */
+struct Desk : QWidget {
+  QList<int> keys;
+  void keyPressEvent(QKeyEvent* event) override { keys << event->key(); }
+};
 
 class SpreadTest : public ::testing::Test {
  protected:
@@ -52,7 +59,7 @@ class SpreadTest : public ::testing::Test {
   }
 
   SpreadModel model;
-  QWidget window;
+  Desk window;
   Spread* grid;
   QLineEdit* below;
   QStringList finished;
@@ -164,9 +171,6 @@ TEST_F(SpreadTest, LockedHiddenAndNumberCells) {
   EXPECT_EQ(grid->activeCol(), 8) << "the hidden column is passed over";
 
   grid->setActiveCell(1, 4);
-  tests::type(u"a"_s);
-  EXPECT_EQ(grid->editingText(), QString());
-  tests::key(Qt::Key_Escape);
   tests::type(u"1,x2"_s);
   tests::key(Qt::Key_Return);
   EXPECT_EQ(model.text(1, 4), u"12"_s) << "offered without separators";
@@ -175,6 +179,162 @@ TEST_F(SpreadTest, LockedHiddenAndNumberCells) {
   tests::type(u"0615"_s);
   tests::key(Qt::Key_Return);
   EXPECT_EQ(model.text(1, 1), u"06-15"_s) << "the mask writes the dash";
+}
+
+// A key that goes round between the grid and its line box never ends.
+TEST_F(SpreadTest, KeysThatNothingWantsReachTheFormOnce) {
+  const QList<std::pair<int, Qt::KeyboardModifiers>> idle{{Qt::Key_Shift, Qt::ShiftModifier},
+                                                          {Qt::Key_Control, Qt::ControlModifier},
+                                                          {Qt::Key_Alt, Qt::AltModifier},
+                                                          {Qt::Key_Meta, Qt::MetaModifier},
+                                                          {Qt::Key_CapsLock, {}},
+                                                          {Qt::Key_Hangul, {}},
+                                                          {Qt::Key_Hangul_Hanja, {}},
+                                                          {Qt::Key_Insert, {}},
+                                                          {Qt::Key_M, Qt::AltModifier},
+                                                          {Qt::Key_Tab, Qt::AltModifier},
+                                                          {Qt::Key_Tab, Qt::ControlModifier},
+                                                          {Qt::Key_PageDown, Qt::ControlModifier},
+                                                          {Qt::Key_F7, {}},
+                                                          {Qt::Key_F4, Qt::ControlModifier},
+                                                          {Qt::Key_1, Qt::ControlModifier},
+                                                          {Qt::Key_X, Qt::AltModifier}};
+  for (const bool open : {true, false}) {
+    if (open) tests::type(u"AB("_s);
+    window.keys.clear();
+    QList<int> expected;
+    for (const auto& [key, modifiers] : idle) {
+      QKeyEvent event(QEvent::KeyPress, key, modifiers);
+      QApplication::sendEvent(QApplication::focusWidget(), &event);
+      expected << key;
+    }
+    EXPECT_EQ(window.keys, expected) << (open ? "in an open cell" : "at rest");
+    EXPECT_EQ(grid->editingText(), open ? u"AB("_s : QString());
+    EXPECT_EQ(grid->activeCol(), 2);
+    grid->cancelEdit();
+  }
+}
+
+TEST_F(SpreadTest, KeysWithModifiersAreNotThePlainKeys) {
+  QList<int> seen;
+  grid->keyPressed = [&](int, int, int key, Qt::KeyboardModifiers) {
+    seen << key;
+    return true;
+  };
+  for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier})
+    for (const int key : {Qt::Key_Delete, Qt::Key_F4, Qt::Key_F12}) tests::key(key, modifier);
+  EXPECT_EQ(seen, QList<int>());
+  tests::key(Qt::Key_Delete);
+  tests::key(Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(seen, (QList<int>{Qt::Key_Delete, Qt::Key_Return}))
+      << "Shift may still be held from the last letter";
+}
+
+// An amount that was never typed must not be posted as 0.
+TEST_F(SpreadTest, ACellOpensOnlyForWhatItCanTake) {
+  const auto clip = [](const QString& text) { QApplication::clipboard()->setText(text); };
+  const auto offered = [&](int col, const std::function<void()>& hand) {
+    finished.clear();
+    grid->setActiveCell(1, col);
+    hand();
+    tests::key(Qt::Key_Return);
+    return finished.join(u' ');
+  };
+  const auto types = [](const char* text) { return [text] { tests::type(QString::fromUtf8(text)); }; };
+  const auto composes = [](const QString& text) { return [text] { tests::compose({text}, text); }; };
+  const auto pastes = [&](const QString& text) {
+    return [&, text] {
+      clip(text);
+      tests::key(Qt::Key_V, Qt::ControlModifier);
+    };
+  };
+  for (const int col : {1, 4, 5}) {
+    EXPECT_EQ(offered(col, types("oO x/")), QString()) << col;
+    EXPECT_EQ(offered(col, composes(u"ㅐ"_s)), QString()) << col;
+    EXPECT_EQ(offered(col, pastes(u"원"_s)), QString()) << col;
+    EXPECT_EQ(offered(col, types("-")), QString()) << col;
+    EXPECT_EQ(offered(col,
+                      [] {
+                        tests::type(u"7"_s);
+                        tests::key(Qt::Key_Backspace);
+                      }),
+              QString())
+        << col << ": what was taken back was never there";
+    EXPECT_EQ(offered(col,
+                      [] {
+                        tests::key(Qt::Key_Backspace);
+                        tests::key(Qt::Key_Delete);
+                      }),
+              QString())
+        << col;
+  }
+  EXPECT_EQ(offered(5, types(".,-")), QString());
+  EXPECT_EQ(offered(5, types("o5")), u"1,5:36000>5"_s);
+  EXPECT_EQ(offered(5, composes(u"7"_s)), u"1,5:5>7"_s) << "figures may come through the input method";
+  EXPECT_EQ(offered(5, pastes(u"₩ 1,200원\n3"_s)), u"1,5:7>1200"_s);
+  EXPECT_EQ(offered(4, pastes(u"12.5"_s)), u"1,4:2>12"_s);
+  EXPECT_EQ(offered(1, pastes(u"2026-07-09"_s)), u"1,1:06-01>07-09"_s);
+  EXPECT_EQ(offered(4, types("1234567890123456789")), u"1,4:12>123456789012"_s);
+  EXPECT_EQ(offered(8, types("x")), QString());
+
+  // A syllable begun and taken back.
+  EXPECT_EQ(offered(2,
+                    [] {
+                      QInputMethodEvent begun(u"ㅎ"_s, {});
+                      QApplication::sendEvent(QApplication::focusWidget(), &begun);
+                      QInputMethodEvent gone;
+                      QApplication::sendEvent(QApplication::focusWidget(), &gone);
+                    }),
+            QString());
+  const auto emptied = [] {
+    tests::key(Qt::Key_F2);
+    tests::key(Qt::Key_A, Qt::ControlModifier);
+    tests::key(Qt::Key_Delete);
+  };
+  EXPECT_EQ(offered(2, emptied), u"1,2:한강식당>"_s) << "emptied on purpose";
+  EXPECT_EQ(offered(5, emptied), u"1,5:1200>"_s);
+}
+
+TEST_F(SpreadTest, APageThatIsLeftKeepsNoOpenEditor) {
+  QTabWidget pages;
+  auto* const second = new QLineEdit;
+  pages.addTab(grid, u"하나"_s);
+  pages.addTab(second, u"둘"_s);
+  tests::show(pages);
+  grid->setFocus();
+  grid->setActiveCell(1, 2);
+  tests::type(u"ok"_s);
+  pages.setCurrentIndex(1);
+  QApplication::processEvents();
+  EXPECT_EQ(model.text(1, 2), u"ok"_s);
+
+  pages.setCurrentIndex(0);
+  grid->setFocus();
+  tests::type(u"no"_s);
+  pages.setCurrentIndex(1);
+  QApplication::processEvents();
+  EXPECT_FALSE(grid->isEditing()) << "what was refused cannot be mended out of sight";
+  EXPECT_EQ(model.text(1, 2), u"ok"_s);
+
+  // The rule itself turns the page and refuses.
+  pages.setCurrentIndex(0);
+  grid->setFocus();
+  grid->cellFinished = [&](int, int, const QString&, const QString&) {
+    pages.setCurrentIndex(1);
+    return false;
+  };
+  tests::type(u"x"_s);
+  tests::key(Qt::Key_Return);
+  EXPECT_FALSE(grid->isEditing());
+  EXPECT_TRUE(second->hasFocus());
+
+  pages.setCurrentIndex(0);
+  grid->setFocus();
+  grid->cellFinished = [](int, int, const QString&, const QString&) { return false; };
+  tests::type(u"x"_s);
+  grid->leaveEdit();
+  EXPECT_FALSE(grid->isEditing());
+  grid->setParent(&window);
 }
 
 TEST_F(SpreadTest, KeysGoToTheFormFirstAndWithTheTypedText) {
@@ -227,6 +387,8 @@ TEST_F(SpreadTest, ComboOpensByTypingAndEnterAndTakesByEnter) {
   tests::compose({}, u"용"_s);
   EXPECT_TRUE(list->isVisible());
   EXPECT_EQ(list->currentRow(), 2);
+  tests::compose({u"가"_s}, u"가"_s);
+  EXPECT_EQ(list->currentRow(), 0) << "syllables search in the open list too";
   tests::key(Qt::Key_Escape);
   EXPECT_EQ(model.text(1, 3), u"수금"_s);
 
