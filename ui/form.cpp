@@ -10,7 +10,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QShortcut>
+#include <QTabBar>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -42,6 +45,7 @@ Form::Form(const QString& name, const QString& caption, Session& session, QWidge
   bottom_->hide();
   foot->addWidget(bottom_);
   whole->addLayout(foot);
+  onKey(Qt::ControlModifier, Qt::Key_F4, [this] { close(); });
 }
 
 // --- handlers -----------------------------------------------------------------------------------------------
@@ -122,6 +126,13 @@ void Form::focus(QWidget* control) {
     box->selectAll();
 }
 
+void Form::focusGrid() {
+  for (Spread* const grid : findChildren<Spread*>()) {
+    if (!grid->isVisible() || !grid->isEnabled() || grid->model().MaxRows() == 0) continue;
+    return grid->setFocus();
+  }
+}
+
 bool Form::enterFrom(QWidget* control) {
   const qsizetype at = order_.indexOf(control);
   if (at < 0 || keepsEnter(control)) return false;
@@ -134,7 +145,38 @@ bool Form::enterFrom(QWidget* control) {
   return true;
 }
 
+// --- the pages ----------------------------------------------------------------------------------------------
+
+void Form::watchPages(QTabBar* pages) {
+  pages_ = pages;
+  pages->installEventFilter(this);
+  const auto turns = [this](const QKeyCombination& keys, int step) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, step] { turnPage(step); });
+  };
+  turns(Qt::CTRL | Qt::Key_PageDown, 1);
+  turns(Qt::CTRL | Qt::Key_PageUp, -1);
+  turns(Qt::CTRL | Qt::Key_Tab, 1);
+  turns(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, -1);
+}
+
+void Form::turnPage(int step) {
+  if (!pages_->isEnabled() || !commitEditors()) return;
+  const int count = pages_->count();
+  for (int past = 1; past < count; ++past) {
+    const int at = (pages_->currentIndex() + step * past + count * past) % count;
+    if (!pages_->isTabEnabled(at) || !pages_->isTabVisible(at)) continue;
+    pages_->setCurrentIndex(at);
+    focusGrid();
+    return;
+  }
+}
+
 bool Form::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == pages_) {
+    const QEvent::Type turns = event->type();
+    if (turns == QEvent::MouseButtonPress || turns == QEvent::Wheel || turns == QEvent::Shortcut)
+      return !commitEditors();  // a cell that was refused keeps its page
+  }
   if (event->type() == QEvent::FocusIn) {
     const auto help = helps_.constFind(watched);
     if (help != helps_.constEnd()) showHelp(*help);
@@ -164,7 +206,14 @@ QPushButton* Form::addButton(const char* name, const QString& caption, std::func
   auto* const button = new QPushButton(caption, this);
   button->setObjectName(QString::fromUtf8(name));
   button->setAutoDefault(true);
-  connect(button, &QPushButton::clicked, this, [this, work = std::move(work)] { command(work); });
+  connect(button, &QPushButton::clicked, this,
+          [this, button = QPointer<QPushButton>(button), work = std::move(work)] {
+            command(work);
+            if (!button) return;
+            // A button that its own work switches off passes the focus to its neighbour.
+            const QWidget* const now = QApplication::focusWidget();
+            if (now == button || (!button->isEnabled() && qobject_cast<const QPushButton*>(now))) focusGrid();
+          });
   return button;
 }
 
@@ -203,6 +252,7 @@ void Form::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   if (shown_ || event->spontaneous()) return;
   shown_ = true;
+  if (auto* const pages = findChild<QTabBar*>()) watchPages(pages);
   const FormIni memory(session_.pc.paths);
   memory.LoadFormIni(*this);
   for (Spread* const grid : findChildren<Spread*>()) memory.LoadSpreadIni(*grid, *this);

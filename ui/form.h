@@ -1,6 +1,6 @@
 #pragma once
 // What every form shares: one guard around its handlers, keys that first close the open cell, Enter from box to box,
-// the help line, and its memory of place and grids.
+// keys that turn its pages, the help line, and its memory of place and grids.
 #include <QList>
 #include <QMap>
 #include <QWidget>
@@ -13,6 +13,7 @@
 class QGroupBox;
 class QLabel;
 class QPushButton;
+class QTabBar;
 class QVBoxLayout;
 
 /** A child window named after itself. Its rules are members of the derived class and go before the controls do. */
@@ -50,12 +51,15 @@ class Form : public QWidget {
    *  several lines and buttons keep their Enter. */
   void enterOrder(const QList<QWidget*>& controls, std::function<void()> atEnd = {});
   static void focus(QWidget* control);  ///< with its text selected
+  /** To the grid in sight, where the hand works; nothing when it is empty or there is none. */
+  void focusGrid();
 
   // --- building ---------------------------------------------------------------------------------------------
   /** Where the derived form puts its parts, above the help line. */
   QVBoxLayout* body() const { return body_; }
   /** A grid under the guard, with its memory and context menu. */
   Spread* addSpread(const char* name, SpreadModel& model, QWidget* parent = nullptr);
+  /** A button that stands under the hand after its work gives the focus back to the grid. */
   QPushButton* addButton(const char* name, const QString& caption, std::function<void()> work);
   QGroupBox* addGroup(const QString& title);  ///< not yet in a layout
   /** What the parts ask for, but wide enough for every column of the grids and high enough for a page of lines. */
@@ -73,6 +77,8 @@ class Form : public QWidget {
 
  private:
   bool enterFrom(QWidget* control);
+  void watchPages(QTabBar* pages);
+  void turnPage(int step);
 
   Session& session_;
   QVBoxLayout* body_;
@@ -82,6 +88,7 @@ class Form : public QWidget {
   QHash<QObject*, QString> helps_;
   QList<QWidget*> order_;
   std::function<void()> atEnd_;
+  QTabBar* pages_ = nullptr;
   bool shown_ = false;
 };
 

@@ -8,6 +8,8 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "tests/support.h"
@@ -117,6 +119,52 @@ TEST_F(FormTest, CommandsFirstCloseTheOpenCell) {
   form.close();
   EXPECT_TRUE(form.isVisible());
   form.grid->cancelEdit();
+}
+
+TEST_F(FormTest, TheHandGoesBackToTheGridAfterAButton) {
+  form.grid->setFocus();
+  QTest::mouseClick(form.save, Qt::LeftButton);
+  EXPECT_TRUE(form.grid->hasFocus());
+  form.name->setFocus();
+  form.save->click();
+  EXPECT_TRUE(form.name->hasFocus()) << "the button never had it";
+  form.rows.clear();
+  QTest::mouseClick(form.save, Qt::LeftButton);
+  EXPECT_FALSE(form.grid->hasFocus()) << "nothing to work on there";
+}
+
+TEST_F(FormTest, PagesTurnByKeysWithTheOpenCellTakenFirst) {
+  struct Paged : DemoForm {
+    explicit Paged(Session& session) : DemoForm(session) {
+      pages = new QTabWidget;
+      for (const QString& title : {u"하나"_s, u"둘"_s, u"셋"_s}) pages->addTab(new QLineEdit, title);
+      pages->setTabEnabled(1, false);
+      body()->addWidget(pages);
+    }
+    QTabWidget* pages;
+  } paged(at.session);
+  tests::show(paged);
+  paged.grid->setFocus();
+  tests::type(u"x"_s);
+  tests::key(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(paged.pages->currentIndex(), 2) << "the page that is off is passed over";
+  EXPECT_EQ(paged.rows.text(1, 1), u"x"_s);
+  EXPECT_TRUE(paged.grid->hasFocus());
+  tests::key(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(paged.pages->currentIndex(), 0);
+  tests::key(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(paged.pages->currentIndex(), 2);
+
+  tests::type(u"no"_s);
+  tests::key(Qt::Key_PageUp, Qt::ControlModifier);
+  auto* const bar = paged.pages->tabBar();
+  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(0).center());
+  EXPECT_EQ(paged.pages->currentIndex(), 2) << "a refused cell keeps its page";
+  paged.grid->cancelEdit();
+  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(0).center());
+  EXPECT_EQ(paged.pages->currentIndex(), 0);
+  tests::key(Qt::Key_F4, Qt::ControlModifier);
+  EXPECT_FALSE(paged.isVisible());
 }
 
 TEST_F(FormTest, ErrorsEndInABox) {
