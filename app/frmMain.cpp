@@ -188,6 +188,8 @@ bool frmMain::run(const QString& command) {
 }
 
 void frmMain::perform(const CommandEntry& entry) {
+  auto* const front = qobject_cast<Form*>(activeForm());
+  if (front && !front->commitEditors()) return;
   guard([&] {
     if (entry.flags & CommandEntry::Relink && relink) relink();
     switch (entry.kind) {
