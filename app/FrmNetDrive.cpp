@@ -10,7 +10,9 @@
 
 using namespace Qt::StringLiterals;
 
-FrmNetDrive::FrmNetDrive(FormContext& context, QWidget* parent) : QDialog(parent), rules_(context.session) {
+FrmNetDrive::FrmNetDrive(FormContext& context, QWidget* parent) : FrmNetDrive(context.session, parent) {}
+
+FrmNetDrive::FrmNetDrive(Session& session, QWidget* parent) : QDialog(parent), rules_(session) {
   setObjectName(u"FrmNetDrive"_s);
   setWindowTitle(u"네트워크 드라이브 연결"_s);
   cboDrive_ = new QComboBox;

@@ -12,6 +12,8 @@ struct FormContext;
 class FrmNetDrive : public QDialog {
  public:
   explicit FrmNetDrive(FormContext& context, QWidget* parent = nullptr);
+  /** Before the program stands. */
+  explicit FrmNetDrive(Session& session, QWidget* parent = nullptr);
 
  private:
   NetDrive rules_;

@@ -1,5 +1,5 @@
 #pragma once
-// Chooses the data folder for the next start.
+// Chooses the data folder: for the next start by the menu, for this one when the start has not found its own.
 #include <QDialog>
 
 #include "app/data_folder.h"
@@ -7,24 +7,32 @@
 class QComboBox;
 class QLabel;
 class QListWidget;
+class QPushButton;
 struct FormContext;
 
 class FrmPath : public QDialog {
  public:
+  /** By the menu: what is chosen counts from the next start. */
   explicit FrmPath(FormContext& context, QWidget* parent = nullptr);
+  /** Before the program stands: accepted when a folder was chosen and saved. */
+  explicit FrmPath(Session& session, QWidget* parent = nullptr);
 
  private:
+  FrmPath(Session& session, std::function<void()> openNetwork, QWidget* parent);
+  QPushButton* button(const QString& caption, const QString& name, std::function<void()> work);
   void fillDrives(const QString& chosen);
   void openFolder(const QString& path);
   void enterChosen();
   void create();
   void remove();
   void set();
+  void use();
 
-  FormContext& context_;
   DataFolder rules_;
   QString folder_;  ///< the chosen one, as written
   QComboBox* drive1_;
   QListWidget* dir1_;
   QLabel* pnlPath_;
+  QLabel* pnlData_;  ///< where the data of the chosen folder would be
+  QPushButton* btnSet_;
 };

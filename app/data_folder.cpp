@@ -63,10 +63,28 @@ bool DataFolder::remove(const QString& folder) {
   return false;
 }
 
+QString DataFolder::dataIn(const QString& folder) const {
+  const QString base = child(folder.trimmed(), {});
+  return session_.pc.paths.exists(base + u"Basic.mdb"_s) ? base : base + u"DBS\\"_s;
+}
+
+bool DataFolder::holdsData(const QString& folder) const {
+  return session_.pc.paths.exists(dataIn(folder) + u"Basic.mdb"_s);
+}
+
+void DataFolder::use(const QString& folder) {
+  const QString data = dataIn(folder);
+  save(data, child(parentOf(data.chopped(1)), {}) + u"RPT\\"_s);
+}
+
+void DataFolder::save(const QString& data, const QString& reports) {
+  session_.pc.settings.SaveSetting(session_.AppTitle, u"환경설정"_s, u"db경로"_s, data);
+  session_.pc.settings.SaveSetting(session_.AppTitle, u"환경설정"_s, u"rpt경로"_s, reports);
+}
+
 bool DataFolder::set(const QString& folder) {
   const QString base = child(folder.trimmed(), {});
-  session_.pc.settings.SaveSetting(session_.AppTitle, u"환경설정"_s, u"db경로"_s, base + u"DBS\\"_s);
-  session_.pc.settings.SaveSetting(session_.AppTitle, u"환경설정"_s, u"rpt경로"_s, base + u"RPT\\"_s);
+  save(base + u"DBS\\"_s, base + u"RPT\\"_s);
   if (!session_.prompts.MsgAsk(u"해온판매의 데이터베이스 파일의 경로를 변경하였습니다."_s + u'\n' +
                                    u"변경된 파일을 사용하기 위해서는"_s + u'\n' +
                                    u"프로그램을 다시 실행하여야 합니다."_s + u'\n' +

@@ -25,11 +25,18 @@ class DataFolder {
    *  now: every handle is closed then. */
   bool set(const QString& folder);
 
+  /** Where the data of a chosen folder lie: the folder itself when it holds Basic.mdb, else its "DBS\". */
+  QString dataIn(const QString& folder) const;
+  bool holdsData(const QString& folder) const;
+  /** Saves dataIn(folder) as the data folder, for a start that has not found its own. */
+  void use(const QString& folder);
+
   static QString parentOf(const QString& path);
   static QString child(const QString& path, const QString& name);
   static constexpr int maxPath = 260;  ///< characters
 
  private:
+  void save(const QString& data, const QString& reports);
   Session& session_;
 };
 

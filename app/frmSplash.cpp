@@ -60,7 +60,7 @@ void frmSplash::load() {
 }
 
 void frmSplash::enter() {
-  guarded(session_.prompts, [this] {
+  const bool stood = guarded(session_.prompts, [this] {
     switch (startUp_.enterPassword(txtPassword_->text())) {
       case SignIn::Accepted:
         open_ = false;
@@ -78,6 +78,7 @@ void frmSplash::enter() {
         break;
     }
   });
+  if (!stood && !startUp_.ready() && stuck) stuck();
 }
 
 bool frmSplash::eventFilter(QObject* watched, QEvent* event) {

@@ -17,6 +17,8 @@ class frmSplash : public QWidget {
   void load();
   /** The sign-in is done; the window has closed. */
   std::function<void()> signedIn;
+  /** The start has not come to its end, which the operator has been told when he tried to sign in. */
+  std::function<void()> stuck;
   /** The program is to end: the operator left, or failed three times. */
   std::function<void()> ended;
 

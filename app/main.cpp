@@ -6,6 +6,7 @@
 #include <QTranslator>
 #include <memory>
 
+#include "app/FrmFolderTrouble.h"
 #include "app/FrmInitMsg.h"
 #include "app/form_pickers.h"
 #include "app/form_tool_icons.h"
@@ -83,15 +84,26 @@ int main(int argc, char** argv) {
     mainWindow->start();
     tellMissingFonts(boxes);
   };
-  bool usable = false;
-  const bool stood = guarded(boxes, [&] {
-    usable = startUp.SubMain([&] {
-      splash.load();
-      splash.move(splash.screen()->availableGeometry().center() - splash.rect().center());
-      splash.show();
-      splash.activateWindow();
-    });
-  });
-  if (!stood || !usable) return 1;
+  const auto showStartWindow = [&] {
+    splash.load();
+    if (!startUp.usable()) return;
+    splash.move(splash.screen()->availableGeometry().center() - splash.rect().center());
+    splash.show();
+    splash.activateWindow();
+  };
+  // Until the books stand or the operator leaves: a drive that comes back needs no new start of the program.
+  const auto begin = [&] {
+    for (;;) {
+      bool usable = false;
+      if (guarded(boxes, [&] { usable = startUp.SubMain(showStartWindow); }) && usable) return true;
+      splash.hide();
+      if (!FrmFolderTrouble(whyNotStarted(session), session).tryAgain()) return false;
+    }
+  };
+  splash.stuck = [&] {
+    splash.hide();
+    if (!FrmFolderTrouble(whyNotStarted(session), session).tryAgain() || !begin()) QApplication::exit(0);
+  };
+  if (!begin()) return 1;
   return QApplication::exec();
 }

@@ -20,9 +20,8 @@ QString savedSetting(const Session& session, const QString& section, const QStri
 }  // namespace
 
 bool StartUp::SubMain(const std::function<void()>& showStartWindow) {
-  session_.AppTitle = u"해온판매"_s;
-  session_.DbPath = dataFolder(session_);
-  if (!prepareDataFolder(session_)) return false;
+  usable_ = begin();
+  if (!usable_) return false;
   attempt([&] { upgrades::addLateCharges(session_); });
   if (usable_) showStartWindow();
   if (usable_ && session_.wsMain.isOpen()) {
@@ -33,6 +32,17 @@ bool StartUp::SubMain(const std::function<void()>& showStartWindow) {
   }
   if (!usable_) closeFiles();
   return usable_;
+}
+
+/** A fresh start, also after one that has failed. A folder that cannot be reached is not touched: a new folder of its
+ *  name on this PC would look like an empty shop. */
+bool StartUp::begin() {
+  closeFiles();
+  failures_ = 0;
+  screen_ = {};
+  session_.AppTitle = u"해온판매"_s;
+  session_.DbPath = dataFolder(session_);
+  return !reachDataFolder(session_).any() && prepareDataFolder(session_);
 }
 
 void StartUp::load() {

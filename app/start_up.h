@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 
+#include "app/folder_trouble.h"
 #include "store/session.h"
 
 /** What the start window shows after its load. */
@@ -22,11 +23,16 @@ class StartUp {
   explicit StartUp(Session& session) : session_(session) {}
 
   /** The entry: the steps before the start window, then showStartWindow, whose load event calls load(), then the
-   *  steps after it. False when the data files cannot be used; that has been told, the program must end. */
+   *  steps after it. False when the data files cannot be used: whyNotStarted() says why, and once that is mended this may
+   *  be called again. */
   bool SubMain(const std::function<void()>& showStartWindow);
+  /** False from the first step that failed. */
+  bool usable() const { return usable_; }
   /** The start window's load event. */
   void load();
   const StartScreen& screen() const { return screen_; }
+  /** The start has come to its end; without it nobody can sign in. */
+  bool ready() const { return usable_ && user_.isOpen(); }
 
   /** Enter in the password box; boxes are shown here. Throws jet::Error 91 when load() ended early. */
   SignIn enterPassword(const QString& typed);
@@ -39,6 +45,7 @@ class StartUp {
   void shutDown();
 
  private:
+  bool begin();
   void attempt(const std::function<void()>& steps);
   void loadSteps();
   void upgradePostCodes();

@@ -111,12 +111,22 @@ QStringList Paths::drives() const {
   return letters;
 }
 
+QString Paths::shareOf(const QString& letter) const {
+  return mapped_.value(mappedSection, letter.first(1).toUpper());
+}
+
+/** A mapped letter whose folder is gone may be mapped anew. */
+bool Paths::isLost(const QString& letter) const {
+  const QString share = shareOf(letter);
+  return !share.isEmpty() && !QFileInfo(share).isDir();
+}
+
 QString Paths::mapNetworkDrive(const QString& share, const QString& letter) {
   const QString wanted = letter.first(std::min<qsizetype>(2, letter.size())).toUpper();
   int failure = 0;
   if (!startsWithDrive(wanted)) {
     failure = netBadDeviceType;
-  } else if (drives().contains(wanted)) {
+  } else if (drives().contains(wanted) && !isLost(wanted)) {
     failure = netAlreadyAssigned;
   } else {
     const Share found = findShare(share.trimmed(), wanted);

@@ -34,12 +34,15 @@ class Paths {
   QString programFolder() const { return QStringLiteral("C:\\RWGas"); }
   /** Drive letters in use, upper case with colon. */
   QStringList drives() const;
+  /** The folder behind a mapped letter ("Z:"); '' when the letter is none, or where the PC keeps that itself. */
+  QString shareOf(const QString& letter) const;
   /** Maps a network share to a letter ("Z:"). Empty text on success, else the failure's own Korean text. A share is
    *  a folder the PC already reaches, or \\server\share where this PC mounts such shares. */
   QString mapNetworkDrive(const QString& share, const QString& letter);
 
  private:
   QString driveFolder(QChar letter) const;
+  bool isLost(const QString& letter) const;
 
   QString root_;
   IniFile mapped_;

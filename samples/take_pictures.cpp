@@ -14,6 +14,9 @@
 #include <QTextStream>
 #include <QTimer>
 
+#include <utility>
+
+#include "app/FrmFolderTrouble.h"
 #include "app/FrmInitMsg.h"
 #include "app/form_pickers.h"
 #include "app/form_tool_icons.h"
@@ -193,6 +196,14 @@ void small(frmMain& window, Session& session, Photographer& photographer) {
   photographer.take(list, "FrmSeeIDStanbyList");
 }
 
+/** A drive that is not there. */
+void lostFolder(Session& session, Photographer& photographer) {
+  const QString folder = std::exchange(session.DbPath, "Z:\\DBS\\");
+  FrmFolderTrouble trouble(reachDataFolder(session), session);
+  photographer.take(trouble, "FrmFolderTrouble");
+  session.DbPath = folder;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -228,6 +239,7 @@ int main(int argc, char** argv) {
   FrmInitMsg notice(session);
   photographer.take(notice, "FrmInitMsg");
   notice.hide();
+  lostFolder(session, photographer);
   {
     frmMain window(session, searches);
     searches.setContext(window.context());

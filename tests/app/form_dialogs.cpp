@@ -7,7 +7,9 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
+#include "app/FrmFolderTrouble.h"
 #include "app/FrmInitMsg.h"
 #include "app/FrmNetDrive.h"
 #include "app/FrmPath.h"
@@ -63,6 +65,34 @@ TEST_F(FrameDialogs, NetworkFolderIsMappedOnEnter) {
   EXPECT_EQ(part<QLabel>(form, "pnlResult")->text(), "Z:\\ 드라이브로 네트워크 드라이브 연결이 되었습니다.");
   tests::grab(form, "FrmNetDrive");
   EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(FrameDialogs, AMissingFolderLeavesThreeRoadsAndTheDoor) {
+  session.DbPath = "Z:\\DBS\\";
+  const auto choice = [this](const std::function<void(FrmFolderTrouble&)>& act) {
+    FrmFolderTrouble form(reachDataFolder(session), session);
+    QTimer::singleShot(0, &form, [&] { act(form); });
+    return form.tryAgain();
+  };
+  EXPECT_TRUE(choice([](auto& form) {
+    EXPECT_EQ(part<QLabel>(form, "lblHeadline")->text(), "Z: 드라이브가 없습니다.");
+    tests::grab(form, "FrmFolderTrouble");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  })) << "Enter tries again";
+  EXPECT_FALSE(choice([](auto& form) { QTest::keyClick(&form, Qt::Key_Escape); }));
+  EXPECT_TRUE(choice([](auto& form) {
+    QTimer::singleShot(0, &form, [] {
+      auto& folders = *QApplication::activeModalWidget();
+      EXPECT_EQ(part<QLabel>(folders, "pnlPath")->text(), "C:\\") << "the lost drive cannot be shown";
+      auto* list = part<QListWidget>(folders, "Dir1");
+      QTest::keyClick(list, Qt::Key_Return);
+      EXPECT_EQ(part<QLabel>(folders, "pnlData")->text(), "자료 C:\\RWGas\\DBS\\  (자료 파일 없음)");
+      tests::grab(folders, "FrmPath-at-start");
+      part<QPushButton>(folders, "btnSet")->click();
+    });
+    part<QPushButton>(form, "btnFolder")->click();
+  }));
+  EXPECT_EQ(pc.settings.GetSetting("해온판매", "환경설정", "db경로"), "C:\\RWGas\\DBS\\");
 }
 
 TEST_F(FrameDialogs, NoticeRemembersItsTick) {

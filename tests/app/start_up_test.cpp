@@ -127,6 +127,7 @@ TEST_F(StartUpTest, ANewYearStartsEmptyAndLeavesTheOldFileAlone) {
 TEST_F(StartUpTest, AMovedFolderIsWorkedInWhileTheFixedStepsStayWhereTheyAre) {
   ASSERT_TRUE(start());
   startUp->shutDown();
+  here.pc.paths.makeFolder(u"D:\\"_s);
   here.pc.settings.SaveSetting(u"해온판매"_s, u"환경설정"_s, u"db경로"_s, u"D:\\가게\\DBS\\"_s);
   here.pc.settings.SaveSetting(u"해온판매"_s, u"환경설정"_s, u"rpt경로"_s, u"D:\\가게\\RPT\\"_s);
   here.prompts.expect(u"새로 만드시겠습니까?"_s, true);
