@@ -77,7 +77,7 @@ TEST_F(FrameDialogs, AMissingFolderLeavesThreeRoadsAndTheDoor) {
   EXPECT_TRUE(choice([](auto& form) {
     EXPECT_EQ(part<QLabel>(form, "lblHeadline")->text(), "Z: 드라이브가 없습니다.");
     tests::grab(form, "FrmFolderTrouble");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QTest::keyClick(&form, Qt::Key_Return);
   })) << "Enter tries again";
   EXPECT_FALSE(choice([](auto& form) { QTest::keyClick(&form, Qt::Key_Escape); }));
   EXPECT_TRUE(choice([](auto& form) {
