@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,7 +14,6 @@
 
 #include <memory>
 
-#include "billing/reading_list.h"
 #include "billing/reading_load.h"
 #include "billing/reading_months.h"
 #include "ui/FrmProgress.h"
@@ -23,8 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int firstColumn = EvaCol::UseGage;  // where a month's work is done
 
 bool isReadingEnter(int key) {
   return key == Qt::Key_Return || key == Qt::Key_Enter;
@@ -36,18 +32,13 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
     : Form(u"frmEva"_s, u"체적검침 관리"_s, context.session, parent),
       context_(context),
       sheet_(context.session) {
-  tabs_ = new QTabBar(this);
-  tabs_->setObjectName(u"TabEva"_s);
-  tabs_->setExpanding(false);
-  tabs_->setDrawBase(false);
-  for (const MeterBook book : {MeterBook::Individual, MeterBook::Apartment, MeterBook::MultiHousehold})
-    tabs_->addTab(bookCaption(book));
-  body()->addWidget(tabs_);
+  buildBooks();
   buildChoice();
   buildGrid();
   buildButtons();
   resize(sizeHint());
-  setBottomLine(u" F5:검침원/수금원   오른쪽 단추:사용량 수정, 재계산, 사용량 클리어   Ctrl+1~6:지로"_s);
+  setBottomLine(
+      u" F5:검침원/수금원   F8:다음 확인   오른쪽 단추:사용량 수정, 재계산, 사용량 클리어   Ctrl+1~6:지로"_s);
 
   guard([this] {
     if (!readRateBook(session()))
@@ -67,121 +58,6 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
     const QSignalBlocker quiet(tabs_);
     tabs_->setCurrentIndex(int(sheet_.book));
   });
-}
-
-// --- building -----------------------------------------------------------------------------------------------
-
-void frmEva::buildChoice() {
-  auto* const row = new QHBoxLayout;
-  row->setSpacing(6);
-  const auto label = [&](const QString& text) { row->addWidget(new QLabel(text, this)); };
-  const int digit = fontMetrics().horizontalAdvance(u'0');
-
-  label(u"월"_s);
-  cboMon_ = new QComboBox(this);
-  cboMon_->setObjectName(u"CboMon"_s);
-  cboMon_->setMinimumWidth(10 * digit);
-  row->addWidget(cboMon_);
-  cboBDName_ = new QComboBox(this);
-  cboBDName_->setObjectName(u"CboBDName"_s);
-  cboBDName_->setPlaceholderText(u"건물을 선택하세요"_s);
-  cboBDName_->setMinimumWidth(26 * digit);
-  row->addWidget(cboBDName_);
-  row->addWidget(addButton("BtnRefresh", u"조회(&F)"_s, [this] { refresh(); }));
-  row->addSpacing(12);
-  label(u"검침월일"_s);
-  txtDay_ = new QLineEdit(this);
-  txtDay_->setObjectName(u"TxtDay"_s);
-  txtDay_->setFixedWidth(11 * digit);
-  row->addWidget(txtDay_);
-  row->addSpacing(12);
-  chkOrdSeq_ = addSetting("chkOrdSEQ", u"동, 호수 순차 정렬"_s, u"체적검침정렬방식"_s, [this] {
-    if (sheet_.grid.MaxRows() > 0) reload(1, firstColumn);
-  });
-  chkDongShow_ =
-      addSetting("chkDongShow", u"동별로 보기"_s, u"체적검침동별보기"_s, [this] { fillChoices(); });
-  row->addWidget(chkOrdSeq_);
-  row->addWidget(chkDongShow_);
-  row->addStretch(1);
-  body()->addLayout(row);
-
-  enterOrder({cboMon_, cboBDName_}, [this] { refresh(); });
-  setHelp(txtDay_, u"검침일자를 입력/수정합니다"_s);
-  txtDay_->installEventFilter(this);
-  connect(txtDay_, &QLineEdit::textEdited, this, [this](const QString& text) { sheet_.readingDay = text; });
-  connect(cboMon_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseMonth(index); });
-  connect(cboBDName_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseBuilding(index); });
-}
-
-QCheckBox* frmEva::addSetting(const char* name, const QString& caption, const QString& key,
-                              std::function<void()> changed) {
-  auto* const box = new QCheckBox(caption, this);
-  box->setObjectName(QString::fromUtf8(name));
-  pc::Settings& settings = session().pc.settings;
-  box->setChecked(settings.GetSetting(session().AppTitle, u"Config"_s, key, u"0"_s) != "0"_L1);
-  connect(box, &QCheckBox::clicked, this, [this, box, &settings, key, changed = std::move(changed)](bool on) {
-    const bool done = command([&] {
-      settings.SaveSetting(session().AppTitle, u"Config"_s, key, on ? u"1"_s : u"0"_s);
-      changed();
-    });
-    if (!done) box->setChecked(!on);  // an open cell was refused
-  });
-  return box;
-}
-
-void frmEva::buildGrid() {
-  grid_ = addSpread("SpEva", sheet_.grid);
-  grid_->setFillColumn(EvaCol::Name);
-  grid_->cellFinished = [this](int row, int col, const QString&, const QString& typed) {
-    return cellFinished(row, col, typed);
-  };
-  grid_->keyPressed = [this](int row, int col, int key, Qt::KeyboardModifiers) {
-    return gridKey(row, col, key);
-  };
-  grid_->enterPressed = [this](int row, int col) { moveOn(row, col); };
-  grid_->rowEntered = [this](int row) { showCustomer(row); };
-  grid_->cellEntered = [this](int, int col) {
-    showHelp(readingHelp(col));
-    pnlMan_->setText(panel_.man);
-  };
-  grid_->left = [this] {
-    showHelp({});
-    pnlMan_->clear();
-  };
-  grid_->menuAsked = [this](const QPoint& place) { showPopup(place); };
-  sheet_.showRow = [this](int row) { grid_->setActiveCell(row, grid_->activeCol()); };
-  body()->addWidget(grid_, 1);
-
-  pnlMan_ = new QLabel(this);
-  pnlMan_->setObjectName(u"PnlMan"_s);
-  pnlMan_->setProperty("role", "value");
-  body()->addWidget(pnlMan_);
-}
-
-void frmEva::buildButtons() {
-  int giroForms = 0;
-  const auto opens = [&](const char* name, const QString& caption, const char* form,
-                         const QString& tip = {}) {
-    QPushButton* const button =
-        addButton(name, caption, [this, form] { context_.commands.openForm(QString::fromUtf8(form)); });
-    button->setEnabled(context_.commands.hasForm(QString::fromUtf8(form)));
-    // The captions have no letter of their own, and the hand stands in the grid.
-    button->setShortcut(Qt::CTRL | Qt::Key(Qt::Key_1 + giroForms++));
-    const QString keys = button->shortcut().toString(QKeySequence::NativeText);
-    button->setToolTip(tip.isEmpty() ? keys : tip + u"  "_s + keys);
-    return button;
-  };
-  btnNoEva_ = addButton("BtnNoEva", u"미검침(&N)"_s, [this] {
-    if (skipReadings(sheet_, progress(u"미검침 처리"_s))) reload(grid_->activeRow(), grid_->activeCol());
-  });
-  auto* const print = addButton("BtnPrt", u"인쇄(&P)"_s, [this] { printReadingList(sheet_); });
-  auto* const leave = addButton("BtnExit", u"닫기(&X)"_s, [this] { close(); });
-  body()->addWidget(buttonRow(
-      {opens("BtnOCR", u"OCR"_s, "frmPrtJiroOCR:continuous"),
-       opens("BtnOCR4", u"OCR-A4"_s, "frmPrtJiroOCR:a4"),
-       opens("BtnMicr", u"MICR-A4"_s, "frmPrtMicr", u"금융결재원용 지로용지를 출력합니다"_s),
-       opens("BtnJiro", u"MICR"_s, "frmPrtJiro"), opens("BtnOrgJiro", u"일반지로"_s, "frmPrtJiroOrg"),
-       opens("BtnA4", u"일반-A4"_s, "frmPrtJiroOrgA4"), nullptr, btnNoEva_, print, leave}));
 }
 
 void frmEva::showEvent(QShowEvent* event) {
@@ -243,6 +119,7 @@ void frmEva::fillChoices() {
 
 void frmEva::clearRows() {
   sheet_.grid.clear();
+  showMarks();
   showPanel({});
 }
 
@@ -298,6 +175,22 @@ void frmEva::reload(int row, int col) {
   grid_->setActiveCell(qMin(row, sheet_.grid.MaxRows()), col);
   sheet_.readingDay = today;  // the row the cursor stands on after loading does not change it
   showReadingDay();
+  showMarks();
+}
+
+/** The marks follow whatever was done to the rows. */
+void frmEva::showMarks() {
+  const QString counts = countsText(markReadings(sheet_));
+  pnlMarks_->setText(counts);
+  btnNextMark_->setVisible(!counts.isEmpty());
+  if (!pnlMan_->text().isEmpty()) pnlUse_->setText(useText(sheet_, grid_->activeRow()));
+}
+
+void frmEva::goToMarked(int fromRow, int step) {
+  const int row = nextMarked(sheet_, fromRow, step);
+  if (row == 0) return showHelp(u"확인할 검침이 없습니다"_s);
+  grid_->setActiveCell(row, firstColumn);
+  grid_->setFocus();
 }
 
 void frmEva::showCustomer(int row) {
@@ -345,13 +238,18 @@ bool frmEva::cellFinished(int row, int col, const QString& typed) {
     return false;
   justEdited_ = true;
   grid_->cancelEdit();
+  showMarks();
   if (edit.end == ReadingEdit::PutBack) return false;
   grid_->setActiveCell(edit.next.row, edit.next.col);
   return true;
 }
 
-bool frmEva::gridKey(int row, int col, int key) {
+bool frmEva::gridKey(int row, int col, int key, Qt::KeyboardModifiers modifiers) {
   justEdited_ = false;
+  if (key == Qt::Key_F8) {
+    if (grid_->commitEdit()) goToMarked(row, modifiers & Qt::ShiftModifier ? -1 : 1);
+    return true;
+  }
   if (key != Qt::Key_F5) return false;
   if (!grid_->commitEdit()) return true;
   askPerson(sheet_, row, col);
@@ -386,9 +284,11 @@ void frmEva::showPopup(const QPoint& place) {
   switch (chosen->data().toInt()) {
     case CorrectUse:
       correctUse(sheet_, grid_->activeRow());
+      showMarks();
       break;
     case Recalculate:
       recalculate(sheet_, progress(u"재계산"_s));
+      showMarks();
       showCustomer(grid_->activeRow());
       break;
     case ClearUse:

@@ -35,6 +35,8 @@ class frmEva : public Form, public ReadingScreen {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // frmEva_build.cpp
+  void buildBooks();
   void buildChoice();
   void buildGrid();
   void buildButtons();
@@ -50,6 +52,8 @@ class frmEva : public Form, public ReadingScreen {
   void focusWork();
   void refresh();
   void reload(int row, int col);
+  void showMarks();
+  void goToMarked(int fromRow, int step);
   void showCustomer(int row);
   void showPanel(const ReadingPanel& panel);
   void showReadingDay();
@@ -57,11 +61,12 @@ class frmEva : public Form, public ReadingScreen {
 
   // The grid.
   bool cellFinished(int row, int col, const QString& typed);
-  bool gridKey(int row, int col, int key);
+  bool gridKey(int row, int col, int key, Qt::KeyboardModifiers modifiers);
   void moveOn(int row, int col);
   void showPopup(const QPoint& place);
   ReadingProgress progress(const QString& caption);
 
+  static constexpr int firstColumn = EvaCol::UseGage;  ///< where a month's work is done
   FormContext& context_;
   ReadingSheet sheet_;
   ReadingPanel panel_;
@@ -71,6 +76,7 @@ class frmEva : public Form, public ReadingScreen {
   QComboBox *cboMon_ = nullptr, *cboBDName_ = nullptr;
   QLineEdit* txtDay_ = nullptr;
   QCheckBox *chkOrdSeq_ = nullptr, *chkDongShow_ = nullptr;
-  QLabel* pnlMan_ = nullptr;
+  QLabel *pnlMan_ = nullptr, *pnlUse_ = nullptr, *pnlMarks_ = nullptr;
+  QPushButton* btnNextMark_ = nullptr;
   QPushButton* btnNoEva_ = nullptr;
 };

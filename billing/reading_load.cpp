@@ -129,6 +129,13 @@ QString wholeBookStatement(const ReadingSheet& sheet, int month) {
          bookWhere(sheet, month) + " Order By Client.Code";
 }
 
+QString usesStatement(const ReadingSheet& sheet, int firstMonth, int lastMonth) {
+  return "Select Evaporation.ClientCode, Evaporation.Mon, Evaporation.UseMuch " + bookTables() +
+         "Where Client.HouseStyle = " + QString::number(int(sheet.book)) +
+         " And Evaporation.Mon >= " + QString::number(firstMonth) +
+         " And Evaporation.Mon <= " + QString::number(lastMonth) + householdFilter(sheet);
+}
+
 Selection CheckSelection(ReadingSheet& sheet) {
   if (sheet.month < 0) {
     sheet.session.prompts.MsgWarn(u"조회/입력할 월을 선택하십시오"_s, readingManager);
@@ -177,4 +184,6 @@ void RefreshReadingGrid(ReadingSheet& sheet) {
   for (; !rs.atEnd(); rs.MoveNext()) rows.push_back(readingRow(sheet, rs, payState));
   sheet.grid.setRows(std::move(rows));
   if (before.isOpen()) fillPrevious(sheet, before);
+  loadUsesBefore(sheet);
+  markReadings(sheet);
 }

@@ -21,5 +21,8 @@ void RefreshReadingGrid(ReadingSheet& sheet);
 /** Where the list is ordered by block and room number; else by the order in which the customers came. */
 bool ordersByRoom(const ReadingSheet& sheet);
 
+/** Customer code, month and use of the shown book and building for a span of months of one file. */
+QString usesStatement(const ReadingSheet& sheet, int firstMonth, int lastMonth);
+
 /** All rows of the book for a month, by customer, without a building: columns and joins of the book's statement. */
 QString wholeBookStatement(const ReadingSheet& sheet, int month);

@@ -29,7 +29,11 @@ enum : int {
   PayWay,      ///< "3" is automatic transfer
   PayDelayed,  ///< check box "1" or "0"
   BDName,
-  Last = BDName
+  // What stands out, beside the bill: not printed, not stored.
+  Judgement,
+  LastUse,   ///< of the month before, cubic metres
+  UsualUse,  ///< what is expected
+  Last = UsualUse
 };
 }
 

@@ -49,7 +49,10 @@ std::vector<SpreadColumn> readingColumns() {
           carried("성명"),
           carried("결제"),
           tick("납기후", 7),
-          carried("건물명")};
+          carried("건물명"),
+          {.header = "판정", .width = 11, .locked = true, .background = lockedCell},
+          shown("전월사용", 9),
+          shown("예상사용", 9)};
 }
 
 }  // namespace

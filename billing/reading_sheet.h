@@ -1,9 +1,12 @@
 #pragma once
 // The meter book as it stands on the screen: one book, one month, a row a customer. Everything that is done to it
 // works on this; a row of the grid is what the bill is computed from and what is saved.
+#include <QHash>
+
 #include <functional>
 
 #include "billing/reading_screen.h"
+#include "billing/reading_watch.h"
 
 struct Session;
 
@@ -17,6 +20,8 @@ struct ReadingSheet {
   QStringList buildings;  ///< entries of CboBDName; the first stands for all
   int building = -1;      ///< place in them; -1 nothing chosen
   QString readingDay;     ///< TxtDay as it stands, "MM/DD"; saved with every row
+
+  QHash<QString, UseBefore> before;  ///< by customer code
 
   /** Before a question about a row other than the current one: the screen brings the row into sight. */
   std::function<void(int row)> showRow;

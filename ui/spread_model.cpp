@@ -48,6 +48,7 @@ void SpreadModel::setMaxRows(int rows) {
     formulas_.clear();
     locks_.clear();
     colours_.clear();
+    signs_.clear();
     tell(What::Reset, 0, 0);
   } else {
     tell(size_t(rows) > before ? What::RowsInserted : What::RowsRemoved, std::min(int(before), rows) + 1, 0);
@@ -84,6 +85,7 @@ void SpreadModel::setRows(std::vector<std::vector<QString>> rows) {
   formulas_.clear();
   locks_.clear();
   colours_.clear();
+  signs_.clear();
   rows_.clear();
   rows_.reserve(rows.size());
   for (auto& cells : rows) {
@@ -134,6 +136,15 @@ void SpreadModel::setBackground(int row, int col, int rgb) {
     of.background = rgb;
   else
     colours_[key(int(of.id), col)] = rgb;
+  tell(What::Cells, row, col);
+}
+
+QString SpreadModel::sign(int row, int col) const {
+  return signs_.isEmpty() ? QString() : signs_.value(key(int(rows_.at(size_t(row - 1)).id), col));
+}
+
+void SpreadModel::setSign(int row, int col, const QString& sign) {
+  signs_[key(int(rows_.at(size_t(row - 1)).id), col)] = sign;
   tell(What::Cells, row, col);
 }
 

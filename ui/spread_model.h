@@ -64,6 +64,9 @@ class SpreadModel {
    *  row. */
   int background(int row, int col) const;
   void setBackground(int row, int col, int rgb);
+  /** A letter at the left edge of an amount's cell that says what the colour says. */
+  QString sign(int row, int col) const;
+  void setSign(int row, int col, const QString& sign);
   bool bold(int row) const;
   void setBold(int row, bool bold);
 
@@ -105,6 +108,7 @@ class SpreadModel {
   std::vector<Formula> formulas_;
   QHash<quint64, bool> locks_;
   QHash<quint64, int> colours_;
+  QHash<quint64, QString> signs_;
   qint64 nextId_ = 1;
   Observer observer_;
 };

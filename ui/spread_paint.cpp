@@ -130,6 +130,11 @@ void Spread::paintCell(QPainter& painter, int row, int col, const QRect& rect) {
     style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, &painter, this);
     inside.setRight(option.rect.left() - 2);
   }
+  if (const QString sign = model_.sign(row, col); !sign.isEmpty()) {
+    painter.setPen(isEnabled() ? look::ink : look::disabledInk);
+    painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, sign);
+    inside.setLeft(inside.left() + painter.fontMetrics().horizontalAdvance(sign) + 3);
+  }
   const QString& stored = model_.text(row, col);
   if (stored.isEmpty()) return;
   const bool toTheRight = isRight(column);

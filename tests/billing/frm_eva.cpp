@@ -300,6 +300,51 @@ TEST(FrmEva, PeopleTickAndDaysAreStoredFromTheGrid) {
   EXPECT_EQ(screen.commands.status, "");
 }
 
+TEST(FrmEva, WhatStandsOutIsCountedAndOneKeyGoesToTheNext) {
+  tests::MeterDesk desk;
+  for (const char* name : {"가람식당", "나루분식", "다솔집", "라온집"}) desk.customer(name, 1500);
+  for (int code = 1; code <= 4; ++code) {
+    desk.set(code, 1, "UseGage = 90, UseMuch = 10");
+    desk.set(code, 2, "UseGage = 100, UseMuch = 10");
+  }
+  Screen screen(desk);
+  EXPECT_EQ(screen.label("PnlMarks"), "□ 미검침 4");
+  EXPECT_EQ(screen.label("PnlUse"), "전월 사용 : 10   예상 : 10 (최근 석 달 평균)   □ 미검침");
+  screen.enter("131");
+  screen.enter("109");
+  screen.enter("95");
+  EXPECT_EQ(screen.label("PnlMarks"), "□ 미검침 1   ◀ 역회전 1   ▲ 많음 1");
+  tests::grab(screen.form, "frmEva-marks");
+  EXPECT_EQ(screen.at(), "4,3");
+  tests::key(Qt::Key_F8);
+  EXPECT_EQ(screen.at(), "1,3");
+  tests::key(Qt::Key_F8);
+  EXPECT_EQ(screen.at(), "3,3") << "the good one is passed";
+  tests::key(Qt::Key_F8, Qt::ShiftModifier);
+  EXPECT_EQ(screen.at(), "1,3");
+  tests::key(Qt::Key_F8);
+  screen.expectQuestion();
+  tests::type("108");
+  tests::key(Qt::Key_F8);
+  EXPECT_EQ(screen.at(), "4,3") << "the open cell is taken, and the way goes on from it";
+  EXPECT_EQ(screen.cell(3, EvaCol::UseMuch) + ' ' + screen.cell(3, EvaCol::Judgement), "8 ");
+  screen.control<QComboBox>("CboMon")->setFocus();
+  tests::key(Qt::Key_F8);
+  EXPECT_EQ(screen.at(), "1,3") << "from every control";
+  EXPECT_TRUE(screen.grid()->isAncestorOf(QApplication::focusWidget()));
+  desk.pc.prompts.expect("엑셀로 자료를 내보내기 하시겠습니까?");
+  QStringList opened;
+  desk.pc.pc.process.setStarter([&](const QString&, const QStringList& files, const QString&) {
+    opened << files;
+    return true;
+  });
+  screen.click("BtnExcel");
+  EXPECT_EQ(opened.size(), 1);
+  desk.pc.prompts.expect("주의사항");
+  screen.choose("CboMon", 0);
+  EXPECT_EQ(screen.label("PnlMarks") + screen.label("PnlUse"), "");
+}
+
 TEST(FrmEva, GiroFormsAreOpenedWhereTheyAreBuilt) {
   tests::MeterDesk desk;
   desk.basic("Delete * From User");
