@@ -13,6 +13,7 @@
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
 #include "app/start_up.h"
+#include "pc/program_line.h"
 #include "ui/guard.h"
 #include "ui/message_boxes.h"
 #include "ui/print_fonts.h"
@@ -23,6 +24,14 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr pc::ProgramLine programLine{
+    "haeon", "",
+    "해온판매: the back office of an LPG retailer.\n"
+    "  HAEON_PC      the folder that stands for the PC's drives and settings (~/.local/share/haeon)\n"
+    "  HAEON_CLOCK   \"2026-03-16 09:00:00\": the program's clock starts there\n"
+    "  HAEON_COM1    the device of the port COM1\n"
+    "  HAEON_PDF     the file that the PDF writer fills without asking"};
 
 // Korean whatever the PC's language is: the boxes of the toolkit (file, colour) speak as the program does.
 void speakKorean(QApplication& application) {
@@ -45,6 +54,7 @@ void tellMissingFonts(Prompts& boxes) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (pc::saidOfItself(programLine, argc, argv)) return 0;
   QApplication application(argc, argv);
   QApplication::setApplicationName(u"haeon"_s);
   QApplication::setQuitOnLastWindowClosed(false);  // between the start window and the main one there is none

@@ -1,13 +1,20 @@
-// bench [--quick] [part of a row's name]
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+
+#include "pc/program_line.h"
 
 namespace bench {
 void runAll(const QString& filter, bool quick);
 }
 
 int main(int argc, char** argv) {
+  constexpr pc::ProgramLine programLine{
+      "bench", "[--quick] [PART]",
+      "Figures beside plain SQLite and plain drawing, each pair in one run.\n"
+      "  --quick   the smallest size alone\n"
+      "  PART      only rows with this in their name"};
+  if (pc::saidOfItself(programLine, argc, argv)) return 0;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QStringList arguments = QApplication::arguments().sliced(1);

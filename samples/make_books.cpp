@@ -1,11 +1,17 @@
-// Makes the sample retailer's books on an empty PC:  make_books PC   (the clock as HAEON_CLOCK says)
+// Makes the sample retailer's books on an empty PC.
 #include <QCoreApplication>
 #include <QTextStream>
 
+#include "pc/program_line.h"
 #include "samples/sample_books.h"
 #include "store/jet/error.h"
 
 namespace {
+
+constexpr pc::ProgramLine programLine{
+    "make_books", "PC",
+    "Makes the sample retailer's books in the folder PC, for the day that HAEON_CLOCK names\n"
+    "(\"2026-03-16 09:00:00\"; without it today's)."};
 
 /** Nobody sits here: a box is told on the error stream, a question is answered with No. */
 class ConsolePrompts : public Prompts {
@@ -33,11 +39,9 @@ class ConsolePrompts : public Prompts {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (pc::saidOfItself(programLine, argc, argv)) return 0;
   QCoreApplication application(argc, argv);
-  if (application.arguments().size() != 2) {
-    QTextStream(stderr) << "usage: make_books PC\n";
-    return 2;
-  }
+  if (application.arguments().size() != 2) return pc::wrongUse(programLine);
   pc::Pc pc(application.arguments().at(1));
   ConsolePrompts prompts;
   try {

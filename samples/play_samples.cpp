@@ -1,15 +1,22 @@
 // The newcomer's first look where there is no display: plays the sample day and the sample month and tells what
 // happened.
-//   play_samples PROGRAMS PC OUT
 #include <QCoreApplication>
 #include <QDir>
 #include <QTextStream>
 #include <stdexcept>
 
+#include "pc/program_line.h"
 #include "samples/day.h"
 #include "samples/month.h"
 
 namespace {
+
+constexpr pc::ProgramLine programLine{
+    "play_samples", "PROGRAMS PC OUT",
+    "Plays the sample day and month on a virtual screen and tells what they did.\n"
+    "  PROGRAMS   folder of haeon and jetsql\n"
+    "  PC         folder with the books that make_books has made\n"
+    "  OUT        folder for the screenshots and the slips"};
 
 QTextStream& out() {
   static QTextStream stream(stdout);
@@ -71,12 +78,10 @@ void playMonth(const samples::Stage::Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (pc::saidOfItself(programLine, argc, argv)) return 0;
   QCoreApplication application(argc, argv);
   const QStringList arguments = application.arguments();
-  if (arguments.size() != 4) {
-    out() << "usage: play_samples PROGRAMS PC OUT\n";
-    return 2;
-  }
+  if (arguments.size() != 4) return pc::wrongUse(programLine);
   samples::Stage::Options options;
   options.programs = arguments[1];
   options.pcRoot = arguments[2];

@@ -1,5 +1,4 @@
 // Pictures of every form on the sample retailer's books, for the documents and for looking at.
-//   take_pictures PC FOLDER        (QT_SCALE_FACTOR=1.5 shows them as on a 144 dpi screen)
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -29,6 +28,7 @@
 #include "links/caller.h"
 #include "links/form_see_id_port.h"
 #include "master/frmNewClient.h"
+#include "pc/program_line.h"
 #include "samples/sample_books.h"
 #include "ui/message_boxes.h"
 #include "ui/printers.h"
@@ -36,6 +36,11 @@
 #include "ui/style.h"
 
 namespace {
+
+constexpr pc::ProgramLine programLine{
+    "take_pictures", "PC FOLDER",
+    "Opens every form on the books in the folder PC and saves its picture in FOLDER.\n"
+    "QT_SCALE_FACTOR=1.5 shows them as on a screen of 144 dpi."};
 
 /** While it lives, work is given every modal window that comes up, once each; also one that comes up within work. */
 class WhenModal {
@@ -207,12 +212,10 @@ void lostFolder(Session& session, Photographer& photographer) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (pc::saidOfItself(programLine, argc, argv)) return 0;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  if (application.arguments().size() != 3) {
-    QTextStream(stderr) << "usage: take_pictures PC FOLDER\n";
-    return 2;
-  }
+  if (application.arguments().size() != 3) return pc::wrongUse(programLine);
   QApplication::setWindowIcon(toolIcon(QStringLiteral("MnuOutcome")));
   look::apply(application);
   pc::Pc pc(application.arguments().at(1));

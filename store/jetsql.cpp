@@ -1,18 +1,26 @@
-// jetsql [-h] FILE ["STATEMENT"]: runs statements on a data file with its links, for developers and support.
-// Without a statement it reads many from standard input, one a line, and stops at the first that fails. Rows come out
-// as tab-separated text, Null as nothing; -h puts the field names before them. Exit status 1 and the error's number and
-// text on standard error when a statement fails, 2 for a wrong call.
+// Statements on a data file with its links, for developers and support.
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QTextStream>
 #include <cstdio>
 
 #include "pc/paths.h"
+#include "pc/program_line.h"
 #include "store/jet/database.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr pc::ProgramLine programLine{
+    "jetsql", "[-h] FILE [\"STATEMENT\"]",
+    R"(Runs statements in the program's own dialect on a data file with its links.
+  FILE        as the program writes it: 'C:\RWGas\Dbs\Basic.mdb'
+  STATEMENT   without one, many are read from standard input, one a line, up to the first that fails
+  -h          field names before the rows
+Rows come out as tab-separated text, Null as nothing.
+Exit status 1 and the error's number and text when a statement fails, 2 for a wrong call.
+HAEON_PC names the folder that stands for the PC.)"};
 
 /** A row stays one line: what would break it is written as \t, \n, \r and \\. */
 QString escaped(QString text) {
@@ -53,15 +61,13 @@ int fail(const jet::Error& error, int line = 0) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (pc::saidOfItself(programLine, argc, argv)) return 0;
   QCoreApplication app(argc, argv);
   QStringList arguments = app.arguments().mid(1);
   const bool names = !arguments.isEmpty() && arguments.first() == u"-h";
   if (names) arguments.removeFirst();
   QTextStream out(stdout);
-  if (arguments.isEmpty() || arguments.size() > 2) {
-    QTextStream(stderr) << "usage: jetsql [-h] FILE [\"STATEMENT\"]\n";
-    return 2;
-  }
+  if (arguments.isEmpty() || arguments.size() > 2) return pc::wrongUse(programLine);
   const pc::Paths paths(pc::Paths::defaultRoot());
   const auto native = [&](const QString& written) { return paths.native(written); };
   int line = 0;

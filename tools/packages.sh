@@ -5,6 +5,7 @@ packages=(g++ cmake ninja-build ccache pkg-config libsqlite3-dev libxlsxwriter-d
           libgl-dev libxcb1-dev qt6-translations-l10n libgtest-dev libgmock-dev fonts-nanum fonts-baekmuk fonts-ocr-b xvfb xauth xdotool openbox x11-utils
           poppler-utils imagemagick socat)
 [ "${1:-}" = check ] && packages+=(unzip clang-format clang-tidy cups-daemon cups-client)
+[ "${1:-}" = package ] && packages+=(debootstrap)
 [ "${1:-}" = bench ] && packages+=(libbenchmark-dev)
 missing=()
 for package in "${packages[@]}"; do
