@@ -81,6 +81,7 @@ constexpr CommandEntry commandTable[] = {
     {u"MnuContribution", u"mnu_changeYear", u"PC년도 변경(&T)", Dialog, u"frmChangeYear"},
 
     {u"", u"MnuHelp", u"도움말(&H)", Menu},
+    {u"MnuHelp", u"MnuAbout", u"프로그램 정보(&A)", Dialog, u"frmAbout"},
     {u"MnuHelp", u"mnu_SeeIDSetUp", u"발신번호 환경설정(&S)", Menu},
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDEnabled", u"사용(&E)", SeeIdEnabled},
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDPort", u"포트설정(&P)", Dialog, u"FrmSeeIDOptions"},
@@ -89,7 +90,6 @@ constexpr CommandEntry commandTable[] = {
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDStanbyList", u"대기목록(&L)", Form, u"FrmSeeIDStanbyList"},
     {u"MnuHelp", u"mnuHome", u"홈페이지(&H)", Home, u"", Ruled},
     {u"MnuHelp", u"mnu_Teminal", u"원격지원서비스(&R)", RemoteSupport},
-    {u"MnuHelp", u"MnuAbout", u"프로그램 정보(&A)", Dialog, u"frmAbout", Ruled},
 };
 
 // The sixth opens no form of its own: it drops the menu of the meter book.

@@ -106,6 +106,7 @@ ProfileSaved CompanyProfile::saveProfile(const CompanyData& data) {
   }
   session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"UserName"_s, data.Company);
   session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"Ocr"_s, data.Ocr);
+  if (session_.profileChanged) session_.profileChanged();
   if (changing)
     session_.prompts.MsgInfo(u"사용자 정보 수정이 완료되었습니다"_s, u"사용자 정보 수정 완료"_s);
   else
@@ -138,6 +139,7 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
       u", "_s + (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s));
   session_.StockEnabled = settings.Stock;
   readRateBook(session_);
+  if (session_.profileChanged) session_.profileChanged();
   if (settings.password.isEmpty())
     session_.prompts.MsgInfo(u"귀하의 패스워드가 현재 삭제된 상태입니다."_s + u'\n' +
                                  u"패스워드는 프로그램의 모든 보안사항을 통과하므로"_s + u'\n' +

@@ -49,13 +49,16 @@ frmMain::frmMain(Session& session, Pickers& pickers, QWidget* parent)
   buildStatusLine();
   resize(1200, 800);
   refresh();
+  session_.profileChanged = [this] { refresh(); };
   for (auto& port : ports_)
     port->onEvent = [this](int state, const QString& number) {
       guard([&] { caller_->deviceEvent(state, number); });
     };
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain() {
+  session_.profileChanged = {};
+}
 
 void frmMain::start() {
   guard([&] { caller_->OpenSeeID(); });
@@ -116,9 +119,13 @@ void frmMain::buildToolBar() {
     } else {
       QAction* action = actions_.value(command);
       connect(button, &QToolButton::clicked, action, &QAction::trigger);
-      connect(action, &QAction::changed, button,
-              [button, action] { button->setEnabled(action->isEnabled()); });
-      button->setToolTip(captionOf(*findCommand(command)));
+      const QString caption = captionOf(*findCommand(command));
+      connect(action, &QAction::changed, button, [button, action, caption] {
+        button->setEnabled(action->isEnabled());
+        button->setStatusTip(action->statusTip());
+        button->setToolTip(action->isEnabled() ? caption : action->statusTip());
+      });
+      button->setToolTip(caption);
     }
     bar->addWidget(button);
   }
@@ -157,22 +164,24 @@ void frmMain::showClock() {
   clock_->setText(longDate(now.date()) + u' ' + clockTime(now.time()));
 }
 
-bool frmMain::isOn(const CommandEntry& entry) const {
-  if (entry.flags & CommandEntry::NeedsStock && !session_.StockEnabled) return false;
-  switch (entry.kind) {
-    case CommandKind::Form:
-    case CommandKind::Dialog:
-      return isBuilt(entry.formName());
-    case CommandKind::Later:
-      return false;
-    default:
-      return true;
-  }
+QString frmMain::whyOff(const CommandEntry& entry) const {
+  const bool later =
+      entry.kind == CommandKind::Later ||
+      ((entry.kind == CommandKind::Form || entry.kind == CommandKind::Dialog) && !isBuilt(entry.formName()));
+  if (later) return captionOf(entry) + u": 아직 준비되지 않은 메뉴입니다."_s;
+  if (entry.flags & CommandEntry::NeedsStock && !session_.StockEnabled)
+    return captionOf(entry) +
+           u": 재고관리를 하지 않는 동안은 쓸 수 없습니다. [보조관리 - 사용자 등록]의 환경설정에서 \"관리함\"을 고르십시오."_s;
+  return {};
 }
 
 void frmMain::refresh() {
   for (const auto& entry : commandMap())
-    if (QAction* action = actions_.value(entry.objectName())) action->setEnabled(isOn(entry));
+    if (QAction* action = actions_.value(entry.objectName())) {
+      const QString reason = whyOff(entry);
+      action->setEnabled(reason.isEmpty());
+      action->setStatusTip(reason);
+    }
   actions_[u"mnu_SeeIDEnabled"_s]->setChecked(caller_->enabled());
   // Once the files are closed (a new data folder was chosen) the window only waits for its end.
   if (session_.dbBasic.isOpen()) guard([&] { pnlCompany_->setText(CompanyProfile(session_).companyName()); });
@@ -182,7 +191,7 @@ void frmMain::refresh() {
 
 bool frmMain::run(const QString& command) {
   const CommandEntry* entry = findCommand(command);
-  if (!entry || entry->kind == CommandKind::Menu || !isOn(*entry)) return false;
+  if (!entry || entry->kind == CommandKind::Menu || !whyOff(*entry).isEmpty()) return false;
   perform(*entry);
   return true;
 }

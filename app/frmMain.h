@@ -51,7 +51,8 @@ class frmMain : public QMainWindow, public Commands {
   void buildMenus();
   void buildToolBar();
   void buildStatusLine();
-  bool isOn(const CommandEntry& entry) const;
+  /** Why an entry is off; '' when it is on. */
+  QString whyOff(const CommandEntry& entry) const;
   void perform(const CommandEntry& entry);
   void showClock();
   bool isBuilt(const QString& form) const;

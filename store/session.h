@@ -2,6 +2,8 @@
 // What lasts from start to exit: the session's globals and open handles. Filled by app/start_up, read everywhere.
 #include <QString>
 
+#include <functional>
+
 #include "pc/pc.h"
 #include "store/jet/database.h"
 #include "store/rate_book.h"
@@ -34,6 +36,9 @@ struct Session {
 
   QString SaleDay;            ///< "yyyy-mm-dd", the day that frmTodaySale sums up; set by the sale screen
   bool SaleLedgerGas = true;  ///< what frmPrtSale lists: gas lines, else materials; set by the sale screen
+
+  std::function<void()>
+      profileChanged;  ///< called when the company's row was saved; the main window shows its name
 
   pc::Printers* printers = nullptr;  ///< the PC's; set once at start
   pc::Reports* reports = nullptr;

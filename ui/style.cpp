@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPalette>
-#include <QStyle>
+#include <QProxyStyle>
 #include <QStyleFactory>
 
 namespace {
@@ -38,6 +38,17 @@ QPalette officePalette() {
   palette.setColor(QPalette::Disabled, QPalette::Button, look::disabledPaper);
   return palette;
 }
+
+/** A grey entry of a menu can be gone to, so that the status line tells why it is grey. */
+class MenuStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_Menu_AllowActiveAndDisabled) return 1;
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
 
 // Only what Fusion and the palette do not already give: flat one-pixel frames, dense boxes, a clear focus.
 const char* const sheet = R"(
@@ -97,7 +108,7 @@ QFont look::textFont(int points, bool bold) {
 }
 
 void look::apply(QApplication& application) {
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new MenuStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
   QApplication::setFont(textFont());
   QApplication::setPalette(officePalette());
   application.setStyleSheet(QString::fromUtf8(sheet));

@@ -6,8 +6,10 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
+#include <QStatusBar>
 #include <QTimer>
 
+#include "app/company_profile.h"
 #include "app/frame_rules.h"
 #include "billing/reading_screen.h"
 #include "links/caller.h"
@@ -55,6 +57,40 @@ TEST_F(MainWindow, EntriesWithoutTheirFormAreOffAndStockEntriesFollowTheCompany)
   EXPECT_TRUE(window->findChild<QWidget*>("TBar11")->isEnabled());
   EXPECT_FALSE(window->findChild<QWidget*>("TBar2")->isEnabled());
   tests::grab(*window, "frmMain");
+}
+
+TEST_F(MainWindow, AGreyEntryTellsWhyWhereverItIsMet) {
+  const auto told = [this] { return window->statusBar()->currentMessage(); };
+  QTest::keyClick(window.get(), Qt::Key_B, Qt::AltModifier);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_TRUE(menu);
+  menu->setActiveAction(entry("MnuGas"));
+  EXPECT_EQ(told(), "");
+  QTest::keyClick(menu, Qt::Key_Down);
+  EXPECT_TRUE(told().startsWith("재고 초기화: 재고관리를 하지 않는 동안은")) << told().toStdString();
+  QTest::keyClick(menu, Qt::Key_D);
+  EXPECT_EQ(told(), "데이터 내려받기: 아직 준비되지 않은 메뉴입니다.") << "its own letter goes to it";
+  EXPECT_TRUE(menu->isVisible());
+  tests::grab(*menu, "frmMain-grey");
+  QTest::keyClick(menu, Qt::Key_Return);
+  EXPECT_EQ(children(), 0);
+  QTest::keyClick(menu, Qt::Key_Escape);
+  EXPECT_EQ(told(), "");
+}
+
+TEST_F(MainWindow, TheCompanysNameAndTheStockEntriesFollowASavedProfile) {
+  prompts.expect("사용자 등록이 완료되었습니다");
+  CompanyProfile profile(session);
+  CompanyData data;
+  data.Company = "해온가스";
+  data.User = "홍";
+  EXPECT_EQ(profile.saveProfile(data), ProfileSaved::Yes);
+  EXPECT_EQ(window->findChild<QLabel*>("PnlCompany")->text(), "해온가스");
+  prompts.expect("패스워드가 현재 삭제된 상태입니다.");
+  BillingSettings settings;
+  settings.Stock = true;
+  EXPECT_TRUE(profile.saveSettings(settings));
+  EXPECT_TRUE(entry("MnuInitStock")->isEnabled());
 }
 
 TEST_F(MainWindow, APageReachesADialogBeforeItRuns) {
