@@ -185,7 +185,8 @@ class PageDrawing {
 
   void drawRow(const ReportBand& band) {
     addToTable(band);
-    setFont(layout_.font.points, false);
+    const bool bold = report_.table().boldRows.contains(band.row);
+    setFont(layout_.font.points, bold);
     for (size_t col = 0; col < layout_.columns.size(); ++col) {
       const ReportColumn& column = layout_.columns[col];
       const QString text = report_.cell(band.row, column);
@@ -194,7 +195,7 @@ class PageDrawing {
       if (column.field.startsWith("Str"_L1))
         putText(box, text, column.align);
       else
-        putFigure(box, text, column.align, false);
+        putFigure(box, text, column.align, bold);
     }
   }
 

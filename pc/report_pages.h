@@ -1,6 +1,6 @@
 #pragma once
 // A report's rows broken into pages: plain arithmetic on heights, without fonts and painters.
-#include <map>
+#include <set>
 #include <variant>
 #include <vector>
 
@@ -16,6 +16,7 @@ QString plainText(const ReportValue& value);  ///< a number's plain digits
 struct ReportTable {
   QStringList fields;
   std::vector<std::vector<ReportValue>> rows = {};
+  std::set<int> boldRows = {};  ///< rows that stand out
 
   /** Nothing for a field that is not there. */
   const ReportValue& value(int row, const QString& field) const;

@@ -6,32 +6,19 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "ui/FrmProgress.h"
 #include "ui/excel_export.h"
 #include "ui/page_view.h"
+#include "ui/print_report.h"
 #include "ui/printers.h"
 #include "ui/report_sheet.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int pagesWithoutBar = 20;  ///< so many are printed at once, without showing progress
-
-const QString reportPrinterKey = u"보고서"_s;
-
-}  // namespace
 
 frmReport::frmReport(Session& session, std::unique_ptr<pc::Report> report, const QString& title,
                      QWidget* parent)
     : Form(u"frmReport"_s, title, session, parent), report_(std::move(report)) {
   setWindowFlag(Qt::Window);
   setAttribute(Qt::WA_DeleteOnClose);
-  choosePrinter = [this](int pages) {
-    const QString before =
-        this->session().pc.settings.GetSetting(u"해온판매"_s, u"프린터설정"_s, reportPrinterKey);
-    return askPrintChoice(*this->session().printers, before, pages, this);
-  };
   view_ = new PageView(*report_, this);
   body()->addWidget(toolRow());
   body()->addWidget(view_, 1);
@@ -86,7 +73,9 @@ QWidget* frmReport::toolRow() {
   line->addWidget(addTool("BtnFitPage", u"쪽 맞춤"_s, [this] { view_->setFit(PageView::Fit::Page); }));
   line->addStretch(1);
   line->addWidget(addTool("BtnPrt", u"인쇄"_s, [this] { print(); }));
-  line->addWidget(addTool("BtnPdf", u"PDF"_s, [this] { printTo(pdfPrinterName(), {}); }));
+  line->addWidget(addTool("BtnPdf", u"PDF"_s, [this] {
+    printTo(session(), *report_, windowTitle(), pdfPrinterName(), {}, this);
+  }));
   line->addWidget(addTool("BtnExcel", u"엑셀"_s,
                           [this] { ExportToExcelFile(session(), reportSheet(*report_), windowTitle()); }));
   line->addWidget(addTool("BtnExit", u"닫기"_s, [this] { close(); }));
@@ -117,16 +106,5 @@ void frmReport::showPlace() {
 }
 
 void frmReport::print() {
-  const auto choice = choosePrinter(report_->pages().count());
-  if (!choice) return;
-  session().pc.settings.SaveSetting(u"해온판매"_s, u"프린터설정"_s, reportPrinterKey, choice->printer);
-  printTo(choice->printer, {choice->first - 1, choice->last - 1});
-}
-
-void frmReport::printTo(const QString& printer, pc::ReportRange range) {
-  const auto job = session().printers->open(printer, windowTitle(), report_->layout().paper);
-  const int pages = (range.last < 0 ? report_->pages().count() : range.last + 1) - range.first;
-  std::optional<FrmProgress> bar;
-  if (pages > pagesWithoutBar) bar.emplace(u"인쇄 중입니다... 잠시만 기다려 주세요."_s, pages, true, this);
-  pc::printReport(*job, *report_, range, [&](int done) { return !bar || bar->step(done); });
+  askAndPrint(session(), *report_, windowTitle(), this);
 }

@@ -4,7 +4,6 @@
 
 #include "pc/report.h"
 #include "ui/form.h"
-#include "ui/print_choice.h"
 
 class PageView;
 
@@ -16,8 +15,6 @@ class frmReport : public Form {
   ~frmReport() override;
 
   QSize sizeHint() const override;
-  /** Asks for the printer; a test puts its own in its place. */
-  std::function<std::optional<PrintChoice>(int pages)> choosePrinter;
 
  private:
   QWidget* toolRow();
@@ -25,7 +22,6 @@ class frmReport : public Form {
   void addKeys();
   void showPlace();
   void print();
-  void printTo(const QString& printer, pc::ReportRange range);
 
   std::unique_ptr<pc::Report> report_;
   PageView* view_ = nullptr;

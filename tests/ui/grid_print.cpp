@@ -1,10 +1,8 @@
 #include "ui/grid_print.h"
 
-#include <QPrinter>
-#include <QProcess>
-#include <QRegularExpression>
-
+#include "tests/recorded_print.h"
 #include "tests/support.h"
+#include "ui/print_report.h"
 #include "ui/spread_model.h"
 
 namespace {
@@ -12,60 +10,75 @@ namespace {
 class GridPrinting : public ::testing::Test {
  protected:
   void SetUp() override {
+    pc.session.printers = &printers;
     grid.setColumns({{.header = "이름", .width = 20},
                      {.header = "가스미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
-                     {.header = "코드", .hidden = true}});
-    printerChooser() = [this](QPrinter& printer, QWidget*) {
-      printer.setOutputFormat(QPrinter::PdfFormat);
-      printer.setOutputFileName(file);
-      return true;
-    };
+                     {.header = "코드", .hidden = true},
+                     {.header = "실병", .group = "보유", .width = 8, .kind = CellKind::Integer},
+                     {.header = "공병", .group = "보유", .width = 8, .kind = CellKind::Integer}});
+    printChooser() = [](Session&, int pages, QWidget*) { return PrintChoice{"지로프린터", 1, pages}; };
   }
-  QString printed() const {
-    QProcess reader;
-    reader.start("pdftotext", {"-layout", file, "-"});
-    reader.waitForFinished();
-    // The fonts' blank comes out of the file as a control sign or not at all.
-    return QString::fromUtf8(reader.readAllStandardOutput()).remove(u' ').remove(QChar(1));
-  }
+  void TearDown() override { printChooser() = asked; }
 
   tests::TestPc pc;
-  const QString file = pc.folder.filePath("grid.pdf");
+  tests::RecordedPrinters printers;
   SpreadModel grid;
+  const PrintChooser asked = printChooser();
 };
 
-TEST_F(GridPrinting, rowsGoOverPagesWithHeaderAndNumbers) {
+TEST_F(GridPrinting, rowsGoOverPagesWithHeadingAndNumbers) {
   std::vector<std::vector<QString>> rows;
   for (int i = 1; i <= 120; ++i)
-    rows.push_back({"고객" + QString::number(i), QString::number(i * 1000), "7001"});
+    rows.push_back({"고객" + QString::number(i), QString::number(i * 1000), "7001", "3", "4"});
+  rows.push_back({});
   grid.setRows(rows);
+  grid.setBold(120, true);
   ASSERT_TRUE(PrintGrid(pc.session, grid, "일반고객 현황", nullptr));
-  const QString text = printed();
-  const QStringList pages = text.split(u'\f', Qt::SkipEmptyParts);
-  ASSERT_EQ(pages.size(), 3);
-  for (const QString& page : pages) EXPECT_TRUE(page.contains("가스미수"));
-  EXPECT_TRUE(pages[0].contains("1/3") && pages[0].contains("일반고객현황")) << pages[0].toStdString();
-  EXPECT_TRUE(pages[2].contains("고객120") && pages[2].contains("120,000"));
-  EXPECT_FALSE(text.contains("7001")) << "a hidden column stays off the paper";
-  for (int i = 1; i <= 120; ++i) {
-    const QRegularExpression row(QString("고객%1%2,000\\n").arg(i).arg(i));
-    EXPECT_EQ(text.count(row), 1) << i;
+  const tests::RecordedJob& job = *printers.jobs.at(0);
+  EXPECT_EQ(job.printer, "지로프린터");
+  EXPECT_TRUE(job.ended);
+  EXPECT_GT(job.paper.height, job.paper.width);
+  ASSERT_EQ(job.pages, 3);
+  QStringList all;
+  for (int page = 1; page <= job.pages; ++page) {
+    const QStringList texts = job.texts(page);
+    for (const QString& text : {QString("일반고객 현황"), QString("이름"), QString("가스미수"),
+                                QString("보유"), QString("%1 / 3").arg(page)})
+      EXPECT_EQ(texts.count(text), 1) << text.toStdString() << page;
+    all << texts;
   }
+  EXPECT_FALSE(all.contains("7001") || all.contains("코드")) << "a hidden column stays off the paper";
+  for (int i = 1; i <= 120; ++i) EXPECT_EQ(all.count("고객" + QString::number(i)), 1) << i;
+  for (const auto& item : job.items) {
+    if (item.text.startsWith("고객1")) {
+      EXPECT_EQ(item.font.bold, item.text == "고객120") << item.text.toStdString();
+    }
+  }
+  EXPECT_TRUE(all.contains("120,000"));
+}
+
+TEST_F(GridPrinting, aWideGridLiesOnItsSideAndOtherThanMoneyStandsAsItIs) {
+  grid.setColumns({{.header = "주소", .width = 100},
+                   {.header = "금액", .width = 20, .kind = CellKind::Money},
+                   {.header = "수량", .width = 8, .kind = CellKind::Number}});
+  grid.setRows({{"대구", "1234567", "1234.5"}, {"부산", "미정", ""}});
+  ASSERT_TRUE(PrintGrid(pc.session, grid, "현황", nullptr));
+  const tests::RecordedJob& job = *printers.jobs.at(0);
+  EXPECT_GT(job.paper.width, job.paper.height);
+  for (const char* text : {"1,234,567", "미정", "1234.5"})
+    EXPECT_EQ(job.texts().count(QString(text)), 1) << text;
 }
 
 TEST_F(GridPrinting, tellsWhyNothingIsPrinted) {
   pc.prompts.expect("출력할 자료가 없습니다!");
   EXPECT_FALSE(PrintGrid(pc.session, grid, "현황", nullptr));
-  grid.setRows({{"고객", "1", ""}});
-  printerChooser() = [](QPrinter&, QWidget*) { return false; };
-  EXPECT_FALSE(PrintGrid(pc.session, grid, "현황", nullptr)) << "the operator left";
-  printerChooser() = [](QPrinter& printer, QWidget*) {
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName("/nowhere/at/all.pdf");
-    return true;
-  };
-  pc.prompts.expect("인쇄를 시작할 수 없습니다!");
+  grid.setRows({{"고객", "1", "", "", ""}});
+  printers.refusal = "프린터가 꺼져 있습니다.";
+  pc.prompts.expect("프린터가 꺼져 있습니다.");
   EXPECT_FALSE(PrintGrid(pc.session, grid, "현황", nullptr));
+  printChooser() = [](Session&, int, QWidget*) { return std::nullopt; };
+  EXPECT_FALSE(PrintGrid(pc.session, grid, "현황", nullptr)) << "the operator left";
+  EXPECT_TRUE(printers.jobs.empty());
 }
 
 }  // namespace

@@ -27,6 +27,7 @@ class ReportViewing : public ::testing::Test {
     pc.session.RptPath = "C:\\RWGas\\RPT\\";
     pc.session.printers = &printers;
   }
+  void TearDown() override { printChooser() = asking; }
   /** A month's list of an apartment block. */
   void stageReadings(int rows) {
     stageReport(pc.session, rows, [](int row) {
@@ -57,6 +58,7 @@ class ReportViewing : public ::testing::Test {
   tests::TestPc pc;
   tests::RecordedPrinters printers;
   ReportViewer viewer{pc.session};
+  const PrintChooser asking = printChooser();
 };
 
 TEST_F(ReportViewing, KeysTurnPagesChangeTheSizeAndClose) {
@@ -91,9 +93,9 @@ TEST_F(ReportViewing, KeysTurnPagesChangeTheSizeAndClose) {
 
 TEST_F(ReportViewing, PrintsWhatIsChosenOnTheChosenPrinterAndRemembersIt) {
   stageReadings(100);
-  frmReport* const form = show();
+  show();
   int asked = 0;
-  form->choosePrinter = [&](int pages) -> std::optional<PrintChoice> {
+  printChooser() = [&](Session&, int pages, QWidget*) -> std::optional<PrintChoice> {
     asked = pages;
     return PrintChoice{"지로프린터", 2, 2};
   };
@@ -109,7 +111,7 @@ TEST_F(ReportViewing, PrintsWhatIsChosenOnTheChosenPrinterAndRemembersIt) {
   printers.refusal = "용지가 없습니다.";
   pc.prompts.expect("용지가 없습니다.");
   tests::key(Qt::Key_P, Qt::ControlModifier);
-  form->choosePrinter = [](int) { return std::nullopt; };
+  printChooser() = [](Session&, int, QWidget*) { return std::nullopt; };
   tests::key(Qt::Key_F10);
   EXPECT_EQ(printers.jobs.size(), 1u);
 }
