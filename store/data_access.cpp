@@ -40,6 +40,11 @@ bool sameName(const QString& a, const QString& b) {
   return a.toUpper() == b.toUpper();
 }
 
+bool hasField(const jet::TableDef& table, const QString& name) {
+  return std::ranges::any_of(table.fields,
+                             [&](const jet::Field& field) { return sameName(field.name, name); });
+}
+
 }  // namespace
 
 bool OpenDB(const jet::Workspace& workspace, jet::Database& db, const QString& path, bool exclusive) {
@@ -85,9 +90,7 @@ bool DAO_AddField(Prompts& prompts, const jet::Database& db, const QString& tabl
                   jet::Type type, int size, bool allowZeroLength, const QString& initSql,
                   const std::optional<jet::Value>& defaultValue, int ordinal, bool required) {
   try {
-    const jet::TableDef known = db.tableDef(table);
-    for (const jet::Field& present : known.fields)
-      if (sameName(present.name, field)) return false;
+    if (hasField(db.tableDef(table), field)) return false;
     jet::Field added;
     added.name = field;
     added.type = type;
@@ -97,9 +100,14 @@ bool DAO_AddField(Prompts& prompts, const jet::Database& db, const QString& tabl
       added.defaultValue = *defaultValue;
       added.required = required;
     }
-    db.appendField(table, added, ordinal);
-    if (!initSql.isEmpty()) db.Execute(initSql);
-    return true;
+    bool adds = true;
+    db.Together([&] {  // with its rows' first values or not at all; another PC may have been faster
+      adds = !hasField(db.tableDef(table), field);
+      if (!adds) return;
+      db.appendField(table, added, ordinal);
+      if (!initSql.isEmpty()) db.Execute(initSql);
+    });
+    return adds;
   } catch (const jet::Error& error) {
     prompts.ErrorBox(u") in procedure DAO_AddField of Module mdlCommonRW"_s + u"\r\n"_s + u"[TABLE]: "_s +
                          table + u",    [FIELD]: "_s + field,

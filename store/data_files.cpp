@@ -1,9 +1,13 @@
 #include "store/data_files.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <filesystem>
 
 #include "store/data_access.h"
-#include "store/jet/error.h"
+#include "store/jet/error_texts.h"
+#include "store/jet/presence.h"
 #include "store/session.h"
 
 using namespace Qt::StringLiterals;
@@ -11,6 +15,25 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString templateYear = u"2002"_s;
+const QString journalEnding = u"-journal"_s;
+constexpr int patience = 15000;  // milliseconds for another program that makes the same file
+
+/** Whether a file is there; a disk or network that does not answer is no answer. Throws jet::Error 3043. */
+bool isThere(const pc::Paths& paths, const QString& written) {
+  std::error_code failure;
+  const auto found = std::filesystem::status(paths.native(written).toStdU16String(), failure);
+  if (found.type() == std::filesystem::file_type::none) throw jet::errorOf(3043, written);
+  return exists(found);
+}
+
+/** A file that was taken away while it was written is never made anew: its journal would be played into the new one. */
+void checkJournals(const Session& session) {
+  const pc::Paths& paths = session.pc.paths;
+  for (const QString& journal : paths.list(session.DbPath, u"*.mdb"_s + journalEnding)) {
+    const QString file = session.DbPath + journal.chopped(journalEnding.size());
+    if (!isThere(paths, file)) throw jet::missingFile(file);
+  }
+}
 
 /** The regulators every retailer knows, whose rows can be priced but not deleted. */
 void fillFixedRegulators(const jet::Database& basic) {
@@ -27,7 +50,8 @@ bool holdsYears(const Session& session) {
 }
 
 bool mayBegin(Session& session) {
-  if (holdsYears(session)) {
+  // Asked once more behind the years: a program started at the same instant may just have made both.
+  if (holdsYears(session) && !isThere(session.pc.paths, session.DbPath + u"Basic.mdb"_s)) {
     session.prompts.MsgWarn(session.DbPath + u"Basic.mdb 파일을 찾을 수 없습니다."_s + u'\n' +
                             u"년도별 자료가 있으므로 새로 만들지 않습니다. 백업에서 복구하십시오."_s);
     return false;
@@ -61,8 +85,20 @@ jet::Workspace openWorkspace(const Session& session, const QString& folder) {
                          .resolvePath = [&paths](const QString& written) { return paths.native(written); }});
 }
 
-void makeDataFile(const Session& session, const QString& path, schema::File kind) {
+bool makeDataFolder(const pc::Paths& paths, const QString& folder) {
+  const QFileInfo made(paths.native(folder));
+  if (made.exists()) return made.isDir();
+  const QString path = QDir::cleanPath(made.filePath());
+  QDir().mkpath(QFileInfo(path).path());
+  return QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner) ||
+         QFileInfo(path).isDir();
+}
+
+bool makeDataFile(const Session& session, const QString& path, schema::File kind) {
   const QString made = session.pc.paths.native(path), unfinished = made + u".new"_s;
+  const jet::AloneWith alone(made, patience);
+  if (isThere(session.pc.paths, path)) return false;
+  if (QFileInfo::exists(made + journalEnding)) throw jet::missingFile(made);
   QFile::remove(unfinished);
   {
     const jet::Workspace workspace{jet::Workspace::Options{}};
@@ -76,19 +112,38 @@ void makeDataFile(const Session& session, const QString& path, schema::File kind
     });
   }
   if (!QFile::rename(unfinished, made)) throw jet::Error(75, path + u" 파일을 만들 수 없습니다."_s);
+  return true;
 }
+
+namespace {
+
+/** A sound file with a year's tables. Throws jet::Error when that cannot be told. */
+bool isYearFile(const QString& nativePath) {
+  try {
+    const jet::Workspace workspace{jet::Workspace::Options{}};
+    const jet::Database file = workspace.OpenDatabase(nativePath);
+    const auto tables = schema::tablesOf(schema::File::Year);
+    return file.isSound() && std::all_of(tables.begin(), tables.end(), [&](const jet::TableDef& table) {
+             return table.isLink() || file.hasTable(table.name);
+           });
+  } catch (const jet::Error& error) {
+    if (error.number() == 3049 || error.number() == 3343) return false;
+    throw;
+  }
+}
+
+}  // namespace
 
 bool prepareDataFolder(Session& session) {
   const pc::Paths& paths = session.pc.paths;
-  const bool first = !paths.exists(session.DbPath + u"Basic.mdb"_s);
-  if (first && !mayBegin(session)) return false;
   const auto makeMissing = [&](const QString& name, schema::File kind) {
-    if (paths.exists(session.DbPath + name)) return false;
-    makeDataFile(session, session.DbPath + name, kind);
-    return true;
+    return !isThere(paths, session.DbPath + name) && makeDataFile(session, session.DbPath + name, kind);
   };
   try {
-    if (!paths.makeFolder(session.DbPath)) {
+    checkJournals(session);
+    const bool first = !isThere(paths, session.DbPath + u"Basic.mdb"_s);
+    if (first && !mayBegin(session)) return false;
+    if (!makeDataFolder(paths, session.DbPath)) {
       throw jet::Error(75, u"폴더를 만들 수 없습니다. 경로와 쓰기 권한을 확인하십시오."_s);
     }
     makeMissing(templateYear + u"Foundation.mdb"_s, schema::File::Year);
@@ -101,7 +156,7 @@ bool prepareDataFolder(Session& session) {
     // Last: from now on the folder counts as begun.
     if (first) makeMissing(u"Basic.mdb"_s, schema::File::Basic);
   } catch (const jet::Error& error) {
-    session.prompts.ErrorBox(session.DbPath + u" 에 자료 파일을 만들 수 없습니다."_s, error.number(),
+    session.prompts.ErrorBox(session.DbPath + u" 의 자료 파일을 쓸 수 없습니다."_s, error.number(),
                              error.description());
     return false;
   }
@@ -109,9 +164,17 @@ bool prepareDataFolder(Session& session) {
 }
 
 void makeYearFile(Session& session, const QString& year) {
+  const pc::Paths& paths = session.pc.paths;
   const QString path = yearFile(session, year);
-  if (session.pc.paths.exists(path)) return;
-  if (!session.pc.paths.copy(yearFile(session, templateYear), path)) {
-    throw jet::Error(75, path + u" 파일을 만들 수 없습니다."_s);
+  if (isThere(paths, path)) return;
+  const jet::AloneWith alone(paths.native(path), patience);
+  if (isThere(paths, path)) return;
+  if (paths.exists(path + journalEnding)) throw jet::missingFile(path);
+  const QString empty = yearFile(session, templateYear);
+  if (isThere(paths, empty) && !isYearFile(paths.native(empty))) {
+    throw jet::Error(3049, empty + u" 견본 파일이 손상되어 "_s + year +
+                               u"년 자료 파일을 만들지 않았습니다. "_s +
+                               u"그 파일을 지우고 다시 시작하면 견본을 새로 만듭니다."_s);
   }
+  if (!paths.copy(empty, path)) throw jet::Error(75, path + u" 파일을 만들 수 없습니다."_s);
 }

@@ -5,6 +5,9 @@
 #include "store/schema.h"
 
 struct Session;
+namespace pc {
+class Paths;
+}
 
 /** "C:\RWGas\Dbs\", where a new PC keeps its files and where some steps look whatever the setting says. */
 QString installedDataFolder();
@@ -15,13 +18,15 @@ QString yearFile(const Session& session, const QString& year);
 
 /** A workspace on a data folder's files. */
 jet::Workspace openWorkspace(const Session& session, const QString& folder);
-/** Makes a data file with its empty tables (and the rows it starts with); the name is taken only when all is done.
- *  Throws jet::Error. */
-void makeDataFile(const Session& session, const QString& path, schema::File kind);
+/** Makes a data folder that is missing, closed to other accounts of the PC; true when it stands afterwards. */
+bool makeDataFolder(const pc::Paths& paths, const QString& folder);
+/** Makes a data file with its empty tables (and the rows it starts with); the name is taken only when all is done. False
+ *  when another program has made it meanwhile. Throws jet::Error, also where a journal tells that a file was there. */
+bool makeDataFile(const Session& session, const QString& path, schema::File kind);
 
 /** Before anything is opened: makes what is missing. An empty folder gets all files (after a question when it is not
  *  the installed one); year files without their Basic.mdb are left alone, because an empty one would take their rows
  *  for orphans. False when the folder cannot be worked in; that has been told. */
 bool prepareDataFolder(Session& session);
-/** Copies the template for a year that has no file. Throws jet::Error. */
+/** Copies the template for a year that has no file. Throws jet::Error, 3049 for a damaged template. */
 void makeYearFile(Session& session, const QString& year);

@@ -12,7 +12,7 @@ QString printFile() {
 
 void stageReport(Session& session, int rows, const std::function<QString(int row)>& insert) {
   if (!session.pc.paths.exists(printFile())) {
-    session.pc.paths.makeFolder(installedDataFolder());
+    makeDataFolder(session.pc.paths, installedDataFolder());
     makeDataFile(session, printFile(), schema::File::Print);
   }
   const jet::Database print = session.wsMain.OpenDatabase(printFile());

@@ -110,15 +110,19 @@ void makeDealList(Session& session) {
 }
 
 void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::Database& post) {
-  const jet::TableDef old = basic.tableDef(u"PostCode"_s);
-  const jet::Field* ddd = fieldOf(old, u"DDD"_s);
-  if (!ddd || ddd->size == 60) return;
+  const auto isRebuilt = [&] {
+    const jet::TableDef old = basic.tableDef(u"PostCode"_s);
+    const jet::Field* ddd = fieldOf(old, u"DDD"_s);
+    return !ddd || ddd->size == 60;
+  };
+  if (isRebuilt()) return;
   if (!session.pc.settings.GetSetting(session.AppTitle, u"Registration"_s, u"PostC"_s).isEmpty()) return;
   session.prompts.MsgInfo(
       u"잠시만 기다려 주십시오."_s + u"\n\n"_s + u"우편번호를 개정판으로 업그레이드 합니다."_s,
       u"우편번호 업그레이드"_s);
   jet::Recordset rs = post.OpenRecordset(u"Select * from post order by zipcode"_s);
   session.wsMain.Together([&] {
+    if (isRebuilt()) return;  // by another PC meanwhile
     basic.Execute(u"drop table postcode"_s);
     basic.createTable(schema::table(schema::File::Basic, u"PostCode"_s));
     for (; !rs.atEnd(); rs.MoveNext()) {
@@ -135,8 +139,10 @@ void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::D
 void addDealMarks(Session& session) {
   walkYears(session, [&](const QString& file) {
     const jet::Database year = session.wsMain.OpenDatabase(file);
-    if (hasField(year, u"Sale"_s, u"DealList"_s)) return;
-    session.wsMain.Together([&] {
+    const auto isMarked = [&] { return hasField(year, u"Sale"_s, u"DealList"_s); };
+    if (isMarked()) return;
+    year.Together([&] {
+      if (isMarked()) return;  // by another PC meanwhile
       year.appendField(u"Sale"_s, newField(u"DealList"_s, jet::Type::Long));
       year.appendField(u"Sale"_s, newField(u"SaleList"_s, jet::Type::Long));
       year.Execute(u"UPDATE sale SET DealList = 0, SaleList = 0"_s);
@@ -146,11 +152,15 @@ void addDealMarks(Session& session) {
 
 void addClientTaxFields(const jet::Database& basic) {
   // Kept: Serial alone is looked at.
-  if (hasField(basic, u"Client"_s, u"Serial"_s)) return;
-  basic.appendField(u"Client"_s, newField(u"Serial"_s, jet::Type::Text, 12));
-  basic.appendField(u"Client"_s, newField(u"Status"_s, jet::Type::Text, 10));
-  basic.appendField(u"Client"_s, newField(u"Item"_s, jet::Type::Text, 20));
-  basic.appendField(u"Client"_s, newField(u"Uname"_s, jet::Type::Text, 10));
+  const auto isThere = [&] { return hasField(basic, u"Client"_s, u"Serial"_s); };
+  if (isThere()) return;
+  basic.Together([&] {  // all or none: a part of them would never be looked at again
+    if (isThere()) return;
+    basic.appendField(u"Client"_s, newField(u"Serial"_s, jet::Type::Text, 12));
+    basic.appendField(u"Client"_s, newField(u"Status"_s, jet::Type::Text, 10));
+    basic.appendField(u"Client"_s, newField(u"Item"_s, jet::Type::Text, 20));
+    basic.appendField(u"Client"_s, newField(u"Uname"_s, jet::Type::Text, 10));
+  });
 }
 
 void removeOrphans(Session& session) {
@@ -160,7 +170,7 @@ void removeOrphans(Session& session) {
         u"Select sale.clientcode From sale Left Join ["_s + plainPath(session.DbPath) + u"Basic.mdb"_s +
         u"].client on sale.clientcode = client.code where client.code is null"_s);
     if (rs.RecordCount() == 0) return;
-    session.wsMain.Together([&] {
+    year.Together([&] {
       for (; !rs.atEnd(); rs.MoveNext()) {
         if (rs.isNull(u"clientcode"_s)) continue;  // names no customer; the statement could not be written
         year.Execute(u"delete * from sale where clientcode = "_s + plainNumber(rs[u"clientcode"_s].toText()));
@@ -180,7 +190,7 @@ bool relink(Session& session) {
       all = OpenDB(session.wsMain, year, file);
       if (!all) return;
       if (isLinked(year, session.BasicPath)) continue;  // at most starts; a write would hold up the other PCs
-      session.wsMain.Together([&] { linkAnew(year, session.BasicPath); });
+      year.Together([&] { linkAnew(year, session.BasicPath); });
     }
   });
   return all;
@@ -203,19 +213,25 @@ void widenTaxFields(const jet::Database& tax) {
 void addMoreTelephones(Session& session) {
   jet::Database basic;
   if (!OpenDB(session.wsMain, basic, session.BasicPath)) return;
-  // Kept: when Tel1 is there, Tel2 is not looked at.
-  if (DAO_AddField(session.prompts, basic, u"Client"_s, u"Tel1"_s, jet::Type::Text, 14, true,
-                   u"Update client set Tel1 = ''"_s)) {
-    DAO_AddField(session.prompts, basic, u"Client"_s, u"Tel2"_s, jet::Type::Text, 14, true,
-                 u"Update client set Tel2 = ''"_s);
-  }
+  // Kept: when Tel1 is there, Tel2 is not looked at. So a failure in between leaves neither.
+  if (hasField(basic, u"Client"_s, u"Tel1"_s)) return;
+  basic.Together([&] {
+    if (DAO_AddField(session.prompts, basic, u"Client"_s, u"Tel1"_s, jet::Type::Text, 14, true,
+                     u"Update client set Tel1 = ''"_s)) {
+      DAO_AddField(session.prompts, basic, u"Client"_s, u"Tel2"_s, jet::Type::Text, 14, true,
+                   u"Update client set Tel2 = ''"_s);
+    }
+  });
 }
 
 void makeOptions(Session& session) {
   if (!OpenDB(session.wsMain, session.dbCommon, u"C:\\rwgas\\dbs\\basic.mdb"_s)) return;
   if (DAO_ExistTable(session.prompts, session.dbCommon, u"Options"_s)) return;
-  session.dbCommon.createTable(schema::table(schema::File::Basic, u"Options"_s));
-  session.dbCommon.Execute(u"INSERT INTO Options (OPTName, OPTValue) VALUES ('MICR용지','0')"_s);
+  session.dbCommon.Together([&] {
+    if (session.dbCommon.hasTable(u"Options"_s)) return;  // made by another PC meanwhile
+    session.dbCommon.createTable(schema::table(schema::File::Basic, u"Options"_s));
+    session.dbCommon.Execute(u"INSERT INTO Options (OPTName, OPTValue) VALUES ('MICR용지','0')"_s);
+  });
 }
 
 }  // namespace upgrades

@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "store/jet/error_texts.h"
+#include "store/jet/file_system.h"
 #include "store/jet/functions.h"
 
 using namespace Qt::StringLiterals;
@@ -72,13 +73,13 @@ int Connection::waitForLock(void* connection, int tries) {
 
 Connection::Connection(const QString& nativePath, int busyMilliseconds) : patience_(busyMilliseconds) {
   const QFileInfo file(nativePath);
-  if (!file.exists()) fail(3024, nativePath);
+  if (!file.exists()) throw missingFile(nativePath);
   if (!file.isFile()) fail(3044, nativePath);
   sqlite3* handle = nullptr;
   // Without the create flag: a file that is not there is never made by looking at it, neither here nor attached.
   // And without locks around every call: one thread at a time works with a connection.
   const int code = sqlite3_open_v2(nativePath.toUtf8().constData(), &handle,
-                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, fileSystem());
   handle_.reset(handle);
   if (code != SQLITE_OK) throw error(code, nativePath);
   sqlite3_extended_result_codes(handle, 1);
@@ -129,8 +130,11 @@ Error Connection::error(int code, const QString& about) const {
     case SQLITE_MISMATCH:
       return errorOf(3421, about);
     case SQLITE_READONLY:
-      return errorOf(3027, about);
+      // What stands under the name on the disk is another file by now, or none.
+      return errorOf(code == SQLITE_READONLY_DBMOVED ? 3043 : 3027, about);
     case SQLITE_CANTOPEN:
+      if (const auto refused = takeRefusal()) return *refused;
+      return errorOf(3051, about);
     case SQLITE_PERM:
     case SQLITE_AUTH:
       return errorOf(3051, about);

@@ -88,7 +88,8 @@ int userVersion(Connection& connection, const QByteArray& alias, const QString& 
 void DataFile::create(const QString& nativePath) {
   const QFileInfo file(nativePath);
   if (file.exists()) fail(3204, nativePath);
-  if (!file.absoluteDir().exists()) fail(3044, nativePath);
+  if (!file.absoluteDir().exists() || QFileInfo::exists(nativePath + u"-journal"_s))
+    throw missingFile(nativePath);
   QFile made(nativePath);
   if (!made.open(QIODevice::WriteOnly | QIODevice::NewOnly)) fail(3051, nativePath);
   made.close();

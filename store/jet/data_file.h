@@ -7,11 +7,13 @@
 // every table, and is refused when it writes to one with an index on a text.
 #include <QHash>
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "store/jet/compile.h"
 #include "store/jet/connection.h"
 #include "store/jet/database.h"
+#include "store/jet/presence.h"
 
 namespace jet {
 
@@ -35,6 +37,14 @@ class DataFile {
   /** A failure undid more than its own statement: the catalogue is read again before the next one. */
   bool outdated = false;
   quint64 lastUse = 0;
+
+  /** From before it is opened until after it is closed others can see that somebody has it open. 3356. */
+  void arrive(int milliseconds) { presence_.emplace(path_, milliseconds); }
+  void leave() { presence_.reset(); }
+  bool takeAlone() { return presence_ && presence_->takeAlone(); }
+  void shareAgain() {
+    if (presence_) presence_->shareAgain();
+  }
 
   /** Right after opening: a file that a foreign tool has switched to write-ahead logging is switched back, or a group
    *  over several files would not be whole; 3051 when others keep it so. */
@@ -71,6 +81,7 @@ class DataFile {
   std::vector<TableDef> tables_;
   QHash<QString, int> byName_;  ///< case-folded
   int version_ = -1;
+  std::optional<Presence> presence_;
 };
 
 }  // namespace jet

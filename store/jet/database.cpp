@@ -31,9 +31,8 @@ void bindLiterals(SqliteStatement& statement, const Shape& shape) {
   }
 }
 
-/** The file with its catalogue as it is now; another PC may have changed it. */
 const DataFile& currentFile(DatabaseData& data) {
-  data.workspace().runOn(data.file(), [&](Connection& connection) { data.file()->refresh(connection); });
+  data.workspace().refresh(data.file());
   return *data.file();
 }
 
@@ -81,6 +80,13 @@ void Workspace::Together(const std::function<void()>& work) const {
   checked(data_).together(work);
 }
 
+void Workspace::Together(const std::vector<Database>& files, const std::function<void()>& work) const {
+  std::vector<FilePtr> also;
+  for (const Database& file : files)
+    if (file.isOpen()) also.push_back(file.data_->file());
+  checked(data_).together(work, std::move(also));
+}
+
 void Workspace::KeepingFiles(const std::function<void()>& work) const {
   checked(data_).keepingFiles(work);
 }
@@ -89,6 +95,16 @@ void Workspace::KeepingFiles(const std::function<void()>& work) const {
 
 QString Database::path() const {
   return checked(data_).written();
+}
+
+void Database::Together(const std::function<void()>& work) const {
+  DatabaseData& data = checked(data_);
+  data.workspace().together(work, {data.file()});
+}
+
+bool Database::isSound() const {
+  DatabaseData& data = checked(data_);
+  return data.workspace().isSound(data.file());
 }
 
 int Database::Execute(QStringView sql) const {
@@ -126,8 +142,10 @@ Recordset Database::OpenRecordset(QStringView sql, RecordsetType type) const {
   const Compiled& compiled = prepared.compiled;
   if (compiled.kind != Compiled::Kind::Select) fail(3219, sql.toString());
 
-  RowStore rows(int(prepared.columns->size() + compiled.keys.size()));
+  const int columns = int(prepared.columns->size() + compiled.keys.size());
+  RowStore rows(columns);
   const auto read = [&](Connection&) {
+    if (rows.rows() > 0) rows = RowStore(columns);  // a second reading
     bindLiterals(prepared.statement, shape);
     while (prepared.statement.step(prepared.about)) rows.appendRow(prepared.statement.raw());
     prepared.statement.reset();

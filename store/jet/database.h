@@ -102,8 +102,12 @@ class Database {
   /** Lets the file go when the last handle on it is closed. Closing an unset handle does nothing. */
   void Close() { data_.reset(); }
 
+  /** A group (Workspace::Together) on this file. */
+  void Together(const std::function<void()>& work) const;
   /** Runs one statement, returns the rows it touched. Throws Error. */
   int Execute(QStringView sql) const;
+  /** Reads the whole file; false when it is damaged. Throws what keeps it from being read. */
+  bool isSound() const;
   int Execute(const QString& sql) const { return Execute(QStringView(sql)); }
   Recordset OpenRecordset(QStringView sql, RecordsetType type = RecordsetType::Snapshot) const;
   Recordset OpenRecordset(const QString& sql, RecordsetType type = RecordsetType::Snapshot) const {
@@ -143,9 +147,13 @@ class Workspace {
   Database OpenDatabase(const QString& path, bool exclusive = false) const;
   Database CreateDatabase(const QString& path) const;  ///< 3204 when it exists
 
-  /** One flush for what work does. No undo: when a step throws, what ran before it stays and is committed, and
-   *  the error goes on. Nested calls join the outer one. */
+  /** One flush for what work does. No undo for what a statement's text or data are refused for: what ran before it stays
+   *  and is committed, and the error goes on. A failure of the store itself (disk, room, lock, permission, connection)
+   *  takes all of it back, and every later statement of the group, and the group, fail with it. Nested calls join the
+   *  outer one. */
   void Together(const std::function<void()>& work) const;
+  /** The same for work that writes into several files: all of them are locked before the first is written. */
+  void Together(const std::vector<Database>& files, const std::function<void()>& work) const;
   /** A file that is closed within work keeps its place, unless another needs it, until work ends: opening it again
    *  reads nothing anew. Nothing of it is locked. */
   void KeepingFiles(const std::function<void()>& work) const;

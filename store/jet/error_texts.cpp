@@ -1,5 +1,9 @@
 #include "store/jet/error_texts.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <algorithm>
+
 namespace jet {
 namespace {
 
@@ -29,11 +33,13 @@ constexpr ErrorText kErrorTexts[] = {
     {3027, u"자료를 갱신할 수 없습니다. 파일이 읽기 전용입니다. (%1)"},
     {3035, u"시스템 자원이 부족합니다."},
     {3037, u"테이블 또는 필드의 정의가 올바르지 않습니다. (%1)"},
-    {3043, u"디스크 또는 네트워크 오류입니다. (%1)"},
+    {3043,
+     u"디스크나 네트워크가 응답하지 않았습니다. 저장된 자료는 그대로 있습니다. 연결을 확인하고 다시 하세요. "
+     u"(%1)"},
     {3044, u"'%1'은(는) 올바른 경로가 아닙니다. 경로를 확인하세요."},
     {3045, u"'%1' 파일을 사용할 수 없습니다. 이미 사용 중입니다."},
     {3048, u"더 이상 자료 파일을 열 수 없습니다. 동시에 열 수 있는 파일은 열한 개까지입니다. (%1)"},
-    {3049, u"'%1' 자료 파일이 손상되어 열 수 없습니다. 백업에서 복구하세요."},
+    {3049, u"'%1' 자료 파일이 손상되어 열 수 없습니다. 자료 폴더를 비우고 백업한 폴더 전체를 복구하세요."},
     {3051, u"'%1' 파일을 열거나 쓸 수 없습니다. 다른 사용자가 사용 중이거나 파일 권한이 없습니다."},
     {3057, u"연결된 테이블에서는 이 작업을 할 수 없습니다. (%1)"},
     {3058, u"인덱스나 기본 키에는 Null 값을 넣을 수 없습니다. (%1)"},
@@ -85,6 +91,10 @@ constexpr ErrorText kErrorTexts[] = {
     {3409, u"인덱스에 쓸 수 없는 필드입니다. (%1)"},
     {3420, u"개체가 올바르지 않거나 더 이상 설정되어 있지 않습니다."},
     {3421, u"자료 형식을 변환할 수 없습니다. (%1)"},
+    {3428,
+     u"'%1' 파일과 그 옆의 저널 파일(-journal)이 서로 맞지 않아 저널을 적용하지 않았습니다. 백업에서 파일 "
+     u"하나만 되돌린 "
+     u"경우입니다. 자료 폴더를 비우고 백업한 폴더 전체를 복구하세요."},
     {3464, u"조건식의 자료 형식이 일치하지 않습니다. (%1)"},
 };
 
@@ -101,6 +111,22 @@ Error errorOf(int number, const QString& detail) {
     return Error(number, text.contains(u"%1") ? text.arg(detail) : text);
   }
   return Error(number, QStringLiteral("알 수 없는 오류입니다. %1").arg(detail).trimmed());
+}
+
+Error missingFile(const QString& path) {
+  const QFileInfo file(path);
+  if (!file.dir().exists()) return errorOf(3044, path);
+  if (!QFileInfo::exists(path + QStringLiteral("-journal"))) return errorOf(3024, path);
+  return Error(
+      3024, QStringLiteral("'%1' 파일은 없고 쓰다 만 저널 파일(%2-journal)만 남아 있습니다. 새 파일을 만들지 "
+                           "않았습니다. 파일을 옮겼으면 제자리에 돌려놓고, 없어졌으면 자료 폴더를 비우고 "
+                           "백업한 폴더 전체를 복구하세요.")
+                .arg(path, file.fileName()));
+}
+
+bool isStoreFailure(int number) {
+  constexpr int ofStore[] = {3024, 3026, 3027, 3035, 3043, 3044, 3045, 3049, 3051, 3261, 3343, 3356, 3428};
+  return std::ranges::count(ofStore, number) > 0;
 }
 
 void fail(int number, const QString& detail) {

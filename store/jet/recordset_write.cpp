@@ -158,7 +158,13 @@ void RecordsetData::update() {
     if (bySource.size() > 1) fail(3219);
     if (bySource.empty()) bySource[0] = {};
   }
-  for (const auto& [source, fields] : bySource) writeBack(source, fields);
+  const auto write = [&] {
+    for (const auto& [source, fields] : bySource) writeBack(source, fields);
+  };
+  if (bySource.size() > 1)
+    database_.lock()->workspace().together(write);
+  else
+    write();
   cancelUpdate();
 }
 

@@ -46,7 +46,9 @@ Prepared& StatementCache::keep(const Key& key, Prepared made) {
 }
 
 void StatementCache::forget(const FilePtr& file) {
-  std::erase_if(known_, [&](const auto& entry) { return std::ranges::count(entry.second.files, file) > 0; });
+  std::erase_if(known_, [&](const auto& entry) {
+    return entry.second.file == file || std::ranges::count(entry.second.files, file) > 0;
+  });
 }
 
 }  // namespace jet

@@ -17,6 +17,7 @@ struct Prepared {
   Compiled compiled;
   SqliteStatement statement;
   std::vector<FilePtr> files;
+  FilePtr file;  ///< the handle's own
   /** Of a query: what its recordsets share. */
   std::shared_ptr<const std::vector<ResultColumn>> columns;
   QString about;  ///< the table's name, for a failure's text

@@ -23,6 +23,28 @@ QString samePath(const QString& path) {
   return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
 }
 
+bool isDamage(int number) {
+  return number == 3049 || number == 3343;
+}
+
+/** Reading, a second time where a disk or a network may have failed once. */
+template <typename Work>
+void twice(const QString& about, const Work& work) {
+  std::optional<Error> first;
+  try {
+    return work();
+  } catch (const Error& error) {
+    if (!isDamage(error.number()) && error.number() != 3043) throw;
+    first = error;
+  }
+  try {
+    work();
+  } catch (const Error& second) {
+    if (isDamage(second.number()) && !isDamage(first->number())) fail(3043, about);
+    throw;
+  }
+}
+
 QString aboutOf(const Prepared& prepared) {
   if (!prepared.compiled.target.name.isEmpty()) return prepared.compiled.target.name;
   for (const ResultColumn& column : *prepared.columns)
@@ -51,8 +73,10 @@ FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
   try {
     file = attach(path);
     ++file->handles;
-    beginStatement({file});
-    file->refresh(*connection_);
+    twice(path, [&] {
+      beginStatement({file});
+      file->refresh(*connection_);
+    });
     if (exclusive && file->exclusiveHandles == 0) lockExclusively(*file);
     file->exclusiveHandles += int(exclusive);
   } catch (const Error& error) {
@@ -89,7 +113,7 @@ FilePtr WorkspaceData::fileAt(const QString& written) {
 FilePtr WorkspaceData::attach(const QString& nativePath) {
   FilePtr file = attached(nativePath);
   if (file && connection_->hasMoved(file->alias())) {  // replaced on the disk: everything is read anew
-    commitGroup();
+    if (groupDepth_ > 0 && connection_->inTransaction()) failed(errorOf(3043, nativePath), {});
     reconnect();
     file = attached(nativePath);
   }
@@ -102,20 +126,26 @@ void WorkspaceData::ensureAttached(const FilePtr& file) {
   if (file->attached) return;
   if (attached(file->path())) fail(3420);
   const QFileInfo info(file->path());
-  if (!info.exists()) fail(info.dir().exists() ? 3024 : 3044, file->path());
+  if (!info.exists()) throw missingFile(file->path());
   if (!info.isFile()) fail(3044, file->path());
   commitGroup();
+  twice(file->path(), [&] { tryAttach(file); });
+}
+
+void WorkspaceData::tryAttach(const FilePtr& file) {
   if (!connection_) connect(file);
   if (file->attached) return;
   makeRoom();
+  file->arrive(options_.busyMilliseconds);
   file->setAlias("f" + QByteArray::number(++aliases_));
-  connection_->attach(file->path(), file->alias());
   try {
+    connection_->attach(file->path(), file->alias());
     file->load(*connection_);
     file->useRollbackJournal(*connection_);
     connection_->exec("PRAGMA " + file->alias() + ".cache_size = -16000");
   } catch (const Error&) {
-    connection_->detach(file->alias());
+    connection_->tryExec("DETACH " + file->alias());
+    file->leave();
     throw;
   }
   file->attached = true;
@@ -137,18 +167,22 @@ void WorkspaceData::connect(const FilePtr& file) {
   if (!options_.mainFile.isEmpty() && !isMainFile(file))
     candidates.push_back(std::make_shared<DataFile>(native(options_.mainFile)));
   candidates.push_back(file);
+  const auto tryConnect = [&](const FilePtr& candidate) {
+    candidate->arrive(options_.busyMilliseconds);
+    connection_ = std::make_unique<Connection>(candidate->path(), options_.busyMilliseconds);
+    candidate->setAlias(kMainAlias);
+    candidate->load(*connection_);
+    candidate->useRollbackJournal(*connection_);
+    candidate->attached = true;
+    files_ = {candidate};
+  };
   for (const FilePtr& candidate : candidates) {
     if (candidate != file && !QFileInfo(candidate->path()).isFile()) continue;
     try {
-      connection_ = std::make_unique<Connection>(candidate->path(), options_.busyMilliseconds);
-      candidate->setAlias(kMainAlias);
-      candidate->load(*connection_);
-      candidate->useRollbackJournal(*connection_);
-      candidate->attached = true;
-      files_ = {candidate};
-      return;
+      return twice(candidate->path(), [&] { tryConnect(candidate); });
     } catch (const Error&) {
       connection_.reset();
+      candidate->leave();
       if (candidate == file) throw;  // a broken main file does not keep the others from opening
     }
   }
@@ -156,9 +190,12 @@ void WorkspaceData::connect(const FilePtr& file) {
 
 void WorkspaceData::disconnect() {
   prepared_.clear();
-  for (const FilePtr& file : files_) file->attached = false;
-  files_.clear();
   connection_.reset();
+  for (const FilePtr& file : files_) {
+    file->attached = false;
+    file->leave();
+  }
+  files_.clear();
 }
 
 /** The same files on a new connection. One that cannot be had any more fails when its handle is used. */
@@ -194,6 +231,7 @@ void WorkspaceData::letGo(FilePtr file) {
   prepared_.forget(file);
   connection_->detach(file->alias());
   file->attached = false;
+  file->leave();
   std::erase(files_, file);
 }
 
@@ -247,8 +285,10 @@ void WorkspaceData::tidy() {
     if (file->handles == 0 && !linked.contains(file->path())) letGo(file);
 }
 
-// In this mode SQLite keeps whatever lock it has had; a write without a change takes the highest one.
+/** Our own programs are kept out by the presence lock, other SQLite tools by SQLite's: in this mode it keeps whatever
+ *  lock it has had, and a write without a change takes the highest one. */
 void WorkspaceData::lockExclusively(DataFile& file) {
+  if (!file.takeAlone()) fail(3045, file.path());
   connection_->exec("PRAGMA " + file.alias() + ".locking_mode = EXCLUSIVE");
   try {
     connection_->exec("UPDATE " + file.alias() + ".jet_links SET name = name WHERE 0");
@@ -261,6 +301,7 @@ void WorkspaceData::lockExclusively(DataFile& file) {
 void WorkspaceData::unlock(DataFile& file) {
   connection_->tryExec("PRAGMA " + file.alias() + ".locking_mode = NORMAL");
   connection_->tryExec("SELECT 1 FROM " + file.alias() + ".jet_links");
+  file.shareAgain();
 }
 
 // ---- statements
@@ -272,7 +313,18 @@ Prepared& WorkspaceData::prepare(const FilePtr& file, QStringView shape, QString
   return prepared_.keep(key, compiled(file, sql, keys));
 }
 
+/** What is read for it is read a second time before a failure counts. */
 Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys) {
+  try {
+    std::optional<Prepared> made;
+    twice(file->path(), [&] { made = tryCompile(file, sql, keys); });
+    return std::move(*made);
+  } catch (const Error& error) {
+    failed(error, {});
+  }
+}
+
+Prepared WorkspaceData::tryCompile(const FilePtr& file, QStringView sql, Keys keys) {
   beginStatement({file});
   file->refresh(*connection_);
   HandleCatalogue catalogue(*this, file);
@@ -280,6 +332,7 @@ Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys
   made.compiled = compile(sql.toString(), catalogue, keys);
   made.columns = std::make_shared<const std::vector<ResultColumn>>(std::move(made.compiled.columns));
   made.files = catalogue.takeFiles();
+  made.file = file;
   made.about = aboutOf(made);
   if (!made.compiled.sql.isEmpty()) made.statement = SqliteStatement(*connection_, made.compiled.sql, true);
   return made;
@@ -300,25 +353,36 @@ void WorkspaceData::run(Prepared& prepared, const std::function<void(Connection&
 
 void WorkspaceData::runNow(Prepared& prepared, const std::function<void(Connection&)>& work) {
   try {
-    beginStatement(prepared.files);
-    work(*connection_);
+    if (groupDepth_ > 0) {
+      beginStatement({prepared.file});
+      beginStatement(prepared.files);
+      work(*connection_);
+    } else if (prepared.compiled.kind == Compiled::Kind::Select) {
+      twice(prepared.about, [&] { work(*connection_); });
+    } else {
+      work(*connection_);
+    }
   } catch (const Error& error) {
-    afterFailure(error);
-    throw;
+    const bool readTwice = groupDepth_ == 0 && prepared.compiled.kind == Compiled::Kind::Select;
+    failed(error, readTwice ? std::vector<FilePtr>() : prepared.files);
   }
 }
 
 /** SQLite takes the main file before all others, but only where the statement reads it. */
 void WorkspaceData::readBehindMainFile(const std::function<void(Connection&)>& work) {
-  connection_->exec("BEGIN");
-  try {
+  const auto read = [&] {
+    const auto atEnd = qScopeGuard([this] {
+      if (connection_->inTransaction()) connection_->tryExec("ROLLBACK");
+    });
+    connection_->exec("BEGIN");
     connection_->exec("SELECT 1 FROM main.jet_links LIMIT 1");
     work(*connection_);
     connection_->exec("COMMIT");
+  };
+  try {
+    twice({}, read);
   } catch (const Error& error) {
-    connection_->tryExec("ROLLBACK");
-    afterFailure(error);
-    throw;
+    failed(error, {});
   }
 }
 
@@ -328,28 +392,41 @@ void WorkspaceData::runOn(const FilePtr& file, const std::function<void(Connecti
     beginStatement({file});
     work(*connection_);
   } catch (const Error& error) {
-    afterFailure(error);
-    throw;
+    failed(error, {file});
   }
 }
 
+void WorkspaceData::refresh(const FilePtr& file) {
+  if (groupDepth_ > 0) return runOn(file, [&](Connection& connection) { file->refresh(connection); });
+  twice(file->path(), [&] {
+    ensureAttached(file);
+    file->refresh(*connection_);
+  });
+}
+
+/** Always within a group: the catalogue is read under the lock under which it is written, or two PCs that define at
+ *  once would each write the catalogue without what the other has added. */
 void WorkspaceData::define(const FilePtr& file, const std::function<void(Connection&)>& work) {
-  runOn(file, [&](Connection& connection) {
-    prepared_.clear();
-    file->refresh(connection);
-    work(connection);
+  together([&] {
+    runOn(file, [&](Connection& connection) {
+      prepared_.clear();
+      file->refresh(connection);
+      work(connection);
+    });
   });
   tidy();  // a link that went may have been a file's last reason to stay
 }
 
 // ---- groups
 
-void WorkspaceData::together(const std::function<void()>& work) {
+void WorkspaceData::together(const std::function<void()>& work, std::vector<FilePtr> also) {
+  groupFiles_.insert(groupFiles_.end(), also.begin(), also.end());
   ++groupDepth_;
   try {
     work();
   } catch (...) {
-    // No undo: what ran before the failure stays. When even that cannot be kept, the first failure is what counts.
+    // No undo: what ran before a refused statement stays. When even that cannot be kept, or the store has failed and
+    // nothing of it stands, the first failure is what counts.
     if (--groupDepth_ == 0) {
       try {
         endGroup();
@@ -365,17 +442,19 @@ void WorkspaceData::endGroup() {
   const std::optional<Error> undoneBy = groupFailure();
   groupBegan_ = false;
   undoneBy_.reset();
+  groupFiles_.clear();
   commitGroup();
   if (untidy_) tidy();
   if (undoneBy) throw *undoneBy;
 }
 
-/** A full disk or a failing one makes SQLite undo the whole transaction, and with it the group's earlier statements.
- *  What the work would still add must not stand alone: every further statement of the group fails in the same way, and
- *  so does the group, although the work may have told the failure in a box and gone on. */
+/** A group that the store's failure has undone takes nothing more: what the work would still add must not stand alone.
+ *  Every further statement fails in the same way, and so does the group, although the work may have told the failure in
+ *  a box and gone on. */
 std::optional<Error> WorkspaceData::groupFailure() const {
+  if (undoneBy_) return undoneBy_;
   if (!groupBegan_ || (connection_ && connection_->inTransaction())) return {};
-  return undoneBy_ ? undoneBy_ : errorOf(3043);
+  return errorOf(3043);
 }
 
 /** Within a group every file that a statement touches, reading too, is reserved for writing first. Two PCs that had
@@ -391,6 +470,8 @@ void WorkspaceData::beginStatement(const std::vector<FilePtr>& files) {
     for (const FilePtr& file : files_) file->reserved = false;
     reserve(*files_.front());
   }
+  for (const FilePtr& file : groupFiles_)
+    if (file->attached) reserve(*file);
   for (const FilePtr& file : files) reserve(*file);
 }
 
@@ -407,15 +488,59 @@ void WorkspaceData::commitGroup() {
     groupBegan_ = false;
   } catch (const Error& error) {
     connection_->tryExec("ROLLBACK");
-    afterFailure(error);
+    failed(error, files_);
+  }
+}
+
+void WorkspaceData::check(DataFile& file) {
+  connection_->forgetPages();
+  file.load(*connection_);
+  SqliteStatement whole(*connection_, "PRAGMA " + file.alias() + ".integrity_check(1)");
+  if (whole.step(file.path()) && whole.text(0) != u"ok") fail(3049, file.path());
+}
+
+bool WorkspaceData::isSound(const FilePtr& file) {
+  try {
+    ensureAttached(file);
+    twice(file->path(), [&] { check(*file); });
+    return true;
+  } catch (const Error& error) {
+    if (isDamage(error.number())) return false;
     throw;
   }
 }
 
-/** Some failures (full disk, damaged file) undo the whole transaction; what we know of the files is then old. */
+/** A damage is told when a second reading finds it too; else the disk or the network has not answered. */
+bool WorkspaceData::isDamaged(DataFile& file) {
+  try {
+    check(file);
+    return false;
+  } catch (const Error& error) {
+    return isDamage(error.number());
+  }
+}
+
+void WorkspaceData::failed(const Error& error, std::vector<FilePtr> files) {
+  const bool told = undoneBy_.has_value();
+  afterFailure(error);
+  if (told || !isDamage(error.number()) || !connection_ || connection_->inTransaction() || files.empty())
+    throw error;
+  if (std::ranges::any_of(files, [&](const FilePtr& file) { return file->attached && isDamaged(*file); }))
+    throw error;
+  const Error unanswered = errorOf(3043, QFileInfo(files.front()->path()).fileName());
+  if (undoneBy_) undoneBy_ = unanswered;
+  throw unanswered;
+}
+
+/** The store's failure takes the whole group back, which SQLite does by itself for some (a full disk) and not for
+ *  others (a journal that cannot be opened). What we know of the files is then old. */
 void WorkspaceData::afterFailure(const Error& error) {
-  if (!connection_ || connection_->inTransaction()) return;
-  if (groupBegan_ && !undoneBy_) undoneBy_ = error;
+  if (!connection_) return;
+  if (groupDepth_ > 0 && isStoreFailure(error.number())) {
+    if (connection_->inTransaction()) connection_->tryExec("ROLLBACK");
+    if (!undoneBy_) undoneBy_ = error;
+  }
+  if (connection_->inTransaction()) return;
   prepared_.clear();
   for (const FilePtr& file : files_) file->outdated = true;
 }

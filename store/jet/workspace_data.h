@@ -31,16 +31,21 @@ class WorkspaceData {
   void run(Prepared& prepared, const std::function<void(Connection&)>& work);
   /** A change of tables, fields, indexes or links of one file. */
   void define(const FilePtr& file, const std::function<void(Connection&)>& work);
+  bool isSound(const FilePtr& file);
+  /** The file's catalogue as it is; another PC may have changed it. */
+  void refresh(const FilePtr& file);
   /** A statement of our own on one file, such as a row written back. */
   void runOn(const FilePtr& file, const std::function<void(Connection&)>& work);
 
-  void together(const std::function<void()>& work);
+  /** also: files that the group is sure of before its first write, besides those its statements name. */
+  void together(const std::function<void()>& work, std::vector<FilePtr> also = {});
   void keepingFiles(const std::function<void()>& work);
 
  private:
   FilePtr attach(const QString& nativePath);
   FilePtr attached(const QString& nativePath) const;
   void ensureAttached(const FilePtr& file);
+  void tryAttach(const FilePtr& file);
   void connect(const FilePtr& file);
   void disconnect();
   void reconnect();
@@ -54,24 +59,31 @@ class WorkspaceData {
 
   void runNow(Prepared& prepared, const std::function<void(Connection&)>& work);
   Prepared compiled(const FilePtr& file, QStringView sql, Keys keys);
+  Prepared tryCompile(const FilePtr& file, QStringView sql, Keys keys);
   void readBehindMainFile(const std::function<void(Connection&)>& work);
   void beginStatement(const std::vector<FilePtr>& files);
   void reserve(DataFile& file);
+  /** Reads all of it anew. */
+  void check(DataFile& file);
+  bool isDamaged(DataFile& file);
   void commitGroup();
   void endGroup();
   std::optional<Error> groupFailure() const;
+  /** Throws the failure after what it takes with it. files: what has been read only once. */
+  [[noreturn]] void failed(const Error& error, std::vector<FilePtr> files);
   void afterFailure(const Error& error);
 
   Workspace::Options options_;
+  std::vector<FilePtr> files_;  ///< the main file first; they outlive the connection
   std::unique_ptr<Connection> connection_;
-  std::vector<FilePtr> files_;  ///< the main file first
   StatementCache prepared_;
   int aliases_ = 0;
   quint64 clock_ = 0;  ///< counts uses, so that the longest unused goes first
   int keeping_ = 0;    ///< depth of keepingFiles
   int groupDepth_ = 0;
+  std::vector<FilePtr> groupFiles_;  ///< what the running groups asked for at their beginning
   bool groupBegan_ = false;  ///< a transaction was begun for the group and neither committed nor given up
-  std::optional<Error> undoneBy_;  ///< the failure that undid it
+  std::optional<Error> undoneBy_;  ///< the failure of the store for which it was undone
   bool untidy_ = false;            ///< a file may have become needless, and stays for now
 };
 

@@ -213,7 +213,11 @@ TEST_F(Files, AReadOnlyFolderRefusesWritesAndAllowsReading) {
   auto readOnly = reader.OpenDatabase(path(u"Basic.mdb"_s));
   EXPECT_EQ(rows(readOnly, u"Select Name From Client"_s), "a");
   EXPECT_EQ(failureOf([&] { readOnly.Execute(u"Update Client Set Name = 'b'"_s); }), 3027);
-  reader.Together([&] { EXPECT_EQ(failureOf([&] { readOnly.Execute(u"Delete From Client"_s); }), 3027); });
+  EXPECT_EQ(failureOf([&] {
+              reader.Together(
+                  [&] { EXPECT_EQ(failureOf([&] { readOnly.Execute(u"Delete From Client"_s); }), 3027); });
+            }),
+            3027);
   EXPECT_EQ(failureOf([&] { reader.CreateDatabase(path(u"new.mdb"_s)); }), 3051);
   EXPECT_EQ(rows(readOnly, u"Select Name From Client"_s), "a");
   ASSERT_EQ(root ? seteuid(0) : 0, 0);

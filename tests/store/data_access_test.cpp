@@ -1,5 +1,7 @@
 #include "store/data_access.h"
 
+#include <sqlite3.h>
+
 #include "tests/jet/engine_fixture.h"
 #include "tests/support.h"
 
@@ -41,12 +43,13 @@ TEST_F(DataAccess, AFailedQueryIsToldWithItsStatement) {
 }
 
 TEST_F(DataAccess, ALockedTableIsToldInItsOwnWords) {
-  const jet::Workspace otherPc = open();
-  auto other = otherPc.OpenDatabase(path(u"Basic.mdb"_s));
-  auto alone = otherPc.OpenDatabase(path(u"Basic.mdb"_s), true);
+  sqlite3* other = nullptr;
+  ASSERT_EQ(sqlite3_open(path(u"Basic.mdb"_s).toUtf8().constData(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
   jet::Recordset rs;
   prompts.expect(u"잠겨 있습니다"_s);
   EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, u"Select * From Client"_s));
+  sqlite3_close(other);
   EXPECT_TRUE(prompts.seen.last().startsWith(u"MDB 오류|"_s));
 }
 

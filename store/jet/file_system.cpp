@@ -1,0 +1,136 @@
+#include "store/jet/file_system.h"
+
+#include <sqlite3.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include "store/jet/error_texts.h"
+
+using namespace Qt::StringLiterals;
+
+namespace jet {
+namespace {
+
+constexpr int kHeader = 100;        // bytes of a data file before its first page's content
+constexpr int kCounterAt = 24;      // of the changes, big-endian, in the header
+constexpr quint32 kUntilEnd = ~0u;  // a journal that does not count its pages
+
+thread_local std::optional<Error> refusal;
+
+sqlite3_vfs* base() {
+  static sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
+  return vfs;
+}
+
+quint32 numberAt(const QByteArray& bytes, qsizetype at) {
+  return bytes.size() >= at + 4 ? qFromBigEndian<quint32>(bytes.constData() + at) : 0;
+}
+
+/** The header of the file as it was when its journal was begun, by the journal's copy of the first page; empty when
+ *  there is none, or nothing that SQLite would play back. */
+QByteArray headerInJournal(const QString& path) {
+  static const QByteArray magic = QByteArray::fromHex("d9d505f920a163d7");
+  QFile journal(path);
+  if (!journal.open(QIODevice::ReadOnly)) return {};
+  qint64 at = 0;
+  for (;;) {  // one part after each flush within the transaction
+    journal.seek(at);
+    const QByteArray part = journal.read(28);
+    if (!part.startsWith(magic)) return {};
+    const quint32 counted = numberAt(part, 8), sector = numberAt(part, 20), page = numberAt(part, 24);
+    if (sector < 32 || page < 512 || sector > 65536 || page > 65536) return {};
+    const qint64 record = 4 + qint64(page) + 4;
+    at += sector;
+    const qint64 room = std::max<qint64>(0, (journal.size() - at) / record);
+    const qint64 records = counted == kUntilEnd ? room : std::min<qint64>(counted, room);
+    if (records == 0) return {};
+    for (qint64 i = 0; i < records; ++i, at += record) {
+      journal.seek(at);
+      if (const QByteArray copy = journal.read(4 + kHeader); numberAt(copy, 0) == 1) return copy.sliced(4);
+    }
+    at = (at + sector - 1) / sector * sector;
+  }
+}
+
+/** By SQLite's own open: were the file opened and closed here, the locks of this process on it would be gone. */
+QByteArray headerOf(const char* path) {
+  const std::unique_ptr<char[]> room(new char[size_t(base()->szOsFile)]());
+  auto* file = reinterpret_cast<sqlite3_file*>(room.get());
+  QByteArray header(kHeader, '\0');
+  int out = 0;
+  const int opened = base()->xOpen(base(), path, file, SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_READONLY, &out);
+  const bool read =
+      opened == SQLITE_OK && file->pMethods->xRead(file, header.data(), kHeader, 0) == SQLITE_OK;
+  if (file->pMethods) file->pMethods->xClose(file);
+  return read ? header : QByteArray();
+}
+
+/** The first page is written last and whole, so the file stands at the change the journal began with, and looks as it
+ *  did, or at the next one. A journal without a copy of that page has not let anything into it. */
+bool fits(const char* journal, const char* file) {
+  const QByteArray before = headerInJournal(QString::fromUtf8(journal));
+  if (before.size() < kHeader) return true;
+  const QByteArray found = headerOf(file);
+  if (found.isEmpty()) return true;  // SQLite will meet the same failure and tell it
+  if (numberAt(found, kCounterAt) == numberAt(before, kCounterAt)) return found == before;
+  return numberAt(found, kCounterAt) == numberAt(before, kCounterAt) + 1;
+}
+
+int refuse(const Error& why) {
+  refusal = why;
+  return SQLITE_CANTOPEN;
+}
+
+QString fileName(const char* path) {
+  return QFileInfo(QString::fromUtf8(path)).fileName();
+}
+
+int openFile(sqlite3_vfs*, const char* path, sqlite3_file* file, int flags, int* out) {
+  file->pMethods = nullptr;
+  refusal.reset();
+  if (path) {
+    const QFileInfo info(QString::fromUtf8(path));
+    if (info.exists() && !info.isFile())
+      return refuse(
+          Error(3051, u"'%1' 자리에 파일이 아닌 것이 있어 열 수 없습니다. 그것을 치우고 다시 하세요."_s.arg(
+                          fileName(path))));
+    // Neither read-only (a look at it) nor to be made: it is about to be played back, and we alone hold the file.
+    constexpr int playback = SQLITE_OPEN_MAIN_JOURNAL | SQLITE_OPEN_READWRITE;
+    if ((flags & (playback | SQLITE_OPEN_CREATE)) == playback) {
+      const char* const played = sqlite3_filename_database(path);
+      if (!fits(path, played)) return refuse(errorOf(3428, fileName(played)));
+    }
+  }
+  return base()->xOpen(base(), path, file, flags, out);
+}
+
+int deleteFile(sqlite3_vfs*, const char* path, int flush) {
+  const int code = base()->xDelete(base(), path, flush);
+  return code == SQLITE_IOERR_DIR_FSYNC ? SQLITE_OK : code;
+}
+
+}  // namespace
+
+const char* fileSystem() {
+  static const char* const name = [] {
+    static sqlite3_vfs ours = *base();  // everything else is done by the base, for which it may be taken
+    ours.zName = "jet";
+    ours.pNext = nullptr;
+    ours.xOpen = openFile;
+    ours.xDelete = deleteFile;
+    sqlite3_vfs_register(&ours, 0);
+    return ours.zName;
+  }();
+  return name;
+}
+
+std::optional<Error> takeRefusal() {
+  return std::exchange(refusal, std::nullopt);
+}
+
+}  // namespace jet

@@ -1,0 +1,50 @@
+#pragma once
+// Who has a data file open: every program holds a shared lock on a small file beside it (Basic.mdb: Basic.ldb) as long
+// as the file is open. Who needs the file for itself, to open it exclusively, to make, replace or delete it, holds the
+// lock alone. The last one to leave takes the small file away; one left behind by a killed program locks nobody out.
+#include <QString>
+#include <memory>
+#include <optional>
+
+struct sqlite3_file;
+
+namespace jet {
+
+class Presence {
+ public:
+  /** With others. Waits so many milliseconds for one who holds it alone, then 3356. Where no file can be made or locked
+   *  beside the data file (a read-only folder) nobody is seen. */
+  Presence(QString dataFile, int milliseconds);
+  ~Presence();
+  Presence(const Presence&) = delete;
+  Presence& operator=(const Presence&) = delete;
+
+  bool isHeld() const { return file_ != nullptr; }
+  /** Alone from now on; false when others have the file open, or nobody can be seen. */
+  bool takeAlone();
+  void shareAgain();
+
+ private:
+  struct Closer {
+    void operator()(sqlite3_file* file) const;
+  };
+  /** SQLite's code. */
+  int tryShared();
+
+  QString dataFile_;
+  std::unique_ptr<const char, void (*)(const char*)>
+      path_;  ///< as SQLite wants file names; outlives the file
+  std::unique_ptr<sqlite3_file, Closer> file_;
+};
+
+/** A data file's name for this program alone as long as this lives, whether the file exists or not: for making,
+ *  replacing and deleting it. Waits so many milliseconds for whoever has the file open or does the same, then 3045. */
+class AloneWith {
+ public:
+  AloneWith(const QString& dataFile, int milliseconds);
+
+ private:
+  std::optional<Presence> presence_;
+};
+
+}  // namespace jet
