@@ -20,7 +20,7 @@ FrmSukum::FrmSukum(FormContext& context, QWidget* parent)
   year_ = fields.text("txtYear", u"수납년도"_s, 8, 4);
   year_->setText(collection_.thisYear());
   setHelp(year_, u"수납파일의 년도를 입력합니다"_s);
-  connect(year_, &QLineEdit::editingFinished, this, [this] { leaveYear(); });
+  whenLeft(year_, [this] { leaveYear(); });
   QStringList months;
   for (int month = 1; month <= 12; ++month) months << QString::number(month).rightJustified(2, u'0');
   month_ = fields.combo("CboMon", u"수납월"_s, months, 4);
@@ -61,7 +61,7 @@ QSize FrmSukum::sizeHint() const {
 
 void FrmSukum::leaveYear() {
   if (collection_.isYear(year_->text())) return;
-  year_->setText(collection_.thisYear());  // before the box takes the focus and asks again
+  year_->setText(collection_.thisYear());
   session().prompts.MsgWarn(u"잘못된 년도입니다."_s);
   focus(year_);
 }

@@ -211,12 +211,6 @@ bool frmEva::eventFilter(QObject* watched, QEvent* event) {
     grid_->setFocus();
     return true;
   }
-  if (watched == txtDay_ && event->type() == QEvent::FocusOut) {
-    const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    // Later, so that a box about a wrong day does not come up in the middle of the change of focus.
-    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
-      QTimer::singleShot(0, this, [this] { leaveReadingDay(); });
-  }
   return Form::eventFilter(watched, event);
 }
 

@@ -70,7 +70,7 @@ void frmEva::buildChoice() {
 
   enterOrder({cboMon_, cboBDName_}, [this] { refresh(); });
   setHelp(txtDay_, u"검침일자를 입력/수정합니다"_s);
-  txtDay_->installEventFilter(this);
+  whenLeft(txtDay_, [this] { leaveReadingDay(); });
   connect(txtDay_, &QLineEdit::textEdited, this, [this](const QString& text) { sheet_.readingDay = text; });
   connect(cboMon_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseMonth(index); });
   connect(cboBDName_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseBuilding(index); });

@@ -15,6 +15,7 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTextEdit>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -94,6 +95,11 @@ void Form::keyPressEvent(QKeyEvent* event) {
   event->accept();
   const auto work = *found;  // the handler may close the form
   command(work);
+}
+
+void Form::whenLeft(QWidget* box, std::function<void()> work) {
+  leaves_[box] = std::move(work);
+  box->installEventFilter(this);
 }
 
 // --- the help line ------------------------------------------------------------------------------------------
@@ -180,6 +186,14 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn) {
     const auto help = helps_.constFind(watched);
     if (help != helps_.constEnd()) showHelp(*help);
+  } else if (event->type() == QEvent::FocusOut && leaves_.contains(watched)) {
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
+        reason != Qt::MenuBarFocusReason)
+      // Later, so that a box about what was typed does not come up in the middle of the change of focus.
+      QTimer::singleShot(0, this, [this, work = leaves_.value(watched)] {
+        if (isVisible()) guard(work);
+      });
   } else if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && watched->isWidgetType() &&

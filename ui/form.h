@@ -39,6 +39,10 @@ class Form : public QWidget {
   /** The same for a key with modifiers. */
   void onKey(Qt::KeyboardModifiers modifiers, int key, std::function<void()> work);
 
+  /** What runs once the operator has gone from a box to another part of the program: not for a message over it, a
+   *  menu, or the form's end. */
+  void whenLeft(QWidget* box, std::function<void()> work);
+
   // --- the help line ----------------------------------------------------------------------------------------
   /** What PnlHelp shows while the control has the focus. */
   void setHelp(QWidget* control, const QString& text);
@@ -86,6 +90,7 @@ class Form : public QWidget {
   QLabel* bottom_;
   QMap<int, std::function<void()>> keys_;
   QHash<QObject*, QString> helps_;
+  QHash<QObject*, std::function<void()>> leaves_;
   QList<QWidget*> order_;
   std::function<void()> atEnd_;
   QTabBar* pages_ = nullptr;
