@@ -90,6 +90,8 @@ constexpr CommandEntry commandTable[] = {
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDStanbyList", u"대기목록(&L)", Form, u"FrmSeeIDStanbyList"},
     {u"MnuHelp", u"mnuHome", u"홈페이지(&H)", Home, u"", Ruled},
     {u"MnuHelp", u"mnu_Teminal", u"원격지원서비스(&R)", RemoteSupport},
+    {u"MnuHelp", u"mnuGuide", u"사용 설명서(&G)\tF1", Guide, u"", Ruled},
+    {u"MnuHelp", u"mnuFirstSteps", u"처음 시작 안내(&F)", Form, u"FrmFirstSteps"},
 };
 
 // The sixth opens no form of its own: it drops the menu of the meter book.

@@ -14,6 +14,7 @@ enum class CommandKind {
   Exit,
   SeeIdEnabled,
   SeeIdTest,
+  Guide,
   Home,
   RemoteSupport,
   Later,

@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "app/FrmFirstSteps.h"
 #include "app/FrmNetDrive.h"
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
@@ -41,6 +42,7 @@ FormEntry formEntry(const char16_t* name) {
 const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
     formEntry<frmBank>(u"frmBank"),
+    formEntry<FrmFirstSteps>(u"FrmFirstSteps"),
     formEntry<FrmMargin>(u"FrmMargin"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),

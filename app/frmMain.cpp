@@ -16,6 +16,7 @@
 #include <QUrl>
 
 #include "app/company_profile.h"
+#include "app/first_steps.h"
 #include "app/form_child_window.h"
 #include "app/form_ground.h"
 #include "app/form_table.h"
@@ -62,6 +63,9 @@ frmMain::~frmMain() {
 
 void frmMain::start() {
   guard([&] { caller_->OpenSeeID(); });
+  guard([&] {
+    if (FirstSteps(session_).booksAreEmpty()) openForm(u"FrmFirstSteps"_s);
+  });
 }
 
 namespace {
@@ -226,6 +230,9 @@ void frmMain::perform(const CommandEntry& entry) {
         break;
       case CommandKind::SeeIdTest:
         testCall();
+        break;
+      case CommandKind::Guide:
+        if (openGuide) openGuide();
         break;
       case CommandKind::Home:
         askAndOpenAddress(u"홈페이지에 접속하시겠습니까?"_s, u"http://"_s + makerAddress());

@@ -35,12 +35,14 @@ class frmMain : public QMainWindow, public Commands {
   Caller& caller() { return *caller_; }
   /** Company label and what the entries depend on, after the session has changed. */
   void refresh();
-  /** What runs once the window stands: the devices are opened. */
+  /** What runs once the window stands: the devices are opened; a new shop is shown its first steps. */
   void start();
   /** Closes without asking. */
   void setSilentClose() { silentClose_ = true; }
   /** Links the year files anew; runs before the entries that ask for it. */
   std::function<void()> relink;
+  /** Opens the operator's guide for what is in front. */
+  std::function<void()> openGuide;
   /** Called once when the window is leaving for good. */
   std::function<void()> closed;
 

@@ -8,6 +8,7 @@
 
 #include "app/FrmFolderTrouble.h"
 #include "app/FrmInitMsg.h"
+#include "app/form_help_key.h"
 #include "app/form_pickers.h"
 #include "app/form_tool_icons.h"
 #include "app/frmMain.h"
@@ -77,6 +78,9 @@ int main(int argc, char** argv) {
   frmSplash splash(startUp, session);
   std::unique_ptr<frmMain> mainWindow;
 
+  HelpKey help([&mainWindow] { return mainWindow ? mainWindow->activeForm() : nullptr; });
+  application.installEventFilter(&help);
+
   splash.ended = [] { QApplication::exit(0); };
   splash.signedIn = [&] {
     if (pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"NoMsg"_s, u"0"_s) == "0"_L1)
@@ -84,6 +88,7 @@ int main(int argc, char** argv) {
     mainWindow = std::make_unique<frmMain>(session, pickers);
     pickers.setContext(mainWindow->context());
     mainWindow->relink = [&] { startUp.relink(); };
+    mainWindow->openGuide = [&] { help.open(); };
     mainWindow->closed = [&] {
       guarded(boxes, [&] { startUp.shutDown(); });
       QApplication::exit(0);

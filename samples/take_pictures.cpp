@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "app/FrmFolderTrouble.h"
+#include "app/FrmGuide.h"
 #include "app/FrmInitMsg.h"
 #include "app/form_pickers.h"
 #include "app/form_tool_icons.h"
@@ -201,6 +202,15 @@ void small(frmMain& window, Session& session, Photographer& photographer) {
   photographer.take(list, "FrmSeeIDStanbyList");
 }
 
+void guideAndFirstSteps(frmMain& window, Photographer& photographer) {
+  FrmGuide guide;
+  guide.showChapter("검침");
+  photographer.take(guide, "FrmGuide");
+  window.openForm("FrmFirstSteps");
+  photographer.take(*window.activeForm(), "FrmFirstSteps");
+  window.activeForm()->close();
+}
+
 /** A drive that is not there. */
 void lostFolder(Session& session, Photographer& photographer) {
   const QString folder = std::exchange(session.DbPath, "Z:\\DBS\\");
@@ -251,6 +261,7 @@ int main(int argc, char** argv) {
     totals(window, reports, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);
+    guideAndFirstSteps(window, photographer);
     window.setSilentClose();
     window.close();
   }

@@ -32,6 +32,8 @@ TEST(CommandMap, EveryEntryHangsInAMenuThatStandsBeforeItAndNoNameComesTwice) {
   EXPECT_EQ(entriesOf({}), (QStringList{"MnuBasic", "MnuLPG", "MnuEvaporation", "MnuCAN", "MnuUtil",
                                         "MnuContribution", "MnuHelp"}));
   EXPECT_EQ(entriesOf("MnuLPG").size(), 13);
+  EXPECT_EQ(entriesOf("MnuHelp"), (QStringList{"MnuAbout", "mnu_SeeIDSetUp", "mnuHome", "mnu_Teminal",
+                                               "mnuGuide", "mnuFirstSteps"}));
 }
 
 TEST(CommandMap, StockEntriesAndMeterBooksAreMarked) {

@@ -1,0 +1,62 @@
+// A new shop's road: what counts as done, when it comes by itself, the postcode file.
+#include "app/first_steps.h"
+
+#include "tests/support.h"
+
+namespace {
+
+struct FirstStepsTest : testing::Test, tests::TestPc {
+  FirstSteps road{session};
+  FirstStepsTest() { openBooks(); }
+  QString done() {
+    QString marks;
+    for (const FirstStep& step : road.steps()) marks += step.done() ? u'x' : u'-';
+    return marks;
+  }
+  QString postFile(const QString& name) { return folder.filePath(name); }
+};
+
+TEST_F(FirstStepsTest, EachRegisterTicksItsOwnStep) {
+  EXPECT_EQ(done(), "-----");
+  EXPECT_TRUE(road.booksAreEmpty());
+  const auto step = [this](const char* sql) {
+    session.dbBasic.Execute(QString::fromUtf8(sql));
+    return done();
+  };
+  EXPECT_EQ(step("Insert Into Client(Name) Values('가')"), "---x-");
+  EXPECT_FALSE(road.booksAreEmpty());
+  EXPECT_EQ(step("Insert Into User(Company) Values('해온가스')"), "x--x-");
+  EXPECT_EQ(step("Insert Into LPG(LPGName, Size) Values('LPG', '20')"), "xx-x-");
+  EXPECT_EQ(step("Insert Into Response(Name) Values('홍길수')"), "xxxx-");
+  EXPECT_EQ(road.steps()[3].count, 1);
+}
+
+TEST_F(FirstStepsTest, APostcodeFileIsTakenWholeOrNotAtAll) {
+  const QString own = pc.paths.native(session.DbPath) + "/dbPost.mdb";
+  makeDataFile(session, postFile("full.mdb"), schema::File::Post);
+  makeDataFile(session, postFile("empty.mdb"), schema::File::Post);
+  {
+    const jet::Workspace workspace{jet::Workspace::Options{}};
+    workspace.OpenDatabase(postFile("full.mdb"))
+        .Execute("Insert Into Post(ZIPCODE, DONG) Values('702-701', '장터동')");
+  }
+  QFile text(postFile("text.mdb"));
+  ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+  text.write("702-701;장터동");
+  text.close();
+  for (const char* wrong : {"empty.mdb", "text.mdb", "missing.mdb"})
+    EXPECT_NE(road.takePostCodes(postFile(wrong)), "") << wrong;
+  EXPECT_EQ(done(), "-----");
+  EXPECT_EQ(road.takePostCodes(postFile("full.mdb")), "");
+  EXPECT_EQ(done(), "----x");
+  EXPECT_TRUE(road.booksAreEmpty()) << "postcodes may come with the program";
+  EXPECT_TRUE(QFile::exists(postFile("full.mdb")));
+  EXPECT_FALSE(QFile::exists(own + ".new"));
+
+  // Where the file cannot be replaced the old one stays.
+  ASSERT_TRUE(QFile::remove(own) && QDir().mkpath(own + "/in use"));
+  EXPECT_NE(road.takePostCodes(postFile("full.mdb")), "");
+  EXPECT_FALSE(QFile::exists(own + ".new"));
+}
+
+}  // namespace
