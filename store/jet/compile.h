@@ -20,6 +20,7 @@
 //                               a value on its way into a column: converted as the engine does (half to even, Null
 //                               into yes/no is 0), refused with 3464 (no number), 6 (out of range), 3163 (too long;
 //                               size 0 is a memo), 3315 ('' not allowed)
+//              jet_required(x, name)       x, refused with 3314 when it is Null; name stands in the failure
 #include <QByteArray>
 #include <QString>
 #include <optional>

@@ -34,24 +34,26 @@ Error constraintError(int code, const QByteArray& message) {
   }
 }
 
-/** What a file brings along may look at things and refuse them, as our own triggers do, but it changes nothing. */
-int refuseForeignWork(void*, int action, const char*, const char*, const char*, const char* trigger) {
-  const bool looks = action == SQLITE_SELECT || action == SQLITE_READ;
-  return trigger && !looks ? SQLITE_DENY : SQLITE_OK;
-}
-
-/** A data file may have been made or changed by anybody: nothing in it runs, and damage is noticed early. */
+/** A data file may have been made or changed by anybody: nothing in it runs or adds to a statement (triggers, foreign
+ *  keys, views, virtual tables), what is in it has a size, and damage is noticed early. */
 void distrustFiles(sqlite3* handle) {
   const auto set = [&](int option, int on) { sqlite3_db_config(handle, option, on, nullptr); };
   set(SQLITE_DBCONFIG_DQS_DML, 0);
   set(SQLITE_DBCONFIG_DQS_DDL, 0);
   set(SQLITE_DBCONFIG_DEFENSIVE, 1);
   set(SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0);
+  set(SQLITE_DBCONFIG_ENABLE_TRIGGER, 0);
+  set(SQLITE_DBCONFIG_ENABLE_FKEY, 0);
   set(SQLITE_DBCONFIG_ENABLE_VIEW, 0);
   set(SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0);
   set(SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, 0);
   sqlite3_drop_modules(handle, nullptr);  // no virtual tables
-  sqlite3_set_authorizer(handle, refuseForeignWork, nullptr);
+  constexpr int megabyte = 1 << 20;
+  sqlite3_limit(handle, SQLITE_LIMIT_LENGTH, 16 * megabyte);  // a value, a row
+  sqlite3_limit(handle, SQLITE_LIMIT_SQL_LENGTH, megabyte);
+  sqlite3_limit(handle, SQLITE_LIMIT_COLUMN, 1000);
+  sqlite3_limit(handle, SQLITE_LIMIT_VDBE_OP, megabyte);
+  sqlite3_hard_heap_limit64(sqlite3_int64(1024) * megabyte);  // queries within queries may grow without end
 }
 
 }  // namespace
@@ -151,6 +153,7 @@ Error Connection::error(int code, const QString& about) const {
       return errorOf(3035, about);
     default:
       if (message == "unsupported file format") return errorOf(3343, about);
+      if (message == "parser stack overflow") return errorOf(3360);  // queries within queries, seven and more
       return errorOf(3146, QString::fromUtf8(message));
   }
 }
@@ -181,8 +184,9 @@ void SqliteStatement::bindText(int index, QStringView text) {
   if (texts_.size() <= size_t(index)) texts_.resize(size_t(index) + 1);
   QByteArray& utf8 = texts_[size_t(index)];
   utf8 = text.toUtf8();
-  sqlite3_bind_text64(raw(), index, utf8.constData(), sqlite3_uint64(utf8.size()), SQLITE_STATIC,
-                      SQLITE_UTF8);
+  const int code = sqlite3_bind_text64(raw(), index, utf8.constData(), sqlite3_uint64(utf8.size()),
+                                       SQLITE_STATIC, SQLITE_UTF8);
+  if (code != SQLITE_OK) throw connection_->error(code);  // too long; it would be stored as Null
 }
 
 bool SqliteStatement::step(const QString& about) {

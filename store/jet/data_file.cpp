@@ -24,7 +24,22 @@ CREATE TABLE jet_indexes(table_name TEXT NOT NULL, name TEXT NOT NULL, fields TE
 CREATE TABLE jet_links(name TEXT PRIMARY KEY NOT NULL, connect TEXT NOT NULL, source_table TEXT NOT NULL) STRICT;
 )";
 
+// What a catalogue may hold. A file that says more was not made by this program, and reading on would only cost.
+constexpr size_t kTablesAtMost = 1000, kFieldsAtMost = 255, kIndexesAtMost = 32;
+constexpr int kLinksAtMost = 100;
+
 constexpr QChar kFieldSeparator = u'\n';  // between an index's fields in jet_indexes
+
+bool isKnown(qint64 type) {
+  for (const Type known : {Type::Boolean, Type::Long, Type::Double, Type::Text, Type::Memo})
+    if (type == qint64(known)) return true;
+  return false;
+}
+
+void checkSize(const TableDef& table) {
+  if (table.fields.size() > kFieldsAtMost) fail(3190, table.name);
+  if (table.indexes.size() > kIndexesAtMost) fail(3626, table.name);
+}
 
 bool isText(const Field& field) {
   return field.type == Type::Text || field.type == Type::Memo;
@@ -118,6 +133,7 @@ void DataFile::load(Connection& connection) {
     const QString key = name.toCaseFolded();
     const auto known = byName.constFind(key);
     if (known != byName.constEnd()) return tables[size_t(*known)];
+    if (tables.size() == kTablesAtMost) fail(3037, path_);
     byName.insert(key, int(tables.size()));
     return tables.emplace_back(TableDef{name, {}, {}, {}, {}});
   };
@@ -133,27 +149,31 @@ void DataFile::load(Connection& connection) {
       "SELECT table_name, name, type, size, autonumber, zero_length, required, default_value FROM " + alias_ +
           ".jet_fields ORDER BY table_name, ordinal");
   while (fields.step(path_)) {
-    table(fields.text(0))
-        .fields.push_back({.name = fields.text(1),
-                           .type = Type(fields.number(2)),
-                           .size = int(fields.number(3)),
-                           .autonumber = fields.number(4) != 0,
-                           .allowZeroLength = fields.number(5) != 0,
-                           .required = fields.number(6) != 0,
-                           .defaultValue = fields.value(7)});
+    TableDef& of = table(fields.text(0));
+    if (!isKnown(fields.number(2))) fail(3037, of.name);
+    of.fields.push_back({.name = fields.text(1),
+                         .type = Type(fields.number(2)),
+                         .size = int(fields.number(3)),
+                         .autonumber = fields.number(4) != 0,
+                         .allowZeroLength = fields.number(5) != 0,
+                         .required = fields.number(6) != 0,
+                         .defaultValue = fields.value(7)});
+    checkSize(of);
   }
   SqliteStatement indexes(connection, "SELECT table_name, name, fields, is_primary, is_unique FROM " +
                                           alias_ + ".jet_indexes ORDER BY rowid");
   while (indexes.step(path_)) {
-    table(indexes.text(0))
-        .indexes.push_back({.name = indexes.text(1),
-                            .fields = indexes.text(2).split(kFieldSeparator),
-                            .primary = indexes.number(3) != 0,
-                            .unique = indexes.number(4) != 0});
+    TableDef& of = table(indexes.text(0));
+    of.indexes.push_back({.name = indexes.text(1),
+                          .fields = indexes.text(2).split(kFieldSeparator),
+                          .primary = indexes.number(3) != 0,
+                          .unique = indexes.number(4) != 0});
+    checkSize(of);
   }
   SqliteStatement links(connection,
                         "SELECT name, connect, source_table FROM " + alias_ + ".jet_links ORDER BY rowid");
-  while (links.step(path_)) {
+  for (int count = 0; links.step(path_); ++count) {
+    if (count == kLinksAtMost) fail(3037, path_);
     TableDef& link = table(links.text(0));
     link.connect = links.text(1);
     link.sourceTableName = links.text(2);
@@ -246,6 +266,7 @@ void DataFile::createTable(Connection& connection, const TableDef& table) {
       columns += columnText(field, field.required, inPrimaryKey(table, field.name));
     }
     if (columns.isEmpty()) fail(3264, table.name);
+    checkSize(table);
     if (std::ranges::count_if(table.fields, &Field::autonumber) > 1) fail(3219, table.name);
     if (std::ranges::count_if(table.indexes, &Index::primary) > 1) fail(3283, table.name);
     connection.exec("CREATE TABLE " + schemaName(table.name) + '(' + columns + ") STRICT");
@@ -277,13 +298,6 @@ void DataFile::dropTable(Connection& connection, const QString& name) {
   load(connection);
 }
 
-void DataFile::requireFromNowOn(Connection& connection, const QString& table, const QString& field) {
-  for (const QString& event : {u"INSERT"_s, u"UPDATE"_s})
-    connection.exec("CREATE TRIGGER " + schemaName(table + u'.' + field + u" required "_s + event) +
-                    " BEFORE " + event.toLatin1() + " ON " + quotedName(table) + " WHEN NEW." +
-                    quotedName(field) + " IS NULL BEGIN SELECT RAISE(ABORT, 'JET 3314'); END");
-}
-
 void DataFile::addField(Connection& connection, const QString& name, const Field& field, int ordinal) {
   TableDef table = own(name);
   checkName(field.name);
@@ -291,13 +305,14 @@ void DataFile::addField(Connection& connection, const QString& name, const Field
   if (field.autonumber) fail(3219, field.name);
   const int end = int(table.fields.size());
   table.fields.insert(table.fields.begin() + (ordinal < 0 ? end : std::min(ordinal, end)), field);
+  checkSize(table);
 
   Savepoint step(connection);
   // Rows that are there keep Null, whatever the default or the requirement says of new ones; only yes/no knows none.
+  // So the column cannot require a value: whoever writes into it does.
   connection.exec("ALTER TABLE " + schemaName(table.name) + " ADD COLUMN " + columnText(field, false, false));
   if (field.type != Type::Boolean && !field.defaultValue.isNull())
     connection.exec("UPDATE " + schemaName(table.name) + " SET " + quotedName(field.name) + " = NULL");
-  if (field.required) requireFromNowOn(connection, table.name, field.name);
   writeFields(connection, table);
   bumpVersion(connection);
   step.release();
@@ -324,14 +339,10 @@ void DataFile::widenField(Connection& connection, const QString& name, const Fie
     const QByteArray alter = "ALTER TABLE " + schemaName(table.name), own = quotedName(field.name);
     Field wide = field;
     wide.name += u'~';
-    for (const char* event : {" required INSERT", " required UPDATE"})
-      connection.exec("DROP TRIGGER IF EXISTS " +
-                      schemaName(table.name + u'.' + field.name + QLatin1StringView(event)));
     connection.exec(alter + " ADD COLUMN " + columnText(wide, false, false));
     connection.exec("UPDATE " + schemaName(table.name) + " SET " + quotedName(wide.name) + " = " + own);
     connection.exec(alter + " DROP COLUMN " + own);
     connection.exec(alter + " RENAME COLUMN " + quotedName(wide.name) + " TO " + own);
-    if (field.required) requireFromNowOn(connection, table.name, field.name);
   } else {
     fail(3219, field.name);
   }
@@ -347,6 +358,7 @@ void DataFile::createIndex(Connection& connection, const QString& name, const In
   for (const Index& other : table.indexes)
     if (other.name.compare(index.name, Qt::CaseInsensitive) == 0) fail(3284, index.name);
   if (index.primary && std::ranges::any_of(table.indexes, &Index::primary)) fail(3283, table.name);
+  if (table.indexes.size() == kIndexesAtMost) fail(3626, table.name);
   Savepoint step(connection);
   writeIndex(connection, table, index);
   bumpVersion(connection);

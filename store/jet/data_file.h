@@ -72,8 +72,6 @@ class DataFile {
   QByteArray schemaName(const QString& name) const { return alias_ + '.' + quotedName(name); }
   void writeFields(Connection& connection, const TableDef& table);
   void writeIndex(Connection& connection, const TableDef& table, const Index& index);
-  /** For a field that came later: its old rows may hold Null, a written row may not. */
-  void requireFromNowOn(Connection& connection, const QString& table, const QString& field);
   void bumpVersion(Connection& connection);
 
   QString path_;

@@ -309,6 +309,14 @@ void putText(const Call& call) {
   call.give(text);
 }
 
+/** The failure that SQLite itself tells of a column that requires a value. */
+void required(const Call& call) {
+  if (!call.isNull(0)) return call.giveSame(0);
+  sqlite3_result_error(call.context(), ("NOT NULL constraint failed: " + call.text(1)).toUtf8().constData(),
+                       -1);
+  sqlite3_result_error_code(call.context(), SQLITE_CONSTRAINT_NOTNULL);
+}
+
 // ---- First and Last
 
 /** The value kept so far and the key it came with. */
@@ -397,6 +405,7 @@ constexpr Registration kFunctions[] = {
     {"jet_put_double", 1, guardedCall<putDouble>},
     {"jet_put_bool", 1, guardedCall<putBool>},
     {"jet_put_text", 3, guardedCall<putText>},
+    {"jet_required", 2, guardedCall<required>},
 };
 
 int collateJet(void*, int sizeA, const void* a, int sizeB, const void* b) {

@@ -168,6 +168,8 @@ inline void Lexer::readSymbol(Token& token) {
 }
 
 Lexer::Lexer(QStringView sql) : sql_(sql) {
+  constexpr qsizetype longestStatement = 64000;
+  if (sql.size() > longestStatement) fail(3360);
   requirePlain(sql);
   while (at_ < sql_.size() && signOf(sql_[at_]) == Sign::Space) ++at_;
   const qsizetype begin = at_;

@@ -84,10 +84,14 @@ qint64 RecordsetData::writeRow(Connection& connection, int source, const std::ma
     values += comma + put;
     pairs += comma + name + " = " + put;
   }
-  QByteArray sql = "UPDATE " + tableName(*file, table) + " SET " + pairs + " WHERE rowid = ?" +
+  QByteArray sql = "UPDATE OR ABORT " + tableName(*file, table) + " SET " + pairs + " WHERE rowid = ?" +
                    QByteArray::number(parameter + 1);
   if (key.isNull()) {
-    sql = "INSERT INTO " + tableName(*file, table);
+    requireGiven(table.fields, [&](const Field& field) {
+      return std::ranges::any_of(
+          fields, [&](const auto& each) { return (*columns_)[size_t(each.first)].column == field.name; });
+    });
+    sql = "INSERT OR ABORT INTO " + tableName(*file, table);
     sql += fields.empty() ? QByteArray(" DEFAULT VALUES") : '(' + names + ") VALUES(" + values + ')';
   }
   SqliteStatement statement(connection, sql);

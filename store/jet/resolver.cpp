@@ -1,12 +1,18 @@
 #include "store/jet/resolver.h"
 
+#include <algorithm>
+
 #include "store/jet/error_texts.h"
+#include "store/jet/put_call.h"
 
 namespace jet {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// What a query may hold; SQLite would refuse somewhat more less clearly.
+constexpr size_t kColumnsAtMost = 255, kTablesAtMost = 32, kUnionsAtMost = 50;
 
 const From& sourceNamed(const std::vector<const From*>& sources, const QString& name) {
   for (const From* source : sources)
@@ -66,6 +72,10 @@ void Resolver::resolveInsert(Statement& statement) {
     checkOnce(statement.assigns, assign);
     if (!statement.fromSelect) resolveExpr(assign.value, Scope());
   }
+  requireGiven(fields, [&](const Field& field) {
+    return std::ranges::any_of(statement.assigns,
+                               [&](const Assignment& assign) { return assign.field.name == field.name; });
+  });
 }
 
 void Resolver::resolveUpdate(Statement& statement) {
@@ -122,6 +132,7 @@ void Resolver::resolveDefinition(Statement& statement) {
 void Resolver::resolveFrom(std::vector<From>& from, Scope& scope) {
   for (From& each : from) resolveSource(each, scope);
   scope.sources = sourcesAsWritten(from);
+  if (scope.sources.size() > kTablesAtMost) fail(3360);
   for (const From* source : scope.sources)
     for (const From* other : scope.sources)
       if (source != other && sameName(source->alias, other->alias)) fail(3012, source->alias);
@@ -163,6 +174,7 @@ void Resolver::resolveSelect(Select& select, const Scope* outer) {
   resolveFrom(select.from, scope);
   if (select.where) resolveExpr(*select.where, scope);
   for (Expr& group : select.groupBy) resolveExpr(group, scope);
+  if (select.groupBy.size() > kColumnsAtMost || select.orderBy.size() > kColumnsAtMost) fail(3360);
   expandStars(select, scope);
 
   bool aggregated = false;
@@ -201,6 +213,7 @@ void Resolver::expandStars(Select& select, const Scope& scope) {
       }
     }
   }
+  if (items.size() > kColumnsAtMost) fail(3190);
   select.items = std::move(items);
 }
 
@@ -226,6 +239,7 @@ void Resolver::resolveColumns(Select& select, const Scope& scope) {
 }
 
 void Resolver::resolveUnions(Select& select, const Scope* outer) {
+  if (select.unions.size() > kUnionsAtMost) fail(3360);
   for (Select& next : select.unions) {
     resolveSelect(next, outer);
     if (next.columns.size() != select.columns.size()) fail(3307);

@@ -53,7 +53,7 @@ QByteArray Writer::write(const Statement& statement, Keys keys) {
 }
 
 void Writer::writeInsert(const Statement& statement) {
-  *this << "INSERT INTO ";
+  *this << "INSERT OR ABORT INTO ";  // whatever a foreign table says of conflicts
   writeTable(statement.target, {});
   *this << " (";
   list(statement.assigns.size(), [&](size_t i) { quote(statement.assigns[i].field.name); });
@@ -80,7 +80,7 @@ void Writer::writeInsert(const Statement& statement) {
 }
 
 void Writer::writeUpdate(const Statement& statement) {
-  *this << "UPDATE ";
+  *this << "UPDATE OR ABORT ";
   writeTable(statement.target, statement.targetSource);
   *this << " SET ";
   const bool alone = statement.from.size() == 1 && statement.from.front().sides.empty();

@@ -329,9 +329,10 @@ void Writer::writeAggregate(const Expr& expr) {
 
 void Writer::writePut(const Field& field, const Expr& value) {
   const bool number = holdsNoText(value.holds);
-  if (value.kind == Expr::Kind::Null && field.type != Type::Boolean) return writeValue(value);
+  if (value.kind == Expr::Kind::Null && field.type != Type::Boolean && !field.required)
+    return writeValue(value);
   if (value.kind == Expr::Kind::Constant && field.type == Type::Boolean) return writeValue(value);
-  if (field.type == Type::Double && number) return writeValue(value);
+  if (field.type == Type::Double && number && !field.required) return writeValue(value);
   const PutCall call = putCall(field);
   *this << call.before.constData();
   writeValue(value);

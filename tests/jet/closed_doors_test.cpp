@@ -103,13 +103,94 @@ TEST_F(ClosedDoors, ATriggerInAFileChangesNothing) {
   tamper(
       u"Basic.mdb"_s,
       "CREATE TRIGGER \"Client.Name required INSERT\" BEFORE INSERT ON Client BEGIN DELETE FROM Client; END;"
+      "CREATE TRIGGER drops BEFORE UPDATE ON Client BEGIN SELECT RAISE(IGNORE); END;"
+      "CREATE TRIGGER keeps BEFORE DELETE ON Client BEGIN SELECT RAISE(IGNORE); END;"
       "CREATE TRIGGER spread AFTER UPDATE ON Client BEGIN INSERT INTO jet_links VALUES('x', ';DATABASE=/x', "
       "'x'); END;");
   reopen();
-  EXPECT_NE(failureOf([&] { basic.Execute(u"Insert Into Client(Name) Values('b')"_s); }), 0);
-  EXPECT_NE(failureOf([&] { year.Execute(u"Update Client Set GasInit = 8"_s); }), 0);
-  EXPECT_EQ(state(), "a|7") << "reading goes on";
+  EXPECT_EQ(basic.Execute(u"Insert Into Client(Name) Values('b')"_s), 1);
+  EXPECT_EQ(year.Execute(u"Update Client Set GasInit = GasInit + 1 Where Name = 'a'"_s), 1);
+  EXPECT_EQ(state(), "a|8 b|0");
+  EXPECT_EQ(basic.Execute(u"Delete From Client Where Name = 'b'"_s), 1);
+  EXPECT_EQ(state(), "a|8");
   EXPECT_FALSE(basic.hasTable(u"x"_s));
+}
+
+TEST_F(ClosedDoors, WhatATableSaysOfConflictsAndOtherTablesIsNotDone) {
+  tamper(u"Basic.mdb"_s,
+         "CREATE TABLE Odd(Code INTEGER PRIMARY KEY ON CONFLICT REPLACE, Name TEXT UNIQUE ON CONFLICT IGNORE,"
+         " GasInit INTEGER NOT NULL ON CONFLICT IGNORE CHECK(GasInit < 100)) STRICT;"
+         "INSERT INTO Odd VALUES(1, 'a', 7); INSERT INTO Odd VALUES(2, 'b', 8);"
+         "CREATE TABLE Follows(a INTEGER REFERENCES Odd(Code) ON DELETE CASCADE) STRICT;"
+         "INSERT INTO Follows VALUES(2);"
+         "INSERT INTO jet_fields VALUES('Odd', 0, 'Code', 4, 0, 0, 1, 0, NULL);"
+         "INSERT INTO jet_fields VALUES('Odd', 1, 'Name', 10, 9, 0, 1, 0, NULL);"
+         "INSERT INTO jet_fields VALUES('Odd', 2, 'GasInit', 4, 0, 0, 1, 0, NULL);"
+         "INSERT INTO jet_fields VALUES('Follows', 0, 'a', 4, 0, 0, 1, 0, NULL)");
+  reopen();
+  const auto all = [&] { return rows(basic, u"Select Code, Name, GasInit From Odd Order By Code"_s); };
+  EXPECT_EQ(failureOf([&] { basic.Execute(u"Update Odd Set GasInit = 500 Where Code = 1"_s); }), 3421);
+  EXPECT_EQ(failureOf([&] { basic.Execute(u"Update Odd Set GasInit = Null Where Code = 1"_s); }), 3314);
+  EXPECT_EQ(failureOf([&] { basic.Execute(u"Insert Into Odd Values(3, 'a', 9)"_s); }), 3022);
+  EXPECT_EQ(failureOf([&] { basic.Execute(u"Insert Into Odd Values(1, 'c', 9)"_s); }), 3022);
+  jet::Recordset rs = basic.OpenRecordset(u"Select * From Odd Where Code = 1"_s, jet::RecordsetType::Dynaset);
+  rs.Edit();
+  rs.set(u"Name"_s, u"b"_s);
+  EXPECT_EQ(failureOf([&] { rs.Update(); }), 3022);
+  EXPECT_EQ(all(), "1|a|7 2|b|8");
+  EXPECT_EQ(basic.Execute(u"Delete From Odd Where Code = 2"_s), 1);
+  EXPECT_EQ(rows(basic, u"Select a From Follows"_s), "2");
+}
+
+TEST_F(ClosedDoors, AValueAStatementAndACatalogueHaveASize) {
+  // A value: nothing is cut or left out in silence.
+  basic.createTable(
+      table(u"Notes"_s, {counter(u"Code"_s), {u"Text"_s, jet::Type::Memo, 0, false, true, false, {}}}));
+  jet::Recordset rs = basic.OpenRecordset(u"Select * From Notes"_s, jet::RecordsetType::Dynaset);
+  rs.AddNew();
+  rs.set(u"Text"_s, QString(17 << 20, u'x'));
+  EXPECT_EQ(failureOf([&] { rs.Update(); }), 3035);
+  EXPECT_EQ(rows(basic, u"Select Count(*) From Notes"_s), "0");
+  tamper(u"Basic.mdb"_s, "INSERT INTO Notes VALUES(1, hex(zeroblob(9000000)))");
+  EXPECT_EQ(failureOf([&] { rows(basic, u"Select * From Notes"_s); }), 3035);
+  EXPECT_EQ(state(), "a|7");
+  basic.Execute(u"Update Notes Set [Text] = '"_s + QString(1000, u'x') + u"'"_s);
+  QString doubled = u"Select [Text] As a From Notes"_s;
+  for (int at = 0; at < 4; ++at)
+    doubled = u"Select a"_s + u" & a"_s.repeated(19) + u" As a From ("_s + doubled + u") As t"_s;
+  EXPECT_EQ(failureOf([&] { rows(basic, doubled); }), 3035);
+  // A statement.
+  const QString select = u"Select Name From Client"_s;
+  EXPECT_EQ(failureOf([&] { rows(basic, select + QString(64001 - select.size(), u' ')); }), 3360);
+  EXPECT_EQ(rows(basic, select + QString(64000 - select.size(), u' ')), "a");
+  EXPECT_EQ(failureOf([&] { rows(basic, select + (u" Union "_s + select).repeated(51)); }), 3360);
+  EXPECT_EQ(failureOf([&] { rows(basic, u"Select *"_s + u", *"_s.repeated(42) + u" From Client"_s); }), 3190);
+  QString nested = select;
+  for (int at = 0; at < 12; ++at) nested = u"Select Name From ("_s + nested + u") As t"_s;
+  EXPECT_EQ(failureOf([&] { rows(basic, nested); }), 3360);
+  QString tables = u"Client As t0"_s;
+  for (int at = 1; at <= 32; ++at) tables += u", Client As t%1"_s.arg(at);
+  EXPECT_EQ(failureOf([&] { rows(basic, u"Select t0.Name From "_s + tables); }), 3360);
+  // A catalogue, our own hand's and a foreign one's.
+  std::vector<jet::Field> fields;
+  for (int at = 0; at < 256; ++at) fields.push_back(number(u"f%1"_s.arg(at)));
+  EXPECT_EQ(failureOf([&] { basic.createTable(table(u"Wide"_s, fields)); }), 3190);
+  for (const char* sql :
+       {"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 300) INSERT INTO "
+        "jet_fields "
+        "SELECT 'Sale', i + 50, 'g' || i, 4, 0, 0, 1, 0, NULL FROM n",
+        "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 2000) INSERT INTO "
+        "jet_fields "
+        "SELECT 't' || i, 0, 'a', 4, 0, 0, 1, 0, NULL FROM n",
+        "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 200) INSERT INTO jet_links "
+        "SELECT 'l' || i, ';DATABASE=/x', 'x' FROM n",
+        "INSERT INTO jet_fields VALUES('Sale', 99, 'z', 77, 0, 0, 1, 0, NULL)"}) {
+    ASSERT_TRUE(QFile::copy(path(u"2026Foundation.mdb"_s), path(u"Trap.mdb"_s)));
+    tamper(u"Trap.mdb"_s, sql);
+    EXPECT_NE(failureOf([&] { workspace.OpenDatabase(path(u"Trap.mdb"_s)); }), 0) << sql;
+    EXPECT_EQ(state(), "a|7");
+    QFile::remove(path(u"Trap.mdb"_s));
+  }
 }
 
 TEST_F(ClosedDoors, AViewOrAVirtualTableIsNoTable) {
