@@ -44,6 +44,17 @@ QString buildingCondition(const EvaTotalAsk& ask) {
   return ask.building.isEmpty() ? QString() : " And Client.BDName = '" + plainText(ask.building) + "'";
 }
 
+/** Days as "MM/DD". The grid stores them so, the bank's file as "MM-DD": each is compared in its own shape. */
+QString collectedBetween(const QString& from, const QString& to) {
+  const auto inShape = [](QString first, QString last, const QString& mark) {
+    first.replace(u'/', mark);
+    last.replace(u'/', mark);
+    return "(Evaporation.TrustDay Like '*" + plainText(mark) + "*' And " + "Evaporation.TrustDay >= '" +
+           plainText(first) + "' " + "And Evaporation.TrustDay <= '" + plainText(last) + "' )";
+  };
+  return '(' + inShape(from, to, u"/"_s) + " Or " + inShape(from, to, u"-"_s) + ')';
+}
+
 qint64 fieldWon(const jet::Recordset& rs, const QString& field) {
   return rs[field].toLong();
 }
@@ -121,9 +132,7 @@ bool EvaTotal::readPeriod(const EvaTotalAsk& ask) {
 }
 
 QString EvaTotal::periodWhere(const EvaTotalAsk& ask) const {
-  if (ask.byCollection)
-    return "Evaporation.TrustDay >= '" + plainText(fromDay_) + "' " + "And Evaporation.TrustDay <= '" +
-           plainText(toDay_) + "' " + " AND Evaporation.Pay > 0 ";
+  if (ask.byCollection) return collectedBetween(fromDay_, toDay_) + " AND Evaporation.Pay > 0 ";
   return "Evaporation.Mon >= " + QString::number(ask.fromMonth) + ' ' +
          "And Evaporation.Mon <= " + QString::number(ask.toMonth);
 }
@@ -159,7 +168,7 @@ bool EvaTotal::readLines(const EvaTotalAsk& ask) {
     const int month = int(fieldWon(rs, u"Mon"_s));
     const QString name = readingName(ask.book, text(u"Name"_s), text(u"Dong"_s), text(u"Ho"_s));
     rows.push_back({name, text(u"BDName"_s), twoDigitMonth(month), won(u"Trust"_s), won(u"UsePay"_s),
-                    won(u"Delay"_s), won(u"Manage"_s), won(u"Pay"_s), text(u"TrustDay"_s),
+                    won(u"Delay"_s), won(u"Manage"_s), won(u"Pay"_s), text(u"TrustDay"_s).replace(u'-', u'/'),
                     QString::number(remain)});
     lines.push_back({text(u"Name"_s) + u'\n' + text(u"BDName"_s) + u'\n' + name, month, remain});
     income_ += fieldWon(rs, u"Pay"_s);
@@ -186,8 +195,7 @@ bool EvaTotal::readPrev(const EvaTotalAsk& ask) {
   QString before = "Evaporation.Mon = " + QString::number(ask.fromMonth - 1);
   if (ask.byCollection) {
     const QString month = twoDigitMonth(fromDay_.left(2).toInt() - 1);
-    before = "Evaporation.TrustDay >= '" + plainText(month) + "/01' " + "And Evaporation.TrustDay <= '" +
-             plainText(month) + "/31' ";
+    before = collectedBetween(month + "/01", month + "/31");
   }
   jet::Recordset rs;
   if (!OpenSnapshot(session_.prompts, session_.dbYear, rs,

@@ -67,7 +67,7 @@ class EvaTotal {
   Session& session_;
   SpreadModel grid_;
   EvaTotalAsk shown_;
-  QString fromDay_, toDay_;  ///< "MM/DD", as collection dates are stored
+  QString fromDay_, toDay_;  ///< "MM/DD"
   qint64 prev_ = 0, income_ = 0, remain_ = 0;
   QString period_;
   int lines_ = 0;  ///< rows of the grid without the sum

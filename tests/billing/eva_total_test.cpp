@@ -142,6 +142,25 @@ TEST_F(EvaTotalTest, CollectionsByTheirDays) {
   EXPECT_TRUE(EvaTotal(session).byCollection());
 }
 
+// From 5 March to 10 May, whichever of the two shapes a day has; a day beyond a bound is beyond it in both.
+TEST_F(EvaTotalTest, DaysOfTheBanksFileAreFoundLikeThoseOfTheGrid) {
+  const char* const within[] = {"03/05", "03-05", "03-31", "04/01", "04-30", "05-01", "05/10", "05-10"};
+  const char* const beyond[] = {"03/04", "03-04", "02-28", "05/11", "05-11", "05-20", "", "12-01"};
+  QStringList found;
+  for (const char* day : within) {
+    bill(customer(day, 1000), 3, 0, 1000, 0, 0, 100, day);
+    found << day;
+  }
+  for (const char* day : beyond) bill(customer(day, 1000), 3, 0, 1000, 0, 0, 7, day);
+  ASSERT_TRUE(total.refresh({.byCollection = true, .fromDay = "03-05", .toDay = "05-10"}));
+  EXPECT_EQ(names(), found);
+  EXPECT_EQ(total.income(), 800);
+  EXPECT_EQ(total.prev(), 993) << "what February left, 02-28 alone";
+  EXPECT_EQ(total.grid().text(2, TotalCol::TrustDay), "03/05") << "one shape on the list";
+  ASSERT_TRUE(total.refresh({.byCollection = true, .fromDay = "03-20", .toDay = "03-31"}));
+  EXPECT_EQ(names(), QStringList{"03-31"});
+}
+
 TEST_F(EvaTotalTest, ThePrintStagesTheLinesWithoutTheSum) {
   const int a = customer("가", 1000, 1, "한빛", "101", "201");
   bill(a, 3, 5000, 20000, 100, 1000, 6000, "03/10");
