@@ -3,9 +3,15 @@
 #include <QEvent>
 #include <QTimer>
 
-ChildWindow::ChildWindow(QWidget* form) {
+ChildWindow::ChildWindow(QWidget* form) : first_(form->focusWidget()) {
   setWidget(form);
   setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void ChildWindow::showEvent(QShowEvent* event) {
+  QMdiSubWindow::showEvent(event);
+  if (first_) first_->setFocus(Qt::OtherFocusReason);
+  first_.clear();
 }
 
 bool ChildWindow::eventFilter(QObject* watched, QEvent* event) {

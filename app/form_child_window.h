@@ -1,6 +1,7 @@
 #pragma once
 // The frame of one form inside the main window. A form that closes itself takes its frame along.
 #include <QMdiSubWindow>
+#include <QPointer>
 
 class ChildWindow : public QMdiSubWindow {
  public:
@@ -10,7 +11,9 @@ class ChildWindow : public QMdiSubWindow {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
+  QPointer<QWidget> first_;  ///< where the form wants the focus; becoming a child takes it away
   bool gone_ = false;
 };
