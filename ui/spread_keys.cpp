@@ -199,8 +199,15 @@ void Spread::enter() {
     moveToNextOpenCell();
 }
 
-/** To the neighbouring cell, over the row's end to the next row, and out of the grid at its ends. */
+/** To the neighbouring cell, over the row's end to the next row, and out of the grid at its ends. A list, whose columns
+ *  are all locked, is left at once: there is nothing to type in the next cell. */
 void Spread::tab(int step) {
+  bool list = true;
+  for (int col = 1; col <= model_.MaxCols(); ++col) list = list && model_.column(col).locked;
+  if (list) {
+    focusNextPrevChild(step > 0);
+    return;
+  }
   const int next = neighbour(activeCol_, step);
   if (next > 0) {
     moveTo(activeRow_, next);
