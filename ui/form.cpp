@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTextEdit>
@@ -52,6 +53,18 @@ Form::Form(const QString& name, const QString& caption, Session& session, QWidge
 // --- handlers -----------------------------------------------------------------------------------------------
 
 namespace {
+
+QList<QRadioButton*> optionsBeside(QWidget* control) {
+  if (!qobject_cast<QRadioButton*>(control)) return {};
+  return control->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
+}
+
+/** The option of a group that is on, for any other control itself. */
+QWidget* stopAt(QWidget* control) {
+  for (QRadioButton* const option : optionsBeside(control))
+    if (option->isChecked()) return option;
+  return control;
+}
 
 bool keepsEnter(const QWidget* control) {
   return qobject_cast<const QPlainTextEdit*>(control) || qobject_cast<const QTextEdit*>(control) ||
@@ -123,7 +136,10 @@ void Form::setBottomLine(const QString& text) {
 void Form::enterOrder(const QList<QWidget*>& controls, std::function<void()> atEnd) {
   order_ = controls;
   atEnd_ = std::move(atEnd);
-  for (QWidget* const control : controls) control->installEventFilter(this);
+  for (QWidget* const control : controls) {
+    control->installEventFilter(this);
+    for (QRadioButton* const option : optionsBeside(control)) option->installEventFilter(this);
+  }
 }
 
 void Form::focus(QWidget* control) {
@@ -140,11 +156,15 @@ void Form::focusGrid() {
 }
 
 bool Form::enterFrom(QWidget* control) {
-  const qsizetype at = order_.indexOf(control);
-  if (at < 0 || keepsEnter(control)) return false;
+  const QList<QRadioButton*> group = optionsBeside(control);
+  const auto isHere = [&](QWidget* each) {
+    return each == control || group.contains(qobject_cast<QRadioButton*>(each));
+  };
+  const qsizetype at = std::distance(order_.begin(), std::find_if(order_.begin(), order_.end(), isHere));
+  if (at == order_.size() || keepsEnter(control)) return false;
   for (qsizetype next = at + 1; next < order_.size(); ++next) {
-    if (!order_[next]->isVisibleTo(this) || !order_[next]->isEnabled()) continue;
-    focus(order_[next]);
+    if (!order_[next]->isVisibleTo(this) || !order_[next]->isEnabled() || isHere(order_[next])) continue;
+    focus(stopAt(order_[next]));
     return true;
   }
   if (atEnd_) command(atEnd_);
@@ -216,8 +236,27 @@ Spread* Form::addSpread(const char* name, SpreadModel& model, QWidget* parent) {
   return grid;
 }
 
+namespace {
+
+/** Its Alt letter works at once: the toolkit's own way lets a tenth of a second pass, in which a fast hand's next keys
+ *  would still go to the control before. */
+class FormButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
+      return QPushButton::event(event);
+    click();
+    return true;
+  }
+};
+
+}  // namespace
+
 QPushButton* Form::addButton(const char* name, const QString& caption, std::function<void()> work) {
-  auto* const button = new QPushButton(caption, this);
+  auto* const button = new FormButton(caption, this);
   button->setObjectName(QString::fromUtf8(name));
   button->setAutoDefault(true);
   connect(button, &QPushButton::clicked, this,

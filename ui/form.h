@@ -52,7 +52,7 @@ class Form : public QWidget {
 
   // --- the focus --------------------------------------------------------------------------------------------
   /** Enter in one of these goes to the next that is shown and enabled; the last one's Enter runs atEnd. Boxes of
-   *  several lines and buttons keep their Enter. */
+   *  several lines and buttons keep their Enter. Options of one parent are one stop, entered at the one that is on. */
   void enterOrder(const QList<QWidget*>& controls, std::function<void()> atEnd = {});
   static void focus(QWidget* control);  ///< with its text selected
   /** To the grid in sight, where the hand works; nothing when it is empty or there is none. */
