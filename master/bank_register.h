@@ -17,6 +17,6 @@ class BankRegister : public RegisterRules {
 
  private:
   /** The bank's name alone decides whether a row is added or changed, in every state; kept: a chosen bank under a new
-   *  name becomes a further one. */
+   *  name becomes a further one. A row that is not the chosen one is written over only after a yes. */
   Outcome store(const RegisterFields& boxes);
 };

@@ -20,7 +20,7 @@ bool ticked(const RegisterFields& fields, const QString& name) {
 }  // namespace
 
 BuildingRegister::BuildingRegister(Session& session, HouseStyle style)
-    : RegisterRules(session), style_(style) {
+    : RegisterRules(session, {u"APT"_s}), style_(style) {
   list_.setColumns({{.header = style == HouseStyle::Apartment ? u"아파트명"_s : u"다가구명"_s,
                      .width = 20,
                      .locked = true},
@@ -208,19 +208,27 @@ RegisterRules::Outcome BuildingRegister::change(const RegisterFields& boxes) {
   if (changed.dong != oldDong)
     if (const Outcome single = checkTwin(changed); !single.done) return single;
   session_.prompts.MsgWarn(u"선택하신 건물의 모든 가구에 대한 내용이 수정됩니다."_s, buildingTitle);
-  changeBuilding(session_, changed, record()[u"Code"_s], oldDong, ticked(record(), u"Evaporation"_s));
-  return {true};
+  return changeChosen(boxes, buildingTitle,
+                      [&](const RowChange&, const RegisterFields& row, const RegisterFields& stored) {
+                        Building merged = building(row);
+                        merged.name = stored[u"Name"_s];
+                        changeBuilding(session_, merged, record()[u"Code"_s], stored[u"Dong"_s],
+                                       ticked(stored, u"Evaporation"_s));
+                      });
 }
 
 RegisterRules::Outcome BuildingRegister::erase() {
   if (!selectedRow()) return {};
-  if (!session_.prompts.MsgAsk(u"선택된 건물의 자료와 고객현황을 모두 지우시겠습니까?"_s, buildingTitle) ||
+  if (!session_.prompts.MsgAsk(record()[u"Name"_s] + u' ' + record()[u"Dong"_s] +
+                                   u"동\n선택된 건물의 자료와 고객현황을 모두 지우시겠습니까?"_s,
+                               buildingTitle, false) ||
       !session_.prompts.MsgAsk(u"삭제는 선택된 건물에 대한 모든 메뉴에서의 자료를 삭제합니다!\n"
                                u"삭제하시겠습니까?"_s,
                                buildingTitle, false))
     return {};
-  removeBuilding(session_, record()[u"Code"_s], record()[u"Name"_s], record()[u"Dong"_s]);
-  return {true};
+  return eraseAsShown(buildingTitle, [&] {
+    removeBuilding(session_, record()[u"Code"_s], record()[u"Name"_s], record()[u"Dong"_s]);
+  });
 }
 
 RegisterRules::Outcome BuildingRegister::saveWithoutRow(const RegisterFields& boxes) {

@@ -2,7 +2,7 @@
 // One customer as the boxes of a register page show and take it.
 #include <QString>
 
-#include "store/jet/database.h"
+#include "master/row_change.h"
 
 /** How a customer lives; also the number of its page in the register. */
 enum class HouseStyle { Plain = 0, Apartment = 1, MultiFamily = 2 };
@@ -42,7 +42,15 @@ struct ClientEntry {
   QString volumeUnit;   ///< won a unit
   QString bdName, dong, ho;
   QString serial, status, item;  ///< for tax papers, plain customers only
+
+  bool operator==(const ClientEntry&) const = default;
 };
+
+/** The entry's boxes by column of Client, and back; what the fields do not name stays. */
+RegisterFields clientFields(const ClientEntry& entry);
+void takeClientFields(ClientEntry& entry, const RegisterFields& fields);
+/** What the register calls a column. */
+RegisterFields clientLabels();
 
 /** The current row of a recordset over Client. */
 ClientEntry readClient(const jet::Recordset& client);

@@ -63,11 +63,9 @@ std::vector<std::vector<QString>> listRows(jet::Recordset& clients, HouseStyle p
 }
 
 bool blockIsMetered(const Session& session, const ClientEntry& c) {
-  jet::Recordset block;
-  return OpenSnapshot(session.prompts, session.dbBasic, block,
-                      "Select * From APT Where Name = '" + plainText(c.bdName) + "' And Dong = '" +
-                          plainText(c.dong) + "'") &&
-         !block.atEnd() && block["Evaporation"].toBool();
+  const jet::Recordset block = session.dbBasic.OpenRecordset(
+      "Select * From APT Where Name = '" + plainText(c.bdName) + "' And Dong = '" + plainText(c.dong) + "'");
+  return !block.atEnd() && block["Evaporation"].toBool();
 }
 
 /** Year files are gone through from the current year back, as long as there is one; an older file beyond a gap keeps
@@ -162,17 +160,36 @@ int ClientRegister::rowOf(qint64 code) const {
   return 0;
 }
 
-ClientSaved ClientRegister::save(const ClientEntry& boxes) {
+bool ClientRegister::reload() {
+  const qint64 chosen = chosen_.code;
+  if (!loadPage(page())) return false;
+  if (rowOf(chosen) > 0) select(chosen);
+  return true;
+}
+
+ClientSaved ClientRegister::save(const ClientEntry& boxes, const std::optional<ClientEntry>& shown) {
   if (!new_ && chosen_.code == 0) {
     session_.prompts.MsgWarn("신규등록은 신규버튼을 누른후 입력해 주십시오", registerOfClients);
     return {.focus = ClientBox::New};
   }
+  const ClientEntry before = new_ ? emptyEntry() : shown.value_or(chosen_);
   ClientEntry client = boxes;
-  for (QString* tel : {&client.tel, &client.tel1, &client.tel2}) *tel = FormatTel(*tel).text;
+  for (QString ClientEntry::*tel : {&ClientEntry::tel, &ClientEntry::tel1, &ClientEntry::tel2})
+    if (client.*tel != before.*tel) client.*tel = FormatTel(client.*tel).text;
   if (const auto box = missingOrWrong(session_, client)) return {.focus = *box};
+  if (textTooLong(session_, "Client", clientFields(client), clientLabels(), registerOfClients)) return {};
+  if (!new_)
+    for (const auto& [figure, box, label] :
+         {std::tuple{&ClientEntry::gasInit, ClientBox::GasInit, "가스미수"},
+          {&ClientEntry::utilInit, ClientBox::UtilInit, "자재미수"}})
+      if ((client.*figure).isEmpty() && !(before.*figure).isEmpty()) {
+        session_.prompts.MsgWarn(QString(label) + " 칸은 비워 둘 수 없습니다! 없으면 0을 입력하십시오.",
+                                 registerOfClients);
+        return {.focus = box};
+      }
   client.houseStyle = page();
   client.code = chosen_.code;
-  return new_ ? insert(client) : change(client);
+  return new_ ? insert(client) : change(client, before);
 }
 
 ClientSaved ClientRegister::insert(const ClientEntry& client) {
@@ -185,25 +202,36 @@ ClientSaved ClientRegister::insert(const ClientEntry& client) {
   return {.done = true, .focus = ClientBox::New, .code = code};
 }
 
-ClientSaved ClientRegister::change(const ClientEntry& client) {
+RowSource ClientRegister::source(qint64 code) const {
+  return {"Select * From Client Where Code = " + QString::number(code),
+          [](const jet::Recordset& row) { return clientFields(readClient(row)); }};
+}
+
+ClientSaved ClientRegister::change(const ClientEntry& client, const ClientEntry& shown) {
   if (!session_.prompts.MsgAsk("위와 같이 고객등록사항을 변경하시겠습니까?", registerOfClients)) return {};
-  jet::Recordset row;
-  if (!OpenSnapshot(session_.prompts, session_.dbBasic, row,
-                    "Select * From Client Where Code = " + QString::number(client.code))) {
-    return {};
+  const RowChange change{.read = clientFields(chosen_),
+                         .shown = clientFields(shown),
+                         .typed = clientFields(client),
+                         .running = {"GasInit", "UtilInit"},
+                         .labels = clientLabels()};
+  const RowOutcome outcome = changeRow(
+      session_, source(client.code), registerOfClients, change,
+      [&](const RegisterFields& row, const RegisterFields& stored) {
+        ClientEntry merged = client;
+        takeClientFields(merged, row);
+        const QString oldUnit = stored["VolumeUnit"];
+        const bool newPrice = merged.volume && typedNumber(oldUnit) != typedNumber(merged.volumeUnit);
+        session_.dbBasic.Execute(updateStatement(merged, movedFigures(change, stored)));
+        if (merged.volume && stored["VolumeYesNo"] == "0") completeMeterRows(session_, client.code);
+        if (page() == HouseStyle::Apartment && newPrice && blockIsMetered(session_, merged))
+          session_.dbBasic.Execute(unitSpreadStatement(merged, oldUnit));
+      });
+  if (outcome.end == RowEnd::Gone) {
+    reload();
+    new_ = true;
+    return {.focus = ClientBox::Name};
   }
-  if (row.atEnd()) {
-    session_.prompts.MsgWarn("다른 PC에서 이미 삭제된 고객입니다!", registerOfClients);
-    return {};
-  }
-  const ClientEntry old = readClient(row);
-  const bool newPrice = client.volume && old.volumeUnit != client.volumeUnit;
-  const bool spreads = page() == HouseStyle::Apartment && newPrice && blockIsMetered(session_, client);
-  session_.wsMain.Together([&] {
-    session_.dbBasic.Execute(updateStatement(client));
-    if (client.volume && !old.volume) completeMeterRows(session_, client.code);
-    if (spreads) session_.dbBasic.Execute(unitSpreadStatement(client, old.volumeUnit));
-  });
+  if (outcome.end == RowEnd::Refused) return {};
   select(client.code);
   if (const int shown = rowOf(client.code)) showChosen(shown);
   return {.done = true, .focus = ClientBox::List};
@@ -217,22 +245,26 @@ void ClientRegister::showChosen(int row) {
   for (size_t i = 0; i < rows.front().size(); ++i) list(page()).setText(row, int(i) + 1, rows.front()[i]);
 }
 
-bool ClientRegister::removeChosen() {
-  if (new_ || chosen_.code == 0) return false;
+std::optional<RowEnd> ClientRegister::removeChosen() {
+  if (new_ || chosen_.code == 0) return {};
   const ClientEntry gone = chosen_;
   if (!session_.prompts.MsgAsk("이  름 : " + (gone.name.isEmpty() ? DisplayName(gone) : gone.name) + "    " +
                                    "전화번호 : " + gone.tel + "\n선택된 고객자료를 삭제하시겠습니까?",
-                               registerOfClients)) {
-    return false;
+                               registerOfClients, false)) {
+    return {};
   }
-  session_.wsMain.Together([&] {
-    const QString code = QString::number(gone.code);
+  const QString code = QString::number(gone.code);
+  const RowEnd end = deleteRow(session_, source(gone.code), registerOfClients, clientFields(gone), [&] {
     if (gone.volume) session_.dbYear.Execute("Delete * From Evaporation Where ClientCode = " + code);
     session_.dbBasic.Execute("Delete * From Client Where Code = " + code);
   });
+  if (end != RowEnd::Done) {
+    reload();
+    return end;
+  }
   const int row = rowOf(gone.code);
   if (row > 0) list(page()).deleteRow(row);
   chosen_ = emptyEntry();
   removeSales(session_, gone.code);
-  return true;
+  return end;
 }

@@ -19,6 +19,8 @@ class ClientRegister {
 
   /** Reads a page's list anew; nothing is chosen then. False after a failed query has been told. */
   bool loadPage(HouseStyle page);
+  /** The same for the page in front; who was chosen stays so where he still is. */
+  bool reload();
   /** The bottom line with the count of all customers. */
   QString bottomLine() const;
 
@@ -36,16 +38,20 @@ class ClientRegister {
   /** The row that shows a customer on the page; 0 when none does. */
   int rowOf(qint64 code) const;
 
-  /** BtnSave: a new customer after BtnNew, else a change of the chosen one. Throws jet::Error when a statement
-   *  fails; what ran before it stays. */
-  ClientSaved save(const ClientEntry& boxes);
-  /** Delete key on the list: asks, then takes the customer out with the meter rows and, in every year's file from
-   *  the current one back, the sales. Throws jet::Error. */
-  bool removeChosen();
+  /** BtnSave: a new customer after BtnNew, else a change of the chosen one: columns that another PC has written
+   *  meanwhile are kept or asked about, balances are only moved by what the operator changed (row_change.h). shown: the
+   *  boxes as they stood when the customer was shown, where they are not the customer's own texts. A customer that
+   *  another PC has deleted becomes a new entry. Throws jet::Error when a statement fails; what ran before it stays. */
+  ClientSaved save(const ClientEntry& boxes, const std::optional<ClientEntry>& shown = {});
+  /** Delete key on the list: asks, then, when nobody else has changed the customer meanwhile, takes the customer out with the meter rows and, in every year's file from
+   *  the current one back, the sales. Nothing when nobody is chosen or the operator would rather not. Throws
+   *  jet::Error. */
+  std::optional<RowEnd> removeChosen();
 
  private:
   ClientSaved insert(const ClientEntry& boxes);
-  ClientSaved change(const ClientEntry& boxes);
+  ClientSaved change(const ClientEntry& boxes, const ClientEntry& shown);
+  RowSource source(qint64 code) const;
   bool readRow(qint64 code, jet::Recordset& client) const;
   ClientEntry emptyEntry() const;
   void showChosen(int row);

@@ -46,14 +46,13 @@ QString insertStatement(const ClientEntry& c) {
          plainValues(c);
 }
 
-QString updateStatement(const ClientEntry& c) {
+QString updateStatement(const ClientEntry& c, const QString& movedBalances) {
   QString sql = "Update Client Set Name = '" + plainText(c.name) + "', Tel = '" + plainText(c.tel) +
                 "', Tel1 = '" + plainText(c.tel1) + "', Tel2 = '" + plainText(c.tel2) + "', PostCode = '" +
                 plainText(c.postCode) + "', Address = '" + plainText(c.address) + "', " + "Birth = '" +
                 plainText(c.birth) + "', Memo = '" + plainText(c.memo) + "', " +
-                "HouseStyle = " + QString::number(int(c.houseStyle)) +
-                ", GasInit = " + typedNumber(c.gasInit) + ", UtilInit = " + typedNumber(c.utilInit) +
-                ", AppDate = '" + plainText(c.appDate) + "', " + "PayWay = " + QString::number(int(c.payWay));
+                "HouseStyle = " + QString::number(int(c.houseStyle)) + movedBalances + ", AppDate = '" +
+                plainText(c.appDate) + "', " + "PayWay = " + QString::number(int(c.payWay));
   if (c.volume) {
     sql += ", VolumeYesNo = True, Volume = '" + plainText(c.pressure) + "', " +
            "VolumeUnit = " + typedNumber(c.volumeUnit);

@@ -122,8 +122,11 @@ void ClientBoxes::addTelephones(Fields& fields, bool all) {
     TelBox* const box = fields.tel(name, label);
     box->setMaxLength(maxLength);
     help(box, "고객의 전화번호를 등록합니다");
-    QObject::connect(box, &QLineEdit::editingFinished, box,
-                     [box] { box->setText(FormatTel(box->text()).text); });
+    QObject::connect(box, &QLineEdit::editingFinished, box, [box] {
+      if (!box->isModified()) return;
+      box->setText(FormatTel(box->text()).text);
+      box->setModified(true);
+    });
     tels_ << box;
     order_ << box;
     boxes_[which] = box;
@@ -304,10 +307,6 @@ bool ClientBoxes::enter(QWidget* box) {
   if (box == pressure_ && typedText(pressure_).isEmpty()) return fill(&ClientBoxes::regulator, unit_);
   if (building_ && box == building_ && typedText(building_).isEmpty())
     return fill(&ClientBoxes::building, ho_);
-  if (payWays_.contains(qobject_cast<QRadioButton*>(box))) {
-    Form::focus(volume_);
-    return true;
-  }
   return false;
 }
 
@@ -319,10 +318,10 @@ bool ClientBoxes::f12(QWidget* box) {
   return false;
 }
 
-bool ClientBoxes::redirectFocus(QWidget* box) {
-  if (payWays_.isEmpty() || box != payWays_.front() || payWays_.front()->isChecked()) return false;
-  for (QRadioButton* const button : payWays_) {
-    if (button->isChecked()) button->setFocus();
+void ClientBoxes::focusApostrophe() {
+  for (QWidget* const box : order_) {
+    auto* const line = qobject_cast<QLineEdit*>(box);
+    if (!line || !line->text().contains(u'\'')) continue;
+    return Form::focus(line);
   }
-  return true;
 }

@@ -36,8 +36,8 @@ class ClientBoxes {
   bool enter(QWidget* box);
   /** True when the box has a search behind F12. */
   bool f12(QWidget* box);
-  /** The way of payment's button that is on takes the focus for all three. */
-  bool redirectFocus(QWidget* box);
+  /** The first box whose text no statement can hold takes the focus. */
+  void focusApostrophe();
 
  private:
   void buildPlain(Fields& fields);

@@ -14,7 +14,7 @@ RegisterForm::RegisterForm(const QString& name, const QString& caption, Session&
   cancel_ = addButton("BtnCancel", u"취소(&Q)"_s, [this] { page()->cancelRecord(); });
   delete_ = addButton("BtnDel", u"삭제(&D)"_s, [this] { page()->deleteRecord(); });
   exit_ = addButton("BtnExit", u"닫기(&X)"_s, [this] { (parentWidget() ? parentWidget() : this)->close(); });
-  onKey(Qt::Key_Escape, [this] { page()->cancelRecord(); });
+  onKey(Qt::Key_Escape, [this] { leaveBoxes(); });
 }
 
 RegisterPage* RegisterForm::addPage(RegisterRules& rules, const char* gridName, const char* tabs,
@@ -61,9 +61,25 @@ void RegisterForm::start() {
     new_->setFocus();
 }
 
+/** Back to the list; in the list itself the file is read anew. */
+void RegisterForm::leaveBoxes() {
+  if (page()->mayDrop()) page()->cancelRecord();
+}
+
+bool RegisterForm::mayClose() {
+  for (RegisterPage* const each : pages_) {
+    if (each->mayDrop()) continue;
+    if (tabs_) tabs_->setCurrentWidget(each);
+    return false;
+  }
+  return true;
+}
+
 void RegisterForm::saveRecord() {
   const bool wasNew = page()->rules().isNew();
-  if (!page()->saveRecord()) return;
+  bool saved = false;
+  if (!guard([&] { saved = page()->saveRecord(); })) page()->focusApostrophe();
+  if (!saved) return;
   // The hand that enters one record after another goes on with the next; a change goes back to the list.
   if (wasNew)
     new_->setFocus();

@@ -15,6 +15,7 @@ class RegisterForm : public Form {
   Spread* grid() const { return page()->grid(); }
 
  protected:
+  bool mayClose() override;
   /** One page for each register of the form; tabs names the control that holds several of them. The rules are members
    *  of the derived form, so pages come in its constructor, then their boxes, then start. */
   RegisterPage* addPage(RegisterRules& rules, const char* gridName, const char* tabs = nullptr,
@@ -29,6 +30,7 @@ class RegisterForm : public Form {
 
  private:
   void saveRecord();
+  void leaveBoxes();
   void refreshButtons();
 
   QList<RegisterPage*> pages_;

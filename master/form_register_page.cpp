@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
@@ -11,7 +12,10 @@
 #include <algorithm>
 
 #include "ui/boxes.h"
+#include "ui/fields.h"
 #include "ui/form.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -51,8 +55,11 @@ RegisterPage::RegisterPage(Form& form, RegisterRules& rules, const char* gridNam
   grid_ = form.addSpread(gridName, rules.list(), this);
   grid_->setFillColumn(rules.list().MaxCols());
   grid_->rowEntered = [this](int row) { showRow(row); };
-  grid_->keyPressed = [this](int, int, int key, Qt::KeyboardModifiers) {
-    if (key != Qt::Key_Delete || !deleteAsked) return false;
+  grid_->cellLeaving = [this](int row, int, int toRow, int) { return row == toRow || mayDrop(); };
+  grid_->enterPressed = [this](int, int) { enterBoxes(); };
+  grid_->doubleClicked = [this](int, int) { enterBoxes(); };
+  grid_->keyPressed = [this](int, int, int key, Qt::KeyboardModifiers modifiers) {
+    if (key != Qt::Key_Delete || modifiers || !deleteAsked) return false;
     deleteAsked();
     return true;
   };
@@ -69,6 +76,7 @@ RegisterPage::RegisterPage(Form& form, RegisterRules& rules, const char* gridNam
 void RegisterPage::bind(QWidget* box, const QString& column, const QString& help) {
   bound_.push_back({box, column});
   form_.setHelp(box, help);
+  if (const QLabel* const label = Fields::labelOf(box)) rules_.setLabel(column, label->text());
 }
 
 void RegisterPage::setListHelp(const QString& help) {
@@ -90,6 +98,7 @@ RegisterFields RegisterPage::boxes() const {
 void RegisterPage::setBoxes(const RegisterFields& texts) {
   for (const auto& [box, column] : bound_) setBoxText(box, texts.value(column));
   if (recordShown) recordShown();
+  shown_ = boxes();
 }
 
 void RegisterPage::showRow(int row) {
@@ -102,14 +111,57 @@ void RegisterPage::load() {
   if (!grid_->setActiveCell(1, 1)) showRow(0);
 }
 
+/** The list as the file holds it now, its cursor on the line it was on. */
+void RegisterPage::reload() {
+  const int row = grid_->activeRow();
+  rules_.load();
+  const int next = rules_.selectedRow() > 0 ? rules_.selectedRow() : std::min(row, rules_.list().MaxRows());
+  grid_->setActiveCell(next, std::max(1, grid_->activeCol()));
+  showRow(next);
+}
+
+bool RegisterPage::mayDrop() {
+  if (boxes() == shown_) return true;
+  return form_.session().prompts.MsgAsk(
+      u"입력한 내용을 저장하지 않았습니다!\n저장하지 않고 버리시겠습니까?"_s, form_.windowTitle(), false);
+}
+
+void RegisterPage::enterBoxes() {
+  for (const auto& [box, column] : bound_) {
+    const auto* const line = qobject_cast<const QLineEdit*>(box);
+    if (!box->isVisibleTo(this) || !box->isEnabled() || (line && line->isReadOnly())) continue;
+    return Form::focus(box);
+  }
+}
+
+void RegisterPage::focusApostrophe() {
+  const RegisterFields texts = boxes();
+  for (const auto& [box, column] : bound_) {
+    if (!texts[column].contains(u'\'')) continue;
+    return Form::focus(box);
+  }
+}
+
 void RegisterPage::newRecord() {
+  if (!mayDrop()) return;
   setBoxes(rules_.beginNew());
   if (stateChanged) stateChanged();
   if (!bound_.isEmpty()) Form::focus(bound_.first().first);
 }
 
 bool RegisterPage::saveRecord() {
-  const auto [done, column] = rules_.save(boxes());
+  const RegisterFields typed = boxes();
+  const auto [done, column, end] = rules_.save(typed, shown_);
+  if (!done && end == RowEnd::Gone) {
+    // What was typed stays as a new entry, and counts as typed.
+    reload();
+    shown_ = rules_.beginNew();
+    for (const auto& [box, name] : bound_) setBoxText(box, typed[name]);
+    if (recordShown) recordShown();
+    if (stateChanged) stateChanged();
+    enterBoxes();
+    return false;
+  }
   if (!done) {
     for (const auto& [box, name] : bound_)
       if (name == column) Form::focus(box);
@@ -123,14 +175,16 @@ bool RegisterPage::saveRecord() {
 
 void RegisterPage::cancelRecord() {
   rules_.cancel();
-  showRow(grid_->activeRow());
+  rules_.select(grid_->activeRow());
+  reload();
   grid_->setFocus();
 }
 
 void RegisterPage::deleteRecord() {
   const int row = grid_->activeRow();
-  if (!rules_.remove().done) return;
-  const int next = std::min(row, rules_.list().MaxRows());
+  const auto [done, column, end] = rules_.remove();
+  if (!done && end == RowEnd::Done) return;
+  const int next = rules_.selectedRow() > 0 ? rules_.selectedRow() : std::min(row, rules_.list().MaxRows());
   grid_->setActiveCell(next, 1);
   showRow(next);
   grid_->setFocus();

@@ -10,7 +10,8 @@ class Form;
 class QGroupBox;
 class Spread;
 
-/** Browsing shows the list's current line in the boxes. */
+/** Browsing shows the list's current line in the boxes. What was typed and not saved goes only after a question; the
+ *  buttons that say so (cancel, delete) ask nothing about it. */
 class RegisterPage : public QWidget {
  public:
   RegisterPage(Form& form, RegisterRules& rules, const char* gridName);
@@ -33,8 +34,15 @@ class RegisterPage : public QWidget {
   void newRecord();
   /** True when it was stored; a refused save has put the focus on the box that wants something. */
   bool saveRecord();
+  /** The boxes show the chosen line again as the file holds it; the focus goes to the list. */
   void cancelRecord();
   void deleteRecord();
+  /** Asks about what was typed and not saved; True when it may go. */
+  bool mayDrop();
+  /** The first box that takes typing gets the focus. */
+  void enterBoxes();
+  /** The first box whose text no statement can hold gets the focus. */
+  void focusApostrophe();
 
   std::function<void()> recordShown;   ///< boxes without a column of their own follow here
   std::function<void()> stateChanged;  ///< new or browsing, a line or none: the buttons follow
@@ -43,10 +51,12 @@ class RegisterPage : public QWidget {
  private:
   void setBoxes(const RegisterFields& texts);
   void showRow(int row);
+  void reload();
 
   RegisterRules& rules_;
   Spread* grid_;
   QGroupBox* panel_;
   Form& form_;
   QList<QPair<QWidget*, QString>> bound_;
+  RegisterFields shown_;  ///< the boxes as they were filled
 };

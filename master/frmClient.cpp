@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "ui/grid_print.h"
 
 namespace {
@@ -28,9 +30,9 @@ frmClient::frmClient(FormContext& context, QWidget* parent)
   tabs_->setDocumentMode(true);
   body()->addWidget(tabs_, 1);
   buildButtons();
-  buildPage(HouseStyle::Plain, "일반/식당", "SpClient");
-  buildPage(HouseStyle::Apartment, "아파트", "SpAptClient");
-  buildPage(HouseStyle::MultiFamily, "다가구", "SpManyClient");
+  buildPage(HouseStyle::Plain, "일반/식당(&1)", "SpClient");
+  buildPage(HouseStyle::Apartment, "아파트(&2)", "SpAptClient");
+  buildPage(HouseStyle::MultiFamily, "다가구(&3)", "SpManyClient");
 
   QList<QWidget*> order;
   for (const Page& page : pages_) order << page.boxes->order();
@@ -40,12 +42,18 @@ frmClient::frmClient(FormContext& context, QWidget* parent)
 
   onKey(Qt::Key_F10, [this] { print(); });
   onKey(Qt::Key_F12, [this] { search(); });
+  onKey(Qt::Key_Escape, [this] {
+    if (mayDrop()) backToList();
+  });
   mapTimer_->setInterval(mapLookMilliseconds);
   mapTimer_->setSingleShot(true);
   connect(mapTimer_, &QTimer::timeout, this, [this] { lookAtMap(); });
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { guard([&] { openPage(index); }); });
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { guard([&] { turnTo(index); }); });
   guard([this] { openPage(0); });
-  new_->setFocus();
+  if (page().grid->model().MaxRows() > 0)
+    page().grid->setFocus();
+  else
+    new_->setFocus();
 }
 
 // The pages go after the rules that they show.
@@ -58,14 +66,14 @@ frmClient::~frmClient() {
 void frmClient::buildButtons() {
   new_ = addButton("BtnNew", "신규(&N)", [this] { newClient(); });
   save_ = addButton("BtnSave", "저장(&S)", [this] { save(); });
-  cancel_ = addButton("BtnCancel", "취소(&Q)", [this] { cancel(); });
+  cancel_ = addButton("BtnCancel", "취소(&Q)", [this] { backToList(); });
   delete_ = addButton("BtnDel", "삭제(&D)", [this] {
     session().prompts.MsgInfo(deleteHelp, "고객 관리자");
     page().grid->setFocus();
   });
   image_ = addButton("BtnImage", "약도(&M)", [this] { startMap(); });
-  apartment_ =
-      addButton("BtnAptClient", "아파트 자동 등록", [this] { context_.commands.openForm("frmHouseStyle"); });
+  apartment_ = addButton("BtnAptClient", "아파트 자동 등록(&T)",
+                         [this] { context_.commands.openForm("frmHouseStyle"); });
   apartment_->setEnabled(context_.commands.hasForm("frmHouseStyle"));
   exit_ = addButton("BtnExit", "닫기(&X)", [this] { (parentWidget() ? parentWidget() : this)->close(); });
   buttons_ = buttonRow({apartment_, image_, nullptr, new_, save_, cancel_, delete_, nullptr, exit_});
@@ -92,8 +100,9 @@ void frmClient::buildPage(HouseStyle style, const QString& caption, const char* 
   };
   page.grid->enterPressed = [this](int, int) { focus(this->page().boxes->first()); };
   page.grid->doubleClicked = [this](int, int) { focus(this->page().boxes->first()); };
-  page.grid->keyPressed = [this](int, int, int key, Qt::KeyboardModifiers) {
-    if (key != Qt::Key_Delete) return false;
+  page.grid->cellLeaving = [this](int row, int, int toRow, int) { return row == toRow || mayDrop(); };
+  page.grid->keyPressed = [this](int, int, int key, Qt::KeyboardModifiers modifiers) {
+    if (key != Qt::Key_Delete || modifiers & ~Qt::KeypadModifier) return false;
     remove();
     return true;
   };
@@ -102,6 +111,7 @@ void frmClient::buildPage(HouseStyle style, const QString& caption, const char* 
 // --- what is shown ------------------------------------------------------------------------------------------
 
 void frmClient::openPage(int index) {
+  front_ = size_t(index);
   clients_.loadPage(HouseStyle(index));
   pages_[size_t(index)].sheet->layout()->addWidget(buttons_);
   ClientEntry none;
@@ -109,15 +119,32 @@ void frmClient::openPage(int index) {
   show(none);
 }
 
+void frmClient::turnTo(int index) {
+  if (!mayDrop()) {
+    const QSignalBlocker quiet(tabs_);
+    tabs_->setCurrentIndex(int(front_));
+    return;
+  }
+  openPage(index);
+  page().grid->setFocus();
+}
+
+bool frmClient::mayDrop() {
+  if (page().boxes->entry() == page().shown) return true;
+  return session().prompts.MsgAsk("입력한 내용을 저장하지 않았습니다!\n저장하지 않고 버리시겠습니까?",
+                                  "고객 관리자", false);
+}
+
 void frmClient::show(const ClientEntry& entry) {
   page().boxes->show(entry);
+  page().shown = page().boxes->entry();
   showState();
 }
 
 void frmClient::showState() {
   const bool fresh = clients_.isNew();
   new_->setEnabled(!fresh);
-  cancel_->setEnabled(fresh);
+  cancel_->setEnabled(fresh || clients_.code() != 0);
   delete_->setEnabled(!fresh);
   image_->setEnabled(!fresh && !mapTimer_->isActive());
   page().grid->setEnabled(!fresh);  // a click on the list would throw the typed boxes away
@@ -125,7 +152,11 @@ void frmClient::showState() {
 }
 
 void frmClient::rowEntered(int row) {
-  if (!showing_) show(clients_.selectRow(row));
+  if (showing_) return;
+  const qint64 listed = page().grid->model().text(row, ClientRegister::CodeCol).toLongLong();
+  show(clients_.selectRow(row));
+  if (listed != 0 && clients_.code() != listed)
+    showHelp("다른 PC나 화면에서 삭제된 고객입니다. Esc를 누르면 목록을 다시 읽습니다");
 }
 
 void frmClient::focusBox(ClientBox box) {
@@ -137,35 +168,58 @@ void frmClient::focusBox(ClientBox box) {
 // --- the buttons --------------------------------------------------------------------------------------------
 
 void frmClient::newClient() {
+  if (!mayDrop()) return;
   show(clients_.beginNew());
   focus(page().boxes->first());
 }
 
 void frmClient::save() {
-  const ClientSaved saved = clients_.save(page().boxes->entry());
+  const QScopedValueRollback<bool> moving(showing_, true);
+  const bool wasNew = clients_.isNew();
+  ClientSaved saved;
+  if (!guard([&] { saved = clients_.save(page().boxes->entry(), page().shown); })) {
+    return page().boxes->focusApostrophe();
+  }
   if (saved.done) {
-    const QScopedValueRollback<bool> moving(showing_, true);
     page().grid->setActiveCell(clients_.rowOf(clients_.code()), 1);
     show(clients_.select(clients_.code()));
+  } else if (clients_.isNew() && !wasNew) {
+    // The customer is gone; what was typed stays as a new entry, and counts as typed.
+    page().shown = ClientEntry();
+    page().shown.houseStyle = clients_.page();
+    showState();
   }
   focusBox(saved.focus);
 }
 
-void frmClient::cancel() {
-  show(clients_.cancel());
+void frmClient::backToList() {
+  const QScopedValueRollback<bool> moving(showing_, true);
+  const int before = page().grid->activeRow();
+  clients_.cancel();
+  clients_.reload();
+  const int kept = clients_.rowOf(clients_.code());
+  const int row = kept > 0 ? kept : std::min(before, page().grid->model().MaxRows());
+  page().grid->setActiveCell(row, 1);
+  show(clients_.selectRow(row));
   page().grid->setFocus();
 }
 
 void frmClient::remove() {
+  const QScopedValueRollback<bool> moving(showing_, true);
+  const qint64 code = clients_.code();
   if (!clients_.removeChosen()) return;
-  show(clients_.selectRow(page().grid->activeRow()));
+  const int kept = clients_.rowOf(code);
+  if (kept > 0) page().grid->setActiveCell(kept, 1);
+  show(clients_.selectRow(kept > 0 ? kept : page().grid->activeRow()));
 }
 
 void frmClient::search() {
   QWidget* const box = focusWidget();
   if (!box || page().boxes->f12(box) || box->objectName() != "TxtUName") return;
+  if (!mayDrop()) return;
   const auto chosen = context_.pickers.searchClient({}, ClientSearchMode::All);
   if (!chosen) return focus(box);
+  page().shown = page().boxes->entry();
   const ClientEntry client = clients_.select(chosen->code);
   if (tabs_->currentIndex() != int(client.houseStyle)) {
     tabs_->setCurrentIndex(int(client.houseStyle));  // reads that page's list
@@ -178,7 +232,7 @@ void frmClient::search() {
 }
 
 void frmClient::print() {
-  const QString title = tabs_->tabText(tabs_->currentIndex()) + " 고객 현황";
+  const QString title = tabs_->tabText(tabs_->currentIndex()).section(u'(', 0, 0) + " 고객 현황";
   PrintGrid(session(), page().grid->model(), title, this);
 }
 
@@ -205,6 +259,5 @@ bool frmClient::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && page().boxes->enter(box)) return true;
   }
-  if (box && event->type() == QEvent::FocusIn && page().boxes->redirectFocus(box)) return true;
   return Form::eventFilter(watched, event);
 }

@@ -18,6 +18,7 @@ class frmClient : public Form {
   ~frmClient() override;
 
  protected:
+  bool mayClose() override { return mayDrop(); }
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -25,19 +26,24 @@ class frmClient : public Form {
     QWidget* sheet = nullptr;
     Spread* grid = nullptr;
     std::unique_ptr<ClientBoxes> boxes;
+    ClientEntry shown;  ///< the boxes as they were filled
   };
 
   /** Each page's grid has a name of its own, under which its column widths are kept. */
   void buildPage(HouseStyle style, const QString& caption, const char* gridName);
   void buildButtons();
-  Page& page() { return pages_.at(size_t(clients_.page())); }
+  Page& page() { return pages_.at(front_); }
   void openPage(int index);
+  void turnTo(int index);
+  /** Asks about what was typed and not saved; True when it may go. */
+  bool mayDrop();
   void show(const ClientEntry& entry);
   void showState();
   void rowEntered(int row);
   void newClient();
   void save();
-  void cancel();
+  /** The list as the file holds it, its customer in the boxes. */
+  void backToList();
   void remove();
   void search();
   void print();
@@ -49,6 +55,7 @@ class frmClient : public Form {
   ClientRegister clients_;
   MapHandshake map_;
   std::array<Page, ClientRegister::PageCount> pages_;
+  size_t front_ = 0;  ///< the page that is shown
   QTabWidget* tabs_;
   QWidget* buttons_ = nullptr;
   QPushButton *new_ = nullptr, *save_ = nullptr, *cancel_ = nullptr, *delete_ = nullptr, *image_ = nullptr,

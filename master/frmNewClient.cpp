@@ -28,6 +28,7 @@ frmNewClient::frmNewClient(Session& session, Pickers& pickers, const QString& se
 
   const ClientEntry entry = newClientFrom(searchText);
   boxes_->show(entry);
+  shown_ = boxes_->entry();
   // The searched text stands in its box already; the hand goes to what is still missing.
   Form::focus(entry.name.isEmpty() ? boxes_->first() : boxes_->at(ClientBox::Tel));
   setMinimumWidth(72 * fontMetrics().horizontalAdvance(u'0'));
@@ -38,9 +39,21 @@ std::optional<ClientChoice> frmNewClient::enter() {
   return registered_;
 }
 
+/** Esc, the leaving button and the window's own one. */
+void frmNewClient::reject() {
+  if (boxes_->entry() != shown_ &&
+      !form_->session().prompts.MsgAsk("입력한 내용을 저장하지 않았습니다!\n저장하지 않고 버리시겠습니까?",
+                                       "고객 관리자", false))
+    return;
+  QDialog::reject();
+}
+
 void frmNewClient::save() {
   const ClientEntry entry = boxes_->entry();
-  const ClientSaved saved = saveNewClient(form_->session(), entry);
+  ClientSaved saved;
+  if (!form_->guard([&] { saved = saveNewClient(form_->session(), entry); })) {
+    return boxes_->focusApostrophe();
+  }
   if (saved.done) {
     registered_ = ClientChoice{saved.code, DisplayName(entry)};
     return accept();

@@ -17,6 +17,7 @@ class frmNewClient : public QDialog {
   std::optional<ClientChoice> enter();
 
  protected:
+  void reject() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -26,4 +27,5 @@ class frmNewClient : public QDialog {
   std::unique_ptr<ClientBoxes> boxes_;
   QPushButton* save_;
   std::optional<ClientChoice> registered_;
+  ClientEntry shown_;  ///< the boxes as they were filled
 };

@@ -14,7 +14,7 @@ double gasNumber(const RegisterFields& fields, const QString& column) {
 }
 }  // namespace
 
-GasCatalogue::GasCatalogue(Session& session) : RegisterRules(session) {
+GasCatalogue::GasCatalogue(Session& session) : RegisterRules(session, {u"LPG"_s}) {
   const auto money = [](const QString& header, double width) {
     return SpreadColumn{.header = header,
                         .group = u"가스/용기 현황"_s,
@@ -89,27 +89,47 @@ RegisterRules::Outcome GasCatalogue::insert(const RegisterFields& boxes) {
   return {true};
 }
 
+QStringList GasCatalogue::runningColumns() const {
+  return {u"CANLoan"_s, u"CANEmpty"_s, u"CANFull"_s, u"LPGStock"_s};
+}
+
+/** The cylinders held follow a corrected count; counts that were left alone leave them alone. */
+QString GasCatalogue::movedTotal(const RowChange& change, const RegisterFields& stored) {
+  double moved = 0;
+  bool any = false;
+  for (const QString& count : {u"CANLoan"_s, u"CANEmpty"_s, u"CANFull"_s}) {
+    moved += movedBy(change, count);
+    any = any || movedBy(change, count) != 0;
+  }
+  if (!any) return {};
+  return u", CANTotalHold = "_s + jet::Value(typedNumber(totalHold(stored)).toDouble() + moved).toText();
+}
+
 // The size of a stored row stays as it is, whatever the box says: name and size are what posted lines go by. An
 // emptied name is stored as it is.
 RegisterRules::Outcome GasCatalogue::change(const RegisterFields& boxes) {
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, gasTitle)) return {};
-  const auto number = [&](const QString& column) { return typedNumber(boxes[column]); };
-  session_.dbBasic.Execute(
-      u"Update LPG Set LPGName = '"_s + plainText(boxes[u"LPGName"_s]) + u"', Size = "_s +
-      typedNumber(record()[u"Size"_s]) + u", LPGPurchase = "_s + number(u"LPGPurchase"_s) +
-      u", LPGSelling = "_s + number(u"LPGSelling"_s) + u", CANPurchase = "_s + number(u"CANPurchase"_s) +
-      u", CANSelling = "_s + number(u"CANSelling"_s) + u", CANLoan = "_s + number(u"CANLoan"_s) +
-      u", CANEmpty = "_s + number(u"CANEmpty"_s) + u", CANFull = "_s + number(u"CANFull"_s) +
-      u", LPGStock = "_s + number(u"LPGStock"_s) + u", CANTotalHold = "_s + totalHold(boxes) +
-      u" Where Code = "_s + plainNumber(record()[u"Code"_s]));
-  return {true};
+  RegisterFields typed = boxes;
+  typed.remove(u"Size"_s);
+  return changeChosen(
+      typed, gasTitle, [&](const RowChange& change, const RegisterFields& row, const RegisterFields& stored) {
+        const auto number = [&](const QString& column) { return typedNumber(row[column]); };
+        session_.dbBasic.Execute(
+            u"Update LPG Set LPGName = '"_s + plainText(row[u"LPGName"_s]) + u"', Size = "_s +
+            number(u"Size"_s) + u", LPGPurchase = "_s + number(u"LPGPurchase"_s) + u", LPGSelling = "_s +
+            number(u"LPGSelling"_s) + u", CANPurchase = "_s + number(u"CANPurchase"_s) +
+            u", CANSelling = "_s + number(u"CANSelling"_s) + movedFigures(change, stored) +
+            movedTotal(change, stored) + u" Where Code = "_s + plainNumber(record()[u"Code"_s]));
+      });
 }
 
 RegisterRules::Outcome GasCatalogue::erase() {
   if (!selectedRow()) return {};
-  if (!session_.prompts.MsgAsk(u"선택된 LPG/용기에 대한 자료를 삭제하시겠습니까?"_s, gasTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From LPG Where Code = "_s + plainNumber(record()[u"Code"_s]));
-  return {true};
+  return eraseChosen(
+      record()[u"LPGName"_s] + u' ' + record()[u"Size"_s] + u"KG"_s,
+      u"선택된 LPG/용기에 대한 자료를 삭제하시겠습니까?"_s, gasTitle, [&] {
+        session_.dbBasic.Execute(u"Delete * From LPG Where Code = "_s + plainNumber(record()[u"Code"_s]));
+      });
 }
 
 RegisterRules::Outcome GasCatalogue::saveWithoutRow(const RegisterFields&) {

@@ -22,4 +22,8 @@ class GasCatalogue : public RegisterRules {
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
   Outcome saveWithoutRow(const RegisterFields& boxes) override;
+  QStringList runningColumns() const override;
+
+ private:
+  static QString movedTotal(const RowChange& change, const RegisterFields& stored);
 };

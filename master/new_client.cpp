@@ -32,7 +32,9 @@ ClientEntry newClientFrom(const QString& searchText) {
   return boxes;
 }
 
-ClientSaved saveNewClient(const Session& session, const ClientEntry& boxes) {
+ClientSaved saveNewClient(const Session& session, const ClientEntry& typed) {
+  ClientEntry boxes = typed;
+  boxes.tel = FormatTel(boxes.tel).text;
   const auto refuse = [&](const QString& text, const QString& title, ClientBox box) {
     session.prompts.MsgWarn(text, title);
     return ClientSaved{.focus = box};
@@ -46,6 +48,7 @@ ClientSaved saveNewClient(const Session& session, const ClientEntry& boxes) {
   if (boxes.volume && boxes.pressure.isEmpty()) {
     return refuse("압력조정기를 입력하십시오", "체적관리자", ClientBox::Pressure);
   }
+  if (textTooLong(session, "Client", clientFields(boxes), clientLabels(), "고객 관리자")) return {};
   const QString today = jet::formatDate(session.pc.clock.now(), u"YYYY/MM/DD");
   return {.done = true, .code = addClient(session, newClientStatement(boxes, today), boxes.volume)};
 }

@@ -14,9 +14,11 @@ class RefillRegister : public RegisterRules {
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
   Outcome saveWithoutRow(const RegisterFields& boxes) override;
+  QStringList runningColumns() const override { return {"GasInit", "UtilInit"}; }
 
  private:
   /** False when the operator would rather not have two stations of one name. */
   bool nameAccepted(const QString& company, const QString& ownCode);
   QString nextCode() const;
+  void insertWith(const RegisterFields& boxes, const QString& code);
 };

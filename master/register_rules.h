@@ -1,15 +1,10 @@
 #pragma once
 // What the small registers share below their forms: a list of rows, boxes by column name, and two states, browsing
 // and new. A register of its own says how a row is read, checked, stored and taken out.
-#include <QHash>
-#include <QString>
 #include <vector>
 
-#include "store/session.h"
+#include "master/row_change.h"
 #include "ui/spread_model.h"
-
-/** Texts of the boxes (or of one record) by column name. */
-using RegisterFields = QHash<QString, QString>;
 
 class RegisterRules {
  public:
@@ -17,9 +12,16 @@ class RegisterRules {
   struct Outcome {
     bool done = false;
     QString focus = {};
+    RowEnd end = RowEnd::Done;  ///< when another PC was there first: the list has been read anew
   };
 
-  explicit RegisterRules(Session& session) : session_(session) {}
+  /** Where the rows lie in Basic.mdb and the column that tells one from another. */
+  struct Table {
+    QString name, key = "Code";
+    bool keyIsText = false;
+  };
+
+  RegisterRules(Session& session, Table table) : session_(session), table_(std::move(table)) {}
   virtual ~RegisterRules() = default;
   RegisterRules(const RegisterRules&) = delete;
   RegisterRules& operator=(const RegisterRules&) = delete;
@@ -27,8 +29,10 @@ class RegisterRules {
   SpreadModel& list() { return list_; }
   const SpreadModel& list() const { return list_; }
 
-  /** Reads the list anew; nothing is chosen then. False after a failed query has been told. */
+  /** Reads the list anew; the chosen row stays chosen where it still is. False after a failed query has been told. */
   bool load();
+  /** What a column is called on the screen. */
+  void setLabel(const QString& column, const QString& label) { labels_[column] = label; }
   /** BtnNew: what the emptied boxes show. */
   RegisterFields beginNew();
   /** BtnCancel: back to browsing with nothing chosen. */
@@ -40,8 +44,9 @@ class RegisterRules {
   int selectedRow() const { return row_; }  ///< 0: none
 
   /** BtnSave: stores the boxes as a new row after BtnNew, else as a change of the chosen row, and reads the list
-   *  anew; a changed row stays chosen. Throws jet::Error when the statement fails. */
-  Outcome save(const RegisterFields& boxes);
+   *  anew; a changed row stays chosen. shown: the boxes as they stood when the row was shown, where that is not the
+   *  record's own text. Throws jet::Error when the statement fails. */
+  Outcome save(const RegisterFields& boxes, const RegisterFields& shown = {});
   /** BtnDel and the Delete key: asks, then takes the chosen row out. Throws jet::Error. */
   Outcome remove();
 
@@ -59,8 +64,20 @@ class RegisterRules {
   /** Row colours and the like, after the list has been filled. */
   virtual void dressList() {}
 
-  /** The chosen row's record as read from the file. */
+  /** Columns that postings move. A change only moves them, by what the operator changed in the box. */
+  virtual QStringList runningColumns() const { return {}; }
+
+  /** The chosen row's record as it was read from the file. */
   const RegisterFields& record() const { return records_.at(size_t(row_ - 1)); }
+  /** Writes a change of the chosen row together with a fresh reading of it (row_change.h). */
+  Outcome changeChosen(const RegisterFields& boxes, const QString& title,
+                       const std::function<void(const RowChange& change, const RegisterFields& row,
+                                                const RegisterFields& stored)>& write);
+  /** Asks, standing on no and naming the row, then runs work when the row is still as it was shown. */
+  Outcome eraseChosen(const QString& name, const QString& question, const QString& title,
+                      const std::function<void()>& work);
+  /** The same without the question. */
+  Outcome eraseAsShown(const QString& title, const std::function<void()>& work);
   /** Tells why a save or delete is refused and where the focus goes. */
   Outcome refuse(const QString& text, const QString& title, const QString& focus = {});
   enum class Found { Nothing, Something, Failed };
@@ -71,10 +88,13 @@ class RegisterRules {
   SpreadModel list_;
 
  private:
+  RowSource source() const;
+  std::optional<Outcome> impossible(const RegisterFields& boxes);
+
+  Table table_;
+  RegisterFields labels_;
+  RegisterFields shown_;                 ///< of the change being saved
   std::vector<RegisterFields> records_;  ///< one a row of the list
   bool new_ = false;
   int row_ = 0;
 };
-
-/** A typed number as a statement takes it: "1,250" is 1250, '' is 0. */
-QString typedNumber(const QString& typed);

@@ -9,7 +9,7 @@ namespace {
 const QString responseTitle = u"배달 관리자"_s;
 }
 
-ResponseRegister::ResponseRegister(Session& session) : RegisterRules(session) {
+ResponseRegister::ResponseRegister(Session& session) : RegisterRules(session, {u"Response"_s}) {
   list_.setColumns({{.header = u"담당자"_s, .width = 10, .locked = true},
                     {.header = u"전화번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
                     {.header = u"휴대폰"_s, .width = 13, .align = CellAlign::Center, .locked = true},
@@ -61,21 +61,25 @@ RegisterRules::Outcome ResponseRegister::change(const RegisterFields& typed) {
   RegisterFields boxes = typed;
   if (const Outcome checked = check(boxes); !checked.done) return checked;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, responseTitle)) return {};
-  session_.dbBasic.Execute(u"Update Response Set Name = '"_s + plainText(boxes[u"Name"_s]) + u"', Tel = '"_s +
-                           plainText(boxes[u"Tel"_s]) + u"', AppDate = '"_s + plainText(boxes[u"AppDate"_s]) +
-                           u"', IdentyNo = '"_s + plainText(boxes[u"IdentyNo"_s]) + u"', HP = '"_s +
-                           plainText(boxes[u"HP"_s]) + u"', PostCode = '"_s +
-                           plainText(boxes[u"PostCode"_s]) + u"', Address = '"_s +
-                           plainText(boxes[u"Address"_s]) + u"', Memo = '"_s + plainText(boxes[u"Memo"_s]) +
-                           u"' Where Code = "_s + plainNumber(record()[u"Code"_s]));
-  return {true};
+  return changeChosen(
+      boxes, responseTitle, [&](const RowChange&, const RegisterFields& row, const RegisterFields&) {
+        session_.dbBasic.Execute(u"Update Response Set Name = '"_s + plainText(row[u"Name"_s]) +
+                                 u"', Tel = '"_s + plainText(row[u"Tel"_s]) + u"', AppDate = '"_s +
+                                 plainText(row[u"AppDate"_s]) + u"', IdentyNo = '"_s +
+                                 plainText(row[u"IdentyNo"_s]) + u"', HP = '"_s + plainText(row[u"HP"_s]) +
+                                 u"', PostCode = '"_s + plainText(row[u"PostCode"_s]) + u"', Address = '"_s +
+                                 plainText(row[u"Address"_s]) + u"', Memo = '"_s + plainText(row[u"Memo"_s]) +
+                                 u"' Where Code = "_s + plainNumber(record()[u"Code"_s]));
+      });
 }
 
 RegisterRules::Outcome ResponseRegister::erase() {
   if (!selectedRow()) return {};
-  if (!session_.prompts.MsgAsk(u"선택된 담당자에 대한 자료를 삭제하시겠습니까?"_s, responseTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Response Where Code = "_s + plainNumber(record()[u"Code"_s]));
-  return {true};
+  return eraseChosen(record()[u"Name"_s], u"선택된 담당자에 대한 자료를 삭제하시겠습니까?"_s, responseTitle,
+                     [&] {
+                       session_.dbBasic.Execute(u"Delete * From Response Where Code = "_s +
+                                                plainNumber(record()[u"Code"_s]));
+                     });
 }
 
 RegisterRules::Outcome ResponseRegister::saveWithoutRow(const RegisterFields&) {

@@ -16,7 +16,7 @@ qint64 utilStockWorth(const RegisterFields& record) {
 }
 }  // namespace
 
-UtilCatalogue::UtilCatalogue(Session& session) : RegisterRules(session) {
+UtilCatalogue::UtilCatalogue(Session& session) : RegisterRules(session, {u"Util"_s}) {
   const auto column = [](const QString& header, double width, CellKind kind = CellKind::Text) {
     return SpreadColumn{.header = header,
                         .group = u"시설/자재 현황"_s,
@@ -48,9 +48,10 @@ RegisterRules::Outcome UtilCatalogue::checkRequired(const RegisterFields& boxes)
   return {true};
 }
 
-QString UtilCatalogue::whereChosen() const {
-  return u" Where Name = '"_s + plainText(record()[u"Name"_s]) + u"' And Size = '"_s +
-         plainText(record()[u"Size"_s]) + u"'"_s;
+/** Materials are known by name and size together. */
+QString UtilCatalogue::whereIs(const RegisterFields& row) {
+  return u" Where Name = '"_s + plainText(row[u"Name"_s]) + u"' And Size = '"_s + plainText(row[u"Size"_s]) +
+         u"'"_s;
 }
 
 RegisterRules::Outcome UtilCatalogue::insert(const RegisterFields& boxes) {
@@ -72,21 +73,22 @@ RegisterRules::Outcome UtilCatalogue::insert(const RegisterFields& boxes) {
 RegisterRules::Outcome UtilCatalogue::change(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, utilTitle)) return {};
-  session_.dbBasic.Execute(u"Update Util Set Name = '"_s + plainText(boxes[u"Name"_s]) + u"', Size = '"_s +
-                           plainText(boxes[u"Size"_s]) + u"', SizeSize = '"_s +
-                           plainText(boxes[u"SizeSize"_s]) + u"', UtilPurchase = '"_s +
-                           typedNumber(boxes[u"UtilPurchase"_s]) + u"', UtilSelling = '"_s +
-                           typedNumber(boxes[u"UtilSelling"_s]) + u"', UtilStock = '"_s +
-                           typedNumber(boxes[u"UtilStock"_s]) + u"'"_s + whereChosen());
-  return {true};
+  return changeChosen(boxes, utilTitle,
+                      [&](const RowChange& change, const RegisterFields& row, const RegisterFields& stored) {
+                        session_.dbBasic.Execute(
+                            u"Update Util Set Name = '"_s + plainText(row[u"Name"_s]) + u"', Size = '"_s +
+                            plainText(row[u"Size"_s]) + u"', SizeSize = '"_s + plainText(row[u"SizeSize"_s]) +
+                            u"', UtilPurchase = '"_s + typedNumber(row[u"UtilPurchase"_s]) +
+                            u"', UtilSelling = '"_s + typedNumber(row[u"UtilSelling"_s]) + u"'"_s +
+                            movedFigures(change, stored) + whereIs(stored));
+                      });
 }
 
 RegisterRules::Outcome UtilCatalogue::erase() {
   if (!selectedRow()) return {};
-  if (!session_.prompts.MsgAsk(u"선택된 자료를 삭제하시겠습니까?"_s, utilTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Util Where Name = '"_s + plainText(record()[u"Name"_s]) +
-                           u"' And Size = '"_s + plainText(record()[u"Size"_s]) + u"'"_s);
-  return {true};
+  return eraseChosen(record()[u"Name"_s] + u' ' + record()[u"Size"_s], u"선택된 자료를 삭제하시겠습니까?"_s,
+                     utilTitle,
+                     [&] { session_.dbBasic.Execute(u"Delete * From Util"_s + whereIs(record())); });
 }
 
 RegisterRules::Outcome UtilCatalogue::saveWithoutRow(const RegisterFields&) {

@@ -15,8 +15,9 @@ class UtilCatalogue : public RegisterRules {
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
   Outcome saveWithoutRow(const RegisterFields& boxes) override;
+  QStringList runningColumns() const override { return {"UtilStock"}; }
 
  private:
   Outcome checkRequired(const RegisterFields& boxes);
-  QString whereChosen() const;
+  static QString whereIs(const RegisterFields& row);
 };

@@ -10,7 +10,7 @@ constexpr int regulatorCodeColumn = 4;
 const QString volumeTitle = u"체적 관리자"_s;
 }  // namespace
 
-VolumeRegister::VolumeRegister(Session& session) : RegisterRules(session) {
+VolumeRegister::VolumeRegister(Session& session) : RegisterRules(session, {u"Volume"_s}) {
   list_.setColumns(
       {{.header = u"규격"_s, .width = 16, .locked = true},
        {.header = u"명칭"_s, .width = 24, .locked = true},
@@ -58,14 +58,19 @@ RegisterRules::Outcome VolumeRegister::insert(const RegisterFields& boxes) {
 
 RegisterRules::Outcome VolumeRegister::change(const RegisterFields& boxes) {
   if (const Outcome required = checkRequired(boxes); !required.done) return required;
-  const QString oldSize = record()[u"Size"_s], oldUnit = typedNumber(record()[u"Unit"_s]);
-  const QString newUnit = typedNumber(boxes[u"Unit"_s]);
-  session_.dbBasic.Execute(u"Update Volume Set Size = '"_s +
-                           plainText(chosenIsFixed() ? oldSize : boxes[u"Size"_s]) + u"', Name = '"_s +
-                           plainText(boxes[u"Name"_s]) + u"', Unit = '"_s + plainText(newUnit) +
-                           u"' Where Code = "_s + plainNumber(record()[u"Code"_s]));
-  if (newUnit != oldUnit) spreadPrice(oldSize, oldUnit, newUnit);
-  return {true};
+  QString oldSize, oldUnit, newUnit;
+  const Outcome outcome = changeChosen(
+      boxes, volumeTitle, [&](const RowChange&, const RegisterFields& row, const RegisterFields& stored) {
+        oldSize = stored[u"Size"_s];
+        oldUnit = typedNumber(stored[u"Unit"_s]);
+        newUnit = typedNumber(row[u"Unit"_s]);
+        session_.dbBasic.Execute(u"Update Volume Set Size = '"_s +
+                                 plainText(chosenIsFixed() ? oldSize : row[u"Size"_s]) + u"', Name = '"_s +
+                                 plainText(row[u"Name"_s]) + u"', Unit = '"_s + plainText(newUnit) +
+                                 u"' Where Code = "_s + plainNumber(record()[u"Code"_s]));
+      });
+  if (outcome.done && newUnit != oldUnit) spreadPrice(oldSize, oldUnit, newUnit);
+  return outcome;
 }
 
 // Customers carry the size as it was before this change, so they are found by that one.
@@ -86,9 +91,11 @@ RegisterRules::Outcome VolumeRegister::erase() {
   if (!selectedRow()) return {};
   if (chosenIsFixed())
     return refuse(u"하늘색 부분의 7개의 등록사항은 삭제할 수 없습니다!"_s, u"체적관리자"_s);
-  if (!session_.prompts.MsgAsk(u"선택된 자료를 삭제하시겠습니까?"_s, volumeTitle)) return {};
-  session_.dbBasic.Execute(u"Delete * From Volume Where Code = "_s + plainNumber(record()[u"Code"_s]));
-  return {true};
+  return eraseChosen(
+      record()[u"Size"_s] + u' ' + record()[u"Name"_s], u"선택된 자료를 삭제하시겠습니까?"_s, volumeTitle,
+      [&] {
+        session_.dbBasic.Execute(u"Delete * From Volume Where Code = "_s + plainNumber(record()[u"Code"_s]));
+      });
 }
 
 RegisterRules::Outcome VolumeRegister::saveWithoutRow(const RegisterFields&) {

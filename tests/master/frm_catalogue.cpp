@@ -150,6 +150,10 @@ TEST_F(CatalogueForms, FixedRegulatorKeepsItsSizeBoxShut) {
   pc.prompts.expect(u"KG당 단가는 필수입력사항입니다!"_s);
   press(form, "BtnSave");
   EXPECT_EQ(QApplication::focusWidget(), box(form, "TxtUnit"));
+  pc.prompts.expect(u"저장하지 않고 버리시겠습니까?"_s, false);
+  tests::key(Qt::Key_Escape);
+  EXPECT_EQ(box(form, "TxtSize")->text(), u"R9"_s);
+  pc.prompts.expect(u"저장하지 않고 버리시겠습니까?"_s);
   tests::key(Qt::Key_Escape);  // back to the list's line
   EXPECT_EQ(box(form, "TxtSize")->text(), u"R8"_s);
 }

@@ -67,6 +67,9 @@ TEST_F(GasCatalogueTest, ChangeCorrectsStockButNotTheSize) {
   boxes[u"Size"_s] = u"50"_s;
   boxes[u"CANLoan"_s] = u"5"_s;
   boxes[u"LPGStock"_s] = u""_s;
+  pc.prompts.expect(u"비워 둘 수 없습니다! 없으면 0을 입력하십시오."_s);
+  EXPECT_EQ(gas.save(boxes).focus, u"LPGStock"_s);
+  boxes[u"LPGStock"_s] = u"0"_s;
   pc.prompts.expect(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, false);
   EXPECT_FALSE(gas.save(boxes).done);
   EXPECT_EQ(rows(u"Select * From LPG"_s)[u"CANLoan"_s].toLong(), 3);
