@@ -321,7 +321,7 @@ bool ClientBoxes::f12(QWidget* box) {
 void ClientBoxes::focusApostrophe() {
   for (QWidget* const box : order_) {
     auto* const line = qobject_cast<QLineEdit*>(box);
-    if (!line || !line->text().contains(u'\'')) continue;
+    if (!line || !hasApostrophe(line->text())) continue;
     return Form::focus(line);
   }
 }

@@ -137,7 +137,7 @@ void RegisterPage::enterBoxes() {
 void RegisterPage::focusApostrophe() {
   const RegisterFields texts = boxes();
   for (const auto& [box, column] : bound_) {
-    if (!texts[column].contains(u'\'')) continue;
+    if (!hasApostrophe(texts[column])) continue;
     return Form::focus(box);
   }
 }

@@ -155,9 +155,8 @@ std::optional<QString> textTooLong(const Session& session, const QString& table,
                                    const RegisterFields& labels, const QString& title) {
   for (const jet::Field& field : session.dbBasic.tableDef(table).fields) {
     const auto text = texts.constFind(field.name);
-    // (A text with an apostrophe is refused by its statement, whatever its length.)
     if (text == texts.constEnd() || field.type != jet::Type::Text || field.size <= 0 ||
-        text->size() <= field.size || text->contains(u'\''))
+        text->size() <= field.size || hasApostrophe(*text))
       continue;
     session.prompts.MsgWarn(labels.value(field.name, field.name) + u" 칸에는 "_s +
                                 QString::number(field.size) + u"자까지 입력할 수 있습니다! (지금 "_s +
@@ -166,6 +165,11 @@ std::optional<QString> textTooLong(const Session& session, const QString& table,
     return field.name;
   }
   return {};
+}
+
+bool hasApostrophe(const QString& text) {
+  constexpr char16_t apostrophe = 0x27;
+  return text.contains(QChar(apostrophe));
 }
 
 QString typedNumber(const QString& typed) {

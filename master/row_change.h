@@ -71,5 +71,8 @@ RegisterFields fieldsOf(const jet::Recordset& row);
 std::optional<QString> textTooLong(const Session& session, const QString& table, const RegisterFields& texts,
                                    const RegisterFields& labels, const QString& title);
 
+/** No statement holds a text with an apostrophe; its own refusal tells so. */
+bool hasApostrophe(const QString& text);
+
 /** A typed number as a statement takes it: "1,250" is 1250, '' is 0. */
 QString typedNumber(const QString& typed);
