@@ -5,14 +5,15 @@
 //   HAEON_MONKEY_FORM=frmSale     this form alone
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDialog>
 #include <QDir>
 #include <QEventLoop>
 #include <QInputMethodEvent>
+#include <QMessageBox>
 #include <QPointer>
-#include <QPrinter>
 #include <QRandomGenerator>
 #include <QTest>
 #include <QTimer>
@@ -28,8 +29,8 @@
 #include "samples/sample_books.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/grid_print.h"
 #include "ui/message_boxes.h"
+#include "ui/print_report.h"
 #include "ui/printers.h"
 #include "ui/report_viewer.h"
 #include "ui/spread.h"
@@ -62,10 +63,7 @@ class Shop {
     samples::makeBooks(pc_, quiet);
     const QString paper = folder_.filePath(u"paper.pdf"_s);
     printers_.askFile = [paper](const QString&) { return paper; };
-    printerChooser() = [paper](QPrinter& printer, QWidget*) {
-      printer.setOutputFileName(paper);
-      return true;
-    };
+    printChooser() = [](Session&, int pages, QWidget*) { return PrintChoice{pdfPrinterName(), 1, pages}; };
     pc_.process.setStarter([](const QString&, const QStringList&, const QString&) { return true; });
     session.printers = &printers_;
     session.reports = &reports_;
@@ -75,7 +73,7 @@ class Shop {
   }
   ~Shop() {
     window_.reset();
-    printerChooser() = {};
+    printChooser() = asking_;
     if (session.dbBasic.isOpen()) start_.shutDown();
   }
 
@@ -102,6 +100,7 @@ class Shop {
   StartUp start_{session};
   FormPickers pickers_{session};
   std::unique_ptr<frmMain> window_;
+  const PrintChooser asking_ = printChooser();
 };
 
 struct Stroke {
@@ -249,7 +248,10 @@ class Monkey : public QObject {
     if (QWidget* const popup = QApplication::activePopupWidget()) {
       popup->close();
     } else if (QWidget* const box = QApplication::activeModalWidget()) {
-      if (auto* const dialog = qobject_cast<QDialog*>(box))
+      // A question whether typed texts may go keeps its form until somebody says yes.
+      if (auto* const asked = qobject_cast<QMessageBox*>(box))
+        asked->buttons().at(hands_.below(int(asked->buttons().size())))->click();
+      else if (auto* const dialog = qobject_cast<QDialog*>(box))
         dialog->reject();
       else
         box->close();
