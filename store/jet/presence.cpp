@@ -1,10 +1,14 @@
 #include "store/jet/presence.h"
 
-#include <sqlite3.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QThread>
+#include <cerrno>
 
 #include "store/jet/error_texts.h"
 
@@ -15,73 +19,72 @@ namespace {
 
 constexpr int kLook = 8;  // milliseconds between two looks at a lock
 
-QByteArray besideOf(const QString& dataFile) {
-  const QFileInfo info(dataFile);
-  return (info.path() + u'/' + info.completeBaseName() + u".ldb"_s).toUtf8();
+/** The lock belongs to the open file and not to the process: two workspaces of one program see each other, and closing
+ *  the file gives it back whatever the disk says. */
+bool lock(int file, short kind) {
+  struct flock whole {};
+  whole.l_type = kind;
+  whole.l_whence = SEEK_SET;
+  return ::fcntl(file, F_OFD_SETLK, &whole) == 0;
 }
 
-bool hasMoved(sqlite3_file* file) {
-  int moved = 0;
-  file->pMethods->xFileControl(file, SQLITE_FCNTL_HAS_MOVED, &moved);
-  return moved != 0;
+/** Somebody took the file away when he left, just before it was locked here. */
+bool isGone(int file, const char* path) {
+  struct stat here {
+  }, there{};
+  if (::fstat(file, &here) != 0) return false;
+  if (::stat(path, &there) != 0) return errno == ENOENT;
+  return here.st_dev != there.st_dev || here.st_ino != there.st_ino;
 }
 
 }  // namespace
 
-void Presence::Closer::operator()(sqlite3_file* file) const {
-  if (file->pMethods) file->pMethods->xClose(file);
-  delete[] reinterpret_cast<char*>(file);
-}
-
-Presence::Presence(QString dataFile, int milliseconds)
-    : dataFile_(std::move(dataFile)),
-      path_(sqlite3_create_filename(besideOf(dataFile_).constData(), "", "", 0, nullptr),
-            [](const char* name) { sqlite3_free_filename(name); }) {
+Presence::Presence(const QString& dataFile, int milliseconds) {
+  const QFileInfo info(dataFile);
+  path_ = (info.path() + u'/' + info.completeBaseName() + u".ldb"_s).toUtf8();
   QElapsedTimer since;
   since.start();
   for (;;) {
-    const int code = tryShared();
-    if (code == SQLITE_OK) {
-      if (!hasMoved(file_.get())) return;
-      file_.reset();  // somebody took it away when he left, just before it was locked
-      continue;
+    const Try found = tryShared();
+    if (found == Try::Impossible) {
+      leave();
+      return;
     }
-    file_.reset();
-    if ((code & 0xFF) != SQLITE_BUSY) return;
-    if (since.hasExpired(milliseconds)) fail(3356, dataFile_);
-    sqlite3_sleep(kLook);
+    if (found == Try::Held && !isGone(file_, path_.constData())) return;
+    leave();
+    if (found == Try::Held) continue;
+    if (since.hasExpired(milliseconds)) fail(3356, dataFile);
+    QThread::msleep(kLook);
   }
 }
 
-int Presence::tryShared() {
-  sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
-  const QFileInfo info(QString::fromUtf8(path_.get()));
-  if (info.exists() && !info.isFile()) return SQLITE_CANTOPEN;
-  file_.reset(reinterpret_cast<sqlite3_file*>(new char[size_t(vfs->szOsFile)]()));
-  int out = 0;
-  const int code = vfs->xOpen(vfs, path_.get(), file_.get(),
-                              SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, &out);
-  return code == SQLITE_OK ? file_->pMethods->xLock(file_.get(), SQLITE_LOCK_SHARED) : code;
+Presence::Try Presence::tryShared() {
+  constexpr mode_t everybody = 0666;
+  // A pipe in its place would be waited for.
+  file_ = ::open(path_.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK, everybody);
+  if (file_ < 0)
+    file_ = ::open(path_.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);  // another user's: seen at least
+  if (file_ < 0) return Try::Impossible;
+  if (lock(file_, F_RDLCK)) return Try::Held;
+  return errno == EAGAIN || errno == EACCES ? Try::Busy : Try::Impossible;
+}
+
+void Presence::leave() {
+  if (file_ >= 0) ::close(file_);
+  file_ = -1;
 }
 
 bool Presence::takeAlone() {
-  if (!file_) return false;
-  if (file_->pMethods->xLock(file_.get(), SQLITE_LOCK_EXCLUSIVE) == SQLITE_OK) return true;
-  shareAgain();  // a vain try keeps newcomers out until it is taken back
-  return false;
+  return isHeld() && lock(file_, F_WRLCK);
 }
 
 void Presence::shareAgain() {
-  if (file_) file_->pMethods->xUnlock(file_.get(), SQLITE_LOCK_SHARED);
+  if (isHeld()) lock(file_, F_RDLCK);
 }
 
 Presence::~Presence() {
-  if (!file_) return;
-  if (takeAlone()) {
-    sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
-    vfs->xDelete(vfs, path_.get(), 0);
-  }
-  file_->pMethods->xUnlock(file_.get(), SQLITE_LOCK_NONE);
+  if (takeAlone()) ::unlink(path_.constData());
+  leave();
 }
 
 AloneWith::AloneWith(const QString& dataFile, int milliseconds) {
@@ -92,7 +95,7 @@ AloneWith::AloneWith(const QString& dataFile, int milliseconds) {
     if (!presence_->isHeld() || presence_->takeAlone()) return;
     presence_.reset();  // two who came at once would keep each other from it as long as both stay
     if (since.hasExpired(milliseconds)) fail(3045, dataFile);
-    sqlite3_sleep(1 + int(QRandomGenerator::global()->bounded(kLook)));
+    QThread::msleep(1 + QRandomGenerator::global()->bounded(kLook));
   }
 }
 

@@ -3,10 +3,7 @@
 // as the file is open. Who needs the file for itself, to open it exclusively, to make, replace or delete it, holds the
 // lock alone. The last one to leave takes the small file away; one left behind by a killed program locks nobody out.
 #include <QString>
-#include <memory>
 #include <optional>
-
-struct sqlite3_file;
 
 namespace jet {
 
@@ -14,27 +11,23 @@ class Presence {
  public:
   /** With others. Waits so many milliseconds for one who holds it alone, then 3356. Where no file can be made or locked
    *  beside the data file (a read-only folder) nobody is seen. */
-  Presence(QString dataFile, int milliseconds);
+  Presence(const QString& dataFile, int milliseconds);
   ~Presence();
   Presence(const Presence&) = delete;
   Presence& operator=(const Presence&) = delete;
 
-  bool isHeld() const { return file_ != nullptr; }
+  bool isHeld() const { return file_ >= 0; }
   /** Alone from now on; false when others have the file open, or nobody can be seen. */
   bool takeAlone();
   void shareAgain();
 
  private:
-  struct Closer {
-    void operator()(sqlite3_file* file) const;
-  };
-  /** SQLite's code. */
-  int tryShared();
+  enum class Try { Held, Busy, Impossible };
+  Try tryShared();
+  void leave();
 
-  QString dataFile_;
-  std::unique_ptr<const char, void (*)(const char*)>
-      path_;  ///< as SQLite wants file names; outlives the file
-  std::unique_ptr<sqlite3_file, Closer> file_;
+  QByteArray path_;
+  int file_ = -1;
 };
 
 /** A data file's name for this program alone as long as this lives, whether the file exists or not: for making,

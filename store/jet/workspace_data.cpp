@@ -129,7 +129,12 @@ void WorkspaceData::ensureAttached(const FilePtr& file) {
   if (!info.exists()) throw missingFile(file->path());
   if (!info.isFile()) fail(3044, file->path());
   commitGroup();
-  twice(file->path(), [&] { tryAttach(file); });
+  try {
+    twice(file->path(), [&] { tryAttach(file); });
+  } catch (const Error& error) {
+    damageFound_ = isDamage(error.number());
+    throw;
+  }
 }
 
 void WorkspaceData::tryAttach(const FilePtr& file) {
@@ -313,14 +318,15 @@ Prepared& WorkspaceData::prepare(const FilePtr& file, QStringView shape, QString
   return prepared_.keep(key, compiled(file, sql, keys));
 }
 
-/** What is read for it is read a second time before a failure counts. */
+/** What is read for it is read a second time before a failure counts. Whose damage it then is stands in no error. */
 Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys) {
+  damageFound_ = false;
   try {
     std::optional<Prepared> made;
     twice(file->path(), [&] { made = tryCompile(file, sql, keys); });
     return std::move(*made);
   } catch (const Error& error) {
-    failed(error, {});
+    failed(error, damageFound_ ? std::vector<FilePtr>() : files_);
   }
 }
 
@@ -363,8 +369,7 @@ void WorkspaceData::runNow(Prepared& prepared, const std::function<void(Connecti
       work(*connection_);
     }
   } catch (const Error& error) {
-    const bool readTwice = groupDepth_ == 0 && prepared.compiled.kind == Compiled::Kind::Select;
-    failed(error, readTwice ? std::vector<FilePtr>() : prepared.files);
+    failed(error, prepared.files);
   }
 }
 

@@ -69,7 +69,7 @@ class WorkspaceData {
   void commitGroup();
   void endGroup();
   std::optional<Error> groupFailure() const;
-  /** Throws the failure after what it takes with it. files: what has been read only once. */
+  /** Throws the failure after what it takes with it. files: which may be damaged. */
   [[noreturn]] void failed(const Error& error, std::vector<FilePtr> files);
   void afterFailure(const Error& error);
 
@@ -82,7 +82,8 @@ class WorkspaceData {
   int keeping_ = 0;    ///< depth of keepingFiles
   int groupDepth_ = 0;
   std::vector<FilePtr> groupFiles_;  ///< what the running groups asked for at their beginning
-  bool groupBegan_ = false;  ///< a transaction was begun for the group and neither committed nor given up
+  bool groupBegan_ = false;   ///< a transaction was begun for the group and neither committed nor given up
+  bool damageFound_ = false;  ///< a file that could not be attached has been read twice
   std::optional<Error> undoneBy_;  ///< the failure of the store for which it was undone
   bool untidy_ = false;            ///< a file may have become needless, and stays for now
 };

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QProcessEnvironment>
 
 #include "tests/storm/poster.h"
 
@@ -9,7 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace storm {
 
-Child::Child(const QStringList& arguments) {
+Child::Child(const QStringList& arguments, const QString& preloaded) {
+  if (!preloaded.isEmpty()) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LD_PRELOAD"_s, preloaded);
+    // The address sanitizer wants to be first; in front of it stands nothing that allocates.
+    const QString options = environment.value(u"ASAN_OPTIONS"_s);
+    environment.insert(u"ASAN_OPTIONS"_s, options + u":verify_asan_link_order=0"_s);
+    process_.setProcessEnvironment(environment);
+  }
   process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   process_.start(QCoreApplication::applicationFilePath(), arguments);
 }

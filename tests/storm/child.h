@@ -9,8 +9,8 @@ namespace storm {
 
 class Child {
  public:
-  /** work: the first argument, which the program's start looks at. */
-  explicit Child(const QStringList& arguments);
+  /** work: the first argument, which the program's start looks at. preloaded: a library in front of all others. */
+  explicit Child(const QStringList& arguments, const QString& preloaded = {});
   ~Child();
 
   /** Waits for a line that begins so; false when the process ended or the time is over. */

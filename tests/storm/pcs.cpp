@@ -12,6 +12,7 @@
 #include "tests/storm/books.h"
 #include "tests/storm/builder.h"
 #include "tests/storm/poster.h"
+#include "tests/storm/sweep.h"
 
 using namespace Qt::StringLiterals;
 
@@ -105,6 +106,7 @@ int runPc(const QStringList& arguments) {
   if (work == u"work-long") return workLong(arguments.mid(1));
   if (work == u"start") return startOver(arguments.mid(1));
   if (work == u"post-limited") return postWithinLimit(arguments.mid(1));
+  if (work == u"sweep") return runSweep(arguments.mid(1));
   if (work == u"post-as-anyone") return postAsAnyone(arguments.mid(1));
   return 1;
 }

@@ -17,31 +17,11 @@ namespace {
 
 constexpr int failuresBorne = 60;  ///< then a poster with a count of steps gives up
 
-/** Hands out what the poster has chosen. */
-struct ChosenPickers : Pickers {
-  ClientChoice client;
-  ItemChoice item;
-
-  std::optional<ClientChoice> searchClient(const QString&, ClientSearchMode, bool) override { return client; }
-  std::optional<ItemChoice> searchSize(const QString&, TradeSide) override { return item; }
-  std::optional<VolumeChoice> searchVolume() override { return {}; }
-  std::optional<QString> searchResponse() override { return u"홍길동"_s; }
-  std::optional<QString> searchRefill() override { return {}; }
-  std::optional<BankChoice> searchBank() override { return {}; }
-  std::optional<PostCodeChoice> searchPostCode(const QString&) override { return {}; }
-  std::optional<BuildingChoice> searchBuilding(int) override { return {}; }
-  std::optional<QString> pickDate(const QString&) override { return {}; }
-  bool checkPassword() override { return true; }
-};
-
-struct NobodyCalls : WaitingCalls {
-  QString TakeStanbyNumber() override { return {}; }
-};
-
 class Poster {
  public:
   Poster(Pc& here, quint32 seed) : here_(here), random_(seed) {}
 
+  bool tells = true;  ///< each step on the standard output
   int steps() const { return steps_; }
   int failures() const { return int(here_.prompts.failures.size()); }
   qint64 longest() const { return longest_; }
@@ -72,6 +52,9 @@ class Poster {
   }
 
  private:
+  void say(const QString& text) const {
+    if (tells) report(text);
+  }
   SpreadModel& grid() { return posting_.grid(posting_.sheet()); }
   QString key(int row) { return grid().text(row, SaleCol::Key); }
   int kind(int row) { return saleKindAt(posting_.sheet(), grid().comboPosition(row, SaleCol::Kind)); }
@@ -100,19 +83,19 @@ class Poster {
   }
 
   void tell(int row, int kind, const QString& figures) {
-    report(u"%1 %2 %3 %4 %5"_s.arg(QLatin1String(word::line), key(row), grid().text(row, SaleCol::Code))
-               .arg(kind)
-               .arg(figures));
+    say(u"%1 %2 %3 %4 %5"_s.arg(QLatin1String(word::line), key(row), grid().text(row, SaleCol::Code))
+            .arg(kind)
+            .arg(figures));
   }
 
   void erase(int row) {
     const QString gone = key(row);
     timed(gone, [&] { posting_.deleteRow(row); });
-    if (!failed_) report(QLatin1String(word::gone) + u' ' + gone);
+    if (!failed_) say(QLatin1String(word::gone) + u' ' + gone);
   }
 
   void timed(const QString& key, const std::function<void()>& work) {
-    report(QLatin1String(word::at) + u' ' + (key.isEmpty() ? u"0"_s : key));
+    say(QLatin1String(word::at) + u' ' + (key.isEmpty() ? u"0"_s : key));
     QElapsedTimer since;
     since.start();
     const qsizetype before = here_.prompts.failures.size();
@@ -123,9 +106,9 @@ class Poster {
     }
     failed_ = here_.prompts.failures.size() > before;
     if (failed_)
-      report(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
-                 .arg(here_.prompts.failures.last())
-                 .arg(here_.prompts.failureTexts.last()));
+      say(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
+              .arg(here_.prompts.failures.last())
+              .arg(here_.prompts.failureTexts.last()));
     longest_ = std::max(longest_, since.elapsed());
     ++steps_;
   }
@@ -147,6 +130,12 @@ void report(const QString& text) {
   const QByteArray bytes = text.toUtf8() + '\n';
   // Straight to the pipe: a report held back in a buffer would die with the process.
   if (::write(STDOUT_FILENO, bytes.constData(), size_t(bytes.size())) != bytes.size()) ::_exit(3);
+}
+
+void postLines(Pc& here, quint32 seed, int steps) {
+  Poster poster(here, seed);
+  poster.tells = false;
+  while (poster.steps() < steps) poster.sell();
 }
 
 int runPoster(const QStringList& arguments) {

@@ -3,6 +3,9 @@
 // standard output, so that the one who watches knows what must be in the books when it dies.
 #include <QStringList>
 
+#include "master/calls.h"
+#include "master/pickers.h"
+
 namespace storm {
 
 /** Words of the report, one a line:
@@ -26,6 +29,31 @@ inline const char* const razed = "razed";
 inline const char* const told = "told";
 inline const char* const done = "done";
 }  // namespace word
+
+/** Hands out what has been chosen. */
+struct ChosenPickers : Pickers {
+  ClientChoice client;
+  ItemChoice item;
+
+  std::optional<ClientChoice> searchClient(const QString&, ClientSearchMode, bool) override { return client; }
+  std::optional<ItemChoice> searchSize(const QString&, TradeSide) override { return item; }
+  std::optional<VolumeChoice> searchVolume() override { return {}; }
+  std::optional<QString> searchResponse() override { return QStringLiteral("홍길동"); }
+  std::optional<QString> searchRefill() override { return {}; }
+  std::optional<BankChoice> searchBank() override { return {}; }
+  std::optional<PostCodeChoice> searchPostCode(const QString&) override { return {}; }
+  std::optional<BuildingChoice> searchBuilding(int) override { return {}; }
+  std::optional<QString> pickDate(const QString&) override { return {}; }
+  bool checkPassword() override { return true; }
+};
+
+struct NobodyCalls : WaitingCalls {
+  QString TakeStanbyNumber() override { return {}; }
+};
+
+struct Pc;
+/** So many steps of a poster, at once and without a report. */
+void postLines(Pc& here, quint32 seed, int steps);
 
 /** One line of a report, at once. */
 void report(const QString& text);

@@ -1,0 +1,182 @@
+#include "tests/storm/sweep.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <memory>
+#include <optional>
+
+#include "app/start_up.h"
+#include "store/jet/error.h"
+#include "tests/store/old_books.h"
+#include "tests/storm/poster.h"
+#include "tests/storm/swept_works.h"
+
+using namespace Qt::StringLiterals;
+
+namespace storm {
+namespace {
+
+constexpr int faultsTold = 20;  ///< then a sweep gives up
+
+/** All files below a folder, to be laid down again. */
+class Folder {
+ public:
+  explicit Folder(QString root) : root_(std::move(root)) {}
+  void take() {
+    files_.clear();
+    for (QDirIterator it(root_, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+         it.hasNext();) {
+      QFile file(it.next());
+      if (file.open(QIODevice::ReadOnly)) files_[file.fileName()] = file.readAll();
+    }
+  }
+  void layDown() const {
+    QDir(root_).removeRecursively();
+    for (auto at = files_.begin(); at != files_.end(); ++at) {
+      QDir().mkpath(QFileInfo(at.key()).path());
+      QFile file(at.key());
+      if (!file.open(QIODevice::WriteOnly) || file.write(at.value()) != at.value().size()) ::_exit(9);
+    }
+  }
+
+ private:
+  QString root_;
+  QHash<QString, QByteArray> files_;
+};
+
+QString stateOf(const QString& root) {
+  QString state;
+  Pc here(root);
+  const jet::Workspace workspace = openWorkspace(here.session, here.session.DbPath);
+  for (const QString& name : here.pc.paths.list(here.session.DbPath, u"*.mdb"_s))
+    state += name + u'\n' + tests::dumpOf(workspace.OpenDatabase(here.session.DbPath + name));
+  return state;
+}
+
+class Sweep {
+ public:
+  Sweep(const QStringList& arguments)
+      : root_(arguments.at(0)),
+        name_(arguments.at(1)),
+        fault_(DiskFault(arguments.at(2).toInt())),
+        lasting_(arguments.at(3).toInt() != 0),
+        folder_(root_) {
+    makeBooksFor(name_, root_);
+    folder_.take();
+    runClean();
+  }
+
+  void at(long place) {
+    ++places_;
+    folder_.layDown();
+    auto here = std::make_unique<Pc>(root_);
+    auto work = makeWork(name_, *here);
+    size_t done = 0;
+    disk_.arm(root_.toUtf8().constData(), int(fault_), place, lasting_);
+    while (done < work->steps().size() && attempt(*here, *work, done)) ++done;
+    calls_ = disk_.rest();
+    const bool told = done < work->steps().size();
+    told_ += told;
+    if (told && work->opensAnew()) {  // a program that did not start is started once more
+      work.reset();
+      here.reset();
+      here = std::make_unique<Pc>(root_);
+      work = makeWork(name_, *here);
+    }
+    const auto wrong = [&](const QString& what) { tell(place, done, *here, what); };
+    if (told) {
+      checkTexts(*here, wrong);
+      const QString state = work->opensAnew() ? QString() : stateOf(root_);
+      if (!work->opensAnew() && !work->hasMoreStates()) {
+        if (state == states_.at(done + 1)) {
+          ++done;  // it stands, and what came behind it failed
+        } else if (state != states_.at(done)) {
+          return wrong(u"half of it stands"_s);
+        }
+      }
+      for (; done < work->steps().size(); ++done)
+        if (!attempt(*here, *work, done)) return wrong(u"it does not go on when the disk is well"_s);
+    }
+    work.reset();
+    here->close();
+    if (const QString state = stateOf(root_); state != states_.back())
+      wrong(told ? u"done again it is not what it should be"_s : u"it is not done, and nobody was told"_s);
+    if (name_.endsWith(u"start"_s)) return;
+    if (const QStringList faults = faultsOf(root_); !faults.isEmpty()) wrong(faults.join(u"; "_s));
+  }
+
+  long calls() const { return calls_; }
+  int places() const { return places_; }
+  int told() const { return told_; }
+  int wrong() const { return wrong_; }
+
+ private:
+  /** The states that there may be: before the first step and behind each. */
+  void runClean() {
+    folder_.layDown();
+    Pc here(root_);
+    auto work = makeWork(name_, here);
+    states_ = {stateOf(root_)};
+    for (size_t step = 0; step < work->steps().size(); ++step) {
+      work->steps().at(step)();
+      states_ << stateOf(root_);
+    }
+    notices_ = here.prompts.told;
+    if (!here.prompts.failures.isEmpty())
+      report(u"fault the work itself: "_s + here.prompts.failureTexts.join(u' '));
+  }
+
+  /** True when a step ran to its end without a word. */
+  bool attempt(Pc& here, Work& work, size_t step) {
+    const qsizetype failures = here.prompts.failures.size();
+    const auto notices = [&] {
+      return std::ranges::count_if(here.prompts.told,
+                                   [&](const QString& text) { return !notices_.contains(text); });
+    };
+    const auto before = notices();
+    try {
+      work.steps().at(step)();
+    } catch (const jet::Error& error) {
+      here.prompts.ErrorBox({}, error.number(), error.description());
+    }
+    return here.prompts.failures.size() == failures && notices() == before;
+  }
+
+  /** Nothing is damaged; only who never gets a byte more can take it for that. */
+  void checkTexts(const Pc& here, const std::function<void(const QString&)>& wrong) const {
+    if (fault_ == DiskFault::Short && lasting_) return;
+    for (const QString& text : here.prompts.failureTexts + here.prompts.told)
+      if (text.contains(u"손상"_s)) wrong(u"damage is told"_s);
+  }
+
+  void tell(long place, size_t done, const Pc& here, const QString& what) {
+    if (++wrong_ > faultsTold) return;
+    report(u"fault %1 at %2, step %3: %4 [%5]"_s.arg(name_).arg(place).arg(done).arg(
+        what, (here.prompts.told + here.prompts.failureTexts).join(u" / "_s)));
+  }
+
+  QString root_, name_;
+  DiskFault fault_;
+  bool lasting_;
+  Folder folder_;
+  FailingDisk disk_ = FailingDisk::loaded();
+  QStringList states_, notices_;
+  long calls_ = 0;
+  int places_ = 0, told_ = 0, wrong_ = 0;
+};
+
+}  // namespace
+
+int runSweep(const QStringList& arguments) {
+  if (!FailingDisk::loaded().arm) return 10;
+  Sweep sweep(arguments);
+  for (long place = arguments.at(4).toLong(); sweep.wrong() < faultsTold; place += arguments.at(5).toLong()) {
+    sweep.at(place);
+    if (sweep.calls() < place) break;
+  }
+  report(u"swept %1 %2"_s.arg(sweep.places()).arg(sweep.told()));
+  return 0;
+}
+
+}  // namespace storm

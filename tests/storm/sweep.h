@@ -1,0 +1,17 @@
+#pragma once
+// A piece of work done over and over on equal books, each time with another call to the disk failing.
+#include <QStringList>
+
+#include "tests/storm/failing_disk.h"
+
+namespace storm {
+
+/** What can be swept: "post", "delete", "read", "recalculate", "build", "collect", "client", "start", "first-start". */
+const QStringList& sweptWorks();
+
+/** The process's work: ROOT WORK FAULT LASTING FIRST STRIDE, for a program with the failing disk in front. Tries the
+ *  places FIRST, FIRST + STRIDE, ... until the work has no more of them. Tells "fault TEXT" for what must not be, at
+ *  the end "swept PLACES TOLD". */
+int runSweep(const QStringList& arguments);
+
+}  // namespace storm

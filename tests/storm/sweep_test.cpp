@@ -1,0 +1,45 @@
+// Every call to the disk fails once, or from there on: whole states remain, each failure is told, and what failed can be
+// done again.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include "tests/storm/child.h"
+#include "tests/storm/pcs.h"
+#include "tests/storm/sweep.h"
+
+namespace storm {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct SweepOf : testing::TestWithParam<QString> {};
+
+TEST_P(SweepOf, LeavesWholeStatesAndTellsEachFailure) {
+  const QString library = QCoreApplication::applicationDirPath() + u"/libfailing_disk.so"_s;
+  const char* const names[] = {"EIO", "ENOSPC", "EACCES", "short"};
+  const int stride = measure(61, 1);
+  for (int fault = 0; fault < 4; ++fault)
+    for (const int lasting : {0, 1}) {
+      const QTemporaryDir folder;
+      const int first = 1 + (fault * 2 + lasting) * stride / 8;
+      Child child({u"--pc"_s, u"sweep"_s, folder.path() + u"/pc"_s, GetParam(), QString::number(fault),
+                   QString::number(lasting), QString::number(first), QString::number(stride)},
+                  library);
+      EXPECT_TRUE(child.finish(3'600'000));
+      const QStringList swept = child.lines().filter(u"swept "_s);
+      ASSERT_EQ(swept.size(), 1) << child.lines().join(u'\n').toStdString();
+      EXPECT_EQ(child.lines().filter(u"fault "_s).join(u'\n').toStdString(), "")
+          << names[fault] << (lasting ? " lasting" : " once");
+      const QStringList words = swept.first().split(u' ');
+      std::printf("%s: %s %s, %d places, told %d times\n", qPrintable(GetParam()), names[fault],
+                  lasting ? "lasting" : "once", words.at(1).toInt(), words.at(2).toInt());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Works, SweepOf, testing::ValuesIn(sweptWorks()),
+                         [](const auto& work) { return QString(work.param).remove(u'-').toStdString(); });
+
+}  // namespace
+}  // namespace storm

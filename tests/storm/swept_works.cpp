@@ -1,0 +1,201 @@
+#include "tests/storm/swept_works.h"
+
+#include <QDir>
+
+#include "app/start_up.h"
+#include "billing/collection_import.h"
+#include "billing/reading_commands.h"
+#include "billing/reading_edit.h"
+#include "billing/reading_load.h"
+#include "billing/reading_sheet.h"
+#include "master/client_register.h"
+#include "store/rate_book.h"
+#include "tests/store/old_books.h"
+#include "tests/storm/builder.h"
+#include "tests/storm/poster.h"
+#include "tests/storm/sweep.h"
+#include "trade/sale_entry.h"
+
+using namespace Qt::StringLiterals;
+
+namespace storm {
+namespace {
+
+constexpr int newReading = 150;
+
+struct Posting : Work {
+  explicit Posting(Pc& here) : posting(here.session) {
+    posting.FillSaleGrid(SaleSheet::General, true);
+    pickers.client = {7, u"손님7"_s};
+    pickers.item = {u"LPG"_s, u"20"_s, 41000, 0};
+    steps_ = {[this] { chooseClient(); },
+              [this] { entry.finishCell(row, SaleCol::Kind, u"가스"_s); },
+              [this] { entry.enterKey(row, SaleCol::Item, {}); },
+              [this] { entry.finishCell(row, SaleCol::Number, u"3"_s); },
+              [this] { entry.finishCell(row, SaleCol::Income, u"20000"_s); }};
+  }
+  /** The sheet then shows the customer's lines, with a free row. */
+  void chooseClient() {
+    const int last = posting.grid(SaleSheet::General).MaxRows();
+    if (const int chosen = entry.enterKey(last, SaleCol::Client, u"손님"_s).row) row = chosen;
+  }
+  ChosenPickers pickers;
+  NobodyCalls calls;
+  SalePosting posting;
+  SaleEntry entry{posting, pickers, calls};
+  int row = 0;
+};
+
+struct Deleting : Work {
+  explicit Deleting(Pc& here) : posting(here.session) {
+    posting.FillSaleGrid(SaleSheet::General, true);
+    for (const QString& kind : {u"가스"_s, u"용대"_s, u"수금"_s})
+      steps_.push_back([this, kind] { erase(kind); });
+  }
+  /** The line that stands in the first row of a kind; when it is gone from the book, its deletion is done. */
+  void erase(const QString& kind) {
+    const SpreadModel& grid = posting.grid(SaleSheet::General);
+    for (int row = 1; row <= grid.MaxRows(); ++row)
+      if (grid.text(row, SaleCol::Kind) == kind && !grid.text(row, SaleCol::Key).isEmpty()) {
+        posting.deleteRow(row);
+        return;
+      }
+  }
+  SalePosting posting;
+};
+
+struct Reading : Work {
+  explicit Reading(Pc& here) : sheet(here.session) {
+    here.session.DelayCalcFlag = u"0"_s;
+    readRateBook(here.session);
+    sheet.month = readMonth;
+    fillBuildings(sheet);
+    showReadings(sheet);
+    for (const int row : {1, 2, 3})
+      steps_.push_back(
+          [this, row] { finishReadingCell(sheet, row, EvaCol::UseGage, QString::number(newReading + row)); });
+  }
+  ReadingSheet sheet;
+};
+
+struct Recalculating : Reading {
+  explicit Recalculating(Pc& here) : Reading(here) {
+    steps_ = {[this] { recalculate(sheet, {}); }};
+  }
+  bool hasMoreStates() const override { return true; }
+};
+
+struct Building : Work {
+  explicit Building(Pc& here) : builder(here) {
+    builder.list();
+    steps_ = {[this] { builder.make(7, 2, 3); }, [this] { builder.remove(7); }};
+  }
+  Builder builder;
+};
+
+struct Collecting : Work {
+  explicit Collecting(Pc& here) : import(here.session) {
+    steps_ = {[this] { import.run(u"2026"_s, u"03"_s); }};
+  }
+  bool hasMoreStates() const override { return true; }
+  CollectionImport import;
+};
+
+struct Registering : Work {
+  explicit Registering(Pc& here) : clients(here.session) {
+    clients.loadPage(HouseStyle::Plain);
+    steps_ = {[this] {
+                ClientEntry boxes = clients.beginNew();
+                boxes.name = u"국밥집"_s;
+                boxes.volume = true;
+                boxes.pressure = u"10"_s;
+                boxes.volumeUnit = u"2000"_s;
+                clients.save(boxes);
+              },
+              [this] {
+                ClientEntry boxes = clients.select(3);
+                boxes.memo = u"단골"_s;
+                boxes.volume = true;
+                boxes.pressure = u"10"_s;
+                boxes.volumeUnit = u"2000"_s;
+                clients.save(boxes);
+              },
+              [this] {
+                clients.select(clientCount + 1);
+                clients.removeChosen();
+              }};
+  }
+  ClientRegister clients;
+};
+
+struct Starting : Work {
+  explicit Starting(Pc& on) : here(on), startUp(on.session) {
+    steps_ = {[this] {
+      // One who did not come to the sign-in has not started, whether or not a box has told why.
+      if (!startUp.SubMain([this] { startUp.load(); }) || !here.session.dbYear.isOpen())
+        here.prompts.MsgWarn(u"not started"_s, {});
+      startUp.shutDown();
+    }};
+  }
+  bool opensAnew() const override { return true; }
+  Pc& here;
+  StartUp startUp;
+};
+
+QByteArray payment(int client, int won) {
+  return "22" + QByteArray(11, '7') + "0316" + QByteArray(32, '5') +
+         QByteArray::number(client).rightJustified(19, '0') + '9' +
+         QByteArray::number(won).rightJustified(13, '0') + QByteArray(10, '3') + "\r\n";
+}
+
+void copyFolder(const QString& from, const QString& to) {
+  QDir().mkpath(to);
+  for (const QString& name : QDir(from).entryList(QDir::Files))
+    QFile::copy(from + u'/' + name, to + u'/' + name);
+}
+
+}  // namespace
+
+const QStringList& sweptWorks() {
+  static const QStringList works{u"post"_s,    u"delete"_s, u"read"_s,  u"recalculate"_s, u"build"_s,
+                                 u"collect"_s, u"client"_s, u"start"_s, u"first-start"_s};
+  return works;
+}
+
+void makeBooksFor(const QString& work, const QString& root) {
+  if (work == u"first-start") return;
+  Pc here(root);
+  if (work == u"start") {
+    tests::TestPc old;
+    tests::makeOldBooks(old);
+    const QString folder = old.pc.paths.native(here.session.DbPath);
+    QFile::remove(folder + u"/2026Foundation.mdb"_s);
+    copyFolder(folder, here.pc.paths.native(here.session.DbPath));
+    return;
+  }
+  here.makeBooks();
+  postLines(here, 5, 60);
+  if (work == u"recalculate" || work == u"collect") {
+    Reading reading(here);
+    for (const auto& step : reading.steps()) step();
+    here.session.dbBasic.Execute(u"Update User Set Security = 1500"_s);
+  }
+  here.close();
+  QFile file(here.pc.paths.native(u"C:\\RWGas\\202603.txt"_s));
+  if (!file.open(QIODevice::WriteOnly)) return;
+  for (const int client : {1, 2, 3}) file.write(payment(clientCount + client, 1000 * client));
+}
+
+std::unique_ptr<Work> makeWork(const QString& work, Pc& here) {
+  if (work.endsWith(u"start"_s)) return std::make_unique<Starting>(here);
+  here.open();
+  if (work == u"post") return std::make_unique<Posting>(here);
+  if (work == u"delete") return std::make_unique<Deleting>(here);
+  if (work == u"read") return std::make_unique<Reading>(here);
+  if (work == u"recalculate") return std::make_unique<Recalculating>(here);
+  if (work == u"build") return std::make_unique<Building>(here);
+  if (work == u"collect") return std::make_unique<Collecting>(here);
+  return std::make_unique<Registering>(here);
+}
+
+}  // namespace storm
