@@ -163,6 +163,17 @@ void Spread::setFillColumn(int col) {
   measure();
 }
 
+void Spread::setFrozenCols(int count) {
+  frozenCols_ = count;
+  measure();
+}
+
+/** How many stand still at the present width. */
+int Spread::stillColumns() const {
+  const int count = std::min(frozenCols_, model_.MaxCols());
+  return edges_[size_t(count)] * 2 <= viewport()->width() ? count : 0;
+}
+
 int Spread::fullWidth() const {
   return edges_.back() + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
 }
@@ -182,13 +193,14 @@ QSize Spread::sizeHint() const {
 
 QRect Spread::cellRect(int row, int col) const {
   if (col < 1 || col > model_.MaxCols()) return {};
-  const int left = edges_[size_t(col - 1)] - horizontalScrollBar()->value();
+  const int scrolled = col > stillColumns() ? horizontalScrollBar()->value() : 0;
+  const int left = edges_[size_t(col - 1)] - scrolled;
   const int top = headerHeight_ + (row - topRow()) * rowPixels_;
   return {left, top, edges_[size_t(col)] - edges_[size_t(col - 1)], rowPixels_};
 }
 
 int Spread::columnAt(int x) const {
-  const int inside = x + horizontalScrollBar()->value();
+  const int inside = x < edges_[size_t(stillColumns())] ? x : x + horizontalScrollBar()->value();
   for (int col = 1; col <= model_.MaxCols(); ++col)
     if (inside >= edges_[size_t(col - 1)] && inside < edges_[size_t(col)]) return col;
   return 0;
@@ -204,7 +216,9 @@ int Spread::rowAt(int y) const {
 void Spread::placeLine() {
   if (isEditing()) {
     QRect place = cellRect(editRow_, editCol_).adjusted(2, 2, -3, -3);
-    if (place.top() < headerHeight_) place.moveTop(-place.height());
+    const int edge = edges_[size_t(stillColumns())];
+    if (editCol_ > stillColumns() && place.left() < edge) place.setLeft(edge);
+    if (place.top() < headerHeight_ || place.width() <= 0) place = QRect(0, -rowPixels_, 1, 1);
     line_->setGeometry(place);
     return;
   }
@@ -228,12 +242,15 @@ bool Spread::setActiveCell(int row, int col) {
   activeRow_ = anchorRow_ = row;
   activeCol_ = anchorCol_ = col;
   showRow(row);
-  const QRect cell = cellRect(row, col);
-  QScrollBar* const bar = horizontalScrollBar();
-  if (cell.left() < 0)
-    bar->setValue(bar->value() + cell.left());
-  else if (cell.right() > viewport()->width())
-    bar->setValue(bar->value() + std::min(cell.left(), cell.right() - viewport()->width() + 1));
+  if (col > stillColumns()) {
+    const QRect cell = cellRect(row, col);
+    const int before = cell.left() - edges_[size_t(stillColumns())];
+    QScrollBar* const bar = horizontalScrollBar();
+    if (before < 0)
+      bar->setValue(bar->value() + before);
+    else if (cell.right() > viewport()->width())
+      bar->setValue(bar->value() + std::min(before, cell.right() - viewport()->width() + 1));
+  }
   placeLine();
   viewport()->update();
   entered_ = true;

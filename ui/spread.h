@@ -91,6 +91,9 @@ class Spread : public QAbstractScrollArea {
   void setRowHeight(int points);
   /** The column that takes the spare width; 0 for none. */
   void setFillColumn(int col);
+  /** So many columns at the left, one at first, stand still while the others are scrolled: the names stay in view.
+   *  Where they would take more than half of the width they are scrolled too. */
+  void setFrozenCols(int count);
   /** Width in pixels at which every column shows. */
   int fullWidth() const;
   int rowsOnPage() const;
@@ -126,6 +129,7 @@ class Spread : public QAbstractScrollArea {
   bool moveTo(int row, int col, bool extend = false);
   void enterCell();
   int neighbour(int col, int step) const;
+  int stillColumns() const;
   int columnAt(int x) const;
   int rowAt(int y) const;
   int topRow() const;
@@ -153,8 +157,9 @@ class Spread : public QAbstractScrollArea {
   bool listEvent(QEvent* event);
   void toggleCheck();
   // spread_paint.cpp
-  void paintHeader(QPainter& painter);
-  void paintRow(QPainter& painter, int row, const QRect& dirty);
+  void paintColumns(QPainter& painter, const QRect& dirty, int first, int last);
+  void paintHeader(QPainter& painter, const QRect& part, int first, int last);
+  void paintRow(QPainter& painter, int row, const QRect& part, int first, int last);
   void paintCell(QPainter& painter, int row, int col, const QRect& rect);
   // spread_mouse.cpp
   int resizeHandleAt(const QPoint& pos) const;
@@ -176,7 +181,7 @@ class Spread : public QAbstractScrollArea {
   std::vector<int> edges_;      ///< left edges in pixels, one more than columns
   int rowPoints_ = 0;
   int rowPixels_ = 20, headerRow_ = 20, headerHeight_ = 20;
-  int fillColumn_ = 0;
+  int fillColumn_ = 0, frozenCols_ = 1;
   int knownRows_ = 0;
 
   int resizing_ = 0, resizeStart_ = 0, resizeFrom_ = 0;

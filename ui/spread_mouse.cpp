@@ -16,9 +16,15 @@ constexpr double leastWidth = 1.5;
 /** The column whose right edge lies under the mouse; 0 for none. */
 int Spread::resizeHandleAt(const QPoint& pos) const {
   if (pos.y() >= headerHeight_) return 0;
-  const int inside = pos.x() + horizontalScrollBar()->value();
-  for (int col = model_.MaxCols(); col > 0; --col)
-    if (!model_.column(col).hidden && std::abs(inside - edges_[size_t(col)]) <= grip) return col;
+  const int still = stillColumns();
+  const auto atEdgeOf = [&](int col) {
+    return !model_.column(col).hidden && std::abs(pos.x() - cellRect(1, col).right() - 1) <= grip;
+  };
+  for (int col = still; col > 0; --col)
+    if (atEdgeOf(col)) return col;
+  if (pos.x() < edges_[size_t(still)]) return 0;  // what is scrolled under the still columns is out of reach
+  for (int col = model_.MaxCols(); col > still; --col)
+    if (atEdgeOf(col)) return col;
   return 0;
 }
 

@@ -35,25 +35,38 @@ bool isRight(const SpreadColumn& column) {
 void Spread::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setFont(font());
-  const QRect dirty = event->rect();
-  painter.fillRect(dirty, isEnabled() ? look::desk : look::disabledPaper);
-  const int first = std::max(topRow(), topRow() + (dirty.top() - headerHeight_) / rowPixels_);
-  for (int row = first; row <= model_.MaxRows(); ++row) {
-    if (cellRect(row, 1).top() > dirty.bottom()) break;
-    paintRow(painter, row, dirty);
+  painter.fillRect(event->rect(), isEnabled() ? look::desk : look::disabledPaper);
+  const int still = stillColumns(), edge = edges_[size_t(still)];
+  paintColumns(painter, event->rect(), still + 1, model_.MaxCols());
+  if (still == 0) return;
+  paintColumns(painter, event->rect(), 1, still);
+  painter.setPen(look::line);
+  painter.drawLine(edge - 1, 0, edge - 1, cellRect(model_.MaxRows(), 1).bottom());
+}
+
+/** Rows, current cell and header of some columns; what is not theirs is left alone. */
+void Spread::paintColumns(QPainter& painter, const QRect& dirty, int first, int last) {
+  if (first > last) return;
+  const int left = first > 1 ? edges_[size_t(stillColumns())] : 0;
+  const QRect part = dirty & QRect(left, 0, cellRect(1, last).right() + 1 - left, viewport()->height());
+  if (part.isEmpty()) return;
+  painter.setClipRect(part);
+  const int top = std::max(topRow(), topRow() + (part.top() - headerHeight_) / rowPixels_);
+  for (int row = top; row <= model_.MaxRows(); ++row) {
+    if (cellRect(row, 1).top() > part.bottom()) break;
+    paintRow(painter, row, part, first, last);
   }
-  if (activeRow_ > 0 && activeCol_ > 0 && !model_.column(activeCol_).hidden) {
+  if (activeRow_ > 0 && activeCol_ >= first && activeCol_ <= last && !model_.column(activeCol_).hidden) {
     painter.setPen(QPen(line_->hasFocus() ? look::accent : look::disabledInk, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(cellRect(activeRow_, activeCol_).adjusted(1, 1, -2, -2));
   }
-  if (dirty.top() < headerHeight_) paintHeader(painter);
+  if (part.top() < headerHeight_) paintHeader(painter, part, first, last);
+  painter.setClipping(false);
 }
 
-void Spread::paintHeader(QPainter& painter) {
-  const int right = edges_.back() - horizontalScrollBar()->value();
-  painter.fillRect(QRect(0, 0, viewport()->width(), headerHeight_), look::desk);
-  painter.fillRect(QRect(0, 0, std::min(right, viewport()->width()), headerHeight_), look::header);
+void Spread::paintHeader(QPainter& painter, const QRect& part, int first, int last) {
+  painter.fillRect(QRect(part.left(), 0, part.width(), headerHeight_), look::header);
   const bool groups = headerHeight_ > headerRow_;
   const auto box = [&](const QRect& rect, const QString& text, bool current) {
     if (current) painter.fillRect(rect, look::accentSoft);
@@ -63,25 +76,24 @@ void Spread::paintHeader(QPainter& painter) {
     painter.setPen(isEnabled() ? look::ink : look::disabledInk);
     painter.drawText(rect.adjusted(2, 0, -2, 0), Qt::AlignCenter, text);
   };
-  for (int col = 1; col <= model_.MaxCols(); ++col) {
+  for (int col = first; col <= last; ++col) {
     const SpreadColumn& column = model_.column(col);
     if (column.hidden) continue;
     const QRect cell = cellRect(topRow(), col);
     const bool grouped = groups && !column.group.isEmpty();
     box(QRect(cell.left(), grouped ? headerRow_ : 0, cell.width(), grouped ? headerRow_ : headerHeight_),
         column.header, col == activeCol_);
-    if (!grouped || (col > 1 && model_.column(col - 1).group == column.group)) continue;
-    int last = col;
-    while (last < model_.MaxCols() && model_.column(last + 1).group == column.group) ++last;
-    const int groupRight = cellRect(topRow(), last).right();
+    if (!grouped || (col > first && model_.column(col - 1).group == column.group)) continue;
+    int end = col;
+    while (end < last && model_.column(end + 1).group == column.group) ++end;
+    const int groupRight = cellRect(topRow(), end).right();
     box(QRect(cell.left(), 0, groupRight - cell.left() + 1, headerRow_), column.group, false);
   }
 }
 
-void Spread::paintRow(QPainter& painter, int row, const QRect& dirty) {
-  const QRect first = cellRect(row, 1);
-  const int right = edges_.back() - horizontalScrollBar()->value();
-  const QRect whole(0, first.top(), right, rowPixels_);
+void Spread::paintRow(QPainter& painter, int row, const QRect& part, int first, int last) {
+  const QRect cellOfRow = cellRect(row, 1);
+  const QRect whole(part.left(), cellOfRow.top(), part.width(), rowPixels_);
   const bool current = row == activeRow_;
   painter.fillRect(whole, !isEnabled() ? look::disabledPaper
                           : current    ? look::accentSoft
@@ -90,9 +102,9 @@ void Spread::paintRow(QPainter& painter, int row, const QRect& dirty) {
   QFont face = font();
   face.setBold(model_.bold(row));
   painter.setFont(face);
-  for (int col = 1; col <= model_.MaxCols(); ++col) {
+  for (int col = first; col <= last; ++col) {
     const QRect cell = cellRect(row, col);
-    if (cell.width() == 0 || cell.right() < dirty.left() || cell.left() > dirty.right()) continue;
+    if (cell.width() == 0 || cell.right() < part.left() || cell.left() > part.right()) continue;
     paintCell(painter, row, col, cell);
   }
   painter.setPen(look::gridLine);

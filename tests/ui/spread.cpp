@@ -462,6 +462,35 @@ TEST_F(SpreadTest, ColumnsAreDrawnWiderAndBlocksCopied) {
   EXPECT_EQ(QApplication::clipboard()->text(), u"36000\t1234567\t0\n0\t-5000\t1"_s) << "hidden ones left out";
 }
 
+TEST_F(SpreadTest, NamesStayInViewWhileTheOthersAreScrolled) {
+  grid->setFrozenCols(2);
+  grid->setFixedWidth(430);
+  QApplication::processEvents();
+  const QRect name = grid->cellRect(1, 2);
+  tests::key(Qt::Key_End);
+  EXPECT_EQ(grid->activeCol(), 8);
+  EXPECT_EQ(grid->cellRect(1, 2), name);
+  EXPECT_GT(grid->horizontalScrollBar()->value(), 0);
+  EXPECT_LE(grid->cellRect(1, 8).right(), grid->viewport()->width());
+  EXPECT_LT(grid->cellRect(1, 3).left(), name.right()) << "scrolled under the names";
+  QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, name.center());
+  EXPECT_EQ(grid->activeCol(), 2) << "a click takes what is seen";
+  tests::grab(window, u"spread_frozen"_s);
+  tests::key(Qt::Key_Right);
+  EXPECT_GT(grid->cellRect(1, 3).left(), name.right()) << "the current cell comes out from under them";
+  // The open editor may not cover the names when the wheel moves its cell under them.
+  tests::key(Qt::Key_Right);
+  tests::type(u"7"_s);
+  grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
+  EXPECT_FALSE(grid->findChild<QLineEdit*>()->geometry().intersects(name));
+  grid->cancelEdit();
+
+  grid->setFixedWidth(2 * name.right() - 20);
+  QApplication::processEvents();
+  tests::key(Qt::Key_End);
+  EXPECT_LT(grid->cellRect(1, 2).left(), name.left()) << "in a narrow grid the names make room";
+}
+
 TEST_F(SpreadTest, PageAndEditAreFastWithManyRows) {
   std::vector<std::vector<QString>> rows(100'000, {u"06-01"_s, u"한강식당"_s, u"가스"_s, u"2"_s, u"36000"_s});
   model.setRows(std::move(rows));
