@@ -99,6 +99,7 @@ void frmSale::buildSheet(SaleSheet sheet, const QString& caption) {
   Spread* const grid = addSpread(name.constData(), posting_.grid(sheet));
   grids_[size_t(sheet)] = grid;
   grid->setFillColumn(SaleCol::Client);
+  grid->setFrozenCols(SaleCol::Client);  // the day and whose line it is
   grid->cellFinished = [this](int row, int col, const QString&, const QString& typed) {
     return cellFinished(row, col, typed);
   };
