@@ -33,6 +33,13 @@ const QWidget& carrier(const QWidget& form) {
   return frame ? *frame : form;
 }
 
+/** Where a window may stand: the main window's child area, or the screen that its place lies on. */
+QRect roomOf(const QWidget& window, const QPoint& place) {
+  if (!window.isWindow()) return window.parentWidget()->rect();
+  const QScreen* const there = QGuiApplication::screenAt(place + QPoint(40, 10));
+  return (there ? there : window.screen())->availableGeometry();
+}
+
 enum WindowStateValue { Normal = 0, Minimized = 1, Maximized = 2 };
 
 }  // namespace
@@ -48,12 +55,16 @@ void FormIni::LoadFormIni(QWidget& form, bool resize) const {
   const auto number = [&](const QString& key) { return storedNumber(file, formSection, key); };
   const auto left = number(u"Left"_s), top = number(u"Top"_s);
   const auto width = number(u"Width"_s), height = number(u"Height"_s);
-  // A place on a screen that is gone would leave the form out of reach.
-  const auto reachable = [&](const QPoint& place) {
-    return !window.isWindow() || QGuiApplication::screenAt(place + QPoint(40, 10));
-  };
-  if (left && top && reachable(QPoint(int(*left), int(*top)))) window.move(int(*left), int(*top));
-  if (resize && width && height && *width > 0 && *height > 0) window.resize(int(*width), int(*height));
+  QSize size = window.size();
+  if (resize && width && height && *width > 0 && *height > 0) size = {int(*width), int(*height)};
+  const bool placed = left && top;
+  const QPoint place = placed ? QPoint(int(*left), int(*top)) : window.pos();
+  const QRect room = roomOf(window, place);
+  if (const QSize fits = size.boundedTo(room.size()); fits != window.size()) window.resize(fits);
+  // A place on a screen that is gone, or outside of a main window that has become smaller, is out of reach.
+  if (placed)
+    window.move(qBound(room.left(), place.x(), qMax(room.left(), room.right() + 1 - window.width())),
+                qBound(room.top(), place.y(), qMax(room.top(), room.bottom() + 1 - window.height())));
   const auto state = number(u"WindowState"_s);
   if (state && int(*state) == Maximized) window.setWindowState(Qt::WindowMaximized);
 }

@@ -10,7 +10,8 @@ class FormIni {
  public:
   explicit FormIni(const pc::Paths& paths) : paths_(paths) {}
 
-  /** resize False puts the form at its place but leaves its size alone. */
+  /** resize False puts the form at its place but leaves its size alone. Never larger than the room there is, and
+   *  wholly inside it. */
   void LoadFormIni(QWidget& form, bool resize = true) const;
   /** Nothing is written for a form that is not visible. */
   void SaveFormIni(const QWidget& form) const;

@@ -197,14 +197,14 @@ TEST_F(FormTest, MoneyBoxShowsSeparatorsOnlyAtRest) {
 
 TEST_F(FormTest, PlaceColumnsAndGridSizesComeBack) {
   form.move(40, 60);
-  form.resize(800, 444);
+  form.resize(740, 444);
   form.grid->setColWidth(2, 17.5);
   form.grid->columnResized(2);
   form.close();
   DemoForm again(at.session);
   tests::show(again);
   EXPECT_EQ(again.pos(), QPoint(40, 60));
-  EXPECT_EQ(again.size(), QSize(800, 444));
+  EXPECT_EQ(again.size(), QSize(740, 444));
   EXPECT_EQ(again.grid->colWidth(2), 17.5);
 }
 

@@ -2,7 +2,10 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
+#include <QScreen>
 
 #include "pc/ini_file.h"
 #include "tests/support.h"
@@ -77,6 +80,24 @@ TEST_F(FormMemory, PlaceOnAScreenThatIsGoneIsPassedOver) {
   tests::show(form);
   EXPECT_LT(form.x(), 9000);
   EXPECT_EQ(form.width(), 300);
+}
+
+// The main window was larger then, or the screen was another.
+TEST_F(FormMemory, AWindowComesBackWhollyInsideItsRoom) {
+  write("[FormPosition]\r\nLeft=900\r\nTop=-40\r\nWidth=3000\r\nHeight=300\r\n");
+  QMdiArea ground;
+  ground.resize(700, 500);
+  tests::show(ground);
+  auto* const child = ground.addSubWindow(new PlainForm(at.session));
+  child->show();
+  const QRect room = ground.viewport()->rect();
+  EXPECT_TRUE(room.contains(child->geometry()));
+  EXPECT_EQ(child->size(), QSize(room.width(), 300));
+  PlainForm alone(at.session);
+  tests::show(alone);
+  const QRect screen = alone.screen()->availableGeometry();
+  EXPECT_EQ(alone.size(), QSize(screen.width(), 300));
+  EXPECT_EQ(alone.pos(), screen.topLeft());
 }
 
 TEST_F(FormMemory, NothingIsWrittenForAFormThatIsNotSeen) {
