@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "pc/file_name.h"
 #include "store/session.h"
 
 using namespace Qt::StringLiterals;
@@ -46,7 +47,8 @@ QString DataFolder::create(const QString& parent) {
     session_.prompts.MsgWarn(u"경로명의 최대길이는 "_s + QString::number(maxPath) + u"입니다."_s, title);
     return {};
   }
-  if (session_.pc.paths.exists(path) || !session_.pc.paths.makeFolder(path)) {
+  if (pc::fileNameOf(name, {}) != name || session_.pc.paths.exists(path) ||
+      !session_.pc.paths.makeFolder(path)) {
     session_.prompts.MsgWarn(u"디렉토리를 생성할 수 없습니다."_s, title);
     return {};
   }

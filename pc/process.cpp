@@ -1,9 +1,30 @@
 #include "pc/process.h"
 
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QProcess>
+#include <QStandardPaths>
 
 namespace pc {
+
+#ifndef Q_OS_WIN
+namespace {
+
+/** The desktop's opener answers after the program has gone on, so it is asked before what it would open the file with. */
+bool hasProgramFor(const QString& file) {
+  if (QStandardPaths::findExecutable(QStringLiteral("xdg-open")).isEmpty()) return false;
+  const QString asks = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+  if (asks.isEmpty()) return true;
+  QProcess question;
+  question.start(asks, {QStringLiteral("query"), QStringLiteral("default"),
+                        QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).name()});
+  constexpr int patience = 3000;  // milliseconds; a desktop that does not answer may still open it
+  if (!question.waitForFinished(patience)) return true;
+  return !question.readAllStandardOutput().trimmed().isEmpty();
+}
+
+}  // namespace
+#endif
 
 bool Process::run(const QString& program, const QStringList& arguments, const QString& folder) const {
   if (starter_) return starter_(program, arguments, folder);
@@ -21,6 +42,7 @@ bool Process::open(const QString& written) const {
 #ifdef Q_OS_WIN
   return run(QStringLiteral("explorer"), {QString(target.filePath()).replace(u'/', u'\\')}, target.path());
 #else
+  if (!starter_ && !hasProgramFor(target.filePath())) return false;
   return run(QStringLiteral("xdg-open"), {target.filePath()}, target.path());
 #endif
 }

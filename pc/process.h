@@ -19,7 +19,7 @@ class Process {
 
   /** False when there is no such file or it does not start. */
   bool start(const QString& written, const QStringList& arguments = {}) const;
-  /** Hands a file or folder to the PC's own program for it; False when it is missing. */
+  /** Hands a file or folder to the PC's own program for it; False when the file or such a program is missing. */
   bool open(const QString& written) const;
   /** Runs a command line of one program and one file, "notepad C:\\RWGas\\202603Out.txt". Outside Windows its own
    *  programs are missing: the file goes to the PC's program for it. False when nothing was started. */

@@ -116,6 +116,9 @@ QString ExportToExcelFile(Session& session, const SpreadModel& grid, const QStri
     session.prompts.MsgWarn(u"엑셀로 내보내기에 실패했습니다."_s);
     return {};
   }
-  session.pc.process.open(written);
+  if (!session.pc.process.open(written))
+    session.prompts.MsgInfo(
+        u"엑셀 파일을 만들었으나 이 PC에는 여는 프로그램이 없습니다.\n파일은 아래에 있습니다.\n\n"_s +
+        QDir::toNativeSeparators(paths.native(written)));
   return written;
 }

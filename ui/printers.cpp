@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 #include <filesystem>
 
+#include "pc/file_name.h"
 #include "ui/page_job.h"
 #include "ui/print_queue.h"
 
@@ -15,11 +16,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/** A file name of the title: what no file system takes becomes a line. */
-QString pdfNameOf(QString title) {
-  for (QChar& letter : title)
-    if (u"\\/:*?\"<>|"_s.contains(letter) || letter < u' ') letter = u'_';
-  return (title.isEmpty() ? u"출력"_s : title) + u".pdf"_s;
+QString pdfNameOf(const QString& title) {
+  return pc::fileNameOf(title, u"출력"_s) + u".pdf"_s;
+}
+
+/** What the operator typed in the box, with its ending. */
+QString withEnding(const QString& file) {
+  return file.isEmpty() || file.endsWith(u".pdf"_s, Qt::CaseInsensitive) ? file : file + u".pdf"_s;
 }
 
 std::unique_ptr<QPrinter> pdfPrinter(const QString& file) {
@@ -79,7 +82,7 @@ std::unique_ptr<pc::PrintJob> PcPrinters::open(const QString& printer, const QSt
 QString PcPrinters::pdfFile(const QString& title) const {
   QString file = qEnvironmentVariable("HAEON_PDF");
   if (file.isEmpty()) file = pc_.settings.GetSetting(u"해온판매"_s, u"프린터설정"_s, u"PDF파일"_s);
-  if (file.isEmpty()) return askFile(title);
+  if (file.isEmpty()) return withEnding(askFile(title));
   file = pc_.paths.native(file);
   return QFileInfo(file).isDir() ? QDir(file).filePath(pdfNameOf(title)) : file;
 }

@@ -28,6 +28,10 @@ TEST_F(DataFolderTest, MakesAndTakesAwayFoldersButNeverOneThatHoldsSomething) {
   EXPECT_EQ(rules.create("C:\\RWGas"), "C:\\RWGas\\새자료");
   EXPECT_TRUE(pc.paths.exists("C:\\RWGas\\새자료"));
 
+  prompts.expectInput("디렉토리 생성", "a\\b:c");
+  prompts.expect("디렉토리를 생성할 수 없습니다.");
+  EXPECT_EQ(rules.create("C:\\RWGas"), "");
+
   prompts.expectInput("디렉토리 생성", QString(250, 'a'));
   prompts.expect("경로명의 최대길이는 260입니다.");
   EXPECT_EQ(rules.create("C:\\RWGas\\새자료"), "");

@@ -115,4 +115,26 @@ TEST_F(PathsTest, StartsCompanionToolsThatAreThere) {
   EXPECT_FALSE(process.start("C:\\RWGAS\\MapEdit.exe")) << "there, but nothing that runs";
 }
 
+TEST_F(PathsTest, AFileWithoutAProgramForItIsNotOpened) {
+  touch(at("/c/list.xlsx"));
+  const auto script = [this](const char* name, const QByteArray& lines) {
+    touch(at("/bin/") + name);
+    QFile file(at("/bin/") + name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\n" + lines + "\n");
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  };
+  const QByteArray before = qgetenv("PATH");
+  qputenv("PATH", at("/bin").toUtf8());
+  const pc::Process process(paths);
+  EXPECT_FALSE(process.open("C:\\list.xlsx")) << "no desktop";
+  script("xdg-open", "exit 0");
+  EXPECT_TRUE(process.open("C:\\list.xlsx")) << "nobody to ask";
+  script("xdg-mime", "exit 0");
+  EXPECT_FALSE(process.open("C:\\list.xlsx")) << "a desktop that knows no program for it";
+  script("xdg-mime", "case $3 in *spreadsheetml*) echo calc.desktop;; esac");
+  EXPECT_TRUE(process.open("C:\\list.xlsx"));
+  qputenv("PATH", before);
+}
+
 }  // namespace

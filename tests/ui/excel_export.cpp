@@ -69,6 +69,12 @@ TEST_F(ExcelExport, AmountsAreNumbersAndTheRestStaysText) {
   EXPECT_FALSE(texts.contains(u"코드"_s)) << "hidden columns stay at home";
 }
 
+TEST_F(ExcelExport, WhereNothingOpensItThePlaceIsTold) {
+  at.pc.process.setStarter([](const QString&, const QStringList&, const QString&) { return false; });
+  at.prompts.expect(at.pc.paths.native(u"C:\\RWGas\\ExpExcel\\Exp260615_090507.xlsx"_s));
+  EXPECT_NE(ExportToExcelFile(at.session, grid, u"표"_s, true), QString());
+}
+
 TEST_F(ExcelExport, FolderThatCannotBeWrittenIsTold) {
   QDir().mkpath(at.pc.paths.native(u"C:\\RWGas"_s));
   QFile blocking(at.pc.paths.native(u"C:\\RWGas\\ExpExcel"_s));

@@ -121,6 +121,9 @@ TEST_F(PrintersTest, TheFileIsNamedByEnvironmentSettingOrOperator) {
   EXPECT_TRUE(QFile::exists(folder + "/3_4월 지로.pdf"));
 
   pc.pc.settings.SaveSetting("해온판매", "프린터설정", "PDF파일", "");
+  printers.askFile = [this](const QString&) { return folder + "/자유"; };
+  open()->end();
+  EXPECT_TRUE(QFile::exists(folder + "/자유.pdf")) << "typed without its ending";
   printers.askFile = [](const QString&) { return QString(); };
   try {
     open();

@@ -207,6 +207,7 @@ TEST_F(ReportViewing, ThePdfHoldsEveryRowAndTheExactTotals) {
 }
 
 TEST_F(ReportViewing, TheSpreadsheetHasNumbersAsNumbers) {
+  pc.pc.process.setStarter([](const QString&, const QStringList&, const QString&) { return true; });
   stageReadings(3);
   frmReport* const form = show();
   pc.prompts.expect("엑셀로 자료를 내보내기 하시겠습니까?");
