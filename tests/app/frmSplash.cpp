@@ -72,6 +72,19 @@ TEST_F(StartWindow, TheThirdFailureEndsTheProgram) {
   EXPECT_EQ(out, 1);
 }
 
+TEST_F(StartWindow, AStartThatEndedEarlyLeavesARoad) {
+  open();
+  startUp.shutDown();  // as far as a start gets whose links could not be made
+  int stuck = 0;
+  window->stuck = [&] { ++stuck; };
+  prompts.expect("자료 파일이 열리지 않아 로그인할 수 없습니다.");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(stuck, 1);
+  EXPECT_EQ(in + out, 0);
+  open();
+  EXPECT_TRUE(startUp.ready()) << "the same start-up begins anew";
+}
+
 TEST_F(StartWindow, ClosingAsks) {
   open();
   prompts.expect("프로그램을 종료하시겠습니까?", false);
