@@ -52,6 +52,7 @@ TEST(ReadingWatch, MarksByHand) {
     EXPECT_EQ(int(markOf(each.reading, each.use, each.usual)), int(each.mark)) << each.use;
   const UsualUse six{From::LastMonths, 6}, five9{From::LastMonths, 5.9};
   EXPECT_EQ(int(markOf(100, 2.9, six)), int(Low)) << "3.1 below, less than half";
+  EXPECT_EQ(int(markOf(100, 2, {From::LastMonths, 5})), int(Low)) << "3 below are enough";
   EXPECT_EQ(int(markOf(100, 2.94, five9)), int(None)) << "less than half, but 2.96 below";
 }
 
@@ -121,7 +122,9 @@ TEST_F(Watched, AFinishedCellMovesItsMarkAndTheWayGoesRound) {
   EXPECT_EQ(sheet.grid.background(1, EvaCol::UseMuch), sheet.grid.column(EvaCol::UseMuch).background);
   EXPECT_EQ(nextMarked(sheet, 2, 1), 3);
   EXPECT_EQ(nextMarked(sheet, 3, 1), 2) << "over the end and past the good one";
-  EXPECT_EQ(read(2, "101") + read(3, "1"), "");
+  EXPECT_EQ(read(2, "101"), "");
+  EXPECT_EQ(nextMarked(sheet, 3, 1), 3) << "the only one is its own next";
+  EXPECT_EQ(read(3, "1"), "");
   EXPECT_EQ(nextMarked(sheet, 2, 1), 0);
 }
 
