@@ -8,14 +8,18 @@
 //                               grouping, DISTINCT, UNION and ORDER BY on text, so files need not declare it
 //   Pattern    jet_like(text, pattern)        1 or 0; a number reads as its text; Null gives Null
 //   Operators  jet_str(x)                     operand of &: text as it is, a number as its text, Null as ''
+//              jet_join(x, ...)               & of operands that may all be Null, and then is
 //              jet_num(x)                     operand of arithmetic: number as it is, text converted, else 3464
 //              jet_add(a, b)                  + of operands whose types are not known: two texts join, else they add
 //              jet_div(a, b)  jet_idiv(a, b)  jet_mod(a, b)  jet_pow(a, b)    by zero is error 11
+//              jet_and(a, b)  jet_or(a, b)  jet_xor(a, b)  jet_not(a)         bit by bit, 6 beyond 32 bits
+//              jet_finite(x)                  what came of + - * and sums: error 6 beyond a double's range
 //   Functions  jet_val(x)  jet_clng(x)  jet_cint(x)  jet_cdbl(x)  jet_ccur(x)  jet_cstr(x)   Null in C...() is error 94
 //              jet_isnumeric(x) (-1 or 0)  jet_len(x)  jet_left(x, n)  jet_right(x, n)  jet_mid(x, start[, n])
 //              jet_trim(x)  jet_ltrim(x)  jet_rtrim(x)  jet_ucase(x)  jet_lcase(x)  jet_instr([start,] x, part)
 //              jet_format(x[, picture])  jet_round(x[, places])  jet_int(x)  jet_fix(x)    Null gives Null
 //   Aggregates jet_first(x, key)  jet_last(x, key)    x of the row with the smallest, largest key; Null keys first
+//              jet_only(x)                        of a query's only row, a second one is error 3354
 //   Writing    jet_put_long(x)  jet_put_double(x)  jet_put_bool(x)  jet_put_text(x, size, zeroLengthAllowed)
 //                               a value on its way into a column: converted as the engine does (half to even, Null
 //                               into yes/no is 0), refused with 3464 (no number), 6 (out of range), 3163 (too long;

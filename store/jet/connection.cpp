@@ -153,6 +153,7 @@ Error Connection::error(int code, const QString& about) const {
       return errorOf(3035, about);
     default:
       if (message == "unsupported file format") return errorOf(3343, about);
+      if (message == "integer overflow") return errorOf(6);
       if (message == "parser stack overflow") return errorOf(3360);  // queries within queries, seven and more
       return errorOf(3146, QString::fromUtf8(message));
   }

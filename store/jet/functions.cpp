@@ -104,6 +104,13 @@ qint64 wholeOperand(const Call& call, int index) {
   return Value(operand(call, index)).toLong();
 }
 
+/** Of an operator that works on whole numbers: rounded, and 6 beyond 32 bits. */
+qint64 longOperand(const Call& call, int index) {
+  const qint64 number = wholeOperand(call, index);
+  if (number != qint32(number)) fail(6);
+  return number;
+}
+
 // ---- operators
 
 void like2(const Call& call) {
@@ -120,6 +127,17 @@ void like2(const Call& call) {
 
 void str(const Call& call) {
   call.isNull(0) ? call.give(u""_s) : call.give(call.text(0));
+}
+
+/** Operands of & of which each may be Null: only all together are. */
+void join(const Call& call) {
+  QString all;
+  bool any = false;
+  for (int i = 0; i < call.count(); ++i) {
+    any = any || !call.isNull(i);
+    all += call.text(i);
+  }
+  any ? call.give(all) : call.give();
 }
 
 void num(const Call& call) {
@@ -141,23 +159,53 @@ void divide(const Call& call) {
 }
 
 void divideWhole(const Call& call) {
-  const qint64 by = wholeOperand(call, 1);
+  const qint64 by = longOperand(call, 1), number = longOperand(call, 0);
   if (by == 0) fail(11);
-  const qint64 number = wholeOperand(call, 0);
-  if (by == -1) return call.give(-double(number));  // the smallest number has no positive twin
   call.give(number / by);
 }
 
 void modulo(const Call& call) {
-  const qint64 by = wholeOperand(call, 1);
+  const qint64 by = longOperand(call, 1), number = longOperand(call, 0);
   if (by == 0) fail(11);
-  call.give(by == -1 ? qint64(0) : wholeOperand(call, 0) % by);
+  call.give(number % by);
 }
 
 void power(const Call& call) {
   const double result = std::pow(operand(call, 0), operand(call, 1));
   if (std::isnan(result)) fail(5);
   call.give(result);
+}
+
+/** What came of + - * and of sums: beyond a double's range is an overflow. */
+void finite(const Call& call) {
+  if (call.type(0) == SQLITE_FLOAT && !std::isfinite(call.number(0))) fail(6);
+  call.giveSame(0);
+}
+
+// ---- And, Or and the like on numbers: bit by bit. A Null is an unknown number, so it may not matter.
+
+void bitsOfBoth(const Call& call) {
+  for (const int i : {0, 1})
+    if (call.isNull(i))
+      return !call.isNull(1 - i) && longOperand(call, 1 - i) == 0 ? call.give(qint64(0)) : call.give();
+  call.give(longOperand(call, 0) & longOperand(call, 1));
+}
+
+void bitsOfEither(const Call& call) {
+  for (const int i : {0, 1})
+    if (call.isNull(i)) {
+      const qint64 other = call.isNull(1 - i) ? 0 : longOperand(call, 1 - i);
+      return other != 0 ? call.give(other) : call.give();
+    }
+  call.give(longOperand(call, 0) | longOperand(call, 1));
+}
+
+void bitsThatDiffer(const Call& call) {
+  call.give(longOperand(call, 0) ^ longOperand(call, 1));
+}
+
+void bitsDenied(const Call& call) {
+  call.give(~longOperand(call, 0));
 }
 
 // ---- conversions; Null is error 94, a text that is no number 3421
@@ -203,7 +251,8 @@ void valOf(const Call& call) {
 }
 
 void isNumeric(const Call& call) {
-  const bool yes = call.isText(0) ? numberOf(call.text(0)).has_value() : !call.isNull(0);
+  const auto finiteNumber = [](const QString& text) { return std::isfinite(numberOf(text).value_or(NAN)); };
+  const bool yes = call.isText(0) ? finiteNumber(call.text(0)) : !call.isNull(0);
   call.give(qint64(yes ? -1 : 0));
 }
 
@@ -285,7 +334,9 @@ void putLong(const Call& call) {
 
 void putDouble(const Call& call) {
   if (call.isNull(0)) return call.give();
-  sqlite3_result_double(call.context(), operand(call, 0));
+  const double number = operand(call, 0);
+  if (!std::isfinite(number)) fail(6);
+  sqlite3_result_double(call.context(), number);
 }
 
 void putBool(const Call& call) {
@@ -359,6 +410,15 @@ void giveKept(sqlite3_context* context) {
   sqlite3_value_free(kept->key);
 }
 
+// ---- A query where one value is meant
+
+void takeOnly(sqlite3_context* context, int, sqlite3_value** arguments) {
+  auto* kept = static_cast<KeptByKey*>(sqlite3_aggregate_context(context, sizeof(KeptByKey)));
+  if (!kept) return sqlite3_result_error_nomem(context);
+  if (kept->value) return sqlite3_result_error(context, "JET 3354", -1);
+  kept->value = sqlite3_value_dup(arguments[0]);
+}
+
 struct Registration {
   const char* name;
   int arguments;
@@ -370,7 +430,13 @@ constexpr qint64 kInt16 = 32767, kInt32 = 2147483647;
 constexpr Registration kFunctions[] = {
     {"jet_like", 2, nullCall<like2>},
     {"jet_str", 1, guardedCall<str>},
+    {"jet_join", -1, guardedCall<join>},
     {"jet_num", 1, nullCall<num>},
+    {"jet_finite", 1, guardedCall<finite>},
+    {"jet_and", 2, guardedCall<bitsOfBoth>},
+    {"jet_or", 2, guardedCall<bitsOfEither>},
+    {"jet_xor", 2, nullCall<bitsThatDiffer>},
+    {"jet_not", 1, nullCall<bitsDenied>},
     {"jet_add", 2, nullCall<add>},
     {"jet_div", 2, nullCall<divide>},
     {"jet_idiv", 2, nullCall<divideWhole>},
@@ -427,6 +493,8 @@ void registerFunctions(Connection& connection) {
   check(sqlite3_create_function_v2(handle, "jet_first", 2, flags, nullptr, nullptr, keepByKey<-1>, giveKept,
                                    nullptr));
   check(sqlite3_create_function_v2(handle, "jet_last", 2, flags, nullptr, nullptr, keepByKey<1>, giveKept,
+                                   nullptr));
+  check(sqlite3_create_function_v2(handle, "jet_only", 1, flags, nullptr, nullptr, takeOnly, giveKept,
                                    nullptr));
   check(sqlite3_create_collation_v2(handle, "JET", SQLITE_UTF8, nullptr, collateJet, nullptr));
 }

@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <array>
+#include <cmath>
 #include <string_view>
 
 #include "store/jet/error_texts.h"
@@ -79,9 +80,13 @@ Value Token::value() const {
       return plain;
     }
     case Kind::Whole:
-      return isPlainWhole() ? Value(whole()) : Value(text.toDouble());
-    case Kind::Floating:
-      return text.toDouble();
+      if (isPlainWhole()) return whole();
+      [[fallthrough]];
+    case Kind::Floating: {
+      const double number = text.toDouble();
+      if (!std::isfinite(number)) fail(6);
+      return number;
+    }
     case Kind::Date:
       return dateLiteral(text).toString(u"yyyy-MM-dd"_s);
     default:

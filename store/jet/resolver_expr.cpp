@@ -12,6 +12,11 @@ bool holdsNumber(Holds holds) {
   return holds == Holds::YesNo || holds == Holds::Whole || holds == Holds::Floating;
 }
 
+/** Yes, no, or Null: not known. */
+bool isTruth(Holds holds) {
+  return holds == Holds::YesNo || holds == Holds::Nothing;
+}
+
 Holds holdsLiteral(const Value& value) {
   return value.isText() ? Holds::Text : value.isDouble() ? Holds::Floating : Holds::Whole;
 }
@@ -131,7 +136,7 @@ void Resolver::resolveExpr(Expr& expr, const Scope& scope) {
       expr.holds = holdsOperation(expr.op, held(0), held(1));
       break;
     case Expr::Kind::Logical:
-      expr.holds = held(0) == Holds::YesNo && held(1) == Holds::YesNo ? Holds::YesNo : Holds::Whole;
+      expr.holds = isTruth(held(0)) && isTruth(held(1)) ? Holds::YesNo : Holds::Whole;
       break;
     case Expr::Kind::Iif:
       expr.holds = holdsEither(held(1), held(2));

@@ -44,7 +44,10 @@ class Writer {
   void writeValue(const Expr& expr);
   void writeCondition(const Expr& expr);
   void writeNumber(const Expr& expr);
+  void writeBound(const char* which, const Expr& between);
+  void writeOnlyValue(const Select& query);
   void writeJoinedText(const Expr& expr);
+  void writeNullableJoin(const std::vector<const Expr*>& operands);
   void writeLiteral(const Expr& expr);
   void writeArithmetic(const Expr& expr);
   void writeChain(const Expr& expr);

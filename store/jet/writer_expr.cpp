@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "store/jet/put_call.h"
 #include "store/jet/writer.h"
 
@@ -28,6 +30,32 @@ bool isCondition(const Expr& expr) {
 /** A sum of which neither side is known to be text or number: the rows decide. */
 bool addsUnknown(const Expr& expr) {
   return expr.op == u'+' && expr.holds == Holds::Any;
+}
+
+/** Whatever the rows hold. */
+bool neverNull(const Expr& expr) {
+  switch (expr.kind) {
+    case Expr::Kind::Literal:
+    case Expr::Kind::Constant:
+    case Expr::Kind::IsNull:
+    case Expr::Kind::Exists:
+      return true;
+    case Expr::Kind::Arithmetic:
+      return expr.op == u'&' && (neverNull(expr.operands[0]) || neverNull(expr.operands[1]));
+    default:
+      return false;
+  }
+}
+
+/** Of a & b & c, in order. */
+std::vector<const Expr*> operandsOfJoin(const Expr& expr) {
+  std::vector<const Expr*> operands;
+  const Expr* left = &expr;
+  for (; left->kind == Expr::Kind::Arithmetic && left->op == u'&'; left = &left->operands[0])
+    operands.push_back(&left->operands[1]);
+  operands.push_back(left);
+  std::ranges::reverse(operands);
+  return operands;
 }
 
 /** What may follow what without brackets. */
@@ -72,7 +100,7 @@ void Writer::writeValue(const Expr& expr) {
       *this << ")";
       break;
     case Expr::Kind::Not:
-      *this << "(~";
+      *this << "jet_not(";
       writeNumber(expr.operands[0]);
       *this << ")";
       break;
@@ -87,10 +115,7 @@ void Writer::writeValue(const Expr& expr) {
     case Expr::Kind::Aggregate:
       return writeAggregate(expr);
     case Expr::Kind::Query:
-      *this << "(";
-      writeQuery(expr.query.front(), false);
-      *this << ")";
-      break;
+      return writeOnlyValue(expr.query.front());
     default:
       break;
   }
@@ -113,9 +138,9 @@ void Writer::writeCondition(const Expr& expr) {
       writeValue(expr.operands[0]);
       collate(expr.operands[0]);
       *this << (expr.negated ? " NOT BETWEEN " : " BETWEEN ");
-      writeValue(expr.operands[1]);
+      writeBound("min", expr);
       *this << " AND ";
-      writeValue(expr.operands[2]);
+      writeBound("max", expr);
       *this << ")";
       return;
     case Expr::Kind::In:
@@ -160,11 +185,29 @@ void Writer::writeLiteral(const Expr& expr) {
                                    : QString::number(expr.value.toDouble(), 'g', 17));
 }
 
+/** The bounds of Between stand in either order. */
+void Writer::writeBound(const char* which, const Expr& between) {
+  *this << which << "(";
+  writeValue(between.operands[1]);
+  collate(between.operands[1]);
+  *this << ", ";
+  writeValue(between.operands[2]);
+  *this << ")";
+}
+
+/** A query's value; its second row is 3354. One group has one row. */
+void Writer::writeOnlyValue(const Select& query) {
+  const bool oneRow = query.grouped && query.groupBy.empty() && query.unions.empty();
+  *this << (oneRow ? "(" : "(SELECT jet_only(\"c1\") FROM (");
+  writeQuery(query, !oneRow);
+  *this << (oneRow ? ")" : "))");
+}
+
 /** An operand of &, where Null is the empty text. */
 void Writer::writeJoinedText(const Expr& expr) {
-  const bool never =
+  const bool text =
       expr.kind == Expr::Kind::Literal || (expr.kind == Expr::Kind::Arithmetic && expr.op == u'&');
-  if (never && expr.holds == Holds::Text) return writeValue(expr);
+  if (text && expr.holds == Holds::Text && neverNull(expr)) return writeValue(expr);
   *this << "jet_str(";
   writeValue(expr);
   *this << ")";
@@ -179,8 +222,9 @@ void Writer::writeArithmetic(const Expr& expr) {
                          : expr.op == "MOD"_L1 ? "jet_mod"
                          : addsUnknown(expr)   ? "jet_add"
                                                : nullptr;
+  if (expr.op == u'&' && !neverNull(expr)) return writeNullableJoin(operandsOfJoin(expr));
   if (!function) {
-    *this << "(";
+    *this << (expr.holds == Holds::Floating ? "jet_finite(" : "(");
     writeChain(expr);
     *this << ")";
     return;
@@ -189,6 +233,20 @@ void Writer::writeArithmetic(const Expr& expr) {
   addsUnknown(expr) ? writeValue(left) : writeNumber(left);
   *this << ", ";
   addsUnknown(expr) ? writeValue(right) : writeNumber(right);
+  *this << ")";
+}
+
+/** & of operands that may all be Null; then so is what they make. A function takes some hundred of them. */
+void Writer::writeNullableJoin(const std::vector<const Expr*>& operands) {
+  constexpr size_t mostAtOnce = 100;
+  *this << "jet_join(";
+  size_t written = 0;
+  if (operands.size() > mostAtOnce) {
+    written = operands.size() - mostAtOnce + 1;
+    writeNullableJoin({operands.begin(), operands.begin() + qsizetype(written)});
+    *this << ", ";
+  }
+  list(operands.size() - written, [&](size_t i) { writeValue(*operands[written + i]); });
   *this << ")";
 }
 
@@ -214,18 +272,15 @@ void Writer::writeChain(const Expr& expr) {
 
 /** And, Or and the like on numbers work on their bits. */
 void Writer::writeLogicalValue(const Expr& expr) {
-  auto both = [&](const char* before, const char* between, const char* after) {
-    *this << before;
-    writeNumber(expr.operands[0]);
-    *this << between;
-    writeNumber(expr.operands[1]);
-    *this << after;
-  };
-  if (expr.op == "AND"_L1) return both("(", " & ", ")");
-  if (expr.op == "OR"_L1) return both("(", " | ", ")");
-  if (expr.op == "IMP"_L1) return both("(~", " | ", ")");
-  both(expr.op == "EQV"_L1 ? "(~((" : "((", " | ", ")");
-  both(" - (", " & ", expr.op == "EQV"_L1 ? ")))" : "))");
+  const bool plain = expr.op == "AND"_L1 || expr.op == "OR"_L1 || expr.op == "XOR"_L1;
+  *this << (plain                 ? "jet_" + expr.op.toLower()
+            : expr.op == "EQV"_L1 ? u"jet_not(jet_xor"_s
+                                  : u"jet_or(jet_not"_s)
+        << "(";
+  writeNumber(expr.operands[0]);
+  *this << (expr.op == "IMP"_L1 ? "), " : ", ");
+  writeNumber(expr.operands[1]);
+  *this << (expr.op == "EQV"_L1 ? "))" : ")");
 }
 
 void Writer::writeLogicalCondition(const Expr& expr) {
@@ -309,11 +364,18 @@ void Writer::writeAggregate(const Expr& expr) {
     return;
   }
   const Expr& operand = expr.operands[0];
+  const bool adds = expr.name == "SUM"_L1 || expr.name == "AVG"_L1;
+  const bool mayOverflow = adds && operand.holds != Holds::Whole && operand.holds != Holds::YesNo;
+  if (mayOverflow) *this << "jet_finite(";
   *this << (expr.name == "FIRST"_L1  ? u"jet_first"_s
             : expr.name == "LAST"_L1 ? u"jet_last"_s
                                      : expr.name.toLower())
         << "(";
-  if (expr.name == "SUM"_L1 || expr.name == "AVG"_L1)
+  if (mayOverflow && operand.kind == Expr::Kind::Arithmetic && chainOf(operand) > Chain::Joined) {
+    *this << "(";
+    writeChain(operand);  // its overflow is the sum's
+    *this << ")";
+  } else if (adds)
     writeNumber(operand);
   else
     writeValue(operand);
@@ -324,7 +386,7 @@ void Writer::writeAggregate(const Expr& expr) {
     *this << ", ";
     writeEntryOrder(*around_.back());
   }
-  *this << ")";
+  *this << (mayOverflow ? "))" : ")");
 }
 
 void Writer::writePut(const Field& field, const Expr& value) {
