@@ -139,8 +139,7 @@ void runStatement(const QByteArray& input) {
     }
   } catch (const jet::Error& error) {
     // SQLite never sees a text that it cannot read: whatever the dialect does not allow was refused before.
-    if (error.number() == 3146 && !error.description().contains(u"too many"))
-      broken(input, error.description());
+    if (error.number() == 3146) broken(input, error.description());
     if (!asks) left = std::min(left, 60);
   }
 }
