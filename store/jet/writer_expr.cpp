@@ -95,7 +95,8 @@ void Writer::writeValue(const Expr& expr) {
       quote(expr.column);
       break;
     case Expr::Kind::Negate:
-      *this << (expr.operands[0].kind == Expr::Kind::Constant ? "(- " : "(-");  // two in a row begin a comment
+      *this << (expr.operands[0].kind == Expr::Kind::Constant ? "(- "
+                                                              : "(-");  // two in a row begin a comment
       writeNumber(expr.operands[0]);
       *this << ")";
       break;
