@@ -63,6 +63,7 @@ void Caller::deviceEvent(int state, const QString& number) {
 }
 
 void Caller::OnCallerNumber(const QString& number) {
+  const QDateTime called = session_.pc.clock.now();  // the form may ask the operator for a while
   CallerTarget* target = active_();
-  if (!target || !target->TakeCallerNumber(number)) waiting_.AddStanbyNumber(number);
+  if (!target || !target->TakeCallerNumber(number)) waiting_.AddStanbyNumber(number, called);
 }

@@ -1,12 +1,6 @@
 #include "links/form_see_id_port.h"
 
-#include <QApplication>
-
 #include "pc/ports.h"
-
-namespace {
-constexpr int retryMilliseconds = 100;
-}
 
 SeeIdPort::SeeIdPort(const pc::Paths& paths) : paths_(paths) {
   timer_.setSingleShot(true);
@@ -42,13 +36,9 @@ int SeeIdPort::close(const QString&) {
 }
 
 void SeeIdPort::deliver() {
-  if (QApplication::activeModalWidget()) {
-    timer_.start(retryMilliseconds);
-    return;
-  }
   if (queue_.empty()) return;
   const SeeIdEvent event = queue_.front();
   queue_.pop_front();
-  if (!queue_.empty()) timer_.start(0);
+  if (!queue_.empty()) timer_.start(0);  // also while this one's handler asks the operator something
   if (onEvent) onEvent(event.state, event.number);
 }

@@ -18,7 +18,7 @@ class SeeIdPort : public SeeIdControl {
   int close(const QString& port) override;
   bool isOpen() const override { return port_.isOpen(); }
 
-  /** A call; never while a modal box or picker is up: it then waits until that is closed. */
+  /** A call, at once; also while a box or picker is up, so the receiver may be called within its own question. */
   std::function<void(int state, const QString& number)> onEvent;
 
  private:

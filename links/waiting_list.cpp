@@ -1,15 +1,19 @@
 #include "links/waiting_list.h"
 
-void WaitingList::AddStanbyNumber(const QString& number) {
+void WaitingList::AddStanbyNumber(const QString& number, const QDateTime& called) {
   const QString format = clock_.shortDateFormat() + QStringLiteral(" HH:mm:ss");
-  entries_ << number + QStringLiteral(" [") + clock_.now().toString(format) + u']';
+  entries_ << number + QStringLiteral(" [") + (called.isValid() ? called : clock_.now()).toString(format) +
+                  u']';
   tell();
 }
 
+QString WaitingList::OldestStanbyNumber() const {
+  return entries_.value(0).section(u' ', 0, 0);
+}
+
 QString WaitingList::TakeStanbyNumber() {
-  if (entries_.isEmpty()) return {};
-  const QString number = entries_.takeFirst().section(u' ', 0, 0);
-  tell();
+  const QString number = OldestStanbyNumber();
+  if (!entries_.isEmpty()) remove(0);
   return number;
 }
 

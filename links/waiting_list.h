@@ -10,8 +10,9 @@ class WaitingList : public WaitingCalls {
  public:
   explicit WaitingList(const pc::Clock& clock) : clock_(clock) {}
 
-  /** Appends "<number> [<date and time now>]". */
-  void AddStanbyNumber(const QString& number);
+  /** Appends "<number> [<date and time>]"; the time of the call, now when it is not given. */
+  void AddStanbyNumber(const QString& number, const QDateTime& called = {});
+  QString OldestStanbyNumber() const override;
   QString TakeStanbyNumber() override;
 
   const QStringList& entries() const { return entries_; }

@@ -6,6 +6,8 @@
 class WaitingCalls {
  public:
   virtual ~WaitingCalls() = default;
+  /** The number that TakeStanbyNumber would take; '' when nobody waits. */
+  virtual QString OldestStanbyNumber() const = 0;
   /** Takes the oldest number out of the list; '' when nobody waits. */
   virtual QString TakeStanbyNumber() = 0;
 };
@@ -14,6 +16,6 @@ class WaitingCalls {
 class CallerTarget {
  public:
   virtual ~CallerTarget() = default;
-  /** False: the number stays for the waiting list. An empty number fetches the oldest waiting one. */
+  /** False: the number is for the waiting list. An empty number fetches the oldest waiting one. */
   virtual bool TakeCallerNumber(const QString& number) = 0;
 };

@@ -1,5 +1,6 @@
 #include "master/client_search.h"
 
+#include "master/caller_search.h"
 #include "master/tel_format.h"
 #include "store/data_access.h"
 
@@ -80,14 +81,16 @@ std::vector<SpreadColumn> searchColumns() {
           {.header = "코드", .hidden = true}};
 }
 
-/** The found customers as rows of the list; a name is looked up once, not for every customer. */
-std::vector<std::vector<QString>> foundRows(jet::Recordset& found) {
+/** The found customers as rows of the list; a name is looked up once, not for every customer. Those with exactly the
+ *  caller's number, when one is given, come first. */
+std::vector<std::vector<QString>> foundRows(jet::Recordset& found, const QString& caller) {
   const int name = found.fieldIndex("Name"), style = found.fieldIndex("HouseStyle"),
             building = found.fieldIndex("BDName"), dong = found.fieldIndex("Dong"),
             ho = found.fieldIndex("Ho"), tel = found.fieldIndex("Tel"), address = found.fieldIndex("Address"),
             metered = found.fieldIndex("VolumeYesNo"), gas = found.fieldIndex("GasInit"),
             memo = found.fieldIndex("Memo"), code = found.fieldIndex("Code");
   std::vector<std::vector<QString>> rows;
+  size_t exact = 0;
   ClientEntry who;
   for (; !found.atEnd(); found.MoveNext()) {
     who.houseStyle = HouseStyle(found[style].toLong());
@@ -98,6 +101,8 @@ std::vector<std::vector<QString>> foundRows(jet::Recordset& found) {
     rows.push_back({DisplayName(who), found[tel].toText(), found[address].toText(),
                     found[metered].toBool() ? "체적" : "일반", found[gas].toText(), found[memo].toText(),
                     found[code].toText()});
+    if (!caller.isEmpty() && hasNumber(found, caller))
+      std::rotate(rows.begin() + exact++, rows.end() - 1, rows.end());
   }
   return rows;
 }
@@ -121,7 +126,7 @@ ClientSearch::Found ClientSearch::find(const QString& text, ClientSearchMode mod
   if (!OpenSnapshot(session_.prompts, session_.dbBasic, found, statement(text, mode, wholeNumber))) {
     return Found::Failed;
   }
-  std::vector<std::vector<QString>> rows = foundRows(found);
+  std::vector<std::vector<QString>> rows = foundRows(found, wholeNumber ? text : QString());
   const size_t count = rows.size();
   list_.setRows(std::move(rows));
   return count == 0 ? Found::None : count == 1 ? Found::One : Found::Several;

@@ -26,10 +26,12 @@ frmSearchClient::frmSearchClient(std::unique_ptr<ClientSearch> search, Session& 
   resize(grid()->fullWidth() + 40, 26 * fontMetrics().lineSpacing());
 }
 
-/** True when the search ends here: one match, or a customer registered on the spot. */
+/** True when the search ends here: one match, or a customer registered on the spot. Whoever only shares the end of a
+ *  caller's number is listed and not chosen. */
 bool frmSearchClient::settles(const QString& text, bool wholeNumber) {
   switch (search_->find(text, mode_, wholeNumber)) {
     case ClientSearch::Found::One:
+      if (wholeNumber) break;
       chosen_ = search_->choice(1);
       return true;
     case ClientSearch::Found::None:

@@ -40,7 +40,8 @@ enum class TradeSide { Sale, Purchase };
 class Pickers {
  public:
   virtual ~Pickers() = default;
-  /** wholeNumber: a longer number must end the stored one. */
+  /** wholeNumber: a caller's number must end the stored one, and a single match is listed, not chosen: it may be a
+   *  number of another area. */
   virtual std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode mode,
                                                    bool wholeNumber = false) = 0;
   /** kind: the search code "1" to "6". */

@@ -20,6 +20,12 @@ class Day {
     client_ =
         stage_.query(basicFile, "Select Code From Client Where Tel = '" + QString::fromUtf8(callerTel) + "'")
             .value(0);
+    const QString yearBefore = QString::number(date_.left(4).toInt() - 1);
+    lastPerson_ = stage_
+                      .query(yearBefore + QStringLiteral("Foundation.mdb"),
+                             "Select Top 1 Response From Sale Where ClientCode = " + client_ +
+                                 " Order By SaleDate Desc, SaleID Desc")
+                      .value(0);
   }
 
   DayReport play() {
@@ -84,25 +90,22 @@ class Day {
   }
 
   void gasLine() {
-    stage_.keys({"Return", "Return"});  // the list of kinds, 가스 in front: the line is made
+    stage_.keys({"Return"});  // 가스, as the line stands: it is made
     awaitLine(emptyLine);
-    stage_.keys({"Return"});
+    stage_.keys({"F12"});  // Enter would take the item that he had last
     stage_.awaitWindow(QStringLiteral("판매상품조회"));
     stage_.picture(QStringLiteral("day-4-item-search"));
     stage_.keys({"Return"});
     awaitLine(QStringLiteral("1\t1\t27000\t0\t"));
-    person();
-    awaitLine(QStringLiteral("1\t1\t27000\t0\t홍길수"));
+    takePerson();
+    awaitLine(QStringLiteral("1\t1\t27000\t0\t") + lastPerson_);
     tell_(QStringLiteral("a 20 kg gas delivery was posted, 27,000 won paid"));
   }
 
-  /** From the amount to the person, who is picked from the list, and on to the next line. */
-  void person() {
+  /** From the amount on: the line is right as it stands, with the person it offers. */
+  void takePerson() {
     stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
-    stage_.keys({"Return", "Return", "Return", "Return"});
-    stage_.awaitWindow(QStringLiteral("담당"));
     stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
   }
 
   void findCustomer() {
@@ -112,14 +115,14 @@ class Day {
 
   void collection() {
     findCustomer();
-    stage_.keys({"Return", "Down", "Return"});  // 수금
+    stage_.keys({"Down", "Down", "Return"});  // the list of kinds: 수금
     awaitLine(emptyLine);
     stage_.type(QStringLiteral("30000"));
     stage_.keys({"Return"});
     stage_.awaitWindow(QStringLiteral("자료수정"));  // the line stands already, so a changed cell asks
     stage_.keys({"Return"});
     awaitLine(QStringLiteral("4\t0\t30000\t20000\t"));
-    stage_.keys({"Return"});
+    stage_.keys({"F12"});  // somebody else than who came last
     stage_.awaitWindow(QStringLiteral("담당"));
     stage_.keys({"Down", "Return"});
     awaitLine(QStringLiteral("4\t0\t30000\t20000\t나대로"));
@@ -131,13 +134,14 @@ class Day {
   void loan() {
     stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
     findCustomer();
-    stage_.keys({"Return", "Down", "Down", "Return"});  // 용대
+    stage_.keys({"Down", "Down", "Down", "Return"});  // 용대
     awaitLine(emptyLine);
     stage_.keys({"Return"});
     stage_.awaitWindow(QStringLiteral("판매상품조회"));
     stage_.keys({"Return"});
     awaitLine(QStringLiteral("5\t1\t0\t0\t"));
-    person();
+    takePerson();
+    awaitLine(QStringLiteral("5\t1\t0\t0\t나대로"));
     tell_(QStringLiteral("a cylinder was lent"));
   }
 
@@ -157,7 +161,7 @@ class Day {
   void deletion() {
     stage_.keys({"Escape", "Up", "Delete"});
     stage_.awaitWindow(QStringLiteral("자료삭제"));
-    stage_.keys({"Return"});
+    stage_.keys({"alt+y"});  // the question stands on 아니오
     stage_.awaitRow(yearFile_, "Select Count(SaleID) From Sale Where SaleDate = '" + date_ + "'",
                     QStringLiteral("2"));
     tell_(QStringLiteral("the loan was deleted again"));
@@ -169,7 +173,7 @@ class Day {
   Stage& stage_;
   const std::function<void(const QString&)>& tell_;
   const QString date_, yearFile_;
-  QString client_;
+  QString client_, lastPerson_;
 };
 
 }  // namespace

@@ -32,6 +32,7 @@ struct IdleCommands : Commands {
 };
 
 struct IdleCalls : WaitingCalls {
+  QString OldestStanbyNumber() const override { return {}; }
   QString TakeStanbyNumber() override { return {}; }
 };
 

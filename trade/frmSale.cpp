@@ -10,8 +10,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "trade/form_last_lines.h"
 #include "ui/fields.h"
 #include "ui/grid_print.h"
+#include "ui/style.h"
 
 namespace {
 
@@ -38,8 +40,9 @@ frmSale::frmSale(FormContext& context, QWidget* parent)
   buildSheet(SaleSheet::General, "일반판매");
   buildSheet(SaleSheet::Volume, "체적판매");
   buildSheet(SaleSheet::Material, "시설/자재판매");
-  // An editor must not stand open on rows that are about to be replaced.
-  posting_.beforeFill = [this](SaleSheet sheet) { grids_[size_t(sheet)]->cancelEdit(); };
+  posting_.beforeFill = [this] {
+    for (Spread* const grid : grids_) grid->cancelEdit();
+  };
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { sheetChosen(index); });
   buildKeys();
   setBottomLine(saleKeys);
@@ -64,17 +67,26 @@ void frmSale::buildPanel() {
   row->setSpacing(5);
   auto* const panel = new QWidget(this);
   panel->setObjectName("PnlClient");
-  Fields fields(panel, 4);
-  date_ = fields.date("txtDate", "일자", DateBox::Mask::MonthDay);
-  address_ = fields.value("LblAddr", "주소", 0, 2);
+  Fields fields(panel, 3);
+  date_ = fields.date("txtDate", "일자(&D)", DateBox::Mask::MonthDay);
   tel_ = fields.value("LblTel", "전화번호");
-  gasTrust_ = fields.value("LblGasTrust", "가스미수");
-  utilTrust_ = fields.value("LblUtilTrust", "자재미수");
   endDay_ = fields.value("LblEndDay", "최종거래일");
+  address_ = fields.value("LblAddr", "주소", 0, 2);
   mapState_ = fields.value("LblMap", "약도");
-  memo_ = fields.value("LblMemo", "메모", 0, 4);
-  for (QLabel* const money : {gasTrust_, utilTrust_}) money->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  memo_ = fields.value("LblMemo", "메모", 0, 3);
   row->addWidget(panel, 1);
+
+  // What he owes is what the operator tells him on the telephone.
+  auto* const owed = new QWidget(this);
+  owed->setObjectName("PnlTrust");
+  auto* const figures = new QVBoxLayout(owed);
+  figures->setContentsMargins(8, 3, 8, 3);
+  figures->setSpacing(0);
+  gasTrust_ = bigFigure("LblGasTrust", "가스미수", owed);
+  utilTrust_ = bigFigure("LblUtilTrust", "자재미수", owed);
+  row->addWidget(owed);
+  lastLines_ = new LastLines(this);
+  row->addWidget(lastLines_);
 
   auto* const buttons = new QVBoxLayout;
   buttons->setSpacing(3);
@@ -94,20 +106,36 @@ void frmSale::buildPanel() {
   connect(mapTimer_, &QTimer::timeout, this, [this] { lookAtMap(); });
 }
 
+QLabel* frmSale::bigFigure(const char* name, const QString& caption, QWidget* panel) {
+  auto* const words = new QLabel(caption, panel);
+  words->setProperty("role", "faint");
+  auto* const figure = new QLabel(panel);
+  figure->setObjectName(name);
+  figure->setFont(look::textFont(15, true));
+  figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  figure->setMinimumWidth(QFontMetrics(figure->font()).horizontalAdvance("99,999,999"));
+  panel->layout()->addWidget(words);
+  panel->layout()->addWidget(figure);
+  return figure;
+}
+
 void frmSale::buildSheet(SaleSheet sheet, const QString& caption) {
   const QByteArray name = "SpSale(" + QByteArray::number(int(sheet)) + ')';
   Spread* const grid = addSpread(name.constData(), posting_.grid(sheet));
   grids_[size_t(sheet)] = grid;
   grid->setFillColumn(SaleCol::Client);
   grid->setFrozenCols(SaleCol::Client);  // the day and whose line it is
-  grid->cellFinished = [this](int row, int col, const QString&, const QString& typed) {
-    return cellFinished(row, col, typed);
+  grid->cellFinished = [this, sheet](int row, int col, const QString&, const QString& typed) {
+    return cellFinished(sheet, row, col, typed);
   };
   grid->cellEntered = [this](int, int col) { showHelp(SaleEntry::help(col)); };
-  grid->rowEntered = [this](int) { showPanel(); };
+  grid->rowEntered = [this](int row) {
+    entry_.enteredRow(row);
+    showPanel();
+  };
   grid->cellLeaving = [this](int row, int, int toRow, int) { return mayLeave(row, toRow); };
-  grid->keyPressed = [this](int row, int col, int key, Qt::KeyboardModifiers) {
-    return gridKey(row, col, key);
+  grid->keyPressed = [this](int row, int col, int key, Qt::KeyboardModifiers modifiers) {
+    return gridKey(row, col, key, modifiers & ~Qt::KeypadModifier);
   };
   grid->doubleClicked = [this, grid](int row, int) {
     if (!fetchCall(row)) grid->beginEdit();
@@ -126,11 +154,16 @@ void frmSale::buildKeys() {
 
 // --- the grid -----------------------------------------------------------------------------------------------
 
-bool frmSale::gridKey(int row, int col, int key) {
+bool frmSale::gridKey(int row, int col, int key, Qt::KeyboardModifiers modifiers) {
+  if (modifiers) return false;  // with one, none of these keys means what it means here
   const bool editing = grid()->isEditing();
   const QString typed = editing ? grid()->editingText() : grid()->model().text(row, col);
   if (key == Qt::Key_F4 || (key == Qt::Key_Delete && !editing)) {
     if (grid()->commitEdit()) removeRow(row);
+    return true;
+  }
+  if (key == Qt::Key_F8) {
+    if (grid()->commitEdit()) follow(entry_.onCredit(row));
     return true;
   }
   if (key == Qt::Key_F12) {
@@ -139,7 +172,9 @@ bool frmSale::gridKey(int row, int col, int key) {
   }
   if (key == Qt::Key_Down) entry_.makeRoomBelow(row);
   if ((isSaleEnter(key) || key == Qt::Key_F2) && fetchCall(row)) return true;
-  if (!isSaleEnter(key) || col == SaleCol::Kind) return false;
+  if (!isSaleEnter(key)) return false;
+  // The kind that a new line stands on is taken; elsewhere the list of kinds opens.
+  if (col == SaleCol::Kind && !entry_.beginsAt(row)) return false;
   // While a cell is being edited Enter searches where there is a search; elsewhere it finishes the cell first.
   const bool searches = (col == SaleCol::Client && row == grid()->model().MaxRows()) ||
                         col == SaleCol::Item || col == SaleCol::Person;
@@ -148,16 +183,15 @@ bool frmSale::gridKey(int row, int col, int key) {
   return true;
 }
 
-/** The oldest waiting call, when the operator opens the empty customer cell of the bottom row without typing. */
-bool frmSale::fetchCall(int row) {
-  return row == grid()->model().MaxRows() && TakeCallerNumber({});
-}
-
-bool frmSale::cellFinished(int row, int col, const QString& typed) {
+bool frmSale::cellFinished(SaleSheet sheet, int row, int col, const QString& typed) {
+  if (sheet != posting_.sheet()) {  // its rows are another sheet's by now
+    grids_[size_t(sheet)]->cancelEdit();
+    return false;
+  }
   const SaleStep step = entry_.finishCell(row, col, typed);
   if (step.end == SaleStep::Refused) return false;
-  if (step.end == SaleStep::PutBack) grid()->cancelEdit();
-  follow(step);
+  // Who went to the date meanwhile stays there.
+  follow(step, QApplication::focusWidget() != date_);
   return step.end == SaleStep::Done;
 }
 
@@ -174,6 +208,7 @@ void frmSale::follow(const SaleStep& step, bool takeFocus) {
     const QSignalBlocker quiet(tabs_);
     tabs_->setCurrentIndex(int(posting_.sheet()));
   }
+  if (step.end == SaleStep::PutBack) grid()->cancelEdit();
   if (step.row > 0 && (step.row != grid()->activeRow() || step.col != grid()->activeCol())) {
     grid()->cancelEdit();
     grid()->setActiveCell(step.row, step.col);
@@ -200,6 +235,7 @@ void frmSale::sheetChosen(int index) {
   }
   const QSignalBlocker quiet(tabs_);
   tabs_->setCurrentIndex(int(posting_.sheet()));
+  grid()->setFocus();
 }
 
 void frmSale::showPanel() {
@@ -212,6 +248,7 @@ void frmSale::showPanel() {
     endDay_->setText(client.lastDate);
     memo_->setText(client.memo);
     mapState_->setText(client.map);
+    lastLines_->show(posting_.lastLines(grid()->activeRow()));
   });
 }
 
@@ -227,6 +264,7 @@ bool frmSale::eventFilter(QObject* watched, QEvent* event) {
     grid()->setFocus();
     return true;
   }
+  if (watched == date_ && event->type() == QEvent::FocusIn) dateOpen_ = true;
   if (watched == date_ && event->type() == QEvent::FocusOut) {
     const auto reason = static_cast<QFocusEvent*>(event)->reason();
     // Later, so that a box about a wrong day does not come up in the middle of the change of focus.
@@ -238,6 +276,7 @@ bool frmSale::eventFilter(QObject* watched, QEvent* event) {
 
 void frmSale::leaveDate() {
   guard([this] {
+    dateOpen_ = date_->hasFocus();
     posting_.setDate(date_->dateText());
     posting_.FillSaleGrid(posting_.sheet(), true);
     const QWidget* const now = QApplication::focusWidget();
@@ -251,23 +290,42 @@ void frmSale::showPage(const QString& page) {
   tabs_->setCurrentIndex(int(page == "material" ? SaleSheet::Material : SaleSheet::General));
 }
 
-bool frmSale::TakeCallerNumber(const QString& number) {
+/** The cursor is on the empty customer cell, and no day is being typed. */
+bool frmSale::canTakeCall() {
   // Behind a box or a search the cursor is not free, whatever cell it stands on.
   if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) return false;
-  const Spread& cells = *grid();
-  const QString text = cells.isEditing()
-                           ? cells.editingText()
-                           : posting_.grid(posting_.sheet()).text(cells.activeRow(), cells.activeCol());
-  if (!entry_.canTakeCaller(cells.activeCol(), text)) return false;
+  Spread& cells = *grid();
+  if (dateOpen_) return false;  // leaving it reads the sheet anew, and the call's row would be gone
+  return entry_.canTakeCaller(
+      cells.activeCol(),
+      cells.isEditing() ? cells.editingText() : cells.model().text(cells.activeRow(), cells.activeCol()));
+}
+
+bool frmSale::TakeCallerNumber(const QString& number) {
+  if (!canTakeCall()) return false;
   bool accepted = false;
   guard([&] {
-    raise();
-    window()->activateWindow();
+    reveal();
     const std::optional<SaleStep> step = entry_.TakeCallerNumber(number);
-    accepted = step.has_value();
-    if (accepted) follow(*step);
+    if (!step) return;
+    // A call that nobody was chosen for goes to the list; one fetched from there has had its turn.
+    accepted = number.isEmpty() || step->end == SaleStep::Done;
+    follow(*step);
   });
   return accepted;
+}
+
+/** The oldest waiting call, when the operator opens the empty customer cell of the bottom row without typing. */
+bool frmSale::fetchCall(int row) {
+  return row == grid()->model().MaxRows() && TakeCallerNumber({});
+}
+
+/** In front of everything, out of the task bar and out of the corner of the main window. */
+void frmSale::reveal() {
+  for (QWidget* at = this; at; at = at->parentWidget())
+    if (at->isMinimized()) at->setWindowState(at->windowState() & ~Qt::WindowMinimized);
+  raise();
+  window()->activateWindow();
 }
 
 void frmSale::showToday() {

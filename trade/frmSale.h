@@ -8,6 +8,7 @@
 #include "ui/form.h"
 
 class DateBox;
+class LastLines;
 class QLabel;
 class QPushButton;
 class QTabWidget;
@@ -29,13 +30,16 @@ class frmSale : public Form, public CallerTarget {
 
  private:
   void buildPanel();
+  QLabel* bigFigure(const char* name, const QString& caption, QWidget* panel);
   void buildSheet(SaleSheet sheet, const QString& caption);
   void buildKeys();
 
   Spread* grid() { return grids_[size_t(posting_.sheet())]; }
-  bool gridKey(int row, int col, int key);
+  bool gridKey(int row, int col, int key, Qt::KeyboardModifiers modifiers);
+  bool canTakeCall();
   bool fetchCall(int row);
-  bool cellFinished(int row, int col, const QString& typed);
+  void reveal();
+  bool cellFinished(SaleSheet sheet, int row, int col, const QString& typed);
   bool mayLeave(int row, int toRow);
   void follow(const SaleStep& step, bool takeFocus = true);
   void fill(SaleSheet sheet);
@@ -57,8 +61,10 @@ class frmSale : public Form, public CallerTarget {
   QTabWidget* tabs_ = nullptr;
   std::array<Spread*, 3> grids_{};
   DateBox* date_ = nullptr;
+  bool dateOpen_ = false;  ///< from its focus until its day is taken, other windows in front included
   QLabel *address_ = nullptr, *tel_ = nullptr, *gasTrust_ = nullptr, *utilTrust_ = nullptr,
          *endDay_ = nullptr, *memo_ = nullptr, *mapState_ = nullptr;
+  LastLines* lastLines_ = nullptr;
   QPushButton* mapButton_ = nullptr;
   QTimer* mapTimer_ = nullptr;
 };

@@ -1,13 +1,10 @@
 #include "trade/sale_entry.h"
 
-#include <QScopedValueRollback>
-
-#include "master/tel_format.h"
-#include "store/data_access.h"
+#include "trade/sale_items.h"
 
 namespace {
 
-constexpr qint64 largestSaleFigure = 999999999;  ///< won or pieces in one cell
+constexpr qint64 largestSaleFigure = 999999999;  ///< won or pieces in one cell, computed ones too
 
 bool isSaleFigure(int col) {
   return col >= SaleCol::Number && col <= SaleCol::Trust;
@@ -21,9 +18,11 @@ class SaleRowBefore {
   SaleRowBefore(SalePosting& posting, int row)
       : posting_(posting), grid_(posting.grid(posting.sheet())), row_(row) {
     for (int col = SaleCol::Date; col < SaleCol::Key; ++col) cells_ << grid_.text(row, col);
+    known_ = posting.known(row);
   }
   void putBack() const {
     for (int col = SaleCol::Date; col < SaleCol::Key; ++col) grid_.setText(row_, col, cells_.at(col - 1));
+    if (!known_.isEmpty()) posting_.setKnown(row_, known_);
     if (!posting_.isStored(row_)) grid_.setText(row_, SaleCol::Key, {});
   }
 
@@ -32,6 +31,7 @@ class SaleRowBefore {
   SpreadModel& grid_;
   int row_;
   QStringList cells_;
+  QString known_;
 };
 
 struct SaleRequired {
@@ -58,7 +58,7 @@ int SaleEntry::kindOf(int row) {
 
 SaleStep SaleEntry::finishCell(int row, int col, const QString& typed) {
   Prompts& prompts = posting_.session().prompts;
-  if (!acceptsText(col, typed)) return {SaleStep::Refused};
+  if (!acceptsText(row, col, typed)) return {SaleStep::Refused};
   if (col != SaleCol::Date && !hasDay(row)) return {SaleStep::PutBack, row, SaleCol::Date};
   if (!grid().text(row, SaleCol::Key).isEmpty()) {
     if (col == SaleCol::Kind) {
@@ -67,14 +67,39 @@ SaleStep SaleEntry::finishCell(int row, int col, const QString& typed) {
     }
     if (!prompts.MsgAsk("선택된 자료를 변경하시겠습니까?", "자료수정")) return {SaleStep::PutBack};
   }
-  const SaleRowBefore unchanged(posting_, row);
   const QString before = grid().text(row, col);
+  return wholly(row, col, [&] { return applyCell(row, col, before, typed); });
+}
+
+/** Runs a step that writes the row. One that is refused, meets another PC's change or fails leaves it as it was. */
+SaleStep SaleEntry::wholly(int row, int col, const std::function<SaleStep()>& work) {
+  const SaleRowBefore unchanged(posting_, row);
   try {
-    return applyCell(row, col, before, typed);
+    const SaleStep step = work();
+    if (step.end == SaleStep::Refused) unchanged.putBack();
+    return step;
+  } catch (const SaleLineMoved& moved) {
+    unchanged.putBack();
+    posting_.tellMoved(moved);
+    return {SaleStep::PutBack, std::min(row, grid().MaxRows()), col};
   } catch (...) {
     unchanged.putBack();
     throw;
   }
+}
+
+/** Writes the row and goes on. A figure that follows from the others may be too large for a line: told, not written. */
+SaleStep SaleEntry::post(int row, int col) {
+  // What a collection shows is the customer's whole balance, however large.
+  for (int figure = SaleCol::Number; figure <= SaleCol::Trust && !isCollection(kindOf(row)); ++figure) {
+    if (std::abs(saleFigure(grid().text(row, figure))) <= double(largestSaleFigure)) continue;
+    posting_.session().prompts.MsgWarn("한 줄의 금액은 999,999,999원을 넘을 수 없습니다!", "입력제한");
+    return {SaleStep::Refused};
+  }
+  const bool begins = grid().text(row, SaleCol::Key).isEmpty();
+  posting_.PostSaleRow(row, posting_.sheet());
+  if (begins) begun_ = grid().text(row, SaleCol::Key);
+  return after(row, col);
 }
 
 /** A row in work without a day must get one before anything of it is written: no sheet would ever show it again. */
@@ -84,7 +109,12 @@ bool SaleEntry::hasDay(int row) {
   return false;
 }
 
-bool SaleEntry::acceptsText(int col, const QString& typed) {
+bool SaleEntry::acceptsText(int row, int col, const QString& typed) {
+  if (col == SaleCol::Item && saleItemsNamed(posting_.session(), kindOf(row), typed).size() != 1) {
+    posting_.session().prompts.MsgWarn("등록된 품명이 아닙니다!\n엔터를 눌러 고르거나 용량을 입력하세요.",
+                                       "입력제한");
+    return false;
+  }
   if (!isSaleFigure(col) || typed.isEmpty()) return true;
   bool whole = false;
   const qint64 figure = QString(typed).remove(u',').toLongLong(&whole);
@@ -103,9 +133,13 @@ SaleStep SaleEntry::applyCell(int row, int col, const QString& before, const QSt
       return changeDate(row, typed);
     case SaleCol::Client:  // a name only comes from the search
       cells.setText(row, col, {});
+      if (cells.text(row, SaleCol::Key).isEmpty()) cells.setText(row, SaleCol::Code, {});
       return {SaleStep::Done, row, col};
-    case SaleCol::Kind:
-      return changeKind(row);
+    case SaleCol::Kind: {
+      const SaleStep step = changeKind(row);
+      offerLast(row);
+      return step;
+    }
     case SaleCol::Number:
       posting_.RecalcSaleRow(row, sheet);
       if (!volume) {  // paid in cash until the operator lowers the income
@@ -118,31 +152,37 @@ SaleStep SaleEntry::applyCell(int row, int col, const QString& before, const QSt
     case SaleCol::Income:
       return changeIncome(row, saleFigure(before), saleFigure(typed));
     case SaleCol::Person:
+      cells.setOffer(row, col, {});
       posting_.postPerson(row);
       return after(row, col);
     case SaleCol::Item:
-      posting_.RecalcSaleRow(row, sheet);
-      break;
+      return changeItem(row, before, typed);
     default:
       if (!volume) posting_.RecalcSaleRow(row, sheet);
   }
-  posting_.PostSaleRow(row, sheet);
-  return after(row, col);
+  return post(row, col);
 }
 
 SaleStep SaleEntry::changeDate(int row, const QString& typed) {
   const bool right = posting_.setDate(typed);
   grid().setText(row, SaleCol::Date, posting_.date());
   if (!right) return {SaleStep::Done, row, SaleCol::Date};  // a line without a day is never written
-  posting_.PostSaleRow(row, posting_.sheet());
-  return after(row, SaleCol::Date);
+  return post(row, SaleCol::Date);
+}
+
+SaleStep SaleEntry::changeItem(int row, const QString& before, const QString& typed) {
+  const ItemChoice item = saleItemsNamed(posting_.session(), kindOf(row), typed).front();
+  // A size alone, or the first item of a line, is a choice as from the list; another whole name keeps the figures.
+  if (before.isEmpty() || splitItem(typed).size.isEmpty()) return takeItem(row, item);
+  grid().setText(row, SaleCol::Item, joinItem({item.name, item.size}));
+  posting_.RecalcSaleRow(row, posting_.sheet());
+  return post(row, SaleCol::Item);
 }
 
 SaleStep SaleEntry::changeKind(int row) {
   grid().setText(row, SaleCol::Item, collectionItem(kindOf(row)));
   posting_.ResetSaleRow(row, posting_.sheet());
-  posting_.PostSaleRow(row, posting_.sheet());
-  return after(row, SaleCol::Kind);
+  return post(row, SaleCol::Kind);
 }
 
 SaleStep SaleEntry::changeAmount(int row, double before, double now) {
@@ -159,8 +199,7 @@ SaleStep SaleEntry::changeAmount(int row, double before, double now) {
     cells.setText(row, SaleCol::Income, saleText(now));
     posting_.RecalcSaleRow(row, posting_.sheet());
   }
-  posting_.PostSaleRow(row, posting_.sheet());
-  return after(row, SaleCol::Amount);
+  return post(row, SaleCol::Amount);
 }
 
 SaleStep SaleEntry::changeIncome(int row, double before, double now) {
@@ -176,8 +215,7 @@ SaleStep SaleEntry::changeIncome(int row, double before, double now) {
     cells.setText(row, SaleCol::Trust, saleText(before + saleFigure(cells.text(row, SaleCol::Trust)) - now));
     posting_.RecalcSaleRow(row, posting_.sheet());
   }
-  posting_.PostSaleRow(row, posting_.sheet());
-  return after(row, SaleCol::Income);
+  return post(row, SaleCol::Income);
 }
 
 SaleStep SaleEntry::after(int row, int col) {
@@ -202,6 +240,10 @@ SaleStep SaleEntry::after(int row, int col) {
   }
 }
 
+bool SaleEntry::beginsAt(int row) {
+  return grid().text(row, SaleCol::Key).isEmpty() && !grid().text(row, SaleCol::Code).isEmpty();
+}
+
 void SaleEntry::makeRoomBelow(int row) {
   if (row == grid().MaxRows() && !grid().text(row, SaleCol::Key).isEmpty()) grid().setMaxRows(row + 1);
 }
@@ -209,17 +251,26 @@ void SaleEntry::makeRoomBelow(int row) {
 SaleStep SaleEntry::enterKey(int row, int col, const QString& typed) {
   switch (col) {
     case SaleCol::Client:
-      if (row == grid().MaxRows()) return chooseClient(row, typed, false);
+      if (row == grid().MaxRows()) return chooseClient(row, typed);
       return {SaleStep::Done, row, SaleCol::Kind};
     case SaleCol::Kind:
       // The kind that the cell was opened with is a choice too: the line begins here.
-      if (grid().text(row, SaleCol::Key).isEmpty() && !grid().text(row, SaleCol::Code).isEmpty())
-        return finishCell(row, col, grid().text(row, col));
+      if (beginsAt(row)) return finishCell(row, col, grid().text(row, col));
       break;
     case SaleCol::Item:
       if (isCollection(kindOf(row))) return {SaleStep::Done, row, SaleCol::Income};
-      return chooseItem(row);
+      if (typed != grid().text(row, col)) return findItem(row, typed);
+      return grid().offer(row, col).isEmpty() ? chooseItem(row) : takeOfferedItem(row);
+    case SaleCol::Amount:
+    case SaleCol::Income:
+    case SaleCol::Trust:
+      // The line is right as it stands, with the person it offers: nothing is left to stop for.
+      if (const QString person = grid().offer(row, SaleCol::Person); !person.isEmpty())
+        return takePerson(row, person);
+      break;
     case SaleCol::Person:
+      if (const QString person = grid().offer(row, col); !person.isEmpty() && typed == grid().text(row, col))
+        return takePerson(row, person);
       return choosePerson(row);
     default:
       break;
@@ -231,7 +282,7 @@ SaleStep SaleEntry::enterKey(int row, int col, const QString& typed) {
 SaleStep SaleEntry::search(int row, int col, const QString& typed) {
   switch (col) {
     case SaleCol::Client:
-      return chooseClient(row, typed, false);
+      return chooseClient(row, typed);
     case SaleCol::Item:
       return isCollection(kindOf(row)) ? SaleStep{} : chooseItem(row);
     case SaleCol::Person:
@@ -239,110 +290,6 @@ SaleStep SaleEntry::search(int row, int col, const QString& typed) {
     default:
       return {};
   }
-}
-
-SaleStep SaleEntry::chooseClient(int row, const QString& text, bool wholeNumber) {
-  // The general and material sheets find everyone; whom the meter bills is then taken over to the volume sheet.
-  const bool volume = posting_.sheet() == SaleSheet::Volume;
-  std::optional<ClientChoice> chosen;
-  {
-    const QScopedValueRollback<bool> busy(searching_, true);
-    chosen =
-        pickers_.searchClient(text, volume ? ClientSearchMode::Volume : ClientSearchMode::All, wholeNumber);
-  }
-  if (!chosen) return {SaleStep::Done, row, SaleCol::Client};
-  Session& session = posting_.session();
-  if (row != grid().MaxRows() && !session.prompts.MsgAsk("선택된 고객을 수정하시겠습니까?", "고객수정"))
-    return {SaleStep::PutBack};
-
-  SaleSheet sheet = posting_.sheet();
-  const QString code = QString::number(chosen->code);
-  if (sheet == SaleSheet::General &&
-      DAO_GetValue(session.prompts, session.dbYear, u"VolumeYesNo", u"Client", "Where Code = " + code)
-          .toBool())
-    sheet = SaleSheet::Volume;
-  posting_.setClient(chosen->code);
-  if (!posting_.FillSaleGrid(sheet, false)) return {SaleStep::PutBack};
-  // Kept: a stored line keeps its customer; the chosen one always opens the bottom row.
-  const int bottom = grid().MaxRows();
-  grid().setText(bottom, SaleCol::Date, posting_.date());
-  grid().setText(bottom, SaleCol::Client, chosen->name);
-  grid().setText(bottom, SaleCol::Code, code);
-  grid().setComboPosition(bottom, SaleCol::Kind, 0);
-  return {SaleStep::Done, bottom, SaleCol::Kind};
-}
-
-SaleStep SaleEntry::chooseItem(int row) {
-  if (!hasDay(row)) return {SaleStep::Done, row, SaleCol::Date};
-  const SaleSheet sheet = posting_.sheet();
-  std::optional<ItemChoice> item;
-  {
-    const QScopedValueRollback<bool> busy(searching_, true);
-    item = pickers_.searchSize(saleSearchCode(kindOf(row)), TradeSide::Sale);
-  }
-  if (!item) return {SaleStep::Done, row, SaleCol::Item};
-  SpreadModel& cells = grid();
-  const SaleRowBefore unchanged(posting_, row);
-  try {
-    posting_.session().wsMain.Together([&] {
-      // A line whose kind was passed over begins here, so that its item is written at once.
-      if (cells.text(row, SaleCol::Key).isEmpty() && !cells.text(row, SaleCol::Code).isEmpty())
-        changeKind(row);
-      cells.setText(row, SaleCol::Item, joinItem({item->name, item->size}));
-      cells.setText(row, SaleCol::Number, "1");
-      cells.setText(row, SaleCol::Unit, saleText(item->price));
-      if (sheet != SaleSheet::Volume) cells.setText(row, SaleCol::Income, saleText(item->price));
-      posting_.RecalcSaleRow(row, sheet);
-      posting_.PostSaleRow(row, sheet);
-    });
-  } catch (...) {
-    unchanged.putBack();
-    throw;
-  }
-  return after(row, SaleCol::Item);
-}
-
-SaleStep SaleEntry::choosePerson(int row) {
-  std::optional<QString> person;
-  {
-    const QScopedValueRollback<bool> busy(searching_, true);
-    person = pickers_.searchResponse();
-  }
-  if (!person) return {SaleStep::Done, row, SaleCol::Person};
-  const SaleRowBefore unchanged(posting_, row);
-  grid().setText(row, SaleCol::Person, *person);
-  try {
-    posting_.postPerson(row);
-  } catch (...) {
-    unchanged.putBack();
-    throw;
-  }
-  return after(row, SaleCol::Person);
-}
-
-bool SaleEntry::canTakeCaller(int col, const QString& cellText) const {
-  return !searching_ && col == SaleCol::Client && cellText.isEmpty();
-}
-
-std::optional<SaleStep> SaleEntry::TakeCallerNumber(const QString& number) {
-  const QString caller = number.isEmpty() ? calls_.TakeStanbyNumber() : number;
-  if (caller.isEmpty()) return {};
-  const TelNumber tel = FormatTel(caller);
-  const QString& n = tel.localPart;
-  Session& session = posting_.session();
-  jet::Recordset client;
-  SaleSheet wanted = posting_.sheet();
-  if (OpenSnapshot(session.prompts, session.dbYear, client,
-                   "Select VolumeYesNo From Client Where Tel Like '*" + plainText(n) + "' OR Tel1 Like '*" +
-                       plainText(n) + "'  OR Tel2 Like '*" + plainText(n) + "' OR UName Like '*" +
-                       plainText(n) + "'") &&
-      !client.atEnd())
-    wanted = client["VolumeYesNo"].toBool() ? SaleSheet::Volume : SaleSheet::General;
-  if (wanted != posting_.sheet()) posting_.FillSaleGrid(wanted, true);
-  const int bottom = grid().MaxRows();
-  if (posting_.beforeFill) posting_.beforeFill(posting_.sheet());
-  grid().setText(bottom, SaleCol::Client, tel.text);
-  return chooseClient(bottom, tel.text, true);
 }
 
 int SaleEntry::missingField(int row) {

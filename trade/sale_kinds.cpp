@@ -33,6 +33,13 @@ SaleKindList saleKindsOf(SaleSheet sheet) {
   return {gasKinds, int(std::size(gasKinds))};
 }
 
+const SaleKindRow* saleKindRow(int kind) {
+  for (const SaleSheet sheet : {SaleSheet::General, SaleSheet::Material})
+    for (const SaleKindRow& row : saleKindsOf(sheet))
+      if (row.code == kind) return &row;
+  return nullptr;
+}
+
 }  // namespace
 
 QStringList saleLabels(SaleSheet sheet) {
@@ -53,9 +60,12 @@ int salePositionOf(SaleSheet sheet, int kind) {
   return std::min(int(found - kinds.begin()), kinds.count - 1);
 }
 
+QString saleLabel(int kind) {
+  const SaleKindRow* const row = saleKindRow(kind);
+  return row ? QString::fromUtf16(row->label) : QString();
+}
+
 QString saleSearchCode(int kind) {
-  for (const SaleSheet sheet : {SaleSheet::General, SaleSheet::Material})
-    for (const SaleKindRow& row : saleKindsOf(sheet))
-      if (row.code == kind) return QString::fromUtf16(row.searchCode);
-  return {};
+  const SaleKindRow* const row = saleKindRow(kind);
+  return row ? QString::fromUtf16(row->searchCode) : QString();
 }

@@ -27,6 +27,9 @@ int saleKindAt(SaleSheet sheet, int position);
 /** Code to position. Kept: a code outside the sheet's kinds stands at the last position. */
 int salePositionOf(SaleSheet sheet, int kind);
 
+/** '' for a code outside the table. */
+QString saleLabel(int kind);
+
 /** What the item search is asked for; '' for kinds that have no item. */
 QString saleSearchCode(int kind);
 

@@ -25,10 +25,13 @@ bool SalePosting::setDate(const QString& typed) {
 }
 
 bool SalePosting::FillSaleGrid(SaleSheet sheet, bool showDay) {
-  if (beforeFill) beforeFill(sheet);
+  if (beforeFill) beforeFill();
+  KnownLines known;
+  if (!loadSaleSheet(session_, grid(sheet), sheet, {showDay, date_, client_}, known)) return false;
+  known_.swap(known);
   sheet_ = sheet;
   showDay_ = showDay;
-  return loadSaleSheet(session_, grid(sheet), sheet, {showDay, date_, client_});
+  return true;
 }
 
 void SalePosting::PostSaleRow(int row, SaleSheet sheet) {
@@ -39,19 +42,41 @@ void SalePosting::PostSaleRow(int row, SaleSheet sheet) {
       insertSkeleton(row, sheet, line);
       return;
     }
-    jet::Recordset before;
-    if (!OpenSnapshot(session_.prompts, session_.dbYear, before,
-                      "Select Trust, Income From Sale Where SaleID = " + plainNumber(line.key)))
-      return;
-    const bool found = before.RecordCount() > 0;
-    moveBalance(sheet, line, found ? before["Trust"].toLong() : 0, found ? before["Income"].toLong() : 0);
+    requireUnmoved(line.key);
+    const jet::Recordset before = session_.dbYear.OpenRecordset(
+        "Select Trust, Income From Sale Where SaleID = " + plainNumber(line.key));
+    moveBalance(sheet, line, before["Trust"].toLong(), before["Income"].toLong());
     ::ApplySaleStock(session_, line, StockMode::Change);
     if (line.item.isEmpty()) return;
     updateLine(sheet, line);
     // Kept: an older day takes the last date back.
     session_.dbYear.Execute("Update Client Set LastDate = '" + plainText(line.date) +
                             "' Where Code = " + plainNumber(line.code));
+    learn(line.key);
   });
+}
+
+void SalePosting::requireUnmoved(const QString& key) {
+  const jet::Recordset line =
+      session_.dbYear.OpenRecordset("Select * From Sale Where SaleID = " + plainNumber(key));
+  if (line.atEnd()) throw SaleLineMoved{SaleLineMoved::Deleted};
+  const auto known = known_.constFind(key);
+  if (known != known_.constEnd() && *known != storedSaleLine(line))
+    throw SaleLineMoved{SaleLineMoved::Changed};
+}
+
+void SalePosting::learn(const QString& key) {
+  known_[key] =
+      storedSaleLine(session_.dbYear.OpenRecordset("Select * From Sale Where SaleID = " + plainNumber(key)));
+}
+
+void SalePosting::tellMoved(const SaleLineMoved& moved) {
+  session_.prompts.MsgWarn(
+      moved.how == SaleLineMoved::Deleted
+          ? "다른 PC에서 이미 삭제한 자료입니다!\n화면을 다시 읽습니다."
+          : "다른 PC에서 먼저 변경한 자료입니다!\n화면을 다시 읽습니다. 확인 후 다시 입력하세요.",
+      "자료수정");
+  refill();
 }
 
 void SalePosting::insertSkeleton(int row, SaleSheet sheet, const SaleLine& line) {
@@ -64,6 +89,7 @@ void SalePosting::insertSkeleton(int row, SaleSheet sheet, const SaleLine& line)
       plainText(line.date) + "', " + plainNumber(line.code) + tail);
   const jet::Recordset key = session_.dbYear.OpenRecordset("Select Max(SaleID) As Saler from Sale");
   grid(sheet).setText(row, SaleCol::Key, key["Saler"].toText());
+  learn(key["Saler"].toText());
 }
 
 void SalePosting::moveBalance(SaleSheet sheet, const SaleLine& line, qint64 oldTrust, qint64 oldIncome) {
@@ -152,15 +178,27 @@ void SalePosting::ReverseSaleBalance(int row, const QString& label) {
 }
 
 bool SalePosting::deleteRow(int row) {
-  const QString key = grid(sheet_).text(row, SaleCol::Key);
-  if (key.isEmpty() || !session_.prompts.MsgAsk("선택한 자료를 삭제하시겠습니까?", "자료삭제")) return false;
-  const QString label = grid(sheet_).text(row, SaleCol::Kind);
-  session_.wsMain.Together([&] {
-    ReverseSaleBalance(row, label);
-    if (label != "가외" && label != "자외") ApplySaleStock(row, StockMode::Delete);
-    session_.dbYear.Execute("Delete From Sale Where SaleID = " + plainNumber(key));
-  });
-  refill();
+  const SpreadModel& cells = grid(sheet_);
+  const QString key = cells.text(row, SaleCol::Key);
+  if (key.isEmpty()) return false;
+  // The line is named, and a hasty Enter leaves it where it is.
+  const QString question = cells.text(row, SaleCol::Client) + "   " + cells.text(row, SaleCol::Item) + "   " +
+                           moneyText(saleFigure(cells.text(row, SaleCol::Number))) + "개   " +
+                           moneyText(saleFigure(cells.text(row, SaleCol::Amount))) +
+                           "원\n선택한 자료를 삭제하시겠습니까?";
+  if (!session_.prompts.MsgAsk(question, "자료삭제", false)) return false;
+  const QString label = cells.text(row, SaleCol::Kind);
+  try {
+    session_.wsMain.Together([&] {
+      requireUnmoved(key);
+      ReverseSaleBalance(row, label);
+      if (label != "가외" && label != "자외") ApplySaleStock(row, StockMode::Delete);
+      session_.dbYear.Execute("Delete From Sale Where SaleID = " + plainNumber(key));
+    });
+    refill();
+  } catch (const SaleLineMoved& moved) {
+    tellMoved(moved);
+  }
   return true;
 }
 
@@ -180,8 +218,12 @@ void SalePosting::postPerson(int row) {
   const QString person = cells.text(row, SaleCol::Person);
   const QString key = cells.text(row, SaleCol::Key);
   if (person.isEmpty() || key.isEmpty()) return;
-  session_.dbYear.Execute("Update Sale Set Response = '" + plainText(person) +
-                          "' Where SaleID = " + plainNumber(key));
+  session_.wsMain.Together([&] {
+    requireUnmoved(key);
+    session_.dbYear.Execute("Update Sale Set Response = '" + plainText(person) +
+                            "' Where SaleID = " + plainNumber(key));
+    learn(key);
+  });
 }
 
 SaleClientPanel SalePosting::panel(int row) {
@@ -199,4 +241,10 @@ SaleClientPanel SalePosting::panel(int row) {
           client["LastDate"].toText(),
           client["Memo"].toText(),
           client["Position"].toText().isEmpty() ? "약도없슴" : "약도있슴"};
+}
+
+std::vector<SaleLastLine> SalePosting::lastLines(int row) {
+  constexpr int shown = 5;
+  const QString code = grid(sheet_).text(row, SaleCol::Code);
+  return code.isEmpty() ? std::vector<SaleLastLine>() : lastSaleLines(session_, code, shown);
 }

@@ -17,14 +17,15 @@ QString sheetFilter(SaleSheet sheet) {
   return " AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = False ";
 }
 
-QString sheetStatement(int year, SaleSheet sheet, const SaleFilter& filter) {
+// The years between which lines are looked for are the PC clock's; the day is one of the working year.
+QString sheetStatement(int year, const QString& workYear, SaleSheet sheet, const SaleFilter& filter) {
   const QString thisYear = QString::number(year);
   const QString lastYear = QString::number(year - 1);
   return "Select Sale.*, Client.* From Sale Right Join Client On Sale.ClientCode = Client.Code "
          "Where Sale.SaleDate Between '" +
          plainText(lastYear) + "-01-01" + "' and '" + plainText(thisYear) + "-12-31' " + sheetFilter(sheet) +
          (filter.showDay
-              ? " And Sale.SaleDate = '" + plainText(thisYear) + "-" + plainText(filter.date) + "' "
+              ? " And Sale.SaleDate = '" + plainText(workYear) + "-" + plainText(filter.date) + "' "
               : " And Sale.ClientCode = " + QString::number(filter.client) + " ") +
          "Order By Sale.SaleDate, Sale.SaleID ";
 }
@@ -92,14 +93,25 @@ void lockForKind(SpreadModel& grid, int row, SaleSheet sheet) {
     grid.setLocked(row, col, collection);
 }
 
-bool loadSaleSheet(Session& session, SpreadModel& grid, SaleSheet sheet, const SaleFilter& filter) {
+QString storedSaleLine(const jet::Recordset& line) {
+  QStringList texts;
+  for (const char* const column : {"SaleDate", "ClientCode", "SaleGubun", "Gubun", "SaleName", "SaleThing",
+                                   "SaleNum", "SaleUnit", "DC", "Income", "Trust", "Response"})
+    texts << line[QString(column)].toText();
+  return texts.join(u'\n');
+}
+
+bool loadSaleSheet(Session& session, SpreadModel& grid, SaleSheet sheet, const SaleFilter& filter,
+                   KnownLines& known) {
   jet::Recordset lines;
-  // Kept: the year is the PC clock's, whichever file is open.
   if (!OpenSnapshot(session.prompts, session.dbYear, lines,
-                    sheetStatement(session.pc.clock.today().year(), sheet, filter)))
+                    sheetStatement(session.pc.clock.today().year(), session.WorkYear, sheet, filter)))
     return false;
   std::vector<std::vector<QString>> rows;
-  for (; !lines.atEnd(); lines.MoveNext()) rows.push_back(sheetRow(lines, sheet));
+  for (; !lines.atEnd(); lines.MoveNext()) {
+    rows.push_back(sheetRow(lines, sheet));
+    known[lines["SaleID"].toText()] = storedSaleLine(lines);
+  }
   rows.emplace_back();
   grid.setRows(std::move(rows));
   for (int row = 1; row < grid.MaxRows(); ++row) lockForKind(grid, row, sheet);

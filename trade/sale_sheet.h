@@ -1,5 +1,7 @@
 #pragma once
 // A sheet of the sale screen: its columns, and its rows read from the year file.
+#include <QHash>
+
 #include <vector>
 
 #include "store/session.h"
@@ -18,8 +20,15 @@ struct SaleFilter {
   qint64 client = 0;  ///< Client.Code
 };
 
+/** What a stored line holds of all that the sale screen writes, joined into one text: two of one line compare. */
+QString storedSaleLine(const jet::Recordset& line);
+
+/** By SaleID. */
+using KnownLines = QHash<QString, QString>;
+
 /**
- * Reads the sheet's lines into the grid, in order of date and entry, and leaves one empty row below them. False after
- * a failed query has been told; the grid is then as it was.
+ * Reads the sheet's lines into the grid, in order of date and entry, and leaves one empty row below them. known takes
+ * each line as it was read. False after a failed query has been told; the grid is then as it was.
  */
-bool loadSaleSheet(Session& session, SpreadModel& grid, SaleSheet sheet, const SaleFilter& filter);
+bool loadSaleSheet(Session& session, SpreadModel& grid, SaleSheet sheet, const SaleFilter& filter,
+                   KnownLines& known);

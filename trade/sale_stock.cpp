@@ -81,10 +81,8 @@ void ApplySaleStock(Session& session, const SaleLine& line, StockMode mode) {
                                  [&line](const KindStock& row) { return row.kind == line.kind; });
   if (kind == table.end()) return;
 
-  jet::Recordset stored;
-  if (!OpenSnapshot(session.prompts, session.dbYear, stored,
-                    u"Select * From Sale Where SaleID = "_s + line.key))
-    return;
+  const jet::Recordset stored =
+      session.dbYear.OpenRecordset(u"Select * From Sale Where SaleID = "_s + plainNumber(line.key));
   StockFigures figures;
   if (stored.RecordCount() > 0) {
     figures.storedPieces = stored[u"SaleNum"_s].toDouble();

@@ -60,12 +60,14 @@ QString DateBox::dateText() const {
 
 void DateBox::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
+  justEntered_ = event->reason() == Qt::MouseFocusReason;
   setCursorPosition(0);
 }
 
 void DateBox::mousePressEvent(QMouseEvent* event) {
   QLineEdit::mousePressEvent(event);
-  if (dateText().isEmpty()) setCursorPosition(0);
+  if (justEntered_ || dateText().isEmpty()) setCursorPosition(0);
+  justEntered_ = false;
 }
 
 TelBox::TelBox(QWidget* parent) : QLineEdit(parent) {

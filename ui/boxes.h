@@ -21,7 +21,8 @@ class MoneyBox : public QLineEdit {
   qint64 least_ = -999'999'999'999, most_ = 999'999'999'999;
 };
 
-/** A date behind the mask "0000\-00\-00", or "00\-00" for month and day. */
+/** A date behind the mask "0000\-00\-00", or "00\-00" for month and day. Whoever comes to it, by key or by mouse, types
+ *  over it from its first digit; a further click goes to a digit. */
 class DateBox : public QLineEdit {
  public:
   enum class Mask { YearMonthDay, MonthDay };
@@ -33,6 +34,9 @@ class DateBox : public QLineEdit {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  bool justEntered_ = false;  ///< by the mouse, whose press is still to come
 };
 
 /** Digits, dashes, blanks and parentheses; how a number is written out is the register's affair. */

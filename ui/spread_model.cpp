@@ -49,6 +49,7 @@ void SpreadModel::setMaxRows(int rows) {
     locks_.clear();
     colours_.clear();
     signs_.clear();
+    offers_.clear();
     tell(What::Reset, 0, 0);
   } else {
     tell(size_t(rows) > before ? What::RowsInserted : What::RowsRemoved, std::min(int(before), rows) + 1, 0);
@@ -86,6 +87,7 @@ void SpreadModel::setRows(std::vector<std::vector<QString>> rows) {
   locks_.clear();
   colours_.clear();
   signs_.clear();
+  offers_.clear();
   rows_.clear();
   rows_.reserve(rows.size());
   for (auto& cells : rows) {
@@ -106,6 +108,21 @@ void SpreadModel::setText(int row, int col, const QString& text) {
   cell = text;
   tell(What::Cells, row, col);
   if (!formulas_.empty()) follow(row, col);
+}
+
+void SpreadModel::setOffer(int row, int col, const QString& text) {
+  const quint64 cell = key(int(rows_.at(size_t(row - 1)).id), col);
+  if (offers_.value(cell) == text) return;
+  if (text.isEmpty())
+    offers_.remove(cell);
+  else
+    offers_[cell] = text;
+  tell(What::Cells, row, col);
+}
+
+QString SpreadModel::offer(int row, int col) const {
+  if (offers_.isEmpty() || row < 1 || row > MaxRows()) return {};
+  return offers_.value(key(int(rows_[size_t(row - 1)].id), col));
 }
 
 int SpreadModel::comboPosition(int row, int col) const {

@@ -53,6 +53,11 @@ class SpreadModel {
   const QString& text(int row, int col) const;
   void setText(int row, int col, const QString& text);
 
+  /** A text that the cell offers: shown in place of its own, faint and slanting, until '' takes it away; never part of
+   *  the cell's text. New rows offer nothing. */
+  void setOffer(int row, int col, const QString& text);
+  QString offer(int row, int col) const;
+
   /** A Combo cell's text as position in its list; -1 when it is none of them. */
   int comboPosition(int row, int col) const;
   void setComboPosition(int row, int col, int position);
@@ -109,6 +114,7 @@ class SpreadModel {
   QHash<quint64, bool> locks_;
   QHash<quint64, int> colours_;
   QHash<quint64, QString> signs_;
+  QHash<quint64, QString> offers_;
   qint64 nextId_ = 1;
   Observer observer_;
 };

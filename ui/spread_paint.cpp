@@ -147,8 +147,14 @@ void Spread::paintCell(QPainter& painter, int row, int col, const QRect& rect) {
     painter.drawText(inside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, sign);
     inside.setLeft(inside.left() + painter.fontMetrics().horizontalAdvance(sign) + 3);
   }
-  const QString& stored = model_.text(row, col);
+  const QString offered = model_.offer(row, col);
+  const QString& stored = offered.isEmpty() ? model_.text(row, col) : offered;
   if (stored.isEmpty()) return;
+  if (!offered.isEmpty()) {
+    QFont face = painter.font();
+    face.setItalic(true);
+    painter.setFont(face);
+  }
   const bool toTheRight = isRight(column);
   QString text = column.kind == CellKind::Money ? shownAmount(stored) : stored;
   const QFontMetrics metrics = painter.fontMetrics();
@@ -159,9 +165,16 @@ void Spread::paintCell(QPainter& painter, int row, int col, const QRect& rect) {
                : metrics.elidedText(text, Qt::ElideRight, inside.width());
   }
   const bool below = toTheRight && stored.startsWith(u'-');
-  painter.setPen(!isEnabled() ? look::disabledInk : below ? look::negative : look::ink);
+  painter.setPen(!isEnabled()         ? look::disabledInk
+                 : !offered.isEmpty() ? look::faintInk
+                 : below              ? look::negative
+                                      : look::ink);
   const auto side = toTheRight                          ? Qt::AlignRight
                     : column.align == CellAlign::Center ? Qt::AlignHCenter
                                                         : Qt::AlignLeft;
   painter.drawText(inside, side | Qt::AlignVCenter | Qt::TextSingleLine, text);
+  if (offered.isEmpty()) return;
+  QFont upright = painter.font();
+  upright.setItalic(false);
+  painter.setFont(upright);
 }

@@ -77,6 +77,8 @@ QTabBar::tab:selected { background: #FFFFFF; color: #2B5F9E; border-top: 2px sol
 #pnlCaption { background: #FFFFFF; border: 1px solid #2B5F9E; color: #1F2733; padding: 10px 24px; }
 #LblBottom { background: #E8ECF1; border: 1px solid #C9D0D8; border-left: none; color: #4A5565; padding: 2px 8px; }
 QLabel[role="value"] { background: #FFFFFF; border: 1px solid #C9D0D8; padding: 1px 4px; min-height: 1.5em; }
+QLabel[role="faint"] { color: #6B7583; }
+#PnlTrust, #PnlLast { background: #FFFFFF; border: 1px solid #C9D0D8; }
 QLabel[role="title"] { color: #2B5F9E; }
 QLabel[role="status"] { background: #DCE8F6; color: #1F2733; padding: 0 4px; }
 QMenuBar { background: #F3F4F6; border-bottom: 1px solid #C9D0D8; }

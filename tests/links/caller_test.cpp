@@ -42,10 +42,12 @@ struct FakeControl : SeeIdControl {
 struct FakeForm : CallerTarget {
   bool TakeCallerNumber(const QString& number) override {
     taken = number;
+    if (during) during();
     return ready;
   }
   QString taken;
   bool ready = true;
+  std::function<void()> during;
 };
 
 struct CallerTest : ::testing::Test, tests::TestPc {
@@ -86,6 +88,7 @@ TEST_F(CallerTest, AFailedPortIsToldAndTheNextGoesOn) {
 }
 
 TEST_F(CallerTest, ACallGoesToTheFormInFrontElseIntoTheList) {
+  const QString today = pc.clock.dateText();
   caller.deviceEvent(1, "0531234567");
   active = &form;
   caller.deviceEvent(0, "0539999999");
@@ -93,10 +96,14 @@ TEST_F(CallerTest, ACallGoesToTheFormInFrontElseIntoTheList) {
   caller.deviceEvent(2, "0212345678");
   EXPECT_EQ(form.taken, "0212345678");
   form.ready = false;
+  pc.clock.set(QDateTime({2026, 3, 5}, {9, 0}));
+  form.during = [this] { pc.clock.set(QDateTime({2026, 3, 5}, {9, 30})); };
   caller.deviceEvent(1, "0533334444");
   ASSERT_EQ(waiting.entries().size(), 2);
-  EXPECT_TRUE(waiting.entries()[0].startsWith("0531234567 [" + pc.clock.dateText() + " "));
+  EXPECT_TRUE(waiting.entries()[0].startsWith("0531234567 [" + today + " "));
   EXPECT_TRUE(waiting.entries()[0].endsWith("]"));
+  EXPECT_TRUE(waiting.entries()[1].contains(" 09:00:")) << "the call's own time, however long the form asked";
+  EXPECT_EQ(waiting.OldestStanbyNumber(), "0531234567");
   EXPECT_EQ(waiting.TakeStanbyNumber(), "0531234567") << "the oldest first";
   EXPECT_EQ(waiting.TakeStanbyNumber(), "0533334444");
   EXPECT_EQ(waiting.TakeStanbyNumber(), "");

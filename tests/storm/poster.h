@@ -48,6 +48,7 @@ struct ChosenPickers : Pickers {
 };
 
 struct NobodyCalls : WaitingCalls {
+  QString OldestStanbyNumber() const override { return {}; }
   QString TakeStanbyNumber() override { return {}; }
 };
 

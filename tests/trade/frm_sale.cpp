@@ -2,9 +2,14 @@
 #include "trade/frmSale.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 
@@ -32,9 +37,10 @@ struct SaleScreen : tests::SaleDesk {
   QString at() { return QString::number(grid()->activeRow()) + u',' + QString::number(grid()->activeCol()); }
   void press(Qt::Key key) { tests::key(key); }
   void type(const char* text) { tests::type(text); }
-  /** The combo's list, opened by Enter: so many steps down, then Enter. */
+  /** Enter takes the kind of a new line; another one is so many steps down the list that the Down key opens. */
   void chooseKind(int stepsDown) {
-    press(Qt::Key_Return);
+    if (stepsDown == 0) return press(Qt::Key_Return);
+    press(cell(grid()->activeRow(), SaleCol::Key).isEmpty() ? Qt::Key_Down : Qt::Key_Return);
     auto* const list = grid()->findChild<QListWidget*>("SpreadList");
     ASSERT_TRUE(list && list->isVisible());
     for (int step = 0; step < stepsDown; ++step) QTest::keyClick(list, Qt::Key_Down);
@@ -191,6 +197,28 @@ TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
   EXPECT_EQ(sale.at(), "2,1");
 }
 
+TEST(FrmSale, ACustomerOfAnotherSheetLeavesNoCellOpenOnTheOldOne) {
+  SaleScreen sale;
+  sale.run(
+      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum) "
+      "Values('2026-03-05', 3, 1, True, 'LPG', '20', 1)");
+  Spread* const old = sale.grid();
+  sale.customer("bd", SaleScreen::Metered, "별빛 3동");
+  EXPECT_EQ(sale.tabs()->currentIndex(), 1);
+  EXPECT_EQ(sale.at(), "2,3");
+  EXPECT_FALSE(old->isEditing());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(sale.cell(1, SaleCol::Client) + sale.cell(2, SaleCol::Client), "별빛 3동별빛 3동");
+  // A cell of the hidden sheet is finished after all: it has no row on this one.
+  old->setActiveCell(1, SaleCol::Number);
+  old->beginEdit();
+  old->findChild<QLineEdit*>("SpreadLine")->setText("7");
+  EXPECT_FALSE(old->commitEdit());
+  EXPECT_FALSE(old->isEditing());
+  EXPECT_EQ(sale.cell(1, SaleCol::Number) + sale.cell(2, SaleCol::Number), "1");
+  EXPECT_TRUE(sale.form.close());
+}
+
 TEST(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
   SaleScreen sale;
   sale.type("9");
@@ -204,10 +232,106 @@ TEST(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
 
   sale.press(Qt::Key_Escape);
   sale.calls.numbers = {"0531234567"};
-  sale.pickers.clients = {ClientChoice{1, "산골식당"}};
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.tabs()->currentIndex(), 0) << "Enter on the empty cell fetches the waiting call";
   EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Client), "1,3 산골식당");
+  sale.press(Qt::Key_Escape);
+  EXPECT_FALSE(sale.form.TakeCallerNumber("0539998888")) << "nobody was chosen: the list keeps the call";
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+}
+
+TEST(FrmSale, ACallIsNotDroppedOnTheDateNorBehindABox) {
+  SaleScreen sale;
+  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+  date->setFocus();
+  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567")) << "leaving the date would read the sheet anew";
+  QTest::keyClick(date, Qt::Key_Return);
+  QCoreApplication::processEvents();
+  QDialog box;
+  box.setModal(true);
+  tests::show(box);
+  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
+  box.close();
+  EXPECT_TRUE(sale.form.TakeCallerNumber("0531234567"));
+}
+
+TEST(FrmSale, ACallBringsTheScreenOutOfTheCornerItWasPutIn) {
+  tests::SaleDesk desk;
+  tests::IdleCommands commands;
+  FormContext context{desk.pc.session, desk.pickers, commands, desk.calls};
+  QMainWindow window;
+  auto* const area = new QMdiArea;
+  window.setCentralWidget(area);
+  auto* const form = new frmSale(context);
+  QMdiSubWindow* const frame = area->addSubWindow(form);
+  tests::show(window);
+  form->show();
+  form->findChild<QTabWidget*>("TabSale")->currentWidget()->setFocus();
+  frame->showMinimized();
+  window.showMinimized();
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(frame->isMinimized() && window.isMinimized());
+  EXPECT_TRUE(form->TakeCallerNumber("0531234567"));
+  EXPECT_FALSE(frame->isMinimized() || window.isMinimized());
+  EXPECT_TRUE(form->isVisible());
+}
+
+TEST(FrmSale, KeysAndButtonsKeepTheHandOnTheGrid) {
+  SaleScreen sale;
+  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+  QTest::mouseClick(date, Qt::LeftButton, {}, date->rect().center() + QPoint(12, 0));
+  EXPECT_TRUE(date->hasFocus());
+  QTest::keyClicks(date, "0314");
+  EXPECT_EQ(date->text(), "03-14");
+  QTest::keyClick(date, Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(sale.pc.session.SaleDay, "");
+  sale.press(Qt::Key_F5);
+  EXPECT_EQ(sale.pc.session.SaleDay, "2026-03-14");
+
+  tests::key(Qt::Key_D, Qt::AltModifier);
+  EXPECT_TRUE(date->hasFocus()) << "a key reaches the date from the grid";
+  sale.grid()->setFocus();
+  QCoreApplication::processEvents();
+  sale.form.findChild<QPushButton*>("CmdCIDList")->click();
+  EXPECT_TRUE(sale.grid()->isAncestorOf(QApplication::focusWidget()));
+  auto* const map = sale.form.findChild<QPushButton*>("BtnMap");
+  map->setFocus();
+  sale.pc.prompts.expect("약도를 출력할 고객을 먼저 선택하십시오");
+  tests::key(Qt::Key_Space);
+  EXPECT_TRUE(sale.grid()->isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST(FrmSale, AnOpenCellIsTakenOnTheWayToTheDate) {
+  SaleScreen sale;
+  sale.customer("1", SaleScreen::Plain, "산골식당");
+  sale.chooseKind(0);
+  sale.item("20", 40000);
+  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+  QCoreApplication::processEvents();
+  tests::show(sale.form);
+  sale.grid()->setFocus();
+  sale.asked();
+  sale.type("39000");
+  QTest::mouseClick(date, Qt::LeftButton);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(sale.rows("Select Income From Sale"), "39000");
+  EXPECT_TRUE(date->hasFocus()) << "the click was meant for the date";
+}
+
+TEST(FrmSale, OnlyThePlainDeleteKeyDeletes) {
+  SaleScreen sale;
+  sale.customer("1", SaleScreen::Plain, "산골식당");
+  sale.chooseKind(0);
+  sale.item("20", 40000);
+  for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
+    tests::key(Qt::Key_Delete, modifier);
+    if (modifier != Qt::ControlModifier) tests::key(Qt::Key_F4, modifier);  // which closes the window
+  }
+  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "1");
+  sale.pc.prompts.expect("산골식당   LPG / 20   1개   40,000원");
+  tests::key(Qt::Key_Delete, Qt::KeypadModifier);
+  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "0");
 }
 
 TEST(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
@@ -217,8 +341,8 @@ TEST(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
   QCoreApplication::sendEvent(QApplication::focusWidget(), &next);
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.pickers.asked.value(0), "client 산골 2 0");
-  EXPECT_TRUE(sale.grid()->isEditing()) << "nobody chosen: the text stays open";
-  EXPECT_EQ(sale.at(), "1,2");
+  EXPECT_FALSE(sale.grid()->isEditing());
+  EXPECT_EQ(sale.at() + sale.cell(1, SaleCol::Client), "1,2") << "nobody chosen: the cell is empty again";
 }
 
 TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {

@@ -3,6 +3,7 @@
 #include <deque>
 
 #include "tests/idle_context.h"
+#include "tests/master/other_pc.h"
 #include "tests/support.h"
 #include "trade/sale_entry.h"
 
@@ -43,6 +44,7 @@ class TradePickers : public IdlePickers {
 
 struct CallQueue : WaitingCalls {
   QStringList numbers;
+  QString OldestStanbyNumber() const override { return numbers.value(0); }
   QString TakeStanbyNumber() override { return numbers.isEmpty() ? QString() : numbers.takeFirst(); }
 };
 
@@ -90,6 +92,23 @@ struct SaleDesk {
   /** Receivables for gas and for materials. */
   QString balance(int client = Plain) {
     return rows("Select GasInit, UtilInit From Client Where Code = " + QString::number(client));
+  }
+};
+
+/** A second PC on the desk's folder, with the sale screen's rules. */
+struct OtherDesk {
+  OtherPc at;
+  ScriptedPrompts& prompts = at.prompts;
+  TradePickers pickers;
+  CallQueue calls;
+  SalePosting posting{at.session};
+  SaleEntry entry{posting, pickers, calls};
+
+  explicit OtherDesk(SaleDesk& desk) : at(desk.pc) {
+    at.pc.clock.set(desk.pc.pc.clock.now());
+    at.session.StockEnabled = true;
+    posting.setDate(at.pc.clock.dateText().right(5));
+    posting.FillSaleGrid(SaleSheet::General, true);
   }
 };
 

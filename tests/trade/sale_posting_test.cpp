@@ -164,6 +164,23 @@ TEST(SalePosting, OnTheVolumeSheetAmountAndCreditStayZero) {
   EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Unit, {}).row, 0) << "Enter stays on the volume sheet";
 }
 
+TEST(SalePosting, TheDeletionNamesItsLine) {
+  Sale sale;
+  const int row = sale.gasLine();
+  sale.pc.prompts.expect("산골식당   LPG / 20   1개   40,000원\n선택한 자료를 삭제하시겠습니까?", false);
+  EXPECT_FALSE(sale.posting.deleteRow(row));
+  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "1");
+}
+
+TEST(SalePosting, TheDayViewTakesTheWorkingYear) {
+  Sale sale;
+  sale.gasLine();
+  sale.run("Update Sale Set SaleDate = '2025-03-05'");
+  sale.pc.session.WorkYear = "2025";
+  sale.posting.FillSaleGrid(SaleSheet::General, true);
+  EXPECT_EQ(sale.cell(1, SaleCol::Item), "LPG / 20");
+}
+
 TEST(SalePosting, TheAmountIsOnlyLoweredAndTheIncomeNeverAboveIt) {
   Sale sale;
   const int row = sale.gasLine();
@@ -217,8 +234,8 @@ TEST(SalePosting, AFailedStepLeavesThoseBeforeItAndTheRowAsItWas) {
   const int row = sale.gasLine();
   sale.change(row, SaleCol::Income, "30000");
   sale.pc.prompts.expect("선택된 자료를");
-  EXPECT_THROW(sale.entry.finishCell(row, SaleCol::Item, "L'PG / 20"), jet::Error);
-  EXPECT_EQ(sale.cell(row, SaleCol::Item), "LPG / 20");
+  EXPECT_THROW(sale.entry.finishCell(row, SaleCol::Person, "박'기사"), jet::Error);
+  EXPECT_EQ(sale.cell(row, SaleCol::Person), "");
   sale.pc.session.StockEnabled = false;
   sale.cells().setText(row, SaleCol::Item, "L'PG / 20");
   sale.cells().setText(row, SaleCol::Trust, "15000");
@@ -304,27 +321,97 @@ TEST(SaleEntry, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
   EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Person, {}).col, SaleCol::Client);
 }
 
-TEST(SaleEntry, ACallersNumberPicksTheSheetAndSearches) {
+TEST(SaleEntry, NobodyChosenLeavesTheCustomerCellEmpty) {
   Sale sale;
-  sale.pickers.clients = {ClientChoice{3, "별빛 3동"}};
+  SaleStep step = sale.entry.enterKey(1, SaleCol::Client, "산골");
+  EXPECT_EQ(step.end, SaleStep::PutBack) << "nothing is open any more";
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  const int row = sale.newRow(Sale::Plain, "산골식당");
+  sale.entry.enterKey(row, SaleCol::Client, "한빛");
+  EXPECT_EQ(sale.cell(row, SaleCol::Client) + sale.cell(row, SaleCol::Code), "산골식당1") << "chosen before";
+  sale.entry.finishCell(row, SaleCol::Client, "한빛");
+  EXPECT_EQ(sale.cell(row, SaleCol::Client) + sale.cell(row, SaleCol::Code), "");
+  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "0") << "no line for a customer whom nobody sees";
+}
+
+TEST(SaleEntry, TheWholeNumberOfACallerComesFirstOverAllCustomers) {
+  Sale sale;
   sale.pickers.during = [&] { EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Client, {})); };
   ASSERT_TRUE(sale.entry.canTakeCaller(SaleCol::Client, {}));
   EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Client, "김"));
   EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Date, {}));
+  // A meter customer of another area, found first by the end of the number.
+  sale.run("Update Client Set Tel2 = '02-123-4567' Where Code = 3");
+  sale.run("Update Client Set UName = '9999 4567' Where Code = 2");
+  const auto landed = sale.entry.TakeCallerNumber("0531234567");
+  ASSERT_TRUE(landed);
+  EXPECT_EQ(landed->end, SaleStep::Done);
+  EXPECT_EQ(landed->col, SaleCol::Kind);
+  EXPECT_EQ(sale.cell(landed->row, SaleCol::Client), "산골식당");
+  EXPECT_EQ(sale.entry.TakeCallerNumber("99994567")->end, SaleStep::Done) << "the search name, other dashes";
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "한빛 101동 202호");
+  sale.posting.FillSaleGrid(SaleSheet::Material, true);
+  EXPECT_EQ(sale.entry.TakeCallerNumber("021234567")->end, SaleStep::Done);
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
+  EXPECT_TRUE(sale.pickers.asked.isEmpty()) << "nobody had to be looked for";
+}
+
+TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
+  Sale sale;
+  sale.pickers.clients = {ClientChoice{3, "별빛 3동"}, ClientChoice{2, "한빛 101동 202호"}};
   const auto landed = sale.entry.TakeCallerNumber("0533456789");
   ASSERT_TRUE(landed);
+  EXPECT_EQ(sale.pickers.asked.last(), "client 053-345-6789 2 1") << "over all customers, as a list";
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
-  EXPECT_EQ(sale.pickers.asked.last(), "client 053-345-6789 1 1");
   EXPECT_EQ(landed->col, SaleCol::Kind);
+  EXPECT_EQ(sale.entry.TakeCallerNumber("0533456789")->end, SaleStep::Done);
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::General) << "the one chosen decides the sheet";
 
-  EXPECT_FALSE(sale.entry.TakeCallerNumber({})) << "nobody waits";
-  sale.calls.numbers = {"0531234567", "0210000000"};
-  sale.entry.TakeCallerNumber({});
-  EXPECT_EQ(sale.posting.sheet(), SaleSheet::General);
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "053-123-4567") << "not chosen: the number stays to be seen";
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
-  sale.entry.TakeCallerNumber({});
+  EXPECT_FALSE(sale.entry.TakeCallerNumber({})) << "nobody waits";
+  sale.calls.numbers = {"0212345678", "0533456789"};
+  EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, SaleStep::PutBack) << "nobody chosen";
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Material) << "an unknown number leaves the sheet";
+  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  EXPECT_EQ(sale.calls.numbers, QStringList{"0533456789"}) << "fetched";
+  sale.pc.session.dbYear.Close();
+  EXPECT_THROW(sale.entry.TakeCallerNumber({}), jet::Error);
+  EXPECT_EQ(sale.calls.numbers, QStringList{"0533456789"}) << "a failure loses no call";
+}
+
+TEST(SaleEntry, AnItemTypedInItsCellIsOneOfTheCatalogueOrNothing) {
+  Sale sale;
+  sale.run("Update LPG Set LPGSelling = 27000 Where Size = '50'");
+  const int row = sale.newRow(Sale::Plain, "산골식당");
+  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Item, "50").col, SaleCol::Amount) << "a size is enough";
+  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|50|1|27000|0|27000|0");
+  EXPECT_TRUE(sale.pickers.asked.filter("item").isEmpty());
+  for (const char* const nothing : {"45", "lpg", "LPG / 45", "밸브 / 15A", ""}) {
+    sale.pc.prompts.expect("등록된 품명이 아닙니다!");
+    EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Item, nothing).end, SaleStep::Refused) << nothing;
+  }
+  sale.entry.enterKey(row, SaleCol::Item, "lpg");
+  EXPECT_EQ(sale.pickers.asked.last(), "item 1") << "two sizes of that name: the list";
+  sale.change(row, SaleCol::Number, "3");
+  sale.change(row, SaleCol::Item, "lpg / 20");
+  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|3|27000|0|81000|0") << "another whole name keeps the figures";
+}
+
+TEST(SaleEntry, ALineTooLargeForTheBookIsToldBeforeAnythingIsWritten) {
+  Sale sale;
+  const int row = sale.gasLine();
+  const QString before = sale.figures(row) + sale.line(1) + sale.stock() + sale.balance();
+  for (const auto& [col, typed] :
+       {std::pair(SaleCol::Number, "25000"), std::pair(SaleCol::Discount, "-999970000")}) {
+    sale.pc.prompts.expect("선택된 자료를");
+    sale.pc.prompts.expect("한 줄의 금액은 999,999,999원을 넘을 수 없습니다!");
+    EXPECT_EQ(sale.entry.finishCell(row, col, typed).end, SaleStep::Refused);
+    EXPECT_EQ(sale.figures(row) + sale.line(1) + sale.stock() + sale.balance(), before);
+  }
+  sale.change(row, SaleCol::Number, "24999");
+  EXPECT_EQ(sale.cell(row, SaleCol::Amount), "999960000");
 }
 
 }  // namespace

@@ -1,0 +1,21 @@
+#pragma once
+// A customer's last lines beside the sale screen's panel: small, quiet, only to be looked at.
+#include <QWidget>
+
+#include <array>
+#include <vector>
+
+#include "trade/sale_history.h"
+
+class QLabel;
+
+class LastLines : public QWidget {
+ public:
+  explicit LastLines(QWidget* parent = nullptr);
+  /** Newest first; those beyond the panel's five are left out. */
+  void show(const std::vector<SaleLastLine>& lines);
+
+ private:
+  static constexpr int rows = 5, columns = 6;
+  std::array<std::array<QLabel*, columns>, rows> cells_{};
+};

@@ -1,0 +1,31 @@
+#include "trade/sale_items.h"
+
+#include <algorithm>
+
+#include "master/size_search.h"
+#include "trade/item_text.h"
+#include "trade/sale_kinds.h"
+
+namespace {
+
+bool isSameText(const QString& one, const QString& other) {
+  return one.trimmed().compare(other.trimmed(), Qt::CaseInsensitive) == 0;
+}
+
+}  // namespace
+
+std::vector<ItemChoice> saleItemsNamed(Session& session, int kind, const QString& typed) {
+  SpreadModel list;
+  if (typed.trimmed().isEmpty() || !SizeSearch(session, saleSearchCode(kind), TradeSide::Sale).load(list))
+    return {};
+  std::vector<ItemChoice> whole, ofSize, ofName;
+  for (int row = 1; row <= list.MaxRows(); ++row) {
+    const std::optional<ItemChoice> item = SizeSearch::choice(list, row);
+    if (!item) continue;
+    const ItemText text = splitItem(typed);
+    if (isSameText(text.name, item->name) && isSameText(text.size, item->size)) whole.push_back(*item);
+    if (isSameText(typed, item->size)) ofSize.push_back(*item);
+    if (isSameText(typed, item->name)) ofName.push_back(*item);
+  }
+  return !whole.empty() ? whole : !ofSize.empty() ? ofSize : ofName;
+}
