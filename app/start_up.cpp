@@ -41,6 +41,13 @@ bool StartUp::begin() {
   failures_ = 0;
   screen_ = {};
   session_.AppTitle = u"해온판매"_s;
+  // Without them the data would be looked for in the installed folder, and made anew there.
+  if (!session_.pc.settings.canBeRead(session_.AppTitle)) {
+    session_.prompts.MsgWarn(
+        u"프로그램의 설정을 읽을 수 없어 시작하지 않았습니다.\n"
+        u"디스크와 사용 권한을 확인하고 다시 하세요. 저장된 자료는 그대로 있습니다."_s);
+    return false;
+  }
   session_.DbPath = dataFolder(session_);
   return !reachDataFolder(session_).any() && prepareDataFolder(session_);
 }

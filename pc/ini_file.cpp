@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSaveFile>
+#include <filesystem>
 
 namespace pc {
 
@@ -70,12 +71,22 @@ IniFile::Entry* IniFile::find(Entries& entries, const QString& section, const QS
   return nullptr;
 }
 
-IniFile::Entries IniFile::read() const {
+std::optional<IniFile::Entries> IniFile::read() const {
+  auto entries = tryRead();
+  return entries ? entries : tryRead();  // a disk or network that failed once
+}
+
+std::optional<IniFile::Entries> IniFile::tryRead() const {
+  std::error_code unanswered;
+  const auto found = std::filesystem::status(file_.toStdU16String(), unanswered);
+  if (found.type() == std::filesystem::file_type::not_found) return Entries();
   QFile file(file_);
   if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray bytes = file.readAll();
+  if (file.error() != QFile::NoError || bytes.size() != file.size()) return {};
   Entries entries;
   QString section;
-  const QString text = QString::fromUtf8(file.readAll());
+  const QString text = QString::fromUtf8(bytes);
   for (QStringView line : QStringView(text).split(u'\n')) {
     if (line.endsWith(u'\r')) line.chop(1);
     if (line.startsWith(u'[') && line.endsWith(u']')) {
@@ -92,9 +103,15 @@ void IniFile::refresh() const {
   const QFileInfo info(file_);
   const QDateTime stamp = info.lastModified();
   if (readSize_ == info.size() && readAt_ == stamp) return;
-  entries_ = read();
+  const auto entries = read();
+  if (!entries) return;
+  entries_ = *entries;
   readAt_ = stamp;
   readSize_ = info.size();
+}
+
+bool IniFile::canBeRead() const {
+  return unsaved_ || read().has_value();
 }
 
 bool IniFile::write(const Entries& entries) const {
@@ -121,7 +138,11 @@ bool IniFile::change(const QString& section, const QString& key, const QString* 
   // Another program may be writing the same file: what it wrote is read again under the lock.
   QLockFile lock(file_ + QStringLiteral(".lock"));
   const bool locked = lock.tryLock(2000);
-  if (locked && !unsaved_) entries_ = read();
+  if (!unsaved_) {
+    const auto stored = read();
+    if (!stored) return false;  // what it holds besides would be lost
+    if (locked) entries_ = *stored;
+  }
   if (Entry* entry = find(entries_, section, key)) {
     if (value) {
       entry->value = *value;

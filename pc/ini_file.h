@@ -4,6 +4,7 @@
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 namespace pc {
 
@@ -16,6 +17,8 @@ class IniFile {
   /** False when the file cannot be written; the value then holds for this object alone. */
   bool setValue(const QString& section, const QString& key, const QString& value);
   bool remove(const QString& section, const QString& key);
+  /** False when the file is there and cannot be read: what it holds is not known, and nothing is written over it. */
+  bool canBeRead() const;
   /** The keys of a section as they were written first, in the file's order. */
   QStringList keys(const QString& section) const;
 
@@ -26,7 +29,8 @@ class IniFile {
   using Entries = QList<Entry>;
 
   void refresh() const;
-  Entries read() const;
+  std::optional<Entries> read() const;
+  std::optional<Entries> tryRead() const;
   bool write(const Entries& entries) const;
   bool change(const QString& section, const QString& key, const QString* value);
   static Entry* find(Entries& entries, const QString& section, const QString& key);

@@ -17,6 +17,9 @@ class Settings {
   bool SaveSetting(const QString& application, const QString& section, const QString& key,
                    const QString& value);
 
+  /** False when the application's file is there and cannot be read. */
+  bool canBeRead(const QString& application) const { return fileOf(application).canBeRead(); }
+
  private:
   IniFile& fileOf(const QString& application) const;
 
