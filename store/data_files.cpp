@@ -7,6 +7,7 @@
 
 #include "store/data_access.h"
 #include "store/jet/error_texts.h"
+#include "store/jet/file_system.h"
 #include "store/jet/presence.h"
 #include "store/session.h"
 
@@ -18,20 +19,12 @@ const QString templateYear = u"2002"_s;
 const QString journalEnding = u"-journal"_s;
 constexpr int patience = 15000;  // milliseconds for another program that makes the same file
 
-/** Whether a file is there; a disk or network that does not answer is no answer. Throws jet::Error 3043. */
-bool isThere(const pc::Paths& paths, const QString& written) {
-  std::error_code failure;
-  const auto found = std::filesystem::status(paths.native(written).toStdU16String(), failure);
-  if (found.type() == std::filesystem::file_type::none) throw jet::errorOf(3043, written);
-  return exists(found);
-}
-
 /** A file that was taken away while it was written is never made anew: its journal would be played into the new one. */
 void checkJournals(const Session& session) {
   const pc::Paths& paths = session.pc.paths;
-  for (const QString& journal : paths.list(session.DbPath, u"*.mdb"_s + journalEnding)) {
+  for (const QString& journal : filesIn(paths, session.DbPath, u"*.mdb"_s + journalEnding)) {
     const QString file = session.DbPath + journal.chopped(journalEnding.size());
-    if (!isThere(paths, file)) throw jet::missingFile(file);
+    if (!isThere(paths, file)) jet::requireFile(paths.native(file));
   }
 }
 
@@ -44,7 +37,7 @@ void fillFixedRegulators(const jet::Database& basic) {
 }
 
 bool holdsYears(const Session& session) {
-  QStringList files = session.pc.paths.list(session.DbPath, u"*Foundation.mdb"_s);
+  QStringList files = filesIn(session.pc.paths, session.DbPath, u"*Foundation.mdb"_s);
   files.removeIf([](const QString& name) { return name.startsWith(templateYear); });
   return !files.isEmpty();
 }
@@ -63,6 +56,26 @@ bool mayBegin(Session& session) {
 }
 
 }  // namespace
+
+bool isThere(const pc::Paths& paths, const QString& written) {
+  // Names are found without regard to case by reading folders; one that was not read would hide the file.
+  return jet::isThere(paths.native(written)) || jet::isThere(paths.native(written));
+}
+
+QStringList filesIn(const pc::Paths& paths, const QString& folder, const QString& pattern) {
+  namespace fs = std::filesystem;
+  QStringList names;
+  if (!isThere(paths, folder)) return names;
+  std::error_code failure;
+  for (fs::directory_iterator at(paths.native(folder).toStdU16String(), failure), end; !failure && at != end;
+       at.increment(failure)) {
+    const QString name = QString::fromStdU16String(at->path().filename().u16string());
+    if (QDir::match(pattern, name)) names << name;
+  }
+  if (failure) throw jet::errorOf(3043, folder);
+  names.sort(Qt::CaseInsensitive);
+  return names;
+}
 
 QString installedDataFolder() {
   return u"C:\\RWGas\\Dbs\\"_s;
@@ -98,8 +111,9 @@ bool makeDataFile(const Session& session, const QString& path, schema::File kind
   const QString made = session.pc.paths.native(path), unfinished = made + u".new"_s;
   const jet::AloneWith alone(made, patience);
   if (isThere(session.pc.paths, path)) return false;
-  if (QFileInfo::exists(made + journalEnding)) throw jet::missingFile(made);
-  QFile::remove(unfinished);
+  jet::requireNothing(made);
+  for (const QString& left : {unfinished, unfinished + journalEnding})
+    QFile::remove(left);  // of a start that failed
   {
     const jet::Workspace workspace{jet::Workspace::Options{}};
     const jet::Database file = workspace.CreateDatabase(unfinished);
@@ -169,7 +183,7 @@ void makeYearFile(Session& session, const QString& year) {
   if (isThere(paths, path)) return;
   const jet::AloneWith alone(paths.native(path), patience);
   if (isThere(paths, path)) return;
-  if (paths.exists(path + journalEnding)) throw jet::missingFile(path);
+  jet::requireNothing(paths.native(path));
   const QString empty = yearFile(session, templateYear);
   if (isThere(paths, empty) && !isYearFile(paths.native(empty))) {
     throw jet::Error(3049, empty + u" 견본 파일이 손상되어 "_s + year +

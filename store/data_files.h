@@ -1,6 +1,7 @@
 #pragma once
 // The data folder: where its files lie, what a new one holds, and whether it can be worked in.
 #include <QString>
+#include <QStringList>
 
 #include "store/schema.h"
 
@@ -18,6 +19,12 @@ QString yearFile(const Session& session, const QString& year);
 
 /** A workspace on a data folder's files. */
 jet::Workspace openWorkspace(const Session& session, const QString& folder);
+// A disk or network that does not answer is no answer: both throw jet::Error 3043.
+/** Whether a file is there. */
+bool isThere(const pc::Paths& paths, const QString& written);
+/** Names of a folder's files that match a pattern with * and ?, sorted; none where the folder is missing. */
+QStringList filesIn(const pc::Paths& paths, const QString& folder, const QString& pattern);
+
 /** Makes a data folder that is missing, closed to other accounts of the PC; true when it stands afterwards. */
 bool makeDataFolder(const pc::Paths& paths, const QString& folder);
 /** Makes a data file with its empty tables (and the rows it starts with); the name is taken only when all is done. False

@@ -5,6 +5,7 @@
 
 #include "store/data_access.h"
 #include "store/data_files.h"
+#include "store/jet/error_texts.h"
 #include "store/schema.h"
 #include "store/session.h"
 
@@ -23,6 +24,21 @@ const jet::Field* fieldOf(const jet::TableDef& table, const QString& name) {
 
 bool hasField(const jet::Database& db, const QString& table, const QString& field) {
   return fieldOf(db.tableDef(table), field) != nullptr;
+}
+
+/** False for a file that is none of ours or not there: such a step ends quietly. A disk or network that does not answer
+ *  is told, or the start would go on without the step. */
+bool opens(const Session& session, const jet::Workspace& workspace, jet::Database& db, const QString& path) {
+  db.Close();
+  try {
+    db = workspace.OpenDatabase(path);
+    return true;
+  } catch (const jet::Error& error) {
+    const bool missing = error.number() == 3024 || error.number() == 3044;
+    if (error.number() == 3043) throw;
+    if (missing && isThere(session.pc.paths, path)) throw jet::errorOf(3043, path);
+    return false;
+  }
 }
 
 jet::Field newField(const QString& name, jet::Type type, int size = 0) {
@@ -72,32 +88,32 @@ void linkAnew(const jet::Database& year, const QString& basic) {
 void walkYears(const Session& session, const std::function<void(const QString& file)>& work) {
   for (int year = session.pc.clock.today().year();; --year) {
     const QString file = yearFile(session, QString::number(year));
-    if (!session.pc.paths.exists(file)) return;
+    if (!isThere(session.pc.paths, file)) return;
     work(file);
   }
 }
 
 QStringList yearFiles(const Session& session, const jet::Workspace& workspace, const QString& folder) {
   QStringList files;
-  for (const QString& name : session.pc.paths.list(folder, u"*Foundation.mdb"_s)) {
+  for (const QString& name : filesIn(session.pc.paths, folder, u"*Foundation.mdb"_s)) {
     jet::Database db;
-    if (OpenDB(workspace, db, folder + name) && db.hasTable(u"Buy"_s)) files << folder + name;
+    if (opens(session, workspace, db, folder + name) && db.hasTable(u"Buy"_s)) files << folder + name;
   }
   return files;
 }
 
 void addLateCharges(Session& session) {
   const QString folder = u"C:\\rwgas\\dbs\\"_s;
-  if (!session.pc.paths.exists(folder + u"basic.mdb"_s)) return;
+  if (!isThere(session.pc.paths, folder + u"basic.mdb"_s)) return;
   const jet::Workspace workspace = openWorkspace(session, folder);
   jet::Database basic;
-  if (!OpenDB(workspace, basic, folder + u"basic.mdb"_s)) return;
+  if (!opens(session, workspace, basic, folder + u"basic.mdb"_s)) return;
   DAO_AddField(session.prompts, basic, u"apt"_s, u"delaypay"_s, jet::Type::Double, 0, false,
                u"UPDATE apt SET delaypay = 0"_s);
   workspace.KeepingFiles([&] {
     jet::Database year;
     for (const QString& file : yearFiles(session, workspace, folder)) {
-      if (!OpenDB(workspace, year, file)) return;
+      if (!opens(session, workspace, year, file)) return;
       DAO_AddField(session.prompts, year, u"Evaporation"_s, u"paydelayed"_s, jet::Type::Boolean, 0, false,
                    u"UPDATE Evaporation SET paydelayed = false"_s);
     }
@@ -106,7 +122,7 @@ void addLateCharges(Session& session) {
 
 void makeDealList(Session& session) {
   const QString file = session.DbPath + u"dbDetail.mdb"_s;
-  if (!session.pc.paths.exists(file)) makeDataFile(session, file, schema::File::Detail);
+  if (!isThere(session.pc.paths, file)) makeDataFile(session, file, schema::File::Detail);
 }
 
 void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::Database& post) {
@@ -187,7 +203,7 @@ bool relink(Session& session) {
   session.wsMain.KeepingFiles([&] {
     jet::Database year;
     for (const QString& file : yearFiles(session, session.wsMain, session.DbPath)) {
-      all = OpenDB(session.wsMain, year, file);
+      all = opens(session, session.wsMain, year, file);
       if (!all) return;
       if (isLinked(year, session.BasicPath)) continue;  // at most starts; a write would hold up the other PCs
       year.Together([&] { linkAnew(year, session.BasicPath); });
@@ -212,7 +228,7 @@ void widenTaxFields(const jet::Database& tax) {
 
 void addMoreTelephones(Session& session) {
   jet::Database basic;
-  if (!OpenDB(session.wsMain, basic, session.BasicPath)) return;
+  if (!opens(session, session.wsMain, basic, session.BasicPath)) return;
   // Kept: when Tel1 is there, Tel2 is not looked at. So a failure in between leaves neither.
   if (hasField(basic, u"Client"_s, u"Tel1"_s)) return;
   basic.Together([&] {
@@ -225,7 +241,7 @@ void addMoreTelephones(Session& session) {
 }
 
 void makeOptions(Session& session) {
-  if (!OpenDB(session.wsMain, session.dbCommon, u"C:\\rwgas\\dbs\\basic.mdb"_s)) return;
+  if (!opens(session, session.wsMain, session.dbCommon, u"C:\\rwgas\\dbs\\basic.mdb"_s)) return;
   if (DAO_ExistTable(session.prompts, session.dbCommon, u"Options"_s)) return;
   session.dbCommon.Together([&] {
     if (session.dbCommon.hasTable(u"Options"_s)) return;  // made by another PC meanwhile

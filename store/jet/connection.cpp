@@ -1,6 +1,8 @@
 #include "store/jet/connection.h"
 
-#include <QFileInfo>
+#include <algorithm>
+#include <array>
+#include <cerrno>
 
 #include "store/jet/error_texts.h"
 #include "store/jet/file_system.h"
@@ -32,6 +34,13 @@ Error constraintError(int code, const QByteArray& message) {
     default:
       return errorOf(3421, where);
   }
+}
+
+/** What the system said of a file that could not be opened: not allowed, in the way, or too many; not that the disk or
+ *  the network is silent. */
+bool isForbidden(int systemError) {
+  return std::ranges::count(std::to_array({0, EACCES, EPERM, EROFS, ENOENT, ENOTDIR, EISDIR, EMFILE, ENFILE}),
+                            systemError) > 0;
 }
 
 /** A data file may have been made or changed by anybody: nothing in it runs or adds to a statement (triggers, foreign
@@ -74,9 +83,7 @@ int Connection::waitForLock(void* connection, int tries) {
 }
 
 Connection::Connection(const QString& nativePath, int busyMilliseconds) : patience_(busyMilliseconds) {
-  const QFileInfo file(nativePath);
-  if (!file.exists()) throw missingFile(nativePath);
-  if (!file.isFile()) fail(3044, nativePath);
+  requireFile(nativePath);
   sqlite3* handle = nullptr;
   // Without the create flag: a file that is not there is never made by looking at it, neither here nor attached.
   // And without locks around every call: one thread at a time works with a connection.
@@ -136,7 +143,7 @@ Error Connection::error(int code, const QString& about) const {
       return errorOf(code == SQLITE_READONLY_DBMOVED ? 3043 : 3027, about);
     case SQLITE_CANTOPEN:
       if (const auto refused = takeRefusal()) return *refused;
-      return errorOf(3051, about);
+      return errorOf(isForbidden(sqlite3_system_errno(handle_.get())) ? 3051 : 3043, about);
     case SQLITE_PERM:
     case SQLITE_AUTH:
       return errorOf(3051, about);

@@ -1,12 +1,11 @@
 #include "store/jet/data_file.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QSet>
 #include <algorithm>
 
 #include "store/jet/error_texts.h"
+#include "store/jet/file_system.h"
 
 using namespace Qt::StringLiterals;
 
@@ -101,10 +100,7 @@ int userVersion(Connection& connection, const QByteArray& alias, const QString& 
 }  // namespace
 
 void DataFile::create(const QString& nativePath) {
-  const QFileInfo file(nativePath);
-  if (file.exists()) fail(3204, nativePath);
-  if (!file.absoluteDir().exists() || QFileInfo::exists(nativePath + u"-journal"_s))
-    throw missingFile(nativePath);
+  requireNothing(nativePath);
   QFile made(nativePath);
   if (!made.open(QIODevice::WriteOnly | QIODevice::NewOnly)) fail(3051, nativePath);
   made.close();

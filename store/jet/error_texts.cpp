@@ -1,7 +1,5 @@
 #include "store/jet/error_texts.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <algorithm>
 
 namespace jet {
@@ -114,17 +112,6 @@ Error errorOf(int number, const QString& detail) {
     return Error(number, text.contains(u"%1") ? text.arg(detail) : text);
   }
   return Error(number, QStringLiteral("알 수 없는 오류입니다. %1").arg(detail).trimmed());
-}
-
-Error missingFile(const QString& path) {
-  const QFileInfo file(path);
-  if (!file.dir().exists()) return errorOf(3044, path);
-  if (!QFileInfo::exists(path + QStringLiteral("-journal"))) return errorOf(3024, path);
-  return Error(
-      3024, QStringLiteral("'%1' 파일은 없고 쓰다 만 저널 파일(%2-journal)만 남아 있습니다. 새 파일을 만들지 "
-                           "않았습니다. 파일을 옮겼으면 제자리에 돌려놓고, 없어졌으면 자료 폴더를 비우고 "
-                           "백업한 폴더 전체를 복구하세요.")
-                .arg(path, file.fileName()));
 }
 
 bool isStoreFailure(int number) {

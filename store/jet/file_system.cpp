@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 #include <algorithm>
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -81,6 +82,16 @@ bool fits(const char* journal, const char* file) {
   return numberAt(found, kCounterAt) == numberAt(before, kCounterAt) + 1;
 }
 
+Error missing(const QString& path) {
+  if (!isThere(QFileInfo(path).path())) return errorOf(3044, path);
+  if (!isThere(path + u"-journal"_s)) return errorOf(3024, path);
+  return Error(
+      3024,
+      u"'%1' 파일은 없고 쓰다 만 저널 파일(%2-journal)만 남아 있습니다. 새 파일을 만들지 않았습니다. "
+      u"파일을 옮겼으면 제자리에 돌려놓고, 없어졌으면 자료 폴더를 비우고 백업한 폴더 전체를 복구하세요."_s
+          .arg(path, QFileInfo(path).fileName()));
+}
+
 int refuse(const Error& why) {
   refusal = why;
   return SQLITE_CANTOPEN;
@@ -94,8 +105,9 @@ int openFile(sqlite3_vfs*, const char* path, sqlite3_file* file, int flags, int*
   file->pMethods = nullptr;
   refusal.reset();
   if (path) {
-    const QFileInfo info(QString::fromUtf8(path));
-    if (info.exists() && !info.isFile())
+    std::error_code unanswered;
+    const auto found = std::filesystem::status(path, unanswered);
+    if (exists(found) && !is_regular_file(found))
       return refuse(
           Error(3051, u"'%1' 자리에 파일이 아닌 것이 있어 열 수 없습니다. 그것을 치우고 다시 하세요."_s.arg(
                           fileName(path))));
@@ -115,6 +127,37 @@ int deleteFile(sqlite3_vfs*, const char* path, int flush) {
 }
 
 }  // namespace
+
+Found lookAt(const QString& nativePath) {
+  std::error_code failure;
+  const std::filesystem::file_status found = std::filesystem::status(nativePath.toStdU16String(), failure);
+  if (found.type() == std::filesystem::file_type::none) fail(3043, nativePath);
+  return !exists(found) ? Found::Nothing : is_regular_file(found) ? Found::File : Found::Other;
+}
+
+bool isThere(const QString& nativePath) {
+  return lookAt(nativePath) != Found::Nothing;
+}
+
+QString onePath(const QString& nativePath) {
+  std::error_code failure;
+  const std::filesystem::path path = std::filesystem::canonical(nativePath.toStdU16String(), failure);
+  if (!failure) return QString::fromStdU16String(path.u16string());
+  if (isThere(nativePath)) fail(3043, nativePath);
+  return QFileInfo(nativePath).absoluteFilePath();
+}
+
+void requireFile(const QString& nativePath) {
+  const Found found = lookAt(nativePath);
+  if (found == Found::Other) fail(3044, nativePath);
+  if (found == Found::Nothing) throw missing(nativePath);
+}
+
+void requireNothing(const QString& nativePath) {
+  if (isThere(nativePath)) fail(3204, nativePath);
+  if (!isThere(QFileInfo(nativePath).path()) || isThere(nativePath + u"-journal"_s))
+    throw missing(nativePath);
+}
 
 const char* fileSystem() {
   static const char* const name = [] {

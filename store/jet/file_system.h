@@ -9,6 +9,19 @@
 
 namespace jet {
 
+enum class Found { Nothing, File, Other };
+/** What is there under a path of the PC. A disk or network that does not answer is no answer: throws 3043. */
+Found lookAt(const QString& nativePath);
+/** Whether anything is. */
+bool isThere(const QString& nativePath);
+/** One path for one file, however it was written. Throws 3043. */
+QString onePath(const QString& nativePath);
+/** Throws 3024 or 3044 where no data file is. One that only its journal tells of was taken away while it was written: in
+ *  its place no other may be made. */
+void requireFile(const QString& nativePath);
+/** The same for a file that is to be made: throws 3204 where there is one, and where a journal tells of one. */
+void requireNothing(const QString& nativePath);
+
 /** Its name for sqlite3_open_v2. */
 const char* fileSystem();
 

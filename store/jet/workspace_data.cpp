@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "store/jet/error_texts.h"
+#include "store/jet/file_system.h"
 #include "store/jet/handle_catalogue.h"
 
 using namespace Qt::StringLiterals;
@@ -15,13 +16,6 @@ namespace {
 
 constexpr size_t kAttachedAtMost = 11;  // the main file and SQLite's ten
 const char* const kMainAlias = "main";
-
-/** One path for one file, however it was written. */
-QString samePath(const QString& path) {
-  const QFileInfo info(path);
-  const QString canonical = info.canonicalFilePath();
-  return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
-}
 
 bool isDamage(int number) {
   return number == 3049 || number == 3343;
@@ -58,7 +52,7 @@ QString aboutOf(const Prepared& prepared) {
 
 QString WorkspaceData::native(const QString& written) const {
   if (written.trimmed().isEmpty()) fail(3044, written);
-  return samePath(options_.resolvePath ? options_.resolvePath(written) : written);
+  return onePath(options_.resolvePath ? options_.resolvePath(written) : written);
 }
 
 FilePtr WorkspaceData::attached(const QString& nativePath) const {
@@ -88,9 +82,8 @@ FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
   // What the file's links name is attached at once: within a group it would be too late. A link whose file is missing
   // fails when it is used.
   for (const QString& linked : linkedPaths()) {
-    if (!QFileInfo::exists(linked)) continue;
     try {
-      attach(linked);
+      if (isThere(linked)) attach(linked);
     } catch (const Error&) {
     }
   }
@@ -125,9 +118,7 @@ FilePtr WorkspaceData::attach(const QString& nativePath) {
 void WorkspaceData::ensureAttached(const FilePtr& file) {
   if (file->attached) return;
   if (attached(file->path())) fail(3420);
-  const QFileInfo info(file->path());
-  if (!info.exists()) throw missingFile(file->path());
-  if (!info.isFile()) fail(3044, file->path());
+  twice(file->path(), [&] { requireFile(file->path()); });
   commitGroup();
   try {
     twice(file->path(), [&] { tryAttach(file); });
@@ -182,7 +173,7 @@ void WorkspaceData::connect(const FilePtr& file) {
     files_ = {candidate};
   };
   for (const FilePtr& candidate : candidates) {
-    if (candidate != file && !QFileInfo(candidate->path()).isFile()) continue;
+    if (candidate != file && !isThere(candidate->path())) continue;
     try {
       return twice(candidate->path(), [&] { tryConnect(candidate); });
     } catch (const Error&) {

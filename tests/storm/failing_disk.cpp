@@ -10,6 +10,8 @@
 
 #include <cerrno>
 #include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 
@@ -22,6 +24,7 @@ struct State {
   DiskFault fault = DiskFault::Io;
   long at = 0, count = 0;
   bool lasting = false, armed = false;
+  bool tells = false;  ///< FAILING_DISK_TELLS: which call failed, on the error channel
 };
 State state;
 bool ours[4096];  // by descriptor: a file below the root
@@ -42,10 +45,11 @@ bool canMeet(DiskFault fault, int kind) {
 }
 
 /** True: this call fails; errno is set. */
-bool meets(int kind) {
+bool meets(int kind, const char* call, const char* path = "") {
   if (!state.armed || !canMeet(state.fault, kind)) return false;
   ++state.count;
   if (state.at == 0 || (state.lasting ? state.count < state.at : state.count != state.at)) return false;
+  if (state.tells) dprintf(STDERR_FILENO, "%ld: %s %s\n", state.count, call, path);
   errno = state.fault == DiskFault::Full ? ENOSPC : state.fault == DiskFault::Denied ? EACCES : EIO;
   return true;
 }
@@ -89,35 +93,35 @@ extern "C" {
 
 __attribute__((visibility("default"))) void failing_disk_arm(const char* root, int fault, long at,
                                                              int lasting) {
-  state = {root, DiskFault(fault), at, 0, lasting != 0, true};
+  state = {root, DiskFault(fault), at, 0, lasting != 0, true, std::getenv("FAILING_DISK_TELLS") != nullptr};
 }
 __attribute__((visibility("default"))) long failing_disk_rest() {
   state.armed = false;
   return state.count;
 }
 
-#define OPEN(name)                                        \
-  int name(const char* path, int flags, ...) {            \
-    NEXT(name);                                           \
-    va_list rest;                                         \
-    va_start(rest, flags);                                \
-    const mode_t mode = va_arg(rest, mode_t);             \
-    va_end(rest);                                         \
-    if (below(path) && meets(openKind(flags))) return -1; \
-    return opened(real(path, flags, mode), path);         \
+#define OPEN(name)                                                        \
+  int name(const char* path, int flags, ...) {                            \
+    NEXT(name);                                                           \
+    va_list rest;                                                         \
+    va_start(rest, flags);                                                \
+    const mode_t mode = va_arg(rest, mode_t);                             \
+    va_end(rest);                                                         \
+    if (below(path) && meets(openKind(flags), __func__, path)) return -1; \
+    return opened(real(path, flags, mode), path);                         \
   }
 OPEN(open)
 OPEN(open64)
 
-#define OPENAT(name)                                       \
-  int name(int folder, const char* path, int flags, ...) { \
-    NEXT(name);                                            \
-    va_list rest;                                          \
-    va_start(rest, flags);                                 \
-    const mode_t mode = va_arg(rest, mode_t);              \
-    va_end(rest);                                          \
-    if (below(path) && meets(openKind(flags))) return -1;  \
-    return opened(real(folder, path, flags, mode), path);  \
+#define OPENAT(name)                                                      \
+  int name(int folder, const char* path, int flags, ...) {                \
+    NEXT(name);                                                           \
+    va_list rest;                                                         \
+    va_start(rest, flags);                                                \
+    const mode_t mode = va_arg(rest, mode_t);                             \
+    va_end(rest);                                                         \
+    if (below(path) && meets(openKind(flags), __func__, path)) return -1; \
+    return opened(real(folder, path, flags, mode), path);                 \
   }
 OPENAT(openat)
 OPENAT(openat64)
@@ -130,40 +134,40 @@ int close(int file) {
 
 ssize_t read(int file, void* bytes, size_t count) {
   NEXT(read);
-  return below(file) && meets(Read) ? shortRead() : real(file, bytes, count);
+  return below(file) && meets(Read, __func__) ? shortRead() : real(file, bytes, count);
 }
-#define PREAD(name)                                                                 \
-  ssize_t name(int file, void* bytes, size_t count, off_t at) {                     \
-    NEXT(name);                                                                     \
-    return below(file) && meets(Read) ? shortRead() : real(file, bytes, count, at); \
+#define PREAD(name)                                                                           \
+  ssize_t name(int file, void* bytes, size_t count, off_t at) {                               \
+    NEXT(name);                                                                               \
+    return below(file) && meets(Read, __func__) ? shortRead() : real(file, bytes, count, at); \
   }
 PREAD(pread)
 PREAD(pread64)
 
 ssize_t write(int file, const void* bytes, size_t count) {
   NEXT(write);
-  if (!below(file) || !meets(Write)) return real(file, bytes, count);
-  return isShort() ? real(file, bytes, count / 2) : -1;
+  if (!below(file) || !meets(Write, __func__)) return real(file, bytes, count);
+  return isShort() ? real(file, bytes, (count + 1) / 2) : -1;
 }
-#define PWRITE(name)                                                        \
-  ssize_t name(int file, const void* bytes, size_t count, off_t at) {       \
-    NEXT(name);                                                             \
-    if (!below(file) || !meets(Write)) return real(file, bytes, count, at); \
-    return isShort() ? real(file, bytes, count / 2, at) : -1;               \
+#define PWRITE(name)                                                                  \
+  ssize_t name(int file, const void* bytes, size_t count, off_t at) {                 \
+    NEXT(name);                                                                       \
+    if (!below(file) || !meets(Write, __func__)) return real(file, bytes, count, at); \
+    return isShort() ? real(file, bytes, (count + 1) / 2, at) : -1;                   \
   }
 PWRITE(pwrite)
 PWRITE(pwrite64)
 
 ssize_t sendfile64(int to, int from, off_t* at, size_t count) noexcept {
   NEXT(sendfile64);
-  if ((!below(to) && !below(from)) || !meets(Write)) return real(to, from, at, count);
+  if ((!below(to) && !below(from)) || !meets(Write, __func__)) return real(to, from, at, count);
   return isShort() ? 0 : -1;
 }
 
-#define ON_FILE(name, kind, parameters, arguments)           \
-  int name parameters {                                      \
-    NEXT(name);                                              \
-    return below(file) && meets(kind) ? -1 : real arguments; \
+#define ON_FILE(name, kind, parameters, arguments)                     \
+  int name parameters {                                                \
+    NEXT(name);                                                        \
+    return below(file) && meets(kind, __func__) ? -1 : real arguments; \
   }
 ON_FILE(fsync, Flush, (int file), (file))
 ON_FILE(fdatasync, Flush, (int file), (file))
@@ -172,10 +176,10 @@ ON_FILE(ftruncate64, Write | Name, (int file, off_t size) noexcept, (file, size)
 ON_FILE(fstat, Look, (int file, struct stat* found) noexcept, (file, found))
 ON_FILE(fstat64, Look, (int file, struct stat64* found) noexcept, (file, found))
 
-#define ON_PATH(name, kind, parameters, arguments)           \
-  int name parameters {                                      \
-    NEXT(name);                                              \
-    return below(path) && meets(kind) ? -1 : real arguments; \
+#define ON_PATH(name, kind, parameters, arguments)                           \
+  int name parameters {                                                      \
+    NEXT(name);                                                              \
+    return below(path) && meets(kind, __func__, path) ? -1 : real arguments; \
   }
 ON_PATH(unlink, Name, (const char* path) noexcept, (path))
 ON_PATH(rmdir, Name, (const char* path) noexcept, (path))
@@ -195,7 +199,7 @@ ON_PATH(statx, Look, (int folder, const char* path, int how, unsigned what, stru
 
 DIR* opendir(const char* path) {
   NEXT(opendir);
-  return below(path) && meets(Name) ? nullptr : real(path);
+  return below(path) && meets(Name, __func__, path) ? nullptr : real(path);
 }
 
 #define FCNTL(name)                                                                                \
@@ -207,7 +211,7 @@ DIR* opendir(const char* path) {
     va_end(rest);                                                                                  \
     const bool locks =                                                                             \
         command == F_SETLK || command == F_SETLKW || command == F_GETLK || command == F_OFD_SETLK; \
-    return locks && below(file) && meets(Lock) ? -1 : real(file, command, argument);               \
+    return locks && below(file) && meets(Lock, __func__) ? -1 : real(file, command, argument);     \
   }
 FCNTL(fcntl)
 FCNTL(fcntl64)

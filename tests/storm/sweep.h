@@ -9,8 +9,8 @@ namespace storm {
 /** What can be swept: "post", "delete", "read", "recalculate", "build", "collect", "client", "start", "first-start". */
 const QStringList& sweptWorks();
 
-/** The process's work: ROOT WORK FAULT LASTING FIRST STRIDE, for a program with the failing disk in front. Tries the
- *  places FIRST, FIRST + STRIDE, ... until the work has no more of them. Tells "fault TEXT" for what must not be, at
+/** The process's work: ROOT WORK FAULT LASTING PLACES, for a program with the failing disk in front. Tries so many of the
+ *  work's calls to the disk, evenly spread; 0: every one. Tells "fault TEXT" for what must not be, at
  *  the end "swept PLACES TOLD". */
 int runSweep(const QStringList& arguments);
 

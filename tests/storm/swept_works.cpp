@@ -28,8 +28,7 @@ struct Posting : Work {
     posting.FillSaleGrid(SaleSheet::General, true);
     pickers.client = {7, u"손님7"_s};
     pickers.item = {u"LPG"_s, u"20"_s, 41000, 0};
-    steps_ = {[this] { chooseClient(); },
-              [this] { entry.finishCell(row, SaleCol::Kind, u"가스"_s); },
+    steps_ = {[this] { chooseClient(); }, [this] { entry.finishCell(row, SaleCol::Kind, u"가스"_s); },
               [this] { entry.enterKey(row, SaleCol::Item, {}); },
               [this] { entry.finishCell(row, SaleCol::Number, u"3"_s); },
               [this] { entry.finishCell(row, SaleCol::Income, u"20000"_s); }};
