@@ -38,10 +38,15 @@ void Spread::paintEvent(QPaintEvent* event) {
   painter.fillRect(event->rect(), isEnabled() ? look::desk : look::disabledPaper);
   const int still = stillColumns(), edge = edges_[size_t(still)];
   paintColumns(painter, event->rect(), still + 1, model_.MaxCols());
-  if (still == 0) return;
-  paintColumns(painter, event->rect(), 1, still);
-  painter.setPen(look::line);
-  painter.drawLine(edge - 1, 0, edge - 1, cellRect(model_.MaxRows(), 1).bottom());
+  if (still > 0) {
+    paintColumns(painter, event->rect(), 1, still);
+    painter.setPen(look::line);
+    painter.drawLine(edge - 1, 0, edge - 1, cellRect(model_.MaxRows(), 1).bottom());
+  }
+  if (model_.MaxRows() == 0 && line_->hasFocus()) {  // there is no cell that would show it
+    painter.setPen(QPen(look::accent, 2));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+  }
 }
 
 /** Rows, current cell and header of some columns; what is not theirs is left alone. */

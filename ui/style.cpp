@@ -1,10 +1,13 @@
 #include "ui/style.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QFontDatabase>
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
-#include <QStyleFactory>
+#include <QRadioButton>
+#include <QStyleOption>
 
 namespace {
 
@@ -39,14 +42,39 @@ QPalette officePalette() {
   return palette;
 }
 
-/** A grey entry of a menu can be gone to, so that the status line tells why it is grey. */
-class MenuStyle : public QProxyStyle {
+/** What a style sheet cannot say. A grey entry of a menu can be gone to, so that the status line tells why it is grey.
+ *  And the focus is framed always: the toolkit shows it faintly, and only after a Tab. */
+class OfficeStyle : public QProxyStyle {
  public:
-  using QProxyStyle::QProxyStyle;
+  OfficeStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
     if (hint == SH_Menu_AllowActiveAndDisabled) return 1;
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    // Buttons, tabs and lists have their frame from the sheet.
+    const bool tick = qobject_cast<const QCheckBox*>(widget) || qobject_cast<const QRadioButton*>(widget);
+    if (element != PE_FrameFocusRect)
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+    else if (tick)
+      frame(*painter, option->rect.adjusted(-1, 0, 1, 0));
+  }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && option->state & State_HasFocus) frame(*painter, option->rect);
+  }
+
+ private:
+  static void frame(QPainter& painter, const QRect& around) {
+    painter.save();
+    painter.setPen(QPen(look::accent, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(around.adjusted(1, 1, -1, -1));
+    painter.restore();
   }
 };
 
@@ -56,7 +84,9 @@ QLineEdit, QPlainTextEdit {
   border: 1px solid #C9D0D8; border-radius: 2px; padding: 1px 4px; background: #FFFFFF;
   selection-background-color: #2B5F9E; selection-color: #FFFFFF; }
 QLineEdit { min-height: 1.5em; }
-QLineEdit:focus, QPlainTextEdit:focus { border: 1px solid #2B5F9E; }
+QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid #2B5F9E; padding: 0 3px; }
+QListView { border: 1px solid #C9D0D8; padding: 1px; background: #FFFFFF; }
+QListView:focus { border: 2px solid #2B5F9E; padding: 0; }
 QLineEdit:disabled, QPlainTextEdit:disabled { background: #EEF0F3; color: #9AA3AE; }
 QLineEdit:read-only { background: #F7F9FB; }
 QComboBox { min-height: 1.5em; }
@@ -64,7 +94,8 @@ QPushButton { border: 1px solid #B9C2CC; border-radius: 3px; background: #FFFFFF
   min-height: 1.45em; min-width: 4.2em; }
 QPushButton:hover { background: #F2F6FB; border-color: #2B5F9E; }
 QPushButton:pressed { background: #DCE8F6; }
-QPushButton:default, QPushButton:focus { border-color: #2B5F9E; }
+QPushButton:default { border-color: #2B5F9E; }
+QPushButton:focus { border: 2px solid #2B5F9E; padding: 2px 11px; background: #EAF2FB; }
 QPushButton:disabled { background: #EEF0F3; color: #9AA3AE; border-color: #D5DAE0; }
 QGroupBox { border: 1px solid #C9D0D8; border-radius: 3px; margin-top: 0.75em; padding: 0.45em 4px 2px 4px; }
 QGroupBox[plain="true"] { margin-top: 0; padding: 0 4px; }
@@ -73,6 +104,7 @@ QTabWidget::pane { border: 1px solid #C9D0D8; top: -1px; }
 QTabBar::tab { border: 1px solid #C9D0D8; border-bottom: none; background: #E8ECF1; padding: 4px 16px;
   margin-right: 2px; border-top-left-radius: 3px; border-top-right-radius: 3px; }
 QTabBar::tab:selected { background: #FFFFFF; color: #2B5F9E; border-top: 2px solid #2B5F9E; }
+QTabBar::tab:selected:focus { background: #DCE8F6; border: 2px solid #2B5F9E; }
 #PnlHelp { background: #E8ECF1; border: 1px solid #C9D0D8; color: #2B5F9E; padding: 2px 8px; }
 #pnlCaption { background: #FFFFFF; border: 1px solid #2B5F9E; color: #1F2733; padding: 10px 24px; }
 #LblBottom { background: #E8ECF1; border: 1px solid #C9D0D8; border-left: none; color: #4A5565; padding: 2px 8px; }
@@ -110,7 +142,7 @@ QFont look::textFont(int points, bool bold) {
 }
 
 void look::apply(QApplication& application) {
-  QApplication::setStyle(new MenuStyle(QStyleFactory::create(QStringLiteral("Fusion"))));
+  QApplication::setStyle(new OfficeStyle);
   QApplication::setFont(textFont());
   QApplication::setPalette(officePalette());
   application.setStyleSheet(QString::fromUtf8(sheet));
