@@ -6,11 +6,14 @@
 #include <filesystem>
 
 #include "store/data_access.h"
+#include "store/jet/presence.h"
 #include "store/session.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int patience = 1000;  // milliseconds for others to close the postcodes
 
 /** Rows of a table; 0 also when it cannot be read, which is told where the table is needed. */
 int countOf(const jet::Database& file, const QString& table) {
@@ -56,12 +59,17 @@ QString FirstSteps::takePostCodes(const QString& file) {
     return u"우편번호가 들어 있는 파일이 아닙니다. 다른 프로그램의 파일은 쓸 수 없습니다."_s;
   const QString target = session_.pc.paths.native(session_.DbPath) + u"/dbPost.mdb"_s,
                 begun = target + u".new"_s;
-  QFile::remove(begun);
-  std::error_code failed;
-  if (QFile::copy(file, begun)) {
-    std::filesystem::rename(begun.toStdU16String(), target.toStdU16String(), failed);
-    if (!failed) return {};
+  try {
+    const jet::AloneWith alone(target, patience);
+    std::error_code failed;
+    QFile::remove(begun);
+    if (QFile::copy(file, begun)) {
+      std::filesystem::rename(begun.toStdU16String(), target.toStdU16String(), failed);
+      if (!failed) return {};
+    }
+    QFile::remove(begun);
+  } catch (const jet::Error& error) {  // another PC looks for a postcode
+    return error.description();
   }
-  QFile::remove(begun);
-  return u"우편번호 파일을 자료 폴더에 넣지 못했습니다. 쓰기 권한과, 다른 PC에서 우편번호를 찾고 있지 않은지 확인하십시오."_s;
+  return u"우편번호 파일을 자료 폴더에 넣지 못했습니다. 쓰기 권한과 디스크의 남은 공간을 확인하십시오."_s;
 }

@@ -250,7 +250,9 @@ void frmMain::perform(const CommandEntry& entry) {
 }
 
 void frmMain::askAndOpenAddress(const QString& question, const QString& address) {
-  if (session_.prompts.MsgAsk(question)) QDesktopServices::openUrl(QUrl(address));
+  if (!session_.prompts.MsgAsk(question) || QDesktopServices::openUrl(QUrl(address))) return;
+  session_.prompts.MsgInfo(
+      u"이 PC에는 인터넷 화면을 여는 프로그램이 없습니다.\n주소는 아래와 같습니다.\n\n"_s + address);
 }
 
 void frmMain::testCall() {

@@ -225,6 +225,7 @@ void frmEva::leaveReadingDay() {
 
 bool frmEva::cellFinished(int row, int col, const QString& typed) {
   ReadingEdit edit;
+  if (col == EvaCol::UseGage) pnlUse_->setText(useText(sheet_, row, typed));
   const auto finish = [&] { edit = finishReadingCell(sheet_, row, col, typed); };
   if (col != EvaCol::PayDelayed)
     finish();

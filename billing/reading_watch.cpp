@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "billing/reading_bill.h"
 #include "billing/reading_load.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
@@ -67,6 +68,11 @@ void show(ReadingSheet& sheet, int row, ReadingMark mark) {
   grid.setBackground(row, EvaCol::UseMuch, mark == ReadingMark::None ? own : looks[int(mark)].colour);
 }
 
+/** To a tenth. */
+QString shownUse(double use) {
+  return vb::CStr(std::round(use * 10) / 10);
+}
+
 QString useOrDash(std::optional<double> use) {
   return use ? vb::CStr(*use) : u"-"_s;
 }
@@ -130,8 +136,7 @@ std::array<int, readingMarks> markReadings(ReadingSheet& sheet) {
     show(sheet, row, mark);
     sheet.grid.setText(row, EvaCol::LastUse, before.lastMonth ? vb::CStr(*before.lastMonth) : QString());
     const bool known = before.usual.from != UsualUse::From::Nothing;
-    sheet.grid.setText(row, EvaCol::UsualUse,
-                       known ? vb::CStr(std::round(before.usual.use * 10) / 10) : QString());
+    sheet.grid.setText(row, EvaCol::UsualUse, known ? shownUse(before.usual.use) : QString());
   }
   return counts;
 }
@@ -153,14 +158,18 @@ QString countsText(const std::array<int, readingMarks>& counts) {
   return parts.join(u"   "_s);
 }
 
-QString useText(const ReadingSheet& sheet, int row) {
+QString useText(const ReadingSheet& sheet, int row, const std::optional<QString>& typed) {
   if (sheet.isOpening() || sheet.code(row).isEmpty()) return {};
   const UseBefore before = sheet.before.value(sheet.code(row));
+  const double reading = typed ? vb::Val(*typed) : sheet.number(row, EvaCol::UseGage);
+  const double use = typed ? meterDifference(reading, sheet.number(row, EvaCol::PrevUseGage))
+                           : sheet.number(row, EvaCol::UseMuch);
+  const ReadingMark mark = markOf(reading, use, before.usual);
   QString usual = u"-"_s;
   if (before.usual.from != UsualUse::From::Nothing)
-    usual = sheet.grid.text(row, EvaCol::UsualUse) +
+    usual = shownUse(before.usual.use) +
             (before.usual.from == UsualUse::From::LastYear ? u" (작년 같은 달)"_s : u" (최근 석 달 평균)"_s);
-  QString text = u"전월 사용 : "_s + useOrDash(before.lastMonth) + u"   예상 : "_s + usual;
-  const QString mark = sheet.grid.text(row, EvaCol::Judgement);
-  return mark.isEmpty() ? text : text + u"   "_s + mark;
+  QString text = u"전월 사용 : "_s + useOrDash(before.lastMonth) + u"   예상 : "_s + usual + u"   이번 : "_s;
+  if (mark != ReadingMark::Unread) text += vb::CStr(use) + u' ';
+  return (text + markText(mark)).trimmed();
 }

@@ -46,5 +46,6 @@ int nextMarked(const ReadingSheet& sheet, int row, int step);
 
 /** "□ 미검침 3   ▲ 많음 1"; '' when nothing stands out. */
 QString countsText(const std::array<int, readingMarks>& counts);
-/** The current row's line: last month's use, the usual one and where it comes from, this month's and its mark. */
-QString useText(const ReadingSheet& sheet, int row);
+/** A row's line: last month's use, the usual one and where it comes from, this month's and its mark. typed: a reading
+ *  that has not been taken yet, so that the line stands while the operator is asked about it. */
+QString useText(const ReadingSheet& sheet, int row, const std::optional<QString>& typed = {});

@@ -309,7 +309,7 @@ TEST(FrmEva, WhatStandsOutIsCountedAndOneKeyGoesToTheNext) {
   }
   Screen screen(desk);
   EXPECT_EQ(screen.label("PnlMarks"), "□ 미검침 4");
-  EXPECT_EQ(screen.label("PnlUse"), "전월 사용 : 10   예상 : 10 (최근 석 달 평균)   □ 미검침");
+  EXPECT_EQ(screen.label("PnlUse"), "전월 사용 : 10   예상 : 10 (최근 석 달 평균)   이번 : □ 미검침");
   screen.enter("131");
   screen.enter("109");
   screen.enter("95");

@@ -92,9 +92,11 @@ TEST_F(Watched, TheSheetIsMarkedFromBothYearsFilesAndNothingOfTheBillMoves) {
   EXPECT_EQ(sheet.grid.sign(1, EvaCol::UseMuch) + sheet.grid.sign(2, EvaCol::UseMuch), "▲");
   EXPECT_NE(sheet.grid.background(1, EvaCol::UseMuch), sheet.grid.background(2, EvaCol::UseMuch));
   EXPECT_EQ(countsText(markReadings(sheet)), "□ 미검침 1   ▲ 많음 1");
-  EXPECT_EQ(useText(sheet, 1), "전월 사용 : 7   예상 : 40 (작년 같은 달)   ▲ 많음");
-  EXPECT_EQ(useText(sheet, 2), "전월 사용 : 2   예상 : 5 (최근 석 달 평균)");
-  EXPECT_EQ(useText(sheet, 3), "전월 사용 : 0   예상 : -   □ 미검침");
+  EXPECT_EQ(useText(sheet, 1), "전월 사용 : 7   예상 : 40 (작년 같은 달)   이번 : 85 ▲ 많음");
+  EXPECT_EQ(useText(sheet, 2), "전월 사용 : 2   예상 : 5 (최근 석 달 평균)   이번 : 8");
+  EXPECT_EQ(useText(sheet, 3), "전월 사용 : 0   예상 : -   이번 : □ 미검침");
+  EXPECT_EQ(useText(sheet, 2, "9"), "전월 사용 : 2   예상 : 5 (최근 석 달 평균)   이번 : -3 ◀ 역회전")
+      << "before it is taken";
   EXPECT_EQ(rows("Select * From Evaporation Order By ClientCode, Mon"), before);
 
   show(MeterBook::Individual, 1);
