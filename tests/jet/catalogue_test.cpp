@@ -48,6 +48,30 @@ TEST_F(CatalogueOnDisk, ANewFieldLeavesOldRowsNullAndServesNewOnes) {
   EXPECT_EQ(failureOf([&] { basic.appendField(u"Nothing"_s, text(u"x"_s)); }), 3265);
 }
 
+TEST_F(CatalogueOnDisk, ALaterRequirementHoldsForWhatIsWritten) {
+  basic.Execute(u"Insert Into Client(Name) Values('old')"_s);
+  basic.Execute(u"Alter Table Client Add Column [It's] Text(5) Not Null"_s);
+  basic.Execute(u"Alter Table Client Add Column Size Double Not Null"_s);
+  const auto refused = [&](const QString& sql) { return failureOf([&] { basic.Execute(sql); }); };
+  EXPECT_EQ(refused(u"Update Client Set Name = 'older'"_s), 0) << "the old row keeps its Null";
+  EXPECT_EQ(refused(u"Insert Into Client(Name) Values('new')"_s), 3314);
+  EXPECT_EQ(refused(u"Insert Into Client(Name, [It's], Size) Values('new', 'x', Null)"_s), 3314);
+  EXPECT_EQ(refused(u"Insert Into Client(Name, [It's], Size) Select Name, Ho, 1 From Client"_s), 3314);
+  EXPECT_EQ(refused(u"Update Client Set [It's] = Ho"_s), 3314);
+  EXPECT_EQ(refused(u"Insert Into Client(Name, [It's], Size) Values('new', 'x', 1.5)"_s), 0);
+  jet::Recordset rs = basic.OpenRecordset(u"Select * From Client"_s, jet::RecordsetType::Dynaset);
+  rs.AddNew();
+  rs.set(u"Name"_s, u"third"_s);
+  EXPECT_EQ(failureOf([&] { rs.Update(); }), 3314);
+  rs.set(u"It's"_s, u"y"_s);
+  rs.set(u"Size"_s, jet::Value());
+  EXPECT_EQ(failureOf([&] { rs.Update(); }), 3314);
+  rs.set(u"Size"_s, 2);
+  rs.Update();
+  EXPECT_EQ(rows(basic, u"Select Name, [It's], Size From Client Order By Code"_s),
+            "older|-|- new|x|1.5 third|y|2");
+}
+
 TEST_F(CatalogueOnDisk, TheOrdinalDecidesWhereAFieldStands) {
   year.createTable(table(u"Tmp"_s, {text(u"a"_s), text(u"c"_s)}));
   year.Execute(u"Insert Into Tmp Values('1', '3')"_s);
