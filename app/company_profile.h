@@ -10,6 +10,8 @@
 struct CompanyData {
   QString Company, User, BusCode, PostCode, Address, BusStyle, BusKind, Tel, Fax;
   QString Ocr;  ///< seven-digit approval number printed on the giro
+
+  bool operator==(const CompanyData&) const = default;
 };
 
 /** Page two, numbers as typed. */
@@ -22,6 +24,8 @@ struct BillingSettings {
   QString Post1 = QStringLiteral("000"), Post2 = QStringLiteral("999");
   bool Stock = false;
   QString password, passwordAgain;  ///< empty deletes the password
+
+  bool operator==(const BillingSettings&) const = default;
 };
 
 enum class ProfileSaved { Yes, CompanyMissing, UserMissing };

@@ -7,9 +7,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include "ui/fields.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,14 +28,40 @@ frmUser::frmUser(FormContext& context, QWidget* parent)
   tabUser_->setEnabled(false);
   connect(tabUser_, &QTabWidget::currentChanged, this, &frmUser::tabChanged);
 
-  enterOrder({txtCompany_,  txtUser_,      txtBusCode_,     txtPostCode_, txtAddress_,      txtBusStyle_,
-              txtBusKind_,  txtTel_,       txtFax_,         txtOcr_,      cmdSave_,         txtRate_,
-              txtSecurity_, txtAptRate_,   txtAptSecurity_, txtManyRate_, txtManySecurity_, txtPost1_,
-              txtPost2_,    txtPassword1_, txtPassword2_,   btnSave_});
+  enterOrder({txtCompany_,
+              txtUser_,
+              txtBusCode_,
+              txtPostCode_,
+              txtAddress_,
+              txtBusStyle_,
+              txtBusKind_,
+              txtTel_,
+              txtFax_,
+              txtOcr_,
+              cmdSave_,
+              txtRate_,
+              txtSecurity_,
+              txtAptRate_,
+              txtAptSecurity_,
+              txtManyRate_,
+              txtManySecurity_,
+              payState_->button(1),
+              delayCharge_->button(1),
+              delayType_->button(1),
+              txtPost1_,
+              txtPost2_,
+              stock_->button(1),
+              txtPassword1_,
+              txtPassword2_,
+              btnSave_});
   onKey(Qt::Key_F12, [this] {
     if (txtPostCode_->hasFocus()) searchPostCode();
   });
-  onKey(Qt::Key_Escape, [this] { loadPages(); });
+  onKey(Qt::Key_Escape, [this] {
+    if (!mayDrop()) return;
+    loadPages();
+    focus(tabUser_->currentIndex() == 0 ? txtCompany_ : txtRate_);
+  });
   setBottomLine(u"F12: 우편번호 검색   Esc: 다시 읽기"_s);
 }
 
@@ -43,6 +72,13 @@ QLineEdit* frmUser::box(const QString& name, const QString& help, int maxLength)
   made->setObjectName(name);
   if (maxLength > 0) made->setMaxLength(maxLength);
   setHelp(made, help);
+  Fields::tellRefusedKeys(made);
+  return made;
+}
+
+QLineEdit* frmUser::numberBox(const QString& name, const QString& help, const char* pattern) {
+  QLineEdit* const made = box(name, help);
+  made->setValidator(new QRegularExpressionValidator(QRegularExpression(QString::fromLatin1(pattern)), made));
   return made;
 }
 
@@ -72,8 +108,9 @@ QWidget* frmUser::buildProfilePage() {
   txtBusKind_ = put(u"종목"_s, box(u"TxtBusKind"_s, u"종목을 입력하십시오."_s, 30), 2);
   txtTel_ = put(u"전화번호"_s, box(u"TxtTel"_s, u"전화번호를 입력하십시오."_s, 20), 1);
   txtFax_ = put(u"팩스번호"_s, box(u"TxtFax"_s, u"팩스번호를 입력하십시오."_s, 20), 2);
-  txtOcr_ = put(u"OCR 승인번호"_s,
-                box(u"TxtOcr"_s, u"OCR 지로에 인쇄할 승인번호 일곱 자리를 입력하십시오."_s, 7), 1);
+  txtOcr_ =
+      put(u"OCR 승인번호"_s,
+          numberBox(u"TxtOcr"_s, u"OCR 지로에 인쇄할 승인번호 일곱 자리를 입력하십시오."_s, "[0-9]{0,7}"), 1);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(3, 1);
 
@@ -98,8 +135,9 @@ QGroupBox* frmUser::buildRates() {
   const auto put = [&](const QString& label, const QString& rateName, const QString& securityName,
                        QLineEdit*& rate, QLineEdit*& security) {
     ++row;
-    rate = box(rateName, label + u"의 연체료율을 한 달에 대한 %로 입력하십시오."_s, 8);
-    security = box(securityName, label + u"의 안전관리비를 원 단위로 입력하십시오."_s, 8);
+    rate = numberBox(rateName, label + u"의 연체료율을 한 달에 대한 %로 입력하십시오."_s,
+                     "[0-9]{0,3}(\\.[0-9]{0,4})?");
+    security = numberBox(securityName, label + u"의 안전관리비를 원 단위로 입력하십시오."_s, "[0-9]{0,8}");
     for (QLineEdit* number : {rate, security}) number->setAlignment(Qt::AlignRight);
     grid->addWidget(new QLabel(label), row, 0, Qt::AlignRight);
     grid->addWidget(rate, row, 1);
@@ -120,6 +158,7 @@ QGroupBox* frmUser::buildChoices(const QString& title, const QStringList& captio
   for (qsizetype at = 0; at < captions.size(); ++at) {
     auto* option = new QRadioButton(captions[at]);
     option->setObjectName(names[at]);
+    setHelp(option, u"화살표키로 고르고 엔터를 치십시오."_s);
     group->addButton(option, int(at) + 1);
     line->addWidget(option);
   }
@@ -145,8 +184,10 @@ QWidget* frmUser::buildSettingsPage() {
 
   QGroupBox* post = addGroup(u"우편번호 검색 범위 (앞 세 자리)"_s);
   auto* postLine = new QHBoxLayout(post);
-  txtPost1_ = box(u"TxtPost1"_s, u"영업지역 우편번호의 앞 세 자리 중 가장 작은 번호를 입력하십시오."_s, 3);
-  txtPost2_ = box(u"TxtPost2"_s, u"영업지역 우편번호의 앞 세 자리 중 가장 큰 번호를 입력하십시오."_s, 3);
+  txtPost1_ = numberBox(u"TxtPost1"_s, u"영업지역 우편번호의 앞 세 자리 중 가장 작은 번호를 입력하십시오."_s,
+                        "[0-9]{0,3}");
+  txtPost2_ = numberBox(u"TxtPost2"_s, u"영업지역 우편번호의 앞 세 자리 중 가장 큰 번호를 입력하십시오."_s,
+                        "[0-9]{0,3}");
   for (QLineEdit* made : {txtPost1_, txtPost2_}) made->setMaximumWidth(70);
   postLine->addWidget(txtPost1_);
   postLine->addWidget(new QLabel(u"부터"_s));
@@ -204,7 +245,13 @@ void frmUser::pass() {
 }
 
 void frmUser::loadPages() {
-  const CompanyData data = rules_.profile();
+  readProfile_ = rules_.profile();
+  readSettings_ = rules_.settings();
+  showProfile(readProfile_);
+  showSettings(readSettings_);
+}
+
+void frmUser::showProfile(const CompanyData& data) {
   txtCompany_->setText(data.Company);
   txtUser_->setText(data.User);
   txtBusCode_->setText(data.BusCode);
@@ -215,8 +262,10 @@ void frmUser::loadPages() {
   txtTel_->setText(data.Tel);
   txtFax_->setText(data.Fax);
   txtOcr_->setText(data.Ocr);
+  shownProfile_ = typedProfile();
+}
 
-  const BillingSettings page = rules_.settings();
+void frmUser::showSettings(const BillingSettings& page) {
   txtRate_->setText(page.Rate);
   txtSecurity_->setText(page.Security);
   txtAptRate_->setText(page.AptRate);
@@ -232,48 +281,87 @@ void frmUser::loadPages() {
   stock_->button(page.Stock ? 1 : 2)->setChecked(true);
   txtPassword1_->clear();
   txtPassword2_->clear();
+  shownSettings_ = typedSettings();
+}
+
+bool frmUser::mayDrop() {
+  if (typedProfile() == shownProfile_ && typedSettings() == shownSettings_) return true;
+  return session().prompts.MsgAsk(u"입력한 내용을 저장하지 않았습니다!\n저장하지 않고 버리시겠습니까?"_s,
+                                  u"사용자 등록"_s, false);
+}
+
+bool frmUser::mayClose() {
+  return !tabUser_->isEnabled() || mayDrop();  // before the password nothing has been shown
 }
 
 void frmUser::tabChanged(int page) {
   bool may = false;
   guard([&] { may = page == 0 || rules_.maySeeSettings(); });
-  if (!may) tabUser_->setCurrentIndex(0);
+  if (!may) {
+    const QSignalBlocker quiet(tabUser_);
+    tabUser_->setCurrentIndex(0);
+  }
   focus(tabUser_->currentIndex() == 0 ? txtCompany_ : txtRate_);
 }
 
 // --- saving -----------------------------------------------------------------------------------------------------
 
+CompanyData frmUser::typedProfile() const {
+  return {.Company = txtCompany_->text(),
+          .User = txtUser_->text(),
+          .BusCode = txtBusCode_->text(),
+          .PostCode = txtPostCode_->text(),
+          .Address = txtAddress_->text(),
+          .BusStyle = txtBusStyle_->text(),
+          .BusKind = txtBusKind_->text(),
+          .Tel = txtTel_->text(),
+          .Fax = txtFax_->text(),
+          .Ocr = txtOcr_->text()};
+}
+
+BillingSettings frmUser::typedSettings() const {
+  return {.PayState = payState_->checkedId(),
+          .Rate = txtRate_->text(),
+          .AptRate = txtAptRate_->text(),
+          .ManyRate = txtManyRate_->text(),
+          .Security = txtSecurity_->text(),
+          .AptSecurity = txtAptSecurity_->text(),
+          .ManySecurity = txtManySecurity_->text(),
+          .oneMonthOnly = delayCharge_->checkedId() == 1,
+          .withoutDelay = delayType_->checkedId() == 2,
+          .Post1 = txtPost1_->text(),
+          .Post2 = txtPost2_->text(),
+          .Stock = stock_->checkedId() == 1,
+          .password = txtPassword1_->text(),
+          .passwordAgain = txtPassword2_->text()};
+}
+
+bool frmUser::mayWriteOver() {
+  return session().prompts.MsgAsk(
+      u"다른 PC나 화면에서 이 쪽의 내용을 먼저 바꾸었습니다!\n입력한 내용으로 저장하시겠습니까?"_s,
+      u"사용자 등록"_s, false);
+}
+
 void frmUser::saveProfile() {
-  const ProfileSaved saved = rules_.saveProfile({.Company = txtCompany_->text(),
-                                                 .User = txtUser_->text(),
-                                                 .BusCode = txtBusCode_->text(),
-                                                 .PostCode = txtPostCode_->text(),
-                                                 .Address = txtAddress_->text(),
-                                                 .BusStyle = txtBusStyle_->text(),
-                                                 .BusKind = txtBusKind_->text(),
-                                                 .Tel = txtTel_->text(),
-                                                 .Fax = txtFax_->text(),
-                                                 .Ocr = txtOcr_->text()});
+  const CompanyData typed = typedProfile();
+  if (rules_.profile() != readProfile_ && !mayWriteOver()) return;
+  const bool first = !rules_.exists();
+  const ProfileSaved saved = rules_.saveProfile(typed);
+  if (saved == ProfileSaved::Yes) {
+    if (first) readSettings_ = rules_.settings();
+    readProfile_ = rules_.profile();
+    shownProfile_ = typed;
+  }
   if (saved == ProfileSaved::CompanyMissing) focus(txtCompany_);
   if (saved == ProfileSaved::UserMissing) focus(txtUser_);
 }
 
 void frmUser::saveSettings() {
-  const bool saved = rules_.saveSettings({.PayState = payState_->checkedId(),
-                                          .Rate = txtRate_->text(),
-                                          .AptRate = txtAptRate_->text(),
-                                          .ManyRate = txtManyRate_->text(),
-                                          .Security = txtSecurity_->text(),
-                                          .AptSecurity = txtAptSecurity_->text(),
-                                          .ManySecurity = txtManySecurity_->text(),
-                                          .oneMonthOnly = delayCharge_->checkedId() == 1,
-                                          .withoutDelay = delayType_->checkedId() == 2,
-                                          .Post1 = txtPost1_->text(),
-                                          .Post2 = txtPost2_->text(),
-                                          .Stock = stock_->checkedId() == 1,
-                                          .password = txtPassword1_->text(),
-                                          .passwordAgain = txtPassword2_->text()});
-  if (!saved) focus(txtPassword1_);
+  const BillingSettings typed = typedSettings();
+  if (rules_.settings() != readSettings_ && !mayWriteOver()) return;
+  if (!rules_.saveSettings(typed)) return focus(txtPassword1_);
+  readSettings_ = rules_.settings();
+  shownSettings_ = typed;
 }
 
 void frmUser::searchPostCode() {

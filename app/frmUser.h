@@ -16,6 +16,7 @@ class frmUser : public Form {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  bool mayClose() override;
 
  private:
   QWidget* buildProfilePage();
@@ -24,8 +25,16 @@ class frmUser : public Form {
   QGroupBox* buildChoices(const QString& title, const QStringList& captions, const QStringList& names,
                           QButtonGroup*& group);
   QLineEdit* box(const QString& name, const QString& help, int maxLength = 0);
+  QLineEdit* numberBox(const QString& name, const QString& help, const char* pattern);
   void pass();
   void loadPages();
+  void showProfile(const CompanyData& data);
+  void showSettings(const BillingSettings& page);
+  CompanyData typedProfile() const;
+  BillingSettings typedSettings() const;
+  /** Asks about what was typed and not saved; True when it may go. */
+  bool mayDrop();
+  bool mayWriteOver();
   void tabChanged(int page);
   void saveProfile();
   void saveSettings();
@@ -40,5 +49,7 @@ class frmUser : public Form {
   QLineEdit *txtPost1_, *txtPost2_, *txtPassword1_, *txtPassword2_;
   QButtonGroup *payState_, *delayCharge_, *delayType_, *stock_;
   QPushButton *cmdSave_, *btnSave_;
+  CompanyData readProfile_, shownProfile_;  ///< as the file held them; the boxes as they were filled
+  BillingSettings readSettings_, shownSettings_;
   bool asked_ = false;
 };

@@ -16,13 +16,18 @@ QString withSeparators(qint64 value) {
 
 MoneyBox::MoneyBox(QWidget* parent) : QLineEdit(parent) {
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  static const QRegularExpression amount(QStringLiteral("-?[0-9,]{0,16}"));
-  setValidator(new QRegularExpressionValidator(amount, this));
+  setRange(least_, most_);
 }
 
 void MoneyBox::setRange(qint64 least, qint64 most) {
   least_ = least;
   most_ = most;
+  // A digit too many is not taken: held to the range afterwards it would become another amount.
+  const auto digits = QString::number(std::max(qAbs(least), qAbs(most))).size();
+  const QRegularExpression amount(
+      QStringLiteral("%1(,?[0-9]){0,%2},?").arg(least < 0 ? "-?" : "").arg(digits));
+  delete validator();
+  setValidator(new QRegularExpressionValidator(amount, this));
 }
 
 qint64 MoneyBox::value() const {

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 
+#include "ui/form.h"
+
 Fields::Fields(QWidget* panel, int pairs) : panel_(panel), grid_(new QGridLayout(panel)), pairs_(pairs) {
   grid_->setContentsMargins(6, 4, 6, 4);
   grid_->setHorizontalSpacing(6);
@@ -41,10 +43,21 @@ QLabel* Fields::labelOf(QWidget* box) {
   return nullptr;
 }
 
+void Fields::tellRefusedKeys(QLineEdit* box) {
+  QObject::connect(box, &QLineEdit::inputRejected, box, [box] {
+    const bool full = !box->validator() && box->inputMask().isEmpty();
+    const QString why = full ? QStringLiteral("%1자까지 입력할 수 있습니다").arg(box->maxLength())
+                             : QStringLiteral("이 칸에 넣을 수 없는 글자이거나 자릿수가 넘습니다");
+    for (QWidget* up = box->parentWidget(); up; up = up->parentWidget())
+      if (auto* const form = qobject_cast<Form*>(up)) return form->showHelp(why);
+  });
+}
+
 template <class Box>
 Box* Fields::put(const char* name, const QString& label, Box* box, int width, int span) {
   box->setObjectName(QString::fromUtf8(name));
   if (width > 0) box->setFixedWidth(width * box->fontMetrics().horizontalAdvance(u'0') + 16);
+  if constexpr (std::is_base_of_v<QLineEdit, Box>) tellRefusedKeys(box);
   add(label, box, span);
   return box;
 }

@@ -31,6 +31,8 @@ class Fields {
   /** Any other widget behind a label. */
   void add(const QString& label, QWidget* box, int span = 1);
   void newRow();
+  /** A key that the box does not take is told in the form's help line. */
+  static void tellRefusedKeys(QLineEdit* box);
   /** The label in front of a box, to rename it. */
   static QLabel* labelOf(QWidget* box);
 

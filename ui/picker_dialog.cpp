@@ -31,6 +31,11 @@ PickerDialog::PickerDialog(const QString& name, const QString& caption, Session&
   grid_->doubleClicked = [this](int row, int) { take(row); };
   grid_->columnResized = [this](int col) { FormIni(session_.pc.paths).SaveSpreadIni(*this, *grid_, col); };
   grid_->keyPressed = [this](int row, int, int key, Qt::KeyboardModifiers) {
+    if (key == Qt::Key_Up && row == 1 && find_) {
+      find_->setFocus();
+      find_->selectAll();
+      return true;
+    }
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     take(row);
     return true;
@@ -100,7 +105,10 @@ void PickerDialog::take(int row) {
 
 void PickerDialog::keyPressEvent(QKeyEvent* event) {
   // Enter belongs to the find box and the list; a dialog's own default button would close it.
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return;
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) button->click();
+    return;
+  }
   QDialog::keyPressEvent(event);
 }
 

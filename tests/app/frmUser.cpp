@@ -1,6 +1,7 @@
 // The company profile, filled in by keys.
 #include "app/frmUser.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -56,7 +57,7 @@ TEST_F(UserForm, ANewCompanyIsTypedFieldByFieldThenItsSettings) {
 
   tabs->setCurrentIndex(1);
   EXPECT_EQ(QApplication::focusWidget()->objectName(), "TxtRate");
-  for (const char* text : {"2.5", "1000", "", "", "", "", "700", "799", "pw", "pw"}) {
+  for (const char* text : {"2.5", "1000", "", "", "", "", "", "", "", "700", "799", "", "pw", "pw"}) {
     if (QString::fromUtf8(text).isEmpty())
       tests::key(Qt::Key_Return);
     else
@@ -74,6 +75,41 @@ TEST_F(UserForm, ANewCompanyIsTypedFieldByFieldThenItsSettings) {
   EXPECT_EQ(row["Post2"].toText(), "799");
   EXPECT_EQ(row["PayState"].toText(), "3");
   EXPECT_TRUE(session.StockEnabled);
+}
+
+TEST_F(UserForm, WhatWasTypedGoesOnlyAfterAQuestionAndNothingOfAnotherPcIsWrittenOver) {
+  session.dbBasic.Execute("Insert Into User(Company, User, Rate) Values('Gas', 'Kim', 2.5)");
+  frmUser form(idle.context);
+  open(form);
+  auto* const company = part<QLineEdit>(form, "TxtCompany");
+  auto* const rate = part<QLineEdit>(form, "TxtRate");
+  ASSERT_TRUE(company->hasFocus());
+  enter("x");
+  tests::key(Qt::Key_2, Qt::AltModifier);
+  ASSERT_TRUE(rate->hasFocus());
+  tests::type("a9.75,");
+  EXPECT_EQ(rate->text(), "9.75") << "a rate is a number";
+  EXPECT_TRUE(part<QLabel>(form, "PnlHelp")->text().contains("넣을 수 없는"));
+  prompts.expect("버리시겠습니까?", false);
+  tests::key(Qt::Key_Escape);
+  prompts.expect("버리시겠습니까?", false);
+  form.close();
+  EXPECT_TRUE(form.isVisible());
+  EXPECT_EQ(company->text() + rate->text(), "x9.75");
+
+  session.dbBasic.Execute("Update User Set Rate = 3, Tel = '053-1'");
+  prompts.expect("먼저 바꾸었습니다!", false);
+  tests::key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(session.dbBasic.OpenRecordset("Select Rate From User")[0].toText(), "3");
+  prompts.expect("먼저 바꾸었습니다!");
+  prompts.expect("패스워드가 현재 삭제된 상태입니다");
+  tests::key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(session.dbBasic.OpenRecordset("Select Rate From User")[0].toText(), "9.75");
+  prompts.expect("버리시겠습니까?");  // the profile's page still holds its "x"
+  tests::key(Qt::Key_Escape);
+  EXPECT_EQ(company->text(), "Gas");
+  form.close();
+  EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(UserForm, WithoutThePasswordTheFormCloses) {

@@ -319,4 +319,72 @@ TEST_F(ClientSearchForm, anUnknownNumberIsRegisteredOnTheSpotAndChosen) {
   EXPECT_EQ(ask("Select Tel From Client")["Tel"].toText(), "053-123-4567");
 }
 
+TEST_F(ClientSearchForm, theQuickEntryKeepsWhatWasTypedAndStoresTheTelephoneWithItsDashes) {
+  pc.prompts.expect("신규고객등록을 하시겠습니까?");
+  whenModal([this](QDialog& dialog) {
+    pc.prompts.expect("버리시겠습니까?", false);
+    box(&dialog, "TxtTel")->setFocus();
+    tests::type("01012345678");
+    tests::key(Qt::Key_Escape);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(focused(), "TxtTel");
+    tests::key(Qt::Key_S, Qt::AltModifier);  // the focus never leaves the box
+  });
+  ASSERT_TRUE(search("가람"));
+  EXPECT_EQ(ask("Select Tel From Client")["Tel"].toText(), "010-1234-5678");
+
+  pc.prompts.expect("신규고객등록을 하시겠습니까?");
+  whenModal([](QDialog& entry) {
+    whenModal([](QDialog& list) {
+      EXPECT_EQ(list.objectName(), "frmSearchClient");
+      tests::key(Qt::Key_Escape);
+    });
+    EXPECT_EQ(entry.objectName(), "frmNewClient");
+    tests::key(Qt::Key_Escape);  // nothing was typed into it: nothing to ask
+  });
+  EXPECT_FALSE(search("나래"));
+}
+
+// --- several hands ------------------------------------------------------------------------------------------
+
+TEST_F(ClientForms, aCustomerDeletedElsewhereStaysInTheBoxesAsANewEntry) {
+  addPlain("가람", "053-111-1111");
+  addPlain("나래", "053-222-2222");
+  frmClient form(context);
+  tests::show(form);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(focused(), "TxtName");
+  tests::type("x");
+  pc.session.dbBasic.Execute("Delete * From Client Where Name = '가람'");
+  pc.prompts.expect("변경하시겠습니까?");
+  pc.prompts.expect("이미 삭제된 자료입니다!");
+  tests::key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(focused(), "TxtName");
+  EXPECT_EQ(box(sheet(form), "TxtTel")->text(), "053-111-1111");
+  EXPECT_FALSE(box<QPushButton>(&form, "BtnNew")->isEnabled()) << "a new entry now";
+  pc.prompts.expect("버리시겠습니까?", false);
+  form.close();
+  tests::key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(ask("Select Name From Client Where Tel = '053-111-1111'")["Name"].toText(), "x");
+}
+
+TEST_F(ClientForms, aPageIsTurnedOnlyWhenNothingTypedIsLost) {
+  fillBooks();
+  frmClient form(context);
+  tests::show(form);
+  auto* const tabs = form.findChild<QTabWidget*>("TabClient");
+  tests::key(Qt::Key_Return);
+  tests::type("x");
+  pc.prompts.expect("버리시겠습니까?", false);
+  tests::key(Qt::Key_2, Qt::AltModifier);
+  EXPECT_EQ(tabs->currentIndex(), 0);
+  EXPECT_EQ(box(sheet(form), "TxtName")->text(), "x");
+  pc.prompts.expect("버리시겠습니까?");
+  tests::key(Qt::Key_2, Qt::AltModifier);
+  EXPECT_EQ(tabs->currentIndex(), 1);
+  QApplication::processEvents();
+  tests::key(Qt::Key_1, Qt::AltModifier);
+  EXPECT_EQ(tabs->currentIndex(), 0);
+}
+
 }  // namespace
