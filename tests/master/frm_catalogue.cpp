@@ -7,11 +7,14 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "master/frmAPTAddress.h"
+#include "master/frmBDName.h"
 #include "master/frmGasUtil.h"
 #include "master/frmPostCode.h"
 #include "master/frmRefillState.h"
 #include "master/frmResponse.h"
 #include "master/frmSearchBank.h"
+#include "master/frmSearchClient.h"
 #include "master/frmSearchRefill.h"
 #include "master/frmSearchResponse.h"
 #include "master/frmSearchSize.h"
@@ -233,6 +236,66 @@ TEST_F(CatalogueForms, ShortListsHandOverTheLineUnderTheCursor) {
     tests::key(Qt::Key_Escape);
   });
   EXPECT_FALSE(frmSearchResponse(pc.session, nullptr));
+}
+
+TEST_F(CatalogueForms, EveryPickerIsWorkedByKeysAlone) {
+  run(u"Insert Into Bank(BName, BNumber, BUser) Values('국민', '123-45-678', '해온가스')"_s);
+  for (const QString& dong : {u"101"_s, u"102"_s})
+    run(u"Insert Into APT(Name, Dong, Height, Gubun) Values('한빛', '"_s + dong + u"', 5, True)"_s);
+  for (const QString& name : {u"가람"_s, u"나래"_s})
+    run(u"Insert Into Client(Name, Tel, HouseStyle, PayWay) Values('"_s + name +
+        u"', '053-111-1234', 0, 1)"_s);
+  const jet::Database post = pc.session.wsMain.OpenDatabase(pc.session.DbPath + u"dbPost.mdb"_s);
+  post.Execute(u"Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('402-010', '인천', '남구', '도화동')"_s);
+  BuildingSearch buildings(pc.session, HouseStyle::Apartment);
+  ASSERT_TRUE(buildings.loadBuildings() && buildings.loadBlocks(u"한빛"_s));
+  const auto client = [this] {
+    return frmSearchClient(pc.session, u"1234"_s, ClientSearchMode::All, false, {}, nullptr)
+        .choose()
+        .has_value();
+  };
+  const std::pair<const char*, std::function<bool()>> pickers[] = {
+      {"frmSearchSize", [&] { return frmSearchSize(context, u"1"_s, TradeSide::Sale, nullptr).has_value(); }},
+      {"frmSearchVolume", [&] { return frmSearchVolume(pc.session, nullptr).has_value(); }},
+      {"frmSearchResponse", [&] { return frmSearchResponse(pc.session, nullptr).has_value(); }},
+      {"frmSearchRefill", [&] { return frmSearchRefill(pc.session, nullptr).has_value(); }},
+      {"frmSearchBank", [&] { return frmSearchBank(pc.session, nullptr).has_value(); }},
+      {"frmPostCode", [&] { return frmPostCode(pc.session, u"도화"_s, nullptr).has_value(); }},
+      {"frmBDName", [&] { return frmBDName(pc.session, buildings).pick() > 0; }},
+      {"frmAPTAddress", [&] { return frmAPTAddress(pc.session, buildings).pick() > 0; }},
+      {"frmSearchClient", client},
+  };
+  for (const auto& [name, run] : pickers) {
+    SCOPED_TRACE(name);
+    const auto inList = [](PickerDialog& dialog) {
+      return dialog.grid()->isAncestorOf(QApplication::focusWidget());
+    };
+    whenModal([&](PickerDialog& dialog) {
+      EXPECT_EQ(dialog.objectName(), QString::fromLatin1(name));
+      EXPECT_TRUE(inList(dialog)) << "the list has the focus";
+      EXPECT_EQ(dialog.grid()->activeRow(), 1);
+      QMap<QString, QString> letters;
+      for (const auto* const button : dialog.findChildren<QPushButton*>()) {
+        const QString letter = QKeySequence::mnemonic(button->text()).toString();
+        EXPECT_FALSE(letter.isEmpty() || letters.contains(letter)) << button->text().toStdString();
+        letters[letter] = button->text();
+      }
+      if (dialog.findBox()) {
+        tests::key(Qt::Key_Up);
+        EXPECT_TRUE(dialog.findBox()->hasFocus()) << "up from the first line";
+        tests::key(Qt::Key_Down);
+        EXPECT_TRUE(inList(dialog));
+        tests::key(Qt::Key_Tab);
+        EXPECT_FALSE(inList(dialog)) << "Tab leaves the list";
+        tests::key(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_TRUE(inList(dialog));
+      }
+      tests::key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(run()) << "Enter takes";
+    whenModal([&](PickerDialog&) { tests::key(Qt::Key_Escape); });
+    EXPECT_FALSE(run()) << "Esc leaves";
+  }
 }
 
 TEST_F(CatalogueForms, PostcodeWindowSearchesAtOnceForItsCaller) {
