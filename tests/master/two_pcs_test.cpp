@@ -228,6 +228,17 @@ TEST_F(RegistersOnTwoPcs, TheChosenRowStaysChosenWhenTheListGrowsBeforeIt) {
   EXPECT_EQ(util.list().text(1, 1), u"호스"_s);
 }
 
+TEST_F(RegistersOnTwoPcs, ATextThatItsBoxShowsOtherwiseStaysAsItIs) {
+  RefillRegister refills(here.session);
+  refills.load();
+  RegisterFields shown = boxesOf(refills.select(1));
+  shown[u"Tel"_s] = u"02 345 6789"_s;
+  RegisterFields boxes = shown;
+  boxes[u"Fax"_s] = u"02-345-6780"_s;
+  EXPECT_TRUE(refills.save(boxes, shown).done);
+  EXPECT_EQ(stored(u"Tel & Fax From RefillState"_s), u"02-345-678902-345-6780"_s);
+}
+
 TEST_F(RegistersOnTwoPcs, SuppliersOfTwoPcsGetCodesOfTheirOwn) {
   RefillRegister first(here.session), second(there->session);
   first.load();
@@ -237,6 +248,46 @@ TEST_F(RegistersOnTwoPcs, SuppliersOfTwoPcsGetCodesOfTheirOwn) {
   EXPECT_TRUE(first.save({{u"Company"_s, u"가"_s}}).done);
   EXPECT_TRUE(second.save({{u"Company"_s, u"나"_s}}).done);
   EXPECT_EQ(stored(u"Code From RefillState Where Company = '나'"_s), u"0003"_s);
+}
+
+/** An operator who thinks: while he is asked about a column, something happens elsewhere. */
+struct SlowHand : tests::ScriptedPrompts {
+  std::function<void()> meanwhile;
+  bool MsgAsk(const QString& text, const QString& title, bool yesFirst) override {
+    const bool answer = ScriptedPrompts::MsgAsk(text, title, yesFirst);
+    if (meanwhile && text.contains(u"같은 칸을"_s)) std::exchange(meanwhile, {})();
+    return answer;
+  }
+};
+
+TEST_F(RegistersOnTwoPcs, WhatHappensWhileTheOperatorIsAskedCountsToo) {
+  SlowHand hand;
+  Session slow(here.pc, hand);
+  slow.DbPath = here.session.DbPath;
+  slow.wsMain = openWorkspace(slow, slow.DbPath);
+  slow.dbBasic = slow.wsMain.OpenDatabase(slow.DbPath + u"Basic.mdb"_s);
+  RefillRegister refills(slow);
+  refills.load();
+  RegisterFields boxes = boxesOf(refills.select(1));
+  boxes[u"Tel"_s] = u"02-111-1111"_s;
+  there->run(u"Update RefillState Set Tel = '02-222-2222'"_s);
+  hand.meanwhile = [this] {
+    there->run(u"Update RefillState Set Fax = '02-333-3333', GasInit = GasInit - 7"_s);
+  };
+  hand.expect(u"같은 칸을 먼저"_s);
+  hand.expect(u"같은 칸을 먼저"_s);  // about the row as it stands by then
+  hand.expect(u"바뀐 대로 두고 저장했습니다.\n"_s);
+  EXPECT_TRUE(refills.save(boxes).done);
+  EXPECT_EQ(stored(u"Tel & Fax From RefillState"_s), u"02-111-111102-333-3333"_s);
+  EXPECT_EQ(stored(u"GasInit From RefillState"_s), u"999993"_s);
+
+  boxes = boxesOf(refills.select(1));
+  boxes[u"Tel"_s] = u"02-444-4444"_s;
+  there->run(u"Update RefillState Set Tel = '02-555-5555'"_s);
+  hand.meanwhile = [this] { there->run(u"Delete * From RefillState"_s); };
+  hand.expect(u"같은 칸을 먼저"_s);
+  hand.expect(u"이미 삭제된 자료입니다!"_s);
+  EXPECT_EQ(refills.save(boxes).end, RowEnd::Gone);
 }
 
 // --- customers ------------------------------------------------------------------------------------------------
