@@ -46,6 +46,7 @@ void HelpKey::show(const QString& chapter, const QString& words, QWidget* over) 
   };
   if (over) {  // a window that keeps all others from the keyboard: the guide stands on it until it is closed
     FrmGuide guide(over);
+    guide.setModal(true);
     guide.show();
     turn(guide);
     guide.exec();

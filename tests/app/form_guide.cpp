@@ -14,7 +14,9 @@
 #include "app/FrmGuide.h"
 #include "app/form_help_key.h"
 #include "app/form_pickers.h"
+#include "app/form_table.h"
 #include "app/frmMain.h"
+#include "app/guide_chapters.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
@@ -58,6 +60,8 @@ struct GuideWindow : testing::Test, tests::TestPc {
       QWidget* const modal = QApplication::activeModalWidget();
       ASSERT_TRUE(modal);
       QTimer::singleShot(0, modal, [&] {
+        if (guide()) QTest::keyClick(guide(), Qt::Key_F1);  // no guide on the guide
+        EXPECT_EQ(QApplication::activeModalWidget(), guide());
         shown = chapter();
         if (guide()) guide()->reject();
       });
@@ -91,6 +95,15 @@ TEST_F(GuideWindow, F1OpensTheChapterOfWhatIsInFront) {
       << "a box without a chapter has that of the form behind it";
   EXPECT_TRUE(window->run("mnuGuide"));
   EXPECT_EQ(chapter(), "검침");
+}
+
+TEST_F(GuideWindow, EveryFormOfTheMenuHasItsChapter) {
+  for (const auto& entry : commandMap()) {
+    const QString form = entry.formName().section(u':', 0, 0);
+    if (findForm(form)) {
+      EXPECT_NE(guideChapter(form), "") << form.toStdString();
+    }
+  }
 }
 
 TEST_F(GuideWindow, ABoxLeadsToTheLineThatExplainsIt) {
