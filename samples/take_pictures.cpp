@@ -109,7 +109,11 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
                            "frmHouseStyle", "frmEva", "FrmSukum", "frmSale", "frmTodaySale"}) {
     if (name[3] != 'T') closeForm(window);
     window.openForm(QString::fromLatin1(name));
-    if (auto* form = window.findChild<QWidget*>(QString::fromLatin1(name))) photographer.take(*form, name);
+    auto* const form = window.findChild<QWidget*>(QString::fromLatin1(name));
+    if (!form) continue;
+    if (name == std::string_view("frmSale"))
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);  // a customer is shown
+    photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");
 }

@@ -74,6 +74,8 @@ void frmSale::buildPanel() {
   address_ = fields.value("LblAddr", "주소", 0, 2);
   mapState_ = fields.value("LblMap", "약도");
   memo_ = fields.value("LblMemo", "메모", 0, 3);
+  for (QLabel* const label : {tel_, endDay_, mapState_})
+    label->setMinimumWidth(fontMetrics().horizontalAdvance("0000-0000-0000") + 16);
   row->addWidget(panel, 1);
 
   // What he owes is what the operator tells him on the telephone.

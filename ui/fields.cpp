@@ -101,5 +101,7 @@ QLabel* Fields::value(const char* name, const QString& label, int width, int spa
   auto* const shown = new QLabel(panel_);
   shown->setProperty("role", "value");
   shown->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  // What is shown does not move its neighbours; the column is as wide as the form made it.
+  shown->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   return put(name, label, shown, width, span);
 }
