@@ -85,6 +85,9 @@ bool Form::trap(const QString& procedure, const std::function<void()>& work) {
 }
 
 bool Form::commitEditors() {
+  // A key that was on its way when a box came up still finds the shortcuts of the window behind it.
+  const QWidget* const box = QApplication::activeModalWidget();
+  if (box && box != window() && !box->isAncestorOf(this)) return false;
   const auto grids = findChildren<Spread*>();
   return std::all_of(grids.begin(), grids.end(), [](Spread* grid) { return grid->commitEdit(); });
 }

@@ -30,7 +30,8 @@ class Form : public QWidget {
   bool guard(const std::function<void()>& work);
   /** The same with the box that names the procedure: "Error 3061 (...) in procedure X of Form Y". */
   bool trap(const QString& procedure, const std::function<void()>& work);
-  /** Accepts every open cell. False: one was refused, the command that asked must not run. */
+  /** Accepts every open cell. False: one was refused, or a box stands over the form; the command that asked must not
+   *  run. */
   bool commitEditors();
   /** What a button or key runs: the open cells first, then the work under the guard. */
   bool command(const std::function<void()>& work);

@@ -4,12 +4,14 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "tests/support.h"
@@ -131,6 +133,21 @@ TEST_F(FormTest, TheHandGoesBackToTheGridAfterAButton) {
   form.rows.clear();
   QTest::mouseClick(form.save, Qt::LeftButton);
   EXPECT_FALSE(form.grid->hasFocus()) << "nothing to work on there";
+}
+
+// The window behind a box still has its shortcuts until the keyboard has moved over to the box.
+TEST_F(FormTest, NothingRunsBehindABox) {
+  QDialog box(&form);
+  QTimer::singleShot(0, &box, [&] {
+    form.save->click();
+    form.close();
+    EXPECT_EQ(form.saves, 0);
+    EXPECT_TRUE(form.isVisible());
+    box.reject();
+  });
+  box.exec();
+  form.save->click();
+  EXPECT_EQ(form.saves, 1);
 }
 
 TEST_F(FormTest, PagesTurnByKeysWithTheOpenCellTakenFirst) {
