@@ -208,6 +208,7 @@ void small(frmMain& window, Session& session, Photographer& photographer) {
 
 void guideAndFirstSteps(frmMain& window, Photographer& photographer) {
   FrmGuide guide;
+  guide.show();
   guide.showChapter("검침");
   photographer.take(guide, "FrmGuide");
   window.openForm("FrmFirstSteps");
