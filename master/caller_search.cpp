@@ -36,7 +36,7 @@ std::vector<CallingClient> clientsCalling(Session& session, const QString& numbe
   const QString tail = digitsOnly(number).right(tailLength);
   if (tail.isEmpty()) return {};
   jet::Recordset found = session.dbYear.OpenRecordset(
-      "Select * From Client Where Tel Like '*" + plainText(tail) + "' OR Tel1 Like '*" + tail +
+      "Select * From Client Where Tel Like '*" + plainText(tail) + "' OR Tel1 Like '*" + plainText(tail) +
       "' OR Tel2 Like '*" + plainText(tail) + "' OR UName Like '*" + plainText(tail) + "'");
   std::vector<CallingClient> calling;
   for (; !found.atEnd(); found.MoveNext())

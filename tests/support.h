@@ -36,7 +36,11 @@ class ScriptedPrompts : public Prompts {
 
   void MsgInfo(const QString& text, const QString& title) override { next(text, title); }
   void MsgWarn(const QString& text, const QString& title) override { next(text, title); }
-  bool MsgAsk(const QString& text, const QString& title, bool) override { return next(text, title).yes; }
+  bool MsgAsk(const QString& text, const QString& title, bool yesFirst) override {
+    for (const char16_t* loss : {u"삭제하시겠습니까", u"지우시겠습니까", u"버리시겠습니까"})
+      EXPECT_FALSE(yesFirst && text.contains(loss)) << "stands on yes: " << text.toStdString();
+    return next(text, title).yes;
+  }
   void ErrorBox(const QString& text, int number, const QString& description) override {
     next(text + u' ' + QString::number(number) + u' ' + description, QStringLiteral("오류"));
   }

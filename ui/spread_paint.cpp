@@ -36,7 +36,8 @@ void Spread::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setFont(font());
   painter.fillRect(event->rect(), isEnabled() ? look::desk : look::disabledPaper);
-  const int still = stillColumns(), edge = edges_[size_t(still)];
+  // Only what is scrolled needs a part of its own: a group's caption goes over the edge unbroken.
+  const int still = horizontalScrollBar()->value() > 0 ? stillColumns() : 0, edge = edges_[size_t(still)];
   paintColumns(painter, event->rect(), still + 1, model_.MaxCols());
   if (still > 0) {
     paintColumns(painter, event->rect(), 1, still);
