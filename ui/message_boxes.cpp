@@ -40,7 +40,8 @@ QPixmap sign(const QString& letter, const QColor& colour) {
 
 void dress(QMessageBox& box, const QString& text) {
   box.setTextFormat(Qt::PlainText);
-  box.setText(text);
+  // A label shows a bare carriage return, as it stands before a statement, as a blank.
+  box.setText(QString(text).replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n'));
   switch (box.icon()) {
     case QMessageBox::Question:
       return box.setIconPixmap(sign(u"?"_s, look::accent));

@@ -12,6 +12,7 @@
 
 #include <functional>
 
+#include "store/data_access.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
 #include "ui/FrmProgress.h"
@@ -80,6 +81,21 @@ TEST_F(Boxes, ErrorBoxTellsNumberAndText) {
   boxes.ErrorBox(u"저장하지 못했습니다."_s, 3022, u"중복된 값"_s);
   EXPECT_EQ(title, u"오류"_s);
   EXPECT_EQ(text, u"저장하지 못했습니다.\n오류번호 : 3022\n오류내용 : 중복된 값"_s);
+}
+
+TEST_F(Boxes, ABrokenStatementStandsOnItsOwnLineAsItWasTyped) {
+  tests::TestPc at;
+  at.openBooks();
+  QString text;
+  whenOpen([&](QWidget& box) {
+    text = static_cast<QMessageBox&>(box).text();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  jet::Recordset rs;
+  EXPECT_FALSE(OpenSnapshot(boxes, at.session.dbBasic, rs,
+                            u"Select * From Bank Where BName = '"_s + plainText(u"x' Or '1'='1"_s) + u"'"_s));
+  EXPECT_TRUE(text.endsWith(u")\nSelect * From Bank Where BName = 'x' Or '1'='1'"_s)) << text.toStdString();
+  EXPECT_EQ(text.count(u"Select"_s), 1);
 }
 
 TEST_F(Boxes, InputBoxHandsBackTheTextOrNothing) {
