@@ -130,7 +130,11 @@ void frmSale::buildSheet(SaleSheet sheet, const QString& caption) {
   grid->cellFinished = [this, sheet](int row, int col, const QString&, const QString& typed) {
     return cellFinished(sheet, row, col, typed);
   };
-  grid->cellEntered = [this](int, int col) { showHelp(SaleEntry::help(col)); };
+  grid->cellEntered = [this](int, int col) {
+    showHelp(SaleEntry::help(col));
+    // Also when another window stood in front between the date and the grid.
+    if (dateOpen_ && !date_->hasFocus()) QTimer::singleShot(0, this, [this] { leaveDate(); });
+  };
   grid->rowEntered = [this](int row) {
     entry_.enteredRow(row);
     showPanel();
@@ -277,6 +281,7 @@ bool frmSale::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void frmSale::leaveDate() {
+  if (!dateOpen_) return;
   guard([this] {
     dateOpen_ = date_->hasFocus();
     posting_.setDate(date_->dateText());

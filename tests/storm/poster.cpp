@@ -42,7 +42,8 @@ class Poster {
     if (isCollection(kind(row))) {
       finish(row, SaleCol::Income, 1 + below(9000));
     } else {
-      step(row, [&] { entry_.enterKey(row, SaleCol::Item, {}); });
+      step(row,
+           [&] { entry_.search(row, SaleCol::Item, {}); });  // Enter would take what the customer had last
       finish(row, SaleCol::Number, 1 + below(4));
       finish(row, SaleCol::Income, below(40) * 1000);
     }

@@ -302,6 +302,25 @@ TEST(FrmSale, KeysAndButtonsKeepTheHandOnTheGrid) {
   EXPECT_TRUE(sale.grid()->isAncestorOf(QApplication::focusWidget()));
 }
 
+TEST(FrmSale, ADayTypedBeforeAnotherWindowCameIsTakenWhenTheGridIsGoneTo) {
+  SaleScreen sale;
+  QCoreApplication::processEvents();
+  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+  date->setFocus();
+  QTest::keyClicks(date, "0302");
+  QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+  QCoreApplication::sendEvent(date, &away);
+  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
+  date->removeEventFilter(
+      &sale.form);  // the way from one window to a cell of the other does not pass the date
+  sale.grid()->setFocus();
+  date->installEventFilter(&sale.form);
+  QCoreApplication::processEvents();
+  sale.press(Qt::Key_F5);
+  EXPECT_EQ(sale.pc.session.SaleDay, "2026-03-02");
+  EXPECT_TRUE(sale.form.TakeCallerNumber("0531234567"));
+}
+
 TEST(FrmSale, AnOpenCellIsTakenOnTheWayToTheDate) {
   SaleScreen sale;
   sale.customer("1", SaleScreen::Plain, "산골식당");

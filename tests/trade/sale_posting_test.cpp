@@ -61,8 +61,10 @@ TEST(SaleKinds, PositionsAndCodes) {
   }
   EXPECT_EQ(saleKindAt(SaleSheet::Material, 1), 8);
   EXPECT_EQ(salePositionOf(SaleSheet::General, 9), 5) << "an unknown kind stands at the last position";
-  EXPECT_EQ(saleSearchCode(SaleMaterial), "4");
-  EXPECT_EQ(saleSearchCode(SaleCollection), "");
+  EXPECT_EQ(saleKindAt(SaleSheet::General, -1), SaleGas) << "an untouched cell";
+  QStringList kinds;
+  for (int code = 1; code <= 9; ++code) kinds << saleLabel(code) + saleSearchCode(code);
+  EXPECT_EQ(kinds, QStringList({"가스1", "용판2", "실병3", "수금", "용대5", "용회6", "자판4", "자수", ""}));
 }
 
 TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {
