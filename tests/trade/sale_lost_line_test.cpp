@@ -54,6 +54,14 @@ TEST(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
   entry.enterKey(row, SaleCol::Item, {});
   EXPECT_EQ(key(), "2");
   EXPECT_EQ(desk.rows("Select ClientCode, SaleNum From Sale Order By SaleID"), "2|9;1|1");
+  {
+    const ReadingPc other(yearPath);
+    desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+    EXPECT_THROW(entry.finishCell(row, SaleCol::Number, "3"), jet::Error);
+  }
+  desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+  EXPECT_EQ(entry.finishCell(row, SaleCol::Number, "2").end, SaleStep::Done)
+      << "what was not kept is not taken for another PC's change";
 }
 
 }  // namespace

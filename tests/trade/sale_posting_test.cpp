@@ -357,6 +357,10 @@ TEST(SaleEntry, TheWholeNumberOfACallerComesFirstOverAllCustomers) {
   EXPECT_EQ(sale.entry.TakeCallerNumber("021234567")->end, SaleStep::Done);
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
   EXPECT_TRUE(sale.pickers.asked.isEmpty()) << "nobody had to be looked for";
+  sale.run("Update Client Set Tel2 = '053-123-4567' Where Code = 2");
+  sale.pickers.clients = {ClientChoice{2, "한빛 101동 202호"}};
+  sale.entry.TakeCallerNumber("0531234567");
+  EXPECT_EQ(sale.pickers.asked.last(), "client 053-123-4567 2 1") << "two of one number: the list";
 }
 
 TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
@@ -377,7 +381,12 @@ TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Material) << "an unknown number leaves the sheet";
   EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
   EXPECT_EQ(sale.calls.numbers, QStringList{"0533456789"}) << "fetched";
-  sale.pc.session.dbYear.Close();
+  sale.posting.beforeFill = [&] { sale.pc.session.dbYear.Close(); };
+  sale.calls.numbers = {"0531234567"};
+  sale.pc.prompts.expect("Select Sale.*");
+  EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, SaleStep::PutBack);
+  EXPECT_EQ(sale.calls.numbers, QStringList{"0531234567"}) << "told, and no call is lost";
+  sale.calls.numbers = {"0533456789"};
   EXPECT_THROW(sale.entry.TakeCallerNumber({}), jet::Error);
   EXPECT_EQ(sale.calls.numbers, QStringList{"0533456789"}) << "a failure loses no call";
 }
