@@ -360,7 +360,7 @@ TEST(SaleEntry, TheWholeNumberOfACallerComesFirstOverAllCustomers) {
   sale.run("Update Client Set Tel2 = '053-123-4567' Where Code = 2");
   sale.pickers.clients = {ClientChoice{2, "한빛 101동 202호"}};
   sale.entry.TakeCallerNumber("0531234567");
-  EXPECT_EQ(sale.pickers.asked.last(), "client 053-123-4567 2 1") << "two of one number: the list";
+  EXPECT_EQ(sale.pickers.asked.value(0), "client 053-123-4567 2 1") << "two of one number: the list";
 }
 
 TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
@@ -368,7 +368,7 @@ TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
   sale.pickers.clients = {ClientChoice{3, "별빛 3동"}, ClientChoice{2, "한빛 101동 202호"}};
   const auto landed = sale.entry.TakeCallerNumber("0533456789");
   ASSERT_TRUE(landed);
-  EXPECT_EQ(sale.pickers.asked.last(), "client 053-345-6789 2 1") << "over all customers, as a list";
+  EXPECT_EQ(sale.pickers.asked.value(0), "client 053-345-6789 2 1") << "over all customers, as a list";
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
   EXPECT_EQ(landed->col, SaleCol::Kind);
   EXPECT_EQ(sale.entry.TakeCallerNumber("0533456789")->end, SaleStep::Done);
