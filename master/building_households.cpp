@@ -127,7 +127,8 @@ void makeBuilding(const Session& session, const Building& building, const QStrin
                                if (tell) tell(done - 1);
                                return true;
                              },
-                         .whole = units.size() <= wholeBuilding});
+                         .whole = units.size() <= wholeBuilding,
+                         .files = {session.dbBasic, session.dbYear}});
   } catch (const jet::Error& error) {
     if (!lastCodeBefore) throw;
     QString end = "건물등록을 마치지 못하여 등록하던 자료를 모두 지웠습니다!";

@@ -1,6 +1,7 @@
 #include "master/client_rows.h"
 
 #include <set>
+#include <vector>
 
 #include "store/jet/sql.h"
 
@@ -18,7 +19,9 @@ void addMeterRow(const Session& session, qint64 clientCode, int month) {
 
 qint64 addClient(const Session& session, QStringView insertStatement, bool metered) {
   qint64 code = 0;
-  session.wsMain.Together([&] {
+  std::vector<jet::Database> files{session.dbBasic};
+  if (metered) files.push_back(session.dbYear);
+  session.wsMain.Together(files, [&] {
     session.dbBasic.Execute(insertStatement);
     code = session.dbBasic.OpenRecordset("Select Max(Code) As MCode From Client")["MCode"].toLong();
     for (int month = 0; metered && month <= lastMonth; ++month) addMeterRow(session, code, month);

@@ -18,7 +18,7 @@ int run(const jet::Workspace& workspace, const LongWork& work) {
     if (asks(done)) {
       work.step(done++);
     } else {
-      workspace.Together([&] {
+      workspace.Together(work.files, [&] {
         QElapsedTimer since;
         since.start();
         do work.step(done++);

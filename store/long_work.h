@@ -2,6 +2,7 @@
 // Long work over many rows: grouped, so that it costs few flushes, but let go every fraction of a second, so that
 // another PC gets in.
 #include <functional>
+#include <vector>
 
 #include "store/jet/database.h"
 
@@ -15,6 +16,8 @@ struct LongWork {
   /** All steps in one group: a power cut leaves all of them or none. For work that is over before a waiting PC gives
    *  up; no step of it may ask. */
   bool whole = false;
+  /** Files that each group is sure of before its first write, where its statements come to them only later. */
+  std::vector<jet::Database> files = {};
 };
 
 /** Steps done. An error of a step goes on to the caller; the steps before it stay. */

@@ -19,11 +19,13 @@ class SaleRowBefore {
       : posting_(posting), grid_(posting.grid(posting.sheet())), row_(row) {
     for (int col = SaleCol::Date; col < SaleCol::Key; ++col) cells_ << grid_.text(row, col);
     known_ = posting.known(row);
+    hadKey_ = !grid_.text(row, SaleCol::Key).isEmpty();
   }
   void putBack() const {
     for (int col = SaleCol::Date; col < SaleCol::Key; ++col) grid_.setText(row_, col, cells_.at(col - 1));
     if (!known_.isEmpty()) posting_.setKnown(row_, known_);
-    if (!posting_.isStored(row_)) grid_.setText(row_, SaleCol::Key, {});
+    // A disk that is silent about a stored line has not lost it: without its key it would be written once more.
+    if (!posting_.isStored(row_).value_or(hadKey_)) grid_.setText(row_, SaleCol::Key, {});
   }
 
  private:
@@ -32,6 +34,7 @@ class SaleRowBefore {
   int row_;
   QStringList cells_;
   QString known_;
+  bool hadKey_ = false;
 };
 
 struct SaleRequired {

@@ -202,14 +202,14 @@ bool SalePosting::deleteRow(int row) {
   return true;
 }
 
-bool SalePosting::isStored(int row) {
+std::optional<bool> SalePosting::isStored(int row) {
   const QString key = grid(sheet_).text(row, SaleCol::Key);
   if (key.isEmpty()) return false;
   try {
     return !session_.dbYear.OpenRecordset("Select SaleID From Sale Where SaleID = " + plainNumber(key))
                 .atEnd();
   } catch (const jet::Error&) {
-    return false;
+    return {};
   }
 }
 

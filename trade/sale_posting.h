@@ -3,6 +3,7 @@
 // Every finished cell is written at once; no line is ever saved by a button.
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "trade/sale_history.h"
 #include "trade/sale_sheet.h"
@@ -61,8 +62,8 @@ class SalePosting {
   /** Tells why nothing was written, and loads the sheet again. */
   void tellMoved(const SaleLineMoved& moved);
 
-  /** Whether the row's line is in the book; False also where the book cannot be asked. Nothing is told. */
-  bool isStored(int row);
+  /** Whether the row's line is in the book; nothing where the book cannot be asked. Nothing is told. */
+  std::optional<bool> isStored(int row);
 
   /** The delivery person alone; nothing unless line and person are there. Throws as PostSaleRow does. */
   void postPerson(int row);

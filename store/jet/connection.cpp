@@ -127,6 +127,12 @@ bool Connection::hasMoved(const QByteArray& alias) const {
   return moved != 0;
 }
 
+bool Connection::isLocked(const QByteArray& alias) const {
+  int level = SQLITE_LOCK_NONE;
+  sqlite3_file_control(handle_.get(), alias.constData(), SQLITE_FCNTL_LOCKSTATE, &level);
+  return level != SQLITE_LOCK_NONE;
+}
+
 Error Connection::error(int code, const QString& about) const {
   const QByteArray message = handle_ ? QByteArray(sqlite3_errmsg(handle_.get())) : QByteArray();
   if (const int number = ownFailure(message)) return errorOf(number, about);

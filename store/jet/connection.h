@@ -35,6 +35,8 @@ class Connection {
   void detach(const QByteArray& alias);
   /** The file under this alias was deleted or replaced on the disk since it was opened. */
   bool hasMoved(const QByteArray& alias) const;
+  /** A lock on the file is held, also one that could not be given back. */
+  bool isLocked(const QByteArray& alias) const;
   /** Gives back the memory of the pages that were read. */
   void forgetPages() { sqlite3_db_release_memory(handle_.get()); }
   bool isReadOnly(const QByteArray& alias) const {

@@ -58,17 +58,32 @@ QByteArray headerInJournal(const QString& path) {
   }
 }
 
-/** By SQLite's own open: were the file opened and closed here, the locks of this process on it would be gone. */
+/** A file opened by SQLite's own way: were it opened and closed here, the locks of this process on it would be gone. */
+class OpenFile {
+ public:
+  explicit OpenFile(const char* path) {
+    int out = 0;
+    base()->xOpen(base(), path, file(), SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_READONLY, &out);
+  }
+  ~OpenFile() {
+    if (file()->pMethods) file()->pMethods->xClose(file());
+  }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  /** SQLite's code. */
+  int read(QByteArray& into, qint64 at) const {
+    return file()->pMethods ? file()->pMethods->xRead(file(), into.data(), int(into.size()), at)
+                            : SQLITE_CANTOPEN;
+  }
+
+ private:
+  sqlite3_file* file() const { return reinterpret_cast<sqlite3_file*>(room_.get()); }
+  std::unique_ptr<char[]> room_{new char[size_t(base()->szOsFile)]()};
+};
+
 QByteArray headerOf(const char* path) {
-  const std::unique_ptr<char[]> room(new char[size_t(base()->szOsFile)]());
-  auto* file = reinterpret_cast<sqlite3_file*>(room.get());
   QByteArray header(kHeader, '\0');
-  int out = 0;
-  const int opened = base()->xOpen(base(), path, file, SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_READONLY, &out);
-  const bool read =
-      opened == SQLITE_OK && file->pMethods->xRead(file, header.data(), kHeader, 0) == SQLITE_OK;
-  if (file->pMethods) file->pMethods->xClose(file);
-  return read ? header : QByteArray();
+  return OpenFile(path).read(header, 0) == SQLITE_OK ? header : QByteArray();
 }
 
 /** The first page is written last and whole, so the file stands at the change the journal began with, and looks as it
@@ -145,6 +160,19 @@ QString onePath(const QString& nativePath) {
   if (!failure) return QString::fromStdU16String(path.u16string());
   if (isThere(nativePath)) fail(3043, nativePath);
   return QFileInfo(nativePath).absoluteFilePath();
+}
+
+bool answers(const QString& nativePath) {
+  const std::unique_ptr<const char, void (*)(const char*)> path(
+      sqlite3_create_filename(nativePath.toUtf8().constData(), "", "", 0, nullptr),
+      [](const char* name) { sqlite3_free_filename(name); });
+  const OpenFile file(path.get());
+  QByteArray part(1 << 16, '\0');
+  for (qint64 at = 0;; at += part.size()) {
+    const int code = file.read(part, at);
+    if (code == SQLITE_IOERR_SHORT_READ) return true;  // the end
+    if (code != SQLITE_OK) return false;
+  }
 }
 
 void requireFile(const QString& nativePath) {

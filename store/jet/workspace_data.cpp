@@ -68,6 +68,7 @@ FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
     file = attach(path);
     ++file->handles;
     twice(path, [&] {
+      ensureAttached(file);
       beginStatement({file});
       file->refresh(*connection_);
     });
@@ -106,13 +107,24 @@ FilePtr WorkspaceData::fileAt(const QString& written) {
 FilePtr WorkspaceData::attach(const QString& nativePath) {
   FilePtr file = attached(nativePath);
   if (file && connection_->hasMoved(file->alias())) {  // replaced on the disk: everything is read anew
+    lookAt(nativePath);                                // silence is no answer
     if (groupDepth_ > 0 && connection_->inTransaction()) failed(errorOf(3043, nativePath), {});
     reconnect();
     file = attached(nativePath);
   }
-  if (!file) file = std::make_shared<DataFile>(nativePath);
+  if (!file) file = fileFor(nativePath);
   ensureAttached(file);
   return file;
+}
+
+/** The one of a handle, also while it is not attached, or a new one. */
+FilePtr WorkspaceData::fileFor(const QString& nativePath) {
+  std::erase_if(known_, [](const auto& file) { return file.expired(); });
+  for (const auto& known : known_)
+    if (const FilePtr file = known.lock(); file && file->path() == nativePath) return file;
+  const FilePtr made = std::make_shared<DataFile>(nativePath);
+  known_.push_back(made);
+  return made;
 }
 
 void WorkspaceData::ensureAttached(const FilePtr& file) {
@@ -124,8 +136,10 @@ void WorkspaceData::ensureAttached(const FilePtr& file) {
     twice(file->path(), [&] { tryAttach(file); });
   } catch (const Error& error) {
     damageFound_ = isDamage(error.number());
+    if (damageFound_ && !answers(file->path())) fail(3043, file->path());
     throw;
   }
+  if (file->exclusiveHandles > 0) lockExclusively(*file);  // it was let go with a broken connection
 }
 
 void WorkspaceData::tryAttach(const FilePtr& file) {
@@ -161,7 +175,7 @@ bool WorkspaceData::isMainFile(const FilePtr& file) const {
 void WorkspaceData::connect(const FilePtr& file) {
   std::vector<FilePtr> candidates;
   if (!options_.mainFile.isEmpty() && !isMainFile(file))
-    candidates.push_back(std::make_shared<DataFile>(native(options_.mainFile)));
+    candidates.push_back(fileFor(native(options_.mainFile)));
   candidates.push_back(file);
   const auto tryConnect = [&](const FilePtr& candidate) {
     candidate->arrive(options_.busyMilliseconds);
@@ -203,7 +217,6 @@ void WorkspaceData::reconnect() {
   for (const FilePtr& file : files) {
     try {
       ensureAttached(file);
-      if (file->exclusiveHandles > 0) lockExclusively(*file);
     } catch (const Error&) {
     }
   }
@@ -322,6 +335,7 @@ Prepared WorkspaceData::compiled(const FilePtr& file, QStringView sql, Keys keys
 }
 
 Prepared WorkspaceData::tryCompile(const FilePtr& file, QStringView sql, Keys keys) {
+  ensureAttached(file);
   beginStatement({file});
   file->refresh(*connection_);
   HandleCatalogue catalogue(*this, file);
@@ -482,6 +496,11 @@ void WorkspaceData::commitGroup() {
   try {
     connection_->exec("COMMIT");
     groupBegan_ = false;
+    // All stands; but a disk or network that went silent behind that may have kept locks, which would lock others out.
+    const auto left = [&](const FilePtr& file) {
+      return file->exclusiveHandles == 0 && connection_->isLocked(file->alias());
+    };
+    if (std::ranges::any_of(files_, left)) disconnect();
   } catch (const Error& error) {
     connection_->tryExec("ROLLBACK");
     failed(error, files_);
@@ -489,6 +508,7 @@ void WorkspaceData::commitGroup() {
 }
 
 void WorkspaceData::check(DataFile& file) {
+  if (!answers(file.path())) fail(3043, file.path());
   connection_->forgetPages();
   file.load(*connection_);
   SqliteStatement whole(*connection_, "PRAGMA " + file.alias() + ".integrity_check(1)");
@@ -519,13 +539,17 @@ bool WorkspaceData::isDamaged(DataFile& file) {
 void WorkspaceData::failed(const Error& error, std::vector<FilePtr> files) {
   const bool told = undoneBy_.has_value();
   afterFailure(error);
-  if (told || !isDamage(error.number()) || !connection_ || connection_->inTransaction() || files.empty())
-    throw error;
-  if (std::ranges::any_of(files, [&](const FilePtr& file) { return file->attached && isDamaged(*file); }))
-    throw error;
-  const Error unanswered = errorOf(3043, QFileInfo(files.front()->path()).fileName());
-  if (undoneBy_) undoneBy_ = unanswered;
-  throw unanswered;
+  if (told || !connection_ || connection_->inTransaction()) throw error;
+  Error found = error;
+  const auto damaged = [&](const FilePtr& file) { return file->attached && isDamaged(*file); };
+  if (isDamage(error.number()) && !files.empty() && std::ranges::none_of(files, damaged)) {
+    found = errorOf(3043, QFileInfo(files.front()->path()).fileName());
+    if (undoneBy_) undoneBy_ = found;
+  }
+  // Whatever SQLite could not give back to a silent disk or network, locks above all, goes with the connection. The next
+  // statement makes a new one.
+  if (found.number() == 3043) disconnect();
+  throw found;
 }
 
 /** The store's failure takes the whole group back, which SQLite does by itself for some (a full disk) and not for

@@ -44,6 +44,7 @@ class WorkspaceData {
  private:
   FilePtr attach(const QString& nativePath);
   FilePtr attached(const QString& nativePath) const;
+  FilePtr fileFor(const QString& nativePath);
   void ensureAttached(const FilePtr& file);
   void tryAttach(const FilePtr& file);
   void connect(const FilePtr& file);
@@ -75,6 +76,7 @@ class WorkspaceData {
 
   Workspace::Options options_;
   std::vector<FilePtr> files_;  ///< the main file first; they outlive the connection
+  std::vector<std::weak_ptr<DataFile>> known_;
   std::unique_ptr<Connection> connection_;
   StatementCache prepared_;
   int aliases_ = 0;

@@ -25,6 +25,22 @@ TEST(Settings, KeepsTextsByApplicationSectionAndKeyInAnyCase) {
   EXPECT_EQ(settings.GetSetting("해온판매", "환경설정", "NoMsg"), "2");
 }
 
+TEST(Settings, WhatCannotBeReadIsNotWrittenOver) {
+  QTemporaryDir folder;
+  pc::Settings settings(folder.path());
+  EXPECT_TRUE(settings.canBeRead("A")) << "there is none";
+  ASSERT_TRUE(settings.SaveSetting("A", "s", "k", "1"));
+  const QString file = folder.filePath("settings/a.ini"), aside = file + ".aside";
+  ASSERT_TRUE(QFile::rename(file, aside) && QDir().mkdir(file)) << "there, and cannot be read";
+  pc::Settings next(folder.path());
+  EXPECT_FALSE(next.canBeRead("A"));
+  EXPECT_FALSE(next.SaveSetting("A", "s", "other", "2"));
+  ASSERT_TRUE(QDir().rmdir(file) && QFile::rename(aside, file));
+  EXPECT_TRUE(next.canBeRead("A"));
+  EXPECT_TRUE(next.SaveSetting("A", "s", "other", "2"));
+  EXPECT_EQ(next.GetSetting("A", "s", "k"), "1") << "what it held besides";
+}
+
 TEST(Settings, HoldsAnyTextAndIsSeenByTheNextProgram) {
   QTemporaryDir folder;
   const QStringList odd{" blanks ", "a=b;c", "줄\r\n바꿈\\n", "[x]", "똠방각하 \"따옴\"", "\\"};

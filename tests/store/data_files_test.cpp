@@ -98,6 +98,52 @@ TEST(DataFiles, AFolderThatCannotBeMadeIsTold) {
   EXPECT_FALSE(prepareDataFolder(here.session));
 }
 
+TEST(DataFiles, ADamagedTemplateIsToldAndNotCopied) {
+  TestPc here;
+  here.session.DbPath = installedDataFolder();
+  ASSERT_TRUE(prepareDataFolder(here.session));
+  const QString empty = here.pc.paths.native(yearFile(here.session, u"2002"_s));
+  QFile file(empty);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  const QByteArray whole = file.readAll();
+  const qint64 last = whole.size() / 4096 * 4096 - 4096;
+  for (const QByteArray& bytes :
+       {whole.first(last), QByteArray(9000, 'x'), whole.first(last) + QByteArray(4096, 'x')}) {
+    ASSERT_TRUE(file.resize(0) && file.seek(0) && file.write(bytes) == bytes.size() && file.flush());
+    try {
+      makeYearFile(here.session, u"2026"_s);
+      ADD_FAILURE() << "copied";
+    } catch (const jet::Error& error) {
+      EXPECT_EQ(error.number(), 3049);
+      EXPECT_TRUE(error.description().contains(u"2002Foundation.mdb"_s)) << error.description().toStdString();
+    }
+    EXPECT_FALSE(here.pc.paths.exists(yearFile(here.session, u"2026"_s)));
+  }
+  ASSERT_TRUE(file.remove() && prepareDataFolder(here.session)) << "without it a new one is made";
+  makeYearFile(here.session, u"2026"_s);
+}
+
+TEST(DataFiles, AYearThatOnlyItsJournalTellsOfIsToldAndNotMadeAnew) {
+  TestPc here;
+  here.openBooks(QDate(2026, 3, 2));
+  here.session.dbYear.Close();
+  const QString year = here.pc.paths.native(yearFile(here.session, u"2026"_s));
+  ASSERT_TRUE(QFile::rename(year, year + u"-journal"_s));
+  here.prompts.expect(u"2026Foundation.mdb-journal"_s);
+  EXPECT_FALSE(prepareDataFolder(here.session));
+  EXPECT_THROW(makeYearFile(here.session, u"2026"_s), jet::Error);
+  EXPECT_FALSE(QFile::exists(year));
+}
+
+TEST(DataFiles, ADataFolderThatIsMadeIsClosedToOtherAccounts) {
+  TestPc here;
+  here.session.DbPath = installedDataFolder();
+  ASSERT_TRUE(prepareDataFolder(here.session));
+  const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
+                      QFile::WriteOther | QFile::ExeOther;
+  EXPECT_FALSE(QFile::permissions(here.pc.paths.native(here.session.DbPath)) & others);
+}
+
 TEST(Options, ANewNameGetsItsRowAndAnApostropheIsTold) {
   TestPc here;
   here.openBooks();

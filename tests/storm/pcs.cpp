@@ -60,20 +60,26 @@ int workLong(const QStringList& arguments) {
   return 0;
 }
 
-/** ROOT: a program that is started and ended again and again until there is a file "stop"; tells its starts. */
+/** ROOT: a program that is started and ended. */
+int startOnce(const QStringList& arguments) {
+  Pc here(arguments.at(0));
+  StartUp startUp(here.session);
+  const bool started = startUp.SubMain([&] { startUp.load(); });
+  for (qsizetype i = 0; i < here.prompts.failures.size(); ++i)
+    report(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
+               .arg(here.prompts.failures.at(i))
+               .arg(here.prompts.failureTexts.at(i)));
+  if (!started || !here.session.dbYear.isOpen()) return 4;
+  startUp.shutDown();
+  return 0;
+}
+
+/** ROOT: the same again and again until there is a file "stop"; tells its starts. */
 int startOver(const QStringList& arguments) {
   int starts = 0;
   for (; !toldToStop(arguments.at(0)); ++starts) {
     if (starts == 1) report(QLatin1String(word::ready));
-    Pc here(arguments.at(0));
-    StartUp startUp(here.session);
-    const bool started = startUp.SubMain([&] { startUp.load(); });
-    for (qsizetype i = 0; i < here.prompts.failures.size(); ++i)
-      report(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
-                 .arg(here.prompts.failures.at(i))
-                 .arg(here.prompts.failureTexts.at(i)));
-    if (!started) return 4;
-    startUp.shutDown();
+    if (const int failed = startOnce(arguments)) return failed;
   }
   tellDone(starts);
   return 0;
@@ -104,6 +110,7 @@ int runPc(const QStringList& arguments) {
   if (work == u"build") return runBuilder(arguments.mid(1));
   if (work == u"hold") return holdLock(arguments.mid(1));
   if (work == u"work-long") return workLong(arguments.mid(1));
+  if (work == u"start-once") return startOnce(arguments.mid(1));
   if (work == u"start") return startOver(arguments.mid(1));
   if (work == u"post-limited") return postWithinLimit(arguments.mid(1));
   if (work == u"sweep") return runSweep(arguments.mid(1));

@@ -77,6 +77,23 @@ class Sweep {
 
   void at(long place) {
     ++places_;
+    try {
+      tryAt(place);
+    } catch (const jet::Error& error) {
+      if (++wrong_ <= faultsTold)
+        report(u"fault %1 at %2: cannot be read afterwards: %3"_s.arg(name_).arg(place).arg(
+            error.description()));
+    }
+  }
+
+  /** Of the whole work, where nothing fails. */
+  long calls() const { return calls_; }
+  int places() const { return places_; }
+  int told() const { return told_; }
+  int wrong() const { return wrong_; }
+
+ private:
+  void tryAt(long place) {
     folder_.layDown();
     auto here = std::make_unique<Pc>(root_);
     auto work = makeWork(name_, *here);
@@ -97,18 +114,22 @@ class Sweep {
       checkTexts(*here, wrong);
       const QString state = work->opensAnew() ? QString() : stateOf(root_);
       if (!work->opensAnew() && !work->hasMoreStates()) {
-        if (state == states_.at(done)) {
-        } else if (state == states_.at(done + 1)) {
-          ++done;  // it stands, and what came behind it failed
-        } else {
+        if (state == states_.at(done + 1) && state != states_.at(done))
+          return;  // what came behind it has failed
+        if (state != states_.at(done))
           return wrong(u"half of it stands"_s + difference(state, states_.at(done)));
-        }
       }
       for (; done < work->steps().size(); ++done)
         if (!attempt(*here, *work, done)) return wrong(u"it does not go on when the disk is well"_s);
     }
+    const bool mayBeQuiet = work->opensAnew() && (fault_ == DiskFault::Denied || fault_ == DiskFault::Short);
     work.reset();
     here->close();
+    if (mayBeQuiet && !told && stateOf(root_) != states_.back()) {
+      // A start passes over what it may not open, or takes for no data file, without a word; the next one does it.
+      Pc next(root_);
+      makeWork(name_, next)->steps().front()();
+    }
     if (const QString state = stateOf(root_); state != states_.back())
       wrong((told ? u"done again it is not what it should be"_s : u"it is not done, and nobody was told"_s) +
             difference(state, states_.back()));
@@ -116,13 +137,6 @@ class Sweep {
     if (const QStringList faults = faultsOf(root_); !faults.isEmpty()) wrong(faults.join(u"; "_s));
   }
 
-  /** Of the whole work, where nothing fails. */
-  long calls() const { return calls_; }
-  int places() const { return places_; }
-  int told() const { return told_; }
-  int wrong() const { return wrong_; }
-
- private:
   /** The states that there may be: before the first step and behind each. */
   void runClean() {
     folder_.layDown();
