@@ -111,8 +111,10 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
     window.openForm(QString::fromLatin1(name));
     auto* const form = window.findChild<QWidget*>(QString::fromLatin1(name));
     if (!form) continue;
-    if (name == std::string_view("frmSale"))
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);  // a customer is shown
+    if (name == std::string_view("frmSale")) {  // on a line, so that its customer is shown
+      QCoreApplication::processEvents();
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    }
     photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");

@@ -74,8 +74,11 @@ void frmSale::buildPanel() {
   address_ = fields.value("LblAddr", "주소", 0, 2);
   mapState_ = fields.value("LblMap", "약도");
   memo_ = fields.value("LblMemo", "메모", 0, 3);
-  for (QLabel* const label : {tel_, endDay_, mapState_})
-    label->setMinimumWidth(fontMetrics().horizontalAdvance("0000-0000-0000") + 16);
+  const auto roomFor = [this](QLabel* label, const char* widest) {
+    label->setMinimumWidth(fontMetrics().horizontalAdvance(widest) + 18);
+  };
+  roomFor(tel_, "0000-0000-0000");
+  roomFor(endDay_, "0000-00-00");
   row->addWidget(panel, 1);
 
   // What he owes is what the operator tells him on the telephone.
