@@ -68,6 +68,7 @@ class WorkspaceData {
   void check(DataFile& file);
   bool isDamaged(DataFile& file);
   void commitGroup();
+  void dropKeptLocks();
   void endGroup();
   std::optional<Error> groupFailure() const;
   /** Throws the failure after what it takes with it. files: which may be damaged. */
