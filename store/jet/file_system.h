@@ -18,8 +18,6 @@ bool isThere(const QString& nativePath);
 QString onePath(const QString& nativePath);
 /** Whether every byte of it can be read. SQLite takes a disk that fails for a damaged file. */
 bool answers(const QString& nativePath);
-/** Whether every byte of it can be read. SQLite takes a disk that fails for a damaged file. */
-bool answers(const QString& nativePath);
 /** Throws 3024 or 3044 where no data file is. One that only its journal tells of was taken away while it was written: in
  *  its place no other may be made. */
 void requireFile(const QString& nativePath);

@@ -264,7 +264,7 @@ void WorkspaceData::failed(const Error& error, std::vector<FilePtr> files) {
   }
   // Whatever SQLite could not give back to a silent disk or network, locks above all, goes with the connection. The next
   // statement makes a new one.
-  if (found.number() == 3043) disconnect();
+  if (found.number() == 3043 || found.number() == 3051) disconnect();
   throw found;
 }
 

@@ -43,7 +43,7 @@ class RealHands {
   QRandomGenerator dice_;
 };
 
-TEST(RealWindow, AnyKeyIsAnswered) {
+TEST(RealWindowMonkey, AnyKeyIsAnswered) {
   const bool longRun = qgetenv("HAEON_STORM") == "long";
   const QByteArray named = qgetenv("HAEON_MONKEY");
   const quint32 seed = !named.isEmpty() ? named.toUInt()
