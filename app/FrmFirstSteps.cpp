@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 #include <functional>
 
 #include "app/first_steps.h"
-#include "master/form_context.h"
-#include "ui/form.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/form.h"
 
 class QGridLayout;
 class QLabel;

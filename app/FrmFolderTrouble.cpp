@@ -8,7 +8,7 @@
 #include "app/FrmNetDrive.h"
 #include "app/FrmPath.h"
 #include "store/session.h"
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

@@ -15,7 +15,7 @@
 #include <QVBoxLayout>
 
 #include "app/guide_chapters.h"
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

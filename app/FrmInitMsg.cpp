@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "store/session.h"
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,7 +8,7 @@
 #include <QPushButton>
 
 #include "app/FrmNetDrive.h"
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 
 using namespace Qt::StringLiterals;
 

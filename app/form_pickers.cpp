@@ -3,18 +3,18 @@
 #include <QApplication>
 
 #include "app/frmSecurity.h"
-#include "master/form_context.h"
-#include "master/frmAPTAddress.h"
-#include "master/frmBDName.h"
-#include "master/frmNewClient.h"
-#include "master/frmPostCode.h"
-#include "master/frmSearchBank.h"
-#include "master/frmSearchClient.h"
-#include "master/frmSearchRefill.h"
-#include "master/frmSearchResponse.h"
-#include "master/frmSearchSize.h"
-#include "master/frmSearchVolume.h"
-#include "ui/frmCalendar.h"
+#include "master/buildings/frmAPTAddress.h"
+#include "master/buildings/frmBDName.h"
+#include "master/catalogue/frmSearchSize.h"
+#include "master/catalogue/frmSearchVolume.h"
+#include "master/customers/frmNewClient.h"
+#include "master/customers/frmSearchClient.h"
+#include "master/partners/frmPostCode.h"
+#include "master/partners/frmSearchBank.h"
+#include "master/partners/frmSearchRefill.h"
+#include "master/partners/frmSearchResponse.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/frmCalendar.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 // The modal search forms behind the Pickers that the rules ask.
-#include "master/pickers.h"
+#include "master/registers/pickers.h"
 
 class QWidget;
 struct FormContext;

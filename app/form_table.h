@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 
 class QWidget;
 

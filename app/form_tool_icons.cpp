@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

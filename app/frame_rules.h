@@ -4,7 +4,7 @@
 #include <QDateTime>
 #include <QString>
 
-#include "master/pickers.h"
+#include "master/registers/pickers.h"
 #include "store/session.h"
 
 /** The maker's pages, opened after a question. */

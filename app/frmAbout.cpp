@@ -6,8 +6,8 @@
 #include <QVBoxLayout>
 
 #include "app/frame_rules.h"
-#include "master/form_context.h"
-#include "ui/style.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

@@ -26,9 +26,9 @@
 #include "links/FrmSeeIDStanbyList.h"
 #include "links/caller.h"
 #include "links/form_see_id_port.h"
-#include "ui/form.h"
-#include "ui/guard.h"
-#include "ui/style.h"
+#include "ui/forms/form.h"
+#include "ui/forms/guard.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

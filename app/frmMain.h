@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "app/command_map.h"
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 
 class Caller;
 class FrmSeeIDStanbyList;

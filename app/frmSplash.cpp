@@ -8,8 +8,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "ui/guard.h"
-#include "ui/style.h"
+#include "ui/forms/guard.h"
+#include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
 

@@ -12,7 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "ui/fields.h"
+#include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 #include <QList>
 
 #include "app/company_profile.h"
-#include "master/form_context.h"
-#include "ui/form.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/form.h"
 
 class QButtonGroup;
 class QLineEdit;

@@ -15,12 +15,12 @@
 #include "app/frmSplash.h"
 #include "app/start_up.h"
 #include "pc/program_line.h"
-#include "ui/guard.h"
-#include "ui/message_boxes.h"
-#include "ui/print_fonts.h"
-#include "ui/printers.h"
-#include "ui/report_viewer.h"
-#include "ui/style.h"
+#include "ui/forms/guard.h"
+#include "ui/forms/message_boxes.h"
+#include "ui/forms/style.h"
+#include "ui/paper/print_fonts.h"
+#include "ui/paper/printers.h"
+#include "ui/paper/report_viewer.h"
 
 using namespace Qt::StringLiterals;
 

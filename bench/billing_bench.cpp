@@ -6,7 +6,7 @@
 #include "billing/reading_commands.h"
 #include "billing/reading_load.h"
 #include "billing/reading_sheet.h"
-#include "master/building_households.h"
+#include "master/buildings/building_households.h"
 #include "store/rate_book.h"
 
 namespace {

@@ -12,8 +12,8 @@
 #include "store/rate_book.h"
 #include "tests/giro/reading_rows.h"
 #include "tests/recorded_print.h"
-#include "ui/print_fonts.h"
-#include "ui/printers.h"
+#include "ui/paper/print_fonts.h"
+#include "ui/paper/printers.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "bench/pairs.h"
-#include "ui/spread.h"
-#include "ui/style.h"
+#include "ui/forms/style.h"
+#include "ui/grid/spread.h"
 
 namespace {
 

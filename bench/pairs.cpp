@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <map>
 
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
 
 namespace bench {
 namespace {

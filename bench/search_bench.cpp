@@ -3,7 +3,7 @@
 
 #include "bench/books.h"
 #include "bench/pairs.h"
-#include "master/client_search.h"
+#include "master/customers/client_search.h"
 
 namespace {
 

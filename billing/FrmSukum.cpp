@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "store/vb.h"
-#include "ui/FrmProgress.h"
-#include "ui/fields.h"
+#include "ui/forms/FrmProgress.h"
+#include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
 

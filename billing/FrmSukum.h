@@ -1,8 +1,8 @@
 #pragma once
 // "전자수납 처리": a month's payments from the bank's file.
 #include "billing/collection_import.h"
-#include "master/form_context.h"
-#include "ui/form.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/form.h"
 
 class QComboBox;
 class QLabel;

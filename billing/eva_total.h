@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "store/rate_book.h"
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
 
 struct Session;
 

@@ -16,7 +16,7 @@
 
 #include "billing/reading_load.h"
 #include "billing/reading_months.h"
-#include "ui/FrmProgress.h"
+#include "ui/forms/FrmProgress.h"
 
 using namespace Qt::StringLiterals;
 

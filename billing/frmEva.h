@@ -5,8 +5,8 @@
 #include "billing/reading_edit.h"
 #include "billing/reading_panel.h"
 #include "billing/reading_sheet.h"
-#include "master/form_context.h"
-#include "ui/form.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/form.h"
 
 class QCheckBox;
 class QComboBox;

@@ -12,7 +12,7 @@
 
 #include "billing/reading_sheet.h"
 #include "store/vb.h"
-#include "ui/fields.h"
+#include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #pragma once
 // "검침현황 조회": a book's readings or collections over a period, with what was open before and is open now.
 #include "billing/eva_total.h"
-#include "master/form_context.h"
-#include "ui/form.h"
+#include "master/registers/form_context.h"
+#include "ui/forms/form.h"
 
 class DateBox;
 class QCheckBox;

@@ -9,7 +9,7 @@
 
 #include "billing/frmEva.h"
 #include "billing/reading_list.h"
-#include "ui/excel_export.h"
+#include "ui/grid/excel_export.h"
 
 using namespace Qt::StringLiterals;
 

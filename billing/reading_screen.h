@@ -4,7 +4,7 @@
 #include <QString>
 
 #include "store/rate_book.h"
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
 
 /** Columns of SpEva; their order is what the giro forms print from. Amounts in won. */
 namespace EvaCol {

@@ -7,7 +7,7 @@
 
 #include "giro/form_document_kinds.h"
 #include "giro/form_giro_parts.h"
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "giro/form_document_kinds.h"
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 #include "pc/print_job.h"
 #include "store/document_printing.h"
 

@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 #include <memory>
 
-#include "ui/FrmProgress.h"
+#include "ui/forms/FrmProgress.h"
 
 using namespace Qt::StringLiterals;
 

@@ -9,9 +9,9 @@
 
 #include "giro/form_giro_parts.h"
 #include "giro/giro_setup.h"
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 #include "pc/print_job.h"
-#include "ui/guard.h"
+#include "ui/forms/guard.h"
 
 using namespace Qt::StringLiterals;
 

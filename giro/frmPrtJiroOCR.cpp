@@ -10,9 +10,9 @@
 
 #include "billing/reading_screen.h"
 #include "giro/form_giro_parts.h"
-#include "ui/frmFloatMsg.h"
-#include "ui/guard.h"
-#include "ui/spread.h"
+#include "ui/forms/frmFloatMsg.h"
+#include "ui/forms/guard.h"
+#include "ui/grid/spread.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 #include <QDialog>
 
 #include "giro/jiro_ocr.h"
-#include "master/form_context.h"
-#include "ui/spread_model.h"
+#include "master/registers/form_context.h"
+#include "ui/model/spread_model.h"
 
 class DueDateBoxes;
 class QCheckBox;

@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <functional>
 
-#include "master/calls.h"
+#include "master/customers/calls.h"
 #include "pc/clock.h"
 
 class WaitingList : public WaitingCalls {

@@ -1,6 +1,6 @@
 #pragma once
 // Printing as the forms ask for it: a named printer, text at a place in inches, pages, end or abandon. Behind it the
-// PC's printers and PDF (ui/printers); in a test a recorder whose items are asserted (tests/recorded_print.h).
+// PC's printers and PDF (ui/paper/printers); in a test a recorder whose items are asserted (tests/recorded_print.h).
 #include <QString>
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #pragma once
 // A made-up LPG retailer in a small town: what ./run sample, the sample day and the pictures are played on.
 #include "pc/pc.h"
-#include "ui/prompts.h"
+#include "ui/model/prompts.h"
 
 namespace samples {
 

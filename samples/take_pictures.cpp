@@ -28,13 +28,13 @@
 #include "links/FrmSeeIDStanbyList.h"
 #include "links/caller.h"
 #include "links/form_see_id_port.h"
-#include "master/frmNewClient.h"
+#include "master/customers/frmNewClient.h"
 #include "pc/program_line.h"
 #include "samples/sample_books.h"
-#include "ui/message_boxes.h"
-#include "ui/printers.h"
-#include "ui/report_viewer.h"
-#include "ui/style.h"
+#include "ui/forms/message_boxes.h"
+#include "ui/forms/style.h"
+#include "ui/paper/printers.h"
+#include "ui/paper/report_viewer.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 
 #include "store/jet/database.h"
 #include "store/jet/plain.h"
-#include "ui/prompts.h"
+#include "ui/model/prompts.h"
 
 // What the statements of the forms are joined with.
 using jet::copiedText;

@@ -7,7 +7,7 @@
 #include "pc/pc.h"
 #include "store/jet/database.h"
 #include "store/rate_book.h"
-#include "ui/prompts.h"
+#include "ui/model/prompts.h"
 
 namespace pc {
 class Printers;

@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

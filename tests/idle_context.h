@@ -3,7 +3,7 @@
 // nobody calling.
 #include <QStringList>
 
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 
 namespace tests {
 

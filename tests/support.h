@@ -11,7 +11,7 @@
 #include "store/data_files.h"
 #include "store/session.h"
 #include "store/upgrades.h"
-#include "ui/prompts.h"
+#include "ui/model/prompts.h"
 
 namespace tests {
 

@@ -10,29 +10,23 @@ clang-format --dry-run --Werror $(sources .) 2>&1 | head -20
 [ "${PIPESTATUS[0]}" -eq 0 ] || say "clang-format would change the lines above"
 
 # Core files include no widget header: the core could run where there is no screen.
-core=$(sources app store pc master trade billing giro documents links | grep -vE '/(frm|Frm|form_)[^/]*$|app/main.cpp')
-core="$core ui/spread_model.h ui/spread_model.cpp ui/prompts.h ui/commands.h"
+subjects=$(sources . | grep -vE '^(tests|samples|bench)/')
+core=$(echo "$subjects" | grep -vE '/(frm|Frm|form_)[^/]*$|app/main.cpp|^ui/[^m][^/]*/')
 hits=$(grep -nE '#include <(QtWidgets|QtGui|QtPrintSupport|Q(Widget|Application|Dialog|Painter|Table|Line|Label|Main|Message|Font|Print|Color))' $core || true)
 [ -z "$hits" ] || { echo "$hits"; say "a core file includes a widget header"; }
 
 # Arrows point one way.
-arrow() { # folder, what it may not include
-  local hits
-  hits=$(grep -nE "#include \"($2)/" $(sources "$1") /dev/null || true)
-  [ -z "$hits" ] || { echo "$hits"; say "$1 points the wrong way"; }
-}
-arrow store/jet 'app|store/[^j]|master|trade|billing|giro|documents|links|ui'
-arrow pc 'app|store|master|trade|billing|giro|documents|links|ui'
-arrow store 'app|master|trade|billing|giro|documents|links'
-arrow ui 'app|master|trade|billing|giro|documents|links'
-arrow master 'app|trade|billing|giro|documents|links'
-arrow trade 'app|billing|giro|documents|links'
-arrow billing 'app|trade|giro|documents|links'
-arrow documents 'app|trade|billing|giro|links'
-arrow links 'app|trade|billing|giro|documents'
-arrow giro 'app|trade|documents|links'
+grep -nHoE '^#include "[^"]+"' $subjects | tr -d '"' | awk '
+  function room(path) { return path ~ /^store\/jet\// ? "store/jet" : substr(path, 1, index(path, "/") - 1) }
+  FNR == NR { if ($0 !~ /^#/ && NF) { known[$1] = 1; for (i = 2; i <= NF; i++) may[$1, $i] = 1 } next }
+  { split($1, at, ":"); to = $2; from = room(at[1]); target = room(to); sub(/\/[^\/]*$/, "", to) }
+  !(from in known) { print $0 ": " from " is not in tools/layers"; next }
+  from != target && !((from, target) in may) && !((from, to) in may) { print }
+' tools/layers - >/tmp/haeon-arrows.$$ || true
+[ ! -s /tmp/haeon-arrows.$$ ] || { cat /tmp/haeon-arrows.$$; say "these includes point the wrong way (tools/layers)"; }
+rm -f /tmp/haeon-arrows.$$
 
 # Nothing joined into a statement leaves its place.
-tools/plain_texts $(sources app store master trade billing giro documents links | grep -v '^store/jet/') ||
+tools/plain_texts $(echo "$subjects" | grep -vE '^(store/jet|pc|ui)/') ||
   say "a value could become part of a statement"
 exit $bad

@@ -3,7 +3,7 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 namespace {
 

@@ -11,9 +11,9 @@
 #include <QVBoxLayout>
 
 #include "trade/form_last_lines.h"
-#include "ui/fields.h"
-#include "ui/grid_print.h"
-#include "ui/style.h"
+#include "ui/forms/fields.h"
+#include "ui/forms/style.h"
+#include "ui/paper/grid_print.h"
 
 namespace {
 

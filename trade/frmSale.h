@@ -2,10 +2,10 @@
 // The sale screen: three sheets of lines under the panel of the current row's customer. Every finished cell is posted.
 #include <array>
 
-#include "master/form_context.h"
-#include "master/map_handshake.h"
+#include "master/customers/map_handshake.h"
+#include "master/registers/form_context.h"
 #include "trade/sale_entry.h"
-#include "ui/form.h"
+#include "ui/forms/form.h"
 
 class DateBox;
 class LastLines;

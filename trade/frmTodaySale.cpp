@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 namespace {
 

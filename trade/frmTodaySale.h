@@ -1,8 +1,8 @@
 #pragma once
 // The figures of one day: quantity, income, discount and credit of each sheet of the sale screen.
-#include "master/form_context.h"
+#include "master/registers/form_context.h"
 #include "trade/today_sale.h"
-#include "ui/form.h"
+#include "ui/forms/form.h"
 
 class QLabel;
 

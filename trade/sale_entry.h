@@ -3,9 +3,9 @@
 // ends in where the cursor goes.
 #include <functional>
 
-#include "master/calls.h"
-#include "master/pickers.h"
-#include "master/tel_format.h"
+#include "master/customers/calls.h"
+#include "master/customers/tel_format.h"
+#include "master/registers/pickers.h"
 #include "trade/sale_posting.h"
 
 /** The end of a step. row 0: the cursor stays where it is. */

@@ -1,7 +1,7 @@
 // Where a line's customer, item and person come from: the searches, what the customer had last, a caller's number.
 #include <QScopedValueRollback>
 
-#include "master/caller_search.h"
+#include "master/customers/caller_search.h"
 #include "store/data_access.h"
 #include "trade/sale_entry.h"
 #include "trade/sale_history.h"

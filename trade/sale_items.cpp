@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "master/size_search.h"
+#include "master/catalogue/size_search.h"
 #include "trade/item_text.h"
 #include "trade/sale_kinds.h"
 

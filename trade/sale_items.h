@@ -2,7 +2,7 @@
 // What a text typed in a line's item cell means in the catalogue.
 #include <vector>
 
-#include "master/pickers.h"
+#include "master/registers/pickers.h"
 #include "store/session.h"
 
 /** The items that a sale line of the kind may name and the text fits: those of exactly this "name / size"; else those

@@ -2,7 +2,7 @@
 // One row of a sale sheet read as figures.
 #include "trade/item_text.h"
 #include "trade/sale_kinds.h"
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
 
 /** The thirteen columns of every sale sheet. */
 namespace SaleCol {

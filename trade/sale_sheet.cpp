@@ -1,6 +1,6 @@
 #include "trade/sale_sheet.h"
 
-#include "master/client_entry.h"
+#include "master/customers/client_entry.h"
 #include "store/data_access.h"
 
 namespace {

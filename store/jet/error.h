@@ -6,7 +6,7 @@
 
 namespace jet {
 
-/** Thrown by statements and opens; event handlers catch it (ui/guard), data helpers turn it into False. */
+/** Thrown by statements and opens; event handlers catch it (ui/forms/guard), data helpers turn it into False. */
 class Error : public std::exception {
  public:
   Error(int number, QString description) : number_(number), description_(std::move(description)) {}

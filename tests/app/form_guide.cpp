@@ -20,7 +20,7 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/message_boxes.h"
+#include "ui/forms/message_boxes.h"
 
 namespace {
 

@@ -28,11 +28,11 @@
 #include "samples/sample_books.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/message_boxes.h"
-#include "ui/print_report.h"
-#include "ui/printers.h"
-#include "ui/report_viewer.h"
-#include "ui/spread.h"
+#include "ui/forms/message_boxes.h"
+#include "ui/grid/spread.h"
+#include "ui/paper/print_report.h"
+#include "ui/paper/printers.h"
+#include "ui/paper/report_viewer.h"
 
 using namespace Qt::StringLiterals;
 

@@ -10,8 +10,8 @@
 #include "tests/billing/meter_desk.h"
 #include "tests/idle_context.h"
 #include "tests/ui/grab.h"
-#include "ui/printers.h"
-#include "ui/report_viewer.h"
+#include "ui/paper/printers.h"
+#include "ui/paper/report_viewer.h"
 
 namespace {
 

@@ -22,8 +22,8 @@
 #include "tests/recorded_print.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/printers.h"
-#include "ui/spread.h"
+#include "ui/grid/spread.h"
+#include "ui/paper/printers.h"
 
 namespace {
 

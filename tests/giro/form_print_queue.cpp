@@ -10,7 +10,7 @@
 #include "giro/jiro_ocr.h"
 #include "tests/giro/reading_rows.h"
 #include "tests/support.h"
-#include "ui/printers.h"
+#include "ui/paper/printers.h"
 
 namespace {
 

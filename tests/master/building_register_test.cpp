@@ -1,5 +1,5 @@
 // Blocks and their households: numbers, what a save makes of them, what changes and goes with a block.
-#include "master/building_register.h"
+#include "master/buildings/building_register.h"
 
 #include <QElapsedTimer>
 

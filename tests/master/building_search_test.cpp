@@ -1,4 +1,4 @@
-#include "master/building_search.h"
+#include "master/buildings/building_search.h"
 
 #include "tests/support.h"
 

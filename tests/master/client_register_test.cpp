@@ -1,4 +1,4 @@
-#include "master/client_register.h"
+#include "master/customers/client_register.h"
 
 #include "tests/support.h"
 

@@ -1,4 +1,4 @@
-#include "master/client_search.h"
+#include "master/customers/client_search.h"
 
 #include "tests/support.h"
 

@@ -13,7 +13,7 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/form.h"
+#include "ui/forms/form.h"
 
 namespace {
 

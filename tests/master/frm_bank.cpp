@@ -1,5 +1,5 @@
 // The bank register played by keys on real data files.
-#include "master/frmBank.h"
+#include "master/partners/frmBank.h"
 
 #include <gtest/gtest.h>
 

@@ -7,23 +7,23 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include "master/frmAPTAddress.h"
-#include "master/frmBDName.h"
-#include "master/frmGasUtil.h"
-#include "master/frmPostCode.h"
-#include "master/frmRefillState.h"
-#include "master/frmResponse.h"
-#include "master/frmSearchBank.h"
-#include "master/frmSearchClient.h"
-#include "master/frmSearchRefill.h"
-#include "master/frmSearchResponse.h"
-#include "master/frmSearchSize.h"
-#include "master/frmSearchVolume.h"
-#include "master/frmVolume.h"
+#include "master/buildings/frmAPTAddress.h"
+#include "master/buildings/frmBDName.h"
+#include "master/catalogue/frmGasUtil.h"
+#include "master/catalogue/frmSearchSize.h"
+#include "master/catalogue/frmSearchVolume.h"
+#include "master/catalogue/frmVolume.h"
+#include "master/customers/frmSearchClient.h"
+#include "master/partners/frmPostCode.h"
+#include "master/partners/frmRefillState.h"
+#include "master/partners/frmResponse.h"
+#include "master/partners/frmSearchBank.h"
+#include "master/partners/frmSearchRefill.h"
+#include "master/partners/frmSearchResponse.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/picker_dialog.h"
+#include "ui/forms/picker_dialog.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,9 +7,9 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include "master/frmClient.h"
-#include "master/frmNewClient.h"
-#include "master/frmSearchClient.h"
+#include "master/customers/frmClient.h"
+#include "master/customers/frmNewClient.h"
+#include "master/customers/frmSearchClient.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"

@@ -1,5 +1,5 @@
 // The building register played by keys on real data files.
-#include "master/frmHouseStyle.h"
+#include "master/buildings/frmHouseStyle.h"
 
 #include <gtest/gtest.h>
 

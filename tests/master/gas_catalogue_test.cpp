@@ -1,8 +1,8 @@
 // Gas, cylinders and materials: what a row may be, what a change writes, what a line of each kind may pick.
-#include "master/gas_catalogue.h"
+#include "master/catalogue/gas_catalogue.h"
 
-#include "master/size_search.h"
-#include "master/util_catalogue.h"
+#include "master/catalogue/size_search.h"
+#include "master/catalogue/util_catalogue.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "master/map_handshake.h"
+#include "master/customers/map_handshake.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "master/new_client.h"
+#include "master/customers/new_client.h"
 
 #include "tests/support.h"
 

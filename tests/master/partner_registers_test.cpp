@@ -1,11 +1,11 @@
 // Suppliers, staff and postcodes: doubles, deletes by name, the company's own area.
-#include "master/post_code_search.h"
+#include "master/partners/post_code_search.h"
 
 #include <QFile>
 
-#include "master/refill_register.h"
-#include "master/register_search.h"
-#include "master/response_register.h"
+#include "master/partners/refill_register.h"
+#include "master/partners/response_register.h"
+#include "master/registers/register_search.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;

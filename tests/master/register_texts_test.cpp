@@ -1,10 +1,10 @@
 // A text with an apostrophe in any box of any small register: told, and every row stays as it was.
-#include "master/bank_register.h"
-#include "master/gas_catalogue.h"
-#include "master/refill_register.h"
-#include "master/response_register.h"
-#include "master/util_catalogue.h"
-#include "master/volume_register.h"
+#include "master/catalogue/gas_catalogue.h"
+#include "master/catalogue/util_catalogue.h"
+#include "master/catalogue/volume_register.h"
+#include "master/partners/bank_register.h"
+#include "master/partners/refill_register.h"
+#include "master/partners/response_register.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;

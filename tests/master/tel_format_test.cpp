@@ -1,4 +1,4 @@
-#include "master/tel_format.h"
+#include "master/customers/tel_format.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 // Registers on two PCs of one folder: what one writes while the other has the row on the screen is neither written over
 // nor written twice.
-#include "master/bank_register.h"
-#include "master/building_register.h"
-#include "master/client_register.h"
-#include "master/gas_catalogue.h"
-#include "master/refill_register.h"
-#include "master/response_register.h"
-#include "master/util_catalogue.h"
-#include "master/volume_register.h"
+#include "master/buildings/building_register.h"
+#include "master/catalogue/gas_catalogue.h"
+#include "master/catalogue/util_catalogue.h"
+#include "master/catalogue/volume_register.h"
+#include "master/customers/client_register.h"
+#include "master/partners/bank_register.h"
+#include "master/partners/refill_register.h"
+#include "master/partners/response_register.h"
 #include "tests/master/other_pc.h"
 
 using namespace Qt::StringLiterals;

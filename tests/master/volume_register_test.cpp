@@ -1,5 +1,5 @@
 // Regulators: the seven fixed ones, and how far a new price goes.
-#include "master/volume_register.h"
+#include "master/catalogue/volume_register.h"
 
 #include "tests/support.h"
 

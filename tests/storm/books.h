@@ -8,7 +8,7 @@
 
 #include "pc/pc.h"
 #include "store/session.h"
-#include "ui/prompts.h"
+#include "ui/model/prompts.h"
 
 namespace storm {
 

@@ -1,6 +1,6 @@
 #pragma once
 // Blocks with their households, made and deleted by the building register's rules as an operator does.
-#include "master/building_register.h"
+#include "master/buildings/building_register.h"
 #include "tests/storm/books.h"
 
 namespace storm {

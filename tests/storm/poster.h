@@ -3,8 +3,8 @@
 // standard output, so that the one who watches knows what must be in the books when it dies.
 #include <QStringList>
 
-#include "master/calls.h"
-#include "master/pickers.h"
+#include "master/customers/calls.h"
+#include "master/registers/pickers.h"
 
 namespace storm {
 

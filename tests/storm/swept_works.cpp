@@ -8,7 +8,7 @@
 #include "billing/reading_edit.h"
 #include "billing/reading_load.h"
 #include "billing/reading_sheet.h"
-#include "master/client_register.h"
+#include "master/customers/client_register.h"
 #include "store/rate_book.h"
 #include "tests/store/old_books.h"
 #include "tests/storm/builder.h"

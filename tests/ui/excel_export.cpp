@@ -1,4 +1,4 @@
-#include "ui/excel_export.h"
+#include "ui/grid/excel_export.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <QProcess>
 
 #include "tests/support.h"
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "ui/form.h"
+#include "ui/forms/form.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@
 
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/fields.h"
+#include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
 

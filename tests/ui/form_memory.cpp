@@ -10,9 +10,9 @@
 #include "pc/ini_file.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/form.h"
-#include "ui/form_ini.h"
-#include "ui/grid_menu.h"
+#include "ui/forms/form.h"
+#include "ui/forms/form_ini.h"
+#include "ui/grid/grid_menu.h"
 
 using namespace Qt::StringLiterals;
 

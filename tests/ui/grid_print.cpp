@@ -1,9 +1,9 @@
-#include "ui/grid_print.h"
+#include "ui/paper/grid_print.h"
 
 #include "tests/recorded_print.h"
 #include "tests/support.h"
-#include "ui/print_report.h"
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
+#include "ui/paper/print_report.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // The real boxes, answered by posted keys.
-#include "ui/message_boxes.h"
+#include "ui/forms/message_boxes.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +15,10 @@
 #include "store/data_access.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/FrmProgress.h"
-#include "ui/frmCalendar.h"
-#include "ui/frmFloatMsg.h"
-#include "ui/picker_dialog.h"
+#include "ui/forms/FrmProgress.h"
+#include "ui/forms/frmCalendar.h"
+#include "ui/forms/frmFloatMsg.h"
+#include "ui/forms/picker_dialog.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "ui/printers.h"
+#include "ui/paper/printers.h"
 
 #include <QDir>
 #include <QFile>
@@ -6,7 +6,7 @@
 #include <QRegularExpression>
 
 #include "tests/support.h"
-#include "ui/print_fonts.h"
+#include "ui/paper/print_fonts.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ui/report_viewer.h"
+#include "ui/paper/report_viewer.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -14,9 +14,9 @@
 #include "tests/recorded_print.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
-#include "ui/frmReport.h"
-#include "ui/page_view.h"
-#include "ui/printers.h"
+#include "ui/paper/frmReport.h"
+#include "ui/paper/page_view.h"
+#include "ui/paper/printers.h"
 
 namespace {
 

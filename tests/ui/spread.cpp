@@ -1,4 +1,4 @@
-#include "ui/spread.h"
+#include "ui/grid/spread.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/spread_model.h"
+#include "ui/model/spread_model.h"
 
 #include <gtest/gtest.h>
 

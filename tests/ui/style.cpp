@@ -1,5 +1,5 @@
 // Who works by keys must see where he is, on every kind of control.
-#include "ui/style.h"
+#include "ui/forms/style.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,8 @@
 #include <QVBoxLayout>
 
 #include "tests/ui/grab.h"
-#include "ui/boxes.h"
-#include "ui/spread.h"
+#include "ui/forms/boxes.h"
+#include "ui/grid/spread.h"
 
 namespace {
 

@@ -1,0 +1,140 @@
+#include "master/catalogue/size_search.h"
+
+#include <array>
+
+#include "store/data_access.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Goods { Lpg, Util };
+
+/** One kind of posting line on one side: where its goods come from, its four headings, and the columns that price
+ *  and count are read from (two price columns are added up, none is a price of nothing). */
+struct SizeSearchWay {
+  QStringView kind;
+  TradeSide side;
+  Goods goods;
+  std::array<QStringView, 4> headings;
+  QStringView price, furtherPrice, count;
+};
+
+constexpr auto Sale = TradeSide::Sale;
+constexpr auto Purchase = TradeSide::Purchase;
+constexpr SizeSearchWay sizeSearchWays[] = {
+    {u"1", Sale, Goods::Lpg, {u"가스명", u"용  량", u"판매단가", u"실병재고"}, u"LPGSelling", {}, u"CANFull"},
+    {u"2",
+     Sale,
+     Goods::Lpg,
+     {u"용기명", u"용  량", u"용기단가", u"공병재고"},
+     u"CANSelling",
+     {},
+     u"CANEmpty"},
+    {u"3",
+     Sale,
+     Goods::Lpg,
+     {u"품  명", u"용  량", u"판매단가", u"실병재고"},
+     u"LPGSelling",
+     u"CANSelling",
+     u"CANFull"},
+    {u"4",
+     Sale,
+     Goods::Util,
+     {u"자재명", u"규  격", u"판매단가", u"현재재고"},
+     u"UtilSelling",
+     {},
+     u"UtilStock"},
+    {u"5", Sale, Goods::Lpg, {u"용기명", u"용  량", u"대여단가", u"공병재고"}, {}, {}, u"CANEmpty"},
+    {u"6", Sale, Goods::Lpg, {u"용기명", u"용  량", u"회수단가", u"공병재고"}, {}, {}, u"CANEmpty"},
+    {u"1",
+     Purchase,
+     Goods::Lpg,
+     {u"가스명", u"용  량", u"구매단가", u"공병재고"},
+     u"LPGPurchase",
+     {},
+     u"CANEmpty"},
+    {u"2",
+     Purchase,
+     Goods::Lpg,
+     {u"용기명", u"용  량", u"용기단가", u"보유용기"},
+     u"CANPurchase",
+     {},
+     u"CANTotalHold"},
+    {u"3",
+     Purchase,
+     Goods::Lpg,
+     {u"품  명", u"용  량", u"단    가", u"보유용기"},
+     u"LPGPurchase",
+     u"CANPurchase",
+     u"CANTotalHold"},
+    {u"4",
+     Purchase,
+     Goods::Util,
+     {u"품  명", u"규  격", u"구매단가", u"현재재고"},
+     u"UtilPurchase",
+     {},
+     u"UtilStock"},
+    {u"5", Purchase, Goods::Lpg, {u"용기명", u"용  량", u"대여단가", u"대여수량"}, {}, {}, u"CANLoan"},
+    {u"6", Purchase, Goods::Lpg, {u"용기명", u"용  량", u"회수단가", u"용 기 수"}, {}, {}, u"CANLoan"},
+};
+
+const SizeSearchWay* sizeSearchWay(const QString& kind, TradeSide side) {
+  for (const SizeSearchWay& way : sizeSearchWays)
+    if (way.kind == kind && way.side == side) return &way;
+  return nullptr;
+}
+
+double figure(const jet::Recordset& rs, QStringView column) {
+  return column.isEmpty() ? 0 : rs[column.toString()].toDouble();
+}
+
+std::vector<SpreadColumn> sizeSearchColumns(const SizeSearchWay& way) {
+  return {{.header = way.headings[0].toString(), .width = 20, .locked = true},
+          {.header = way.headings[1].toString(), .width = 12, .align = CellAlign::Center, .locked = true},
+          {.header = way.headings[2].toString(),
+           .width = 12,
+           .kind = CellKind::Money,
+           .align = CellAlign::Right,
+           .locked = true},
+          {.header = way.headings[3].toString(),
+           .width = 10,
+           .kind = CellKind::Money,
+           .align = CellAlign::Right,
+           .locked = true}};
+}
+
+}  // namespace
+
+SizeSearch::SizeSearch(Session& session, const QString& kind, TradeSide side)
+    : session_(session), kind_(kind), side_(side) {}
+
+QString SizeSearch::title() const {
+  return side_ == TradeSide::Purchase ? u"구매상품 조회"_s : u"판매상품조회"_s;
+}
+
+bool SizeSearch::load(SpreadModel& list) const {
+  list.clear();
+  const SizeSearchWay* way = sizeSearchWay(kind_, side_);
+  if (!way) return true;
+  list.setColumns(sizeSearchColumns(*way));
+
+  const bool lpg = way->goods == Goods::Lpg;
+  jet::Recordset rs;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs,
+                    lpg ? u"Select * From LPG Order By Code"_s : u"Select * From Util Order By Code"_s))
+    return false;
+  std::vector<std::vector<QString>> rows;
+  for (; !rs.atEnd(); rs.MoveNext())
+    rows.push_back({rs[lpg ? u"LPGName"_s : u"Name"_s].toText(), rs[u"Size"_s].toText(),
+                    jet::Value(figure(rs, way->price) + figure(rs, way->furtherPrice)).toText(),
+                    jet::Value(figure(rs, way->count)).toText()});
+  list.setRows(std::move(rows));
+  return true;
+}
+
+std::optional<ItemChoice> SizeSearch::choice(const SpreadModel& list, int row) {
+  if (list.text(row, 1).isEmpty() && list.text(row, 2).isEmpty()) return {};
+  return ItemChoice{list.text(row, 1), list.text(row, 2), jet::Value(list.text(row, 3)).toDouble(),
+                    jet::Value(list.text(row, 4)).toDouble()};
+}

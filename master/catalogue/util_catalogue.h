@@ -1,0 +1,23 @@
+#pragma once
+// Facilities and materials: the rows of Util, known by name and size together.
+#include "master/registers/register_rules.h"
+
+/** Boxes by column name: Name, Size, SizeSize (unit of measure), UtilPurchase, UtilSelling (won a piece),
+ *  UtilStock (pieces). */
+class UtilCatalogue : public RegisterRules {
+ public:
+  explicit UtilCatalogue(Session& session);
+
+ protected:
+  QString listStatement() const override;
+  std::vector<QString> cells(const RegisterFields& record) const override;
+  Outcome insert(const RegisterFields& boxes) override;
+  Outcome change(const RegisterFields& boxes) override;
+  Outcome erase() override;
+  Outcome saveWithoutRow(const RegisterFields& boxes) override;
+  QStringList runningColumns() const override { return {"UtilStock"}; }
+
+ private:
+  Outcome checkRequired(const RegisterFields& boxes);
+  static QString whereIs(const RegisterFields& row);
+};

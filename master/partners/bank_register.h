@@ -1,0 +1,22 @@
+#pragma once
+// The accounts that slips are paid into.
+#include "master/registers/register_rules.h"
+
+/** Boxes by column name: BName (the key), BNumber (account), BUser (holder). */
+class BankRegister : public RegisterRules {
+ public:
+  explicit BankRegister(Session& session);
+
+ protected:
+  QString listStatement() const override;
+  std::vector<QString> cells(const RegisterFields& record) const override;
+  Outcome insert(const RegisterFields& boxes) override { return store(boxes); }
+  Outcome change(const RegisterFields& boxes) override { return store(boxes); }
+  Outcome saveWithoutRow(const RegisterFields& boxes) override { return store(boxes); }
+  Outcome erase() override;
+
+ private:
+  /** The bank's name alone decides whether a row is added or changed, in every state; kept: a chosen bank under a new
+   *  name becomes a further one. A row that is not the chosen one is written over only after a yes. */
+  Outcome store(const RegisterFields& boxes);
+};

@@ -1,0 +1,24 @@
+#pragma once
+// The refill stations and other suppliers that purchases name.
+#include "master/registers/register_rules.h"
+
+/** Boxes by column name: Company, User (owner), BusCode, Tel, Fax, PostCode, Address, GasInit, UtilInit (owed, won). */
+class RefillRegister : public RegisterRules {
+ public:
+  explicit RefillRegister(Session& session);
+
+ protected:
+  QString listStatement() const override;
+  std::vector<QString> cells(const RegisterFields& record) const override;
+  Outcome insert(const RegisterFields& boxes) override;
+  Outcome change(const RegisterFields& boxes) override;
+  Outcome erase() override;
+  Outcome saveWithoutRow(const RegisterFields& boxes) override;
+  QStringList runningColumns() const override { return {"GasInit", "UtilInit"}; }
+
+ private:
+  /** False when the operator would rather not have two stations of one name. */
+  bool nameAccepted(const QString& company, const QString& ownCode);
+  QString nextCode() const;
+  void insertWith(const RegisterFields& boxes, const QString& code);
+};

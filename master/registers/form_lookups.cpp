@@ -1,0 +1,60 @@
+#include "master/registers/form_lookups.h"
+
+#include <QKeyEvent>
+
+#include "master/registers/pickers.h"
+
+namespace {
+
+/** Takes keys from one box before anybody else sees them. */
+class BoxKeys : public QObject {
+ public:
+  BoxKeys(QWidget* box, std::function<bool(int key)> work) : QObject(box), work_(std::move(work)) {
+    box->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::KeyPress && work_(static_cast<QKeyEvent*>(event)->key())) return true;
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  std::function<bool(int key)> work_;
+};
+
+}  // namespace
+
+void attachPostCode(Form& form, Pickers& pickers, QLineEdit* code, QLineEdit* address) {
+  new BoxKeys(code, [&form, &pickers, code, address](int key) {
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool typed = code->isModified() && !code->text().trimmed().isEmpty();
+    if (!(key == Qt::Key_F12 || (enter && typed))) return false;
+    form.command([&] {
+      const auto chosen = pickers.searchPostCode(code->text().trimmed());
+      form.activateWindow();
+      if (!chosen) {
+        // The search was left: the text is no postcode.
+        if (typed) code->clear();
+        return Form::focus(code);
+      }
+      code->setText(chosen->zipCode);
+      address->setText(chosen->address);
+      address->setFocus();
+      address->end(false);
+    });
+    return true;
+  });
+}
+
+void attachDate(Form& form, Pickers& pickers, DateBox* box) {
+  new BoxKeys(box, [&form, &pickers, box](int key) {
+    if (key != Qt::Key_F12) return false;
+    form.command([&] {
+      if (const auto date = pickers.pickDate(box->dateText())) box->setDateText(*date);
+      form.activateWindow();
+      Form::focus(box);
+    });
+    return true;
+  });
+}

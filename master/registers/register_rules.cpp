@@ -1,0 +1,119 @@
+#include "master/registers/register_rules.h"
+
+#include "store/data_access.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+const QString registerTitle = u"자료 확인"_s;
+}
+
+bool RegisterRules::load() {
+  const QString chosen = row_ ? record()[table_.key] : QString();
+  row_ = 0;
+  list_.clear();
+  records_.clear();
+  jet::Recordset rs;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs, listStatement())) return false;
+  std::vector<std::vector<QString>> rows;
+  for (; !rs.atEnd(); rs.MoveNext()) {
+    RegisterFields record = fieldsOf(rs);
+    rows.push_back(cells(record));
+    if (!chosen.isEmpty() && record[table_.key] == chosen) row_ = int(rows.size());
+    records_.push_back(std::move(record));
+  }
+  list_.setRows(std::move(rows));
+  dressList();
+  return true;
+}
+
+RegisterFields RegisterRules::beginNew() {
+  row_ = 0;
+  new_ = true;
+  return blank();
+}
+
+void RegisterRules::cancel() {
+  row_ = 0;
+  new_ = false;
+}
+
+RegisterFields RegisterRules::select(int row) {
+  new_ = false;
+  row_ = row >= 1 && row <= int(records_.size()) ? row : 0;
+  return row_ ? record() : RegisterFields();
+}
+
+/** Texts that no row can hold and figures that the operator has emptied. */
+std::optional<RegisterRules::Outcome> RegisterRules::impossible(const RegisterFields& boxes) {
+  if (!new_ && row_ == 0) return {};
+  if (const auto column = textTooLong(session_, table_.name, boxes, labels_, registerTitle))
+    return Outcome{false, *column};
+  if (new_) return {};
+  for (const QString& column : runningColumns())
+    if (boxes.contains(column) && boxes[column].isEmpty() && !shown_[column].isEmpty())
+      return refuse(labels_.value(column, column) + u" 칸은 비워 둘 수 없습니다! 없으면 0을 입력하십시오."_s,
+                    registerTitle, column);
+  return {};
+}
+
+RegisterRules::Outcome RegisterRules::save(const RegisterFields& boxes, const RegisterFields& shown) {
+  shown_ = row_ ? record() : RegisterFields();
+  shown_.insert(shown);
+  if (const auto refused = impossible(boxes)) return *refused;
+  const Outcome outcome = new_ ? insert(boxes) : row_ ? change(boxes) : saveWithoutRow(boxes);
+  if (outcome.end == RowEnd::Gone) load();
+  if (!outcome.done) return outcome;
+  new_ = false;
+  load();
+  return outcome;
+}
+
+RegisterRules::Outcome RegisterRules::remove() {
+  const Outcome outcome = erase();
+  if (outcome.done) new_ = false;
+  if (outcome.done || outcome.end != RowEnd::Done) load();
+  return outcome;
+}
+
+RegisterRules::Outcome RegisterRules::changeChosen(
+    const RegisterFields& boxes, const QString& title,
+    const std::function<void(const RowChange& change, const RegisterFields& row,
+                             const RegisterFields& stored)>& write) {
+  const RowChange change{
+      .read = record(), .shown = shown_, .typed = boxes, .running = runningColumns(), .labels = labels_};
+  const RowOutcome outcome =
+      changeRow(session_, source(), title, change,
+                [&](const RegisterFields& row, const RegisterFields& stored) { write(change, row, stored); });
+  return {outcome.end == RowEnd::Done, outcome.column, outcome.end};
+}
+
+RegisterRules::Outcome RegisterRules::eraseChosen(const QString& name, const QString& question,
+                                                  const QString& title, const std::function<void()>& work) {
+  if (!session_.prompts.MsgAsk(name + u'\n' + question, title, false)) return {};
+  return eraseAsShown(title, work);
+}
+
+RegisterRules::Outcome RegisterRules::eraseAsShown(const QString& title, const std::function<void()>& work) {
+  const RowEnd end = deleteRow(session_, source(), title, record(), work);
+  return {end == RowEnd::Done, {}, end};
+}
+
+RowSource RegisterRules::source() const {
+  const QString key = record()[table_.key];
+  return {u"Select * From "_s + table_.name + u" Where "_s + table_.key + u" = "_s +
+              (table_.keyIsText ? u"'"_s + plainText(key) + u"'"_s : plainNumber(key)),
+          fieldsOf};
+}
+
+RegisterRules::Outcome RegisterRules::refuse(const QString& text, const QString& title,
+                                             const QString& focus) {
+  session_.prompts.MsgWarn(text, title);
+  return {false, focus};
+}
+
+RegisterRules::Found RegisterRules::lookFor(const QString& sql) {
+  jet::Recordset rs;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs, sql)) return Found::Failed;
+  return rs.RecordCount() == 0 ? Found::Nothing : Found::Something;
+}

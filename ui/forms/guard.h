@@ -1,0 +1,11 @@
+#pragma once
+// The one net under every event handler: an error ends in a box, never in the event loop.
+#include <functional>
+
+#include "ui/model/prompts.h"
+
+/** Runs work; an error goes to say as its number and text. True: there was none. */
+bool guardedBy(const std::function<void()>& work, const std::function<void(int, const QString&)>& say);
+
+/** The same with the box for run-time errors. */
+bool guarded(Prompts& prompts, const std::function<void()>& work);

@@ -1,0 +1,25 @@
+#pragma once
+// The boxes on the screen, with Korean buttons.
+#include <functional>
+
+#include "ui/model/prompts.h"
+
+class QWidget;
+
+/** Modal over the active window. */
+class MessageBoxes : public Prompts {
+ public:
+  /** appTitle is asked whenever a title is empty: AppTitle may change while the program runs. */
+  explicit MessageBoxes(std::function<QString()> appTitle) : appTitle_(std::move(appTitle)) {}
+
+  void MsgInfo(const QString& text, const QString& title = {}) override;
+  void MsgWarn(const QString& text, const QString& title = {}) override;
+  bool MsgAsk(const QString& text, const QString& title = {}, bool yesFirst = true) override;
+  void ErrorBox(const QString& text, int number, const QString& description) override;
+  std::optional<QString> InputBox(const QString& prompt, const QString& title,
+                                  const QString& initial = {}) override;
+
+ private:
+  QString titleOf(const QString& title) const { return title.isEmpty() ? appTitle_() : title; }
+  std::function<QString()> appTitle_;
+};
