@@ -2,6 +2,8 @@
 // Which printer the slips go to, and how far the operator moves them on the paper: section "프린터설정".
 #include <QString>
 
+#include "pc/paper_form.h"
+
 struct Session;
 
 /** Corrections in the slips' own grid: rows of 1/8 inch, columns of 1/15 inch. */
@@ -10,9 +12,7 @@ struct GiroSetup {
   double top = 0, left = 0;
   QString topText = {}, leftText = {};  ///< as the operator typed them
 
-  /** Inches from the paper's edge. */
-  double y(double row) const { return (row + top) / 8; }
-  double x(double column) const { return (column + left) / 15; }
+  pc::PaperShift shift() const { return {top, left}; }
 };
 
 GiroSetup readGiroSetup(const Session& session);

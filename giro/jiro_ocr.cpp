@@ -13,7 +13,7 @@ const QString surroundings = u"환경설정"_s, thisMonthKey = u"OCRA4지로_당
 }
 
 int JiroOcr::noteWidth() const {
-  return ocrLayout(paper_).noteWidth;
+  return ocrNoteWidth(paper_);
 }
 
 QDate JiroOcr::dueDate() const {
@@ -49,16 +49,18 @@ std::pair<QString, QString> JiroOcr::usePeriod(int useMonth) const {
 int JiroOcr::print(const GiroInput& input, GiroSelection selection,
                    const std::function<bool(int done, int of)>& tell) {
   const ReadingScreen* screen = screen_();
-  const OcrLayout& layout = ocrLayout(paper_);
+  const pc::PaperForm& form = ocrForm(paper_);
+  std::vector<QStringList> notes;
+  for (const QString& note : input.notes) notes.push_back({note});
   std::optional<SlipWriter> writer;  // begins with the first slip: the checks before it may end in a box
   const auto slip = [&](pc::PrintJob& job, const GiroSetup& setup, int row, int place) {
     if (!writer) writer.emplace(session_, *screen, paper_, input);
-    printOcrSlip(job, setup, paper_, place, writer->texts(row), input.notes);
+    pc::drawPaper(job, form, setup.shift(), place, writer->texts(row), notes);
   };
   return runGiro(session_, screen,
                  {.title = paper_ == OcrPaper::A4 ? u"OCR-A4 지로"_s : u"OCR 지로"_s,
-                  .paper = layout.paper,
-                  .slipsOnPage = layout.slipsOnPage,
+                  .paper = form.paper,
+                  .slipsOnPage = form.copies,
                   .selection = selection,
                   .slip = slip,
                   .tell = tell});

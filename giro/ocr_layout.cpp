@@ -1,34 +1,58 @@
 #include "giro/ocr_layout.h"
 
-#include "store/text_width.h"
-
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr int rowsOfSlip = 28;  ///< from one slip to the next, on both papers
-constexpr qsizetype noteLines = 8;
-constexpr double notePoints = 8, scanPoints = 12;
-
-namespace ocr_places {
+namespace ocr {
 using enum SlipText;
+using pc::at, pc::PaperItem;
+
+constexpr double rowsOfSlip = 28;  // from one slip to the next, on both papers
+constexpr int noteLines = 8;
+constexpr int continuousNote = 66, a4Note = 44;  // half-width characters
+
+enum Fonts { letters, notes, scanned };
+constexpr pc::PaperFont fonts[] = {{u"굴림체"}, {u"굴림체", 8}, {u"OCR-B-1", 12}};
 
 // The pre-printed continuous paper, one slip a page.
-constexpr SlipPlace continuousPlaces[] = {
-    {0, 33, IssueYear},      {0, 44, IssueMonth},   {1, 37, UsePeriod},   {2, 41, AfterDueCharge},
-    {3, 41, AfterDueAmount}, {3, 9, Total},         {4, 73, AmountToPay}, {5, 4, DueYear},
-    {5, 12, DueMonth},       {5, 19, DueDay},       {5, 93, DueYear},     {5, 100, DueMonth},
-    {5, 105, DueDay},        {6, 10, Reading},      {7, 10, PrevReading}, {7, 67, Code},
-    {7, 118, ScanLine},      {8, 10, Use},          {9, 10, Amount},      {10, 10, Manage},
-    {10, 62, Notes},         {11, 126, Code},       {11, 164, Name},      {12, 10, Arrears},
-    {13, 10, Late},          {13, 127, Address},    {14, 10, Total},      {16, 7, Code},
-    {16, 43, Name},          {16, 126, DueYear},    {16, 136, DueMonth},  {16, 146, DueDay},
-    {18, 7, AddressLine},    {2, 174, AmountToPay},
+constexpr PaperItem continuousPlaces[] = {
+    {0, 33, IssueYear},
+    {0, 44, IssueMonth},
+    {1, 37, UsePeriod},
+    {2, 41, AfterDueCharge},
+    {3, 41, AfterDueAmount},
+    {3, 9, Total},
+    {4, 73, AmountToPay},
+    {5, 4, DueYear},
+    {5, 12, DueMonth},
+    {5, 19, DueDay},
+    {5, 93, DueYear},
+    {5, 100, DueMonth},
+    {5, 105, DueDay},
+    {6, 10, Reading},
+    {7, 10, PrevReading},
+    {7, 67, Code},
+    at(7, 118, ScanLine).in(scanned),
+    {8, 10, Use},
+    {9, 10, Amount},
+    {10, 10, Manage},
+    {11, 126, Code},
+    {11, 164, Name},
+    {12, 10, Arrears},
+    {13, 10, Late},
+    {13, 127, Address},
+    {14, 10, Total},
+    {16, 7, Code},
+    {16, 43, Name},
+    {16, 126, DueYear},
+    {16, 136, DueMonth},
+    {16, 146, DueDay},
+    {18, 7, AddressLine},
+    {2, 174, AmountToPay},
 };
 
 // An A4 sheet lying on its side, two slips. Three parts side by side: the customer's receipt up to column 46, the
 // notice up to column 86, the bank's part from column 90 on with nothing above or below its scan line.
-constexpr SlipPlace a4Places[] = {
+constexpr PaperItem a4Places[] = {
     // receipt
     {1.6, 22, IssueYear},
     {1.6, 30, IssueMonth},
@@ -56,10 +80,9 @@ constexpr SlipPlace a4Places[] = {
     {6.4, 67, DueMonth},
     {6.4, 72, DueDay},
     {7.9, 60, Code},
-    {10.3, 50, Notes},
     // bank
     {4.0, 146, AmountToPay},
-    {6.9, 90, ScanLine},
+    at(6.9, 90, ScanLine).in(scanned),
     {10.9, 98, Code},
     {10.9, 136, Name, 34},
     {12.9, 99, Address, 64},
@@ -68,37 +91,35 @@ constexpr SlipPlace a4Places[] = {
     {15.9, 118, DueDay},
 };
 
-}  // namespace ocr_places
+// The notes, a line each.
+constexpr PaperItem continuousNotes[] = {at(10, 62, NoteText::Note).in(notes).cut(continuousNote)};
+constexpr PaperItem a4Notes[] = {at(10.3, 50, NoteText::Note).in(notes).cut(a4Note)};
 
-const OcrLayout continuousLayout{{14, rowsOfSlip / 8.0}, 1, 66, ocr_places::continuousPlaces};
-const OcrLayout a4Layout{{11.69, 8.27}, 2, 44, ocr_places::a4Places};
+constexpr pc::PaperForm continuous{.paper = {14, rowsOfSlip / 8},
+                                   .rowsPerInch = 8,
+                                   .columnsPerInch = 15,
+                                   .fonts = fonts,
+                                   .items = continuousPlaces,
+                                   .line = continuousNotes,
+                                   .lines = noteLines};
+constexpr pc::PaperForm a4{.paper = {11.69, 8.27},
+                           .rowsPerInch = 8,
+                           .columnsPerInch = 15,
+                           .fonts = fonts,
+                           .items = a4Places,
+                           .copies = 2,
+                           .copyRows = rowsOfSlip,
+                           .line = a4Notes,
+                           .lines = noteLines};
+
+}  // namespace ocr
 
 }  // namespace
 
-const OcrLayout& ocrLayout(OcrPaper paper) {
-  return paper == OcrPaper::Continuous ? continuousLayout : a4Layout;
+const pc::PaperForm& ocrForm(OcrPaper paper) {
+  return paper == OcrPaper::Continuous ? ocr::continuous : ocr::a4;
 }
 
-void printOcrSlip(pc::PrintJob& job, const GiroSetup& setup, OcrPaper paper, int place,
-                  const SlipTexts& texts, const QStringList& notes) {
-  const OcrLayout& layout = ocrLayout(paper);
-  const pc::PrintFont before = job.font();
-  const pc::PrintFont letters{u"굴림체"_s, before.points, false}, small{u"굴림체"_s, notePoints, false},
-      scanned{u"OCR-B-1"_s, scanPoints, false};
-  for (const SlipPlace& item : layout.places) {
-    const double row = item.row + place * rowsOfSlip;
-    if (item.what == SlipText::Notes) {
-      job.setFont(small);
-      for (qsizetype line = 0; line < qMin(notes.size(), noteLines); ++line)
-        if (!notes[line].isEmpty())
-          job.text(setup.x(item.column), setup.y(row + double(line)),
-                   CutByWidth(notes[line], layout.noteWidth));
-      continue;
-    }
-    const QString& text = texts[size_t(item.what)];
-    if (text.isEmpty()) continue;
-    job.setFont(item.what == SlipText::ScanLine ? scanned : letters);
-    job.text(setup.x(item.column), setup.y(row), item.width > 0 ? CutByWidth(text, item.width) : text);
-  }
-  job.setFont(before);
+int ocrNoteWidth(OcrPaper paper) {
+  return paper == OcrPaper::Continuous ? ocr::continuousNote : ocr::a4Note;
 }

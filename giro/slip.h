@@ -37,9 +37,11 @@ enum class SlipText {
   Address,
   AddressLine,  ///< the receipt's, with the building's label
   ScanLine,
-  Notes,  ///< a line each, in small print
   Count
 };
+
+/** The one text of a line of notes. */
+enum class NoteText { Note };
 
 /** What the operator typed for the whole run. */
 struct GiroInput {
@@ -55,7 +57,7 @@ using SlipTexts = std::array<QString, size_t(SlipText::Count)>;
 class SlipWriter {
  public:
   SlipWriter(Session& session, const ReadingScreen& screen, OcrPaper paper, const GiroInput& input);
-  /** Notes are left to the layout. The rate of the late charge is the book's; on A4 an apartment's building goes before
+  /** The rate of the late charge is the book's; on A4 an apartment's building goes before
    *  it, on continuous paper not (kept). Neither the late line nor the after-due figures are stored. */
   SlipTexts texts(int row) const;
 

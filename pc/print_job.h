@@ -15,6 +15,11 @@ struct PrintFont {
   bool bold = false;
 };
 
+/** What texts and lines are drawn with, 0 to 255 each. */
+struct PrintInk {
+  quint8 red = 0, green = 0, blue = 0;
+};
+
 /** Inches; portrait unless width is greater than height. */
 struct PaperSize {
   double width = 8.27, height = 11.69;  // A4
@@ -32,8 +37,10 @@ class PrintJob {
   virtual double textWidth(const QString& text) const = 0;
   virtual double lineHeight() const = 0;
   virtual void text(double x, double y, const QString& text) = 0;
+  /** Black until another is told, on every page. */
+  virtual void setInk(const PrintInk& ink) = 0;
   /** width: points. */
-  virtual void line(double x1, double y1, double x2, double y2, double width = 0.5) = 0;
+  virtual void line(double x1, double y1, double x2, double y2, double width = 0.5, bool dashed = false) = 0;
   /** grey: 0 black to 1 white. */
   virtual void fill(double x, double y, double width, double height, double grey) = 0;
   virtual void newPage() = 0;

@@ -1,11 +1,9 @@
 #pragma once
-// Text by display columns, and the money texts of the grids.
+// The money texts of the grids, beside the widths of pc/text_width.
 #include <QString>
 
-/** Display columns: a Hangul character takes two. */
-int widthOf(const QString& text);
-/** The text cut to width columns; half a Hangul character at the end becomes one blank. */
-QString CutByWidth(const QString& text, int width);
+#include "pc/text_width.h"
+
 /** The text without "." and "-"; '' when the rest is no number. */
 QString StripNumber(const QString& text);
 

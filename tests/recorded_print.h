@@ -20,6 +20,8 @@ struct PrintedItem {
   pc::PrintFont font;
   double x2 = 0, y2 = 0;  ///< a line's end, a box's right lower corner
   double weight = 0;      ///< a line's width in points, a box's grey
+  pc::PrintInk ink;
+  bool dashed = false;
 };
 
 /** What became of one job. */
@@ -83,14 +85,16 @@ class RecordedPrinters : public pc::Printers {
     double textWidth(const QString& text) const override { return widthOf(text) * font_.points / 144; }
     double lineHeight() const override { return font_.points / 72; }
     void text(double x, double y, const QString& text) override {
-      record_->items.push_back({PrintedItem::Text, record_->pages, x, y, text, font_, 0, 0, 0});
+      record_->items.push_back({PrintedItem::Text, record_->pages, x, y, text, font_, 0, 0, 0, ink_, false});
     }
-    void line(double x1, double y1, double x2, double y2, double width) override {
-      record_->items.push_back({PrintedItem::Line, record_->pages, x1, y1, {}, font_, x2, y2, width});
+    void setInk(const pc::PrintInk& ink) override { ink_ = ink; }
+    void line(double x1, double y1, double x2, double y2, double width, bool dashed) override {
+      record_->items.push_back(
+          {PrintedItem::Line, record_->pages, x1, y1, {}, font_, x2, y2, width, ink_, dashed});
     }
     void fill(double x, double y, double width, double height, double grey) override {
       record_->items.push_back(
-          {PrintedItem::Fill, record_->pages, x, y, {}, font_, x + width, y + height, grey});
+          {PrintedItem::Fill, record_->pages, x, y, {}, font_, x + width, y + height, grey, ink_, false});
     }
     void newPage() override {
       if (refusesFromPage_ && record_->pages + 1 >= refusesFromPage_)
@@ -104,6 +108,7 @@ class RecordedPrinters : public pc::Printers {
     std::shared_ptr<RecordedJob> record_;
     int refusesFromPage_;
     pc::PrintFont font_;
+    pc::PrintInk ink_;
   };
 };
 

@@ -68,10 +68,15 @@ void PaintedJob::text(double x, double y, const QString& text) {
   }
 }
 
-void PaintedJob::line(double x1, double y1, double x2, double y2, double width) {
-  painter_.setPen(QPen(Qt::black, dots(width / 72), Qt::SolidLine, Qt::FlatCap));
+void PaintedJob::setInk(const pc::PrintInk& ink) {
+  ink_ = QColor(ink.red, ink.green, ink.blue);
+  painter_.setPen(ink_);
+}
+
+void PaintedJob::line(double x1, double y1, double x2, double y2, double width, bool dashed) {
+  painter_.setPen(QPen(ink_, dots(width / 72), dashed ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap));
   painter_.drawLine(QPointF(dots(x1), dots(y1)), QPointF(dots(x2), dots(y2)));
-  painter_.setPen(Qt::black);
+  painter_.setPen(ink_);
 }
 
 void PaintedJob::fill(double x, double y, double width, double height, double grey) {

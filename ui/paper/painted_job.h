@@ -1,6 +1,7 @@
 #pragma once
 // Texts, lines and boxes of a print job painted by QPainter: the paper, the PDF and the page on the screen come from
 // the same lines of code and lie on the same places.
+#include <QColor>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QHash>
@@ -19,7 +20,8 @@ class PaintedJob : public pc::PrintJob {
   double textWidth(const QString& text) const override;
   double lineHeight() const override;
   void text(double x, double y, const QString& text) override;
-  void line(double x1, double y1, double x2, double y2, double width) override;
+  void setInk(const pc::PrintInk& ink) override;
+  void line(double x1, double y1, double x2, double y2, double width, bool dashed) override;
   void fill(double x, double y, double width, double height, double grey) override;
 
  protected:
@@ -42,6 +44,7 @@ class PaintedJob : public pc::PrintJob {
   QPainter painter_;
   const pc::PaperSize paper_;
   double dotsPerInch_ = 72;
+  QColor ink_ = Qt::black;
   pc::PrintFont font_;
   QHash<QString, std::shared_ptr<Face>> faces_;  ///< each font is measured once a job
   std::shared_ptr<Face> face_;
