@@ -4,6 +4,7 @@
 #include "store/data_files.h"
 #include "store/upgrades.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 

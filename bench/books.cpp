@@ -5,6 +5,7 @@
 #include "bench/pairs.h"
 #include "store/data_files.h"
 #include "store/upgrades.h"
+#include "store/year_file.h"
 
 namespace bench {
 

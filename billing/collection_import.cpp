@@ -5,6 +5,7 @@
 #include "store/jet/error_texts.h"
 #include "store/long_work.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 namespace {
 
@@ -124,8 +125,9 @@ bool CollectionImport::postRecord(Run& run, const CollectionRecord& record) {
   if (!run.book.isOpen()) {
     if (run.year == thisYear())
       run.book = session_.dbYear;
-    else if (!OpenDB(session_.wsMain, run.book, session_.DbPath + run.year + "Foundation.mdb"))
-      return false;
+    else
+      run.book = openYear(session_, run.year);
+    if (!run.book.isOpen()) return false;
   }
   const QString amount = vb::CStr(record.amount), code = QString::number(record.clientCode);
   const QString monthDay = QString::fromLatin1(record.monthDay);

@@ -6,11 +6,11 @@
 #include "billing/building_rate.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
-#include "store/data_files.h"
 #include "store/jet/sql.h"
 #include "store/rounding.h"
 #include "store/session.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 namespace {
 
@@ -45,8 +45,8 @@ std::optional<double> lateChargeBase(const ReadingSheet& sheet, int row) {
 
   if (sheet.month == 1 && arrears != 0) {
     const int lastYear = session.pc.clock.today().year() - 1;
-    jet::Database december;
-    if (!OpenDB(session.wsMain, december, yearFile(session, QString::number(lastYear)))) return {};
+    const jet::Database december = openYear(session, lastYear);
+    if (!december.isOpen()) return {};
     return usePayOf(session, december, sheet.code(row), 12, arrears);
   }
   if (arrears != 0 || paidLate)

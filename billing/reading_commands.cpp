@@ -6,10 +6,10 @@
 #include "billing/reading_save.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
-#include "store/data_files.h"
 #include "store/long_work.h"
 #include "store/session.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -96,8 +96,7 @@ void recalculate(ReadingSheet& sheet, const ReadingProgress& progress) {
   if (!session.prompts.MsgAsk(u"미수금및 연체료를 재계산 하시겠습니까?"_s)) return;
   // January looks into last year's file for every customer: it stays open meanwhile.
   jet::Database lastYear;
-  if (sheet.month == 1)
-    OpenDB(session.wsMain, lastYear, yearFile(session, QString::number(session.pc.clock.today().year() - 1)));
+  if (sheet.month == 1) lastYear = openYear(session, session.pc.clock.today().year() - 1);
   const auto isRead = [&sheet](int at) { return sheet.number(at + 1, EvaCol::UseGage) != 0; };
   const auto asks = [&](int at) {
     return isRead(at) && !sheet.grid.text(at + 1, EvaCol::TrustDay).trimmed().isEmpty();

@@ -6,9 +6,9 @@
 #include "billing/reading_load.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
-#include "store/data_files.h"
 #include "store/session.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,9 +51,8 @@ void addUses(Uses& uses, const jet::Database& year, const ReadingSheet& sheet, i
 Uses lastYearsUses(const ReadingSheet& sheet) {
   Uses uses;
   const Session& session = sheet.session;
-  jet::Database file;
-  if (!OpenDB(session.wsMain, file, yearFile(session, QString::number(session.WorkYear.toInt() - 1))))
-    return uses;
+  const jet::Database file = openYear(session, session.WorkYear.toInt() - 1);
+  if (!file.isOpen()) return uses;
   addUses(uses, file, sheet, sheet.month, sheet.month);
   addUses(uses, file, sheet, 12 + sheet.month - monthsLookedBack, 12);
   return uses;

@@ -2,6 +2,7 @@
 
 #include "samples/entrance.h"
 #include "samples/sample_books.h"
+#include "store/year_file.h"
 
 namespace samples {
 namespace {
@@ -16,16 +17,16 @@ class Day {
       : stage_(stage),
         tell_(tell),
         date_(QString::fromLatin1(dayClock).left(10)),
-        yearFile_(date_.left(4) + QStringLiteral("Foundation.mdb")) {
+        yearFile_(yearFileName(date_.left(4))) {
     client_ =
         stage_.query(basicFile, "Select Code From Client Where Tel = '" + QString::fromUtf8(callerTel) + "'")
             .value(0);
     const QString yearBefore = QString::number(date_.left(4).toInt() - 1);
-    lastPerson_ = stage_
-                      .query(yearBefore + QStringLiteral("Foundation.mdb"),
-                             "Select Top 1 Response From Sale Where ClientCode = " + client_ +
-                                 " Order By SaleDate Desc, SaleID Desc")
-                      .value(0);
+    lastPerson_ =
+        stage_
+            .query(yearFileName(yearBefore), "Select Top 1 Response From Sale Where ClientCode = " + client_ +
+                                                 " Order By SaleDate Desc, SaleID Desc")
+            .value(0);
   }
 
   DayReport play() {

@@ -6,11 +6,12 @@
 
 #include "pc/paths.h"
 #include "samples/entrance.h"
+#include "store/year_file.h"
 
 namespace samples {
 namespace {
 
-const QString yearFile = QStringLiteral("2026Foundation.mdb");
+const QString yearFile = yearFileName(QStringLiteral("2026"));
 constexpr int month = 3;
 
 /** The block's households in the screen's order, and the individual book's. */

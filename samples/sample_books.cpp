@@ -3,6 +3,7 @@
 #include "samples/sample_town.h"
 #include "store/data_files.h"
 #include "store/upgrades.h"
+#include "store/year_file.h"
 
 namespace samples {
 

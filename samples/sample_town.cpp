@@ -1,4 +1,5 @@
 #include "samples/sample_town.h"
+#include "store/year_file.h"
 
 namespace samples {
 
@@ -22,7 +23,7 @@ Town::Town(Session& of)
     : session(of),
       basic(of.dbBasic),
       post(of.wsMain.OpenDatabase(of.DbPath + "dbPost.mdb")),
-      lastYear(of.wsMain.OpenDatabase(of.DbPath + number(of.WorkYear.toInt() - 1) + "Foundation.mdb")),
+      lastYear(of.wsMain.OpenDatabase(yearFile(of, of.WorkYear.toInt() - 1))),
       thisYear(of.dbYear) {}
 
 QString Town::tail() {

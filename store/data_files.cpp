@@ -10,14 +10,13 @@
 #include "store/jet/file_system.h"
 #include "store/jet/presence.h"
 #include "store/session.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString templateYear = u"2002"_s;
 const QString journalEnding = u"-journal"_s;
-constexpr int patience = 15000;  // milliseconds for another program that makes the same file
 
 /** A file that was taken away while it was written is never made anew: its journal would be played into the new one. */
 void checkJournals(const Session& session) {
@@ -37,8 +36,8 @@ void fillFixedRegulators(const jet::Database& basic) {
 }
 
 bool holdsYears(const Session& session) {
-  QStringList files = filesIn(session.pc.paths, session.DbPath, u"*Foundation.mdb"_s);
-  files.removeIf([](const QString& name) { return name.startsWith(templateYear); });
+  QStringList files = yearFileNames(session, session.DbPath);
+  files.removeAll(yearTemplate());
   return !files.isEmpty();
 }
 
@@ -77,6 +76,20 @@ QStringList filesIn(const pc::Paths& paths, const QString& folder, const QString
   return names;
 }
 
+bool openWhereThere(const Session& session, const jet::Workspace& workspace, jet::Database& db,
+                    const QString& path) {
+  db.Close();
+  try {
+    db = workspace.OpenDatabase(path);
+    return true;
+  } catch (const jet::Error& error) {
+    const bool missing = error.number() == 3024 || error.number() == 3044;
+    if (error.number() == 3043) throw;
+    if (missing && isThere(session.pc.paths, path)) throw jet::errorOf(3043, path);
+    return false;
+  }
+}
+
 QString installedDataFolder() {
   return u"C:\\RWGas\\Dbs\\"_s;
 }
@@ -86,10 +99,6 @@ QString dataFolder(const Session& session) {
       session.pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"db경로"_s).trimmed();
   if (chosen.isEmpty()) return installedDataFolder();
   return chosen.endsWith(u'\\') ? chosen : chosen + u'\\';
-}
-
-QString yearFile(const Session& session, const QString& year) {
-  return session.DbPath + year + u"Foundation.mdb"_s;
 }
 
 jet::Workspace openWorkspace(const Session& session, const QString& folder) {
@@ -109,7 +118,7 @@ bool makeDataFolder(const pc::Paths& paths, const QString& folder) {
 
 bool makeDataFile(const Session& session, const QString& path, schema::File kind) {
   const QString made = session.pc.paths.native(path), unfinished = made + u".new"_s;
-  const jet::AloneWith alone(made, patience);
+  const jet::AloneWith alone(made, makersPatience);
   if (isThere(session.pc.paths, path)) return false;
   jet::requireNothing(made);
   for (const QString& left : {unfinished, unfinished + journalEnding})
@@ -129,25 +138,6 @@ bool makeDataFile(const Session& session, const QString& path, schema::File kind
   return true;
 }
 
-namespace {
-
-/** A sound file with a year's tables. Throws jet::Error when that cannot be told. */
-bool isYearFile(const QString& nativePath) {
-  try {
-    const jet::Workspace workspace{jet::Workspace::Options{}};
-    const jet::Database file = workspace.OpenDatabase(nativePath);
-    const auto tables = schema::tablesOf(schema::File::Year);
-    return file.isSound() && std::all_of(tables.begin(), tables.end(), [&](const jet::TableDef& table) {
-             return table.isLink() || file.hasTable(table.name);
-           });
-  } catch (const jet::Error& error) {
-    if (error.number() == 3049 || error.number() == 3343) return false;
-    throw;
-  }
-}
-
-}  // namespace
-
 bool prepareDataFolder(Session& session) {
   const pc::Paths& paths = session.pc.paths;
   const auto makeMissing = [&](const QString& name, schema::File kind) {
@@ -160,7 +150,7 @@ bool prepareDataFolder(Session& session) {
     if (!makeDataFolder(paths, session.DbPath)) {
       throw jet::Error(75, u"폴더를 만들 수 없습니다. 경로와 쓰기 권한을 확인하십시오."_s);
     }
-    makeMissing(templateYear + u"Foundation.mdb"_s, schema::File::Year);
+    makeMissing(yearTemplate(), schema::File::Year);
     makeMissing(u"Print.mdb"_s, schema::File::Print);
     if (makeMissing(u"dbTax.mdb"_s, schema::File::Tax) && !first) {
       session.prompts.MsgWarn(session.DbPath + u"dbTax.mdb 파일이 없어 빈 파일을 새로 만들었습니다."_s);
@@ -175,20 +165,4 @@ bool prepareDataFolder(Session& session) {
     return false;
   }
   return true;
-}
-
-void makeYearFile(Session& session, const QString& year) {
-  const pc::Paths& paths = session.pc.paths;
-  const QString path = yearFile(session, year);
-  if (isThere(paths, path)) return;
-  const jet::AloneWith alone(paths.native(path), patience);
-  if (isThere(paths, path)) return;
-  jet::requireNothing(paths.native(path));
-  const QString empty = yearFile(session, templateYear);
-  if (isThere(paths, empty) && !isYearFile(paths.native(empty))) {
-    throw jet::Error(3049, empty + u" 견본 파일이 손상되어 "_s + year +
-                               u"년 자료 파일을 만들지 않았습니다. "_s +
-                               u"그 파일을 지우고 다시 시작하면 견본을 새로 만듭니다."_s);
-  }
-  if (!paths.copy(empty, path)) throw jet::Error(75, path + u" 파일을 만들 수 없습니다."_s);
 }

@@ -14,8 +14,6 @@ class Paths;
 QString installedDataFolder();
 /** The data folder by the setting, with its last backslash. */
 QString dataFolder(const Session& session);
-/** A year's file in the data folder; year as four digits. */
-QString yearFile(const Session& session, const QString& year);
 
 /** A workspace on a data folder's files. */
 jet::Workspace openWorkspace(const Session& session, const QString& folder);
@@ -24,7 +22,12 @@ jet::Workspace openWorkspace(const Session& session, const QString& folder);
 bool isThere(const pc::Paths& paths, const QString& written);
 /** Names of a folder's files that match a pattern with * and ?, sorted; none where the folder is missing. */
 QStringList filesIn(const pc::Paths& paths, const QString& folder, const QString& pattern);
+/** Opens a file into db. False for a file that is none of ours or not there: who asks ends quietly then. */
+bool openWhereThere(const Session& session, const jet::Workspace& workspace, jet::Database& db,
+                    const QString& path);
 
+/** Milliseconds to wait for another program that makes the same file. */
+constexpr int makersPatience = 15000;
 /** Makes a data folder that is missing, closed to other accounts of the PC; true when it stands afterwards. */
 bool makeDataFolder(const pc::Paths& paths, const QString& folder);
 /** Makes a data file with its empty tables (and the rows it starts with); the name is taken only when all is done. False
@@ -35,5 +38,3 @@ bool makeDataFile(const Session& session, const QString& path, schema::File kind
  *  the installed one); year files without their Basic.mdb are left alone, because an empty one would take their rows
  *  for orphans. False when the folder cannot be worked in; that has been told. */
 bool prepareDataFolder(Session& session);
-/** Copies the template for a year that has no file. Throws jet::Error, 3049 for a damaged template. */
-void makeYearFile(Session& session, const QString& year);

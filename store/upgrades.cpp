@@ -8,6 +8,7 @@
 #include "store/jet/error_texts.h"
 #include "store/schema.h"
 #include "store/session.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,21 +25,6 @@ const jet::Field* fieldOf(const jet::TableDef& table, const QString& name) {
 
 bool hasField(const jet::Database& db, const QString& table, const QString& field) {
   return fieldOf(db.tableDef(table), field) != nullptr;
-}
-
-/** False for a file that is none of ours or not there: such a step ends quietly. A disk or network that does not answer
- *  is told, or the start would go on without the step. */
-bool opens(const Session& session, const jet::Workspace& workspace, jet::Database& db, const QString& path) {
-  db.Close();
-  try {
-    db = workspace.OpenDatabase(path);
-    return true;
-  } catch (const jet::Error& error) {
-    const bool missing = error.number() == 3024 || error.number() == 3044;
-    if (error.number() == 3043) throw;
-    if (missing && isThere(session.pc.paths, path)) throw jet::errorOf(3043, path);
-    return false;
-  }
 }
 
 jet::Field newField(const QString& name, jet::Type type, int size = 0) {
@@ -85,35 +71,18 @@ void linkAnew(const jet::Database& year, const QString& basic) {
 
 }  // namespace
 
-void walkYears(const Session& session, const std::function<void(const QString& file)>& work) {
-  for (int year = session.pc.clock.today().year();; --year) {
-    const QString file = yearFile(session, QString::number(year));
-    if (!isThere(session.pc.paths, file)) return;
-    work(file);
-  }
-}
-
-QStringList yearFiles(const Session& session, const jet::Workspace& workspace, const QString& folder) {
-  QStringList files;
-  for (const QString& name : filesIn(session.pc.paths, folder, u"*Foundation.mdb"_s)) {
-    jet::Database db;
-    if (opens(session, workspace, db, folder + name) && db.hasTable(u"Buy"_s)) files << folder + name;
-  }
-  return files;
-}
-
 void addLateCharges(Session& session) {
   const QString folder = u"C:\\rwgas\\dbs\\"_s;
   if (!isThere(session.pc.paths, folder + u"basic.mdb"_s)) return;
   const jet::Workspace workspace = openWorkspace(session, folder);
   jet::Database basic;
-  if (!opens(session, workspace, basic, folder + u"basic.mdb"_s)) return;
+  if (!openWhereThere(session, workspace, basic, folder + u"basic.mdb"_s)) return;
   DAO_AddField(session.prompts, basic, u"apt"_s, u"delaypay"_s, jet::Type::Double, 0, false,
                u"UPDATE apt SET delaypay = 0"_s);
   workspace.KeepingFiles([&] {
     jet::Database year;
     for (const QString& file : yearFiles(session, workspace, folder)) {
-      if (!opens(session, workspace, year, file)) return;
+      if (!openWhereThere(session, workspace, year, file)) return;
       DAO_AddField(session.prompts, year, u"Evaporation"_s, u"paydelayed"_s, jet::Type::Boolean, 0, false,
                    u"UPDATE Evaporation SET paydelayed = false"_s);
     }
@@ -203,7 +172,7 @@ bool relink(Session& session) {
   session.wsMain.KeepingFiles([&] {
     jet::Database year;
     for (const QString& file : yearFiles(session, session.wsMain, session.DbPath)) {
-      all = opens(session, session.wsMain, year, file);
+      all = openWhereThere(session, session.wsMain, year, file);
       if (!all) return;
       if (isLinked(year, session.BasicPath)) continue;  // at most starts; a write would hold up the other PCs
       year.Together([&] { linkAnew(year, session.BasicPath); });
@@ -228,7 +197,7 @@ void widenTaxFields(const jet::Database& tax) {
 
 void addMoreTelephones(Session& session) {
   jet::Database basic;
-  if (!opens(session, session.wsMain, basic, session.BasicPath)) return;
+  if (!openWhereThere(session, session.wsMain, basic, session.BasicPath)) return;
   // Kept: when Tel1 is there, Tel2 is not looked at. So a failure in between leaves neither.
   if (hasField(basic, u"Client"_s, u"Tel1"_s)) return;
   basic.Together([&] {
@@ -241,7 +210,7 @@ void addMoreTelephones(Session& session) {
 }
 
 void makeOptions(Session& session) {
-  if (!opens(session, session.wsMain, session.dbCommon, u"C:\\rwgas\\dbs\\basic.mdb"_s)) return;
+  if (!openWhereThere(session, session.wsMain, session.dbCommon, u"C:\\rwgas\\dbs\\basic.mdb"_s)) return;
   if (DAO_ExistTable(session.prompts, session.dbCommon, u"Options"_s)) return;
   session.dbCommon.Together([&] {
     if (session.dbCommon.hasTable(u"Options"_s)) return;  // made by another PC meanwhile

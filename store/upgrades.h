@@ -2,19 +2,12 @@
 // Old data files brought up to date at every start. There is no version number: each step looks at the files
 // themselves and does nothing where nothing is missing. The order of the calls is app/start_up's.
 #include <QString>
-#include <QStringList>
-#include <functional>
 
 #include "store/jet/database.h"
 
 struct Session;
 
 namespace upgrades {
-
-/** The year files from the clock's year back, up to the first year without one. */
-void walkYears(const Session& session, const std::function<void(const QString& file)>& work);
-/** Every file "*Foundation.mdb" of a folder that opens and holds a table Buy, sorted. */
-QStringList yearFiles(const Session& session, const jet::Workspace& workspace, const QString& folder);
 
 // A step fails with jet::Error unless it says otherwise.
 

@@ -11,6 +11,7 @@
 #include "store/data_files.h"
 #include "store/session.h"
 #include "store/upgrades.h"
+#include "store/year_file.h"
 #include "ui/model/prompts.h"
 
 namespace tests {

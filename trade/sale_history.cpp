@@ -3,10 +3,10 @@
 #include <functional>
 
 #include "store/data_access.h"
-#include "store/data_files.h"
 #include "store/jet/error.h"
 #include "store/jet/sql.h"
 #include "store/text_width.h"
+#include "store/year_file.h"
 #include "trade/sale_items.h"
 #include "trade/sale_line.h"
 
@@ -27,7 +27,7 @@ void eachLastSale(const Session& session, QStringView columns, const QString& cl
     }
   };
   read(u"Sale"_s);
-  const QString yearBefore = yearFile(session, QString::number(session.WorkYear.toInt() - 1));
+  const QString yearBefore = yearFile(session, session.WorkYear.toInt() - 1);
   if (count <= 0 || !session.pc.paths.exists(yearBefore)) return;
   try {
     read(u"["_s + plainPath(yearBefore) + u"].Sale"_s);

@@ -6,6 +6,7 @@
 #include "master/customers/tel_format.h"
 #include "store/data_access.h"
 #include "store/jet/format_rules.h"
+#include "store/year_file.h"
 
 namespace {
 
@@ -71,17 +72,14 @@ bool blockIsMetered(const Session& session, const ClientEntry& c) {
 /** Year files are gone through from the current year back, as long as there is one; an older file beyond a gap keeps
  *  the customer's sales; kept. */
 void removeSales(const Session& session, qint64 code) {
-  for (int year = session.pc.clock.today().year();; --year) {
-    const QString path = session.DbPath + QString::number(year) + "Foundation.mdb";
-    if (!session.pc.paths.exists(path)) return;
-    jet::Database yearFile;
-    if (!OpenDB(session.wsMain, yearFile, path)) {
+  walkYears(session, [&](const QString& path) {
+    jet::Database year;
+    if (OpenDB(session.wsMain, year, path))
+      year.Execute("delete * from sale where clientcode = " + QString::number(code));
+    else
       session.prompts.MsgWarn(path + "\n파일을 열 수 없어 이 해의 판매자료는 삭제하지 못했습니다!",
                               registerOfClients);
-      continue;
-    }
-    yearFile.Execute("delete * from sale where clientcode = " + QString::number(code));
-  }
+  });
 }
 
 }  // namespace

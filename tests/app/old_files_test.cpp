@@ -1,6 +1,7 @@
 // One fixture an upgrade step: books of today that lack exactly what the step adds. A start brings them up to date, a
 // second one changes nothing.
 #include "app/start_up.h"
+#include "store/year_file.h"
 #include "tests/store/old_books.h"
 
 namespace {

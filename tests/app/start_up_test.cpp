@@ -1,5 +1,6 @@
 #include "app/start_up.h"
 
+#include "store/year_file.h"
 #include "tests/store/old_books.h"
 
 namespace {

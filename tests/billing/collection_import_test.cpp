@@ -3,6 +3,7 @@
 
 #include "pc/cp949.h"
 #include "store/jet/error.h"
+#include "store/year_file.h"
 #include "tests/support.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include "billing/reading_bill.h"
 
 #include "billing/reading_save.h"
-#include "store/data_files.h"
+#include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
 
 namespace {

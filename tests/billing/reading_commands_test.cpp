@@ -4,7 +4,7 @@
 #include "billing/reading_list.h"
 #include "billing/reading_panel.h"
 #include "pc/reports.h"
-#include "store/data_files.h"
+#include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
 
 namespace {

@@ -2,6 +2,7 @@
 #include "billing/reading_watch.h"
 
 #include "billing/reading_edit.h"
+#include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
 
 namespace {

@@ -1,5 +1,6 @@
 #include "master/customers/client_register.h"
 
+#include "store/year_file.h"
 #include "tests/support.h"
 
 namespace {
@@ -197,16 +198,14 @@ TEST_F(ClientRegistering, deletedCustomerTakesMeterRowsAndSalesOfEveryYearBackTo
   const qint64 code = clients.save(boxes).code;
   const qint64 other = clients.save(plain("이영희")).code;
   const int year = pc.pc.clock.today().year();
-  const auto yearFile = [&](int back) {
-    return pc.session.DbPath + QString::number(year - back) + "Foundation.mdb";
-  };
-  for (int back : {1, 2, 4}) ASSERT_TRUE(pc.pc.paths.copy(yearFile(0), yearFile(back)));
+  const auto fileBack = [&](int back) { return yearFile(pc.session, year - back); };
+  for (int back : {1, 2, 4}) ASSERT_TRUE(pc.pc.paths.copy(fileBack(0), fileBack(back)));
   const auto sales = [&](int back, qint64 client) {
-    jet::Database file = pc.session.wsMain.OpenDatabase(yearFile(back));
+    jet::Database file = pc.session.wsMain.OpenDatabase(fileBack(back));
     return count(file, "Sale Where ClientCode = " + QString::number(client));
   };
   for (int back : {0, 1, 2, 4}) {
-    jet::Database file = pc.session.wsMain.OpenDatabase(yearFile(back));
+    jet::Database file = pc.session.wsMain.OpenDatabase(fileBack(back));
     for (qint64 who : {code, code, other})
       file.Execute("Insert Into Sale(SaleDate, ClientCode) Values('2020-01-01', " + QString::number(who) +
                    ")");

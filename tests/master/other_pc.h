@@ -1,5 +1,6 @@
 #pragma once
 // A second program on the data folder of a test's PC.
+#include "store/year_file.h"
 #include "tests/support.h"
 
 namespace tests {

@@ -2,6 +2,7 @@
 
 #include "store/options.h"
 #include "store/rounding.h"
+#include "store/year_file.h"
 #include "tests/store/old_books.h"
 
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 // Data files as the first version of the program left them: without the columns that the upgrades add.
+#include "store/year_file.h"
 #include "tests/support.h"
 
 namespace tests {

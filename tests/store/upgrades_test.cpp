@@ -1,5 +1,6 @@
 #include "store/upgrades.h"
 
+#include "store/year_file.h"
 #include "tests/store/old_books.h"
 
 namespace {
@@ -39,7 +40,7 @@ TEST_F(Upgrades, LateChargesReachEveryYearFileOfTheInstalledFolder) {
 
 TEST_F(Upgrades, TheYearWalkEndsAtAGap) {
   QStringList walked;
-  upgrades::walkYears(session, [&](const QString& path) { walked << path.right(18).first(4); });
+  walkYears(session, [&](const QString& path) { walked << path.right(18).first(4); });
   EXPECT_EQ(walked, (QStringList{"2026", "2025"})) << "2024 is missing, so 2023 is not reached";
   upgrades::addDealMarks(session);
   EXPECT_EQ(firstOf(year(u"2025"_s), u"Select DealList + SaleList From Sale"_s), "0");

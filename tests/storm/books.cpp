@@ -6,6 +6,7 @@
 #include "store/data_files.h"
 #include "store/jet/connection.h"
 #include "store/upgrades.h"
+#include "store/year_file.h"
 #include "trade/sale_kinds.h"
 
 using namespace Qt::StringLiterals;

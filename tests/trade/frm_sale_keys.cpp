@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "app/form_pickers.h"
+#include "store/year_file.h"
 #include "tests/trade/sale_desk.h"
 #include "tests/ui/grab.h"
 #include "trade/frmSale.h"

@@ -2,6 +2,7 @@
 #include <sqlite3.h>
 
 #include "store/jet/error.h"
+#include "store/year_file.h"
 #include "tests/trade/sale_desk.h"
 
 namespace {

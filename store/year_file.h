@@ -1,0 +1,33 @@
+#pragma once
+// A year's file "2026Foundation.mdb": its name and path, a look into it, the walk over the years. Nobody else writes the
+// name.
+#include <QString>
+#include <QStringList>
+#include <functional>
+
+#include "store/jet/database.h"
+
+struct Session;
+
+/** The empty year file "2002Foundation.mdb" that is copied for a year without one. */
+QString yearTemplate();
+/** A year's file name, the same in every folder; year as four digits. */
+QString yearFileName(const QString& year);
+/** A year's file in the data folder. */
+QString yearFile(const Session& session, const QString& year);
+QString yearFile(const Session& session, int year);
+
+/** The year's file opened; unset where there is none or it does not open. Tells nothing: the caller decides. */
+jet::Database openYear(const Session& session, const QString& year);
+jet::Database openYear(const Session& session, int year);
+
+/** The files from the clock's year back, up to the first year without one: a file beyond a gap is not reached, and some
+ *  rules keep that. Throws jet::Error 3043 where a disk or network does not answer. */
+void walkYears(const Session& session, const std::function<void(const QString& file)>& work);
+/** Names of the files of a folder that are named as a year's, the template among them, sorted. */
+QStringList yearFileNames(const Session& session, const QString& folder);
+/** Paths of those that open and hold a table Buy, sorted. */
+QStringList yearFiles(const Session& session, const jet::Workspace& workspace, const QString& folder);
+
+/** Copies the template for a year that has no file. Throws jet::Error, 3049 for a damaged template. */
+void makeYearFile(Session& session, const QString& year);
