@@ -4,11 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
-#include <memory>
-
-#include "ui/forms/FrmProgress.h"
 
 using namespace Qt::StringLiterals;
 
@@ -64,23 +60,4 @@ QString DueDateBoxes::month() const {
 
 QString DueDateBoxes::day() const {
   return day_->text();
-}
-
-QLineEdit* correctionBox(const QString& name, const QString& text) {
-  auto* made = new QLineEdit(text);
-  made->setObjectName(name);
-  made->setAlignment(Qt::AlignRight);
-  made->setFixedWidth(8 * made->fontMetrics().horizontalAdvance(u'0') + 16);
-  made->setValidator(
-      new QRegularExpressionValidator(QRegularExpression(u"-?\\d{0,3}(\\.\\d{0,2})?"_s), made));
-  return made;
-}
-
-void printUnderProgress(QWidget* over,
-                        const std::function<void(const std::function<bool(int done, int of)>& tell)>& print) {
-  std::unique_ptr<FrmProgress> bar;  // comes with the first slip: the checks before it may end in a box
-  print([&](int done, int of) {
-    if (!bar) bar = std::make_unique<FrmProgress>(u"지로 용지를 인쇄하고 있습니다."_s, of, true, over);
-    return bar->step(done, u"지로 용지를 인쇄하고 있습니다.  %1 / %2"_s.arg(done).arg(of));
-  });
 }

@@ -1,8 +1,7 @@
 #pragma once
-// What the giro forms' windows share: whom to print, the due date, the run under its progress bar.
+// What the giro forms' windows share: whom to print, the due date.
 #include <QDate>
 #include <QGroupBox>
-#include <functional>
 
 #include "giro/giro_run.h"
 
@@ -34,10 +33,3 @@ class DueDateBoxes : public QWidget {
                  const QString& label);
   QLineEdit *year_, *month_, *day_;
 };
-
-/** Runs print with a progress bar over the window; its tell stops the run when the operator asks. */
-void printUnderProgress(QWidget* over,
-                        const std::function<void(const std::function<bool(int done, int of)>& tell)>& print);
-
-/** A box for how far printing is moved on its paper: up to three digits, two decimals, a minus. */
-QLineEdit* correctionBox(const QString& name, const QString& text = {});

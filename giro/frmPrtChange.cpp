@@ -7,9 +7,9 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "giro/form_giro_parts.h"
-#include "giro/giro_setup.h"
 #include "master/registers/form_context.h"
+#include "papers/form_correction_box.h"
+#include "papers/paper_printer.h"
 #include "pc/print_job.h"
 #include "ui/forms/guard.h"
 
@@ -19,7 +19,7 @@ frmPrtChange::frmPrtChange(FormContext& context, QWidget* parent) : QDialog(pare
   setObjectName(u"frmPrtChange"_s);
   setWindowTitle(u"프린터 설정"_s);
   Session& session = context_.session;
-  const GiroSetup setup = readGiroSetup(session);
+  const SlipPrinter setup = slipPrinter(session);
   lstPrt_ = new QListWidget;
   lstPrt_->setObjectName(u"LstPrt"_s);
   lstPrt_->setSpacing(1);
@@ -82,7 +82,7 @@ void frmPrtChange::save() {
   // The line under the cursor is not chosen yet: the list puts the cursor on its first line by itself.
   const auto chosen = lstPrt_->selectedItems();
   guarded(context_.session.prompts, [&] {
-    saveGiroSetup(context_.session, chosen.isEmpty() ? QString() : chosen.first()->text(), txtTop_->text(),
-                  txtLeft_->text());
+    saveSlipPrinter(context_.session, chosen.isEmpty() ? QString() : chosen.first()->text(), txtTop_->text(),
+                    txtLeft_->text());
   });
 }

@@ -10,6 +10,8 @@
 
 #include "billing/reading_screen.h"
 #include "giro/form_giro_parts.h"
+#include "papers/form_document_run.h"
+#include "papers/paper_printer.h"
 #include "ui/forms/frmFloatMsg.h"
 #include "ui/forms/guard.h"
 #include "ui/grid/spread.h"
@@ -151,7 +153,7 @@ void frmPrtJiroOCR::fillUsePeriod() {
 }
 
 void frmPrtJiroOCR::showPrinter() {
-  const QString device = readGiroSetup(context_.session).device;
+  const QString device = slipPrinter(context_.session).device;
   lblPrinter_->setText(u"지로프린터 : "_s + (device.isEmpty() ? u"없음"_s : device));
 }
 
@@ -164,8 +166,10 @@ void frmPrtJiroOCR::print() {
   if (!txtAnnounce_->commitEdit()) return;
   GiroInput input{due_->year(), due_->month(), due_->day(), txtUse1_->text(), txtUse2_->text(), {}};
   for (int row = 1; row <= notes_.MaxRows(); ++row) input.notes << notes_.text(row, 1);
-  int printed = 0;
-  printUnderProgress(this,
-                     [&](const auto& tell) { printed = rules_.print(input, selection_->chosen(), tell); });
+  Session& session = context_.session;
+  const QString printer = giroPrinter(session);
+  if (printer.isEmpty()) return;
+  const auto run = rules_.run(input, selection_->chosen());
+  const int printed = run ? printRun(session, this, *run, printer) : 0;
   if (printed > 0) showFloatMsg(u"고객 %1명의 지로용지를 인쇄하였습니다."_s.arg(printed), 2000, this);
 }

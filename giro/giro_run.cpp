@@ -1,6 +1,7 @@
 #include "giro/giro_run.h"
 
 #include "billing/reading_screen.h"
+#include "papers/paper_printer.h"
 #include "store/data_access.h"
 #include "store/session.h"
 
@@ -20,10 +21,6 @@ bool isRegistered(Session& session) {
 
 }  // namespace
 
-QString automaticTransfer() {
-  return u"(자동이체)"_s;
-}
-
 std::vector<int> rowsToPrint(const ReadingScreen& screen, GiroSelection selection) {
   const SpreadModel& readings = screen.readings();
   if (selection == GiroSelection::Active) {
@@ -39,35 +36,21 @@ std::vector<int> rowsToPrint(const ReadingScreen& screen, GiroSelection selectio
   return rows;
 }
 
-int runGiro(Session& session, const ReadingScreen* screen, const GiroRun& run) {
-  const GiroSetup setup = readGiroSetup(session);
-  if (setup.device.isEmpty()) {
+QString giroPrinter(Session& session) {
+  const QString device = slipPrinter(session).device;
+  if (device.isEmpty())
     session.prompts.MsgWarn(
         u"지로출력을 위한 프린터가 설정되어 있지 않습니다\n프린터 설정을 해 주시기 바랍니다"_s, printManager);
-    return 0;
-  }
+  return device;
+}
+
+std::vector<int> giroRows(Session& session, const ReadingScreen* screen, GiroSelection selection) {
   if (!screen) {
     session.prompts.MsgWarn(u"체적검침 화면을 먼저 여십시오."_s, printManager);
-    return 0;
+    return {};
   }
-  if (!session.printers || !session.printers->names().contains(setup.device))
-    throw pc::PrintError{u"설정된 프린터를 찾을 수 없습니다: "_s + setup.device};
-  if (!isRegistered(session)) return 0;
-  const std::vector<int> rows = rowsToPrint(*screen, run.selection);
-  if (rows.empty()) {
-    session.prompts.MsgInfo(u"발행할 고객이 없습니다."_s, printManager);
-    return 0;
-  }
-
-  const auto job = session.printers->open(setup.device, run.title, run.paper);
-  int done = 0;
-  for (const int row : rows) {
-    const int place = done % run.slipsOnPage;
-    if (done > 0 && place == 0) job->newPage();  // not behind the last slip: that would be an empty sheet
-    run.slip(*job, setup, row, place);
-    ++done;
-    if (run.tell && !run.tell(done, int(rows.size()))) break;
-  }
-  job->end();
-  return done;
+  if (!isRegistered(session)) return {};
+  std::vector<int> rows = rowsToPrint(*screen, selection);
+  if (rows.empty()) session.prompts.MsgInfo(u"발행할 고객이 없습니다."_s, printManager);
+  return rows;
 }

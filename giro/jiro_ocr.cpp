@@ -1,9 +1,8 @@
 #include "giro/jiro_ocr.h"
 
-#include <optional>
-
 #include "billing/reading_screen.h"
 #include "giro/ocr_layout.h"
+#include "papers/paper_printer.h"
 #include "store/session.h"
 
 using namespace Qt::StringLiterals;
@@ -46,22 +45,34 @@ std::pair<QString, QString> JiroOcr::usePeriod(int useMonth) const {
   return {text(first), text(first.addMonths(1).addDays(-1))};
 }
 
-int JiroOcr::print(const GiroInput& input, GiroSelection selection,
-                   const std::function<bool(int done, int of)>& tell) {
+std::optional<DocumentRun> JiroOcr::run(const GiroInput& input, GiroSelection selection) {
   const ReadingScreen* screen = screen_();
+  const std::vector<int> rows = giroRows(session_, screen, selection);
+  if (rows.empty()) return {};
   const pc::PaperForm& form = ocrForm(paper_);
+  const auto writer = std::make_shared<SlipWriter>(session_, *screen, paper_, input);
   std::vector<QStringList> notes;
   for (const QString& note : input.notes) notes.push_back({note});
-  std::optional<SlipWriter> writer;  // begins with the first slip: the checks before it may end in a box
-  const auto slip = [&](pc::PrintJob& job, const GiroSetup& setup, int row, int place) {
-    if (!writer) writer.emplace(session_, *screen, paper_, input);
-    pc::drawPaper(job, form, setup.shift(), place, writer->texts(row), notes);
-  };
-  return runGiro(session_, screen,
-                 {.title = paper_ == OcrPaper::A4 ? u"OCR-A4 지로"_s : u"OCR 지로"_s,
-                  .paper = form.paper,
-                  .slipsOnPage = form.copies,
-                  .selection = selection,
-                  .slip = slip,
-                  .tell = tell});
+  const QString day = input.year + u'-' + input.month + u'-' + input.day;
+  return DocumentRun{.title = paper_ == OcrPaper::A4 ? u"OCR-A4 지로"_s : u"OCR 지로"_s,
+                     .paper = form.paper,
+                     .placesOnSheet = form.copies,
+                     .documents = int(rows.size()),
+                     .put =
+                         [=, &form, shift = slipPrinter(session_).shift](
+                             pc::PrintJob& job, pc::PaperPlaces& places, int document) {
+                           pc::drawPaper(job, form, shift, places.next(),
+                                         writer->texts(rows[size_t(document)]), notes);
+                         },
+                     .name =
+                         [=](int document) {
+                           return documentName(day, writer->customer(rows[size_t(document)]), u"지로"_s);
+                         }};
+}
+
+int JiroOcr::print(const GiroInput& input, GiroSelection selection, const TellDocument& tell) {
+  const QString device = giroPrinter(session_);
+  if (device.isEmpty()) return 0;
+  const auto made = run(input, selection);
+  return made ? runDocuments(onPrinter(session_, device), *made, tell) : 0;
 }

@@ -26,9 +26,11 @@ class JiroOcr {
   /** First and last day of a use month, "yyyy.MM.dd": the last such month that is not behind the shown one. */
   std::pair<QString, QString> usePeriod(int useMonth) const;
 
-  /** BtnJiro; as runGiro. */
-  int print(const GiroInput& input, GiroSelection selection,
-            const std::function<bool(int done, int of)>& tell = {});
+  /** The slips of the chosen rows, wherever they go; nothing after telling why none can be made. It reads the reading
+   *  screen: it must end before that is closed or loaded anew. */
+  std::optional<DocumentRun> run(const GiroInput& input, GiroSelection selection);
+  /** BtnJiro: slips that went to the printer; 0 after telling why none could. */
+  int print(const GiroInput& input, GiroSelection selection, const TellDocument& tell = {});
 
  private:
   /** First day of the shown month in the present calendar year. */

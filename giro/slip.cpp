@@ -1,7 +1,6 @@
 #include "giro/slip.h"
 
 #include "billing/reading_screen.h"
-#include "giro/giro_run.h"
 #include "giro/scan_line.h"
 #include "store/rounding.h"
 #include "store/session.h"
@@ -53,6 +52,10 @@ SlipWriter::SlipWriter(Session& session, const ReadingScreen& screen, OcrPaper p
     buildingLabel_ = BuildingLabelForDong(session, entry);
 }
 
+QString SlipWriter::customer(int row) const {
+  return screen_.readings().text(row, EvaCol::Name);
+}
+
 SlipTexts SlipWriter::texts(int row) const {
   const SpreadModel& readings = screen_.readings();
   const auto cell = [&](int col) { return readings.text(row, col); };
@@ -67,7 +70,7 @@ SlipTexts SlipWriter::texts(int row) const {
   const double afterDue = charge(total);
   const QString totalText = amountText(total);
   put(SlipText::Total, totalText);
-  put(SlipText::AmountToPay, cell(EvaCol::PayWay) == "3"_L1 ? automaticTransfer() : totalText);
+  put(SlipText::AmountToPay, cell(EvaCol::PayWay) == "3"_L1 ? u"(자동이체)"_s : totalText);
   put(SlipText::AfterDueCharge, amountText(afterDue));
   put(SlipText::AfterDueAmount, amountText(total + afterDue));
   put(SlipText::Late, amountText(charge(arrears)));

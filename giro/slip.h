@@ -60,6 +60,7 @@ class SlipWriter {
   /** The rate of the late charge is the book's; on A4 an apartment's building goes before
    *  it, on continuous paper not (kept). Neither the late line nor the after-due figures are stored. */
   SlipTexts texts(int row) const;
+  QString customer(int row) const;  ///< as the slip names him
 
  private:
   const ReadingScreen& screen_;

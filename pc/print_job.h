@@ -62,6 +62,9 @@ class Printers {
   /** Throws PrintError when there is no such printer or it does not take the job. */
   virtual std::unique_ptr<PrintJob> open(const QString& printer, const QString& title,
                                          const PaperSize& paper) = 0;
+  /** A PDF under this native path; the file of before stands until the job ends. */
+  virtual std::unique_ptr<PrintJob> openFile(const QString& file, const QString& title,
+                                             const PaperSize& paper) = 0;
 };
 
 }  // namespace pc

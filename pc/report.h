@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 
+#include "pc/pages.h"
 #include "pc/report_pages.h"
 
 namespace pc {
@@ -12,7 +13,11 @@ namespace pc {
 /** Writes a number by a picture: "#,##0". */
 using ReportPicture = std::function<QString(const QString& number, const QString& picture)>;
 
-class Report {
+class Report;
+/** Draws one page (from 0) on the job's current page. */
+void drawReportPage(PrintJob& job, const Report& report, int page);
+
+class Report : public Pages {
  public:
   /** Throws ReportError when there is no row or the paper takes none. */
   Report(ReportLayout layout, ReportTable table, const QStringList& formulas, const QString& today,
@@ -23,6 +28,10 @@ class Report {
   const ReportLayout& layout() const { return layout_; }
   const ReportTable& table() const { return table_; }
   const ReportPages& pages() const { return *pages_; }
+
+  int count() const override { return pages_->count(); }
+  PaperSize paper() const override { return layout_.paper; }
+  void draw(PrintJob& job, int page) const override { drawReportPage(job, *this, page); }
 
   /** A cell as it is printed. */
   QString cell(int row, const ReportColumn& column) const;
@@ -45,9 +54,6 @@ class Report {
 
 /** "월= '03월)'" as name and value: what stands between the first and the last apostrophe. */
 std::pair<QString, QString> readFormula(const QString& formula);
-
-/** Draws one page (from 0) on the job's current page. */
-void drawReportPage(PrintJob& job, const Report& report, int page);
 
 /** Pages from 0; -1 is the last one. */
 struct ReportRange {

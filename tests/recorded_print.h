@@ -69,6 +69,13 @@ class RecordedPrinters : public pc::Printers {
     jobs.push_back(job);
     return std::make_unique<Job>(job, refusesFromPage);
   }
+  /** The file stands where a printer's name would. */
+  std::unique_ptr<pc::PrintJob> openFile(const QString& file, const QString& title,
+                                         const pc::PaperSize& paper) override {
+    auto job = open(installed.front(), title, paper);
+    jobs.back()->printer = file;
+    return job;
+  }
 
  private:
   class Job : public pc::PrintJob {

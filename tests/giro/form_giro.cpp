@@ -12,11 +12,11 @@
 #include <QTest>
 #include <QTimer>
 
-#include "giro/FrmMargin.h"
-#include "giro/FrmPrintSection.h"
-#include "giro/FrmSetPrinter.h"
 #include "giro/frmPrtChange.h"
 #include "giro/frmPrtJiroOCR.h"
+#include "papers/FrmMargin.h"
+#include "papers/FrmPrintSection.h"
+#include "papers/FrmSetPrinter.h"
 #include "tests/giro/reading_rows.h"
 #include "tests/idle_context.h"
 #include "tests/recorded_print.h"

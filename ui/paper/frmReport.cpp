@@ -1,110 +1,19 @@
 #include "ui/paper/frmReport.h"
 
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QScreen>
-#include <QVBoxLayout>
-
 #include "ui/grid/excel_export.h"
-#include "ui/paper/page_view.h"
 #include "ui/paper/print_report.h"
 #include "ui/paper/printers.h"
 #include "ui/paper/report_sheet.h"
 
 using namespace Qt::StringLiterals;
 
-frmReport::frmReport(Session& session, std::unique_ptr<pc::Report> report, const QString& title,
+frmReport::frmReport(Session& onSession, std::shared_ptr<const pc::Report> report, const QString& title,
                      QWidget* parent)
-    : Form(u"frmReport"_s, title, session, parent), report_(std::move(report)) {
-  setWindowFlag(Qt::Window);
-  setAttribute(Qt::WA_DeleteOnClose);
-  view_ = new PageView(*report_, this);
-  body()->addWidget(toolRow());
-  body()->addWidget(view_, 1);
-  showHelp(u"PageUp, PageDown:쪽   +, -:크기   F10:인쇄   Esc:닫기"_s);
-  view_->changed = [this] { showPlace(); };
-  addKeys();
-  showPlace();
-  view_->setFocus();
-}
-
-frmReport::~frmReport() = default;
-
-QSize frmReport::sizeHint() const {
-  const QSize room = screen()->availableSize();
-  return {std::min(1120, room.width() - 40), std::min(900, room.height() - 60)};
-}
-
-QPushButton* frmReport::addTool(const char* name, const QString& caption, std::function<void()> work) {
-  QPushButton* const button = addButton(name, caption, std::move(work));
-  button->setFocusPolicy(Qt::NoFocus);  // the keys stay the page's
-  button->setStyleSheet(u"QPushButton { min-width: 2.6em; padding: 3px 8px; }"_s);
-  return button;
-}
-
-QWidget* frmReport::toolRow() {
-  auto* const row = new QWidget(this);
-  auto* const line = new QHBoxLayout(row);
-  line->setContentsMargins(0, 0, 0, 0);
-  line->setSpacing(5);
-  const auto label = [&](const char* name, int width) {
-    auto* const text = new QLabel(row);
-    text->setObjectName(QString::fromLatin1(name));
-    text->setAlignment(Qt::AlignCenter);
-    text->setMinimumWidth(width * fontMetrics().horizontalAdvance(u'0'));
-    return text;
-  };
-  first_ = addTool("BtnFirst", u"처음"_s, [this] { view_->setPage(0); });
-  previous_ = addTool("BtnPrev", u"이전"_s, [this] { view_->setPage(view_->page() - 1); });
-  next_ = addTool("BtnNext", u"다음"_s, [this] { view_->setPage(view_->page() + 1); });
-  last_ = addTool("BtnLast", u"끝"_s, [this] { view_->setPage(report_->pages().count() - 1); });
-  place_ = label("LblPage", 11);
-  size_ = label("LblZoom", 6);
-  for (QWidget* part :
-       {static_cast<QWidget*>(first_), static_cast<QWidget*>(previous_), static_cast<QWidget*>(place_),
-        static_cast<QWidget*>(next_), static_cast<QWidget*>(last_)})
-    line->addWidget(part);
-  line->addSpacing(16);
-  line->addWidget(addTool("BtnZoomOut", u"축소"_s, [this] { view_->zoomOut(); }));
-  line->addWidget(size_);
-  line->addWidget(addTool("BtnZoomIn", u"확대"_s, [this] { view_->zoomIn(); }));
-  line->addWidget(addTool("BtnFitWidth", u"폭 맞춤"_s, [this] { view_->setFit(PageView::Fit::Width); }));
-  line->addWidget(addTool("BtnFitPage", u"쪽 맞춤"_s, [this] { view_->setFit(PageView::Fit::Page); }));
-  line->addStretch(1);
-  line->addWidget(addTool("BtnPrt", u"인쇄"_s, [this] { print(); }));
-  line->addWidget(addTool("BtnPdf", u"PDF"_s, [this] {
-    printTo(session(), *report_, windowTitle(), pdfPrinterName(), {}, this);
-  }));
-  line->addWidget(addTool("BtnExcel", u"엑셀"_s,
-                          [this] { ExportToExcelFile(session(), reportSheet(*report_), windowTitle()); }));
-  line->addWidget(addTool("BtnExit", u"닫기"_s, [this] { close(); }));
-  return row;
-}
-
-void frmReport::addKeys() {
-  onKey(Qt::Key_PageUp, [this] { view_->setPage(view_->page() - 1); });
-  onKey(Qt::Key_PageDown, [this] { view_->setPage(view_->page() + 1); });
-  onKey(Qt::Key_Home, [this] { view_->setPage(0); });
-  onKey(Qt::Key_End, [this] { view_->setPage(report_->pages().count() - 1); });
-  for (const int key : {Qt::Key_Plus, Qt::Key_Equal}) onKey(key, [this] { view_->zoomIn(); });
-  onKey(Qt::ShiftModifier, Qt::Key_Plus, [this] { view_->zoomIn(); });
-  onKey(Qt::Key_Minus, [this] { view_->zoomOut(); });
-  onKey(Qt::Key_F10, [this] { print(); });
-  onKey(Qt::ControlModifier, Qt::Key_P, [this] { print(); });
-  onKey(Qt::Key_Escape, [this] { close(); });
-}
-
-void frmReport::showPlace() {
-  const int count = report_->pages().count(), page = view_->page();
-  place_->setText(QString::number(page + 1) + u" / "_s + QString::number(count));
-  size_->setText(QString::number(qRound(view_->zoom() * 100)) + u'%');
-  first_->setEnabled(page > 0);
-  previous_->setEnabled(page > 0);
-  next_->setEnabled(page + 1 < count);
-  last_->setEnabled(page + 1 < count);
-}
-
-void frmReport::print() {
-  askAndPrint(session(), *report_, windowTitle(), this);
+    : PagesWindow(u"frmReport"_s, title, onSession, report, parent), report_(std::move(report)) {
+  addPrint([this] { askAndPrint(session(), *report_, windowTitle(), this); });
+  addTool("BtnPdf", u"PDF"_s,
+          [this] { printTo(session(), *report_, windowTitle(), pdfPrinterName(), {}, this); });
+  addTool("BtnExcel", u"엑셀"_s,
+          [this] { ExportToExcelFile(session(), reportSheet(*report_), windowTitle()); });
+  addTool("BtnExit", u"닫기"_s, [this] { close(); });
 }

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "pc/report.h"
+#include "pc/pages.h"
 #include "ui/forms/style.h"
 #include "ui/paper/painted_job.h"
 
@@ -19,7 +19,7 @@ constexpr double zoomSteps[] = {0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1, 1.1, 1.25, 
 
 }  // namespace
 
-PageView::PageView(const pc::Report& report, QWidget* parent) : QAbstractScrollArea(parent), report_(report) {
+PageView::PageView(const pc::Pages& pages, QWidget* parent) : QAbstractScrollArea(parent), pages_(pages) {
   setObjectName(QStringLiteral("PageView"));
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
@@ -29,7 +29,7 @@ PageView::PageView(const pc::Report& report, QWidget* parent) : QAbstractScrollA
 }
 
 void PageView::setPage(int page) {
-  page = std::clamp(page, 0, report_.pages().count() - 1);
+  page = std::clamp(page, 0, pages_.count() - 1);
   if (page == page_) return;
   page_ = page;
   verticalScrollBar()->setValue(0);
@@ -63,12 +63,12 @@ double PageView::dotsPerInch() const {
 }
 
 QSize PageView::pageSize() const {
-  const pc::PaperSize& paper = report_.layout().paper;
+  const pc::PaperSize paper = pages_.paper();
   return {int(paper.width * dotsPerInch()), int(paper.height * dotsPerInch())};
 }
 
 void PageView::measure() {
-  const pc::PaperSize& paper = report_.layout().paper;
+  const pc::PaperSize paper = pages_.paper();
   const QSize room = maximumViewportSize() - QSize(2 * around, 2 * around);
   const double whole = std::min(room.width() / paper.width, room.height() / paper.height);
   const double wide = (room.width() - verticalScrollBar()->sizeHint().width()) / paper.width;
@@ -91,8 +91,8 @@ void PageView::renderPage() {
   if (paintedPage_ == page_ && painted_.size() == pixels) return;
   painted_ = QPixmap(pixels);
   painted_.fill(look::paper);
-  ScreenPage job(painted_, report_.layout().paper, dotsPerInch() * ratio);
-  pc::drawReportPage(job, report_, page_);
+  ScreenPage job(painted_, pages_.paper(), dotsPerInch() * ratio);
+  pages_.draw(job, page_);
   job.end();
   painted_.setDevicePixelRatio(ratio);
   paintedPage_ = page_;

@@ -1,20 +1,20 @@
 #pragma once
-// One page of a report on the screen. Only the page that is shown is painted, once for its size.
+// One page of a report or of a run of papers on the screen. Only the page that is shown is painted, once for its size.
 #include <QAbstractScrollArea>
 #include <QPixmap>
 
 #include <functional>
 
 namespace pc {
-class Report;
+class Pages;
 }
 
 class PageView : public QAbstractScrollArea {
  public:
   enum class Fit { Width, Page, Free };
 
-  /** The report must outlive the view. */
-  explicit PageView(const pc::Report& report, QWidget* parent = nullptr);
+  /** The pages must outlive the view. */
+  explicit PageView(const pc::Pages& pages, QWidget* parent = nullptr);
 
   int page() const { return page_; }  ///< from 0
   void setPage(int page);             ///< the nearest there is, at its top
@@ -42,7 +42,7 @@ class PageView : public QAbstractScrollArea {
   void measure();
   void renderPage();
 
-  const pc::Report& report_;
+  const pc::Pages& pages_;
   int page_ = 0;
   Fit fit_ = Fit::Width;
   double zoom_ = 1;

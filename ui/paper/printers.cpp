@@ -58,6 +58,12 @@ QString pdfPrinterName() {
   return u"PDF 파일"_s;
 }
 
+QString pdfPlace(pc::Pc& pc) {
+  QString file = qEnvironmentVariable("HAEON_PDF");
+  if (file.isEmpty()) file = pc.settings.GetSetting(u"해온판매"_s, u"프린터설정"_s, u"PDF파일"_s);
+  return file.isEmpty() ? QString() : pc.paths.native(file);
+}
+
 PcPrinters::PcPrinters(pc::Pc& pc) : pc_(pc) {
   askFile = [](const QString& title) {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -76,20 +82,20 @@ QString PcPrinters::defaultName() const {
 
 std::unique_ptr<pc::PrintJob> PcPrinters::open(const QString& printer, const QString& title,
                                                const pc::PaperSize& paper) {
-  return printer == pdfPrinterName() ? openPdf(title, paper) : openQueue(printer, title, paper);
+  if (printer != pdfPrinterName()) return openQueue(printer, title, paper);
+  const QString file = pdfFile(title);
+  if (file.isEmpty()) throw pc::PrintError{};
+  return openFile(file, title, paper);
 }
 
 QString PcPrinters::pdfFile(const QString& title) const {
-  QString file = qEnvironmentVariable("HAEON_PDF");
-  if (file.isEmpty()) file = pc_.settings.GetSetting(u"해온판매"_s, u"프린터설정"_s, u"PDF파일"_s);
+  const QString file = pdfPlace(pc_);
   if (file.isEmpty()) return withEnding(askFile(title));
-  file = pc_.paths.native(file);
   return QFileInfo(file).isDir() ? QDir(file).filePath(pdfNameOf(title)) : file;
 }
 
-std::unique_ptr<pc::PrintJob> PcPrinters::openPdf(const QString& title, const pc::PaperSize& paper) {
-  const QString file = pdfFile(title);
-  if (file.isEmpty()) throw pc::PrintError{};
+std::unique_ptr<pc::PrintJob> PcPrinters::openFile(const QString& file, const QString& title,
+                                                   const pc::PaperSize& paper) {
   // Written under another name: a run that breaks off leaves the older file as it was.
   const QString begun = file + u".part"_s;
   return std::make_unique<PageJob>(

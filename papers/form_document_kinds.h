@@ -2,7 +2,7 @@
 // The list of document kinds that the set-up windows share.
 #include <QListWidget>
 
-#include "store/document_printing.h"
+#include "papers/paper_printer.h"
 
 /** List1, on its first kind and as wide as its entries. */
 inline QListWidget* documentKindList() {

@@ -1,13 +1,13 @@
-#include "giro/FrmMargin.h"
+#include "papers/FrmMargin.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "giro/form_document_kinds.h"
-#include "giro/form_giro_parts.h"
 #include "master/registers/form_context.h"
+#include "papers/form_correction_box.h"
+#include "papers/form_document_kinds.h"
 
 using namespace Qt::StringLiterals;
 

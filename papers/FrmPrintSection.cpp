@@ -1,4 +1,4 @@
-#include "giro/FrmPrintSection.h"
+#include "papers/FrmPrintSection.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "giro/FrmSetPrinter.h"
+#include "papers/FrmSetPrinter.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -6,10 +6,8 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include "giro/form_document_kinds.h"
 #include "master/registers/form_context.h"
-#include "pc/print_job.h"
-#include "store/document_printing.h"
+#include "papers/form_document_kinds.h"
 
 using namespace Qt::StringLiterals;
 
