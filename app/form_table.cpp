@@ -8,8 +8,9 @@
 #include "app/frmAbout.h"
 #include "app/frmUser.h"
 #include "billing/FrmSukum.h"
+#include "billing/eva_total.h"
 #include "billing/frmEva.h"
-#include "billing/frmEvaTotal.h"
+#include "briefs/form_brief.h"
 #include "giro/frmPrtChange.h"
 #include "giro/frmPrtJiroOCR.h"
 #include "master/buildings/frmHouseStyle.h"
@@ -37,6 +38,13 @@ FormEntry formEntry(const char16_t* name) {
   return entry;
 }
 
+/** A report form is its description. */
+FormEntry briefEntry(const char16_t* name, Brief (*brief)()) {
+  return {name,
+          [brief](FormContext& context, QWidget* parent) { return new BriefForm(context, brief(), parent); },
+          [](QWidget* form, const QString& page) { static_cast<BriefForm*>(form)->showPage(page); }};
+}
+
 // One line a form, by name.
 // clang-format off
 const FormEntry formTable[] = {
@@ -50,7 +58,7 @@ const FormEntry formTable[] = {
     formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
     formEntry<frmClient>(u"frmClient"),
     formEntry<frmEva>(u"frmEva"),
-    formEntry<frmEvaTotal>(u"frmEvaTotal"),
+    briefEntry(u"frmEvaTotal", evaTotalBrief),
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmHouseStyle>(u"frmHouseStyle"),
     formEntry<frmPrtChange>(u"frmPrtChange"),

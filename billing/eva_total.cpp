@@ -5,10 +5,9 @@
 #include <optional>
 
 #include "billing/reading_name.h"
-#include "pc/reports.h"
+#include "billing/reading_sheet.h"
 #include "store/data_access.h"
 #include "store/date_text.h"
-#include "store/report_staging.h"
 #include "store/rounding.h"
 #include "store/session.h"
 #include "store/vb.h"
@@ -20,20 +19,37 @@ namespace {
 const QString totalManager = u"검침 관리자"_s;
 const QString everyBuilding = u"전체"_s;
 
-SpreadColumn totalText(const QString& header, double width, CellAlign align = CellAlign::Left) {
-  return {.header = header, .width = width, .align = align, .locked = true};
-}
+/** What is asked for, read from the answers. */
+struct EvaTotalAsk {
+  MeterBook book;
+  bool byCollection;       ///< the days of collection count, not the months
+  int fromMonth, toMonth;  ///< 1 to 12
+  QString fromDay, toDay;  ///< "03/16"; '' is no day
+  QString building;        ///< '' for all
+  QString dong, ho;        ///< '' for any
 
-SpreadColumn totalWon(const QString& header) {
-  return {.header = header, .width = 12, .kind = CellKind::Money, .align = CellAlign::Right, .locked = true};
-}
+  EvaTotalAsk(const Session& session, const BriefAsk& ask)
+      : book(MeterBook(ask.page)),
+        byCollection(ask.on(u"chkSuKum"_s)),
+        fromMonth(ask.from(u"CboMon"_s).toInt()),
+        toMonth(ask.to(u"CboMon"_s).toInt()),
+        fromDay(stored(session, ask.from(u"TxtDay"_s))),
+        toDay(stored(session, ask.to(u"TxtDay"_s))),
+        building(ask.place(u"CboGubun"_s) > 0 ? ask.text(u"CboGubun"_s) : QString()),
+        dong(ask.text(u"txtDong"_s)),
+        ho(ask.text(u"txtHo"_s)) {}
+
+  static QString stored(const Session& session, const QString& typed) {
+    return checkedMonthDay(typed, session.WorkYear, session.pc.clock).mid(5).replace(u'-', u'/');
+  }
+};
 
 QString twoDigitMonth(int month) {
   return QString::number(month).rightJustified(2, u'0');
 }
 
-QString wonText(qint64 won) {
-  return vb::Format(double(won), u"#,##0"_s);
+QString wonText(const QString& won) {
+  return vb::Format(won.toDouble(), u"#,##0"_s);
 }
 
 QString bookCondition(const EvaTotalAsk& ask) {
@@ -59,85 +75,42 @@ qint64 fieldWon(const jet::Recordset& rs, const QString& field) {
   return rs[field].toLong();
 }
 
-}  // namespace
-
-EvaTotal::EvaTotal(Session& session) : session_(session) {
-  grid_.setColumns({totalText(u"고객명"_s, 20), totalText(u"건물"_s, 16),
-                    totalText(u"월"_s, 6, CellAlign::Center), totalWon(u"미수금"_s), totalWon(u"사용금액"_s),
-                    totalWon(u"연체료"_s), totalWon(u"안전관리비"_s), totalWon(u"수금액"_s),
-                    totalText(u"수금일"_s, 8, CellAlign::Center), totalWon(u"잔액"_s)});
+QString periodText(const EvaTotalAsk& ask) {
+  if (ask.byCollection) return ask.fromDay + u" ~ "_s + ask.toDay;
+  const QString from = twoDigitMonth(ask.fromMonth) + u'월', to = twoDigitMonth(ask.toMonth) + u'월';
+  return from == to ? from : from + u" ~ "_s + to;
 }
 
-QStringList EvaTotal::buildings(MeterBook book) const {
-  if (book == MeterBook::Individual) return {};
-  QStringList entries{everyBuilding};
-  jet::Recordset rs;
-  if (!OpenSnapshot(session_.prompts, session_.dbYear, rs,
-                    "Select Distinct BDName From Client Where VolumeYesNo = True And HouseStyle = " +
-                        QString::number(int(book))))
-    return entries;
-  for (; !rs.atEnd(); rs.MoveNext())
-    if (const QString name = rs[u"BDName"_s].toText(); !name.isEmpty()) entries << name;
-  return entries;
-}
-
-bool EvaTotal::byCollection() const {
-  return session_.pc.settings.GetSetting(u"해온판매"_s, u"Config"_s, u"수금액조회"_s, u"0"_s) == "1"_L1;
-}
-
-void EvaTotal::rememberByCollection(bool on) {
-  session_.pc.settings.SaveSetting(u"해온판매"_s, u"Config"_s, u"수금액조회"_s, on ? u"1"_s : u"0"_s);
-}
-
-void EvaTotal::clear() {
-  grid_.clear();
-  period_.clear();
-  lines_ = 0;
-  prev_ = income_ = remain_ = 0;
-}
-
-bool EvaTotal::refresh(const EvaTotalAsk& ask) {
-  clear();
-  shown_ = ask;
-  if (!readPeriod(ask) || !readLines(ask)) return false;
-  if (lines_ == 0) {
-    session_.prompts.MsgInfo(
-        ask.byCollection ? u"기간내의 수금자료가 없습니다!"_s : u"기간내의 검침자료가 없습니다!"_s,
-        totalManager);
-    return false;
-  }
-  if (!readPrev(ask)) return false;
-  InsertSubTotal(grid_, lines_ + 1, SubTotal::Whole, TotalCol::Name,
-                 {TotalCol::UsePay, TotalCol::Delay, TotalCol::Manage, TotalCol::Pay});
-  return true;
-}
-
-bool EvaTotal::readPeriod(const EvaTotalAsk& ask) {
-  if (!ask.byCollection) {
-    const QString from = twoDigitMonth(ask.fromMonth) + u'월', to = twoDigitMonth(ask.toMonth) + u'월';
-    period_ = from == to ? from : from + u" ~ "_s + to;
-    return true;
-  }
-  const auto stored = [&](const QString& typed) {
-    return checkedMonthDay(typed, session_.WorkYear, session_.pc.clock).mid(5).replace(u'-', u'/');
-  };
-  fromDay_ = stored(ask.fromDay);
-  toDay_ = stored(ask.toDay);
-  if (fromDay_.isEmpty() || toDay_.isEmpty()) {
-    session_.prompts.MsgWarn(u"날짜입력이 잘못되었습니다!"_s, totalManager);
-    return false;
-  }
-  period_ = fromDay_ + u" ~ "_s + toDay_;
-  return true;
-}
-
-QString EvaTotal::periodWhere(const EvaTotalAsk& ask) const {
-  if (ask.byCollection) return collectedBetween(fromDay_, toDay_) + " AND Evaporation.Pay > 0 ";
+QString periodWhere(const EvaTotalAsk& ask) {
+  if (ask.byCollection) return collectedBetween(ask.fromDay, ask.toDay) + " AND Evaporation.Pay > 0 ";
   return "Evaporation.Mon >= " + QString::number(ask.fromMonth) + ' ' +
          "And Evaporation.Mon <= " + QString::number(ask.toMonth);
 }
 
-bool EvaTotal::readLines(const EvaTotalAsk& ask) {
+struct Line {
+  QString who;  ///< what tells one customer's lines from the next one's
+  int month = 0;
+  qint64 remain = 0;
+};
+
+struct Sums {
+  qint64 prev = 0, income = 0, remain = 0;
+};
+
+/** A month's rest goes into the next month's arrears: only a customer's last month counts. */
+qint64 stillOpen(const std::vector<Line>& lines) {
+  qint64 open = 0;
+  for (size_t from = 0, to = 0; from < lines.size(); from = to) {
+    int last = 0;
+    for (to = from; to < lines.size() && lines[to].who == lines[from].who; ++to)
+      last = std::max(last, lines[to].month);
+    for (size_t at = from; at < to; ++at)
+      if (lines[at].month == last) open += lines[at].remain;
+  }
+  return open;
+}
+
+bool readLines(Session& session, const EvaTotalAsk& ask, BriefRows& into, Sums& sums) {
   QString sql =
       "SELECT Client.Name, Client.BDName, Client.Dong, Client.Ho, Evaporation.Mon, Evaporation.TrustDay, "
       "Sum(Evaporation.Trust) As Trust, "
@@ -152,10 +125,9 @@ bool EvaTotal::readLines(const EvaTotalAsk& ask) {
          "Evaporation.TrustDay "
          " ORDER BY Client.Code";
   jet::Recordset rs;
-  if (!OpenSnapshot(session_.prompts, session_.dbYear, rs, sql)) return false;
+  if (!OpenSnapshot(session.prompts, session.dbYear, rs, sql)) return false;
 
-  const std::optional<int> rule = companyPayState(session_);
-  std::vector<std::vector<QString>> rows;
+  const std::optional<int> rule = companyPayState(session);
   std::vector<Line> lines;
   for (; !rs.atEnd(); rs.MoveNext()) {
     const auto text = [&rs](const QString& field) { return rs[field].toText(); };
@@ -167,70 +139,142 @@ bool EvaTotal::readLines(const EvaTotalAsk& ask) {
     const qint64 remain = jet::Value(roundToTen(open, rule)).toLong();
     const int month = int(fieldWon(rs, u"Mon"_s));
     const QString name = readingName(ask.book, text(u"Name"_s), text(u"Dong"_s), text(u"Ho"_s));
-    rows.push_back({name, text(u"BDName"_s), twoDigitMonth(month), won(u"Trust"_s), won(u"UsePay"_s),
-                    won(u"Delay"_s), won(u"Manage"_s), won(u"Pay"_s), text(u"TrustDay"_s).replace(u'-', u'/'),
-                    QString::number(remain)});
+    into.rows.push_back({name, text(u"BDName"_s), twoDigitMonth(month), won(u"Trust"_s), won(u"UsePay"_s),
+                         won(u"Delay"_s), won(u"Manage"_s), won(u"Pay"_s),
+                         text(u"TrustDay"_s).replace(u'-', u'/'), QString::number(remain)});
     lines.push_back({text(u"Name"_s) + u'\n' + text(u"BDName"_s) + u'\n' + name, month, remain});
-    income_ += fieldWon(rs, u"Pay"_s);
+    sums.income += fieldWon(rs, u"Pay"_s);
   }
-  lines_ = int(rows.size());
-  grid_.setRows(std::move(rows));
-  grid_.setColumnHidden(TotalCol::Building, ask.book == MeterBook::Individual);
-  sumUp(lines);
+  sums.remain = stillOpen(lines);
   return true;
 }
 
-/** A month's rest goes into the next month's arrears: only a customer's last month counts. */
-void EvaTotal::sumUp(const std::vector<Line>& lines) {
-  for (size_t from = 0, to = 0; from < lines.size(); from = to) {
-    int last = 0;
-    for (to = from; to < lines.size() && lines[to].who == lines[from].who; ++to)
-      last = std::max(last, lines[to].month);
-    for (size_t at = from; at < to; ++at)
-      if (lines[at].month == last) remain_ += lines[at].remain;
-  }
-}
-
-bool EvaTotal::readPrev(const EvaTotalAsk& ask) {
+bool readPrev(Session& session, const EvaTotalAsk& ask, Sums& sums) {
   QString before = "Evaporation.Mon = " + QString::number(ask.fromMonth - 1);
   if (ask.byCollection) {
-    const QString month = twoDigitMonth(fromDay_.left(2).toInt() - 1);
+    const QString month = twoDigitMonth(ask.fromDay.left(2).toInt() - 1);
     before = collectedBetween(month + "/01", month + "/31");
   }
   jet::Recordset rs;
-  if (!OpenSnapshot(session_.prompts, session_.dbYear, rs,
+  if (!OpenSnapshot(session.prompts, session.dbYear, rs,
                     "Select Evaporation.Total From Evaporation LEFT JOIN Client "
                     "ON Evaporation.ClientCode = Client.Code " +
                         bookCondition(ask) + before + buildingCondition(ask)))
     return false;
-  for (; !rs.atEnd(); rs.MoveNext()) prev_ += fieldWon(rs, u"Total"_s);
+  for (; !rs.atEnd(); rs.MoveNext()) sums.prev += fieldWon(rs, u"Total"_s);
   return true;
 }
 
-void EvaTotal::print() {
-  if (lines_ == 0) {
-    stageReport(session_, 1, [](int) { return u"Insert Into Print(Str01) Values"_s + u"('')"_s; });
-  } else {
-    stageReport(session_, lines_, [this](int row) {
-      const auto text = [&](int col) { return u'\'' + plainText(grid_.text(row, col)) + u'\''; };
-      const auto won = [&](int col) { return grid_.text(row, col); };
-      return u"Insert Into Print(Str01, Lng01, Lng02, Str02, Str03, Lng03, Lng04, Str04, Lng05, Lng06) Values"_s +
-             u'(' +
-             QStringList{text(TotalCol::Name),     won(TotalCol::Trust),     won(TotalCol::UsePay),
-                         text(TotalCol::Building), text(TotalCol::Month),    won(TotalCol::Delay),
-                         won(TotalCol::Manage),    text(TotalCol::TrustDay), won(TotalCol::Pay),
-                         won(TotalCol::Remain)}
-                 .join(u", "_s) +
-             u')';
-    });
-  }
+void readEvaTotal(Session& session, const BriefAsk& asked, const BriefTeller&, BriefRows& into) {
+  const EvaTotalAsk ask(session, asked);
+  into.read = false;
+  if (ask.byCollection && (ask.fromDay.isEmpty() || ask.toDay.isEmpty()))
+    return session.prompts.MsgWarn(u"날짜입력이 잘못되었습니다!"_s, totalManager);
+  Sums sums;
+  if (!readLines(session, ask, into, sums) || !readPrev(session, ask, sums)) return;
+  into.read = true;
+  into.figures = {periodText(ask), QString::number(sums.prev), QString::number(sums.income),
+                  QString::number(sums.remain)};
+}
+
+QStringList buildings(const Session& session, int book) {
+  if (MeterBook(book) == MeterBook::Individual) return {};
+  QStringList entries{everyBuilding};
+  jet::Recordset rs;
+  if (!OpenSnapshot(session.prompts, session.dbYear, rs,
+                    "Select Distinct BDName From Client Where VolumeYesNo = True And HouseStyle = " +
+                        QString::number(book)))
+    return entries;
+  for (; !rs.atEnd(); rs.MoveNext())
+    if (const QString name = rs[u"BDName"_s].toText(); !name.isEmpty()) entries << name;
+  return entries;
+}
+
+QStringList formulas(const BriefAsk& asked, const BriefRows& rows) {
   const QString all[] = {u"일반주택/식당"_s, u"아파트 전체"_s, u"다가구 전체"_s};
-  const QString what = shown_.building.isEmpty() ? all[int(shown_.book)] : shown_.building;
-  session_.reports->show(
-      {.file = u"체적검침조회.rpt"_s,
-       .formulas = {u"구분= '"_s + what + u'\'', u"기간= '"_s + period_ + u'\'',
-                    u"기준= '"_s + (shown_.byCollection ? u"수금일자"_s : u"검침월"_s) + u'\'',
-                    u"전월이월= '"_s + wonText(prev_) + u'\'', u"수금= '"_s + wonText(income_) + u'\'',
-                    u"잔액= '"_s + wonText(remain_) + u'\''},
-       .dataFile = printFile()});
+  const QString what = asked.place(u"CboGubun"_s) > 0 ? asked.text(u"CboGubun"_s) : all[asked.page];
+  const auto won = [&](int figure) { return wonText(rows.figures.value(figure)); };
+  return {u"구분= '"_s + what + u'\'',
+          u"기간= '"_s + rows.figures.value(0) + u'\'',
+          u"기준= '"_s + (asked.on(u"chkSuKum"_s) ? u"수금일자"_s : u"검침월"_s) + u'\'',
+          u"전월이월= '"_s + won(1) + u'\'',
+          u"수금= '"_s + won(2) + u'\'',
+          u"잔액= '"_s + won(3) + u'\''};
+}
+
+BriefPage bookPage(MeterBook book) {
+  using enum BriefLook;
+  return {.key = QString::number(int(book) + 1),
+          .tab = bookCaption(book),
+          .grid = u"SpEvaTotal"_s,
+          .columns = {{.header = u"고객명"_s, .width = 20, .staged = u"Str01"_s},
+                      {.header = u"건물"_s,
+                       .width = 16,
+                       .staged = u"Str02"_s,
+                       .hidden = book == MeterBook::Individual},
+                      {.header = u"월"_s, .width = 6, .look = Centre, .staged = u"Str03"_s},
+                      {.header = u"미수금"_s, .look = Money, .staged = u"Lng01"_s},
+                      {.header = u"사용금액"_s, .look = Money, .staged = u"Lng02"_s, .sum = true},
+                      {.header = u"연체료"_s, .look = Money, .staged = u"Lng03"_s, .sum = true},
+                      {.header = u"안전관리비"_s, .look = Money, .staged = u"Lng04"_s, .sum = true},
+                      {.header = u"수금액"_s, .look = Money, .staged = u"Lng05"_s, .sum = true},
+                      {.header = u"수금일"_s, .width = 8, .look = Centre, .staged = u"Str04"_s},
+                      {.header = u"잔액"_s, .look = Money, .staged = u"Lng06"_s}},
+          .complete = readEvaTotal,
+          .emptyText =
+              [](const BriefAsk& ask) {
+                return ask.on(u"chkSuKum"_s) ? u"기간내의 수금자료가 없습니다!"_s
+                                             : u"기간내의 검침자료가 없습니다!"_s;
+              },
+          .emptyTitle = totalManager,
+          .report = u"체적검침조회.rpt"_s,
+          .formulas = formulas,
+          .panels = {{u"PnlPeriod"_s, u"기간"_s, 15, false},
+                     {u"PnlPrev"_s, u"전월이월"_s},
+                     {u"PnlIncome"_s, u"수금"_s},
+                     {u"PnlRemain"_s, u"잔액"_s}}};
+}
+
+}  // namespace
+
+Brief evaTotalBrief() {
+  return {.form = u"frmEvaTotal"_s,
+          .caption = u"검침현황 조회"_s,
+          .tabs = u"TabEvaTotal"_s,
+          .questions = {{.kind = AskKind::Choice,
+                         .name = u"CboGubun"_s,
+                         .label = u"건물구분"_s,
+                         .help = u"조회할 건물을 선택합니다"_s,
+                         .entries = buildings,
+                         .pages = {1, 2}},
+                        {.kind = AskKind::Text,
+                         .name = u"txtDong"_s,
+                         .label = u"동"_s,
+                         .help = u"동을 입력하면 그 동만 조회합니다"_s,
+                         .pages = {1, 2},
+                         .anew = true},
+                        {.kind = AskKind::Text,
+                         .name = u"txtHo"_s,
+                         .label = u"호"_s,
+                         .help = u"호를 입력하면 그 호만 조회합니다"_s,
+                         .pages = {1, 2},
+                         .anew = true},
+                        {.kind = AskKind::MonthPeriod,
+                         .name = u"CboMon"_s,
+                         .label = u"조회기간"_s,
+                         .help = u"조회할 검침월을 선택합니다"_s,
+                         .when = u"!chkSuKum"_s},
+                        {.kind = AskKind::MonthDayPeriod,
+                         .name = u"TxtDay"_s,
+                         .label = u"조회기간"_s,
+                         .help = u"조회할 수금일자를 월일로 입력합니다"_s,
+                         .when = u"chkSuKum"_s},
+                        {.kind = AskKind::Check,
+                         .name = u"chkSuKum"_s,
+                         .label = u"수금일자 기준 검색"_s,
+                         .help = u"선택하면 검침월이 아닌 수금일자로 조회합니다"_s,
+                         .remembered = u"수금액조회"_s}},
+          .pages = {bookPage(MeterBook::Individual), bookPage(MeterBook::Apartment),
+                    bookPage(MeterBook::MultiHousehold)},
+          .opensOn = [](const Session& session) { return session.CheckKind; }};
 }

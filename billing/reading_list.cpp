@@ -2,9 +2,7 @@
 
 #include "billing/building_rate.h"
 #include "billing/reading_sheet.h"
-#include "pc/reports.h"
-#include "store/data_access.h"
-#include "store/report_staging.h"
+#include "briefs/brief_run.h"
 #include "store/session.h"
 #include "store/vb.h"
 
@@ -12,29 +10,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString listStatement(const ReadingSheet& sheet, int row) {
-  const auto text = [&](int col) { return u'\'' + plainText(sheet.grid.text(row, col)) + u'\''; };
-  QString values = text(EvaCol::Name);
+const std::vector<BriefColumn>& listColumns() {
+  static const std::vector<BriefColumn> columns = [] {
+    std::vector<BriefColumn> made;
+    for (const char16_t* staged : {u"Str01", u"Dbl01", u"Dbl02", u"Dbl03", u"Lng01", u"Lng02", u"Lng03",
+                                   u"Lng04", u"Lng05", u"Lng06", u"Str02", u"Str03", u"Str04"})
+      made.push_back({.staged = QString::fromUtf16(staged)});
+    return made;
+  }();
+  return columns;
+}
+
+BriefCells listRow(const ReadingSheet& sheet, int row) {
+  BriefCells cells{sheet.grid.text(row, EvaCol::Name)};
   for (int col = EvaCol::PrevUseGage; col <= EvaCol::Pay; ++col)
-    values += ", " + vb::CStr(sheet.number(row, col));
-  values += sheet.grid.text(row, EvaCol::Prnt) == "1"_L1 ? u", 'O'"_s : u", 'X'"_s;
-  return "Insert Into Print(Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06, "
-         "Str02, Str03, str04) Values(" +
-         values + ", " + text(EvaCol::TrustDay) + ", " + text(EvaCol::BDName) + ")";
+    cells.push_back(vb::CStr(sheet.number(row, col)));
+  cells.push_back(sheet.grid.text(row, EvaCol::Prnt) == "1"_L1 ? u"O"_s : u"X"_s);
+  cells.push_back(sheet.grid.text(row, EvaCol::TrustDay));
+  cells.push_back(sheet.grid.text(row, EvaCol::BDName));
+  return cells;
 }
 
 }  // namespace
 
 void printReadingList(ReadingSheet& sheet) {
   Session& session = sheet.session;
-  int rows = 0;
-  while (!sheet.grid.text(rows + 1, EvaCol::Name).isEmpty()) ++rows;
-  stageReport(session, rows, [&](int row) { return listStatement(sheet, row); });
+  std::vector<BriefCells> rows;
+  for (int row = 1; !sheet.grid.text(row, EvaCol::Name).isEmpty(); ++row) rows.push_back(listRow(sheet, row));
   const QString building = sheet.book == MeterBook::Individual
                                ? u"일반주택/식당"_s
                                : BuildingLabelForDong(session, sheet.buildingEntry());
-  session.reports->show(
-      {.file = u"체적검침현황.rpt"_s,
+  printBriefRows(
+      session, listColumns(), rows,
+      {.report = u"체적검침현황.rpt"_s,
        .formulas = {u"월= '"_s + sheet.monthText() + u"월)'"_s, u"건물명= '"_s + building + u"'"_s},
-       .dataFile = printFile()});
+       .blankRow = false});
 }

@@ -1,14 +1,16 @@
 #pragma once
 // How a form hands its staged rows to the report engine.
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 namespace pc {
 
 struct ReportRequest {
-  QString file;          ///< the report's name, "체적검침현황.rpt"
-  QStringList formulas;  ///< named values as the forms write them, "월= '03월)'"
-  QString dataFile;      ///< data file with the table Print, as written: "C:\RWGas\Dbs\Print.mdb"
+  QString file;               ///< the report's name, "체적검침현황.rpt"
+  QStringList formulas = {};  ///< named values as the forms write them, "월= '03월)'"
+  QString dataFile = {};      ///< data file with the table Print, as written: "C:\RWGas\Dbs\Print.mdb"
+  QByteArray picture = {};    ///< a picture's file below the rows; empty for none
 };
 
 /** Shows a report: preview, from which it is printed or saved. Throws nothing; failures are told to the operator. */

@@ -17,5 +17,10 @@ void stageReport(Session& session, int rows, const std::function<QString(int row
   }
   const jet::Database print = session.wsMain.OpenDatabase(printFile());
   print.Execute(u"Delete * From Print"_s);
-  run(session.wsMain, {.count = rows, .step = [&](int at) { print.Execute(insert(at + 1)); }});
+  try {
+    run(session.wsMain, {.count = rows, .step = [&](int at) { print.Execute(insert(at + 1)); }});
+  } catch (const jet::Error&) {
+    print.Execute(u"Delete * From Print"_s);  // half a report would look like a whole one
+    throw;
+  }
 }

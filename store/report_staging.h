@@ -11,6 +11,6 @@ struct Session;
 QString printFile();
 
 /** Empties Print, then runs one insert statement a row, 1 to rows, in that order. The file is made when it is missing,
- *  opened for the run (one opening serves all rows) and closed behind it. Throws jet::Error; the rows before a failed
- *  one stay. */
+ *  opened for the run (one opening serves all rows) and closed behind it. Throws jet::Error; Print is then
+ *  empty. */
 void stageReport(Session& session, int rows, const std::function<QString(int row)>& insert);

@@ -1,5 +1,6 @@
 // The totals of the meter book on the real window, and their paper.
-#include "billing/frmEvaTotal.h"
+#include "billing/eva_total.h"
+#include "briefs/form_brief.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -40,8 +41,8 @@ struct EvaTotalForm : testing::Test, tests::MeterDesk {
               .arg(each % 3 == 0 ? "05/12" : ""));
     }
   }
-  QString label(const frmEvaTotal& form, const char* name) { return form.findChild<QLabel*>(name)->text(); }
-  void press(frmEvaTotal& form, const char* name) {
+  QString label(const BriefForm& form, const char* name) { return form.findChild<QLabel*>(name)->text(); }
+  void press(BriefForm& form, const char* name) {
     QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
   }
 
@@ -52,7 +53,7 @@ struct EvaTotalForm : testing::Test, tests::MeterDesk {
 
 TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
   session.CheckKind = "1";
-  frmEvaTotal form(idle.context);
+  BriefForm form(idle.context, evaTotalBrief());
   tests::show(form);
   EXPECT_EQ(form.findChild<QTabBar*>("TabEvaTotal")->currentIndex(), 0);
   EXPECT_FALSE(form.findChild<QComboBox*>("CboGubun")->isVisible());
@@ -79,7 +80,7 @@ TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
 TEST_F(EvaTotalForm, CollectionDaysAreAskedForWhenTickedAndTheTickStays) {
   session.CheckKind = "2";
   {
-    frmEvaTotal form(idle.context);
+    BriefForm form(idle.context, evaTotalBrief());
     tests::show(form);
     EXPECT_FALSE(form.findChild<QWidget*>("TxtDayFrom")->isVisible());
     form.findChild<QCheckBox*>("chkSuKum")->click();
@@ -90,7 +91,7 @@ TEST_F(EvaTotalForm, CollectionDaysAreAskedForWhenTickedAndTheTickStays) {
     EXPECT_EQ(label(form, "PnlIncome"), "800,000") << "twenty times 40,000";
     tests::grab(form, "frmEvaTotal-collections");
   }
-  frmEvaTotal again(idle.context);
+  BriefForm again(idle.context, evaTotalBrief());
   EXPECT_TRUE(again.findChild<QCheckBox*>("chkSuKum")->isChecked());
 }
 
@@ -99,7 +100,7 @@ TEST_F(EvaTotalForm, F10ShowsThePaper) {
   const QString pictures = qEnvironmentVariable("HAEON_PICTURES");
   const QString file = pictures.isEmpty() ? pc.folder.filePath("total.pdf") : pictures + "/total.pdf";
   printers.askFile = [&](const QString&) { return file; };
-  frmEvaTotal form(idle.context);
+  BriefForm form(idle.context, evaTotalBrief());
   tests::show(form);
   press(form, "BtnRefresh");
   tests::key(Qt::Key_F10);

@@ -41,14 +41,14 @@ TEST_F(ReportStagingTest, ScratchIsTheStationsOwnAndMadeAnewWhenMissing) {
   EXPECT_EQ(staged(), QStringList({"고객1/-1"}));
 }
 
-TEST_F(ReportStagingTest, AFailedRowGoesOnToTheCallerAndLetsTheFileGo) {
+TEST_F(ReportStagingTest, AFailedRowGoesOnToTheCallerLeavesNothingAndLetsTheFileGo) {
   EXPECT_THROW(stageReport(session, 3,
                            [](int row) {
                              return row == 2 ? QString("Insert Into Print(Str01) Values('O'Neil')")
                                              : QString("Insert Into Print(Str01) Values('A')");
                            }),
                jet::Error);
-  EXPECT_EQ(staged(), QStringList({"A/"}));
+  EXPECT_EQ(staged(), QStringList()) << "half a report would look like a whole one";
   stage(1);
   EXPECT_EQ(staged(), QStringList({"고객1/-1"}));
 }

@@ -1,0 +1,165 @@
+// The rows of a report page: the year files it reaches, the statement on each, the fold.
+#include <QHash>
+
+#include <algorithm>
+
+#include "briefs/brief_run.h"
+#include "store/data_access.h"
+#include "store/data_files.h"
+#include "store/jet/text_rules.h"
+#include "store/session.h"
+#include "store/vb.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/** The years from the first to the last one asked for. */
+std::pair<int, int> askedYears(const BriefPage& page, const BriefAsk& ask) {
+  const BriefAnswer& period = ask[page.period];
+  const int first = period.text.left(4).toInt(), last = period.to.left(4).toInt();
+  return {first, last > 0 ? last : first};
+}
+
+int firstYearOnDisk(const Session& session, int otherwise) {
+  int first = otherwise;
+  for (const QString& file : filesIn(session.pc.paths, session.DbPath, u"????Foundation.mdb"_s))
+    if (const int year = file.left(4).toInt(); year > 0) first = std::min(first, year);
+  return first;
+}
+
+/** The files in the order of their years; the open one has its place among them whatever is asked, because the sale
+ *  screen writes the clock's days into it. missing: asked years without a file. */
+std::vector<jet::Database> filesReached(Session& session, const BriefPage& page, const BriefAsk& ask,
+                                        QStringList& missing) {
+  if (page.reach == BriefReach::OpenYear) return {session.dbYear};
+  const auto [from, last] = askedYears(page, ask);
+  const int open = session.WorkYear.toInt();
+  const bool all = page.reach == BriefReach::UpTo;
+  const int first = all ? firstYearOnDisk(session, from) : from;
+  std::vector<jet::Database> files;
+  for (int year = std::min(first, open); year <= std::max(last, open); ++year) {
+    if (year == open) {
+      files.push_back(session.dbYear);
+      continue;
+    }
+    if (year < first || year > last) continue;
+    jet::Database file;
+    if (isThere(session.pc.paths, yearFile(session, QString::number(year))) &&
+        OpenDB(session.wsMain, file, yearFile(session, QString::number(year))))
+      files.push_back(std::move(file));
+    else if (year >= from)
+      missing << QString::number(year);
+  }
+  return files;
+}
+
+QString cellOf(const BriefColumn& column, const jet::Recordset& rs, int field) {
+  if (column.cell) return column.cell(rs);
+  if (field < 0) return {};
+  const jet::Value value = rs[field];
+  switch (column.look) {
+    case BriefLook::Money:
+    case BriefLook::Pieces:
+      return QString::number(value.toLong());
+    case BriefLook::Number:
+      return vb::CStr(value.toDouble());
+    case BriefLook::Text:
+    case BriefLook::Centre:
+      break;
+  }
+  return value.toText();
+}
+
+/** Rows of one key become one. */
+class BriefFold {
+ public:
+  BriefFold(const BriefPage& page, std::vector<BriefCells>& rows) : page_(page), rows_(rows) {
+    for (size_t at = 0; at < page.columns.size(); ++at)
+      if (page.columns[at].key) keys_.push_back(at);
+    for (const QString& slot : page.slots_) {
+      BriefCells row(page.columns.size());
+      for (size_t at = 0; at < row.size(); ++at)
+        if (isFigure(page.columns[at])) row[at] = u"0"_s;
+      row[keys_.front()] = slot;
+      put(std::move(row));
+    }
+  }
+
+  void put(BriefCells row) {
+    if (keys_.empty()) return rows_.push_back(std::move(row));
+    const QString key = keyOf(row);
+    const auto found = places_.constFind(key);
+    if (found == places_.constEnd()) {
+      places_.insert(key, rows_.size());
+      return rows_.push_back(std::move(row));
+    }
+    BriefCells& into = rows_[*found];
+    for (size_t at = 0; at < into.size(); ++at) {
+      if (!isFigure(page_.columns[at]))
+        into[at] = page_.columns[at].key ? into[at] : std::move(row[at]);
+      else if (page_.columns[at].look == BriefLook::Number)
+        into[at] = vb::CStr(into[at].toDouble() + row[at].toDouble());
+      else
+        into[at] = QString::number(into[at].toLongLong() + row[at].toLongLong());
+    }
+  }
+
+ private:
+  static bool isFigure(const BriefColumn& column) {
+    return column.look != BriefLook::Text && column.look != BriefLook::Centre;
+  }
+  /** Texts of one key compare as the store compares them. */
+  QString keyOf(const BriefCells& row) const {
+    QString key;
+    for (const size_t at : keys_) {
+      QString text = row[at].toCaseFolded();
+      while (text.endsWith(u' ')) text.chop(1);
+      key += text + u'\n';
+    }
+    return key;
+  }
+
+  const BriefPage& page_;
+  std::vector<BriefCells>& rows_;
+  std::vector<size_t> keys_;
+  QHash<QString, size_t> places_;
+};
+
+void orderRows(const std::vector<int>& order, std::vector<BriefCells>& rows) {
+  std::ranges::stable_sort(rows, [&](const BriefCells& a, const BriefCells& b) {
+    for (const int col : order)
+      if (const int way = jet::compareText(a[size_t(col - 1)], b[size_t(col - 1)])) return way < 0;
+    return false;
+  });
+}
+
+}  // namespace
+
+BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask) {
+  BriefRows result;
+  QStringList missing;
+  const std::vector<jet::Database> files = filesReached(session, page, ask, missing);
+  const QString sql = page.statement(ask);
+  BriefFold fold(page, result.rows);
+  bool any = false;
+  for (const jet::Database& file : files) {
+    if (page.repair) page.repair(file);
+    jet::Recordset rs;
+    if (!OpenSnapshot(session.prompts, file, rs, sql)) return {.read = false};
+    std::vector<int> fields;
+    for (const BriefColumn& column : page.columns)
+      fields.push_back(column.field.isEmpty() ? -1 : rs.fieldIndex(column.field));
+    for (; !rs.atEnd(); rs.MoveNext(), any = true) {
+      BriefCells row;
+      row.reserve(page.columns.size());
+      for (size_t at = 0; at < page.columns.size(); ++at)
+        row.push_back(cellOf(page.columns[at], rs, fields[at]));
+      fold.put(std::move(row));
+    }
+  }
+  if (!any) result.rows.clear();
+  if (files.size() > 1 && page.slots_.isEmpty()) orderRows(page.order, result.rows);
+  if (!missing.isEmpty()) result.note = missing.join(u", "_s) + u"년은 자료 파일이 없어 빠졌습니다."_s;
+  return result;
+}
