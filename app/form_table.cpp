@@ -23,6 +23,7 @@
 #include "papers/FrmMargin.h"
 #include "papers/FrmPrintSection.h"
 #include "papers/FrmSetPrinter.h"
+#include "trade/briefs/trade_briefs.h"
 #include "trade/frmSale.h"
 #include "trade/frmTodaySale.h"
 
@@ -68,6 +69,7 @@ const FormEntry formTable[] = {
     formEntry<frmSale>(u"frmSale"),
     formEntry<FrmSukum>(u"FrmSukum"),
     formEntry<frmTodaySale>(u"frmTodaySale"),
+    briefEntry(u"frmTrustBrief", trustBrief),
     formEntry<frmUser>(u"frmUser"),
     formEntry<frmVolume>(u"frmVolume"),
 };

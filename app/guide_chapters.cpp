@@ -58,6 +58,7 @@ constexpr Chapter chapters[] = {
     {u"FrmPrintSection", slips},
     {u"FrmSukum", u"전자수납"},
     {u"frmEvaTotal", reports},
+    {u"frmTrustBrief", reports},
     {u"frmReport", reports},
     {u"FrmSeeIDOptions", caller},
     {u"FrmSeeIDStanbyList", caller},

@@ -5,10 +5,10 @@
 
 #include "briefs/brief_run.h"
 #include "store/data_access.h"
-#include "store/data_files.h"
 #include "store/jet/text_rules.h"
 #include "store/session.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,35 +23,23 @@ std::pair<int, int> askedYears(const BriefPage& page, const BriefAsk& ask) {
 
 int firstYearOnDisk(const Session& session, int otherwise) {
   int first = otherwise;
-  for (const QString& file : filesIn(session.pc.paths, session.DbPath, u"????Foundation.mdb"_s))
-    if (const int year = file.left(4).toInt(); year > 0) first = std::min(first, year);
+  for (const QString& file : yearFileNames(session, session.DbPath))
+    if (const int year = file.left(4).toInt(); year > 0 && file != yearTemplate())
+      first = std::min(first, year);
   return first;
 }
 
-/** The files in the order of their years; the open one has its place among them whatever is asked, because the sale
- *  screen writes the clock's days into it. missing: asked years without a file. */
-std::vector<jet::Database> filesReached(Session& session, const BriefPage& page, const BriefAsk& ask,
-                                        QStringList& missing) {
-  if (page.reach == BriefReach::OpenYear) return {session.dbYear};
-  const auto [from, last] = askedYears(page, ask);
-  const int open = session.WorkYear.toInt();
-  const bool all = page.reach == BriefReach::UpTo;
-  const int first = all ? firstYearOnDisk(session, from) : from;
-  std::vector<jet::Database> files;
-  for (int year = std::min(first, open); year <= std::max(last, open); ++year) {
-    if (year == open) {
-      files.push_back(session.dbYear);
-      continue;
-    }
-    if (year < first || year > last) continue;
-    jet::Database file;
-    if (isThere(session.pc.paths, yearFile(session, QString::number(year))) &&
-        OpenDB(session.wsMain, file, yearFile(session, QString::number(year))))
-      files.push_back(std::move(file));
-    else if (year >= from)
-      missing << QString::number(year);
+void walkReached(Session& session, const BriefPage& page, const BriefAsk& ask, QStringList& missing,
+                 const std::function<bool(const jet::Database&)>& work) {
+  if (page.reach == BriefReach::OpenYear) {
+    work(session.dbYear);
+    return;
   }
-  return files;
+  auto [first, last] = askedYears(page, ask);
+  const bool all = page.reach == BriefReach::UpTo;
+  if (all) first = firstYearOnDisk(session, first);
+  walkBriefYears(session, first, last, missing, work);
+  if (all) missing.clear();  // the years are not asked for one by one
 }
 
 QString cellOf(const BriefColumn& column, const jet::Recordset& rs, int field) {
@@ -136,17 +124,33 @@ void orderRows(const std::vector<int>& order, std::vector<BriefCells>& rows) {
 
 }  // namespace
 
+void walkBriefYears(Session& session, int first, int last, QStringList& missing,
+                    const std::function<bool(const jet::Database&)>& work) {
+  const int open = session.WorkYear.toInt();
+  if (open < first && !work(session.dbYear)) return;
+  for (int year = first; year <= last; ++year) {
+    const jet::Database file = year == open ? session.dbYear : openYear(session, year);
+    if (!file.isOpen())
+      missing << QString::number(year);
+    else if (!work(file))
+      return;
+  }
+  if (open > last) work(session.dbYear);
+}
+
 BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask) {
   BriefRows result;
-  QStringList missing;
-  const std::vector<jet::Database> files = filesReached(session, page, ask, missing);
   const QString sql = page.statement(ask);
   BriefFold fold(page, result.rows);
+  int files = 0;
   bool any = false;
-  for (const jet::Database& file : files) {
+  QStringList missing;
+  walkReached(session, page, ask, missing, [&](const jet::Database& file) {
+    ++files;
     if (page.repair) page.repair(file);
     jet::Recordset rs;
-    if (!OpenSnapshot(session.prompts, file, rs, sql)) return {.read = false};
+    result.read = OpenSnapshot(session.prompts, file, rs, sql);
+    if (!result.read) return false;
     std::vector<int> fields;
     for (const BriefColumn& column : page.columns)
       fields.push_back(column.field.isEmpty() ? -1 : rs.fieldIndex(column.field));
@@ -157,9 +161,11 @@ BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk&
         row.push_back(cellOf(page.columns[at], rs, fields[at]));
       fold.put(std::move(row));
     }
-  }
+    return true;
+  });
+  if (!result.read) return {.read = false};
   if (!any) result.rows.clear();
-  if (files.size() > 1 && page.slots_.isEmpty()) orderRows(page.order, result.rows);
+  if (files > 1 && page.slots_.isEmpty()) orderRows(page.order, result.rows);
   if (!missing.isEmpty()) result.note = missing.join(u", "_s) + u"년은 자료 파일이 없어 빠졌습니다."_s;
   return result;
 }

@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString briefManager = u"조회 관리자"_s;
+constexpr QChar apostrophe{0x27};      ///< ends a text of a statement, so no part of a name holds one
 constexpr qsizetype stagedText = 255;  ///< characters of a text column of Print
 
 SpreadColumn gridColumn(const BriefColumn& column) {
@@ -96,8 +97,8 @@ std::optional<QString> BriefRun::check(BriefAsk& ask) const {
     BriefAnswer& answer = ask.answers[question.name];
     if (question.kind == AskKind::Period) {
       if (const auto box = checkPeriod(session_, question.name, answer)) return box;
-    } else if (question.kind == AskKind::Text && answer.text.contains(u'\'')) {
-      session_.prompts.MsgWarn(question.label + u"에는 따옴표(')를 넣을 수 없습니다!"_s, briefManager);
+    } else if (question.kind == AskKind::Text && answer.text.contains(apostrophe)) {
+      session_.prompts.MsgWarn(question.label + u"에는 작은따옴표를 넣을 수 없습니다!"_s, briefManager);
       return question.name;
     }
   }

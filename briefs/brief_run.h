@@ -1,9 +1,11 @@
 #pragma once
 // What a report form does without a window: checks the answers, reads and folds the rows, sums them up, stages them and
 // hands them to the report.
+#include <memory>
 #include <optional>
 
 #include "briefs/brief.h"
+#include "store/jet/database.h"
 
 class BriefRun {
  public:
@@ -41,6 +43,12 @@ class BriefRun {
   Brief brief_;
   std::vector<Shown> shown_;
 };
+
+/** The files of some years one after the other, only one of them open at a time beside the open year's. That one has its
+ *  place among them whatever is asked, because the sale screen writes the clock's days into it. Work returns False to
+ *  end the walk. missing: the asked years without a file. */
+void walkBriefYears(Session& session, int first, int last, QStringList& missing,
+                    const std::function<bool(const jet::Database&)>& work);
 
 /** Runs a page's statement over the files it reaches and folds what comes. */
 BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask);

@@ -13,7 +13,7 @@
 #include "master/customers/client_entry.h"
 #include "master/registers/form_lookups.h"
 #include "store/data_access.h"
-#include "store/data_files.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +30,8 @@ QHBoxLayout* tightRow(QWidget* box) {
 
 QStringList yearsOnDisk(const Session& session) {
   QStringList years;
-  for (const QString& file : filesIn(session.pc.paths, session.DbPath, u"????Foundation.mdb"_s))
-    if (file.left(4).toInt() > 0 && file.left(4) != "2002"_L1) years.prepend(file.left(4));
+  for (const QString& file : yearFileNames(session, session.DbPath))
+    if (file.left(4).toInt() > 0 && file != yearTemplate()) years.prepend(file.left(4));
   if (!years.contains(session.WorkYear)) years.prepend(session.WorkYear);
   return years;
 }

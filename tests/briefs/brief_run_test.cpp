@@ -1,0 +1,160 @@
+// What every report form does, on a report made up for it.
+#include "tests/briefs/brief_desk.h"
+
+namespace {
+
+using tests::asks;
+using tests::BriefDesk;
+using tests::days;
+
+/** By item of a period, and by month of a year. */
+Brief madeUp() {
+  using enum BriefLook;
+  BriefPage items{
+      .key = "items",
+      .grid = "SpItems",
+      .columns = {{.header = "품명", .field = "SaleName", .staged = "Str01", .key = true, .missing = "Null"},
+                  {.header = "최근", .field = "Last", .look = Centre},
+                  {.header = "수량", .field = "Num", .look = Pieces, .staged = "Lng01", .sum = true},
+                  {.header = "무게", .field = "Kg", .look = Number, .staged = "Dbl01"}},
+      .statement =
+          [](const BriefAsk& ask) {
+            return "Select SaleName, Max(SaleDate) As Last, Sum(SaleNum) As Num, "
+                   "Sum(Val(SaleThing) * SaleNum) As Kg From Sale Where " +
+                   briefDays("SaleDate", ask, "TxtDay") + "And SaleName Like '*" + ask.text("TxtName") +
+                   "*' Group By SaleName Order By SaleName";
+          },
+      .period = "TxtDay",
+      .reach = BriefReach::Asked,
+      .order = {1},
+      .emptyText = [](const BriefAsk&) { return QString("없습니다!"); },
+      .report = "시험.rpt",
+      .formulas =
+          [](const BriefAsk& ask, const BriefRows& rows) {
+            return QStringList{"월= '" + ask.from("TxtDay") + "'", QString::number(rows.rows.size())};
+          }};
+  BriefPage months{
+      .key = "months",
+      .grid = "SpMonths",
+      .columns = {{.header = "월",
+                   .key = true,
+                   .cell = [](const jet::Recordset& rs) { return rs["SaleDate"].toText().mid(5, 2); }},
+                  {.header = "수량", .field = "Num", .look = Pieces, .sum = true}},
+      .statement =
+          [](const BriefAsk&) {
+            return QString("Select SaleDate, Sum(SaleNum) As Num From Sale Group By SaleDate");
+          },
+      .slots_ = {"01", "02", "03"},
+      .emptyText = [](const BriefAsk&) { return QString("달이 없습니다!"); },
+      .emptyTitle = "시험 관리자"};
+  return {.form = "frmMadeUp",
+          .questions = {{.kind = AskKind::Period, .name = "TxtDay", .pages = {0}},
+                        {.kind = AskKind::Text, .name = "TxtName", .label = "품명"}},
+          .pages = {items, months}};
+}
+
+struct BriefRunTest : testing::Test, BriefDesk {
+  BriefRun brief{session, madeUp()};
+  bool load(const QString& from, const QString& to, const QString& name = {}) {
+    return brief.load(asks(0, {{"TxtDay", days(from, to)}, {"TxtName", {.text = name}}}));
+  }
+  QStringList rows(int page = 0) { return shown(brief, page); }
+};
+
+TEST_F(BriefRunTest, APeriodIsAskedForInWords) {
+  sale({.day = "2026-03-05"});
+  const struct {
+    const char *from, *to, *told, *box;
+  } wrong[] = {{"", "", "조회기간을 입력해 주십시오", "TxtDayFrom"},
+               {"", "2026-03-31", "조회기간의 시작월일을 선택해 주십시오", "TxtDayFrom"},
+               {"2026-03-01", "", "조회기간의 마지막월을 입력/선택해 주십시오", "TxtDayTo"},
+               {"2026-02-30", "2026-03-31", "날짜 입력이 올바르지 않습니다!", "TxtDayFrom"},
+               {"2026-01-01", "2026-02-30", "날짜 입력이 올바르지 않습니다!", "TxtDayTo"},
+               {"2026-03-02", "2026-03-01", "늦습니다", "TxtDayFrom"}};
+  ASSERT_TRUE(load("2026-3-1", "2026-03-31")) << "a day is taken as it is written elsewhere";
+  for (const auto& each : wrong) {
+    BriefAsk ask = asks(0, {{"TxtDay", days(each.from, each.to)}});
+    pc.prompts.expect(each.told);
+    EXPECT_EQ(brief.check(ask), QString(each.box));
+    pc.prompts.expect(each.told);
+    EXPECT_FALSE(brief.load(ask));
+    EXPECT_EQ(brief.grid(0).MaxRows(), 2) << "what was shown stays";
+  }
+  pc.prompts.expect("품명에는 작은따옴표");
+  EXPECT_FALSE(load("2026-03-01", "2026-03-31", "O'Neil"));
+  BriefAsk month = asks(1);
+  EXPECT_EQ(brief.check(month), std::nullopt) << "the page asks for no period";
+}
+
+TEST_F(BriefRunTest, RowsOfAllYearsAskedForAreOne) {
+  const jet::Database last = year("2025");
+  sale(last, {.day = "2025-12-30", .pieces = 4, .item = "LPG", .size = "50"});
+  sale(last, {.day = "2025-12-31", .pieces = 7, .item = "가스통"});
+  sale({.day = "2026-01-02", .pieces = 2, .item = "lpg ", .size = "0.5"});
+  sale({.day = "2026-01-03", .pieces = 1, .item = "AAA", .size = "2.5kg"});
+  sale({.day = "2026-01-04", .pieces = 100, .item = "AAA"});
+  ASSERT_TRUE(load("2025-12-30", "2026-01-03"));
+  EXPECT_EQ(rows(), QStringList({"AAA|2026-01-03|1|2.5", "LPG|2026-01-02|6|201", "가스통|2025-12-31|7|140",
+                                 "[합 계]||14|"}));
+  EXPECT_EQ(brief.rows(0).note, "");
+  ASSERT_TRUE(load("2026-01-01", "2026-01-03"));
+  EXPECT_EQ(rows().size(), 3);
+  ASSERT_TRUE(load("2023-01-01", "2025-12-31"));
+  EXPECT_EQ(rows().last(), "[합 계]||11|");
+  EXPECT_EQ(brief.rows(0).note, "2023, 2024년은 자료 파일이 없어 빠졌습니다.");
+  pc.prompts.expect("없습니다!");
+  EXPECT_FALSE(load("2020-01-01", "2020-12-31")) << "a year without a file";
+  EXPECT_EQ(brief.grid(0).MaxRows(), 0);
+  EXPECT_TRUE(pc.prompts.seen.last().startsWith("조회 관리자|"));
+}
+
+TEST_F(BriefRunTest, LinesOfTheClocksYearInAnotherYearsFileAreFound) {
+  year("2025");
+  session.WorkYear = "2025";
+  session.dbYear = openYear(session, "2025");
+  sale({.day = "2026-01-05", .pieces = 3});
+  ASSERT_TRUE(load("2026-01-01", "2026-12-31"));
+  EXPECT_EQ(rows(), QStringList({"LPG|2026-01-05|3|60", "[합 계]||3|"}));
+}
+
+TEST_F(BriefRunTest, SlotsStandWhetherFilledOrNot) {
+  pc.prompts.expect("달이 없습니다!");
+  EXPECT_FALSE(brief.load(asks(1)));
+  EXPECT_TRUE(pc.prompts.seen.last().startsWith("시험 관리자|"));
+  EXPECT_EQ(brief.grid(1).MaxRows(), 0);
+  sale({.day = "2026-03-01", .pieces = 2});
+  sale({.day = "2026-01-31", .pieces = 1});
+  sale({.day = "2026-03-31", .pieces = 5});
+  ASSERT_TRUE(brief.load(asks(1)));
+  EXPECT_EQ(rows(1), QStringList({"01|1", "02|0", "03|7", "[합 계]|8"}));
+}
+
+TEST_F(BriefRunTest, WhatIsShownIsStaged) {
+  brief.print(0);
+  EXPECT_EQ(staged("Str01, Lng01, Dbl01"), QStringList({"||"})) << "an empty grid is one blank row";
+  sale({.day = "2026-03-01", .pieces = 2, .size = "0.25"});
+  run("Update Sale Set SaleName = 'O''Neil'");
+  sale({.day = "2026-03-02", .pieces = -1, .item = ""});
+  ASSERT_TRUE(load("2026-03-01", "2026-03-31"));
+  brief.print(0);
+  EXPECT_EQ(staged("Str01, Lng01, Dbl01"), QStringList({"Null|-1|-20", "O'Neil|2|0.5"}));
+  EXPECT_EQ(reports.asked.back().file, "시험.rpt");
+  EXPECT_EQ(reports.asked.back().formulas, QStringList({"월= '2026-03-01'", "2"}));
+  pc.prompts.expect("없습니다!");
+  EXPECT_FALSE(load("2026-04-01", "2026-04-30"));
+  EXPECT_EQ(staged("Str01").size(), 2) << "nothing is staged before it is printed";
+}
+
+TEST_F(BriefRunTest, AnAddressCarriesItsAnswers) {
+  const QString address =
+      briefAddress("frmX", "lines", {{"TxtName", "김&이=:?"}, {"TxtDayFrom", "2026-01-01"}});
+  ASSERT_TRUE(address.startsWith("frmX:lines?"));
+  const BriefAddress read = readBriefAddress(address.section(':', 1));
+  EXPECT_EQ(read.page, "lines");
+  ASSERT_EQ(read.answers.size(), 2);
+  EXPECT_EQ(read.answers[0].second, "김&이=:?");
+  EXPECT_EQ(read.answers[1].first, "TxtDayFrom");
+  EXPECT_TRUE(readBriefAddress("day").answers.isEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,49 @@
+#include "trade/credit_age.h"
+
+#include <algorithm>
+
+#include "briefs/brief_run.h"
+#include "store/data_access.h"
+#include "store/session.h"
+
+namespace {
+
+constexpr int ageStep = 30, oldestStep = 90;  ///< days
+
+size_t ageClass(const QDate& day, const QDate& today) {
+  const qint64 days = day.daysTo(today);
+  return days <= ageStep ? 0 : days <= 2 * ageStep ? 1 : days <= oldestStep ? 2 : 3;
+}
+
+}  // namespace
+
+CreditAges ageCredit(qint64 balance, const std::vector<CreditDay>& days, const QDate& today) {
+  CreditAges ages{};
+  for (auto day = days.rbegin(); day != days.rend() && balance > 0; ++day) {
+    const qint64 owed = std::min(balance, std::max<qint64>(day->trust, 0));
+    ages[ageClass(day->day, today)] += owed;
+    balance -= owed;
+  }
+  if (balance > 0) ages.back() += balance;
+  return ages;
+}
+
+bool readCreditDays(Session& session, CreditKind kind, QHash<qint64, std::vector<CreditDay>>& days) {
+  const QDate today = session.pc.clock.today(), first = today.addDays(-oldestStep);
+  const QString sql =
+      "Select ClientCode, SaleDate, Sum(Trust) As Trust From Sale Where SaleDate >= '" +
+      plainText(first.toString("yyyy-MM-dd")) + "' " + "And Trust > 0 And " +
+      (kind == CreditKind::Material ? "SaleGubun = 7 "
+                                    : "Not (SaleGubun = 4 Or SaleGubun = 7 Or SaleGubun = 8) ") +
+      "Group By ClientCode, SaleDate Order By ClientCode, SaleDate";
+  bool read = true;
+  QStringList missing;
+  walkBriefYears(session, first.year(), today.year(), missing, [&](const jet::Database& file) {
+    jet::Recordset rs;
+    read = OpenSnapshot(session.prompts, file, rs, sql);
+    for (; read && !rs.atEnd(); rs.MoveNext())
+      days[rs[0].toLong()].push_back({QDate::fromString(rs[1].toText(), "yyyy-MM-dd"), rs[2].toLong()});
+    return read;
+  });
+  return read;
+}
