@@ -14,6 +14,7 @@ struct OldStep {
   schema::File kind;
   const char* table;
   QStringList missing;  ///< columns; none: the whole table
+  friend void PrintTo(const OldStep& of, std::ostream* out) { *out << of.name; }
 };
 
 const OldStep oldSteps[] = {
