@@ -3,13 +3,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
-#include <QTimer>
 
 #include "app/frmMain.h"
 #include "tests/billing/meter_desk.h"
 #include "tests/idle_context.h"
 #include "tests/recorded_print.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
+#include "ui/grid/spread.h"
 
 namespace {
 
@@ -32,14 +33,13 @@ TEST(GiroRoad, TheSlipShowsWhatTheReadingScreenShows) {
   ASSERT_TRUE(window.openForm("frmEva:1"));
   QWidget* screen = window.activeForm();
   ASSERT_EQ(screen->objectName(), "frmEva");
-  QTest::qWait(10);
+  auto* const grid = screen->findChild<Spread*>("SpEva");
+  ASSERT_TRUE(grid && QTest::qWaitFor([&] { return grid->model().MaxRows() > 0; }));
   for (const char* paper : {"BtnOCR", "BtnOCR4"}) {
-    QTimer::singleShot(0, &window, [] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_TRUE(dialog);
-      dialog->findChild<QRadioButton*>("Opt4")->click();
-      QTest::mouseClick(dialog->findChild<QPushButton*>("BtnJiro"), Qt::LeftButton);
-      dialog->close();
+    tests::whenModal([](QWidget& dialog) {
+      dialog.findChild<QRadioButton*>("Opt4")->click();
+      QTest::mouseClick(dialog.findChild<QPushButton*>("BtnJiro"), Qt::LeftButton);
+      dialog.close();
     });
     auto* button = screen->findChild<QPushButton*>(QString::fromUtf8(paper));
     ASSERT_TRUE(button && button->isEnabled());

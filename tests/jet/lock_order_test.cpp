@@ -1,7 +1,10 @@
 // Statements and groups of two PCs that need the same files, and a group that the store has undone.
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
+#include <QFile>
+#include <atomic>
 #include <csignal>
 #include <thread>
 
@@ -11,6 +14,17 @@ namespace jet_tests {
 namespace {
 
 constexpr int patience = 3000;  // milliseconds before a PC gives up; two that wait for each other use it up
+
+/** Until the thread sleeps, seen ten times running: in a statement only the wait for a lock does. False: it ended. */
+bool waitsForALock(const std::atomic<pid_t>& thread, const std::atomic<bool>& done) {
+  for (int seen = 0; seen < 10; std::this_thread::sleep_for(std::chrono::milliseconds(1))) {
+    if (done) return false;
+    QFile state(u"/proc/self/task/%1/stat"_s.arg(thread));
+    const QByteArray line = state.open(QIODevice::ReadOnly) ? state.readAll() : QByteArray();
+    seen = line.mid(line.lastIndexOf(')')).startsWith(") S") ? seen + 1 : 0;
+  }
+  return true;
+}
 
 struct LockOrder : Engine {
   void SetUp() override {
@@ -29,13 +43,19 @@ struct LockOrder : Engine {
     theirs.Execute(sql);  // so that later only the locks are waited for
     int failure = 0, otherFailure = 0;
     std::thread other;
+    std::atomic<pid_t> thread = 0;
+    std::atomic<bool> done = false;
     QElapsedTimer since;
     failure = failureOf([&] {
       one.Together([&] {
         mine.Execute(u"Update Client Set GasInit = GasInit + 1"_s);
         mine.Execute(u"Update Sale Set SaleNum = SaleNum + 1"_s);
-        other = std::thread([&] { otherFailure = failureOf([&] { theirs.Execute(sql); }); });
-        std::this_thread::sleep_for(std::chrono::milliseconds(150));
+        other = std::thread([&] {
+          thread = gettid();
+          otherFailure = failureOf([&] { theirs.Execute(sql); });
+          done = true;
+        });
+        EXPECT_TRUE(waitsForALock(thread, done)) << "it went past the group's locks";
         since.start();
       });
     });
@@ -58,18 +78,21 @@ TEST_F(LockOrder, FilesOpenedInAnotherOrderAreReadWithoutADeadlock) {
   tax.createTable(table(u"Tax"_s, {number(u"Code"_s), number(u"Sum"_s)}));
   tax.Execute(u"Insert Into Tax Values(1, 0)"_s);
   // Together or not at all: the two figures are always the same.
+  std::atomic<int> readings = 0;
   int written = 0, unwritten = 0, unread = 0, torn = 0;
   std::thread writer([&] {
     const jet::Workspace own = open(patience);
     const auto first = own.OpenDatabase(path(u"2026Foundation.mdb"_s)),
                second = own.OpenDatabase(path(u"dbTax.mdb"_s));
-    for (; written < 25; ++written, std::this_thread::sleep_for(std::chrono::milliseconds(10)))
+    for (; written < 25; ++written) {
+      while (readings < 2 * written) std::this_thread::yield();  // turn about: the reader finds its gaps
       unwritten += 0 != failureOf([&] {
                      own.Together([&] {
                        first.Execute(u"Update Sale Set SaleNum = SaleNum + 1"_s);
                        second.Execute(u"Update Tax Set Sum = Sum + 1"_s);
                      });
                    });
+    }
   });
   const jet::Workspace own = open(patience);
   const auto second = own.OpenDatabase(path(u"dbTax.mdb"_s)),
@@ -77,7 +100,7 @@ TEST_F(LockOrder, FilesOpenedInAnotherOrderAreReadWithoutADeadlock) {
   const QString both =
       u"Select Tax.Sum, Sale.SaleNum From Tax Inner Join [%1].Sale On Tax.Code = Sale.ClientCode"_s.arg(
           path(u"2026Foundation.mdb"_s));
-  for (int i = 0; i < 60; ++i)
+  for (; readings < 60; ++readings)
     unread += 0 != failureOf([&] {
                 const auto rs = second.OpenRecordset(both);
                 torn += rs[0].toLong() != rs[1].toLong();

@@ -55,7 +55,7 @@ struct SeeIdPortTest : ::testing::Test, tests::TestPc {
 TEST_F(SeeIdPortTest, HearsCallsAlsoBehindABoxAndWhileOneIsBeingTaken) {
   ASSERT_EQ(port.open("COM9"), 0);
   line.send("RING\r\nNMBR=05312");
-  QTest::qWait(50);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return heard.size() == 1; })) << "the ring; behind it half a number";
   line.send("34567\r\n");
   ASSERT_TRUE(QTest::qWaitFor([&] { return heard.size() == 2; }));
   EXPECT_EQ(heard, (QStringList{"0:", "1:0531234567"}));

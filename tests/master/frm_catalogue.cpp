@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTimer>
 
 #include "master/buildings/frmAPTAddress.h"
 #include "master/buildings/frmBDName.h"
@@ -23,6 +22,7 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
 #include "ui/forms/picker_dialog.h"
 
 using namespace Qt::StringLiterals;
@@ -70,16 +70,6 @@ struct CatalogueForms : testing::Test {
   QLineEdit* box(QWidget& form, const char* name) {
     return form.findChild<QLineEdit*>(QString::fromUtf8(name));
   }
-  /** Runs work while a modal window is up, once its own first steps are done. */
-  static void whenModal(std::function<void(PickerDialog&)> work) {
-    QTimer::singleShot(30, [work = std::move(work)] {
-      auto* const dialog = dynamic_cast<PickerDialog*>(QApplication::activeModalWidget());
-      ASSERT_TRUE(dialog);
-      QApplication::processEvents();
-      work(*dialog);
-    });
-  }
-
   tests::TestPc pc;
   CataloguePickers pickers;
   tests::IdleCommands commands;
@@ -189,7 +179,7 @@ TEST_F(CatalogueForms, PostcodeIsLookedUpByWhatWasTyped) {
 }
 
 TEST_F(CatalogueForms, GoodsAreTakenByEnterAndLeftByEsc) {
-  whenModal([](PickerDialog& dialog) {
+  tests::whenModal<PickerDialog>([](PickerDialog& dialog) {
     tests::grab(dialog, u"frmSearchSize"_s);
     EXPECT_EQ(dialog.windowTitle(), u"판매상품조회"_s);
     tests::key(Qt::Key_Down);
@@ -200,9 +190,10 @@ TEST_F(CatalogueForms, GoodsAreTakenByEnterAndLeftByEsc) {
   EXPECT_EQ(taken->size, u"50"_s);
   EXPECT_EQ(taken->price, 140000);
 
-  whenModal([](PickerDialog&) { tests::key(Qt::Key_Escape); });
+  tests::whenModal<PickerDialog>([](PickerDialog&) { tests::key(Qt::Key_Escape); });
   EXPECT_FALSE(frmSearchResponse(pc.session, nullptr));
-  whenModal([](PickerDialog& dialog) { dialog.findChild<QPushButton*>(u"btnNew"_s)->click(); });
+  tests::whenModal<PickerDialog>(
+      [](PickerDialog& dialog) { dialog.findChild<QPushButton*>(u"btnNew"_s)->click(); });
   EXPECT_FALSE(frmSearchSize(context, u"1"_s, TradeSide::Purchase, nullptr));
   EXPECT_TRUE(commands.asked.isEmpty());  // not before the handler that asked has ended
   QApplication::processEvents();
@@ -215,23 +206,23 @@ TEST_F(CatalogueForms, ShortListsHandOverTheLineUnderTheCursor) {
     tests::grab(dialog, dialog.objectName());
     tests::key(Qt::Key_Return);
   };
-  whenModal(takeFirst);
+  tests::whenModal<PickerDialog>(takeFirst);
   EXPECT_EQ(frmSearchResponse(pc.session, nullptr), u"김배달"_s);
-  whenModal(takeFirst);
+  tests::whenModal<PickerDialog>(takeFirst);
   EXPECT_EQ(frmSearchRefill(pc.session, nullptr), u"한강충전소"_s);
-  whenModal(takeFirst);
+  tests::whenModal<PickerDialog>(takeFirst);
   const auto account = frmSearchBank(pc.session, nullptr);
   ASSERT_TRUE(account);
   EXPECT_EQ(account->number + account->user, u"123-45-678해온가스"_s);
   run(u"Update Volume Set Unit = '1450' Where Code = 1"_s);
-  whenModal(takeFirst);
+  tests::whenModal<PickerDialog>(takeFirst);
   const auto regulator = frmSearchVolume(pc.session, nullptr);
   ASSERT_TRUE(regulator);
   EXPECT_EQ(regulator->size, answer(u"Select Size From Volume Where Code = 1"_s));
   EXPECT_EQ(regulator->unit, 1450);
 
   run(u"Delete * From Response"_s);
-  whenModal([](PickerDialog&) {
+  tests::whenModal<PickerDialog>([](PickerDialog&) {
     tests::key(Qt::Key_Return);  // an empty list gives nothing to take
     tests::key(Qt::Key_Escape);
   });
@@ -270,7 +261,7 @@ TEST_F(CatalogueForms, EveryPickerIsWorkedByKeysAlone) {
     const auto inList = [](PickerDialog& dialog) {
       return dialog.grid()->isAncestorOf(QApplication::focusWidget());
     };
-    whenModal([&](PickerDialog& dialog) {
+    tests::whenModal<PickerDialog>([&](PickerDialog& dialog) {
       EXPECT_EQ(dialog.objectName(), QString::fromLatin1(name));
       EXPECT_TRUE(inList(dialog)) << "the list has the focus";
       EXPECT_EQ(dialog.grid()->activeRow(), 1);
@@ -293,7 +284,7 @@ TEST_F(CatalogueForms, EveryPickerIsWorkedByKeysAlone) {
       tests::key(Qt::Key_Return);
     });
     EXPECT_TRUE(run()) << "Enter takes";
-    whenModal([&](PickerDialog&) { tests::key(Qt::Key_Escape); });
+    tests::whenModal<PickerDialog>([&](PickerDialog&) { tests::key(Qt::Key_Escape); });
     EXPECT_FALSE(run()) << "Esc leaves";
   }
 }
@@ -305,7 +296,7 @@ TEST_F(CatalogueForms, PostcodeWindowSearchesAtOnceForItsCaller) {
     post.Execute(u"Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG, BUNJI) Values("_s + row + u")"_s);
 
   pc.prompts.expect(u"찾고자 하는 우편번호나 읍/면/동이 없습니다!"_s);
-  whenModal([this](PickerDialog& dialog) {
+  tests::whenModal<PickerDialog>([this](PickerDialog& dialog) {
     EXPECT_EQ(dialog.findBox()->text(), u""_s);  // nothing found: emptied, and the cursor is there again
     EXPECT_EQ(QApplication::focusWidget(), dialog.findBox());
     tests::compose({u"ㅍ"_s, u"펴"_s}, u"평"_s);

@@ -5,7 +5,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
-#include <QTimer>
 
 #include "master/customers/frmClient.h"
 #include "master/customers/frmNewClient.h"
@@ -13,6 +12,7 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
 
 namespace {
 
@@ -247,17 +247,6 @@ TEST_F(ClientForms, theMapButtonWaitsForTheEditor) {
 
 class ClientSearchForm : public ClientForms {
  protected:
-  /** Runs work on the dialog while it is up. */
-  static void whenModal(std::function<void(QDialog&)> work) {
-    QTimer::singleShot(0, [work = std::move(work)] {
-      auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      ASSERT_TRUE(dialog);
-      dialog->activateWindow();
-      QApplication::setActiveWindow(dialog);
-      QApplication::processEvents();
-      work(*dialog);
-    });
-  }
   std::optional<ClientChoice> search(const QString& text, ClientSearchMode mode = ClientSearchMode::All) {
     return frmSearchClient(pc.session, text, mode, false,
                            [this](const QString& searched) {
@@ -271,7 +260,7 @@ TEST_F(ClientSearchForm, oneMatchComesBackAtOnceAndSeveralAreChosenByEnter) {
   addPlain("가람", "053-111-1234");
   addPlain("나래", "053-222-1234");
   ASSERT_TRUE(search("가람"));
-  whenModal([](QDialog& dialog) {
+  tests::whenModal<QDialog>([](QDialog& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmSearchClient");
     tests::key(Qt::Key_Down);
     tests::key(Qt::Key_Return);
@@ -279,14 +268,14 @@ TEST_F(ClientSearchForm, oneMatchComesBackAtOnceAndSeveralAreChosenByEnter) {
   const auto chosen = search("1234");
   ASSERT_TRUE(chosen);
   EXPECT_EQ(chosen->name, "나래");
-  whenModal([](QDialog&) { tests::key(Qt::Key_Escape); });
+  tests::whenModal<QDialog>([](QDialog&) { tests::key(Qt::Key_Escape); });
   EXPECT_FALSE(search("1234"));
 }
 
 TEST_F(ClientSearchForm, composingASyllableDoesNotSearch) {
   addPlain("가람", "053-111-1234");
   addPlain("가람2", "053-222-1234");
-  whenModal([](QDialog& dialog) {
+  tests::whenModal<QDialog>([](QDialog& dialog) {
     auto* const find = dialog.findChild<QLineEdit*>("TxtFind");
     find->setFocus();
     find->clear();
@@ -303,7 +292,7 @@ TEST_F(ClientSearchForm, composingASyllableDoesNotSearch) {
 TEST_F(ClientSearchForm, anUnknownNumberIsRegisteredOnTheSpotAndChosen) {
   pickers.place = PostCodeChoice{"700-010", "대구 중구", ""};
   pc.prompts.expect("찾고자 하는 고객명/상호/전화번호가 없습니다!\n신규고객등록을 하시겠습니까?");
-  whenModal([](QDialog& dialog) {
+  tests::whenModal<QDialog>([](QDialog& dialog) {
     EXPECT_EQ(dialog.objectName(), "frmNewClient");
     EXPECT_EQ(box(&dialog, "TxtTel")->text(), "053-123-4567");
     ASSERT_EQ(focused(), "TxtName");
@@ -321,7 +310,7 @@ TEST_F(ClientSearchForm, anUnknownNumberIsRegisteredOnTheSpotAndChosen) {
 
 TEST_F(ClientSearchForm, theQuickEntryKeepsWhatWasTypedAndStoresTheTelephoneWithItsDashes) {
   pc.prompts.expect("신규고객등록을 하시겠습니까?");
-  whenModal([this](QDialog& dialog) {
+  tests::whenModal<QDialog>([this](QDialog& dialog) {
     pc.prompts.expect("버리시겠습니까?", false);
     box(&dialog, "TxtTel")->setFocus();
     tests::type("01012345678");
@@ -334,8 +323,8 @@ TEST_F(ClientSearchForm, theQuickEntryKeepsWhatWasTypedAndStoresTheTelephoneWith
   EXPECT_EQ(ask("Select Tel From Client")["Tel"].toText(), "010-1234-5678");
 
   pc.prompts.expect("신규고객등록을 하시겠습니까?");
-  whenModal([](QDialog& entry) {
-    whenModal([](QDialog& list) {
+  tests::whenModal<QDialog>([](QDialog& entry) {
+    tests::whenModal<QDialog>([](QDialog& list) {
       EXPECT_EQ(list.objectName(), "frmSearchClient");
       tests::key(Qt::Key_Escape);
     });

@@ -8,36 +8,24 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTimer>
 
 #include <functional>
 
 #include "store/data_access.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
 #include "ui/forms/FrmProgress.h"
 #include "ui/forms/frmCalendar.h"
 #include "ui/forms/frmFloatMsg.h"
+#include "ui/forms/guard.h"
 #include "ui/forms/picker_dialog.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/** What is done in the modal window that opens next, once it stands in front with the focus in it. */
-void whenOpen(std::function<void(QWidget&)> act) {
-  auto* const look = new QTimer(qApp);
-  QObject::connect(look, &QTimer::timeout, look, [look, act = std::move(act)] {
-    QWidget* const modal = QApplication::activeModalWidget();
-    if (!modal || !modal->isVisible()) return;
-    QApplication::setActiveWindow(modal);
-    if (!QApplication::focusWidget()) return;
-    look->stop();
-    look->deleteLater();
-    act(*modal);
-  });
-  look->start(10);
-}
+using tests::whenModal;
 
 struct Boxes : ::testing::Test {
   MessageBoxes boxes{[] { return u"해온판매"_s; }};
@@ -45,7 +33,7 @@ struct Boxes : ::testing::Test {
 
 TEST_F(Boxes, EmptyTitleBecomesTheProgramsOwn) {
   QString title, text;
-  whenOpen([&](QWidget& box) {
+  whenModal([&](QWidget& box) {
     title = box.windowTitle();
     text = static_cast<QMessageBox&>(box).text();
     tests::grab(box, u"box_info"_s);
@@ -56,9 +44,33 @@ TEST_F(Boxes, EmptyTitleBecomesTheProgramsOwn) {
   EXPECT_EQ(text, u"처리완료"_s);
 }
 
+TEST_F(Boxes, AnErrorIsNotedUnderTheInnermostFormBeforeItIsTold) {
+  QStringList noted;
+  MessageBoxes noting([] { return u"해온판매"_s; },
+                      [&](const QString& window, const jet::Error& error) {
+                        noted << window + u' ' + QString::number(error.number());
+                      });
+  QWidget frame;
+  frame.setObjectName(u"frmMain"_s);
+  auto* const form = new QWidget(&frame);
+  form->setObjectName(u"FrmDealList"_s);
+  auto* const cell = new QLineEdit(form);
+  cell->setObjectName(u"TxtName"_s);
+  tests::show(frame);
+  cell->setFocus();
+  QString shown;
+  whenModal([&](QWidget& box) {
+    EXPECT_EQ(noted, QStringList{"FrmDealList 3022"});
+    shown = static_cast<QMessageBox&>(box).text();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  EXPECT_FALSE(guarded(noting, [] { throw jet::Error(3022, u"중복"_s); }));
+  EXPECT_EQ(shown, "작업 중 오류가 발생했습니다.\n오류번호 : 3022\n오류내용 : 중복");
+}
+
 TEST_F(Boxes, EnterAnswersWithTheDefaultAndLettersAnswerBothWays) {
   const auto answer = [this](bool yesFirst, int key) {
-    whenOpen([key](QWidget& box) {
+    whenModal([key](QWidget& box) {
       tests::grab(box, u"box_ask"_s);
       QTest::keyClick(&box, Qt::Key(key));
     });
@@ -73,7 +85,7 @@ TEST_F(Boxes, EnterAnswersWithTheDefaultAndLettersAnswerBothWays) {
 
 TEST_F(Boxes, ErrorBoxTellsNumberAndText) {
   QString title, text;
-  whenOpen([&](QWidget& box) {
+  whenModal([&](QWidget& box) {
     title = box.windowTitle();
     text = static_cast<QMessageBox&>(box).text();
     QTest::keyClick(&box, Qt::Key_Return);
@@ -87,7 +99,7 @@ TEST_F(Boxes, ABrokenStatementStandsOnItsOwnLineAsItWasTyped) {
   tests::TestPc at;
   at.openBooks();
   QString text;
-  whenOpen([&](QWidget& box) {
+  whenModal([&](QWidget& box) {
     text = static_cast<QMessageBox&>(box).text();
     QTest::keyClick(&box, Qt::Key_Return);
   });
@@ -99,21 +111,21 @@ TEST_F(Boxes, ABrokenStatementStandsOnItsOwnLineAsItWasTyped) {
 }
 
 TEST_F(Boxes, InputBoxHandsBackTheTextOrNothing) {
-  whenOpen([](QWidget& box) {
+  whenModal([](QWidget& box) {
     tests::grab(box, u"box_input"_s);
     auto* const line = box.findChild<QLineEdit*>();
     line->setText(u"13579"_s);
     QTest::keyClick(line, Qt::Key_Return);
   });
   EXPECT_EQ(boxes.InputBox(u"암호확인"_s, u"체적자료 클리어"_s), u"13579"_s);
-  whenOpen([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  whenModal([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Escape); });
   EXPECT_EQ(boxes.InputBox(u"암호확인"_s, {}), std::nullopt);
 }
 
 TEST_F(Boxes, CalendarOpensOnTheGivenDayAndTakesByEnter) {
   const QDate today(2026, 6, 15);
   const auto choose = [&](const QString& initial, int key) {
-    whenOpen([key](QWidget& box) {
+    whenModal([key](QWidget& box) {
       tests::grab(box, u"frmCalendar"_s);
       QWidget* const days = box.findChild<QWidget*>(u"qt_calendar_calendarview"_s);
       ASSERT_TRUE(days);
@@ -165,7 +177,7 @@ TEST_F(Boxes, PickerFindsTakesAndLeaves) {
       rows.setRows({{text + u'1'}, {text + u'2'}});
       dialog.showFound();
     });
-    whenOpen([&](QWidget& box) { act(static_cast<PickerDialog&>(box)); });
+    whenModal([&](QWidget& box) { act(static_cast<PickerDialog&>(box)); });
     return dialog.pick();
   };
   EXPECT_EQ(run([](PickerDialog& box) {

@@ -7,13 +7,13 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include "store/report_staging.h"
 #include "tests/recorded_print.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
 #include "ui/paper/frmReport.h"
 #include "ui/paper/page_view.h"
 #include "ui/paper/printers.h"
@@ -121,18 +121,16 @@ TEST_F(ReportViewing, TheQuestionOffersTheLastPrinterAndAllPages) {
   pc.pc.settings.SaveSetting("해온판매", "프린터설정", "보고서", "PDF 파일");
   frmReport* const form = show();
   const auto answer = [form](int first, int last, int key) {
-    QTimer::singleShot(150, qApp, [=] {
-      QWidget* const box = QApplication::activeModalWidget();
-      ASSERT_TRUE(box);
-      EXPECT_EQ(box->findChild<QComboBox*>("CboPrinter")->currentText(), "PDF 파일");
-      auto* const from = box->findChild<QSpinBox*>("SpnFirst");
-      auto* const to = box->findChild<QSpinBox*>("SpnLast");
+    tests::whenModal([=](QWidget& box) {
+      EXPECT_EQ(box.findChild<QComboBox*>("CboPrinter")->currentText(), "PDF 파일");
+      auto* const from = box.findChild<QSpinBox*>("SpnFirst");
+      auto* const to = box.findChild<QSpinBox*>("SpnLast");
       EXPECT_EQ(from->value(), 1);
       EXPECT_EQ(to->value(), to->maximum());
-      tests::grab(*box, "frmReport-print");
+      tests::grab(box, "frmReport-print");
       from->setValue(first);
       to->setValue(last);
-      QTest::keyClick(box, Qt::Key(key));
+      QTest::keyClick(&box, Qt::Key(key));
     });
     tests::show(*form);
     form->findChild<PageView*>()->setFocus();
