@@ -1,6 +1,7 @@
 #pragma once
 // The six billing figures of the company: late-charge rates in percent a month, safety fees in whole won.
 #include <array>
+#include <cstddef>
 
 struct Session;
 
