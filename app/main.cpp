@@ -15,6 +15,7 @@
 #include "app/frmSplash.h"
 #include "app/start_up.h"
 #include "pc/program_line.h"
+#include "store/support_log.h"
 #include "ui/forms/guard.h"
 #include "ui/forms/message_boxes.h"
 #include "ui/forms/style.h"
@@ -65,7 +66,9 @@ int main(int argc, char** argv) {
 
   pc::Pc pc(pc::Paths::defaultRoot());
   Session* open = nullptr;  // the boxes ask for a title that only the session knows
-  MessageBoxes boxes([&open] { return open ? open->AppTitle : QString(); });
+  MessageBoxes boxes(
+      [&open] { return open ? open->AppTitle : QString(); },
+      [&pc](const QString& window, const jet::Error& error) { support::noteError(pc, window, error); });
   Session session(pc, boxes);
   open = &session;
   PcPrinters printers(pc);
@@ -120,5 +123,8 @@ int main(int argc, char** argv) {
     if (!FrmFolderTrouble(whyNotStarted(session), session).tryAgain() || !begin()) QApplication::exit(0);
   };
   if (!begin()) return 1;
-  return QApplication::exec();
+  support::noteRun(pc, support::Run::Begins);
+  const int result = QApplication::exec();
+  support::noteRun(pc, support::Run::Ends);
+  return result;
 }

@@ -62,8 +62,7 @@ void StartUp::attempt(const std::function<void()>& steps) {
   try {
     steps();
   } catch (const jet::Error& error) {
-    session_.prompts.ErrorBox(u"프로그램 시작 중 오류가 발생하여 종료합니다."_s, error.number(),
-                              error.description());
+    session_.prompts.tellError(u"프로그램 시작 중 오류가 발생하여 종료합니다."_s, error);
     usable_ = false;
   }
 }

@@ -10,6 +10,7 @@ namespace {
 
 /** A failed query's box: the text by the error's number, then the statement. */
 void reportQuery(Prompts& prompts, const jet::Error& error, QStringView sql) {
+  prompts.noted(error);
   QString text = error.description(), title = u"ERROR"_s;
   if (error.number() == 3011) {
     text = u"Jet Data Base Engine의 식을 확인하세요."_s;
@@ -80,8 +81,7 @@ bool DAO_ExistTable(Prompts& prompts, const jet::Database& db, const QString& na
     return std::any_of(tables.begin(), tables.end(),
                        [&](const auto& table) { return sameName(table.name, name); });
   } catch (const jet::Error& error) {
-    prompts.ErrorBox(u") in procedure DAO_ExistTable of Module mdlCommonRW"_s, error.number(),
-                     error.description());
+    prompts.tellError(u") in procedure DAO_ExistTable of Module mdlCommonRW"_s, error);
     return false;
   }
 }
@@ -109,9 +109,9 @@ bool DAO_AddField(Prompts& prompts, const jet::Database& db, const QString& tabl
     });
     return adds;
   } catch (const jet::Error& error) {
-    prompts.ErrorBox(u") in procedure DAO_AddField of Module mdlCommonRW"_s + u"\r\n"_s + u"[TABLE]: "_s +
-                         table + u",    [FIELD]: "_s + field,
-                     error.number(), error.description());
+    prompts.tellError(u") in procedure DAO_AddField of Module mdlCommonRW"_s + u"\r\n"_s + u"[TABLE]: "_s +
+                          table + u",    [FIELD]: "_s + field,
+                      error);
     return false;
   }
 }

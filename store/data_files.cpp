@@ -160,8 +160,7 @@ bool prepareDataFolder(Session& session) {
     // Last: from now on the folder counts as begun.
     if (first) makeMissing(u"Basic.mdb"_s, schema::File::Basic);
   } catch (const jet::Error& error) {
-    session.prompts.ErrorBox(session.DbPath + u" 의 자료 파일을 쓸 수 없습니다."_s, error.number(),
-                             error.description());
+    session.prompts.tellError(session.DbPath + u" 의 자료 파일을 쓸 수 없습니다."_s, error);
     return false;
   }
   return true;

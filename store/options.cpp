@@ -21,7 +21,7 @@ QString GetOption(Session& session, const QString& name, const QString& fallback
                              plainText(name) + QStringLiteral("','") + plainText(fallback) +
                              QStringLiteral("')"));
   } catch (const jet::Error& error) {
-    session.prompts.ErrorBox(QString::fromUtf8(optionFailure), error.number(), error.description());
+    session.prompts.tellError(QString::fromUtf8(optionFailure), error);
   }
   return fallback;
 }
@@ -41,6 +41,6 @@ void SetOption(Session& session, const QString& name, const QString& value) {
     rs.Update();
   } catch (const jet::Error& error) {
     if (rs.isOpen()) rs.CancelUpdate();
-    session.prompts.ErrorBox(QString::fromUtf8(optionFailure), error.number(), error.description());
+    session.prompts.tellError(QString::fromUtf8(optionFailure), error);
   }
 }

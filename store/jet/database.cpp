@@ -18,6 +18,17 @@ auto& checked(const Pointer& data) {
   return *data;
 }
 
+/** An error that leaves work takes along what was run and where. */
+template <typename Work>
+auto withOrigin(QStringView statement, const QString& path, const Work& work) {
+  try {
+    return work();
+  } catch (Error& error) {
+    error.setOrigin(statement.toString(), path);
+    throw;
+  }
+}
+
 void bindLiterals(SqliteStatement& statement, const Shape& shape) {
   int parameter = 0;
   for (const Token& literal : shape.literals) {
@@ -65,7 +76,7 @@ void runDefinition(DatabaseData& data, const Compiled& compiled) {
 Workspace::Workspace(Options options) : data_(std::make_shared<WorkspaceData>(std::move(options))) {}
 
 Database Workspace::OpenDatabase(const QString& path, bool exclusive) const {
-  FilePtr file = checked(data_).open(path, exclusive);
+  FilePtr file = withOrigin({}, path, [&] { return checked(data_).open(path, exclusive); });
   Database database;
   database.data_ = std::make_shared<DatabaseData>(data_, std::move(file), path, exclusive);
   return database;
@@ -108,6 +119,14 @@ bool Database::isSound() const {
 }
 
 int Database::Execute(QStringView sql) const {
+  return withOrigin(sql, data_ ? data_->written() : QString(), [&] { return execute(sql); });
+}
+
+Recordset Database::OpenRecordset(QStringView sql, RecordsetType type) const {
+  return withOrigin(sql, data_ ? data_->written() : QString(), [&] { return read(sql, type); });
+}
+
+int Database::execute(QStringView sql) const {
   DatabaseData& data = checked(data_);
   WorkspaceData& workspace = data.workspace();
   const Shape shape = shapeOf(sql);
@@ -133,7 +152,7 @@ int Database::Execute(QStringView sql) const {
   return int(rows);
 }
 
-Recordset Database::OpenRecordset(QStringView sql, RecordsetType type) const {
+Recordset Database::read(QStringView sql, RecordsetType type) const {
   DatabaseData& data = checked(data_);
   WorkspaceData& workspace = data.workspace();
   const Shape shape = shapeOf(sql);
@@ -270,13 +289,15 @@ void Recordset::set(const QString& name, const Value& value) {
   data.set(data.fieldOf(name), value);
 }
 void Recordset::Update() {
-  checked(data_).update();
+  RecordsetData& data = checked(data_);
+  withOrigin(data.writtenAs(), data.path(), [&] { data.update(); });
 }
 void Recordset::CancelUpdate() {
   checked(data_).cancelUpdate();
 }
 void Recordset::Delete() {
-  checked(data_).deleteRow();
+  RecordsetData& data = checked(data_);
+  withOrigin(u"Delete From "_s + data.table(), data.path(), [&] { data.deleteRow(); });
 }
 
 }  // namespace jet

@@ -123,6 +123,8 @@ class Database {
   void createIndex(const QString& table, const Index& index) const;
 
  private:
+  int execute(QStringView sql) const;
+  Recordset read(QStringView sql, RecordsetType type) const;
   friend class Workspace;
   std::shared_ptr<DatabaseData> data_;
 };

@@ -14,11 +14,19 @@ class Error : public std::exception {
    *  3151 or 3044 bad path, 3261 locked table, 3343 no data file, 3421 conversion, ... */
   int number() const { return number_; }
   const QString& description() const { return description_; }
+  /** What was run, and the path of the handle it was run on; '' where there was none. For the support log. */
+  const QString& statement() const { return statement_; }
+  const QString& path() const { return path_; }
+  void setOrigin(const QString& statement, const QString& path) {
+    statement_ = statement;
+    path_ = path;
+  }
   const char* what() const noexcept override { return "jet::Error"; }
 
  private:
   int number_;
   QString description_;
+  QString statement_, path_;
 };
 
 }  // namespace jet

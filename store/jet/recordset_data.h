@@ -48,6 +48,12 @@ class RecordsetData {
   void cancelUpdate();
   void deleteRow();
 
+  /** Where rows are written back to: the first table, its file's path, the pending write as a statement. For what is told
+   *  of a failure; '' where there is none. */
+  QString table() const { return sources_.empty() ? QString() : sources_.front().table.name; }
+  QString path() const;
+  QString writtenAs() const;
+
  private:
   enum class Mode { Reading, Editing, Adding };
   bool isDeleted(int row) const { return row < int(gone_.size()) && gone_[size_t(row)]; }

@@ -44,6 +44,15 @@ int RecordsetData::sourceOf(int field) const {
   fail(3164, column.name);
 }
 
+QString RecordsetData::path() const {
+  const FilePtr file = sources_.empty() ? FilePtr() : sources_.front().file.lock();
+  return file ? file->path() : QString();
+}
+
+QString RecordsetData::writtenAs() const {
+  return (mode_ == Mode::Adding ? u"Insert Into "_s : u"Update "_s) + table();
+}
+
 void RecordsetData::addNew() {
   checkWritable();
   pending_.clear();

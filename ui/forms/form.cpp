@@ -78,9 +78,11 @@ bool Form::guard(const std::function<void()>& work) {
 }
 
 bool Form::trap(const QString& procedure, const std::function<void()>& work) {
-  return guardedBy(work, [&](int number, const QString& text) {
-    session_.prompts.MsgWarn(QStringLiteral("Error %1 (%2) in procedure %3 of Form %4")
-                                 .arg(QString::number(number), text, procedure, objectName()));
+  return guardedBy(work, [&](const jet::Error& error) {
+    session_.prompts.noted(error);
+    session_.prompts.MsgWarn(
+        QStringLiteral("Error %1 (%2) in procedure %3 of Form %4")
+            .arg(QString::number(error.number()), error.description(), procedure, objectName()));
   });
 }
 

@@ -4,8 +4,8 @@
 
 #include "ui/model/prompts.h"
 
-/** Runs work; an error goes to say as its number and text. True: there was none. */
-bool guardedBy(const std::function<void()>& work, const std::function<void(int, const QString&)>& say);
+/** Runs work; an error of any kind goes to say with a number and a text. True: there was none. */
+bool guardedBy(const std::function<void()>& work, const std::function<void(const jet::Error&)>& say);
 
 /** The same with the box for run-time errors. */
 bool guarded(Prompts& prompts, const std::function<void()>& work);

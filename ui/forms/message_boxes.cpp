@@ -18,6 +18,14 @@ QWidget* owner() {
   return QApplication::activeModalWidget() ? QApplication::activeModalWidget() : QApplication::activeWindow();
 }
 
+/** The name of the innermost form around the focus; '' where there is none. */
+QString formInFront() {
+  QWidget* widget = QApplication::focusWidget() ? QApplication::focusWidget() : owner();
+  while (widget && !widget->objectName().startsWith(u"frm", Qt::CaseInsensitive))
+    widget = widget->parentWidget();
+  return widget ? widget->objectName() : QString();
+}
+
 /** A quiet sign of the program's own colours in place of the style's old pictures. */
 QPixmap sign(const QString& letter, const QColor& colour) {
   constexpr int side = 36;
@@ -83,6 +91,10 @@ bool MessageBoxes::MsgAsk(const QString& text, const QString& title, bool yesFir
 void MessageBoxes::ErrorBox(const QString& text, int number, const QString& description) {
   tell(QMessageBox::Warning,
        text + u"\n오류번호 : "_s + QString::number(number) + u"\n오류내용 : "_s + description, u"오류"_s);
+}
+
+void MessageBoxes::noted(const jet::Error& error) {
+  if (note_) note_(formInFront(), error);
 }
 
 std::optional<QString> MessageBoxes::InputBox(const QString& prompt, const QString& title,

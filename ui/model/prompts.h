@@ -4,6 +4,8 @@
 
 #include <optional>
 
+#include "store/jet/error.h"
+
 /** An empty title is replaced by AppTitle. Texts are Korean and stand as given. */
 class Prompts {
  public:
@@ -14,6 +16,13 @@ class Prompts {
   virtual bool MsgAsk(const QString& text, const QString& title = {}, bool yesFirst = true) = 0;
   /** text, "오류번호 : " + number, "오류내용 : " + description, under "오류". */
   virtual void ErrorBox(const QString& text, int number, const QString& description) = 0;
+  /** The same for an error at hand, which is noted as well. */
+  void tellError(const QString& text, const jet::Error& error) {
+    noted(error);
+    ErrorBox(text, error.number(), error.description());
+  }
+  /** An error is about to be told, in this box or another: for the support log. */
+  virtual void noted(const jet::Error&) {}
   /** Nothing when the operator cancels. */
   virtual std::optional<QString> InputBox(const QString& prompt, const QString& title,
                                           const QString& initial = {}) = 0;
