@@ -3,7 +3,7 @@
 
 #include "bench/books.h"
 #include "bench/pairs.h"
-#include "trade/sale_posting.h"
+#include "trade/sale_book.h"
 
 namespace {
 
@@ -89,24 +89,24 @@ struct PlainDelivery {
   sqlite3_stmt *begin, *commit, *insert, *newest, *before, *balance, *stored, *stock, *fill, *lastDate;
 };
 
-void postByTheRules(SalePosting& posting, int client) {
-  SpreadModel& grid = posting.grid(SaleSheet::General);
+void postByTheRules(SaleBook& posting, int client) {
+  SpreadModel& grid = posting.grid();
   grid.setMaxRows(0);
   grid.setMaxRows(1);
   const auto set = [&](int col, const QString& text) { grid.setText(1, col, text); };
-  set(SaleCol::Date, QStringLiteral("03-16"));
-  set(SaleCol::Code, QString::number(client));
-  grid.setComboPosition(1, SaleCol::Kind, 0);
-  posting.PostSaleRow(1, SaleSheet::General);
-  set(SaleCol::Item, joinItem({QStringLiteral("LPG"), QStringLiteral("20")}));
-  set(SaleCol::Number, QStringLiteral("1"));
-  set(SaleCol::Unit, QStringLiteral("27000"));
-  set(SaleCol::Discount, QStringLiteral("0"));
-  set(SaleCol::Amount, QStringLiteral("27000"));
-  set(SaleCol::Income, QStringLiteral("20000"));
-  set(SaleCol::Trust, QStringLiteral("7000"));
-  set(SaleCol::Person, QStringLiteral("홍길수"));
-  posting.PostSaleRow(1, SaleSheet::General);
+  set(LineCol::Date, QStringLiteral("03-16"));
+  set(LineCol::Code, QString::number(client));
+  grid.setComboPosition(1, LineCol::Kind, 0);
+  posting.postRow(1);
+  set(LineCol::Item, joinItem({QStringLiteral("LPG"), QStringLiteral("20")}));
+  set(LineCol::Number, QStringLiteral("1"));
+  set(LineCol::Unit, QStringLiteral("27000"));
+  set(LineCol::Discount, QStringLiteral("0"));
+  set(LineCol::Amount, QStringLiteral("27000"));
+  set(LineCol::Paid, QStringLiteral("20000"));
+  set(LineCol::Trust, QStringLiteral("7000"));
+  set(LineCol::Person, QStringLiteral("홍길수"));
+  posting.postRow(1);
 }
 
 const int deliveries = bench::addPair({"posting sale lines by the rules, every step flushed",
@@ -116,7 +116,7 @@ const int deliveries = bench::addPair({"posting sale lines by the rules, every s
                                          auto books = std::make_shared<bench::Books>();
                                          books->addClients(customers);
                                          auto beside = std::make_shared<bench::Plain>(*books);
-                                         auto posting = std::make_shared<SalePosting>(books->session);
+                                         auto posting = std::make_shared<SaleBook>(books->session);
                                          auto delivery = std::make_shared<PlainDelivery>(*beside);
                                          ours.run = [books, posting, size] {
                                            for (int at = 0; at < size; ++at)

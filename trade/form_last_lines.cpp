@@ -45,9 +45,9 @@ LastLines::LastLines(QWidget* parent) : QWidget(parent) {
   grid->setRowStretch(rows + 1, 1);
 }
 
-void LastLines::show(const std::vector<SaleLastLine>& lines) {
+void LastLines::show(const std::vector<LastLine>& lines) {
   for (size_t row = 0; row < rows; ++row) {
-    const SaleLastLine line = row < lines.size() ? lines[row] : SaleLastLine{};
+    const LastLine line = row < lines.size() ? lines[row] : LastLine{};
     const QString texts[] = {line.date, line.kind, line.item, line.number, line.amount, line.trust};
     for (size_t col = 0; col < columns; ++col) {
       QLabel* const cell = cells_[row][col];

@@ -1,11 +1,11 @@
 #pragma once
-// A customer's last lines beside the sale screen's panel: small, quiet, only to be looked at.
+// A partner's last lines beside the panel of a screen of lines: small, quiet, only to be looked at.
 #include <QWidget>
 
 #include <array>
 #include <vector>
 
-#include "trade/sale_history.h"
+#include "trade/line_history.h"
 
 class QLabel;
 
@@ -13,7 +13,7 @@ class LastLines : public QWidget {
  public:
   explicit LastLines(QWidget* parent = nullptr);
   /** Newest first; those beyond the panel's five are left out. */
-  void show(const std::vector<SaleLastLine>& lines);
+  void show(const std::vector<LastLine>& lines);
 
  private:
   static constexpr int rows = 5, columns = 6;

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "store/session.h"
-#include "trade/sale_kinds.h"
+#include "trade/line_kinds.h"
 
 /** Sums of one sheet; 0 for a day without a line. */
 struct DaySum {

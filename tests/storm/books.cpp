@@ -7,7 +7,7 @@
 #include "store/jet/connection.h"
 #include "store/upgrades.h"
 #include "store/year_file.h"
-#include "trade/sale_kinds.h"
+#include "trade/line_kinds.h"
 
 using namespace Qt::StringLiterals;
 

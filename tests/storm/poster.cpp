@@ -34,20 +34,20 @@ class Poster {
     pickers_.item = sheet == SaleSheet::Material ? ItemChoice{u"밸브"_s, u"15A"_s, 3000, 0}
                     : below(2)                   ? ItemChoice{u"LPG"_s, u"20"_s, 41000, 0}
                                                  : ItemChoice{u"LPG"_s, u"50"_s, 98000, 0};
-    const int row = entry_.enterKey(grid().MaxRows(), SaleCol::Client, u"손님"_s).row;
+    const int row = entry_.enterKey(grid().MaxRows(), LineCol::Partner, u"손님"_s).row;
     if (row == 0) return;
     const QStringList kinds = saleLabels(sheet);
-    begin(row, [&] { entry_.finishCell(row, SaleCol::Kind, kinds.at(below(int(kinds.size())))); });
+    begin(row, [&] { entry_.finishCell(row, LineCol::Kind, kinds.at(below(int(kinds.size())))); });
     if (failed_ || key(row).isEmpty()) return;
     if (isCollection(kind(row))) {
-      finish(row, SaleCol::Income, 1 + below(9000));
+      finish(row, LineCol::Paid, 1 + below(9000));
     } else {
       step(row,
-           [&] { entry_.search(row, SaleCol::Item, {}); });  // Enter would take what the customer had last
-      finish(row, SaleCol::Number, 1 + below(4));
-      finish(row, SaleCol::Income, below(40) * 1000);
+           [&] { entry_.search(row, LineCol::Item, {}); });  // Enter would take what the customer had last
+      finish(row, LineCol::Number, 1 + below(4));
+      finish(row, LineCol::Paid, below(40) * 1000);
     }
-    if (below(3) == 0) finish(row, SaleCol::Income, 1 + below(3000));
+    if (below(3) == 0) finish(row, LineCol::Paid, 1 + below(3000));
     // A material line stays: its deletion takes the credit off the other balance.
     if (below(5) == 0 && sheet == SaleSheet::General && !failed_) erase(row);
   }
@@ -56,9 +56,9 @@ class Poster {
   void say(const QString& text) const {
     if (tells) report(text);
   }
-  SpreadModel& grid() { return posting_.grid(posting_.sheet()); }
-  QString key(int row) { return grid().text(row, SaleCol::Key); }
-  int kind(int row) { return saleKindAt(posting_.sheet(), grid().comboPosition(row, SaleCol::Kind)); }
+  SpreadModel& grid() { return posting_.grid(); }
+  QString key(int row) { return grid().text(row, LineCol::Key); }
+  int kind(int row) { return posting_.kindOf(row).code; }
   int below(int limit) { return int(random_.bounded(limit)); }
 
   void finish(int row, int col, int figure) {
@@ -78,13 +78,13 @@ class Poster {
     timed(key(row), work);
     if (failed_) return;
     QStringList figures;
-    for (const int col : {SaleCol::Number, SaleCol::Income, SaleCol::Trust})
+    for (const int col : {LineCol::Number, LineCol::Paid, LineCol::Trust})
       figures << QString::number(saleWhole(grid().text(row, col)));
     tell(row, kind(row), figures.join(u' '));
   }
 
   void tell(int row, int kind, const QString& figures) {
-    say(u"%1 %2 %3 %4 %5"_s.arg(QLatin1String(word::line), key(row), grid().text(row, SaleCol::Code))
+    say(u"%1 %2 %3 %4 %5"_s.arg(QLatin1String(word::line), key(row), grid().text(row, LineCol::Code))
             .arg(kind)
             .arg(figures));
   }
@@ -118,7 +118,7 @@ class Poster {
   QRandomGenerator random_;
   ChosenPickers pickers_;
   NobodyCalls calls_;
-  SalePosting posting_{here_.session};
+  SaleBook posting_{here_.session};
   SaleEntry entry_{posting_, pickers_, calls_};
   bool failed_ = false;
   int steps_ = 0;

@@ -28,19 +28,19 @@ struct Posting : Work {
     posting.FillSaleGrid(SaleSheet::General, true);
     pickers.client = {7, u"손님7"_s};
     pickers.item = {u"LPG"_s, u"20"_s, 41000, 0};
-    steps_ = {[this] { chooseClient(); }, [this] { entry.finishCell(row, SaleCol::Kind, u"가스"_s); },
-              [this] { entry.enterKey(row, SaleCol::Item, {}); },
-              [this] { entry.finishCell(row, SaleCol::Number, u"3"_s); },
-              [this] { entry.finishCell(row, SaleCol::Income, u"20000"_s); }};
+    steps_ = {[this] { chooseClient(); }, [this] { entry.finishCell(row, LineCol::Kind, u"가스"_s); },
+              [this] { entry.enterKey(row, LineCol::Item, {}); },
+              [this] { entry.finishCell(row, LineCol::Number, u"3"_s); },
+              [this] { entry.finishCell(row, LineCol::Paid, u"20000"_s); }};
   }
   /** The sheet then shows the customer's lines, with a free row. */
   void chooseClient() {
-    const int last = posting.grid(SaleSheet::General).MaxRows();
-    if (const int chosen = entry.enterKey(last, SaleCol::Client, u"손님"_s).row) row = chosen;
+    const int last = posting.grid().MaxRows();
+    if (const int chosen = entry.enterKey(last, LineCol::Partner, u"손님"_s).row) row = chosen;
   }
   ChosenPickers pickers;
   NobodyCalls calls;
-  SalePosting posting;
+  SaleBook posting;
   SaleEntry entry{posting, pickers, calls};
   int row = 0;
 };
@@ -53,14 +53,14 @@ struct Deleting : Work {
   }
   /** The line that stands in the first row of a kind; when it is gone from the book, its deletion is done. */
   void erase(const QString& kind) {
-    const SpreadModel& grid = posting.grid(SaleSheet::General);
+    const SpreadModel& grid = posting.grid();
     for (int row = 1; row <= grid.MaxRows(); ++row)
-      if (grid.text(row, SaleCol::Kind) == kind && !grid.text(row, SaleCol::Key).isEmpty()) {
+      if (grid.text(row, LineCol::Kind) == kind && !grid.text(row, LineCol::Key).isEmpty()) {
         posting.deleteRow(row);
         return;
       }
   }
-  SalePosting posting;
+  SaleBook posting;
 };
 
 struct Reading : Work {

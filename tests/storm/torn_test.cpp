@@ -13,7 +13,7 @@
 #include "tests/storm/child.h"
 #include "tests/storm/pcs.h"
 #include "tests/storm/poster.h"
-#include "trade/sale_posting.h"
+#include "trade/sale_book.h"
 
 namespace storm {
 namespace {
@@ -66,7 +66,7 @@ struct Torn : testing::Test {
         session.dbYear = session.wsMain.OpenDatabase(session.DbPath + u"2026Foundation.mdb"_s);
     });
     if (!session.dbYear.isOpen()) return failures;
-    SalePosting posting(session);
+    SaleBook posting(session);
     attempt([&] { posting.FillSaleGrid(SaleSheet::General, true); });
     for (const jet::Database* file : {&session.dbBasic, &session.dbYear}) {
       if (!file->isOpen()) continue;

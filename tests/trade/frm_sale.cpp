@@ -40,7 +40,7 @@ struct SaleScreen : tests::SaleDesk {
   /** Enter takes the kind of a new line; another one is so many steps down the list that the Down key opens. */
   void chooseKind(int stepsDown) {
     if (stepsDown == 0) return press(Qt::Key_Return);
-    press(cell(grid()->activeRow(), SaleCol::Key).isEmpty() ? Qt::Key_Down : Qt::Key_Return);
+    press(cell(grid()->activeRow(), LineCol::Key).isEmpty() ? Qt::Key_Down : Qt::Key_Return);
     auto* const list = grid()->findChild<QListWidget*>("SpreadList");
     ASSERT_TRUE(list && list->isVisible());
     for (int step = 0; step < stepsDown; ++step) QTest::keyClick(list, Qt::Key_Down);
@@ -87,7 +87,7 @@ TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
   EXPECT_EQ(sale.at(), "2,3");
   sale.chooseKind(1);
   EXPECT_EQ(sale.at(), "2,9");
-  EXPECT_EQ(sale.cell(2, SaleCol::Amount), "110000");
+  EXPECT_EQ(sale.cell(2, LineCol::Amount), "110000");
   sale.asked();
   sale.type("10000");
   sale.press(Qt::Key_Return);
@@ -100,7 +100,7 @@ TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
   sale.chooseKind(2);
   sale.item("20", 0);
   EXPECT_EQ(sale.stock(), "980|100|11|40|49") << "an empty back for the full one, then an empty lent";
-  sale.grid()->setActiveCell(3, SaleCol::Number);
+  sale.grid()->setActiveCell(3, LineCol::Number);
   sale.asked();
   sale.type("3");
   sale.press(Qt::Key_Return);
@@ -125,27 +125,27 @@ TEST(FrmSale, RefusedTextsPutTheCellBackAndKeepTheCursor) {
   sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
   sale.type("50000");
   sale.press(Qt::Key_Return);
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Amount), "1,8 40000");
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Amount), "1,8 40000");
   EXPECT_FALSE(sale.grid()->isEditing());
 
-  sale.grid()->setActiveCell(1, SaleCol::Kind);
+  sale.grid()->setActiveCell(1, LineCol::Kind);
   sale.pc.prompts.expect("구분은 변경할 수 없습니다.");
   sale.chooseKind(1);
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Kind), "1,3 가스");
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Kind), "1,3 가스");
 
-  sale.grid()->setActiveCell(1, SaleCol::Number);
+  sale.grid()->setActiveCell(1, LineCol::Number);
   sale.type("7");
   sale.press(Qt::Key_Escape);
-  EXPECT_EQ(sale.cell(1, SaleCol::Number), "1") << "Esc takes the typed text back first";
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "산골식당");
+  EXPECT_EQ(sale.cell(1, LineCol::Number), "1") << "Esc takes the typed text back first";
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "산골식당");
 
-  sale.grid()->setActiveCell(1, SaleCol::Client);
+  sale.grid()->setActiveCell(1, LineCol::Partner);
   sale.asked();
   sale.type("x");
   sale.press(Qt::Key_Tab);
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
   sale.pc.prompts.expect("고객명을 검색하세요");
-  sale.grid()->setActiveCell(1, SaleCol::Person);
+  sale.grid()->setActiveCell(1, LineCol::Person);
   sale.press(Qt::Key_Down);
   EXPECT_EQ(sale.at(), "1,2") << "a row that misses something is not left";
 }
@@ -164,7 +164,7 @@ TEST(FrmSale, AnOpenCellThatIsRefusedKeepsItsSheet) {
   sale.tabs()->setCurrentIndex(2);
   EXPECT_EQ(sale.tabs()->currentIndex(), 2);
   EXPECT_EQ(sale.rows("Select DC, Income From Sale"), "1000|39000");
-  EXPECT_EQ(sale.grid()->model().column(SaleCol::Kind).combo, QStringList({"자판", "자수"}));
+  EXPECT_EQ(sale.grid()->model().column(LineCol::Kind).combo, QStringList({"자판", "자수"}));
   sale.form.showPage("gas");
   EXPECT_EQ(sale.tabs()->currentIndex(), 0);
 }
@@ -184,7 +184,7 @@ TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
     QCoreApplication::processEvents();
   };
   setDay("0302");
-  EXPECT_EQ(sale.cell(1, SaleCol::Date), "03-02");
+  EXPECT_EQ(sale.cell(1, LineCol::Date), "03-02");
   EXPECT_EQ(sale.at(), "2,2");
   sale.pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
   setDay("0231");
@@ -208,14 +208,14 @@ TEST(FrmSale, ACustomerOfAnotherSheetLeavesNoCellOpenOnTheOldOne) {
   EXPECT_EQ(sale.at(), "2,3");
   EXPECT_FALSE(old->isEditing());
   QCoreApplication::processEvents();
-  EXPECT_EQ(sale.cell(1, SaleCol::Client) + sale.cell(2, SaleCol::Client), "별빛 3동별빛 3동");
+  EXPECT_EQ(sale.cell(1, LineCol::Partner) + sale.cell(2, LineCol::Partner), "별빛 3동별빛 3동");
   // A cell of the hidden sheet is finished after all: it has no row on this one.
-  old->setActiveCell(1, SaleCol::Number);
+  old->setActiveCell(1, LineCol::Number);
   old->beginEdit();
   old->findChild<QLineEdit*>("SpreadLine")->setText("7");
   EXPECT_FALSE(old->commitEdit());
   EXPECT_FALSE(old->isEditing());
-  EXPECT_EQ(sale.cell(1, SaleCol::Number) + sale.cell(2, SaleCol::Number), "1");
+  EXPECT_EQ(sale.cell(1, LineCol::Number) + sale.cell(2, LineCol::Number), "1");
   EXPECT_TRUE(sale.form.close());
 }
 
@@ -227,17 +227,17 @@ TEST(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
   sale.pickers.clients = {ClientChoice{3, "별빛 3동"}};
   EXPECT_TRUE(sale.form.TakeCallerNumber("0533456789"));
   EXPECT_EQ(sale.tabs()->currentIndex(), 1);
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Client), "1,3 별빛 3동");
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Partner), "1,3 별빛 3동");
   EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
 
   sale.press(Qt::Key_Escape);
   sale.calls.numbers = {"0531234567"};
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.tabs()->currentIndex(), 0) << "Enter on the empty cell fetches the waiting call";
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, SaleCol::Client), "1,3 산골식당");
+  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Partner), "1,3 산골식당");
   sale.press(Qt::Key_Escape);
   EXPECT_FALSE(sale.form.TakeCallerNumber("0539998888")) << "nobody was chosen: the list keeps the call";
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
 }
 
 TEST(FrmSale, ACallIsNotDroppedOnTheDateNorBehindABox) {
@@ -361,7 +361,7 @@ TEST(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.pickers.asked.value(0), "client 산골 2 0");
   EXPECT_FALSE(sale.grid()->isEditing());
-  EXPECT_EQ(sale.at() + sale.cell(1, SaleCol::Client), "1,2") << "nobody chosen: the cell is empty again";
+  EXPECT_EQ(sale.at() + sale.cell(1, LineCol::Partner), "1,2") << "nobody chosen: the cell is empty again";
 }
 
 TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
@@ -396,7 +396,7 @@ TEST(FrmSale, FortyLinesAreOnScreen) {
   sale.press(Qt::Key_Escape);
   EXPECT_EQ(sale.at(), "41,2");
   EXPECT_GE(sale.grid()->rowsOnPage(), 20);
-  sale.grid()->setActiveCell(39, SaleCol::Amount);
+  sale.grid()->setActiveCell(39, LineCol::Amount);
   EXPECT_EQ(sale.label("LblAddr"), "(706-010) 대구 수성구 1");
   tests::grab(sale.form, "frmSale");
   sale.press(Qt::Key_F5);

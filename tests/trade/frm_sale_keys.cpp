@@ -51,8 +51,8 @@ struct RepeatDesk : tests::SaleDesk {
   }
   void expectNextLine() {
     EXPECT_EQ(grid()->activeRow(), grid()->model().MaxRows());
-    EXPECT_EQ(grid()->activeCol(), SaleCol::Client);
-    EXPECT_EQ(grid()->model().text(grid()->activeRow(), SaleCol::Client), "");
+    EXPECT_EQ(grid()->activeCol(), LineCol::Partner);
+    EXPECT_EQ(grid()->model().text(grid()->activeRow(), LineCol::Partner), "");
   }
 };
 
@@ -60,7 +60,7 @@ TEST(FrmSaleKeys, ARepeatedDeliveryInCashTakesEightKeys) {
   RepeatDesk desk;
   desk.type("4567");
   desk.enter(1);
-  EXPECT_EQ(desk.offer(SaleCol::Item) + desk.offer(SaleCol::Unit) + desk.offer(SaleCol::Person),
+  EXPECT_EQ(desk.offer(LineCol::Item) + desk.offer(LineCol::Unit) + desk.offer(LineCol::Person),
             "LPG / 2027000홍길동");
   tests::grab(*desk.form, "frmSale-offer");
   desk.enter(3);
@@ -114,11 +114,11 @@ TEST(FrmSaleKeys, AnOfferIsNotStoredUnlessTakenAndTypingReplacesIt) {
   desk.type("50");
   desk.enter(1);
   EXPECT_EQ(desk.line(), "LPG|50|1|28000|28000|0|") << "a size finds its item, at today's price";
-  EXPECT_EQ(desk.offer(SaleCol::Item) + desk.offer(SaleCol::Unit), "");
-  EXPECT_EQ(desk.offer(SaleCol::Person), "홍길동");
+  EXPECT_EQ(desk.offer(LineCol::Item) + desk.offer(LineCol::Unit), "");
+  EXPECT_EQ(desk.offer(LineCol::Person), "홍길동");
   const int row = desk.grid()->activeRow();
   desk.press(Qt::Key_Down);
-  EXPECT_EQ(desk.grid()->model().offer(row, SaleCol::Person), "") << "a line left offers nothing";
+  EXPECT_EQ(desk.grid()->model().offer(row, LineCol::Person), "") << "a line left offers nothing";
   EXPECT_EQ(desk.line(), "LPG|50|1|28000|28000|0|");
 }
 
@@ -128,7 +128,7 @@ TEST(FrmSaleKeys, OfferedIsOnlyWhatStillStandsInTheRegisters) {
   desk.run("Delete * From LPG Where Size = '20'");
   desk.type("4567");
   desk.enter(1);
-  EXPECT_EQ(desk.offer(SaleCol::Item) + desk.offer(SaleCol::Unit) + desk.offer(SaleCol::Person), "");
+  EXPECT_EQ(desk.offer(LineCol::Item) + desk.offer(LineCol::Unit) + desk.offer(LineCol::Person), "");
 }
 
 TEST(FrmSaleKeys, EveryKindIsOfferedItsOwnLastLine) {
@@ -140,16 +140,16 @@ TEST(FrmSaleKeys, EveryKindIsOfferedItsOwnLastLine) {
   desk.enter(1);
   desk.press(Qt::Key_Down);
   for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}) desk.press(key);
-  EXPECT_EQ(desk.offer(SaleCol::Item) + desk.offer(SaleCol::Unit), "LPG / 500") << "a loan costs nothing";
-  EXPECT_EQ(desk.offer(SaleCol::Person), "홍길동") << "of any line";
+  EXPECT_EQ(desk.offer(LineCol::Item) + desk.offer(LineCol::Unit), "LPG / 500") << "a loan costs nothing";
+  EXPECT_EQ(desk.offer(LineCol::Person), "홍길동") << "of any line";
   desk.enter(2);
   EXPECT_EQ(desk.line(), "LPG|50|1|0|0|0|홍길동");
   desk.type("4567");
   desk.enter(1);
   desk.press(Qt::Key_Down);
   for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return}) desk.press(key);
-  EXPECT_EQ(desk.offer(SaleCol::Item), "") << "a collection has no item";
-  EXPECT_EQ(desk.grid()->activeCol(), SaleCol::Income);
+  EXPECT_EQ(desk.offer(LineCol::Item), "") << "a collection has no item";
+  EXPECT_EQ(desk.grid()->activeCol(), LineCol::Paid);
 }
 
 TEST(FrmSaleKeys, InJanuaryTheYearBeforeIsAskedToo) {
@@ -163,7 +163,7 @@ TEST(FrmSaleKeys, InJanuaryTheYearBeforeIsAskedToo) {
   desk.run("Delete * From Sale");
   desk.type("4567");
   desk.enter(1);
-  EXPECT_EQ(desk.offer(SaleCol::Item) + desk.offer(SaleCol::Unit) + desk.offer(SaleCol::Person),
+  EXPECT_EQ(desk.offer(LineCol::Item) + desk.offer(LineCol::Unit) + desk.offer(LineCol::Person),
             "LPG / 5060000홍길동");
   desk.enter(3);
   EXPECT_EQ(desk.line(), "LPG|50|1|60000|60000|0|홍길동");

@@ -1,107 +1,11 @@
 // The lines of sale_cases.txt, each on books as they were at first.
-#include <QRegularExpression>
-#include <QTextStream>
-
-#include "tests/trade/sale_desk.h"
+#include "tests/trade/line_cases.h"
 
 namespace {
 
+using tests::CaseHand;
+using tests::LineCase;
 using tests::SaleDesk;
-
-struct SaleCase {
-  QStringList parts;
-  int number = 0;
-  QString part(int at) const { return parts.value(at); }
-};
-
-std::vector<SaleCase> saleCases() {
-  QFile file(HAEON_TEST_DATA "/trade/sale_cases.txt");
-  std::vector<SaleCase> cases;
-  if (!file.open(QIODevice::ReadOnly)) return cases;
-  QTextStream lines(&file);
-  for (int number = 1; !lines.atEnd(); ++number) {
-    const QString line = lines.readLine();
-    if (!line.trimmed().isEmpty() && !line.startsWith(u'#')) cases.push_back({line.split(u'\t'), number});
-  }
-  return cases;
-}
-
-/** One case's hand on the desk. */
-struct SaleHand {
-  explicit SaleHand(SaleDesk& at) : desk(at) {}
-
-  SaleDesk& desk;
-  SalePosting posting{desk.pc.session};
-  SaleEntry entry{posting, desk.pickers, desk.calls};
-  int row = 0;
-  SaleStep last;
-
-  SpreadModel& cells() { return posting.grid(posting.sheet()); }
-  QString key() { return cells().text(row, SaleCol::Key); }
-
-  void begin(const QString& sheet, const QString& kind) {
-    const bool volume = sheet == "volume";
-    posting.FillSaleGrid(volume                ? SaleSheet::Volume
-                         : sheet == "material" ? SaleSheet::Material
-                                               : SaleSheet::General,
-                         true);
-    desk.pickers.clients.push_back(volume ? ClientChoice{SaleDesk::Metered, "별빛 3동"}
-                                          : ClientChoice{SaleDesk::Plain, "산골식당"});
-    row = entry.enterKey(1, SaleCol::Client, {}).row;
-    entry.enteredRow(row);
-    last = cells().text(row, SaleCol::Kind) == kind ? entry.enterKey(row, SaleCol::Kind, kind)
-                                                    : entry.finishCell(row, SaleCol::Kind, kind);
-  }
-  void pick(const QString& item) {
-    desk.pickers.items.push_back(ItemChoice{item.section(u'/', 0, 0),
-                                            item.section(u'/', 1).section(u'@', 0, 0),
-                                            item.section(u'@', 1).toDouble(), 0});
-    last = entry.enterKey(row, SaleCol::Item, {});
-  }
-  void type(const QString& step, QChar sign) {
-    const int col = step.section(sign, 0, 0).toInt();
-    const QString typed = step.section(sign, 1);
-    desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?", sign != u'~');
-    const bool tooMuch = sign == u'>' || (typed.size() > 4 && col == SaleCol::Number);
-    if (tooMuch) desk.pc.prompts.expect("입력제한");
-    last = entry.finishCell(row, col, typed);
-    EXPECT_EQ(last.end == SaleStep::Done, !tooMuch && sign != u'~') << step.toStdString();
-  }
-  void play(const QStringList& steps) {
-    for (qsizetype at = 0; at < steps.size(); ++at) {
-      const QString& step = steps[at];
-      if (step == "item") {
-        pick(steps.value(++at));
-      } else if (step == "enter") {
-        const int col = steps.value(++at).toInt();
-        last = entry.enterKey(row, col, cells().text(row, col));
-      } else if (step == "credit") {
-        last = entry.onCredit(row);
-      } else if (step == "delete") {
-        desk.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
-        EXPECT_TRUE(posting.deleteRow(row));
-        last = {};
-      } else if (step == "reload") {
-        posting.refill();
-        last = {};
-      } else {
-        const QRegularExpressionMatch sign = QRegularExpression("[=~>]").match(step);
-        ASSERT_TRUE(sign.hasMatch()) << step.toStdString();
-        type(step, sign.captured().at(0));
-      }
-    }
-  }
-  QString cursor() const {
-    if (last.end != SaleStep::Done || last.row == 0) return "-";
-    return (last.row > row ? "+" : "") + QString::number(last.col);
-  }
-  QString figures() {
-    QStringList texts;
-    for (int col = SaleCol::Number; col <= SaleCol::Trust && !key().isEmpty(); ++col)
-      texts << cells().text(row, col);
-    return texts.join(u'|');
-  }
-};
 
 /** Stock and balances as the desk begins with them, and no line. */
 void clearBooks(SaleDesk& desk) {
@@ -115,20 +19,27 @@ void clearBooks(SaleDesk& desk) {
 }
 
 TEST(SaleCases, EndAsWritten) {
-  const std::vector<SaleCase> cases = saleCases();
+  const std::vector<LineCase> cases = tests::lineCases("sale_cases.txt");
   ASSERT_GT(cases.size(), 60u);
   SaleDesk desk;
-  for (const SaleCase& of : cases) {
-    SCOPED_TRACE("line " + std::to_string(of.number) + ": " + of.parts.join(u' ').toStdString());
+  for (const LineCase& of : cases) {
+    SCOPED_TRACE(of.name());
     ASSERT_EQ(of.parts.size(), 11);
     clearBooks(desk);
-    QStringList steps = of.part(2).split(u' ', Qt::SkipEmptyParts);
-    desk.pc.session.StockEnabled = steps.value(0) != "nostock";
-    if (!desk.pc.session.StockEnabled) steps.removeFirst();
-    SaleHand hand(desk);
-    hand.begin(of.part(0), of.part(1));
+    const bool volume = of.part(0) == "volume";
+    const QStringList steps = of.steps(2, desk.pc.session);
+    SaleBook book(desk.pc.session);
+    SaleEntry entry(book, desk.pickers, desk.calls);
+    book.FillSaleGrid(volume                     ? SaleSheet::Volume
+                      : of.part(0) == "material" ? SaleSheet::Material
+                                                 : SaleSheet::General,
+                      true);
+    desk.pickers.clients.push_back(volume ? ClientChoice{SaleDesk::Metered, "별빛 3동"}
+                                          : ClientChoice{SaleDesk::Plain, "산골식당"});
+    CaseHand hand(desk, book, entry);
+    hand.begin(of.part(1));
     hand.play(steps);
-    const QString client = of.part(0) == "volume" ? "3" : "1";
+    const QString client = volume ? "3" : "1";
     EXPECT_EQ(hand.cursor(), of.part(3));
     EXPECT_EQ(hand.figures(), of.part(4));
     EXPECT_EQ(desk.rows("Select SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, Income, Trust, "

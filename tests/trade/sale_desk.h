@@ -14,8 +14,8 @@ class TradePickers : public IdlePickers {
  public:
   std::deque<std::optional<ClientChoice>> clients;
   std::deque<std::optional<ItemChoice>> items;
-  std::deque<std::optional<QString>> persons;
-  QStringList asked;  ///< "client TEXT mode whole", "item KIND", "person"
+  std::deque<std::optional<QString>> persons, refills;
+  QStringList asked;  ///< "client TEXT mode whole", "item KIND" or "purchase KIND", "person", "station"
   std::function<void()> during;
 
   std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode mode, bool whole) override {
@@ -29,6 +29,10 @@ class TradePickers : public IdlePickers {
   std::optional<QString> searchResponse() override {
     asked << QStringLiteral("person");
     return take(persons);
+  }
+  std::optional<QString> searchRefill() override {
+    asked << QStringLiteral("station");
+    return take(refills);
   }
 
  private:
@@ -101,7 +105,7 @@ struct OtherDesk {
   ScriptedPrompts& prompts = at.prompts;
   TradePickers pickers;
   CallQueue calls;
-  SalePosting posting{at.session};
+  SaleBook posting{at.session};
   SaleEntry entry{posting, pickers, calls};
 
   explicit OtherDesk(SaleDesk& desk) : at(desk.pc) {

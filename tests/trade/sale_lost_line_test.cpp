@@ -34,34 +34,35 @@ TEST(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
   session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
   session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
 
-  SalePosting posting(session);
+  SaleBook posting(session);
   SaleEntry entry(posting, desk.pickers, desk.calls);
   posting.FillSaleGrid(SaleSheet::General, true);
   desk.pickers.clients.push_back(ClientChoice{SaleDesk::Plain, "산골식당"});
-  const int row = entry.enterKey(posting.grid(SaleSheet::General).MaxRows(), SaleCol::Client, "산골").row;
-  const auto key = [&] { return posting.grid(posting.sheet()).text(row, SaleCol::Key); };
+  const int row =
+      entry.enterKey(posting.sheetGrid(SaleSheet::General).MaxRows(), LineCol::Partner, "산골").row;
+  const auto key = [&] { return posting.grid().text(row, LineCol::Key); };
   const QString yearPath = session.pc.paths.native(yearFile(session, session.WorkYear));
   {
     const ReadingPc other(yearPath);  // the line is written, but the group cannot be committed
-    EXPECT_THROW(entry.finishCell(row, SaleCol::Kind, "가스"), jet::Error);
+    EXPECT_THROW(entry.finishCell(row, LineCol::Kind, "가스"), jet::Error);
     EXPECT_EQ(key(), "");
     desk.pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
-    EXPECT_THROW(entry.enterKey(row, SaleCol::Item, {}), jet::Error);
+    EXPECT_THROW(entry.enterKey(row, LineCol::Item, {}), jet::Error);
     EXPECT_EQ(key(), "") << "begun and filled in one group, lost with it";
   }
   // Meanwhile the number goes to another line.
   desk.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, SaleNum) Values('2026-03-05', 2, 1, 9)");
   desk.pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
-  entry.enterKey(row, SaleCol::Item, {});
+  entry.enterKey(row, LineCol::Item, {});
   EXPECT_EQ(key(), "2");
   EXPECT_EQ(desk.rows("Select ClientCode, SaleNum From Sale Order By SaleID"), "2|9;1|1");
   {
     const ReadingPc other(yearPath);
     desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
-    EXPECT_THROW(entry.finishCell(row, SaleCol::Number, "3"), jet::Error);
+    EXPECT_THROW(entry.finishCell(row, LineCol::Number, "3"), jet::Error);
   }
   desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
-  EXPECT_EQ(entry.finishCell(row, SaleCol::Number, "2").end, SaleStep::Done)
+  EXPECT_EQ(entry.finishCell(row, LineCol::Number, "2").end, LineStep::Done)
       << "what was not kept is not taken for another PC's change";
 }
 

@@ -6,17 +6,17 @@ using tests::SaleDesk;
 
 /** The rules joined as the form joins them; the helpers play the operator's hand. */
 struct Sale : SaleDesk {
-  SalePosting posting{pc.session};
+  SaleBook posting{pc.session};
   SaleEntry entry{posting, pickers, calls};
 
   Sale() { posting.FillSaleGrid(SaleSheet::General, true); }
 
-  SpreadModel& cells() { return posting.grid(posting.sheet()); }
+  SpreadModel& cells() { return posting.grid(); }
   QString cell(int row, int col) { return cells().text(row, col); }
   /** Number, price, discount, amount, income, credit. */
   QString figures(int row) {
     QStringList texts;
-    for (int col = SaleCol::Number; col <= SaleCol::Trust; ++col) texts << cell(row, col);
+    for (int col = LineCol::Number; col <= LineCol::Trust; ++col) texts << cell(row, col);
     return texts.join(u'|');
   }
   QString line(int key) {
@@ -27,50 +27,51 @@ struct Sale : SaleDesk {
   }
   int newRow(int client, const QString& name) {
     pickers.clients.push_back(ClientChoice{client, name});
-    const SaleStep step = entry.enterKey(cells().MaxRows(), SaleCol::Client, name);
-    EXPECT_EQ(step.col, SaleCol::Kind);
+    const LineStep step = entry.enterKey(cells().MaxRows(), LineCol::Partner, name);
+    EXPECT_EQ(step.col, LineCol::Kind);
     return step.row;
   }
   void item(int row, const QString& name, const QString& size, double price) {
     pickers.items.push_back(ItemChoice{name, size, price, 0});
-    EXPECT_EQ(entry.enterKey(row, SaleCol::Item, {}).col, SaleCol::Amount);
+    EXPECT_EQ(entry.enterKey(row, LineCol::Item, {}).col, LineCol::Amount);
   }
-  SaleStep change(int row, int col, const QString& typed) {
+  LineStep change(int row, int col, const QString& typed) {
     pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
     return entry.finishCell(row, col, typed);
   }
   /** A gas line of one piece of size 20 at 40,000 won, paid. */
   int gasLine() {
     const int row = newRow(Plain, "산골식당");
-    EXPECT_EQ(entry.enterKey(row, SaleCol::Kind, "가스").col, SaleCol::Item);
+    EXPECT_EQ(entry.enterKey(row, LineCol::Kind, "가스").col, LineCol::Item);
     item(row, "LPG", "20", 40000);
     return row;
   }
   int ofKind(const QString& label) {
     const int row = newRow(Plain, "산골식당");
-    entry.finishCell(row, SaleCol::Kind, label);
+    entry.finishCell(row, LineCol::Kind, label);
     return row;
   }
 };
 
 TEST(SaleKinds, PositionsAndCodes) {
+  const LineKinds& general = saleKinds(SaleSheet::General);
   const int gas[] = {1, 4, 5, 6, 2, 3};
   for (int at = 0; at < 6; ++at) {
-    EXPECT_EQ(saleKindAt(SaleSheet::General, at), gas[at]);
-    EXPECT_EQ(salePositionOf(SaleSheet::Volume, gas[at]), at);
+    EXPECT_EQ(kindAt(general, at).code, gas[at]);
+    EXPECT_EQ(positionOf(saleKinds(SaleSheet::Volume), gas[at]), at);
   }
-  EXPECT_EQ(saleKindAt(SaleSheet::Material, 1), 8);
-  EXPECT_EQ(salePositionOf(SaleSheet::General, 9), 5) << "an unknown kind stands at the last position";
-  EXPECT_EQ(saleKindAt(SaleSheet::General, -1), SaleGas) << "an untouched cell";
+  EXPECT_EQ(kindAt(saleKinds(SaleSheet::Material), 1).code, 8);
+  EXPECT_EQ(positionOf(general, 9), 5) << "an unknown kind stands at the last position";
+  EXPECT_EQ(kindAt(general, -1).code, SaleGas) << "an untouched cell";
   QStringList kinds;
-  for (int code = 1; code <= 9; ++code) kinds << saleLabel(code) + saleSearchCode(code);
+  for (int code = 1; code <= 9; ++code) kinds << saleKind(code).label + saleKind(code).searchCode;
   EXPECT_EQ(kinds, QStringList({"가스1", "용판2", "실병3", "수금", "용대5", "용회6", "자판4", "자수", ""}));
 }
 
 TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {
   Sale sale;
   const int row = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  sale.entry.enterKey(row, LineCol::Kind, "가스");
   EXPECT_EQ(sale.line(1), "2026-03-05|1||0|0|0|0|0|0");
   EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "")
       << "the skeleton is all the first post writes";
@@ -78,18 +79,18 @@ TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {
   sale.item(row, "LPG", "20", 40000);
   EXPECT_EQ(sale.pickers.asked.last(), "item 1");
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|0|40000|0");
-  EXPECT_EQ(sale.change(row, SaleCol::Number, "2").col, SaleCol::Unit);
+  EXPECT_EQ(sale.change(row, LineCol::Number, "2").col, LineCol::Unit);
   EXPECT_EQ(sale.figures(row), "2|40000|0|80000|80000|0");
   EXPECT_EQ(sale.stock(), "960|100|10|42|48");
   EXPECT_EQ(sale.balance(), "100000|5000") << "paid in cash";
   EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "2026-03-05");
 
-  EXPECT_EQ(sale.change(row, SaleCol::Income, "30000").col, SaleCol::Person);
+  EXPECT_EQ(sale.change(row, LineCol::Paid, "30000").col, LineCol::Person);
   EXPECT_EQ(sale.figures(row), "2|40000|0|80000|30000|50000");
   EXPECT_EQ(sale.balance(), "150000|5000");
-  sale.change(row, SaleCol::Income, "60000");
+  sale.change(row, LineCol::Paid, "60000");
   EXPECT_EQ(sale.balance(), "120000|5000");
-  sale.change(row, SaleCol::Number, "3");
+  sale.change(row, LineCol::Number, "3");
   EXPECT_EQ(sale.stock(), "940|100|10|43|47");
   EXPECT_EQ(sale.balance(), "100000|5000");
 
@@ -102,18 +103,18 @@ TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {
 TEST(SalePosting, ACollectionOpensWithTheBalanceAndTakesItDown) {
   Sale sale;
   const int row = sale.newRow(Sale::Plain, "산골식당");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Kind, "수금").col, SaleCol::Income);
-  EXPECT_EQ(sale.cell(row, SaleCol::Item), "가스수금");
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Kind, "수금").col, LineCol::Paid);
+  EXPECT_EQ(sale.cell(row, LineCol::Item), "가스수금");
   EXPECT_EQ(sale.figures(row), "0|0|0|100000|0|100000");
-  sale.change(row, SaleCol::Income, "10000");
+  sale.change(row, LineCol::Paid, "10000");
   EXPECT_EQ(sale.line(1), "2026-03-05|4|가스수금|0|0|0|0|10000|90000");
   EXPECT_EQ(sale.balance(), "90000|5000");
-  sale.change(row, SaleCol::Income, "15000");
+  sale.change(row, LineCol::Paid, "15000");
   EXPECT_EQ(sale.balance(), "85000|5000");
 
   sale.posting.refill();
   EXPECT_EQ(sale.figures(1), "|||100000|15000|85000") << "a collection shows no quantity, price or discount";
-  EXPECT_TRUE(sale.cells().locked(1, SaleCol::Number));
+  EXPECT_TRUE(sale.cells().locked(1, LineCol::Number));
   EXPECT_EQ(sale.entry.missingField(1), 0);
   sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
   sale.posting.deleteRow(1);
@@ -124,11 +125,11 @@ TEST(SalePosting, MaterialLinesBookOnUtilInitButAreDeletedOffGasInit) {
   Sale sale;
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
   const int row = sale.newRow(Sale::Plain, "산골식당");
-  EXPECT_EQ(sale.cell(row, SaleCol::Kind), "자판");
-  sale.entry.enterKey(row, SaleCol::Kind, "자판");
+  EXPECT_EQ(sale.cell(row, LineCol::Kind), "자판");
+  sale.entry.enterKey(row, LineCol::Kind, "자판");
   sale.item(row, "밸브", "15A", 30000);
   EXPECT_EQ(sale.pickers.asked.last(), "item 4");
-  sale.change(row, SaleCol::Income, "10000");
+  sale.change(row, LineCol::Paid, "10000");
   EXPECT_EQ(sale.balance(), "100000|25000");
   EXPECT_EQ(sale.rows("Select UtilStock From Util"), "29");
   sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
@@ -137,9 +138,9 @@ TEST(SalePosting, MaterialLinesBookOnUtilInitButAreDeletedOffGasInit) {
   EXPECT_EQ(sale.rows("Select UtilStock From Util"), "30");
 
   const int collection = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.finishCell(collection, SaleCol::Kind, "자수");
+  sale.entry.finishCell(collection, LineCol::Kind, "자수");
   EXPECT_EQ(sale.figures(collection), "0|0|0|25000|0|25000");
-  sale.change(collection, SaleCol::Income, "5000");
+  sale.change(collection, LineCol::Paid, "5000");
   EXPECT_EQ(sale.balance(), "80000|20000");
   sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
   sale.posting.deleteRow(collection);
@@ -151,19 +152,19 @@ TEST(SalePosting, OnTheVolumeSheetAmountAndCreditStayZero) {
   const int row = sale.newRow(Sale::Metered, "별빛 3동");
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume)
       << "a meter customer found on the general sheet moves over";
-  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  sale.entry.enterKey(row, LineCol::Kind, "가스");
   sale.item(row, "LPG", "50", 90000);
-  sale.change(row, SaleCol::Number, "4");
+  sale.change(row, LineCol::Number, "4");
   EXPECT_EQ(sale.figures(row), "4|90000|0|0|0|0");
   EXPECT_EQ(sale.rows("Select Gubun, SaleNum, Income, Trust From Sale"), "-1|4|0|0");
   EXPECT_EQ(sale.balance(Sale::Metered), "0|0");
   EXPECT_EQ(sale.stock("50"), "800|100|10|44|46");
-  sale.change(row, SaleCol::Amount, "7000");
+  sale.change(row, LineCol::Amount, "7000");
   EXPECT_EQ(sale.figures(row), "4|90000|0|7000|7000|0");
-  sale.change(row, SaleCol::Income, "2000");
+  sale.change(row, LineCol::Paid, "2000");
   EXPECT_EQ(sale.figures(row), "4|90000|0|7000|2000|5000");
   EXPECT_EQ(sale.balance(Sale::Metered), "5000|0");
-  EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Unit, {}).row, 0) << "Enter stays on the volume sheet";
+  EXPECT_EQ(sale.entry.enterKey(row, LineCol::Unit, {}).row, 0) << "Enter stays on the volume sheet";
 }
 
 TEST(SalePosting, TheDeletionNamesItsLine) {
@@ -180,7 +181,7 @@ TEST(SalePosting, TheDayViewTakesTheWorkingYear) {
   sale.run("Update Sale Set SaleDate = '2025-03-05'");
   sale.pc.session.WorkYear = "2025";
   sale.posting.FillSaleGrid(SaleSheet::General, true);
-  EXPECT_EQ(sale.cell(1, SaleCol::Item), "LPG / 20");
+  EXPECT_EQ(sale.cell(1, LineCol::Item), "LPG / 20");
 }
 
 TEST(SalePosting, TheAmountIsOnlyLoweredAndTheIncomeNeverAboveIt) {
@@ -188,45 +189,45 @@ TEST(SalePosting, TheAmountIsOnlyLoweredAndTheIncomeNeverAboveIt) {
   const int row = sale.gasLine();
   sale.pc.prompts.expect("선택된 자료를");
   sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Amount, "40001").end, SaleStep::PutBack);
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Amount, "40001").end, LineStep::PutBack);
   EXPECT_EQ(sale.figures(row), "1|40000|0|40000|40000|0");
-  sale.change(row, SaleCol::Amount, "38000");
-  sale.change(row, SaleCol::Amount, "37000");
+  sale.change(row, LineCol::Amount, "38000");
+  sale.change(row, LineCol::Amount, "37000");
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|3000|37000|0");
   sale.pc.prompts.expect("선택된 자료를");
   sale.pc.prompts.expect("입력제한");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Income, "37001").end, SaleStep::PutBack);
-  EXPECT_EQ(sale.cell(row, SaleCol::Income), "37000");
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Paid, "37001").end, LineStep::PutBack);
+  EXPECT_EQ(sale.cell(row, LineCol::Paid), "37000");
   sale.pc.prompts.expect("입력제한");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Unit, "1000000000").end, SaleStep::Refused);
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Unit, "1000000000").end, LineStep::Refused);
 }
 
 TEST(SalePosting, AStoredLineAsksBeforeItChangesAndKeepsItsKind) {
   Sale sale;
   const int row = sale.gasLine();
   sale.pc.prompts.expect("구분은 변경할 수 없습니다.");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Kind, "수금").end, SaleStep::PutBack);
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Kind, "수금").end, LineStep::PutBack);
   sale.pc.prompts.expect("자료수정", false);
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Number, "9").end, SaleStep::PutBack);
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Number, "9").end, LineStep::PutBack);
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|0|40000|0");
-  EXPECT_EQ(sale.cell(row, SaleCol::Kind) + sale.cell(row, SaleCol::Number), "가스1");
+  EXPECT_EQ(sale.cell(row, LineCol::Kind) + sale.cell(row, LineCol::Number), "가스1");
 }
 
 TEST(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
   Sale sale;
   const int row = sale.gasLine();
-  EXPECT_EQ(sale.change(row, SaleCol::Date, "02-10").col, SaleCol::Client);
+  EXPECT_EQ(sale.change(row, LineCol::Date, "02-10").col, LineCol::Partner);
   EXPECT_EQ(sale.rows("Select SaleDate From Sale"), "2026-02-10");
   EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "2026-02-10");
   EXPECT_EQ(sale.posting.date(), "02-10");
 
   sale.pc.prompts.expect("선택된 자료를");
   sale.pc.prompts.expect("날짜 입력이 올바르지 않습니다!\n입력예) 03.05");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Date, "02-30").col, SaleCol::Date);
-  EXPECT_EQ(sale.cell(row, SaleCol::Date) + sale.posting.date(), "");
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Date, "02-30").col, LineCol::Date);
+  EXPECT_EQ(sale.cell(row, LineCol::Date) + sale.posting.date(), "");
   EXPECT_EQ(sale.rows("Select SaleDate From Sale"), "2026-02-10") << "a wrong day is never written";
   sale.pc.prompts.expect("날짜를 입력하세요");
-  EXPECT_EQ(sale.entry.missingField(row), SaleCol::Date);
+  EXPECT_EQ(sale.entry.missingField(row), LineCol::Date);
   EXPECT_TRUE(sale.posting.setDate("3.5"));
   EXPECT_EQ(sale.posting.date(), "03-05");
 }
@@ -234,14 +235,14 @@ TEST(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
 TEST(SalePosting, AFailedStepLeavesThoseBeforeItAndTheRowAsItWas) {
   Sale sale;
   const int row = sale.gasLine();
-  sale.change(row, SaleCol::Income, "30000");
+  sale.change(row, LineCol::Paid, "30000");
   sale.pc.prompts.expect("선택된 자료를");
-  EXPECT_THROW(sale.entry.finishCell(row, SaleCol::Person, "박'기사"), jet::Error);
-  EXPECT_EQ(sale.cell(row, SaleCol::Person), "");
+  EXPECT_THROW(sale.entry.finishCell(row, LineCol::Person, "박'기사"), jet::Error);
+  EXPECT_EQ(sale.cell(row, LineCol::Person), "");
   sale.pc.session.StockEnabled = false;
-  sale.cells().setText(row, SaleCol::Item, "L'PG / 20");
-  sale.cells().setText(row, SaleCol::Trust, "15000");
-  EXPECT_THROW(sale.posting.PostSaleRow(row, SaleSheet::General), jet::Error);
+  sale.cells().setText(row, LineCol::Item, "L'PG / 20");
+  sale.cells().setText(row, LineCol::Trust, "15000");
+  EXPECT_THROW(sale.posting.postRow(row), jet::Error);
   EXPECT_EQ(sale.balance(), "115000|5000") << "10,000 of the line, then 5,000 more before the update failed";
   EXPECT_EQ(sale.rows("Select SaleName, Trust From Sale"), "LPG|10000");
 }
@@ -249,13 +250,13 @@ TEST(SalePosting, AFailedStepLeavesThoseBeforeItAndTheRowAsItWas) {
 TEST(SalePosting, WithoutAnItemOnlyTheBalanceMoves) {
   Sale sale;
   const int row = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.enterKey(row, SaleCol::Kind, "가스");
-  sale.cells().setText(row, SaleCol::Trust, "700");
-  sale.posting.PostSaleRow(row, SaleSheet::General);
+  sale.entry.enterKey(row, LineCol::Kind, "가스");
+  sale.cells().setText(row, LineCol::Trust, "700");
+  sale.posting.postRow(row);
   EXPECT_EQ(sale.balance(), "100700|5000");
   EXPECT_EQ(sale.line(1), "2026-03-05|1||0|0|0|0|0|0");
   sale.pc.prompts.expect("품명을 검색하세요");
-  EXPECT_EQ(sale.entry.missingField(row), SaleCol::Item);
+  EXPECT_EQ(sale.entry.missingField(row), LineCol::Item);
 }
 
 TEST(SalePosting, SheetsShowTheirLinesOfADayOrOfACustomer) {
@@ -272,17 +273,17 @@ TEST(SalePosting, SheetsShowTheirLinesOfADayOrOfACustomer) {
 
   sale.posting.FillSaleGrid(SaleSheet::General, true);
   ASSERT_EQ(sale.cells().MaxRows(), 2) << "one line and the spare row";
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "한빛 101동 202호");
-  EXPECT_EQ(sale.cell(1, SaleCol::Item), "LPG / 20");
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "한빛 101동 202호");
+  EXPECT_EQ(sale.cell(1, LineCol::Item), "LPG / 20");
   EXPECT_EQ(sale.figures(1), "2|40000|1000|79000|50000|29000");
   sale.posting.setClient(2);
   sale.posting.FillSaleGrid(SaleSheet::General, false);
   ASSERT_EQ(sale.cells().MaxRows(), 3) << "this year's and last year's lines";
-  EXPECT_EQ(sale.cell(1, SaleCol::Kind), "실병") << "a kind outside the table stands at the last position";
+  EXPECT_EQ(sale.cell(1, LineCol::Kind), "실병") << "a kind outside the table stands at the last position";
   sale.posting.FillSaleGrid(SaleSheet::Volume, true);
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "별빛 3동");
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "별빛 3동");
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
-  EXPECT_EQ(sale.cell(1, SaleCol::Item) + sale.figures(1), "자재수금|||5000|3000|2000");
+  EXPECT_EQ(sale.cell(1, LineCol::Item) + sale.figures(1), "자재수금|||5000|3000|2000");
 
   const SaleClientPanel panel = sale.posting.panel(1);
   EXPECT_EQ(panel.address + panel.gasTrust + panel.utilTrust, "(706-010) 대구 수성구 1100,0005,000");
@@ -297,11 +298,11 @@ TEST(SaleEntry, ChoosingACustomerOnAStoredLineOpensTheBottomRow) {
   ASSERT_EQ(sale.cells().MaxRows(), 2);
   sale.pickers.clients = {ClientChoice{2, "한빛 101동 202호"}, ClientChoice{2, "한빛 101동 202호"}};
   sale.pc.prompts.expect("선택된 고객을 수정하시겠습니까?", false);
-  EXPECT_EQ(sale.entry.search(1, SaleCol::Client, {}).end, SaleStep::PutBack);
+  EXPECT_EQ(sale.entry.search(1, LineCol::Partner, {}).end, LineStep::PutBack);
   sale.pc.prompts.expect("고객수정");
-  const SaleStep step = sale.entry.search(1, SaleCol::Client, {});
+  const LineStep step = sale.entry.search(1, LineCol::Partner, {});
   EXPECT_EQ(step.row, 1);
-  EXPECT_EQ(sale.cell(1, SaleCol::Client) + sale.cell(1, SaleCol::Code) + sale.cell(1, SaleCol::Date),
+  EXPECT_EQ(sale.cell(1, LineCol::Partner) + sale.cell(1, LineCol::Code) + sale.cell(1, LineCol::Date),
             "한빛 101동 202호203-05");
   EXPECT_EQ(sale.rows("Select ClientCode From Sale"), "1");
 }
@@ -310,51 +311,51 @@ TEST(SaleEntry, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
   Sale sale;
   const int row = sale.gasLine();
   sale.pickers.persons = {QString("홍길동")};
-  SaleStep step = sale.entry.enterKey(row, SaleCol::Person, {});
+  LineStep step = sale.entry.enterKey(row, LineCol::Person, {});
   EXPECT_EQ(step.row, row + 1);
-  EXPECT_EQ(step.col, SaleCol::Client);
+  EXPECT_EQ(step.col, LineCol::Partner);
   EXPECT_EQ(sale.rows("Select Response From Sale"), "홍길동");
   EXPECT_EQ(sale.entry.missingField(row + 1), 0) << "an empty row may be left";
   sale.pc.prompts.expect("선택된 자료를");
-  EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Client, "다른 이름").col, SaleCol::Client);
-  EXPECT_EQ(sale.cell(row, SaleCol::Client), "") << "a name only comes from the search";
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Partner, "다른 이름").col, LineCol::Partner);
+  EXPECT_EQ(sale.cell(row, LineCol::Partner), "") << "a name only comes from the search";
   sale.pickers.persons = {QString("홍길동")};
   sale.pc.prompts.expect("고객명을 검색하세요");
-  EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Person, {}).col, SaleCol::Client);
+  EXPECT_EQ(sale.entry.enterKey(row, LineCol::Person, {}).col, LineCol::Partner);
 }
 
 TEST(SaleEntry, NobodyChosenLeavesTheCustomerCellEmpty) {
   Sale sale;
-  SaleStep step = sale.entry.enterKey(1, SaleCol::Client, "산골");
-  EXPECT_EQ(step.end, SaleStep::PutBack) << "nothing is open any more";
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  LineStep step = sale.entry.enterKey(1, LineCol::Partner, "산골");
+  EXPECT_EQ(step.end, LineStep::PutBack) << "nothing is open any more";
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
   const int row = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.enterKey(row, SaleCol::Client, "한빛");
-  EXPECT_EQ(sale.cell(row, SaleCol::Client) + sale.cell(row, SaleCol::Code), "산골식당1") << "chosen before";
-  sale.entry.finishCell(row, SaleCol::Client, "한빛");
-  EXPECT_EQ(sale.cell(row, SaleCol::Client) + sale.cell(row, SaleCol::Code), "");
-  sale.entry.enterKey(row, SaleCol::Kind, "가스");
+  sale.entry.enterKey(row, LineCol::Partner, "한빛");
+  EXPECT_EQ(sale.cell(row, LineCol::Partner) + sale.cell(row, LineCol::Code), "산골식당1") << "chosen before";
+  sale.entry.finishCell(row, LineCol::Partner, "한빛");
+  EXPECT_EQ(sale.cell(row, LineCol::Partner) + sale.cell(row, LineCol::Code), "");
+  sale.entry.enterKey(row, LineCol::Kind, "가스");
   EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "0") << "no line for a customer whom nobody sees";
 }
 
 TEST(SaleEntry, TheWholeNumberOfACallerComesFirstOverAllCustomers) {
   Sale sale;
-  sale.pickers.during = [&] { EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Client, {})); };
-  ASSERT_TRUE(sale.entry.canTakeCaller(SaleCol::Client, {}));
-  EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Client, "김"));
-  EXPECT_FALSE(sale.entry.canTakeCaller(SaleCol::Date, {}));
+  sale.pickers.during = [&] { EXPECT_FALSE(sale.entry.canTakeCaller(LineCol::Partner, {})); };
+  ASSERT_TRUE(sale.entry.canTakeCaller(LineCol::Partner, {}));
+  EXPECT_FALSE(sale.entry.canTakeCaller(LineCol::Partner, "김"));
+  EXPECT_FALSE(sale.entry.canTakeCaller(LineCol::Date, {}));
   // A meter customer of another area, found first by the end of the number.
   sale.run("Update Client Set Tel2 = '02-123-4567' Where Code = 3");
   sale.run("Update Client Set UName = '9999 4567' Where Code = 2");
   const auto landed = sale.entry.TakeCallerNumber("0531234567");
   ASSERT_TRUE(landed);
-  EXPECT_EQ(landed->end, SaleStep::Done);
-  EXPECT_EQ(landed->col, SaleCol::Kind);
-  EXPECT_EQ(sale.cell(landed->row, SaleCol::Client), "산골식당");
-  EXPECT_EQ(sale.entry.TakeCallerNumber("99994567")->end, SaleStep::Done) << "the search name, other dashes";
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "한빛 101동 202호");
+  EXPECT_EQ(landed->end, LineStep::Done);
+  EXPECT_EQ(landed->col, LineCol::Kind);
+  EXPECT_EQ(sale.cell(landed->row, LineCol::Partner), "산골식당");
+  EXPECT_EQ(sale.entry.TakeCallerNumber("99994567")->end, LineStep::Done) << "the search name, other dashes";
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "한빛 101동 202호");
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
-  EXPECT_EQ(sale.entry.TakeCallerNumber("021234567")->end, SaleStep::Done);
+  EXPECT_EQ(sale.entry.TakeCallerNumber("021234567")->end, LineStep::Done);
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
   EXPECT_TRUE(sale.pickers.asked.isEmpty()) << "nobody had to be looked for";
   sale.run("Update Client Set Tel2 = '053-123-4567' Where Code = 2");
@@ -370,21 +371,21 @@ TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
   ASSERT_TRUE(landed);
   EXPECT_EQ(sale.pickers.asked.value(0), "client 053-345-6789 2 1") << "over all customers, as a list";
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
-  EXPECT_EQ(landed->col, SaleCol::Kind);
-  EXPECT_EQ(sale.entry.TakeCallerNumber("0533456789")->end, SaleStep::Done);
+  EXPECT_EQ(landed->col, LineCol::Kind);
+  EXPECT_EQ(sale.entry.TakeCallerNumber("0533456789")->end, LineStep::Done);
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::General) << "the one chosen decides the sheet";
 
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
   EXPECT_FALSE(sale.entry.TakeCallerNumber({})) << "nobody waits";
   sale.calls.numbers = {"0212345678", "0533456789"};
-  EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, SaleStep::PutBack) << "nobody chosen";
+  EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, LineStep::PutBack) << "nobody chosen";
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Material) << "an unknown number leaves the sheet";
-  EXPECT_EQ(sale.cell(1, SaleCol::Client), "");
+  EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
   EXPECT_EQ(sale.calls.numbers, QStringList{"0533456789"}) << "fetched";
   sale.posting.beforeFill = [&] { sale.pc.session.dbYear.Close(); };
   sale.calls.numbers = {"0531234567"};
   sale.pc.prompts.expect("Select Sale.*");
-  EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, SaleStep::PutBack);
+  EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, LineStep::PutBack);
   EXPECT_EQ(sale.calls.numbers, QStringList{"0531234567"}) << "told, and no call is lost";
   sale.calls.numbers = {"0533456789"};
   EXPECT_THROW(sale.entry.TakeCallerNumber({}), jet::Error);
@@ -395,18 +396,18 @@ TEST(SaleEntry, AnItemTypedInItsCellIsOneOfTheCatalogueOrNothing) {
   Sale sale;
   sale.run("Update LPG Set LPGSelling = 27000 Where Size = '50'");
   const int row = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.enterKey(row, SaleCol::Kind, "가스");
-  EXPECT_EQ(sale.entry.enterKey(row, SaleCol::Item, "50").col, SaleCol::Amount) << "a size is enough";
+  sale.entry.enterKey(row, LineCol::Kind, "가스");
+  EXPECT_EQ(sale.entry.enterKey(row, LineCol::Item, "50").col, LineCol::Amount) << "a size is enough";
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|50|1|27000|0|27000|0");
   EXPECT_TRUE(sale.pickers.asked.filter("item").isEmpty());
   for (const char* const nothing : {"45", "lpg", "LPG / 45", "밸브 / 15A", ""}) {
     sale.pc.prompts.expect("등록된 품명이 아닙니다!");
-    EXPECT_EQ(sale.entry.finishCell(row, SaleCol::Item, nothing).end, SaleStep::Refused) << nothing;
+    EXPECT_EQ(sale.entry.finishCell(row, LineCol::Item, nothing).end, LineStep::Refused) << nothing;
   }
-  sale.entry.enterKey(row, SaleCol::Item, "lpg");
+  sale.entry.enterKey(row, LineCol::Item, "lpg");
   EXPECT_EQ(sale.pickers.asked.last(), "item 1") << "two sizes of that name: the list";
-  sale.change(row, SaleCol::Number, "3");
-  sale.change(row, SaleCol::Item, "lpg / 20");
+  sale.change(row, LineCol::Number, "3");
+  sale.change(row, LineCol::Item, "lpg / 20");
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|3|27000|0|81000|0") << "another whole name keeps the figures";
 }
 
@@ -415,14 +416,14 @@ TEST(SaleEntry, ALineTooLargeForTheBookIsToldBeforeAnythingIsWritten) {
   const int row = sale.gasLine();
   const QString before = sale.figures(row) + sale.line(1) + sale.stock() + sale.balance();
   for (const auto& [col, typed] :
-       {std::pair(SaleCol::Number, "25000"), std::pair(SaleCol::Discount, "-999970000")}) {
+       {std::pair(LineCol::Number, "25000"), std::pair(LineCol::Discount, "-999970000")}) {
     sale.pc.prompts.expect("선택된 자료를");
     sale.pc.prompts.expect("한 줄의 금액은 999,999,999원을 넘을 수 없습니다!");
-    EXPECT_EQ(sale.entry.finishCell(row, col, typed).end, SaleStep::Refused);
+    EXPECT_EQ(sale.entry.finishCell(row, col, typed).end, LineStep::Refused);
     EXPECT_EQ(sale.figures(row) + sale.line(1) + sale.stock() + sale.balance(), before);
   }
-  sale.change(row, SaleCol::Number, "24999");
-  EXPECT_EQ(sale.cell(row, SaleCol::Amount), "999960000");
+  sale.change(row, LineCol::Number, "24999");
+  EXPECT_EQ(sale.cell(row, LineCol::Amount), "999960000");
 }
 
 }  // namespace

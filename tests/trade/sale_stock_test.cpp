@@ -19,20 +19,20 @@ TEST_P(SaleStockOf, FollowsNewChangedAndDeletedLine) {
   desk.run(
       "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing) Values('2026-03-05', 1, 1, False, "
       "'0')");
-  SaleLine line;
-  line.kind = of.kind;
+  TradeLine line;
+  line.kind = &saleKind(of.kind);
   line.item = {"LPG", "20"};
   line.key = "1";
 
   line.number = 2;
-  ApplySaleStock(desk.pc.session, line, StockMode::Change);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
   EXPECT_EQ(desk.stock(), of.ofTwo);
   desk.run("Update Sale Set SaleNum = 2, SaleThing = '20'");
   line.number = 3;
-  ApplySaleStock(desk.pc.session, line, StockMode::Change);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
   EXPECT_EQ(desk.stock(), of.ofThree);
   desk.run("Update Sale Set SaleNum = 3");
-  ApplySaleStock(desk.pc.session, line, StockMode::Delete);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
   EXPECT_EQ(desk.stock(), "1000|100|10|40|50");
   EXPECT_EQ(desk.stock("50"), "1000|100|10|40|50");
 }
@@ -50,14 +50,14 @@ TEST(SaleStock, MaterialMovesByNameAndSpecification) {
   desk.run(
       "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
       "Values('2026-03-05', 1, 7, False, '15A', 4)");
-  SaleLine line;
-  line.kind = SaleMaterial;
+  TradeLine line;
+  line.kind = &saleKind(SaleMaterial);
   line.item = {"밸브", "15A"};
   line.key = "1";
   line.number = 6;
-  ApplySaleStock(desk.pc.session, line, StockMode::Change);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
   EXPECT_EQ(desk.rows("Select UtilStock From Util"), "28");
-  ApplySaleStock(desk.pc.session, line, StockMode::Delete);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
   EXPECT_EQ(desk.rows("Select UtilStock From Util"), "32") << "a deletion gives back what is stored";
 }
 
@@ -66,12 +66,12 @@ TEST(SaleStock, ADeletedGasLineGivesBackStoredKilogramsAndShownPieces) {
   desk.run(
       "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
       "Values('2026-03-05', 1, 1, False, '20', 5)");
-  SaleLine line;
-  line.kind = SaleGas;
+  TradeLine line;
+  line.kind = &saleKind(SaleGas);
   line.item = {"LPG", "20"};
   line.key = "1";
   line.number = 3;
-  ApplySaleStock(desk.pc.session, line, StockMode::Delete);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
   EXPECT_EQ(desk.stock(), "1100|100|10|37|53");
 }
 
@@ -80,12 +80,12 @@ TEST(SaleStock, AChangedItemIsNotGivenItsStockBack) {
   desk.run(
       "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
       "Values('2026-03-05', 1, 1, False, '20', 2)");
-  SaleLine line;
-  line.kind = SaleGas;
+  TradeLine line;
+  line.kind = &saleKind(SaleGas);
   line.item = {"LPG", "50"};
   line.key = "1";
   line.number = 2;
-  ApplySaleStock(desk.pc.session, line, StockMode::Change);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
   EXPECT_EQ(desk.stock("20"), "1000|100|10|40|50");
   EXPECT_EQ(desk.stock("50"), "940|100|10|40|50") << "20 x 2 back and 50 x 2 out, both on the item named now";
 }
@@ -95,14 +95,14 @@ TEST(SaleStock, NothingMovesWithoutManagementOrItem) {
   desk.run(
       "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing) Values('2026-03-05', 1, 1, False, "
       "'0')");
-  SaleLine line;
-  line.kind = SaleGas;
+  TradeLine line;
+  line.kind = &saleKind(SaleGas);
   line.key = "1";
   line.number = 2;
-  ApplySaleStock(desk.pc.session, line, StockMode::Change);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
   desk.pc.session.StockEnabled = false;
   line.item = {"LPG", "20"};
-  ApplySaleStock(desk.pc.session, line, StockMode::Change);
+  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
   EXPECT_EQ(desk.stock(), "1000|100|10|40|50");
 }
 

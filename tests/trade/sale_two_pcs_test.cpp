@@ -7,7 +7,7 @@ using tests::OtherDesk;
 using tests::SaleDesk;
 
 struct SaleOnTwoPcs : SaleDesk, testing::Test {
-  SalePosting posting{pc.session};
+  SaleBook posting{pc.session};
   SaleEntry entry{posting, pickers, calls};
 
   /** A stored line of two pieces at 40,000 won, 30,000 of it on credit, open on both screens. */
@@ -24,11 +24,11 @@ struct SaleOnTwoPcs : SaleDesk, testing::Test {
   }
   void here(int col, const char* typed) {
     pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
-    EXPECT_EQ(entry.finishCell(1, col, typed).end, SaleStep::Done);
+    EXPECT_EQ(entry.finishCell(1, col, typed).end, LineStep::Done);
   }
-  void there(int col, const char* typed, SaleStep::End end) {
+  void there(int col, const char* typed, LineStep::End end) {
     other->prompts.expect("선택된 자료를 변경하시겠습니까?");
-    if (end == SaleStep::PutBack) other->prompts.expect(word);
+    if (end == LineStep::PutBack) other->prompts.expect(word);
     EXPECT_EQ(other->entry.finishCell(1, col, typed).end, end);
   }
 
@@ -37,17 +37,17 @@ struct SaleOnTwoPcs : SaleDesk, testing::Test {
 };
 
 TEST_F(SaleOnTwoPcs, AChangedLineIsToldAndReadAgainAndNothingMoves) {
-  here(SaleCol::Income, "60000");
-  here(SaleCol::Person, "나대로");
+  here(LineCol::Paid, "60000");
+  here(LineCol::Person, "나대로");
   const QString after = books();
   ASSERT_EQ(after, "90000|5000 1000|100|10|40|50 2|60000|0|20000|나대로");
-  for (const int col : {SaleCol::Number, SaleCol::Unit, SaleCol::Amount, SaleCol::Income, SaleCol::Person}) {
+  for (const int col : {LineCol::Number, LineCol::Unit, LineCol::Amount, LineCol::Paid, LineCol::Person}) {
     other->posting.setKnown(1, "as it was before");
-    there(col, "20000", SaleStep::PutBack);
+    there(col, "20000", LineStep::PutBack);
     EXPECT_EQ(books(), after);
-    EXPECT_EQ(other->posting.grid(SaleSheet::General).text(1, SaleCol::Income), "60000");
+    EXPECT_EQ(other->posting.sheetGrid(SaleSheet::General).text(1, LineCol::Paid), "60000");
   }
-  there(SaleCol::Income, "70000", SaleStep::Done);  // on the line as it stands now
+  there(LineCol::Paid, "70000", LineStep::Done);  // on the line as it stands now
   EXPECT_EQ(balance(), "80000|5000")
       << "moved by the difference of the two PCs' figures, one after the other";
 }
@@ -82,8 +82,8 @@ TEST_F(SaleOnTwoPcs, ADeletedLineIsNeitherChangedNorDeletedAgain) {
   const QString after = books();
   EXPECT_EQ(after, "70000|5000 1040|100|10|38|52 ");
   word = "다른 PC에서 이미 삭제한 자료입니다!";
-  there(SaleCol::Number, "5", SaleStep::PutBack);
-  EXPECT_EQ(other->posting.grid(SaleSheet::General).MaxRows(), 1) << "read again";
+  there(LineCol::Number, "5", LineStep::PutBack);
+  EXPECT_EQ(other->posting.sheetGrid(SaleSheet::General).MaxRows(), 1) << "read again";
   EXPECT_EQ(books(), after);
 }
 
@@ -99,11 +99,11 @@ TEST_F(SaleOnTwoPcs, ADoubleDeletionTakesTheLineOffOnce) {
 
 TEST_F(SaleOnTwoPcs, LinesOfOneCustomerMoveHisBalanceTogether) {
   other->pickers.clients.push_back(ClientChoice{Plain, "산골식당"});
-  const int row = other->entry.enterKey(2, SaleCol::Client, "산골").row;
-  other->entry.finishCell(row, SaleCol::Kind, "수금");
-  here(SaleCol::Income, "80000");  // 30,000 won of credit less
+  const int row = other->entry.enterKey(2, LineCol::Partner, "산골").row;
+  other->entry.finishCell(row, LineCol::Kind, "수금");
+  here(LineCol::Paid, "80000");  // 30,000 won of credit less
   other->prompts.expect("선택된 자료를");
-  other->entry.finishCell(row, SaleCol::Income, "10000");
+  other->entry.finishCell(row, LineCol::Paid, "10000");
   EXPECT_EQ(balance(), "60000|5000");
 }
 
