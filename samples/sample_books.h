@@ -11,6 +11,8 @@ namespace samples {
  *  figure equals what its lines add up to. Throws jet::Error. */
 void makeBooks(pc::Pc& pc, Prompts& prompts);
 
+/** What lay in stock of every item before the first line: pieces of each cylinder, pieces of each fitting. */
+inline constexpr qint64 openingFull = 60, openingEmpty = 25, openingFittings = 30;
 /** The sample company's password. */
 inline constexpr char password[] = "1234";
 /** The customer who calls on the sample day, and what is owed for gas, won. */

@@ -47,8 +47,8 @@ void postcodes(Town& town) {
 void catalogue(Town& town) {
   for (size_t at = 0; at < gases.size(); ++at) {
     GasStock& stock = town.stocks[at];
-    stock.full = 60;
-    stock.empty = 25;
+    stock.full = openingFull;
+    stock.empty = openingEmpty;
     stock.total = stock.full + stock.empty;
     stock.kilograms = stock.full * gases[at].size;
   }
@@ -65,7 +65,16 @@ void catalogue(Town& town) {
         "Insert into Util(Name,  Size, SizeSize, UtilPurchase, UtilSelling, UtilStock) Values(" +
         quoted(material.name) + ", " + quoted(material.size) + ", " + quoted(material.unit) + ", " +
         number(material.purchase) + ", " + number(material.selling) + ", 0)");
-  town.materialStock.fill(2000);
+  town.materialStock.fill(openingFittings);
+  int full = 4;
+  for (const char* const name : staff)
+    for (const Gas& gas : {gases[0], gases[1]}) {
+      town.basic.Execute(
+          "Insert Into ResCAN(ResName, LPGName, CANSize, CANFull, CANEmpty, CANTotal) Values(" +
+          quoted(name) + ", " + quoted(gas.name) + ", " + number(gas.size) + ", " + number(full) + ", 2, " +
+          number(full + 2) + ")");
+      full = full % 7 + 2;
+    }
 }
 
 }  // namespace

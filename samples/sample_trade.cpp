@@ -1,7 +1,8 @@
-// Two years of deliveries, collections, loans and purchases.
+// Two years of deliveries, collections and loans, and of the purchases that make them possible.
 #include <algorithm>
 
 #include "samples/sample_books.h"
+#include "samples/sample_purchases.h"
 #include "samples/sample_town.h"
 
 namespace samples {
@@ -22,39 +23,13 @@ class Trade {
       if (day.dayOfWeek() == Qt::Sunday) continue;
       today_ = day.toString(u"yyyy-MM-dd");
       year_ = day.year() == today.year() ? &town.thisYear : &town.lastYear;
-      restock();
+      purchases_.day(day, *year_);
       for (int lines = 8 + town.dice.roll(8); lines > 0; --lines) line();
     }
+    purchases_.writeDebts();
   }
 
  private:
-  /** Empty cylinders go to the station and come back filled; where too few are left, filled ones are bought. */
-  void restock() {
-    for (size_t at = 0; at < gases.size(); ++at) {
-      GasStock& stock = town.stocks[at];
-      if (stock.full >= 20) continue;
-      const qint64 refilled = stock.empty > 5 ? stock.empty - 5 : 0;
-      buy(at, 1, gases[at].purchase, refilled);
-      stock.empty -= refilled;
-      const qint64 bought = stock.full < 40 ? 60 - stock.full : 0;
-      buy(at, 3, gases[at].purchase + gases[at].canPurchase, bought);
-      stock.total += bought;
-    }
-  }
-
-  void buy(size_t item, int kind, qint64 price, qint64 count) {
-    if (count == 0) return;
-    const Gas& gas = gases[item];
-    year_->Execute(
-        "Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseUnit, PurchaseNum, "
-        "PurchaseGubun, Pay, DC, Trust) Values('" +
-        today_ + "', " + quoted(stations[item % stations.size()]) + ", " + quoted(staff[0]) + ", " +
-        quoted(gas.name) + ", '" + number(gas.size) + "', " + number(price) + ", " + number(count) + ", " +
-        number(kind) + ", " + number(count * price) + ", 0, 0)");
-    town.stocks[item].full += count;
-    town.stocks[item].kilograms += count * gas.size;
-  }
-
   void line() {
     const size_t who = size_t(town.dice.roll(int(town.customers.size()) - 1));
     Customer& customer = town.customers[who];
@@ -137,6 +112,7 @@ class Trade {
   }
 
   Town& town;
+  Purchases purchases_{town};
   QString today_;
   const jet::Database* year_ = nullptr;
 };

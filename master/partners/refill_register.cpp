@@ -1,6 +1,7 @@
 #include "master/partners/refill_register.h"
 
 #include "store/data_access.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -78,7 +79,8 @@ RegisterRules::Outcome RefillRegister::change(const RegisterFields& boxes) {
   const QString company = boxes[u"Company"_s], code = record()[u"Code"_s];
   if (company.isEmpty()) return refuse(companyMissing, refillTitle, u"Company"_s);
   if (!nameAccepted(company, code)) return {false, u"Company"_s};
-  return changeChosen(
+  QString renamed;  // the name that its lines of purchase hold so far
+  const Outcome outcome = changeChosen(
       boxes, refillTitle,
       [&](const RowChange& change, const RegisterFields& row, const RegisterFields& stored) {
         session_.dbBasic.Execute(
@@ -87,7 +89,31 @@ RegisterRules::Outcome RefillRegister::change(const RegisterFields& boxes) {
             plainText(row[u"Tel"_s]) + u"', Address = '"_s + plainText(row[u"Address"_s]) + u"', Fax = '"_s +
             plainText(row[u"Fax"_s]) + u"', PostCode = '"_s + plainText(row[u"PostCode"_s]) + u"'"_s +
             movedFigures(change, stored) + u" Where Code = '"_s + plainText(code) + u"'"_s);
+        renamed = stored[u"Company"_s];
+        renameLines(session_.dbYear, renamed, row[u"Company"_s]);
       });
+  if (!outcome.done || renamed.isEmpty()) return outcome;
+  walkYears(session_, [&](const QString& file) {
+    jet::Database year;
+    if (file == yearFile(session_, session_.WorkYear)) return;
+    if (OpenDB(session_.wsMain, year, file))
+      renameLines(year, renamed, company);
+    else
+      session_.prompts.MsgWarn(file + u"\n파일을 열 수 없어 이 해의 구매자료는 예전 상호로 남았습니다!"_s,
+                               refillTitle);
+  });
+  return outcome;
+}
+
+/** Lines go by the station's name. Where another station still carries the old one, they stay with that. */
+void RefillRegister::renameLines(const jet::Database& year, const QString& from, const QString& to) const {
+  if (from == to ||
+      !session_.dbBasic
+           .OpenRecordset(u"Select Code From RefillState Where Company = '"_s + copiedText(from) + u"'"_s)
+           .atEnd())
+    return;
+  year.Execute(u"Update Buy Set BuyCompany = '"_s + plainText(to) + u"' Where BuyCompany = '"_s +
+               copiedText(from) + u"'"_s);
 }
 
 // Goes by the name that purchases hold: a second station of the same name goes too; kept.

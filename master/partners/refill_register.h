@@ -19,6 +19,7 @@ class RefillRegister : public RegisterRules {
  private:
   /** False when the operator would rather not have two stations of one name. */
   bool nameAccepted(const QString& company, const QString& ownCode);
+  void renameLines(const jet::Database& year, const QString& from, const QString& to) const;
   QString nextCode() const;
   void insertWith(const RegisterFields& boxes, const QString& code);
 };

@@ -6,6 +6,7 @@
 #include "master/partners/refill_register.h"
 #include "master/partners/response_register.h"
 #include "master/registers/register_search.h"
+#include "store/year_file.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -44,6 +45,37 @@ struct PostCodeTest : PartnerRegistersTest {
   SpreadModel list;
   PostCodeSearch search{pc.session};
 };
+
+TEST_F(PartnerRegistersTest, LinesOfPurchaseFollowTheirStationsNewName) {
+  makeYearFile(pc.session, u"2025"_s);
+  const auto lastYear = [&] { return openYear(pc.session, u"2025"_s); };
+  const QString line = u"Insert Into Buy(BuyDate, BuyCompany, PurchaseGubun) Values('2026-01-02', '"_s;
+  pc.session.dbYear.Execute(line + u"한강', 1)"_s);
+  pc.session.dbYear.Execute(line + u"낙동', 1)"_s);
+  lastYear().Execute(line + u"한강', 1)"_s);
+  for (const QString& station : {u"'한강', '0001'"_s, u"'낙동', '0002'"_s, u"'낙동', '0003'"_s})
+    pc.session.dbBasic.Execute(u"Insert Into RefillState(Company, Code) Values("_s + station + u')');
+  RefillRegister refills(pc.session);
+  ASSERT_TRUE(refills.load());
+  const auto rename = [&](int row, const QString& to) {
+    RegisterFields boxes = refills.select(row);
+    boxes[u"Company"_s] = to;
+    return refills.save(boxes).done;
+  };
+  const auto stations = [](const jet::Database& year) {
+    QStringList names;
+    for (auto buy = year.OpenRecordset(u"Select BuyCompany From Buy Order By BuyID"_s); !buy.atEnd();
+         buy.MoveNext())
+      names << buy[0].toText();
+    return names;
+  };
+  ASSERT_TRUE(rename(1, u"새한강"_s));
+  EXPECT_EQ(stations(pc.session.dbYear), QStringList({u"새한강"_s, u"낙동"_s}));
+  EXPECT_EQ(stations(lastYear()), QStringList({u"새한강"_s}));
+  ASSERT_TRUE(rename(2, u"영남"_s));
+  EXPECT_EQ(stations(pc.session.dbYear), QStringList({u"새한강"_s, u"낙동"_s}))
+      << "another station of the old name keeps the lines";
+}
 
 TEST_F(PartnerRegistersTest, SuppliersOfOneNameAskFirstAndGoTogether) {
   RefillRegister refills(pc.session);

@@ -1,0 +1,174 @@
+// Stations, lists and two PCs on the purchase screen; the figures are in buy_cases.txt.
+#include "tests/trade/buy_desk.h"
+
+namespace {
+
+struct Buy : tests::BuyDesk {
+  BuyBook book{pc.session};
+  BuyEntry entry{book, pickers};
+
+  Buy() { book.FillBuyGrid(true); }
+  SpreadModel& cells() { return book.grid(); }
+  QString cell(int row, int col) { return cells().text(row, col); }
+  /** A line of so many pieces at the price, all on credit; its row. */
+  int bought(const QString& station, int pieces, double price) {
+    pickers.refills.push_back(station);
+    const int row = entry.enterKey(cells().MaxRows(), LineCol::Partner, {}).row;
+    entry.enteredRow(row);
+    entry.enterKey(row, LineCol::Kind, "가스");
+    pickers.items.push_back(ItemChoice{"LPG", "20", price, 0});
+    entry.enterKey(row, LineCol::Item, {});
+    pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+    entry.finishCell(row, LineCol::Number, QString::number(pieces));
+    entry.onCredit(row);
+    entry.makeRoomBelow(row);
+    return row;
+  }
+};
+
+TEST(BuyEntry, TheStationIsFoundByNameTelephoneOrAddress) {
+  Buy buy;
+  const auto typed = [&](const QString& text) {
+    buy.book.FillBuyGrid(true);
+    buy.entry.enterKey(1, LineCol::Partner, text);
+    return buy.cell(1, LineCol::Code);
+  };
+  EXPECT_EQ(typed("333-44"), "낙동");
+  EXPECT_EQ(typed("강변"), "한강");
+  EXPECT_TRUE(buy.pickers.asked.isEmpty());
+  EXPECT_EQ(typed("로"), "") << "both addresses: the list opens, and nobody is chosen";
+  EXPECT_EQ(buy.pickers.asked.takeLast(), "station");
+  buy.run("Insert Into RefillState(Code, Company, Address) Values('0003', '한강2', '낙동')");
+  EXPECT_EQ(typed("한강"), "한강") << "the whole name goes before a part of another";
+  EXPECT_EQ(typed("낙동"), "낙동");
+}
+
+TEST(BuyEntry, AChosenStationShowsItsLinesAndEscShowsAll) {
+  Buy buy;
+  const int row = buy.bought("한강", 2, 30000);
+  buy.entry.enteredRow(row + 1);
+  buy.bought("낙동", 1, 31000);
+  EXPECT_EQ(buy.cells().MaxRows(), 2) << "낙동's line and the empty row";
+  buy.book.FillBuyGrid(true);
+  EXPECT_EQ(buy.cells().MaxRows(), 3);
+  EXPECT_EQ(buy.cell(1, LineCol::Partner) + buy.cell(2, LineCol::Partner), "한강낙동");
+  EXPECT_EQ(buy.book.panel(1).address, "(100-200) 강변로 7");
+  EXPECT_EQ(buy.book.panel(1).gasOwed, "260,000");
+  EXPECT_EQ(buy.book.panel(1).utilOwed, "7,000");
+  EXPECT_EQ(buy.book.panel(3).tel, "");
+  EXPECT_EQ(buy.book.lastLines(1).front().amount, "60,000");
+}
+
+TEST(BuyEntry, ANewLineOffersTheStationsLastItemOfTheKind) {
+  Buy buy;
+  buy.bought("한강", 2, 30000);
+  buy.pickers.refills.push_back("한강");
+  const int row = buy.entry.enterKey(buy.cells().MaxRows(), LineCol::Partner, {}).row;
+  EXPECT_EQ(buy.cells().offer(row, LineCol::Item), "LPG / 20");
+  buy.entry.enteredRow(row);
+  buy.entry.enterKey(row, LineCol::Kind, "가스");
+  EXPECT_EQ(buy.entry.enterKey(row, LineCol::Item, {}).col, LineCol::Number);
+  EXPECT_EQ(buy.cell(row, LineCol::Paid), "30000");
+}
+
+TEST(BuyEntry, MaterialsOpenWithTheirOwnKind) {
+  Buy buy;
+  buy.entry.buysMaterials(true);
+  buy.pickers.refills.push_back("한강");
+  const int row = buy.entry.enterKey(1, LineCol::Partner, {}).row;
+  buy.entry.enteredRow(row);
+  EXPECT_EQ(buy.cell(row, LineCol::Kind), "자재");
+  buy.entry.enterKey(row, LineCol::Kind, "자재");
+  buy.pickers.items.push_back(ItemChoice{"밸브", "15A", 8000, 0});
+  buy.entry.enterKey(row, LineCol::Item, {});
+  EXPECT_EQ(buy.pickers.asked.last(), "purchase 4");
+  EXPECT_EQ(buy.line(), "한강|4|밸브|15A|1|8000|0|8000|0|");
+}
+
+TEST(BuyEntry, RowsOfAMissingOrDoubledStationStandOnce) {
+  Buy buy;
+  buy.bought("한강", 2, 30000);
+  buy.run("Insert Into RefillState(Code, Company) Values('0003', '한강')");
+  buy.book.FillBuyGrid(true);
+  EXPECT_EQ(buy.cells().MaxRows(), 2);
+  buy.run("Delete * From RefillState");
+  buy.book.FillBuyGrid(true);
+  EXPECT_EQ(buy.cells().MaxRows(), 2);
+  EXPECT_EQ(buy.cell(1, LineCol::Partner), "한강");
+  EXPECT_EQ(buy.book.panel(1).gasOwed, "");
+}
+
+TEST(BuyEntry, MissingCellsAreToldInOrder) {
+  Buy buy;
+  buy.pickers.refills.push_back("한강");
+  const int row = buy.entry.enterKey(1, LineCol::Partner, {}).row;
+  buy.entry.enteredRow(row);
+  buy.cells().setText(row, LineCol::Kind, {});
+  buy.pc.prompts.expect("판매구분을 검색하세요");
+  EXPECT_EQ(buy.entry.missingField(row), LineCol::Kind);
+  buy.cells().setComboPosition(row, LineCol::Kind, 0);
+  buy.pc.prompts.expect("품명을 검색하세요");
+  EXPECT_EQ(buy.entry.missingField(row), LineCol::Item);
+  buy.cells().setText(row, LineCol::Date, {});
+  buy.pc.prompts.expect("날짜를 입력하세요");
+  EXPECT_EQ(buy.entry.missingField(row), LineCol::Date);
+}
+
+TEST(BuyEntry, AStoredLineKeepsItsKind) {
+  Buy buy;
+  const int row = buy.bought("한강", 2, 30000);
+  buy.pc.prompts.expect("구분은 변경할 수 없습니다.");
+  EXPECT_EQ(buy.entry.finishCell(row, LineCol::Kind, "용기").end, LineStep::PutBack);
+  EXPECT_EQ(buy.cell(row, LineCol::Kind), "가스");
+}
+
+/** The same purchases on another PC. */
+struct OtherBuyer {
+  tests::OtherPc at;
+  tests::TradePickers pickers;
+  BuyBook book{at.session};
+  BuyEntry entry{book, pickers};
+  explicit OtherBuyer(Buy& buy) : at(buy.pc) {
+    at.pc.clock.set(buy.pc.pc.clock.now());
+    at.session.StockEnabled = true;
+    book.FillBuyGrid(true);
+  }
+};
+
+TEST(BuyOnTwoPcs, ALineChangedThereIsNotWrittenOver) {
+  Buy buy;
+  const int row = buy.bought("한강", 2, 30000);
+  OtherBuyer other(buy);
+  other.at.prompts.expect("선택된 자료를 변경하시겠습니까?");
+  other.entry.finishCell(1, LineCol::Paid, "10000");
+  EXPECT_EQ(buy.owed(), "250000|7000;0|0");
+
+  buy.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+  buy.pc.prompts.expect("다른 PC에서 먼저 변경한 자료입니다!");
+  EXPECT_EQ(buy.entry.finishCell(row, LineCol::Number, "5").end, LineStep::PutBack);
+  EXPECT_EQ(buy.cell(row, LineCol::Paid), "10000") << "read again";
+  buy.pickers.refills.push_back("낙동");
+  buy.pc.prompts.expect("선택된 구매처를 수정하시겠습니까?");
+  buy.entry.search(row, LineCol::Partner, {});
+  EXPECT_EQ(buy.owed(), "200000|7000;50000|0");
+  other.at.prompts.expect("선택된 자료를 변경하시겠습니까?");
+  other.at.prompts.expect("다른 PC에서 먼저 변경한 자료입니다!");
+  other.entry.finishCell(1, LineCol::Paid, "0");
+  EXPECT_EQ(buy.owed(), "200000|7000;50000|0");
+}
+
+TEST(BuyOnTwoPcs, ADoubleDeletionTakesTheLineOffOnce) {
+  Buy buy;
+  const int row = buy.bought("한강", 2, 30000);
+  OtherBuyer other(buy);
+  other.at.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  EXPECT_TRUE(other.book.deleteRow(1));
+  buy.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  buy.pc.prompts.expect("다른 PC에서 이미 삭제한 자료입니다!");
+  EXPECT_TRUE(buy.book.deleteRow(row));
+  EXPECT_EQ(buy.owed(), "200000|7000;0|0");
+  EXPECT_EQ(buy.stock(), "1000|100|10|40|50");
+  EXPECT_EQ(buy.cells().MaxRows(), 1);
+}
+
+}  // namespace
