@@ -171,9 +171,11 @@ void Spread::paintCell(QPainter& painter, int row, int col, const QRect& rect) {
                : metrics.elidedText(text, Qt::ElideRight, inside.width());
   }
   const bool below = toTheRight && stored.startsWith(u'-');
+  const int ink = model_.ink(row, col);
   painter.setPen(!isEnabled()         ? look::disabledInk
                  : !offered.isEmpty() ? look::faintInk
                  : below              ? look::negative
+                 : ink >= 0           ? QColor::fromRgb(QRgb(ink))
                                       : look::ink);
   const auto side = toTheRight                          ? Qt::AlignRight
                     : column.align == CellAlign::Center ? Qt::AlignHCenter

@@ -48,6 +48,7 @@ void SpreadModel::setMaxRows(int rows) {
     formulas_.clear();
     locks_.clear();
     colours_.clear();
+    inks_.clear();
     signs_.clear();
     offers_.clear();
     tell(What::Reset, 0, 0);
@@ -86,6 +87,7 @@ void SpreadModel::setRows(std::vector<std::vector<QString>> rows) {
   formulas_.clear();
   locks_.clear();
   colours_.clear();
+  inks_.clear();
   signs_.clear();
   offers_.clear();
   rows_.clear();
@@ -153,6 +155,15 @@ void SpreadModel::setBackground(int row, int col, int rgb) {
     of.background = rgb;
   else
     colours_[key(int(of.id), col)] = rgb;
+  tell(What::Cells, row, col);
+}
+
+int SpreadModel::ink(int row, int col) const {
+  return inks_.isEmpty() ? -1 : inks_.value(key(int(rows_.at(size_t(row - 1)).id), col), -1);
+}
+
+void SpreadModel::setInk(int row, int col, int rgb) {
+  inks_[key(int(rows_.at(size_t(row - 1)).id), col)] = rgb;
   tell(What::Cells, row, col);
 }
 

@@ -69,6 +69,9 @@ class SpreadModel {
    *  row. */
   int background(int row, int col) const;
   void setBackground(int row, int col, int rgb);
+  /** 0xRRGGBB of the cell's text; -1 takes the grid's own. */
+  int ink(int row, int col) const;
+  void setInk(int row, int col, int rgb);
   /** A letter at the left edge of an amount's cell that says what the colour says. */
   QString sign(int row, int col) const;
   void setSign(int row, int col, const QString& sign);
@@ -112,7 +115,7 @@ class SpreadModel {
   std::vector<Row> rows_;
   std::vector<Formula> formulas_;
   QHash<quint64, bool> locks_;
-  QHash<quint64, int> colours_;
+  QHash<quint64, int> colours_, inks_;
   QHash<quint64, QString> signs_;
   QHash<quint64, QString> offers_;
   qint64 nextId_ = 1;
