@@ -24,8 +24,11 @@
 #include "papers/FrmPrintSection.h"
 #include "papers/FrmSetPrinter.h"
 #include "trade/briefs/trade_briefs.h"
+#include "trade/frmBuy.h"
+#include "trade/frmResCAN.h"
 #include "trade/frmSale.h"
 #include "trade/frmTodaySale.h"
+#include "trade/frmVolumeEstimate.h"
 
 namespace {
 
@@ -57,6 +60,7 @@ const FormEntry formTable[] = {
     formEntry<FrmPath>(u"FrmPath"),
     formEntry<FrmPrintSection>(u"FrmPrintSection"),
     formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
+    formEntry<frmBuy>(u"frmBuy"),
     formEntry<frmClient>(u"frmClient"),
     formEntry<frmEva>(u"frmEva"),
     briefEntry(u"frmEvaTotal", evaTotalBrief),
@@ -65,13 +69,17 @@ const FormEntry formTable[] = {
     formEntry<frmPrtChange>(u"frmPrtChange"),
     formEntry<frmPrtJiroOCR>(u"frmPrtJiroOCR"),
     formEntry<frmRefillState>(u"frmRefillState"),
+    formEntry<frmResCAN>(u"frmResCAN"),
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmSale>(u"frmSale"),
     formEntry<FrmSukum>(u"FrmSukum"),
     formEntry<frmTodaySale>(u"frmTodaySale"),
+    briefEntry(u"frmHoldBrief", holdBrief),
     briefEntry(u"frmTrustBrief", trustBrief),
+    briefEntry(u"frmUtilHoldBrief", utilHoldBrief),
     formEntry<frmUser>(u"frmUser"),
     formEntry<frmVolume>(u"frmVolume"),
+    formEntry<frmVolumeEstimate>(u"frmVolumeEstimate"),
 };
 // clang-format on
 

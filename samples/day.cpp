@@ -39,11 +39,23 @@ class Day {
     loan();
     change();
     deletion();
+    purchase();
+    stockInOut();
     report.after = figures();
     report.lines = stage_.query(yearFile_,
                                 "Select SaleGubun, SaleName, SaleThing, SaleNum, Income, Trust From Sale "
                                 "Where SaleDate = '" +
                                     date_ + "' Order By SaleID");
+    report.purchases =
+        stage_.query(yearFile_,
+                     "Select BuyCompany, PurchaseGubun, BuyName, BuyThing, PurchaseNum, Pay, Trust From Buy "
+                     "Where BuyDate = '" +
+                         date_ + "' Order By BuyID");
+    report.stock = stage_
+                       .query(yearFile_,
+                              "Select LPGPreStock, LPGBuy, LPGSale, LPGStock From TmpLPGCANStock Where "
+                              "Name = 'LPG' And Size = '20'")
+                       .value(0);
     leave(stage_);
     tell_(QStringLiteral("the program was closed"));
     return report;
@@ -169,6 +181,51 @@ class Day {
     stage_.keys({"F5"});
     stage_.picture(QStringLiteral("day-7-figures-of-the-day"));
     stage_.keys({"Escape"});
+  }
+
+  /** Ten cylinders filled at the station that is found by its telephone number, a part of them on credit. */
+  void purchase() {
+    const auto awaitPurchase = [this](const QString& values) {
+      stage_.awaitRow(yearFile_,
+                      "Select Top 1 PurchaseGubun, PurchaseNum, Pay, Trust From Buy Where BuyDate = '" +
+                          date_ + "' Order By BuyID Desc",
+                      values);
+    };
+    const QString station =
+        stage_.query(basicFile, QStringLiteral("Select Tel From RefillState Where Code = '0001'")).value(0);
+    stage_.keys({"alt+l", "b"});
+    stage_.type(station);
+    stage_.keys({"Return", "Return"});  // 가스
+    awaitPurchase(QStringLiteral("1\t0\t0\t0"));
+    stage_.keys({"F12"});
+    stage_.awaitWindow(QStringLiteral("구매상품 조회"));
+    stage_.keys({"Return"});
+    awaitPurchase(QStringLiteral("1\t1\t18000\t0"));
+    changeCell(QStringLiteral("10"));
+    awaitPurchase(QStringLiteral("1\t10\t180000\t0"));
+    stage_.keys({"Return"});  // the amount is right
+    changeCell(QStringLiteral("100000"));
+    awaitPurchase(QStringLiteral("1\t10\t100000\t80000"));
+    stage_.picture(QStringLiteral("day-8-purchase"));
+    tell_(QStringLiteral("ten cylinders were filled at the station: 100,000 won paid, 80,000 on credit"));
+  }
+
+  void changeCell(const QString& text) {
+    stage_.type(text);
+    stage_.keys({"Return"});
+    stage_.awaitWindow(QStringLiteral("자료수정"));
+    stage_.keys({"Return"});
+  }
+
+  /** Of the month so far; its last figure is what the catalogue holds. */
+  void stockInOut() {
+    const QString full = QString::number(figures().full);
+    stage_.keys({"alt+l", "k", "F5"});
+    stage_.awaitRow(yearFile_,
+                    QStringLiteral("Select LPGStock From TmpLPGCANStock Where Name = 'LPG' And Size = '20'"),
+                    full);
+    stage_.picture(QStringLiteral("day-9-stock-in-out"));
+    tell_(QStringLiteral("the month's stock in and out was shown"));
   }
 
   Stage& stage_;

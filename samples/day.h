@@ -1,5 +1,6 @@
 #pragma once
-// The sample day, played by keystrokes: sign-in, a call, a delivery, a collection, a loan, a change, a deletion.
+// The sample day, played by keystrokes: sign-in, a call, a delivery, a collection, a loan, a change, a deletion, a
+// purchase, the month's stock in and out.
 #include <functional>
 
 #include "samples/stage.h"
@@ -15,7 +16,9 @@ struct Figures {
 
 struct DayReport {
   Figures before, after;
-  QStringList lines;  ///< the day's lines: kind, item, size, number, income, trust
+  QStringList lines;      ///< the day's lines: kind, item, size, number, income, trust
+  QStringList purchases;  ///< station, kind, item, size, number, payment, trust
+  QString stock;          ///< of the item in the month: opening, bought, sold, closing
 };
 
 /** Plays the day on books made by makeBooks; tell is given one sentence a step. Throws std::runtime_error. */

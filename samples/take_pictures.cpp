@@ -105,15 +105,21 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
   window.resize(1280, 860);
   photographer.take(window, "frmMain");
   session.SaleDay = session.pc.clock.dateText();  // the day whose figures F5 shows
-  for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
-                           "frmHouseStyle", "frmEva", "FrmSukum", "frmSale", "frmTodaySale"}) {
+  for (const char* name :
+       {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank", "frmHouseStyle",
+        "frmEva", "FrmSukum", "frmSale", "frmTodaySale", "frmBuy", "frmResCAN", "frmVolumeEstimate"}) {
     if (name[3] != 'T') closeForm(window);
     window.openForm(QString::fromLatin1(name));
     auto* const form = window.findChild<QWidget*>(QString::fromLatin1(name));
     if (!form) continue;
-    if (name == std::string_view("frmSale")) {  // on a line, so that its customer is shown
+    const std::string_view shown = name;
+    if (shown == "frmSale" || shown == "frmBuy") {  // on a line, so that its customer or station is shown
       QCoreApplication::processEvents();
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    }
+    if (shown == "frmVolumeEstimate") {
+      form->findChild<QRadioButton*>("SSOption1(2)")->click();
+      form->findChild<QPushButton*>("BtnFind")->click();
     }
     photographer.take(*form, name);
   }

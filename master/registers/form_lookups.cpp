@@ -47,6 +47,24 @@ void attachPostCode(Form& form, Pickers& pickers, QLineEdit* code, QLineEdit* ad
   });
 }
 
+void attachSearch(Form& form, QLineEdit* box, QWidget* next, std::function<bool()> search) {
+  box->setReadOnly(true);
+  new BoxKeys(box, [&form, box, next, search = std::move(search)](int key) {
+    if (key == Qt::Key_Delete || key == Qt::Key_Backspace) {
+      box->clear();
+      return true;
+    }
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!(key == Qt::Key_F12 || (enter && box->text().isEmpty()))) return false;
+    form.command([&] {
+      const bool chosen = search();
+      form.activateWindow();
+      Form::focus(chosen ? next : box);
+    });
+    return true;
+  });
+}
+
 void attachDate(Form& form, Pickers& pickers, DateBox* box) {
   new BoxKeys(box, [&form, &pickers, box](int key) {
     if (key != Qt::Key_F12) return false;

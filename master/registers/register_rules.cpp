@@ -9,7 +9,12 @@ const QString registerTitle = u"자료 확인"_s;
 }
 
 bool RegisterRules::load() {
-  const QString chosen = row_ ? record()[table_.key] : QString();
+  const auto keyOf = [this](const RegisterFields& record) {
+    QString key = record[table_.key];
+    for (const auto& [column, isText] : table_.also) key += u'\n' + record[column];
+    return key;
+  };
+  const QString chosen = row_ ? keyOf(record()) : QString();
   row_ = 0;
   list_.clear();
   records_.clear();
@@ -19,7 +24,7 @@ bool RegisterRules::load() {
   for (; !rs.atEnd(); rs.MoveNext()) {
     RegisterFields record = fieldsOf(rs);
     rows.push_back(cells(record));
-    if (!chosen.isEmpty() && record[table_.key] == chosen) row_ = int(rows.size());
+    if (!chosen.isEmpty() && keyOf(record) == chosen) row_ = int(rows.size());
     records_.push_back(std::move(record));
   }
   list_.setRows(std::move(rows));
@@ -100,10 +105,17 @@ RegisterRules::Outcome RegisterRules::eraseAsShown(const QString& title, const s
 }
 
 RowSource RegisterRules::source() const {
-  const QString key = record()[table_.key];
-  return {u"Select * From "_s + table_.name + u" Where "_s + table_.key + u" = "_s +
-              (table_.keyIsText ? u"'"_s + plainText(key) + u"'"_s : plainNumber(key)),
-          fieldsOf};
+  return {u"Select * From "_s + table_.name + u" Where "_s + keyCondition(record()), fieldsOf};
+}
+
+QString RegisterRules::keyCondition(const RegisterFields& record) const {
+  const auto is = [&record](const QString& column, bool isText) {
+    const QString key = record[column];
+    return column + u" = "_s + (isText ? u"'"_s + plainText(key) + u"'"_s : plainNumber(key));
+  };
+  QString condition = is(table_.key, table_.keyIsText);
+  for (const auto& [column, isText] : table_.also) condition += u" And "_s + is(column, isText);
+  return condition;
 }
 
 RegisterRules::Outcome RegisterRules::refuse(const QString& text, const QString& title,

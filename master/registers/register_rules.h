@@ -15,10 +15,12 @@ class RegisterRules {
     RowEnd end = RowEnd::Done;  ///< when another PC was there first: the list has been read anew
   };
 
-  /** Where the rows lie in Basic.mdb and the column that tells one from another. */
+  /** Where the rows lie in Basic.mdb and the columns that tell one from another. */
   struct Table {
     QString name, key = "Code";
     bool keyIsText = false;
+    /** Further columns of the key, True for a text. */
+    std::vector<std::pair<QString, bool>> also = {};
   };
 
   RegisterRules(Session& session, Table table) : session_(session), table_(std::move(table)) {}
@@ -89,6 +91,7 @@ class RegisterRules {
 
  private:
   RowSource source() const;
+  QString keyCondition(const RegisterFields& record) const;
   std::optional<Outcome> impossible(const RegisterFields& boxes);
 
   Table table_;

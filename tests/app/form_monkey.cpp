@@ -316,12 +316,34 @@ class Monkey : public QObject {
   QStringList last_;
 };
 
-const QStringList everyForm{
-    u""_s,           u"frmSale:gas"_s,     u"frmSale:material"_s, u"frmEva:1"_s,     u"frmEva:2"_s,
-    u"frmEva:3"_s,   u"frmEvaTotal"_s,     u"frmTodaySale"_s,     u"frmClient"_s,    u"frmHouseStyle"_s,
-    u"frmGasUtil"_s, u"frmVolume"_s,       u"frmRefillState"_s,   u"frmResponse"_s,  u"frmBank"_s,
-    u"FrmSukum"_s,   u"frmUser"_s,         u"frmPrtJiroOCR:a4"_s, u"frmPrtChange"_s, u"FrmSetPrinter"_s,
-    u"FrmMargin"_s,  u"FrmPrintSection"_s, u"FrmPath"_s,          u"FrmNetDrive"_s,  u"frmAbout"_s};
+const QStringList everyForm{u""_s,
+                            u"frmSale:gas"_s,
+                            u"frmSale:material"_s,
+                            u"frmBuy:gas"_s,
+                            u"frmResCAN"_s,
+                            u"frmVolumeEstimate"_s,
+                            u"frmEva:1"_s,
+                            u"frmEva:2"_s,
+                            u"frmEva:3"_s,
+                            u"frmEvaTotal"_s,
+                            u"frmTodaySale"_s,
+                            u"frmClient"_s,
+                            u"frmHouseStyle"_s,
+                            u"frmGasUtil"_s,
+                            u"frmVolume"_s,
+                            u"frmRefillState"_s,
+                            u"frmResponse"_s,
+                            u"frmBank"_s,
+                            u"FrmSukum"_s,
+                            u"frmUser"_s,
+                            u"frmPrtJiroOCR:a4"_s,
+                            u"frmPrtChange"_s,
+                            u"FrmSetPrinter"_s,
+                            u"FrmMargin"_s,
+                            u"FrmPrintSection"_s,
+                            u"FrmPath"_s,
+                            u"FrmNetDrive"_s,
+                            u"frmAbout"_s};
 
 TEST(FormMonkey, AnyKeyInAnyStateEndsWell) {
   const bool longRun = qgetenv("HAEON_STORM") == "long";

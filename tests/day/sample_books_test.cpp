@@ -3,7 +3,9 @@
 
 #include <QMap>
 
+#include "store/year_file.h"
 #include "tests/support.h"
+#include "trade/stock_walk.h"
 
 namespace {
 
@@ -71,6 +73,51 @@ TEST(SampleBooks, JanuaryAndFebruaryAreBilledAndMarchWaits) {
   EXPECT_GT(paidFebruary, 40);
   EXPECT_GT(owingBlocks["달빛아파트"], 5) << "there is something to charge late";
   EXPECT_GT(owingBlocks[QString()], 2);
+}
+
+/** Back through two years of lines the walk comes to what the shop opened with. */
+TEST(SampleBooks, StockAndDebtsAreWhatTheLinesAddUpTo) {
+  tests::TestPc at;
+  at.pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(9, 0)));
+  samples::makeBooks(at.pc, at.prompts);
+  Session& session = at.session;
+  session.DbPath = installedDataFolder();
+  session.WorkYear = "2026";
+  session.wsMain = openWorkspace(session, session.DbPath);
+  session.dbYear = openYear(session, session.WorkYear);
+  const auto gas = walkStock(session, StockWalkOf::Gas, "2025-01-01", "2026-03-15");
+  ASSERT_TRUE(gas);
+  EXPECT_EQ(gas->size(), 6u);
+  for (const StockInOut& item : *gas) {
+    EXPECT_EQ(item.opening, samples::openingFull) << item.name.toStdString() << item.size.toStdString();
+    EXPECT_EQ(item.canOpening, samples::openingFull + samples::openingEmpty);
+    EXPECT_GT(item.bought, 0);
+  }
+  const auto fittings = walkStock(session, StockWalkOf::Materials, "2025-01-01", "2026-03-15");
+  ASSERT_TRUE(fittings);
+  for (const StockInOut& item : *fittings) {
+    EXPECT_EQ(item.opening, samples::openingFittings) << item.name.toStdString();
+    EXPECT_GE(item.closing, 0);
+  }
+
+  QMap<QString, qint64> gasOwed, fittingsOwed;
+  for (const char* const year : {"2025", "2026"}) {
+    auto line = openYear(session, QString(year)).OpenRecordset("Select * From Buy Order By BuyID");
+    for (; !line.atEnd(); line.MoveNext()) {
+      const qint64 kind = line["PurchaseGubun"].toLong();
+      const QString station = line["BuyCompany"].toText();
+      if (kind == 7 || kind == 8)
+        (kind == 7 ? gasOwed : fittingsOwed)[station] -= line["Pay"].toLong();
+      else
+        (kind == 4 ? fittingsOwed : gasOwed)[station] += line["Trust"].toLong();
+    }
+  }
+  auto station = session.dbYear.OpenRecordset("Select * From RefillState");
+  for (; !station.atEnd(); station.MoveNext()) {
+    const QString name = station["Company"].toText();
+    EXPECT_EQ(station["GasInit"].toLong(), gasOwed[name]) << name.toStdString();
+    EXPECT_EQ(station["UtilInit"].toLong(), fittingsOwed[name]) << name.toStdString();
+  }
 }
 
 }  // namespace

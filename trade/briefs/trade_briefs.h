@@ -3,4 +3,6 @@
 // reports/, a line in app/form_table.
 #include "briefs/brief.h"
 
-Brief trustBrief();  ///< frmTrustBrief: gas credit by customer
+Brief trustBrief();     ///< frmTrustBrief: gas credit by customer
+Brief holdBrief();      ///< frmHoldBrief: gas and cylinders in and out
+Brief utilHoldBrief();  ///< frmUtilHoldBrief: fittings in and out

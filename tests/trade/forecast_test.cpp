@@ -1,0 +1,150 @@
+// The next delivery from the last eight, worked by hand.
+#include "trade/forecast.h"
+
+#include "store/year_file.h"
+#include "tests/trade/sale_desk.h"
+
+namespace {
+
+struct Estimate : tests::SaleDesk {
+  Forecast forecast{pc.session};
+
+  /** Lines of gas of one customer on these days of 2026. */
+  void delivered(int client, const QStringList& days, int kind = 1, bool volume = false) {
+    for (const QString& day : days)
+      run("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleNum, SaleGubun, Gubun) Values('" +
+          (day.size() == 5 ? "2026-" + day : day) + "', " + QString::number(client) + ", 'LPG', '20', 1, " +
+          QString::number(kind) + (volume ? ", True)" : ", False)"));
+  }
+  QString shown(int row) {
+    QStringList cells;
+    for (int col = 1; col <= ForecastCol::Code; ++col) cells << forecast.grid().text(row, col);
+    return cells.join('|');
+  }
+  bool extract(ForecastOf which = ForecastOf::All, const std::optional<QString>& day = {}) {
+    return forecast.ExtractForecast(which, "2026", day);
+  }
+};
+
+TEST(Forecast, EightDeliveriesAndTheirGap) {
+  Estimate of;
+  // 70 days in seven gaps; the ninth line and the collection do not count.
+  of.delivered(1, {"01-01", "01-11", "01-21", "01-31", "02-10", "02-20", "03-02", "03-12"});
+  of.delivered(1, {"2025-06-01"});
+  of.delivered(1, {"03-13"}, 4);
+  // 30 days in four gaps and 26 in four: halves go to the even day.
+  of.delivered(2, {"01-01", "01-05", "01-06", "01-07", "01-31"});
+  of.delivered(3, {"01-01", "01-05", "01-06", "01-07", "01-27"}, 5);
+  ASSERT_TRUE(of.extract());
+  EXPECT_EQ(of.shown(1),
+            "산골식당|053-123-4567|01-01|01-11|01-21|01-31|02-10|02-20|03-02|03-12|03-12|03-22|10||1");
+  EXPECT_EQ(of.shown(2), "김||01-01|01-05|01-06|01-07|01-31||||01-31|02-08|8||2");
+  EXPECT_EQ(of.shown(3), "박||01-01|01-05|01-06|01-07|01-27||||01-27|02-02|6||3")
+      << "cylinders lent count too";
+}
+
+TEST(Forecast, DaysThatCoincide) {
+  Estimate of;
+  of.delivered(1, {"01-01", "01-01", "01-11"});
+  of.delivered(2, {"02-03", "02-03"});
+  of.delivered(3, {"02-04"}, 7);
+  ASSERT_TRUE(of.extract());
+  EXPECT_EQ(of.shown(1), "산골식당|053-123-4567|01-01|01-01|01-11||||||01-11|01-16|5||1");
+  EXPECT_EQ(of.shown(2), "김||02-03|02-03|||||||02-03||||2");
+  EXPECT_EQ(of.shown(3), "박||02-04||||||||02-04||||3");
+  // Of lines that tie at the eighth place eight are taken.
+  of.delivered(3, {"01-05", "01-05", "01-05", "01-05", "01-05", "01-05", "01-05", "01-05", "01-05"});
+  ASSERT_TRUE(of.extract());
+  EXPECT_EQ(of.shown(3), "박||01-05|01-05|01-05|01-05|01-05|01-05|01-05|02-04|02-04|02-08|4||3");
+}
+
+TEST(Forecast, WhichCustomers) {
+  Estimate of;
+  of.delivered(1, {"01-01", "01-11"});
+  of.delivered(3, {"01-01", "01-11"}, 1, true);
+  of.delivered(2, {"02-01"}, 1, true);  // not billed by the meter, but once on the volume sheet
+  const auto names = [&](ForecastOf which) {
+    EXPECT_TRUE(of.extract(which));
+    QString all;
+    for (int row = 1; row <= of.forecast.grid().MaxRows(); ++row) all += of.forecast.grid().text(row, 1);
+    return all;
+  };
+  EXPECT_EQ(names(ForecastOf::General), "산골식당");
+  EXPECT_EQ(names(ForecastOf::Volume), "박");
+  EXPECT_EQ(names(ForecastOf::All), "산골식당김박");
+  of.pc.prompts.expect("배달 예상을 추출할 고객을 구분하세요");
+  EXPECT_FALSE(of.extract(ForecastOf::Nobody));
+  of.run("Delete * From Sale");
+  of.pc.prompts.expect("배달자료가 없습니다!");
+  EXPECT_FALSE(of.extract());
+  EXPECT_EQ(of.forecast.grid().MaxRows(), 0);
+}
+
+TEST(Forecast, LastYearsFileIsReadAndItsDatesSetOff) {
+  Estimate of;
+  makeYearFile(of.pc.session, "2025");
+  for (const char* const day : {"2024-12-31", "2025-12-01", "2025-12-21"})
+    openYear(of.pc.session, "2025")
+        .Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('%1', 1, 1, False)")
+                     .arg(day));
+  of.delivered(1, {"01-10"});
+  ASSERT_TRUE(of.extract());
+  EXPECT_EQ(of.shown(1), "산골식당|053-123-4567|12-01|12-21|01-10||||||01-10|01-30|20||1")
+      << "nothing before the two years";
+  EXPECT_EQ(of.forecast.grid().ink(1, ForecastCol::First), 0xE80300);
+  EXPECT_EQ(of.forecast.grid().ink(1, ForecastCol::First + 2), -1);
+}
+
+TEST(Forecast, TheFilterIsOneDay) {
+  Estimate of;
+  of.delivered(1, {"12-01", "12-21"});  // expected on 10 January of the next year
+  of.delivered(2, {"01-01", "01-05"});  // on 9 January
+  of.delivered(3, {"01-01"});           // never
+  ASSERT_TRUE(of.extract(ForecastOf::All, "01-10"));
+  EXPECT_EQ(of.forecast.grid().MaxRows(), 1);
+  EXPECT_EQ(of.forecast.grid().text(1, ForecastCol::Expected), "01-10");
+  EXPECT_EQ(of.forecast.grid().ink(1, ForecastCol::Expected), 0xE80300) << "of another year";
+  EXPECT_EQ(of.forecast.grid().ink(1, ForecastCol::Newest), -1);
+
+  of.run("Update Client Set EstimateDate = '01-10' Where Code = 3");
+  of.run("Update Client Set EstimateDate = '02-02' Where Code = 1");
+  ASSERT_TRUE(of.extract(ForecastOf::All, "01-10"));
+  EXPECT_EQ(of.shown(1), "박||01-01||||||||01-01|||01-10|3")
+      << "the reserved day goes before the computed one";
+  EXPECT_EQ(of.forecast.grid().MaxRows(), 1);
+  ASSERT_TRUE(of.extract(ForecastOf::All, "1-10"));
+  EXPECT_EQ(of.forecast.grid().MaxRows(), 0);
+}
+
+TEST(Forecast, TheReservedDayIsWrittenAtOnce) {
+  Estimate of;
+  of.delivered(1, {"01-01", "01-11"});
+  ASSERT_TRUE(of.extract());
+  const auto stored = [&] { return of.rows("Select EstimateDate From Client Where Code = 1"); };
+  EXPECT_TRUE(of.forecast.setReserved(1, "1.20"));
+  EXPECT_EQ(of.forecast.grid().text(1, ForecastCol::Reserved) + stored(), "01-2001-20");
+  EXPECT_TRUE(of.forecast.setReserved(1, "02-03"));
+  EXPECT_EQ(stored(), "02-03");
+  of.pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
+  EXPECT_FALSE(of.forecast.setReserved(1, "02-30"));
+  EXPECT_EQ(stored(), "02-03");
+  EXPECT_TRUE(of.forecast.setReserved(1, ""));
+  EXPECT_EQ(stored(), "");
+}
+
+TEST(Forecast, StopsWhereItIsToldTo) {
+  Estimate of;
+  for (const int client : {1, 2, 3}) of.delivered(client, {"01-01", "01-11"});
+  QStringList told;
+  EXPECT_TRUE(of.forecast.ExtractForecast(ForecastOf::All, "2026", {}, [&](int done, int all) {
+    told << QString::number(done) + '/' + QString::number(all);
+    return done < 2;
+  }));
+  EXPECT_EQ(told, QStringList({"0/3", "1/3", "2/3"}));
+  EXPECT_EQ(of.forecast.grid().MaxRows(), 2);
+  of.pc.prompts.expect("2024년의 배달자료가 없습니다!");
+  EXPECT_FALSE(of.forecast.hasYear("2024"));
+  EXPECT_TRUE(of.forecast.hasYear("2026"));
+}
+
+}  // namespace

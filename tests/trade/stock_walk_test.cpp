@@ -1,0 +1,143 @@
+// The walk back, worked by hand: a period from 10 to 20 February with lines before, in and after it, of every kind.
+#include "trade/stock_walk.h"
+
+#include "store/year_file.h"
+#include "tests/trade/buy_desk.h"
+
+namespace {
+
+struct Walk : tests::BuyDesk {
+  void sale(const QString& day, int kind, int pieces, const QString& name = "LPG",
+            const QString& size = "20") {
+    run("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleNum, SaleGubun, Gubun) Values('" +
+        day + "', 1, '" + name + "', '" + size + "', " + QString::number(pieces) + ", " +
+        QString::number(kind) + ", False)");
+  }
+  void buy(const QString& day, int kind, int pieces, const QString& name = "LPG",
+           const QString& size = "20") {
+    run("Insert Into Buy(BuyDate, BuyCompany, BuyName, BuyThing, PurchaseNum, PurchaseGubun) Values('" + day +
+        "', '한강', '" + name + "', '" + size + "', " + QString::number(pieces) + ", " +
+        QString::number(kind) + ")");
+  }
+  /** opening bought sold closing | cylinders: opening bought sold lent returned closing */
+  QString walked(StockWalkOf what, const QString& size, const QString& start = "2026-02-10",
+                 const QString& end = "2026-02-20") {
+    const auto rows = walkStock(pc.session, what, start, end);
+    if (!rows) return "told";
+    for (const StockInOut& row : *rows) {
+      if (row.size != size) continue;
+      QStringList texts;
+      for (const qint64 figure : {row.opening, row.bought, row.sold, row.closing, row.canOpening,
+                                  row.canBought, row.canSold, row.canLent, row.canReturned, row.canClosing})
+        texts << QString::number(figure);
+      return texts.join(' ');
+    }
+    return "missing";
+  }
+};
+
+TEST(StockWalk, EveryKindBeforeInAndAfterThePeriod) {
+  Walk walk;  // today 50 full and 40 empty of each size
+  for (int kind = 1; kind <= 8; ++kind) {
+    walk.sale("2026-02-09", kind, 100);
+    walk.buy("2026-02-09", kind, 100);
+  }
+  // On the first and the last day of the period.
+  walk.sale("2026-02-10", 1, 5);
+  walk.sale("2026-02-20", 3, 2);
+  walk.sale("2026-02-12", 2, 1);
+  walk.sale("2026-02-13", 5, 4);
+  walk.sale("2026-02-14", 6, 3);
+  walk.buy("2026-02-10", 1, 8);
+  walk.buy("2026-02-20", 3, 6);
+  walk.buy("2026-02-15", 2, 7);
+  walk.buy("2026-02-16", 5, 9);
+  walk.buy("2026-02-17", 6, 2);
+  // After it, up to today.
+  walk.sale("2026-02-21", 1, 10);
+  walk.sale("2026-03-01", 3, 20);
+  walk.sale("2026-03-01", 2, 30);
+  walk.sale("2026-03-01", 5, 40);
+  walk.sale("2026-03-01", 6, 50);
+  walk.buy("2026-02-21", 1, 11);
+  walk.buy("2026-03-01", 3, 22);
+  walk.buy("2026-03-01", 2, 33);
+  walk.buy("2026-03-01", 5, 44);
+  walk.buy("2026-03-01", 6, 55);
+  // Collections, payments and fittings move no cylinder.
+  for (const int kind : {4, 7, 8}) {
+    walk.sale("2026-02-15", kind, 1000);
+    walk.buy("2026-02-15", kind, 1000);
+  }
+
+  // Full ones: sold 5+2 and bought 8+6 within, sold 10+20 and bought 11+22 after it:
+  // opening 50 + 7+30 - 14-33 = 40, closing 40 + 14 - 7 = 47.
+  // Cylinders: bought 6+7=13, sold 2+1=3, away 4+9=13, back 3+2=5 within; after it bought 22+33=55, sold 20+30=50, away
+  // 40+44=84, back 50+55=105: opening 90 + 3+50 - 13-55 + 13+84 - 5-105 = 62, closing 62 + 13 - 3 + 5 - 13 = 64.
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20"), "40 14 7 47 62 13 3 13 5 64");
+  EXPECT_EQ(walk.rows("Select LPGPreStock, LPGBuy, LPGSale, LPGStock, CANPreStock, CANBuy, CANSale, CANLent, "
+                      "CANReturn, CANStock From TmpLPGCANStock Where Size = '20'"),
+            "40|14|7|47|62|13|3|13|5|64");
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "50"), "50 0 0 50 90 0 0 0 0 90") << "an item without lines";
+  EXPECT_EQ(walk.rows("Select Gubun, Count(*) From TmpLPGCAN Group By Gubun"), "-1|10;0|10")
+      << "the lines from the first day on, sales and purchases told apart";
+  // To the end of all lines the walk comes back to what stands in the catalogue.
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20", "2026-01-01", "2026-12-31").section(' ', 3, 3), "50");
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20", "2026-01-01", "2026-12-31").section(' ', 9, 9), "90");
+}
+
+TEST(StockWalk, Materials) {
+  Walk walk;  // 30 valves today
+  walk.sale("2026-02-01", 7, 100, "밸브", "15A");
+  walk.sale("2026-02-10", 7, 4, "밸브", "15A");
+  walk.buy("2026-02-20", 4, 10, "밸브", "15A");
+  walk.sale("2026-02-21", 7, 3, "밸브", "15A");
+  walk.buy("2026-02-22", 4, 5, "밸브", "15A");
+  walk.sale("2026-02-12", 1, 50, "밸브", "15A");
+  walk.buy("2026-02-12", 7, 50, "밸브", "15A");
+  // 30 + 7 - 15 = 22 at first, 22 + 10 - 4 = 28 at last.
+  EXPECT_EQ(walk.walked(StockWalkOf::Materials, "15A"), "22 10 4 28 0 0 0 0 0 0");
+  EXPECT_EQ(walk.rows("Select Name, LPGPreStock, LPGStock, CANBuy From TmpLPGCANStock"), "밸브|22|28|0");
+}
+
+TEST(StockWalk, NamesMeetAsTheBooksCompareThem) {
+  Walk walk;
+  walk.run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('Butane', '10', 7, 1)");
+  walk.sale("2026-02-11", 1, 2, "BUTANE ", "10");
+  walk.sale("2026-02-11", 1, 5, "없는 품목", "10");
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "10").section(' ', 0, 3), "9 0 2 7");
+}
+
+TEST(StockWalk, APeriodThatBeganLastYearTakesThatYearsFileAlong) {
+  Walk walk;
+  EXPECT_EQ((walk.pc.prompts.expect("2025년의 자료가 없습니다!"),
+             walk.walked(StockWalkOf::Gas, "20", "2025-12-01", "2026-01-31")),
+            "told");
+  makeYearFile(walk.pc.session, "2025");
+  openYear(walk.pc.session, "2025")
+      .Execute(
+          "Insert Into Sale(SaleDate, SaleName, SaleThing, SaleNum, SaleGubun, Gubun) "
+          "Values('2025-12-30', 'LPG', '20', 6, 1, False)");
+  walk.sale("2026-01-02", 1, 4);
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20", "2025-12-01", "2026-01-31").section(' ', 0, 3), "60 0 10 50");
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20", "2026-01-01", "2026-01-31").section(' ', 0, 3), "54 0 4 50");
+}
+
+TEST(StockWalk, AFailureIsToldAndLeavesNoHalfFigures) {
+  Walk walk;
+  walk.sale("2026-02-11", 1, 2);
+  walk.walked(StockWalkOf::Gas, "20");
+  walk.pc.session.dbBasic.Execute("Drop Table LPG");
+  walk.pc.prompts.expect("계산오류");
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20"), "told");
+  EXPECT_EQ(walk.rows("Select * From TmpLPGCANStock") + walk.rows("Select * From TmpLPGCAN"), "");
+}
+
+TEST(StockWalk, RunsWithStockManagementOff) {
+  Walk walk;
+  walk.pc.session.StockEnabled = false;
+  walk.sale("2026-02-11", 1, 2);
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20").section(' ', 0, 3), "52 0 2 50");
+}
+
+}  // namespace

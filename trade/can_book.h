@@ -1,0 +1,24 @@
+#pragma once
+// The cylinders that each delivery person has on the van, by item. Kept by hand; no posting moves it.
+#include "master/registers/register_rules.h"
+
+/** Boxes by column name: ResName, LPGName, CANSize (together the key), CANEmpty, CANFull, CANTotal (pieces). */
+class CanBook : public RegisterRules {
+ public:
+  explicit CanBook(Session& session);
+
+  /** The list on paper. Throws jet::Error. */
+  void print();
+
+ protected:
+  QString listStatement() const override;
+  std::vector<QString> cells(const RegisterFields& record) const override;
+  Outcome insert(const RegisterFields& boxes) override { return store(boxes); }
+  Outcome change(const RegisterFields& boxes) override { return store(boxes); }
+  Outcome saveWithoutRow(const RegisterFields& boxes) override { return store(boxes); }
+  Outcome erase() override;
+
+ private:
+  /** Person, name and size alone decide whether a row is added or changed, in every state. */
+  Outcome store(const RegisterFields& boxes);
+};
