@@ -67,8 +67,12 @@ BuyStationPanel BuyBook::panel(int row) {
                     "Select * From RefillState Where Company = '" + plainText(company) + "'") ||
       station.atEnd())
     return {};
-  return {"(" + station["PostCode"].toText() + ") " + station["Address"].toText(), station["Tel"].toText(),
-          moneyText(station["GasInit"].toDouble()), moneyText(station["UtilInit"].toDouble())};
+  return {"(" + station["PostCode"].toText() + ") " + station["Address"].toText(),
+          station["Tel"].toText(),
+          station["User"].toText(),
+          station["Fax"].toText(),
+          moneyText(station["GasInit"].toDouble()),
+          moneyText(station["UtilInit"].toDouble())};
 }
 
 QStringList BuyBook::stationsNamed(const QString& typed) {

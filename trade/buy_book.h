@@ -5,7 +5,7 @@
 
 /** The station of the current row, as the panel above the grid shows it. Money with separators. */
 struct BuyStationPanel {
-  QString address, tel, gasOwed, utilOwed;
+  QString address, tel, owner, fax, gasOwed, utilOwed;
 };
 
 class BuyBook : public LineBook {

@@ -36,13 +36,17 @@ LastLines::LastLines(QWidget* parent) : QWidget(parent) {
       cell->setFixedWidth(column.width * digit);
       cell->setMinimumHeight(fontMetrics().height());
       if (row < 0)
-        cell->setProperty("role", "faint");
+        (owedHeader_ = cell)->setProperty("role", "faint");
       else
         cells_[size_t(row)][size_t(col)] = cell;
       grid->addWidget(cell, row + 1, col);
     }
   }
   grid->setRowStretch(rows + 1, 1);
+}
+
+void LastLines::setOwedHeader(const QString& header) {
+  owedHeader_->setText(header);
 }
 
 void LastLines::show(const std::vector<LastLine>& lines) {

@@ -33,9 +33,12 @@ void frmBuy::buildPanel() {
   addDate(fields);
   tel_ = fields.value("LblTel", "전화번호");
   address_ = fields.value("LblAddr", "주소", 0, 2);
+  owner_ = fields.value("LblUser", "대표자");
+  fax_ = fields.value("LblFax", "팩스");
   tel_->setMinimumWidth(fontMetrics().horizontalAdvance("0000-0000-0000") + 18);
   row->addWidget(panel, 1);
   row->addWidget(owedPanel("LblGasTrust", "가스미불 :", "LblUtilTrust", "자재미불 :"));
+  lastLines_->setOwedHeader("외상금액");
   row->addWidget(lastLines_);
   auto* const buttons = new QVBoxLayout;
   buttons->addWidget(
@@ -54,5 +57,7 @@ void frmBuy::showPartner(int row) {
   const BuyStationPanel station = book_.panel(row);
   address_->setText(station.address);
   tel_->setText(station.tel);
+  owner_->setText(station.owner);
+  fax_->setText(station.fax);
   showOwed(station.gasOwed, station.utilOwed);
 }

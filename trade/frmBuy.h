@@ -24,5 +24,5 @@ class frmBuy : public LineForm {
   BuyBook book_;
   BuyEntry entry_;
   Spread* grid_ = nullptr;
-  QLabel *address_ = nullptr, *tel_ = nullptr;
+  QLabel *address_ = nullptr, *tel_ = nullptr, *owner_ = nullptr, *fax_ = nullptr;
 };
