@@ -1,0 +1,115 @@
+// The forecast's and the cylinder book's windows by keys.
+#include "trade/frmVolumeEstimate.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "store/report_staging.h"
+#include "tests/briefs/brief_desk.h"
+#include "tests/trade/sale_desk.h"
+#include "tests/ui/grab.h"
+#include "trade/frmResCAN.h"
+
+namespace {
+
+struct EstimateScreen : tests::SaleDesk {
+  tests::IdleCommands commands;
+  FormContext context{pc.session, pickers, commands, calls};
+  tests::ShownReports reports;
+  std::optional<frmVolumeEstimate> form;
+
+  EstimateScreen() {
+    pc.session.reports = &reports;
+    for (const char* const day : {"2026-02-01", "2026-02-17", "2026-02-09"})
+      run(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('%1', 1, 1, False)")
+              .arg(day));
+    form.emplace(context);
+    tests::show(*form);
+  }
+  Spread* grid() { return form->findChild<Spread*>("SpEstimate"); }
+  void click(const char* name) { form->findChild<QAbstractButton*>(name)->click(); }
+  QString box(const char* name) { return form->findChild<QComboBox*>(name)->currentText(); }
+};
+
+TEST(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
+  EstimateScreen screen;
+  EXPECT_EQ(screen.form->findChild<QLineEdit*>("TxtYear")->text(), "2026");
+  screen.pc.prompts.expect("배달 예상을 추출할 고객을 구분하세요");
+  screen.click("BtnFind");
+  screen.click("SSOption1(0)");
+  screen.click("BtnFind");
+  EXPECT_EQ(screen.box("CboMonS") + screen.box("CboDayS"), "0305") << "today";
+  ASSERT_EQ(screen.grid()->model().MaxRows(), 1);
+  EXPECT_EQ(screen.grid()->model().text(1, ForecastCol::Expected), "02-25");
+  EXPECT_TRUE(screen.grid()->hasFocus());
+  tests::grab(*screen.form, "frmVolumeEstimate");
+
+  screen.grid()->setActiveCell(1, ForecastCol::Reserved);
+  tests::type("03-07");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(screen.rows("Select EstimateDate From Client Where Code = 1"), "03-07");
+  screen.form->findChild<QComboBox*>("CboMonS")->setCurrentText("3");
+  auto* const day = screen.form->findChild<QComboBox*>("CboDayS");
+  day->setCurrentText("7");
+  day->setFocus();
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(screen.box("CboMonS") + screen.box("CboDayS"), "0307");
+  EXPECT_EQ(screen.grid()->model().MaxRows(), 1) << "the reserved day";
+  tests::key(Qt::Key_F10);
+  EXPECT_EQ(screen.reports.asked.back().file, "VolumeEstimate.rpt");
+  const auto print = screen.pc.session.wsMain.OpenDatabase(printFile());
+  auto staged = print.OpenRecordset("Select Str01, Str05, Str12, Str13, Lng01 From Print");
+  EXPECT_EQ(
+      staged[0].toText() + staged[1].toText() + staged[2].toText() + staged[3].toText() + staged[4].toText(),
+      "산골식당02-1702-2581");
+  staged.MoveNext();
+  EXPECT_EQ(staged[0].toText() + staged[4].toText(), "") << "the closing row";
+}
+
+TEST(FrmVolumeEstimate, ADayMustBeNamed) {
+  EstimateScreen screen;
+  screen.click("SSOption1(2)");
+  screen.pc.prompts.expect("배달예상일자를 입력하십시오");
+  screen.click("BtnEstimatedClient");
+  EXPECT_TRUE(screen.form->findChild<QComboBox*>("CboMonS")->hasFocus());
+  screen.form->findChild<QLineEdit*>("TxtYear")->setText("2019");
+  screen.pc.prompts.expect("2019년의 배달자료가 없습니다!");
+  screen.click("BtnFind");
+}
+
+TEST(FrmResCan, PersonAndItemComeFromTheirSearches) {
+  EstimateScreen screen;
+  frmResCAN form(screen.context);
+  tests::show(form);
+  const auto text = [&](const char* name) { return form.findChild<QLineEdit*>(name)->text(); };
+  form.findChild<QPushButton*>("BtnNew")->click();
+  ASSERT_TRUE(form.findChild<QLineEdit*>("TxtResName")->hasFocus());
+  tests::type("x");
+  EXPECT_EQ(text("TxtResName"), "") << "only by search";
+  screen.pickers.persons.push_back("홍길동");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(text("TxtResName"), "홍길동");
+  screen.pickers.items.push_back(ItemChoice{"LPG", "20", 0, 0});
+  ASSERT_TRUE(form.findChild<QLineEdit*>("TxtLPGName")->hasFocus());
+  tests::key(Qt::Key_F12);
+  EXPECT_EQ(text("TxtLPGName") + text("TxtCANSize"), "LPG20");
+  tests::type("3");
+  tests::key(Qt::Key_Return);
+  tests::type("12");
+  EXPECT_EQ(text("TxtCANTotal"), "15");
+  form.findChild<QPushButton*>("BtnSave")->click();
+  EXPECT_EQ(form.grid()->model().text(1, 1), "홍길동");
+  EXPECT_EQ(form.grid()->model().text(1, 6), "15");
+  tests::grab(form, "frmResCAN");
+  tests::key(Qt::Key_F10);
+  EXPECT_EQ(screen.reports.asked.back().file, "담당자별보유용기현황.rpt");
+  form.findChild<QLineEdit*>("TxtResName")->setFocus();
+  tests::key(Qt::Key_Delete);
+  EXPECT_EQ(text("TxtResName"), "");
+  form.findChild<QPushButton*>("BtnCancel")->click();
+}
+
+}  // namespace
