@@ -34,6 +34,16 @@ LineStep BuyEntry::choosePartner(int row, const QString& text) {
   return beginLine(grid().MaxRows(), *chosen, *chosen);
 }
 
+/** Left without Enter it means the same; a stored line keeps its station where none is meant. */
+std::optional<LineStep> BuyEntry::partnerTyped(int row, const QString& typed) {
+  const bool stored = !grid().text(row, LineCol::Key).isEmpty();
+  if (purchases_.stationsNamed(typed).size() != 1)
+    return stored ? std::optional(LineStep{LineStep::PutBack}) : std::nullopt;
+  LineStep step = choosePartner(row, typed);
+  step.end = LineStep::PutBack;  // the rows may be others by now: the open editor goes
+  return step;
+}
+
 /** A stored line that was written under the wrong station: it goes to the other one with all that is owed for it. */
 LineStep BuyEntry::moveLine(int row, const QString& company) {
   if (company == grid().text(row, LineCol::Code) || !mayChangePartner()) return {LineStep::PutBack};

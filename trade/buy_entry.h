@@ -12,6 +12,7 @@ class BuyEntry : public LineEntry {
 
  protected:
   LineStep choosePartner(int row, const QString& text) override;
+  std::optional<LineStep> partnerTyped(int row, const QString& typed) override;
   int firstKind() const override { return materials_ ? positionOf(buyKinds(), BuyMaterial) : 0; }
 
  private:

@@ -54,6 +54,8 @@ LineEntry::LineEntry(LineBook& book, Pickers& pickers, const LineHand& hand)
 LineStep LineEntry::finishCell(int row, int col, const QString& typed) {
   if (!acceptsText(row, col, typed)) return {LineStep::Refused};
   if (col != LineCol::Date && !hasDay(row)) return {LineStep::PutBack, row, LineCol::Date};
+  if (col == LineCol::Partner)
+    if (const auto step = partnerTyped(row, typed)) return *step;
   if (!grid().text(row, LineCol::Key).isEmpty()) {
     if (col == LineCol::Kind) {
       session().prompts.MsgWarn("구분은 변경할 수 없습니다.");

@@ -65,6 +65,8 @@ class LineEntry {
   Session& session() { return book_.session(); }
   /** Whose line it is: searched, and then the bottom row opened for him or the line taken to him. */
   virtual LineStep choosePartner(int row, const QString& text) = 0;
+  /** A text was typed in the partner's cell and the cell left: what becomes of it, where it is not simply blanked. */
+  virtual std::optional<LineStep> partnerTyped(int, const QString&) { return {}; }
   /** Whether a search stands open over the screen. */
   bool isSearching() const { return searching_; }
   /** A search in front of the screen. */

@@ -43,6 +43,21 @@ TEST(BuyEntry, TheStationIsFoundByNameTelephoneOrAddress) {
   EXPECT_EQ(typed("낙동"), "낙동");
 }
 
+TEST(BuyEntry, AStationTypedAndLeftIsTakenToo) {
+  Buy buy;
+  EXPECT_EQ(buy.entry.finishCell(1, LineCol::Partner, "낙동").col, LineCol::Kind);
+  EXPECT_EQ(buy.cell(1, LineCol::Code), "낙동");
+  buy.entry.enterKey(1, LineCol::Kind, "가스");
+  EXPECT_EQ(buy.entry.finishCell(1, LineCol::Partner, "없는 곳").end, LineStep::PutBack);
+  EXPECT_EQ(buy.cell(1, LineCol::Partner), "낙동") << "a stored line keeps its station";
+  buy.pc.prompts.expect("선택된 구매처를 수정하시겠습니까?");
+  buy.entry.finishCell(1, LineCol::Partner, "강변");
+  EXPECT_EQ(buy.rows("Select BuyCompany From Buy"), "한강");
+  buy.book.FillBuyGrid(true);
+  buy.entry.finishCell(2, LineCol::Partner, "없는 곳");
+  EXPECT_EQ(buy.cell(2, LineCol::Partner), "") << "a name only comes from the search";
+}
+
 TEST(BuyEntry, AChosenStationShowsItsLinesAndEscShowsAll) {
   Buy buy;
   const int row = buy.bought("한강", 2, 30000);
