@@ -12,9 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
-FrmInitMsg::FrmInitMsg(Session& session, QWidget* parent) : QDialog(parent) {
-  setObjectName(u"FrmInitMsg"_s);
-  setWindowTitle(u"공지"_s);
+FrmInitMsg::FrmInitMsg(Session& session, QWidget* parent)
+    : Dialog(u"FrmInitMsg"_s, u"공지"_s, session.prompts, parent) {
   auto* picture = new QLabel;
   picture->setObjectName(u"picMsg"_s);
   const QPixmap notice(
@@ -32,24 +31,12 @@ FrmInitMsg::FrmInitMsg(Session& session, QWidget* parent) : QDialog(parent) {
   }
   auto* chkCheck = new QCheckBox(u"다시 보지 않기(&N)"_s);
   chkCheck->setObjectName(u"ChkCheck"_s);
-  auto* close = new QPushButton(u"확인(&O)"_s);
-  close->setObjectName(u"BtnOk"_s);
-  close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  connect(this, &QDialog::finished, this, [&session, chkCheck] {
+  body()->addWidget(picture);
+  foot()->addWidget(chkCheck);
+  foot()->addStretch();
+  addDefault("BtnOk", u"확인(&O)"_s, [this] { accept(); })->setFocus();
+  on(this, &QDialog::finished, [&session, chkCheck] {
     session.pc.settings.SaveSetting(session.AppTitle, u"환경설정"_s, u"NoMsg"_s,
                                     chkCheck->isChecked() ? u"1"_s : u"0"_s);
   });
-
-  auto* bottom = new QHBoxLayout;
-  bottom->addWidget(chkCheck);
-  bottom->addStretch();
-  bottom->addWidget(close);
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(16, 14, 16, 14);
-  rows->setSpacing(12);
-  rows->addWidget(picture);
-  rows->addLayout(bottom);
-  layout()->setSizeConstraint(QLayout::SetFixedSize);
-  close->setFocus();
 }

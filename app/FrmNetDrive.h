@@ -1,15 +1,14 @@
 #pragma once
 // Maps a network folder to a drive letter.
-#include <QDialog>
-
 #include "app/data_folder.h"
+#include "ui/forms/dialog.h"
 
 class QComboBox;
 class QLabel;
 class QLineEdit;
 struct FormContext;
 
-class FrmNetDrive : public QDialog {
+class FrmNetDrive : public Dialog {
  public:
   explicit FrmNetDrive(FormContext& context, QWidget* parent = nullptr);
   /** Before the program stands. */

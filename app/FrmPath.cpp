@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "app/FrmNetDrive.h"
 #include "master/registers/form_context.h"
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 FrmPath::FrmPath(FormContext& context, QWidget* parent)
     : FrmPath(
           context.session, [&context] { context.commands.openForm(u"FrmNetDrive"_s); }, parent) {
-  connect(btnSet_, &QPushButton::clicked, this, [this] { set(); });
+  on(btnSet_, &QPushButton::clicked, [this] { set(); });
   pnlData_->hide();
 }
 
@@ -24,64 +25,47 @@ FrmPath::FrmPath(Session& session, QWidget* parent)
           session, [this, &session] { FrmNetDrive(session, this).exec(); }, parent) {
   setWindowTitle(u"다른 폴더 선택"_s);
   btnSet_->setText(u"이 폴더 사용(&S)"_s);
-  connect(btnSet_, &QPushButton::clicked, this, [this] { use(); });
+  on(btnSet_, &QPushButton::clicked, [this] { use(); });
 }
 
 FrmPath::FrmPath(Session& session, std::function<void()> openNetwork, QWidget* parent)
-    : QDialog(parent), rules_(session) {
-  setObjectName(u"FrmPath"_s);
-  setWindowTitle(u"작업경로 설정"_s);
+    : Dialog(u"FrmPath"_s, u"작업경로 설정"_s, session.prompts, parent), rules_(session) {
   drive1_ = new QComboBox;
   drive1_->setObjectName(u"Drive1"_s);
   dir1_ = new QListWidget;
   dir1_->setObjectName(u"Dir1"_s);
-  pnlPath_ = new QLabel;
-  pnlPath_->setObjectName(u"pnlPath"_s);
-  pnlData_ = new QLabel;
-  pnlData_->setObjectName(u"pnlData"_s);
-  for (QLabel* panel : {pnlPath_, pnlData_}) {
-    panel->setProperty("role", u"value"_s);
-    panel->setTextFormat(Qt::PlainText);
-  }
+  pnlPath_ = shownValue("pnlPath");
+  pnlData_ = shownValue("pnlData");
 
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(16, 14, 16, 14);
+  auto* grid = new QGridLayout;
   grid->setSpacing(8);
   grid->addWidget(drive1_, 0, 0);
   grid->addWidget(dir1_, 1, 0, 6, 1);
   grid->addWidget(pnlPath_, 7, 0, 1, 2);
   grid->addWidget(pnlData_, 8, 0, 1, 2);
-  grid->addWidget(button(u"새 폴더(&N)"_s, u"btnNew"_s, [this] { create(); }), 1, 1);
-  grid->addWidget(button(u"폴더 삭제(&D)"_s, u"btnDelete"_s, [this] { remove(); }), 2, 1);
-  grid->addWidget(button(u"네트워크(&W)..."_s, u"btnNetwork"_s,
-                         [this, open = std::move(openNetwork)] {
-                           open();
-                           fillDrives(drive1_->currentText());
-                         }),
+  grid->addWidget(addButton("btnNew", u"새 폴더(&N)"_s, [this] { create(); }), 1, 1);
+  grid->addWidget(addButton("btnDelete", u"폴더 삭제(&D)"_s, [this] { remove(); }), 2, 1);
+  grid->addWidget(addButton("btnNetwork", u"네트워크(&W)..."_s,
+                            [this, open = std::move(openNetwork)] {
+                              open();
+                              fillDrives(drive1_->currentText());
+                            }),
                   3, 1);
   grid->setRowStretch(4, 1);
-  btnSet_ = button(u"경로 설정(&S)"_s, u"btnSet"_s, {});
+  btnSet_ = addButton("btnSet", u"경로 설정(&S)"_s, {});
   grid->addWidget(btnSet_, 5, 1);
-  grid->addWidget(button(u"닫기(&X)"_s, u"btnClose"_s, [this] { reject(); }), 6, 1);
+  grid->addWidget(addLeave("btnClose", u"닫기(&X)"_s), 6, 1);
   grid->setColumnStretch(0, 1);
-  resize(470, 390);
+  body()->addLayout(grid);
+  allowResize({470, 390});
 
   fillDrives(rules_.startDrive());
   const bool lost = drive1_->currentIndex() < 0;
   if (lost) drive1_->setCurrentIndex(0);
   openFolder(lost ? drive1_->currentText() + u'\\' : rules_.startFolder());
-  connect(drive1_, &QComboBox::activated, this, [this] { openFolder(drive1_->currentText() + u'\\'); });
-  connect(dir1_, &QListWidget::itemActivated, this, &FrmPath::enterChosen);
-  connect(dir1_, &QListWidget::itemDoubleClicked, this, &FrmPath::enterChosen);
+  on(drive1_, &QComboBox::activated, [this] { openFolder(drive1_->currentText() + u'\\'); });
+  on(dir1_, &QListWidget::itemActivated, [this] { enterChosen(); });
   dir1_->setFocus();
-}
-
-QPushButton* FrmPath::button(const QString& caption, const QString& name, std::function<void()> work) {
-  auto* made = new QPushButton(caption);
-  made->setObjectName(name);
-  made->setAutoDefault(false);
-  if (work) connect(made, &QPushButton::clicked, this, std::move(work));
-  return made;
 }
 
 void FrmPath::fillDrives(const QString& chosen) {

@@ -1,8 +1,8 @@
 #pragma once
 // Chooses the data folder: for the next start by the menu, for this one when the start has not found its own.
-#include <QDialog>
 
 #include "app/data_folder.h"
+#include "ui/forms/dialog.h"
 
 class QComboBox;
 class QLabel;
@@ -10,7 +10,7 @@ class QListWidget;
 class QPushButton;
 struct FormContext;
 
-class FrmPath : public QDialog {
+class FrmPath : public Dialog {
  public:
   /** By the menu: what is chosen counts from the next start. */
   explicit FrmPath(FormContext& context, QWidget* parent = nullptr);
@@ -19,7 +19,6 @@ class FrmPath : public QDialog {
 
  private:
   FrmPath(Session& session, std::function<void()> openNetwork, QWidget* parent);
-  QPushButton* button(const QString& caption, const QString& name, std::function<void()> work);
   void fillDrives(const QString& chosen);
   void openFolder(const QString& path);
   void enterChosen();

@@ -63,7 +63,7 @@ std::optional<BuildingChoice> FormPickers::searchBuilding(int houseStyle) {
   return search.choice(name, search.blocks().text(block, 1));
 }
 std::optional<QString> FormPickers::pickDate(const QString& initial) {
-  return frmCalendar(initial, session_.pc.clock.today(), windowInFront());
+  return frmCalendar(session_.prompts, initial, session_.pc.clock.today(), windowInFront());
 }
 
 bool FormPickers::checkPassword() {

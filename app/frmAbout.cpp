@@ -1,6 +1,5 @@
 #include "app/frmAbout.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -11,31 +10,14 @@
 
 using namespace Qt::StringLiterals;
 
-frmAbout::frmAbout(FormContext& context, QWidget* parent) : QDialog(parent) {
-  setObjectName(u"frmAbout"_s);
-  setWindowTitle(u"프로그램 정보"_s);
-  auto* name = new QLabel(u"해온판매"_s);
-  name->setFont(look::textFont(15, true));
-  auto* purpose = new QLabel(u"LP가스 판매관리"_s);
-  auto* version = new QLabel(u"버전 "_s + QStringLiteral(HAEON_VERSION));
-  version->setObjectName(u"lblVersion"_s);
-  auto* maker = new QLabel(u"라온웨어  "_s + makerAddress());
-  auto* place =
-      new QLabel(u"자료 폴더  "_s + context.session.DbPath + u"\n작업년도  "_s + context.session.WorkYear);
-  auto* close = new QPushButton(u"확인"_s);
-  close->setObjectName(u"BtnOk"_s);
-  close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
-
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(28, 22, 28, 18);
-  rows->setSpacing(6);
-  rows->addWidget(name);
-  rows->addWidget(purpose);
-  rows->addSpacing(8);
-  for (QWidget* line : {version, maker, place}) rows->addWidget(line);
-  rows->addSpacing(12);
-  rows->addWidget(close, 0, Qt::AlignRight);
+frmAbout::frmAbout(FormContext& context, QWidget* parent)
+    : Dialog(u"frmAbout"_s, u"프로그램 정보"_s, context.session.prompts, parent) {
+  addText(u"해온판매"_s)->setFont(look::textFont(15, true));
+  addText(u"LP가스 판매관리"_s);
+  body()->addSpacing(6);
+  addText(u"버전 "_s + QStringLiteral(HAEON_VERSION), "lblVersion");
+  addText(u"라온웨어  "_s + makerAddress());
+  addText(u"자료 폴더  "_s + context.session.DbPath + u"\n작업년도  "_s + context.session.WorkYear);
+  addDefault("BtnOk", u"확인"_s, [this] { accept(); });
   setMinimumWidth(360);
-  layout()->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -1,10 +1,10 @@
 #pragma once
 // The program's name, version and maker.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 struct FormContext;
 
-class frmAbout : public QDialog {
+class frmAbout : public Dialog {
  public:
   explicit frmAbout(FormContext& context, QWidget* parent = nullptr);
 };

@@ -300,7 +300,7 @@ bool frmMain::isBuilt(const QString& form) const {
 
 bool frmMain::openCallerWindow(const QString& name) {
   if (name == "FrmSeeIDOptions"_L1) {
-    FrmSeeIDOptions(*caller_, this).exec();
+    FrmSeeIDOptions(session_, *caller_, this).exec();
     return true;
   }
   if (name != "FrmSeeIDStanbyList"_L1) return false;

@@ -1,12 +1,12 @@
 #pragma once
 // Printer and place of the giro slips.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 struct FormContext;
 class QLineEdit;
 class QListWidget;
 
-class frmPrtChange : public QDialog {
+class frmPrtChange : public Dialog {
  public:
   explicit frmPrtChange(FormContext& context, QWidget* parent = nullptr);
 

@@ -4,16 +4,17 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "billing/reading_screen.h"
 #include "giro/form_giro_parts.h"
 #include "papers/form_document_run.h"
 #include "papers/paper_printer.h"
 #include "ui/forms/frmFloatMsg.h"
-#include "ui/forms/guard.h"
 #include "ui/grid/spread.h"
 
 using namespace Qt::StringLiterals;
@@ -23,36 +24,36 @@ constexpr int noteLinesOffered = 8;
 }
 
 frmPrtJiroOCR::frmPrtJiroOCR(FormContext& context, QWidget* parent)
-    : QDialog(parent), context_(context), rules_(context.session, [&context] {
-        return dynamic_cast<const ReadingScreen*>(context.commands.activeForm());
-      }) {
-  setObjectName(u"frmPrtJiroOCR"_s);
+    : Dialog(u"frmPrtJiroOCR"_s, {}, context.session.prompts, parent),
+      context_(context),
+      rules_(context.session,
+             [&context] { return dynamic_cast<const ReadingScreen*>(context.commands.activeForm()); }) {
   selection_ = new SelectionGroup;
   lblPrinter_ = new QLabel;
   lblPrinter_->setObjectName(u"LblPrinter"_s);
   lblPrinter_->setTextFormat(Qt::PlainText);
 
-  auto* jiro = button("BtnJiro", u"지로발행(&P)"_s, [this] { print(); });
+  foot()->addWidget(lblPrinter_, 1);
   auto* giroPrinter =
-      button("BtnPrtChange", u"지로프린터(&G)..."_s, [this] { openSetUp(u"frmPrtChange"_s); });
+      addButton("BtnPrtChange", u"지로프린터(&G)..."_s, [this] { openSetUp(u"frmPrtChange"_s); });
   giroPrinter->setToolTip(u"지로용지를 출력할 프린터와 위치를 설정합니다"_s);
-  auto* printer = button("BtnPrinter", u"프린터설정(&S)..."_s, [this] { openSetUp(u"FrmSetPrinter"_s); });
+  auto* printer = addButton("BtnPrinter", u"프린터설정(&S)..."_s, [this] { openSetUp(u"FrmSetPrinter"_s); });
   printer->setToolTip(u"거래명세표 등 문서별 프린터를 설정합니다"_s);
-  auto* exit = button("BtnExit", u"닫기(&X)"_s, [this] { reject(); });
+  auto* jiro = addButton("BtnJiro", u"지로발행(&P)"_s, [this] { print(); });
+  addLeave("BtnExit", u"닫기(&X)"_s);
 
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(12, 10, 12, 12);
+  auto* grid = new QGridLayout;
   grid->setSpacing(8);
   grid->addWidget(buildDates(), 0, 0);
   grid->addWidget(selection_, 1, 0);
   grid->addWidget(buildNotes(), 0, 1, 2, 1);
-  auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(8);
-  buttons->addWidget(lblPrinter_, 1);
-  for (QPushButton* each : {giroPrinter, printer, jiro, exit}) buttons->addWidget(each);
-  grid->addLayout(buttons, 2, 0, 1, 2);
   grid->setColumnStretch(1, 1);
   grid->setRowStretch(1, 1);
+  body()->addLayout(grid);
+  allowResize();
+  QList<QWidget*> order;
+  for (QLineEdit* const box : due_->findChildren<QLineEdit*>()) order << box;
+  enterOrder(order << cmbUseMon_ << txtUse1_ << txtUse2_ << chkThisMon_ << jiro);
 
   showPage(u"continuous"_s);
   startUseMonth();
@@ -98,13 +99,11 @@ QGroupBox* frmPrtJiroOCR::buildDates() {
   chkThisMon_->setChecked(rules_.startsWithThisMonth());
   grid->addWidget(chkThisMon_, 3, 1);
 
-  connect(cmbUseMon_, &QComboBox::currentIndexChanged, this, [this] { fillUsePeriod(); });
-  connect(chkThisMon_, &QCheckBox::toggled, this, [this](bool on) {
-    rules_.setStartsWithThisMonth(on);
+  on(cmbUseMon_, &QComboBox::currentIndexChanged, [this] { fillUsePeriod(); });
+  on(chkThisMon_, &QCheckBox::toggled, [this] {
+    rules_.setStartsWithThisMonth(chkThisMon_->isChecked());
     startUseMonth();
   });
-  for (QLineEdit* box : group->findChildren<QLineEdit*>())
-    connect(box, &QLineEdit::returnPressed, this, [this] { focusNextChild(); });
   return group;
 }
 
@@ -114,23 +113,12 @@ QGroupBox* frmPrtJiroOCR::buildNotes() {
   notes_.setMaxRows(noteLinesOffered);
   txtAnnounce_ = new Spread(notes_);
   txtAnnounce_->setObjectName(u"TxtAnnounce"_s);
-  txtAnnounce_->guard = [this](const std::function<void()>& work) {
-    return guarded(context_.session.prompts, work);
-  };
+  txtAnnounce_->guard = [this](const std::function<void()>& work) { return guard(work); };
   txtAnnounce_->setMinimumWidth(txtAnnounce_->fullWidth());
   txtAnnounce_->setFillColumn(1);
   auto* rows = new QVBoxLayout(group);
   rows->addWidget(txtAnnounce_);
   return group;
-}
-
-QPushButton* frmPrtJiroOCR::button(const char* name, const QString& caption,
-                                   const std::function<void()>& work) {
-  auto* made = new QPushButton(caption);
-  made->setObjectName(QString::fromUtf8(name));
-  made->setAutoDefault(false);
-  connect(made, &QPushButton::clicked, this, [this, work] { guarded(context_.session.prompts, work); });
-  return made;
 }
 
 void frmPrtJiroOCR::showPage(const QString& page) {

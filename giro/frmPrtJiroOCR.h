@@ -1,9 +1,9 @@
 #pragma once
 // Prints the OCR slips of the reading screen: continuous paper, or A4.
-#include <QDialog>
 
 #include "giro/jiro_ocr.h"
 #include "master/registers/form_context.h"
+#include "ui/forms/dialog.h"
 #include "ui/model/spread_model.h"
 
 class DueDateBoxes;
@@ -16,7 +16,7 @@ class QPushButton;
 class SelectionGroup;
 class Spread;
 
-class frmPrtJiroOCR : public QDialog {
+class frmPrtJiroOCR : public Dialog {
  public:
   explicit frmPrtJiroOCR(FormContext& context, QWidget* parent = nullptr);
   /** "continuous" or "a4". */
@@ -25,7 +25,6 @@ class frmPrtJiroOCR : public QDialog {
  private:
   QGroupBox* buildDates();
   QGroupBox* buildNotes();
-  QPushButton* button(const char* name, const QString& caption, const std::function<void()>& work);
   void startUseMonth();
   void fillUsePeriod();
   void showPrinter();

@@ -1,15 +1,15 @@
 #pragma once
 // The two serial ports of the caller-identification units.
-#include <QDialog>
 #include <array>
 
 #include "links/caller.h"
+#include "ui/forms/dialog.h"
 
 class QLineEdit;
 
-class FrmSeeIDOptions : public QDialog {
+class FrmSeeIDOptions : public Dialog {
  public:
-  explicit FrmSeeIDOptions(Caller& caller, QWidget* parent = nullptr);
+  FrmSeeIDOptions(Session& session, Caller& caller, QWidget* parent = nullptr);
 
  private:
   std::array<QLineEdit*, 2> txtPortNo_;

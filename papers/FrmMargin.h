@@ -1,12 +1,12 @@
 #pragma once
 // How far each kind of document is moved on its paper.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 struct FormContext;
 class QLineEdit;
 class QListWidget;
 
-class FrmMargin : public QDialog {
+class FrmMargin : public Dialog {
  public:
   explicit FrmMargin(FormContext& context, QWidget* parent = nullptr);
   /** Puts the list on a kind of document. */

@@ -1,10 +1,10 @@
 #pragma once
 // Asks which of the two product lists is to be printed.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 struct FormContext;
 
-class FrmPrintSection : public QDialog {
+class FrmPrintSection : public Dialog {
  public:
   /** What exec() ends with. */
   enum Choice { Cancelled = QDialog::Rejected, ByCategory = 1, ProductList = 2 };

@@ -1,13 +1,13 @@
 #pragma once
 // Which printer each kind of document goes to.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 struct FormContext;
 class QComboBox;
 class QLabel;
 class QListWidget;
 
-class FrmSetPrinter : public QDialog {
+class FrmSetPrinter : public Dialog {
  public:
   explicit FrmSetPrinter(FormContext& context, QWidget* parent = nullptr);
   /** Puts the list on a kind of document. */

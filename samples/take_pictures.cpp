@@ -205,7 +205,7 @@ void small(frmMain& window, Session& session, Photographer& photographer) {
     if (form && form->objectName() == QLatin1String(name))
       photographer.take(*form, QString::fromLatin1(name));
   }
-  FrmSeeIDOptions options(window.caller());
+  FrmSeeIDOptions options(session, window.caller());
   photographer.take(options, "FrmSeeIDOptions");
   WaitingList waiting(session.pc.clock);
   for (const char* number : {"0531234567", "0538118844", "01000002051"})

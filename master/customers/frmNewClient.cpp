@@ -9,12 +9,11 @@
 #include "ui/forms/form.h"
 
 frmNewClient::frmNewClient(Session& session, Pickers& pickers, const QString& searchText, QWidget* parent)
-    : QDialog(parent), form_(new Form("frmNewClient", "신규고객 등록", session, this)) {
-  setObjectName("frmNewClient");
-  setWindowTitle(form_->windowTitle());
-  auto* const whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addWidget(form_);
+    : Dialog("frmNewClient", "신규고객 등록", session.prompts, parent),
+      form_(new Form("frmNewClient", windowTitle(), session, this)) {
+  layout()->setContentsMargins(0, 0, 0, 0);
+  allowResize();
+  body()->addWidget(form_);
 
   QGroupBox* const panel = form_->addGroup({});
   boxes_ = std::make_unique<ClientBoxes>(*form_, pickers, panel, HouseStyle::Plain, ClientBoxes::Set::Short);
@@ -39,13 +38,10 @@ std::optional<ClientChoice> frmNewClient::enter() {
   return registered_;
 }
 
-/** Esc, the leaving button and the window's own one. */
-void frmNewClient::reject() {
-  if (boxes_->entry() != shown_ &&
-      !form_->session().prompts.MsgAsk("입력한 내용을 저장하지 않았습니다!\n저장하지 않고 버리시겠습니까?",
-                                       "고객 관리자", false))
-    return;
-  QDialog::reject();
+bool frmNewClient::mayLeave() {
+  return boxes_->entry() == shown_ ||
+         prompts().MsgAsk("입력한 내용을 저장하지 않았습니다!\n저장하지 않고 버리시겠습니까?", "고객 관리자",
+                          false);
 }
 
 void frmNewClient::save() {
@@ -67,5 +63,5 @@ bool frmNewClient::eventFilter(QObject* watched, QEvent* event) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && boxes_->enter(box)) return true;
   }
-  return QDialog::eventFilter(watched, event);
+  return Dialog::eventFilter(watched, event);
 }

@@ -1,15 +1,14 @@
 #pragma once
 // The short entry of a customer, over the search that did not find one.
-#include <QDialog>
-
 #include <memory>
 
 #include "master/customers/form_client_boxes.h"
 #include "master/registers/pickers.h"
+#include "ui/forms/dialog.h"
 
 class QPushButton;
 
-class frmNewClient : public QDialog {
+class frmNewClient : public Dialog {
  public:
   frmNewClient(Session& session, Pickers& pickers, const QString& searchText, QWidget* parent = nullptr);
 
@@ -17,7 +16,7 @@ class frmNewClient : public QDialog {
   std::optional<ClientChoice> enter();
 
  protected:
-  void reject() override;
+  bool mayLeave() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -132,7 +132,7 @@ TEST_F(Boxes, CalendarOpensOnTheGivenDayAndTakesByEnter) {
       if (key != Qt::Key_Escape) QTest::keyClick(days, Qt::Key_Right);
       QTest::keyClick(days, Qt::Key(key));
     });
-    return frmCalendar(initial, today);
+    return frmCalendar(boxes, initial, today);
   };
   EXPECT_EQ(choose(u"2026-02-28"_s, Qt::Key_Return), u"2026-03-01"_s);
   EXPECT_EQ(choose(u"2026-02-30"_s, Qt::Key_Return), u"2026-06-16"_s) << "no such day: today";

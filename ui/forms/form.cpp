@@ -1,21 +1,14 @@
 #include "ui/forms/form.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPointer>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QShortcut>
 #include <QTabBar>
-#include <QTextEdit>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -23,6 +16,7 @@
 
 #include "ui/forms/form_ini.h"
 #include "ui/forms/guard.h"
+#include "ui/forms/push_button.h"
 #include "ui/grid/grid_menu.h"
 
 Form::Form(const QString& name, const QString& caption, Session& session, QWidget* parent)
@@ -51,27 +45,6 @@ Form::Form(const QString& name, const QString& caption, Session& session, QWidge
 }
 
 // --- handlers -----------------------------------------------------------------------------------------------
-
-namespace {
-
-QList<QRadioButton*> optionsBeside(QWidget* control) {
-  if (!qobject_cast<QRadioButton*>(control)) return {};
-  return control->parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly);
-}
-
-/** The option of a group that is on, for any other control itself. */
-QWidget* stopAt(QWidget* control) {
-  for (QRadioButton* const option : optionsBeside(control))
-    if (option->isChecked()) return option;
-  return control;
-}
-
-bool keepsEnter(const QWidget* control) {
-  return qobject_cast<const QPlainTextEdit*>(control) || qobject_cast<const QTextEdit*>(control) ||
-         qobject_cast<const QPushButton*>(control);
-}
-
-}  // namespace
 
 bool Form::guard(const std::function<void()>& work) {
   return guarded(session_.prompts, work);
@@ -139,18 +112,9 @@ void Form::setBottomLine(const QString& text) {
 // --- the focus ----------------------------------------------------------------------------------------------
 
 void Form::enterOrder(const QList<QWidget*>& controls, std::function<void()> atEnd) {
-  order_ = controls;
+  order_ = EnterOrder(controls);
   atEnd_ = std::move(atEnd);
-  for (QWidget* const control : controls) {
-    control->installEventFilter(this);
-    for (QRadioButton* const option : optionsBeside(control)) option->installEventFilter(this);
-  }
-}
-
-void Form::focus(QWidget* control) {
-  control->setFocus(Qt::OtherFocusReason);
-  if (auto* const box = qobject_cast<QLineEdit*>(control); box && box->inputMask().isEmpty())
-    box->selectAll();
+  for (QWidget* const control : order_.sources()) control->installEventFilter(this);
 }
 
 void Form::focusGrid() {
@@ -161,19 +125,9 @@ void Form::focusGrid() {
 }
 
 bool Form::enterFrom(QWidget* control) {
-  const QList<QRadioButton*> group = optionsBeside(control);
-  const auto isHere = [&](QWidget* each) {
-    return each == control || group.contains(qobject_cast<QRadioButton*>(each));
-  };
-  const qsizetype at = std::distance(order_.begin(), std::find_if(order_.begin(), order_.end(), isHere));
-  if (at == order_.size() || keepsEnter(control)) return false;
-  for (qsizetype next = at + 1; next < order_.size(); ++next) {
-    if (!order_[next]->isVisibleTo(this) || !order_[next]->isEnabled() || isHere(order_[next])) continue;
-    focus(stopAt(order_[next]));
-    return true;
-  }
-  if (atEnd_) command(atEnd_);
-  return true;
+  const EnterOrder::Step step = order_.from(control, this);
+  if (step == EnterOrder::Step::AtEnd && atEnd_) command(atEnd_);
+  return step != EnterOrder::Step::None;
 }
 
 // --- the pages ----------------------------------------------------------------------------------------------
@@ -241,28 +195,8 @@ Spread* Form::addSpread(const char* name, SpreadModel& model, QWidget* parent) {
   return grid;
 }
 
-namespace {
-
-/** Its Alt letter works at once: the toolkit's own way lets a tenth of a second pass, in which a fast hand's next keys
- *  would still go to the control before. */
-class FormButton : public QPushButton {
- public:
-  using QPushButton::QPushButton;
-
- protected:
-  bool event(QEvent* event) override {
-    if (event->type() != QEvent::Shortcut || static_cast<QShortcutEvent*>(event)->isAmbiguous())
-      return QPushButton::event(event);
-    click();
-    return true;
-  }
-};
-
-}  // namespace
-
 QPushButton* Form::addButton(const char* name, const QString& caption, std::function<void()> work) {
-  auto* const button = new FormButton(caption, this);
-  button->setObjectName(QString::fromUtf8(name));
+  auto* const button = new PushButton(name, caption, this);
   button->setAutoDefault(true);
   connect(button, &QPushButton::clicked, this,
           [this, button = QPointer<QPushButton>(button), work = std::move(work)] {

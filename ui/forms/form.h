@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "store/session.h"
+#include "ui/forms/enter_order.h"
 #include "ui/grid/spread.h"
 
 class QGroupBox;
@@ -52,10 +53,9 @@ class Form : public QWidget {
   void setBottomLine(const QString& text);
 
   // --- the focus --------------------------------------------------------------------------------------------
-  /** Enter in one of these goes to the next that is shown and enabled; the last one's Enter runs atEnd. Boxes of
-   *  several lines and buttons keep their Enter. Options of one parent are one stop, entered at the one that is on. */
+  /** Enter in one of these goes to the next; the last one's Enter runs atEnd. */
   void enterOrder(const QList<QWidget*>& controls, std::function<void()> atEnd = {});
-  static void focus(QWidget* control);  ///< with its text selected
+  static void focus(QWidget* control) { EnterOrder::focus(control); }
   /** To the grid in sight, where the hand works; nothing when it is empty or there is none. */
   void focusGrid();
 
@@ -92,7 +92,7 @@ class Form : public QWidget {
   QMap<int, std::function<void()>> keys_;
   QHash<QObject*, QString> helps_;
   QHash<QObject*, std::function<void()>> leaves_;
-  QList<QWidget*> order_;
+  EnterOrder order_;
   std::function<void()> atEnd_;
   QTabBar* pages_ = nullptr;
   bool shown_ = false;

@@ -1,7 +1,6 @@
 #include "ui/forms/frmCalendar.h"
 
 #include <QCalendarWidget>
-#include <QDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -10,6 +9,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include "ui/forms/dialog.h"
 #include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
@@ -41,7 +41,7 @@ QCalendarWidget* monthSheet(QWidget* parent, const QDate& today, const QDate& ch
 }
 
 /** "2026년 6월" between the two buttons that turn the page. */
-QHBoxLayout* pageHead(QDialog& dialog, QCalendarWidget* sheet) {
+QHBoxLayout* pageHead(Dialog& dialog, QCalendarWidget* sheet) {
   auto* const title = new QLabel(&dialog);
   title->setObjectName(u"LblMonth"_s);
   title->setAlignment(Qt::AlignCenter);
@@ -66,31 +66,22 @@ QHBoxLayout* pageHead(QDialog& dialog, QCalendarWidget* sheet) {
 
 }  // namespace
 
-std::optional<QString> frmCalendar(const QString& initial, const QDate& today, QWidget* parent) {
-  QDialog dialog(parent);
-  dialog.setObjectName(u"frmCalendar"_s);
-  dialog.setWindowTitle(u"달력"_s);
+std::optional<QString> frmCalendar(Prompts& prompts, const QString& initial, const QDate& today,
+                                   QWidget* parent) {
+  Dialog dialog(u"frmCalendar"_s, u"달력"_s, prompts, parent);
+  dialog.layout()->setContentsMargins(6, 6, 6, 6);
+  dialog.layout()->setSpacing(5);
   const QDate start = QDate::fromString(initial, dateForm);
   auto* const sheet = monthSheet(&dialog, today, start.isValid() ? start : today);
-  QObject::connect(sheet, &QCalendarWidget::activated, &dialog, &QDialog::accept);
+  dialog.on(sheet, &QCalendarWidget::activated, [&] { dialog.accept(); });
+  dialog.body()->addLayout(pageHead(dialog, sheet));
+  dialog.body()->addWidget(sheet);
 
-  auto* const line = new QHBoxLayout;
   auto* const help = new QLabel(u"엔터 : 선택   PgUp/PgDn : 월 이동   Esc : 닫기"_s, &dialog);
   help->setObjectName(u"PnlHelp"_s);
-  line->addWidget(help, 1);
-  auto* const now = new QPushButton(u"오늘(&T)"_s, &dialog);
-  now->setObjectName(u"BtnToday"_s);
-  now->setAutoDefault(false);
-  now->setFocusPolicy(Qt::NoFocus);
-  QObject::connect(now, &QPushButton::clicked, sheet, [=] { sheet->setSelectedDate(today); });
-  line->addWidget(now);
-
-  auto* const whole = new QVBoxLayout(&dialog);
-  whole->setContentsMargins(6, 6, 6, 6);
-  whole->setSpacing(5);
-  whole->addLayout(pageHead(dialog, sheet));
-  whole->addWidget(sheet);
-  whole->addLayout(line);
+  dialog.foot()->addWidget(help, 1);
+  dialog.addButton("BtnToday", u"오늘(&T)"_s, [&] { sheet->setSelectedDate(today); })
+      ->setFocusPolicy(Qt::NoFocus);
   sheet->setFocus();
   if (dialog.exec() != QDialog::Accepted) return {};
   return sheet->selectedDate().toString(dateForm);

@@ -9,20 +9,18 @@
 #include <QVBoxLayout>
 
 #include "ui/forms/form_ini.h"
-#include "ui/forms/guard.h"
 
 using namespace Qt::StringLiterals;
 
 PickerDialog::PickerDialog(const QString& name, const QString& caption, Session& session, SpreadModel& rows,
                            const char* gridName, QWidget* parent)
-    : QDialog(parent), session_(session) {
-  setObjectName(name);
-  setWindowTitle(caption);
-  auto* const whole = new QVBoxLayout(this);
-  whole->setContentsMargins(6, 6, 6, 6);
-  whole->setSpacing(5);
+    : Dialog(name, caption, session.prompts, parent), session_(session) {
+  layout()->setContentsMargins(6, 6, 6, 6);
+  layout()->setSpacing(5);
+  allowResize();
+  rememberPlace(session.pc.paths);
   head_ = new QVBoxLayout;
-  whole->addLayout(head_);
+  body()->addLayout(head_);
 
   grid_ = new Spread(rows, this);
   grid_->setObjectName(QString::fromUtf8(gridName));
@@ -40,13 +38,10 @@ PickerDialog::PickerDialog(const QString& name, const QString& caption, Session&
     take(row);
     return true;
   };
-  whole->addWidget(grid_, 1);
-
-  auto* const foot = new QHBoxLayout;
+  body()->addWidget(grid_, 1);
   help_ = new QLabel(u"엔터 : 선택   Esc : 닫기"_s, this);
   help_->setObjectName(u"PnlHelp"_s);
-  foot->addWidget(help_, 1);
-  whole->addLayout(foot);
+  foot()->addWidget(help_, 1);
 }
 
 QLineEdit* PickerDialog::addFind(const char* name, const QString& label,
@@ -57,24 +52,16 @@ QLineEdit* PickerDialog::addFind(const char* name, const QString& label,
   find_->installEventFilter(this);
   auto* const words = new QLabel(label, this);
   words->setBuddy(find_);
-  auto* const button = new QPushButton(u"찾기(&F)"_s, this);
-  button->setObjectName(u"BtnFind"_s);
-  button->setAutoDefault(false);
   search_ = std::move(find);
-  connect(button, &QPushButton::clicked, this, [this] { guard([this] { search_(find_->text()); }); });
   row->addWidget(words);
   row->addWidget(find_, 1);
-  row->addWidget(button);
+  row->addWidget(addButton("BtnFind", u"찾기(&F)"_s, [this] { search_(find_->text()); }));
   head_->addLayout(row);
   return find_;
 }
 
 void PickerDialog::showHelp(const QString& text) {
   help_->setText(text);
-}
-
-bool PickerDialog::guard(const std::function<void()>& work) {
-  return guarded(session_.prompts, work);
 }
 
 void PickerDialog::showFound() {
@@ -103,15 +90,6 @@ void PickerDialog::take(int row) {
   accept();
 }
 
-void PickerDialog::keyPressEvent(QKeyEvent* event) {
-  // Enter belongs to the find box and the list; a dialog's own default button would close it.
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) button->click();
-    return;
-  }
-  QDialog::keyPressEvent(event);
-}
-
 bool PickerDialog::eventFilter(QObject* watched, QEvent* event) {
   if (watched == find_ && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
@@ -124,21 +102,14 @@ bool PickerDialog::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
-  return QDialog::eventFilter(watched, event);
+  return Dialog::eventFilter(watched, event);
 }
 
 void PickerDialog::showEvent(QShowEvent* event) {
-  const FormIni memory(session_.pc.paths);
-  memory.LoadFormIni(*this);
-  memory.LoadSpreadIni(*grid_, *this);
-  QDialog::showEvent(event);
+  FormIni(session_.pc.paths).LoadSpreadIni(*grid_, *this);
+  Dialog::showEvent(event);
   if (grid_->model().DataRowCnt() > 0 || !find_)
     showFound();
   else
     find_->setFocus();
-}
-
-void PickerDialog::done(int result) {
-  FormIni(session_.pc.paths).SaveFormIni(*this);
-  QDialog::done(result);
 }

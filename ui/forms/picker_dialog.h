@@ -1,17 +1,16 @@
 #pragma once
 // The modal search list all pickers share: a find box, a grid, Enter or a double click takes, Esc leaves.
-#include <QDialog>
-
 #include <functional>
 
 #include "store/session.h"
+#include "ui/forms/dialog.h"
 #include "ui/grid/spread.h"
 
 class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 
-class PickerDialog : public QDialog {
+class PickerDialog : public Dialog {
  public:
   /** The model must outlive exec(). */
   PickerDialog(const QString& name, const QString& caption, Session& session, SpreadModel& rows,
@@ -31,13 +30,10 @@ class PickerDialog : public QDialog {
   int pick();
   /** After a search: the focus goes to the list when it holds lines, else back to the find box. */
   void showFound();
-  bool guard(const std::function<void()>& work);
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void done(int result) override;
 
  private:
   void take(int row);

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "pc/print_job.h"
+#include "ui/model/prompts.h"
 
 class QWidget;
 
@@ -14,5 +15,5 @@ struct PrintChoice {
 };
 
 /** Asks; nothing when the operator leaves. remembered: the printer that is offered first when it is there. */
-std::optional<PrintChoice> askPrintChoice(const pc::Printers& printers, const QString& remembered, int pages,
-                                          QWidget* parent);
+std::optional<PrintChoice> askPrintChoice(Prompts& prompts, const pc::Printers& printers,
+                                          const QString& remembered, int pages, QWidget* parent);

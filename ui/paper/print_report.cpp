@@ -12,7 +12,7 @@ const QString application = u"해온판매"_s, section = u"프린터설정"_s, l
 
 std::optional<PrintChoice> ask(Session& session, int pages, QWidget* parent) {
   const QString before = session.pc.settings.GetSetting(application, section, lastPrinter);
-  return askPrintChoice(*session.printers, before, pages, parent);
+  return askPrintChoice(session.prompts, *session.printers, before, pages, parent);
 }
 
 }  // namespace
