@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
@@ -35,8 +36,6 @@ FrmInitMsg::FrmInitMsg(Session& session, QWidget* parent)
   foot()->addWidget(chkCheck);
   foot()->addStretch();
   addDefault("BtnOk", u"확인(&O)"_s, [this] { accept(); })->setFocus();
-  on(this, &QDialog::finished, [&session, chkCheck] {
-    session.pc.settings.SaveSetting(session.AppTitle, u"환경설정"_s, u"NoMsg"_s,
-                                    chkCheck->isChecked() ? u"1"_s : u"0"_s);
-  });
+  on(this, &QDialog::finished,
+     [&session, chkCheck] { session.pc.settings.write(setting::NoticeHidden, chkCheck->isChecked()); });
 }

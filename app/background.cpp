@@ -3,14 +3,11 @@
 #include <QFileInfo>
 
 #include "store/session.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString backgroundApplication = u"라온공통"_s;
-const QString backgroundSection = u"메인배경"_s;
-const QString defaultColour = u"15856113"_s;
 
 // The settings hold a colour with red in the lowest byte.
 int swapRedAndBlue(int colour) {
@@ -19,14 +16,6 @@ int swapRedAndBlue(int colour) {
 
 }  // namespace
 
-QString BackgroundSettings::setting(const QString& key, const QString& fallback) const {
-  return session_.pc.settings.GetSetting(backgroundApplication, backgroundSection, key, fallback);
-}
-
-void BackgroundSettings::save(const QString& key, const QString& value) {
-  session_.pc.settings.SaveSetting(backgroundApplication, backgroundSection, key, value);
-}
-
 QString BackgroundSettings::defaultPicture() const {
   return session_.pc.paths.programFolder() + u"\\Image\\mainbg.jpg"_s;
 }
@@ -34,29 +23,31 @@ QString BackgroundSettings::defaultPicture() const {
 Background BackgroundSettings::load() const {
   Background ground;
   bool isNumber = false;
-  const int stored = setting(u"배경색상"_s, defaultColour).toInt(&isNumber);
-  ground.rgb = swapRedAndBlue(isNumber ? stored : defaultColour.toInt());
-  const QString file = setting(u"로고파일경로"_s, defaultPicture());
+  const pc::Settings& settings = session_.pc.settings;
+  const int stored = settings.read(setting::GroundColour).toInt(&isNumber);
+  ground.rgb = swapRedAndBlue(isNumber ? stored : setting::GroundColour.fallback.toInt());
+  // One that was taken away is stored as '' and stays away.
+  const QString file = settings.read(setting::GroundPicture, defaultPicture());
   const QString native = session_.pc.paths.native(file);
   if (!file.isEmpty() && QFileInfo(native).isFile()) ground.picture = native;
-  ground.tiled = setting(u"로고배치형태"_s, u"0"_s) == "0"_L1;
+  ground.tiled = settings.read(setting::GroundCentred) == "0"_L1;
   return ground;
 }
 
 void BackgroundSettings::setTiled(bool tiled) {
-  save(u"로고배치형태"_s, tiled ? u"0"_s : u"1"_s);
+  session_.pc.settings.write(setting::GroundCentred, !tiled);
 }
 void BackgroundSettings::setPicture(const QString& path) {
-  save(u"로고파일경로"_s, path);
+  session_.pc.settings.write(setting::GroundPicture, path);
 }
 void BackgroundSettings::useDefaultPicture() {
   setPicture(defaultPicture());
 }
 void BackgroundSettings::setColour(int rgb) {
-  save(u"배경색상"_s, QString::number(swapRedAndBlue(rgb)));
+  session_.pc.settings.write(setting::GroundColour, QString::number(swapRedAndBlue(rgb)));
 }
 void BackgroundSettings::useDefaultColour() {
-  save(u"배경색상"_s, defaultColour);
+  session_.pc.settings.write(setting::GroundColour, setting::GroundColour.fallback.toString());
 }
 
 void BackgroundSettings::warnColourHidden() {

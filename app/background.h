@@ -28,8 +28,6 @@ class BackgroundSettings {
   static QString pictureFilter();  ///< as the file box takes it: "Pictures (*.bmp *.jpg *.gif)"
 
  private:
-  QString setting(const QString& key, const QString& fallback) const;
-  void save(const QString& key, const QString& value);
   QString defaultPicture() const;
 
   Session& session_;

@@ -2,12 +2,11 @@
 
 #include "store/data_access.h"
 #include "store/jet/text_rules.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString registrationSection = u"Registration"_s;
 
 QString quoted(const QString& text) {
   return u"'"_s + plainText(text) + u"'"_s;
@@ -41,7 +40,7 @@ QString CompanyProfile::companyName() const {
 
 CompanyData CompanyProfile::profile() const {
   CompanyData data;
-  data.Ocr = session_.pc.settings.GetSetting(session_.AppTitle, registrationSection, u"Ocr"_s, u"0000000"_s);
+  data.Ocr = session_.pc.settings.read(setting::ApprovalNumber);
   const auto user = row();
   if (!user) return data;
   const auto text = [&](const QString& name) { return (*user)[name].toText(); };
@@ -59,10 +58,8 @@ CompanyData CompanyProfile::profile() const {
 
 BillingSettings CompanyProfile::settings() const {
   BillingSettings page;
-  page.oneMonthOnly = session_.pc.settings.GetSetting(session_.AppTitle, registrationSection, u"연체료계산"_s,
-                                                      u"0"_s) == "1"_L1;
-  page.withoutDelay = session_.pc.settings.GetSetting(session_.AppTitle, u"Config"_s, u"납기후금액계산법"_s,
-                                                      u"0"_s) == "1"_L1;
+  page.oneMonthOnly = session_.pc.settings.read(setting::LateChargeKind) == "1"_L1;
+  page.withoutDelay = session_.pc.settings.read(setting::AfterDueMethod) == "1"_L1;
   const auto user = row();
   if (!user) return page;
   const auto text = [&](const QString& name) { return (*user)[name].toText(); };
@@ -104,8 +101,8 @@ ProfileSaved CompanyProfile::saveProfile(const CompanyData& data) {
         u"Insert Into User(Company, User, BusCode, PostCode, Fax, Address, Tel, BusStyle, BusKind) "_s +
         u"Values("_s + values.join(u", "_s) + u")"_s);
   }
-  session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"UserName"_s, data.Company);
-  session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"Ocr"_s, data.Ocr);
+  session_.pc.settings.write(setting::CompanyName, data.Company);
+  session_.pc.settings.write(setting::ApprovalNumber, data.Ocr);
   if (session_.profileChanged) session_.profileChanged();
   if (changing)
     session_.prompts.MsgInfo(u"사용자 정보 수정이 완료되었습니다"_s, u"사용자 정보 수정 완료"_s);
@@ -124,11 +121,9 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
     return false;
   }
   session_.DelayCalcFlag = settings.oneMonthOnly ? u"1"_s : u"0"_s;
-  session_.pc.settings.SaveSetting(session_.AppTitle, registrationSection, u"연체료계산"_s,
-                                   session_.DelayCalcFlag);
+  session_.pc.settings.write(setting::LateChargeKind, session_.DelayCalcFlag);
   session_.AfterDueMethod = settings.withoutDelay ? 1 : 0;
-  session_.pc.settings.SaveSetting(session_.AppTitle, u"Config"_s, u"납기후금액계산법"_s,
-                                   QString::number(session_.AfterDueMethod));
+  session_.pc.settings.write(setting::AfterDueMethod, QString::number(session_.AfterDueMethod));
   session_.dbBasic.Execute(
       u"Update User Set PayState = "_s + QString::number(settings.PayState) + u", AptRate = "_s +
       valText(settings.AptRate) + u", "_s + u"AptSecurity = "_s + wholeText(settings.AptSecurity) +

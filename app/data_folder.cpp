@@ -4,6 +4,7 @@
 
 #include "pc/file_name.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -80,8 +81,8 @@ void DataFolder::use(const QString& folder) {
 }
 
 void DataFolder::save(const QString& data, const QString& reports) {
-  session_.pc.settings.SaveSetting(session_.AppTitle, u"환경설정"_s, u"db경로"_s, data);
-  session_.pc.settings.SaveSetting(session_.AppTitle, u"환경설정"_s, u"rpt경로"_s, reports);
+  session_.pc.settings.write(setting::DataFolder, data);
+  session_.pc.settings.write(setting::ReportFolder, reports);
 }
 
 bool DataFolder::set(const QString& folder) {

@@ -3,17 +3,13 @@
 #include <QApplication>
 
 #include "app/frmSecurity.h"
-#include "master/buildings/frmAPTAddress.h"
-#include "master/buildings/frmBDName.h"
+#include "master/buildings/form_building_search.h"
 #include "master/catalogue/frmSearchSize.h"
-#include "master/catalogue/frmSearchVolume.h"
 #include "master/customers/frmNewClient.h"
 #include "master/customers/frmSearchClient.h"
 #include "master/partners/frmPostCode.h"
-#include "master/partners/frmSearchBank.h"
-#include "master/partners/frmSearchRefill.h"
-#include "master/partners/frmSearchResponse.h"
 #include "master/registers/form_context.h"
+#include "master/registers/form_register_search.h"
 #include "ui/forms/frmCalendar.h"
 
 namespace {
@@ -21,6 +17,11 @@ namespace {
 QWidget* windowInFront() {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   return QApplication::activeWindow();
+}
+
+std::optional<QString> nameFrom(const RegisterSearch& search, Session& session) {
+  const auto line = chooseFrom(search, session, windowInFront());
+  return line ? std::optional(line->at(0)) : std::nullopt;
 }
 
 }  // namespace
@@ -36,31 +37,26 @@ std::optional<ItemChoice> FormPickers::searchSize(const QString& kind, TradeSide
   return frmSearchSize(*context_, kind, side, windowInFront());
 }
 std::optional<VolumeChoice> FormPickers::searchVolume() {
-  return frmSearchVolume(session_, windowInFront());
+  const auto line = chooseFrom(RegisterSearch::volumes(), session_, windowInFront());
+  if (!line) return {};
+  return VolumeChoice{line->at(0), jet::Value(line->at(2)).toDouble()};
 }
 std::optional<QString> FormPickers::searchResponse() {
-  return frmSearchResponse(session_, windowInFront());
+  return nameFrom(RegisterSearch::responses(), session_);
 }
 std::optional<QString> FormPickers::searchRefill() {
-  return frmSearchRefill(session_, windowInFront());
+  return nameFrom(RegisterSearch::refills(), session_);
 }
 std::optional<BankChoice> FormPickers::searchBank() {
-  return frmSearchBank(session_, windowInFront());
+  const auto line = chooseFrom(RegisterSearch::banks(), session_, windowInFront());
+  if (!line) return {};
+  return BankChoice{line->at(0), line->at(1), line->at(2)};
 }
 std::optional<PostCodeChoice> FormPickers::searchPostCode(const QString& text) {
   return frmPostCode(session_, text, windowInFront());
 }
 std::optional<BuildingChoice> FormPickers::searchBuilding(int houseStyle) {
-  BuildingSearch search(session_, HouseStyle(houseStyle));
-  if (!search.loadBuildings()) return {};
-  const int building = frmBDName(session_, search, windowInFront()).pick();
-  if (building == 0) return {};
-  const QString name = search.buildings().text(building, 1);
-  if (!search.loadBlocks(name)) return {};
-  const bool oneBlock = search.blocks().MaxRows() == 1;
-  const int block = oneBlock ? 1 : frmAPTAddress(session_, search, windowInFront()).pick();
-  if (block == 0) return {};
-  return search.choice(name, search.blocks().text(block, 1));
+  return chooseBuilding(session_, HouseStyle(houseStyle), windowInFront());
 }
 std::optional<QString> FormPickers::pickDate(const QString& initial) {
   return frmCalendar(session_.prompts, initial, session_.pc.clock.today(), windowInFront());

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "ui/forms/choose.h"
 #include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
@@ -26,7 +27,8 @@ frmUser::frmUser(FormContext& context, QWidget* parent)
   tabUser_->addTab(buildSettingsPage(), u"환경설정(&2)"_s);
   body()->addWidget(tabUser_);
   tabUser_->setEnabled(false);
-  connect(tabUser_, &QTabWidget::currentChanged, this, &frmUser::tabChanged);
+  onChoice(
+      *this, tabUser_, [this] { return page_; }, [this](int page) { turnTo(page); });
 
   enterOrder({txtCompany_,
               txtUser_,
@@ -294,14 +296,9 @@ bool frmUser::mayClose() {
   return !tabUser_->isEnabled() || mayDrop();  // before the password nothing has been shown
 }
 
-void frmUser::tabChanged(int page) {
-  bool may = false;
-  guard([&] { may = page == 0 || rules_.maySeeSettings(); });
-  if (!may) {
-    const QSignalBlocker quiet(tabUser_);
-    tabUser_->setCurrentIndex(0);
-  }
-  focus(tabUser_->currentIndex() == 0 ? txtCompany_ : txtRate_);
+void frmUser::turnTo(int page) {
+  if (page == 0 || rules_.maySeeSettings()) page_ = page;
+  focus(page_ == 0 ? txtCompany_ : txtRate_);
 }
 
 // --- saving -----------------------------------------------------------------------------------------------------

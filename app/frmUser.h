@@ -35,7 +35,7 @@ class frmUser : public Form {
   /** Asks about what was typed and not saved; True when it may go. */
   bool mayDrop();
   bool mayWriteOver();
-  void tabChanged(int page);
+  void turnTo(int page);
   void saveProfile();
   void saveSettings();
   void searchPostCode();
@@ -43,6 +43,7 @@ class frmUser : public Form {
   FormContext& context_;
   CompanyProfile rules_;
   QTabWidget* tabUser_;
+  int page_ = 0;  ///< of tabUser_, the one that may be seen
   QLineEdit *txtCompany_, *txtUser_, *txtBusCode_, *txtPostCode_, *txtAddress_, *txtBusStyle_, *txtBusKind_,
       *txtTel_, *txtFax_, *txtOcr_;
   QLineEdit *txtRate_, *txtSecurity_, *txtAptRate_, *txtAptSecurity_, *txtManyRate_, *txtManySecurity_;

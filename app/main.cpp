@@ -15,6 +15,7 @@
 #include "app/frmSplash.h"
 #include "app/start_up.h"
 #include "pc/program_line.h"
+#include "store/settings_table.h"
 #include "store/support_log.h"
 #include "ui/forms/guard.h"
 #include "ui/forms/message_boxes.h"
@@ -86,8 +87,7 @@ int main(int argc, char** argv) {
 
   splash.ended = [] { QApplication::exit(0); };
   splash.signedIn = [&] {
-    if (pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"NoMsg"_s, u"0"_s) == "0"_L1)
-      FrmInitMsg(session).exec();
+    if (pc.settings.read(setting::NoticeHidden) == "0"_L1) FrmInitMsg(session).exec();
     mainWindow = std::make_unique<frmMain>(session, pickers);
     pickers.setContext(mainWindow->context());
     mainWindow->relink = [&] { startUp.relink(); };

@@ -2,6 +2,7 @@
 
 #include "store/data_access.h"
 #include "store/data_files.h"
+#include "store/settings_table.h"
 #include "store/upgrades.h"
 #include "store/vb.h"
 #include "store/year_file.h"
@@ -10,13 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString registration = u"Registration"_s;
 const QString noCompany = u"라온웨어"_s;
-
-QString savedSetting(const Session& session, const QString& section, const QString& key,
-                     const QString& fallback = {}) {
-  return session.pc.settings.GetSetting(session.AppTitle, section, key, fallback);
-}
 
 }  // namespace
 
@@ -74,13 +69,12 @@ void StartUp::loadSteps() {
 
   session_.DbPath = dataFolder(session_);
   session_.RptPath = u"C:\\RWGas\\RPT\\"_s;  // Kept: whatever the setting says.
-  session_.DelayCalcFlag = savedSetting(session_, registration, u"연체료계산"_s);
+  session_.DelayCalcFlag = pc.settings.read(setting::LateChargeKind);
   if (session_.DelayCalcFlag.isEmpty()) {
     session_.DelayCalcFlag = u"0"_s;
-    pc.settings.SaveSetting(session_.AppTitle, registration, u"연체료계산"_s, session_.DelayCalcFlag);
+    pc.settings.write(setting::LateChargeKind, session_.DelayCalcFlag);
   }
-  session_.AfterDueMethod =
-      vb::CInt(vb::Val(savedSetting(session_, u"Config"_s, u"납기후금액계산법"_s, u"0"_s)));
+  session_.AfterDueMethod = vb::CInt(vb::Val(pc.settings.read(setting::AfterDueMethod)));
   session_.WorkYear = vb::Format(pc.clock.today(), u"YYYY"_s);
   makeYearFile(session_, session_.WorkYear);
   session_.wsMain = openWorkspace(session_, session_.DbPath);
@@ -96,11 +90,11 @@ void StartUp::loadSteps() {
   });
   if (!linked) return;  // silently: the start window stays as it is
 
-  pc.settings.SaveSetting(u"Backup"_s, u"DB경로"_s, u"경로"_s, session_.DbPath);
+  pc.settings.write(setting::BackupFolder, session_.DbPath);
   session_.dbYear = session_.wsMain.OpenDatabase(yearFile(session_, session_.WorkYear));
   session_.dbTax = session_.wsMain.OpenDatabase(session_.DbPath + u"dbTax.mdb"_s);
   upgrades::widenTaxFields(session_.dbTax);
-  pc.settings.SaveSetting(u"MainProg"_s, u"경로설정"_s, u"Map경로"_s, u"C:\\RWGAS\\MAP\\"_s);
+  pc.settings.write(setting::MapFolder, u"C:\\RWGAS\\MAP\\"_s);
   user_ = session_.dbBasic.OpenRecordset(u"Select * From User"_s);
   fillScreen();
 }
@@ -123,7 +117,7 @@ void StartUp::fillScreen() {
   screen_.passwordVisible = open;
   screen_.password = open ? u"엔터치세요"_s : QString();
   screen_.identify = u"일반 사용자 로그인"_s;
-  const QString saved = savedSetting(session_, registration, u"UserName"_s);
+  const QString saved = session_.pc.settings.read(setting::CompanyName);
   screen_.user = saved.isEmpty() ? company : saved;
   screen_.company = company;
 }
@@ -161,7 +155,7 @@ void StartUp::relink() {
 }
 
 void StartUp::shutDown() {
-  session_.pc.settings.SaveSetting(u"약도"_s, u"환경설정"_s, u"MapEdit"_s, u"0"_s);
+  session_.pc.settings.write(setting::MapEdited, false);
   closeFiles();
 }
 

@@ -10,6 +10,7 @@
 #include "bench/pairs.h"
 #include "giro/jiro_ocr.h"
 #include "store/rate_book.h"
+#include "store/settings_table.h"
 #include "tests/giro/reading_rows.h"
 #include "tests/recorded_print.h"
 #include "ui/paper/print_fonts.h"
@@ -53,36 +54,36 @@ void drawPlainly(const tests::RecordedJob& job, const QString& file) {
   }
 }
 
-const int slips = bench::addPair(
-    {"giro slips to a PDF file",
-     1.2,
-     {100, 1000, 10000},
-     [](int size, bench::Side& ours, bench::Side& plain) {
-       auto books = std::make_shared<bench::Books>();
-       Session& session = books->session;
-       bench::require(readRateBook(session), "rates");
-       auto screen = std::make_shared<tests::ReadingRows>();
-       screen->shownBook = MeterBook::Apartment;
-       for (int row = 1; row <= size; ++row)
-         screen->add(QStringLiteral("101동 %1호").arg(row), QString::number(row),
-                     QString::number(50000 + row * 10));
-       auto slipsOf = std::make_shared<JiroOcr>(session, [screen] { return screen.get(); });
-       slipsOf->setPaper(OcrPaper::A4);
+const int slips =
+    bench::addPair({"giro slips to a PDF file",
+                    1.2,
+                    {100, 1000, 10000},
+                    [](int size, bench::Side& ours, bench::Side& plain) {
+                      auto books = std::make_shared<bench::Books>();
+                      Session& session = books->session;
+                      bench::require(readRateBook(session), "rates");
+                      auto screen = std::make_shared<tests::ReadingRows>();
+                      screen->shownBook = MeterBook::Apartment;
+                      for (int row = 1; row <= size; ++row)
+                        screen->add(QStringLiteral("101동 %1호").arg(row), QString::number(row),
+                                    QString::number(50000 + row * 10));
+                      auto slipsOf = std::make_shared<JiroOcr>(session, [screen] { return screen.get(); });
+                      slipsOf->setPaper(OcrPaper::A4);
 
-       auto recorder = std::make_shared<tests::RecordedPrinters>();
-       session.printers = recorder.get();
-       session.pc.settings.SaveSetting(session.AppTitle, "프린터설정", "DEVICENAME", pdfPrinterName());
-       bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
+                      auto recorder = std::make_shared<tests::RecordedPrinters>();
+                      session.printers = recorder.get();
+                      session.pc.settings.write(setting::GiroPrinter, pdfPrinterName());
+                      bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
 
-       auto printers = std::make_shared<PcPrinters>(session.pc);
-       session.printers = printers.get();
-       qputenv("HAEON_PDF", books->folder.filePath("ours.pdf").toUtf8());
-       ours.run = [books, screen, slipsOf, printers, size] {
-         bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
-       };
-       plain.run = [books, recorder] {
-         drawPlainly(*recorder->jobs.back(), books->folder.filePath("plain.pdf"));
-       };
-     }});
+                      auto printers = std::make_shared<PcPrinters>(session.pc);
+                      session.printers = printers.get();
+                      qputenv("HAEON_PDF", books->folder.filePath("ours.pdf").toUtf8());
+                      ours.run = [books, screen, slipsOf, printers, size] {
+                        bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
+                      };
+                      plain.run = [books, recorder] {
+                        drawPlainly(*recorder->jobs.back(), books->folder.filePath("plain.pdf"));
+                      };
+                    }});
 
 }  // namespace

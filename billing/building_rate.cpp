@@ -2,6 +2,7 @@
 
 #include "store/data_access.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 
 double GetBuildingDelayPay(Session& session, qint64 code) {
   jet::Recordset rs;
@@ -40,9 +41,7 @@ double LateRates::of(qint64 code) const {
 }
 
 bool showsBlocks(const Session& session) {
-  return session.pc.settings.GetSetting(session.AppTitle, QStringLiteral("Config"),
-                                        QStringLiteral("체적검침동별보기"),
-                                        QStringLiteral("0")) != QStringLiteral("0");
+  return session.pc.settings.read(setting::BlocksShown) != QStringLiteral("0");
 }
 
 // Kept: exactly four characters go, also of "아파트 전체" and of a block whose name is not three characters long.

@@ -10,6 +10,7 @@
 #include "store/date_text.h"
 #include "store/rounding.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "store/vb.h"
 
 using namespace Qt::StringLiterals;
@@ -273,7 +274,7 @@ Brief evaTotalBrief() {
                          .name = u"chkSuKum"_s,
                          .label = u"수금일자 기준 검색"_s,
                          .help = u"선택하면 검침월이 아닌 수금일자로 조회합니다"_s,
-                         .remembered = u"수금액조회"_s}},
+                         .remembered = &setting::CollectionsShown}},
           .pages = {bookPage(MeterBook::Individual), bookPage(MeterBook::Apartment),
                     bookPage(MeterBook::MultiHousehold)},
           .opensOn = [](const Session& session) { return session.CheckKind; }};

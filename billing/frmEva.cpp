@@ -17,6 +17,7 @@
 #include "billing/reading_load.h"
 #include "billing/reading_months.h"
 #include "ui/forms/FrmProgress.h"
+#include "ui/forms/choose.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,13 +52,9 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
     chooseBook(tabs_->currentIndex());
     showReadingDay();
   });
-  connect(tabs_, &QTabBar::currentChanged, this, [this](int index) {
-    if (index == int(sheet_.book)) return;
-    const bool closed = command([&] { chooseBook(index); });
-    if (closed) return;
-    const QSignalBlocker quiet(tabs_);
-    tabs_->setCurrentIndex(int(sheet_.book));
-  });
+  onChoice(
+      *this, tabs_, [this] { return int(sheet_.book); },
+      [this](int index) { command([&] { chooseBook(index); }); });
 }
 
 void frmEva::showEvent(QShowEvent* event) {
@@ -130,8 +127,7 @@ void frmEva::showPanel(const ReadingPanel& panel) {
 }
 
 void frmEva::chooseMonth(int index) {
-  if (index == sheet_.month) return;
-  const bool done = command([&] {
+  command([&] {
     sheet_.month = index;
     btnNoEva_->setEnabled(maySkipReadings(sheet_));
     if (sheet_.book == MeterBook::Individual)
@@ -139,20 +135,13 @@ void frmEva::chooseMonth(int index) {
     else
       clearRows();
   });
-  if (done || sheet_.month == index) return;
-  const QSignalBlocker quiet(cboMon_);  // an open cell was refused
-  cboMon_->setCurrentIndex(sheet_.month);
 }
 
 void frmEva::chooseBuilding(int index) {
-  if (index == sheet_.building) return;
-  const bool done = command([&] {
+  command([&] {
     sheet_.building = index;
     clearRows();
   });
-  if (done || sheet_.building == index) return;
-  const QSignalBlocker quiet(cboBDName_);
-  cboBDName_->setCurrentIndex(sheet_.building);
 }
 
 void frmEva::refresh() {

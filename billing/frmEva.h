@@ -40,7 +40,7 @@ class frmEva : public Form, public ReadingScreen {
   void buildChoice();
   void buildGrid();
   void buildButtons();
-  QCheckBox* addSetting(const char* name, const QString& caption, const QString& key,
+  QCheckBox* addSetting(const char* name, const QString& caption, const pc::Setting& setting,
                         std::function<void()> changed);
 
   // What is shown.

@@ -9,6 +9,8 @@
 
 #include "billing/frmEva.h"
 #include "billing/reading_list.h"
+#include "store/settings_table.h"
+#include "ui/forms/choose.h"
 #include "ui/grid/excel_export.h"
 
 using namespace Qt::StringLiterals;
@@ -58,11 +60,10 @@ void frmEva::buildChoice() {
   txtDay_->setFixedWidth(11 * digit);
   row->addWidget(txtDay_);
   row->addSpacing(12);
-  chkOrdSeq_ = addSetting("chkOrdSEQ", u"동, 호수 순차 정렬"_s, u"체적검침정렬방식"_s, [this] {
+  chkOrdSeq_ = addSetting("chkOrdSEQ", u"동, 호수 순차 정렬"_s, setting::OrderedByRoom, [this] {
     if (sheet_.grid.MaxRows() > 0) reload(1, firstColumn);
   });
-  chkDongShow_ =
-      addSetting("chkDongShow", u"동별로 보기"_s, u"체적검침동별보기"_s, [this] { fillChoices(); });
+  chkDongShow_ = addSetting("chkDongShow", u"동별로 보기"_s, setting::BlocksShown, [this] { fillChoices(); });
   row->addWidget(chkOrdSeq_);
   row->addWidget(chkDongShow_);
   row->addStretch(1);
@@ -72,23 +73,25 @@ void frmEva::buildChoice() {
   setHelp(txtDay_, u"검침일자를 입력/수정합니다"_s);
   whenLeft(txtDay_, [this] { leaveReadingDay(); });
   connect(txtDay_, &QLineEdit::textEdited, this, [this](const QString& text) { sheet_.readingDay = text; });
-  connect(cboMon_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseMonth(index); });
-  connect(cboBDName_, &QComboBox::currentIndexChanged, this, [this](int index) { chooseBuilding(index); });
+  onChoice(
+      *this, cboMon_, [this] { return sheet_.month; }, [this](int index) { chooseMonth(index); });
+  onChoice(
+      *this, cboBDName_, [this] { return sheet_.building; }, [this](int index) { chooseBuilding(index); });
 }
 
-QCheckBox* frmEva::addSetting(const char* name, const QString& caption, const QString& key,
+QCheckBox* frmEva::addSetting(const char* name, const QString& caption, const pc::Setting& setting,
                               std::function<void()> changed) {
   auto* const box = new QCheckBox(caption, this);
   box->setObjectName(QString::fromUtf8(name));
   pc::Settings& settings = session().pc.settings;
-  box->setChecked(settings.GetSetting(session().AppTitle, u"Config"_s, key, u"0"_s) != "0"_L1);
-  connect(box, &QCheckBox::clicked, this, [this, box, &settings, key, changed = std::move(changed)](bool on) {
-    const bool done = command([&] {
-      settings.SaveSetting(session().AppTitle, u"Config"_s, key, on ? u"1"_s : u"0"_s);
-      changed();
-    });
-    if (!done) box->setChecked(!on);  // an open cell was refused
-  });
+  onTick(
+      *this, box, [&settings, setting] { return settings.read(setting) != "0"_L1; },
+      [this, &settings, setting, changed = std::move(changed)](bool on) {
+        command([&] {
+          settings.write(setting, on);
+          changed();
+        });
+      });
   return box;
 }
 

@@ -10,6 +10,7 @@
 #include "store/session.h"
 #include "store/vb.h"
 #include "store/year_file.h"
+#include "ui/model/row_backup.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,6 +7,7 @@
 #include "store/date_text.h"
 #include "store/session.h"
 #include "store/vb.h"
+#include "ui/model/row_backup.h"
 
 using namespace Qt::StringLiterals;
 

@@ -10,6 +10,7 @@
 #include "store/data_access.h"
 #include "store/rounding.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -120,8 +121,7 @@ void fillPrevious(ReadingSheet& sheet, const jet::Recordset& before) {
 }  // namespace
 
 bool ordersByRoom(const ReadingSheet& sheet) {
-  return sheet.session.pc.settings.GetSetting(sheet.session.AppTitle, u"Config"_s, u"체적검침정렬방식"_s,
-                                              u"0"_s) != "0"_L1;
+  return sheet.session.pc.settings.read(setting::OrderedByRoom) != "0"_L1;
 }
 
 QString wholeBookStatement(const ReadingSheet& sheet, int month) {

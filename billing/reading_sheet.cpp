@@ -2,35 +2,30 @@
 
 #include "store/session.h"
 #include "store/vb.h"
+#include "ui/model/column.h"
 
 namespace {
 
 constexpr int lockedCell = 0xEEF2F6;  // pale sky: not for typing
 
+SpreadColumn closed(SpreadColumn column) {
+  return column::coloured(lockedCell, column::locked(std::move(column)));
+}
+
 SpreadColumn shown(const char* header, double width) {
-  return {.header = header,
-          .width = width,
-          .kind = CellKind::Money,
-          .align = CellAlign::Right,
-          .locked = true,
-          .background = lockedCell};
+  return closed(column::money(header, width));
 }
 
 SpreadColumn typed(const char* header, double width) {
-  return {
-      .header = header, .width = width, .kind = CellKind::Money, .align = CellAlign::Right, .maxLength = 12};
-}
-
-SpreadColumn tick(const char* header, double width) {
-  return {.header = header, .width = width, .kind = CellKind::CheckBox, .align = CellAlign::Center};
+  return column::limited(12, column::money(header, width));
 }
 
 SpreadColumn carried(const char* header) {
-  return {.header = header, .width = 12, .locked = true, .hidden = true};
+  return column::locked(column::hidden(header));
 }
 
 std::vector<SpreadColumn> readingColumns() {
-  return {{.header = "상호/성명", .width = 20, .locked = true, .background = lockedCell},
+  return {closed(column::text("상호/성명", 20)),
           shown("전월검침", 10),
           typed("당월검침", 10),
           shown("사용량", 9),
@@ -40,17 +35,17 @@ std::vector<SpreadColumn> readingColumns() {
           typed("안전관리비", 10),
           shown("발행금액", 11),
           typed("당월수금", 11),
-          tick("발행", 5),
-          {.header = "수금일", .width = 7, .align = CellAlign::Center, .maxLength = 10},
+          column::tick("발행", 5),
+          column::limited(10, column::centred("수금일", 7)),
           carried("고객코드"),
           carried("체적단가"),
           carried("주소"),
           carried("전화"),
           carried("성명"),
           carried("결제"),
-          tick("납기후", 7),
+          column::tick("납기후", 7),
           carried("건물명"),
-          {.header = "판정", .width = 11, .locked = true, .background = lockedCell},
+          closed(column::text("판정", 11)),
           shown("전월사용", 9),
           shown("예상사용", 9)};
 }
@@ -129,14 +124,4 @@ QString readingHelp(int col) {
     default:
       return {};
   }
-}
-
-RowBackup::RowBackup(SpreadModel& grid, int row) : grid_(grid), row_(row) {
-  cells_.reserve(grid.MaxCols());
-  for (int col = 1; col <= grid.MaxCols(); ++col) cells_ << grid.text(row, col);
-}
-
-RowBackup::~RowBackup() {
-  if (row_ == 0) return;
-  for (int col = 1; col <= grid_.MaxCols(); ++col) grid_.setText(row_, col, cells_[col - 1]);
 }

@@ -55,18 +55,3 @@ class RowInQuestion {
   SpreadModel& grid_;
   int row_;
 };
-
-/** Puts a row's cells back unless what was computed on them has been stored. */
-class RowBackup {
- public:
-  RowBackup(SpreadModel& grid, int row);
-  ~RowBackup();
-  RowBackup(const RowBackup&) = delete;
-  RowBackup& operator=(const RowBackup&) = delete;
-  void stored() { row_ = 0; }
-
- private:
-  SpreadModel& grid_;
-  int row_;
-  QStringList cells_;
-};

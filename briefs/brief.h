@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "pc/settings.h"
 #include "ui/model/spread_model.h"
 
 struct Session;
@@ -41,8 +42,8 @@ struct BriefQuestion {
   std::function<QStringList(const Session&, int page)> entries = {};
   std::vector<int> pages = {};  ///< that ask it; empty: all
   QString when = {};  ///< the name of a check: asked while it is on; with "!" before it, while it is off
-  QString remembered = {};  ///< of a check: the key in section "Config"
-  bool anew = false;        ///< starts empty on every page
+  const pc::Setting* remembered = nullptr;  ///< of a check: an entry of store/settings_table
+  bool anew = false;                        ///< starts empty on every page
 };
 
 struct BriefAnswer {

@@ -19,8 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString application = u"해온판매"_s, section = u"Config"_s;
-
 QHBoxLayout* tightRow(QWidget* box) {
   auto* const row = new QHBoxLayout(box);
   row->setContentsMargins(0, 0, 0, 0);
@@ -169,12 +167,11 @@ QWidget* BriefAsks::optionGroup(const BriefQuestion& question, QWidget* panel) {
 QWidget* BriefAsks::checkBox(const BriefQuestion& question, QWidget* panel) {
   auto* const box = new QCheckBox(question.label, panel);
   box->setObjectName(question.name);
-  const QString key = question.remembered;
-  box->setChecked(!key.isEmpty() &&
-                  context_.session.pc.settings.GetSetting(application, section, key, u"0"_s) == "1"_L1);
-  connect(box, &QCheckBox::toggled, this, [this, key](bool on) {
-    if (!key.isEmpty())
-      context_.session.pc.settings.SaveSetting(application, section, key, on ? u"1"_s : u"0"_s);
+  pc::Settings& settings = context_.session.pc.settings;
+  const pc::Setting* const remembered = question.remembered;
+  box->setChecked(remembered && settings.read(*remembered) == "1"_L1);
+  connect(box, &QCheckBox::toggled, this, [this, &settings, remembered](bool on) {
+    if (remembered) settings.write(*remembered, on);
     turn(page_, false);
     if (turned) turned();
   });

@@ -59,5 +59,5 @@ void frmPrtChange::save() {
   // The line under the cursor is not chosen yet: the list puts the cursor on its first line by itself.
   const auto chosen = lstPrt_->selectedItems();
   saveSlipPrinter(context_.session, chosen.isEmpty() ? QString() : chosen.first()->text(), txtTop_->text(),
-                txtLeft_->text());
+                  txtLeft_->text());
 }

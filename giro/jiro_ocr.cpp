@@ -4,12 +4,9 @@
 #include "giro/ocr_layout.h"
 #include "papers/paper_printer.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-const QString surroundings = u"환경설정"_s, thisMonthKey = u"OCRA4지로_당월기본"_s;
-}
 
 int JiroOcr::noteWidth() const {
   return ocrNoteWidth(paper_);
@@ -20,11 +17,11 @@ QDate JiroOcr::dueDate() const {
 }
 
 bool JiroOcr::startsWithThisMonth() const {
-  return session_.pc.settings.GetSetting(session_.AppTitle, surroundings, thisMonthKey, u"0"_s) != "0"_L1;
+  return session_.pc.settings.read(setting::OcrThisMonth) != "0"_L1;
 }
 
 void JiroOcr::setStartsWithThisMonth(bool on) {
-  session_.pc.settings.SaveSetting(session_.AppTitle, surroundings, thisMonthKey, on ? u"1"_s : u"0"_s);
+  session_.pc.settings.write(setting::OcrThisMonth, on);
 }
 
 QDate JiroOcr::shownMonth() const {

@@ -4,6 +4,7 @@
 #include "giro/scan_line.h"
 #include "store/rounding.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "store/text_width.h"
 #include "store/vb.h"
 
@@ -35,8 +36,7 @@ bool isWholeBook(const QString& entry) {
 
 SlipWriter::SlipWriter(Session& session, const ReadingScreen& screen, OcrPaper paper, const GiroInput& input)
     : screen_(screen),
-      giroNumber_(
-          session.pc.settings.GetSetting(session.AppTitle, u"Registration"_s, u"Ocr"_s, u"0000000"_s)),
+      giroNumber_(session.pc.settings.read(setting::ApprovalNumber)),
       rates_(session, screen.book(), paper == OcrPaper::A4),
       payState_(companyPayState(session)) {
   const auto put = [&](SlipText what, const QString& text) { common_[size_t(what)] = text; };

@@ -7,10 +7,7 @@
 #include <QPushButton>
 #include <QShortcut>
 
-namespace {
-const QString stanbySection = QStringLiteral("환경설정");
-const QString stanbyX = QStringLiteral("발신번호대기창x"), stanbyY = QStringLiteral("발신번호대기창y");
-}  // namespace
+#include "store/settings_table.h"
 
 FrmSeeIDStanbyList::FrmSeeIDStanbyList(Session& session, WaitingList& waiting, QWidget* parent)
     : QWidget(parent, Qt::Window), session_(session), waiting_(waiting) {
@@ -42,11 +39,9 @@ FrmSeeIDStanbyList::FrmSeeIDStanbyList(Session& session, WaitingList& waiting, Q
   all->addLayout(buttons);
   resize(320, 280);
 
-  auto stored = [this](const QString& key) {
-    return session_.pc.settings.GetSetting(session_.AppTitle, stanbySection, key, QStringLiteral("-1"))
-        .toInt();
-  };
-  if (stored(stanbyX) >= 0 && stored(stanbyY) >= 0) move(stored(stanbyX), stored(stanbyY));
+  const pc::Settings& settings = session_.pc.settings;
+  const QPoint stored(settings.read(setting::WaitingX).toInt(), settings.read(setting::WaitingY).toInt());
+  if (stored.x() >= 0 && stored.y() >= 0) move(stored);
   waiting_.changed = [this] { showEntries(); };
   showEntries();
 }
@@ -64,8 +59,8 @@ void FrmSeeIDStanbyList::bringToFront() {
 
 void FrmSeeIDStanbyList::closeEvent(QCloseEvent* event) {
   if (!isMinimized() && x() >= 0 && y() >= 0) {
-    session_.pc.settings.SaveSetting(session_.AppTitle, stanbySection, stanbyX, QString::number(x()));
-    session_.pc.settings.SaveSetting(session_.AppTitle, stanbySection, stanbyY, QString::number(y()));
+    session_.pc.settings.write(setting::WaitingX, QString::number(x()));
+    session_.pc.settings.write(setting::WaitingY, QString::number(y()));
   }
   hide();
   event->ignore();

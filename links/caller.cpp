@@ -1,21 +1,14 @@
 #include "links/caller.h"
 
 #include "store/jet/value.h"
-
-namespace {
-const QString preferences = QStringLiteral("환경설정");
-const QString application = QStringLiteral("해온판매");
-const QString registration = QStringLiteral("Registration");
-const std::array<QString, 2> portKeys{QStringLiteral("OpenSeeIDPort1"), QStringLiteral("OpenSeeIDPort2")};
-}  // namespace
+#include "store/settings_table.h"
 
 bool Caller::enabled() const {
-  return session_.pc.settings.GetSetting(application, registration, QStringLiteral("SeeIDUse")) == u"1";
+  return session_.pc.settings.read(setting::SeeIdUse) == u"1";
 }
 
 void Caller::setEnabled(bool on) {
-  session_.pc.settings.SaveSetting(application, registration, QStringLiteral("SeeIDUse"),
-                                   on ? QStringLiteral("1") : QStringLiteral("0"));
+  session_.pc.settings.write(setting::SeeIdUse, on);
   if (on)
     OpenSeeID();
   else
@@ -24,8 +17,7 @@ void Caller::setEnabled(bool on) {
 
 std::array<QString, 2> Caller::ports() const {
   const auto& settings = session_.pc.settings;
-  return {settings.GetSetting(session_.AppTitle, preferences, portKeys[0], QStringLiteral("1")),
-          settings.GetSetting(session_.AppTitle, preferences, portKeys[1], QStringLiteral("2"))};
+  return {settings.read(setting::SeeIdPorts[0]), settings.read(setting::SeeIdPorts[1])};
 }
 
 void Caller::OpenSeeID() {
@@ -53,8 +45,7 @@ void Caller::CloseSeeID() {
 void Caller::changePorts(const std::array<QString, 2>& typed) {
   CloseSeeID();
   for (size_t at = 0; at < typed.size(); ++at)
-    session_.pc.settings.SaveSetting(session_.AppTitle, preferences, portKeys[at],
-                                     QString::number(jet::Value(typed[at]).toLong()));
+    session_.pc.settings.write(setting::SeeIdPorts[at], QString::number(jet::Value(typed[at]).toLong()));
   OpenSeeID();
 }
 

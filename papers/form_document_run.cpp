@@ -7,6 +7,7 @@
 
 #include "pc/file_name.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "ui/forms/FrmProgress.h"
 #include "ui/paper/kept_pages.h"
 #include "ui/paper/pages_window.h"
@@ -15,8 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString section = u"프린터설정"_s, folderKey = u"PDF폴더"_s;
 
 /** The bar comes with the first document: what is checked before may end in a box. */
 class RunBar {
@@ -60,10 +59,10 @@ QString freeName(const QDir& folder, const QString& title) {
 QString askedFolder(Session& session, QWidget* over) {
   if (const QString place = pdfPlace(session.pc); !place.isEmpty())
     return QFileInfo(place).isDir() ? place : QFileInfo(place).path();
-  QString before = session.pc.settings.GetSetting(session.AppTitle, section, folderKey);
+  QString before = session.pc.settings.read(setting::PdfFolder);
   if (before.isEmpty()) before = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   const QString chosen = folderAsker()(over, before);
-  if (!chosen.isEmpty()) session.pc.settings.SaveSetting(session.AppTitle, section, folderKey, chosen);
+  if (!chosen.isEmpty()) session.pc.settings.write(setting::PdfFolder, chosen);
   return chosen;
 }
 

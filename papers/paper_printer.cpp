@@ -1,28 +1,15 @@
 #include "papers/paper_printer.h"
 
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "store/vb.h"
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString slipSection = u"프린터설정"_s, driveSection = u"Drive"_s;
-
-QString printSetting(const Session& session, const QString& section, const QString& key) {
-  return session.pc.settings.GetSetting(session.AppTitle, section, key);
-}
-
-void savePrintSetting(Session& session, const QString& section, const QString& key, const QString& value) {
-  session.pc.settings.SaveSetting(session.AppTitle, section, key, value);
-}
-
-}  // namespace
-
 SlipPrinter slipPrinter(const Session& session) {
-  const QString top = printSetting(session, slipSection, u"TOP"_s),
-                left = printSetting(session, slipSection, u"LEFT"_s);
-  return {printSetting(session, slipSection, u"DEVICENAME"_s), {vb::Val(top), vb::Val(left)}, top, left};
+  const pc::Settings& settings = session.pc.settings;
+  const QString top = settings.read(setting::GiroTop), left = settings.read(setting::GiroLeft);
+  return {settings.read(setting::GiroPrinter), {vb::Val(top), vb::Val(left)}, top, left};
 }
 
 bool saveSlipPrinter(Session& session, const QString& device, const QString& top, const QString& left) {
@@ -30,9 +17,9 @@ bool saveSlipPrinter(Session& session, const QString& device, const QString& top
     session.prompts.MsgWarn(u"프린터를 선택해 주십시오"_s, u"인쇄 관리자"_s);
     return false;
   }
-  savePrintSetting(session, slipSection, u"DEVICENAME"_s, device);
-  savePrintSetting(session, slipSection, u"TOP"_s, top);
-  savePrintSetting(session, slipSection, u"LEFT"_s, left);
+  session.pc.settings.write(setting::GiroPrinter, device);
+  session.pc.settings.write(setting::GiroTop, top);
+  session.pc.settings.write(setting::GiroLeft, left);
   session.prompts.MsgInfo(u"프린터가 설정되었습니다."_s);
   return true;
 }
@@ -43,7 +30,7 @@ const QStringList& documentKinds() {
 }
 
 QString documentPrinter(const Session& session, const QString& kind) {
-  return printSetting(session, driveSection, kind);
+  return session.pc.settings.read(setting::printerOf(kind));
 }
 
 QString documentPrinterOrDefault(const Session& session, const QString& kind) {
@@ -52,7 +39,7 @@ QString documentPrinterOrDefault(const Session& session, const QString& kind) {
 }
 
 void setDocumentPrinter(Session& session, const QString& kind, const QString& printer) {
-  savePrintSetting(session, driveSection, kind, printer);
+  session.pc.settings.write(setting::printerOf(kind), printer);
 }
 
 pc::PaperShift DocumentMargins::shift() const {
@@ -60,10 +47,11 @@ pc::PaperShift DocumentMargins::shift() const {
 }
 
 DocumentMargins documentMargins(const Session& session, const QString& kind) {
-  return {printSetting(session, kind, u"topmargin"_s), printSetting(session, kind, u"LeftMargin"_s)};
+  return {session.pc.settings.read(setting::topMarginOf(kind)),
+          session.pc.settings.read(setting::leftMarginOf(kind))};
 }
 
 void setDocumentMargins(Session& session, const QString& kind, const DocumentMargins& margins) {
-  savePrintSetting(session, kind, u"TopMargin"_s, margins.top);
-  savePrintSetting(session, kind, u"LeftMargin"_s, margins.left);
+  session.pc.settings.write(setting::topMarginOf(kind), margins.top);
+  session.pc.settings.write(setting::leftMarginOf(kind), margins.left);
 }

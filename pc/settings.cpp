@@ -11,6 +11,16 @@ IniFile& Settings::fileOf(const QString& application) const {
       .first->second;
 }
 
+QString Settings::read(const Setting& setting, const QString& fallback) const {
+  return GetSetting(setting.application.toString(), setting.section.toString(), setting.key.toString(),
+                    fallback);
+}
+
+bool Settings::write(const Setting& setting, const QString& value) {
+  return SaveSetting(setting.application.toString(), setting.section.toString(), setting.key.toString(),
+                     value);
+}
+
 QString Settings::GetSetting(const QString& application, const QString& section, const QString& key,
                              const QString& fallback) const {
   return fileOf(application).value(section, key, fallback);

@@ -2,6 +2,7 @@
 
 #include "samples/sample_town.h"
 #include "store/data_files.h"
+#include "store/settings_table.h"
 #include "store/upgrades.h"
 #include "store/year_file.h"
 
@@ -18,9 +19,9 @@ void makeBooks(pc::Pc& pc, Prompts& prompts) {
   session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
   upgrades::relink(session);
   session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
-  pc.settings.SaveSetting("해온판매", "Registration", "SeeIDUse", "1");
-  pc.settings.SaveSetting("해온판매", "환경설정", "OpenSeeIDPort1", "1");
-  pc.settings.SaveSetting("해온판매", "환경설정", "OpenSeeIDPort2", "0");
+  pc.settings.write(setting::SeeIdUse, true);
+  pc.settings.write(setting::SeeIdPorts[0], "1");
+  pc.settings.write(setting::SeeIdPorts[1], "0");
 
   Town town(session);
   session.wsMain.Together([&] {

@@ -31,6 +31,7 @@
 #include "master/customers/frmNewClient.h"
 #include "pc/program_line.h"
 #include "samples/sample_books.h"
+#include "store/settings_table.h"
 #include "ui/forms/message_boxes.h"
 #include "ui/forms/style.h"
 #include "ui/paper/printers.h"
@@ -136,7 +137,7 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
   form->findChild<QComboBox*>("CboBDName")->setCurrentIndex(1);
   form->findChild<QPushButton*>("BtnRefresh")->click();
   photographer.take(*form, "frmEva");
-  session.pc.settings.SaveSetting(session.AppTitle, "프린터설정", "DEVICENAME", pdfPrinterName());
+  session.pc.settings.write(setting::GiroPrinter, pdfPrinterName());
   qputenv("HAEON_PDF", photographer.file("slips.pdf").toUtf8());
   const WhenModal then([&](QWidget& box) {
     auto* const slips = qobject_cast<QDialog*>(&box);

@@ -10,6 +10,7 @@
 #include "store/jet/file_system.h"
 #include "store/jet/presence.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
@@ -95,8 +96,7 @@ QString installedDataFolder() {
 }
 
 QString dataFolder(const Session& session) {
-  const QString chosen =
-      session.pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"db경로"_s).trimmed();
+  const QString chosen = session.pc.settings.read(setting::DataFolder).trimmed();
   if (chosen.isEmpty()) return installedDataFolder();
   return chosen.endsWith(u'\\') ? chosen : chosen + u'\\';
 }

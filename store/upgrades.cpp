@@ -8,6 +8,7 @@
 #include "store/jet/error_texts.h"
 #include "store/schema.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
@@ -101,7 +102,7 @@ void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::D
     return !ddd || ddd->size == 60;
   };
   if (isRebuilt()) return;
-  if (!session.pc.settings.GetSetting(session.AppTitle, u"Registration"_s, u"PostC"_s).isEmpty()) return;
+  if (!session.pc.settings.read(setting::PostCodesRebuilt).isEmpty()) return;
   session.prompts.MsgInfo(
       u"잠시만 기다려 주십시오."_s + u"\n\n"_s + u"우편번호를 개정판으로 업그레이드 합니다."_s,
       u"우편번호 업그레이드"_s);
@@ -118,7 +119,7 @@ void rebuildPostCodes(Session& session, const jet::Database& basic, const jet::D
                     u"', '"_s + copiedText(rs[u"dong"_s].toText()) + u"', '"_s + copiedText(lots) + u"')"_s);
     }
   });
-  session.pc.settings.SaveSetting(session.AppTitle, u"Registration"_s, u"PostC"_s, u"ok"_s);
+  session.pc.settings.write(setting::PostCodesRebuilt, u"ok"_s);
 }
 
 void addDealMarks(Session& session) {
@@ -165,7 +166,7 @@ void removeOrphans(Session& session) {
 }
 
 bool relink(Session& session) {
-  const QString chosen = session.pc.settings.GetSetting(session.AppTitle, u"환경설정"_s, u"db경로"_s);
+  const QString chosen = session.pc.settings.read(setting::DataFolder);
   session.BasicPath =
       chosen.isEmpty() ? u"C:\\rwgas\\dbs\\basic.mdb"_s : dataFolder(session) + u"Basic.mdb"_s;
   bool all = true;

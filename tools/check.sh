@@ -26,6 +26,10 @@ grep -nHoE '^#include "[^"]+"' $subjects | tr -d '"' | awk '
 [ ! -s /tmp/haeon-arrows.$$ ] || { cat /tmp/haeon-arrows.$$; say "these includes point the wrong way (tools/layers)"; }
 rm -f /tmp/haeon-arrows.$$
 
+# A setting's texts stand in store/settings_table alone.
+hits=$(grep -nE '\b(Get|Save)Setting\(' $(sources . | grep -vE '^(tests/|pc/settings)') || true)
+[ -z "$hits" ] || { echo "$hits"; say "a setting is read or written past store/settings_table"; }
+
 # Nothing joined into a statement leaves its place.
 tools/plain_texts $(echo "$subjects" | grep -vE '^(store/jet|pc|ui)/') ||
   say "a value could become part of a statement"

@@ -5,6 +5,7 @@
 #include <map>
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,39 +22,12 @@ bool ticked(const RegisterFields& fields, const QString& name) {
 
 BuildingRegister::BuildingRegister(Session& session, HouseStyle style)
     : RegisterRules(session, {u"APT"_s}), style_(style) {
-  list_.setColumns({{.header = style == HouseStyle::Apartment ? u"아파트명"_s : u"다가구명"_s,
-                     .width = 20,
-                     .locked = true},
-                    {.header = u"동"_s, .width = 7, .align = CellAlign::Center, .locked = true},
-                    {.header = u"세대구조"_s, .width = 9, .align = CellAlign::Center, .locked = true},
-                    {.header = u"층수"_s,
-                     .width = 5,
-                     .kind = CellKind::Integer,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"층당세대"_s,
-                     .width = 9,
-                     .kind = CellKind::Integer,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"세대수"_s,
-                     .width = 7,
-                     .kind = CellKind::Money,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"압력조정기"_s, .width = 11, .align = CellAlign::Center, .locked = true},
-                    {.header = u"체적단가"_s,
-                     .width = 9,
-                     .kind = CellKind::Money,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"연체료율"_s,
-                     .width = 9,
-                     .kind = CellKind::Number,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"우편번호"_s, .width = 9, .align = CellAlign::Center, .locked = true},
-                    {.header = u"주소"_s, .width = 36, .locked = true}});
+  list_.setColumns(column::shown(
+      {column::text(style == HouseStyle::Apartment ? u"아파트명"_s : u"다가구명"_s, 20),
+       column::centred(u"동"_s, 7), column::centred(u"세대구조"_s, 9), column::integer(u"층수"_s, 5),
+       column::integer(u"층당세대"_s, 9), column::money(u"세대수"_s, 7), column::centred(u"압력조정기"_s, 11),
+       column::money(u"체적단가"_s, 9), column::number(u"연체료율"_s, 9), column::centred(u"우편번호"_s, 9),
+       column::text(u"주소"_s, 36)}));
   ::showUnits(units_, {}, true);
 }
 

@@ -1,6 +1,7 @@
 #include "master/buildings/building_search.h"
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 namespace {
 
@@ -12,14 +13,10 @@ QString styleClause(HouseStyle style) {
 
 BuildingSearch::BuildingSearch(Session& session, HouseStyle style) : session_(session), style_(style) {
   buildings_.setColumns(
-      {{.header = style == HouseStyle::Apartment ? "아파트명" : "다가구명", .width = 26, .locked = true},
-       {.header = "동수", .width = 6, .kind = CellKind::Integer, .align = CellAlign::Right, .locked = true},
-       {.header = "주소", .width = 44, .locked = true}});
-  blocks_.setColumns(
-      {{.header = "동", .width = 10, .align = CellAlign::Center, .locked = true},
-       {.header = "층수", .width = 6, .kind = CellKind::Integer, .align = CellAlign::Right, .locked = true},
-       {.header = "우편번호", .width = 10, .align = CellAlign::Center, .locked = true},
-       {.header = "주소", .width = 44, .locked = true}});
+      column::shown({column::text(style == HouseStyle::Apartment ? "아파트명" : "다가구명", 26),
+                     column::integer("동수", 6), column::text("주소", 44)}));
+  blocks_.setColumns(column::shown({column::centred("동", 10), column::integer("층수", 6),
+                                    column::centred("우편번호", 10), column::text("주소", 44)}));
 }
 
 bool BuildingSearch::loadBuildings() {

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "ui/model/column.h"
+
 namespace {
 
 constexpr int firstUnitColumn = 2;
@@ -53,13 +55,11 @@ std::vector<std::vector<int>> unitNumbers(const BuildingPlan& plan) {
 void showUnits(SpreadModel& grid, const std::vector<QStringList>& floorsFromBelow, bool locked) {
   qsizetype width = 0;
   for (const QStringList& floor : floorsFromBelow) width = std::max(width, floor.size());
-  std::vector<SpreadColumn> columns{{.header = "층", .width = 6, .align = CellAlign::Center, .locked = true}};
-  for (qsizetype position = 1; position <= width; ++position)
-    columns.push_back({.header = QString::number(position),
-                       .width = 6,
-                       .align = CellAlign::Center,
-                       .locked = locked,
-                       .maxLength = 10});
+  std::vector<SpreadColumn> columns{column::locked(column::centred("층", 6))};
+  for (qsizetype position = 1; position <= width; ++position) {
+    columns.push_back(column::limited(10, column::centred(QString::number(position), 6)));
+    columns.back().locked = locked;
+  }
   std::vector<std::vector<QString>> rows;
   for (auto floor = floorsFromBelow.rbegin(); floor != floorsFromBelow.rend(); ++floor) {
     const int number = floor->isEmpty() ? 0 : floor->front().toInt() / 100;

@@ -1,6 +1,7 @@
 #include "master/catalogue/gas_catalogue.h"
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 #include <QtMath>
 
@@ -15,30 +16,14 @@ double gasNumber(const RegisterFields& fields, const QString& column) {
 }  // namespace
 
 GasCatalogue::GasCatalogue(Session& session) : RegisterRules(session, {u"LPG"_s}) {
-  const auto money = [](const QString& header, double width) {
-    return SpreadColumn{.header = header,
-                        .group = u"가스/용기 현황"_s,
-                        .width = width,
-                        .kind = CellKind::Money,
-                        .align = CellAlign::Right,
-                        .locked = true};
-  };
-  list_.setColumns({{.header = u"품명"_s, .group = u"가스/용기 현황"_s, .width = 12, .locked = true},
-                    {.header = u"규격"_s,
-                     .group = u"가스/용기 현황"_s,
-                     .width = 6,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    money(u"가스구입가"_s, 10),
-                    money(u"가스판매가"_s, 10),
-                    money(u"용기구입가"_s, 10),
-                    money(u"용기판매가"_s, 10),
-                    money(u"실병재고"_s, 8),
-                    money(u"공병재고"_s, 8),
-                    money(u"용기대여"_s, 8),
-                    money(u"보유용기"_s, 8),
-                    money(u"가스재고"_s, 9),
-                    money(u"재고액"_s, 12)});
+  std::vector<SpreadColumn> columns{column::text(u"품명"_s, 12),        column::right(u"규격"_s, 6),
+                                    column::money(u"가스구입가"_s, 10), column::money(u"가스판매가"_s, 10),
+                                    column::money(u"용기구입가"_s, 10), column::money(u"용기판매가"_s, 10),
+                                    column::money(u"실병재고"_s, 8),    column::money(u"공병재고"_s, 8),
+                                    column::money(u"용기대여"_s, 8),    column::money(u"보유용기"_s, 8),
+                                    column::money(u"가스재고"_s, 9),    column::money(u"재고액"_s, 12)};
+  for (SpreadColumn& each : columns) each.group = u"가스/용기 현황"_s;
+  list_.setColumns(column::shown(std::move(columns)));
 }
 
 QString GasCatalogue::defaultName() {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -90,18 +91,9 @@ double figure(const jet::Recordset& rs, QStringView column) {
 }
 
 std::vector<SpreadColumn> sizeSearchColumns(const SizeSearchWay& way) {
-  return {{.header = way.headings[0].toString(), .width = 20, .locked = true},
-          {.header = way.headings[1].toString(), .width = 12, .align = CellAlign::Center, .locked = true},
-          {.header = way.headings[2].toString(),
-           .width = 12,
-           .kind = CellKind::Money,
-           .align = CellAlign::Right,
-           .locked = true},
-          {.header = way.headings[3].toString(),
-           .width = 10,
-           .kind = CellKind::Money,
-           .align = CellAlign::Right,
-           .locked = true}};
+  const auto heading = [&](int at) { return way.headings[at].toString(); };
+  return column::shown({column::text(heading(0), 20), column::centred(heading(1), 12),
+                        column::money(heading(2), 12), column::money(heading(3), 10)});
 }
 
 }  // namespace

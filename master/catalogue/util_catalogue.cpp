@@ -1,6 +1,7 @@
 #include "master/catalogue/util_catalogue.h"
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 #include <QtMath>
 
@@ -17,17 +18,12 @@ qint64 utilStockWorth(const RegisterFields& record) {
 }  // namespace
 
 UtilCatalogue::UtilCatalogue(Session& session) : RegisterRules(session, {u"Util"_s}) {
-  const auto column = [](const QString& header, double width, CellKind kind = CellKind::Text) {
-    return SpreadColumn{.header = header,
-                        .group = u"시설/자재 현황"_s,
-                        .width = width,
-                        .kind = kind,
-                        .align = kind == CellKind::Text ? CellAlign::Left : CellAlign::Right,
-                        .locked = true};
-  };
-  list_.setColumns({column(u"품명"_s, 24), column(u"규격"_s, 14), column(u"구입단가"_s, 12, CellKind::Money),
-                    column(u"판매단가"_s, 12, CellKind::Money), column(u"재고량"_s, 10, CellKind::Money),
-                    column(u"재고액"_s, 14, CellKind::Money), column(u"코드"_s, 7, CellKind::Integer)});
+  std::vector<SpreadColumn> columns{column::text(u"품명"_s, 24),      column::text(u"규격"_s, 14),
+                                    column::money(u"구입단가"_s, 12), column::money(u"판매단가"_s, 12),
+                                    column::money(u"재고량"_s, 10),   column::money(u"재고액"_s, 14),
+                                    column::integer(u"코드"_s, 7)};
+  for (SpreadColumn& each : columns) each.group = u"시설/자재 현황"_s;
+  list_.setColumns(column::shown(std::move(columns)));
 }
 
 QString UtilCatalogue::listStatement() const {

@@ -1,6 +1,7 @@
 #include "master/catalogue/volume_register.h"
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,11 +12,8 @@ const QString volumeTitle = u"체적 관리자"_s;
 }  // namespace
 
 VolumeRegister::VolumeRegister(Session& session) : RegisterRules(session, {u"Volume"_s}) {
-  list_.setColumns(
-      {{.header = u"규격"_s, .width = 16, .locked = true},
-       {.header = u"명칭"_s, .width = 24, .locked = true},
-       {.header = u"단가"_s, .width = 12, .kind = CellKind::Money, .align = CellAlign::Right, .locked = true},
-       {.header = u"코드"_s, .width = 7, .kind = CellKind::Integer, .locked = true, .hidden = true}});
+  list_.setColumns(column::shown({column::text(u"규격"_s, 16), column::text(u"명칭"_s, 24),
+                                  column::money(u"단가"_s, 12), column::hidden(u"코드"_s)}));
 }
 
 QString VolumeRegister::listStatement() const {

@@ -7,29 +7,22 @@
 #include "store/data_access.h"
 #include "store/jet/format_rules.h"
 #include "store/year_file.h"
+#include "ui/model/column.h"
 
 namespace {
 
 constexpr auto registerOfClients = "고객 관리자";
 
 std::vector<SpreadColumn> plainColumns() {
-  return {{.header = "이름", .width = 22},
-          {.header = "전화번호", .width = 15},
-          {.header = "가스미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
-          {.header = "자재미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
-          {.header = "메모사항", .width = 34},
-          {.header = "가입일자", .width = 12, .align = CellAlign::Center},
-          {.header = "코드", .hidden = true}};
+  return {column::text("이름", 22),      column::text("전화번호", 15), column::money("가스미수", 12),
+          column::money("자재미수", 12), column::text("메모사항", 34), column::centred("가입일자", 12),
+          column::hidden("코드")};
 }
 
 std::vector<SpreadColumn> householdColumns(const QString& building) {
-  return {{.header = building, .width = 24},
-          {.header = "동", .width = 8, .align = CellAlign::Center},
-          {.header = "호", .width = 8, .align = CellAlign::Center},
-          {.header = "가스미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
-          {.header = "자재미수", .width = 12, .kind = CellKind::Money, .align = CellAlign::Right},
-          {.header = "전화번호", .width = 15},
-          {.header = "코드", .hidden = true}};
+  return {column::text(building, 24),    column::centred("동", 8),      column::centred("호", 8),
+          column::money("가스미수", 12), column::money("자재미수", 12), column::text("전화번호", 15),
+          column::hidden("코드")};
 }
 
 QString pageStatement(HouseStyle page) {
@@ -85,13 +78,9 @@ void removeSales(const Session& session, qint64 code) {
 }  // namespace
 
 ClientRegister::ClientRegister(Session& session) : session_(session) {
-  const auto locked = [](std::vector<SpreadColumn> columns) {
-    for (SpreadColumn& column : columns) column.locked = true;
-    return columns;
-  };
-  list(HouseStyle::Plain).setColumns(locked(plainColumns()));
-  list(HouseStyle::Apartment).setColumns(locked(householdColumns("아파트명")));
-  list(HouseStyle::MultiFamily).setColumns(locked(householdColumns("다가구명")));
+  list(HouseStyle::Plain).setColumns(column::shown(plainColumns()));
+  list(HouseStyle::Apartment).setColumns(column::shown(householdColumns("아파트명")));
+  list(HouseStyle::MultiFamily).setColumns(column::shown(householdColumns("다가구명")));
 }
 
 bool ClientRegister::loadPage(HouseStyle page) {

@@ -3,6 +3,7 @@
 #include "master/customers/caller_search.h"
 #include "master/customers/tel_format.h"
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 namespace {
 
@@ -72,13 +73,9 @@ QString modeClause(ClientSearchMode mode) {
 }
 
 std::vector<SpreadColumn> searchColumns() {
-  return {{.header = "고객명", .width = 26},
-          {.header = "전화번호", .width = 15},
-          {.header = "주소", .width = 38},
-          {.header = "구분", .width = 6, .align = CellAlign::Center},
-          {.header = "가스미수", .width = 11, .kind = CellKind::Money, .align = CellAlign::Right},
-          {.header = "메모사항", .width = 22},
-          {.header = "코드", .hidden = true}};
+  return {column::text("고객명", 26), column::text("전화번호", 15),  column::text("주소", 38),
+          column::centred("구분", 6), column::money("가스미수", 11), column::text("메모사항", 22),
+          column::hidden("코드")};
 }
 
 /** The found customers as rows of the list; a name is looked up once, not for every customer. Those with exactly the

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 
+#include "ui/forms/choose.h"
 #include "ui/paper/grid_print.h"
 
 namespace {
@@ -48,7 +49,8 @@ frmClient::frmClient(FormContext& context, QWidget* parent)
   mapTimer_->setInterval(mapLookMilliseconds);
   mapTimer_->setSingleShot(true);
   connect(mapTimer_, &QTimer::timeout, this, [this] { lookAtMap(); });
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { guard([&] { turnTo(index); }); });
+  onChoice(
+      *this, tabs_, [this] { return int(front_); }, [this](int index) { turnTo(index); });
   guard([this] { openPage(0); });
   if (page().grid->model().MaxRows() > 0)
     page().grid->setFocus();
@@ -120,11 +122,7 @@ void frmClient::openPage(int index) {
 }
 
 void frmClient::turnTo(int index) {
-  if (!mayDrop()) {
-    const QSignalBlocker quiet(tabs_);
-    tabs_->setCurrentIndex(int(front_));
-    return;
-  }
+  if (!mayDrop()) return;
   openPage(index);
   page().grid->setFocus();
 }

@@ -23,7 +23,7 @@ frmSearchClient::frmSearchClient(std::unique_ptr<ClientSearch> search, Session& 
   });
   grid()->setFillColumn(ClientSearch::AddressCol);
   showHelp("엔터 : 선택   Esc : 닫기   전화번호 뒤 네 자리로도 찾을 수 있습니다");
-  resize(grid()->fullWidth() + 40, 26 * fontMetrics().lineSpacing());
+  showLines(26);
 }
 
 /** True when the search ends here: one match, or a customer registered on the spot. Whoever only shares the end of a

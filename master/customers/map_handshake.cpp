@@ -2,25 +2,14 @@
 
 #include "master/customers/client_entry.h"
 #include "store/data_access.h"
+#include "store/settings_table.h"
 
 namespace {
 
-const QString mapApplication = "약도";
-const QString mapCustomer = "사용자";
-const QString mapPrint = "인쇄";
-const QString mapState = "환경설정";
 const QString mapEditor = "C:\\RWGAS\\MapEdit.exe";
 const QString registerTitle = "고객 관리자";
 
 }  // namespace
-
-QString MapHandshake::value(const QString& section, const QString& key) const {
-  return session_.pc.settings.GetSetting(mapApplication, section, key);
-}
-
-void MapHandshake::put(const QString& section, const QString& key, const QString& value) {
-  session_.pc.settings.SaveSetting(mapApplication, section, key, value);
-}
 
 bool MapHandshake::start(qint64 clientCode) {
   if (clientCode == 0) {
@@ -34,15 +23,16 @@ bool MapHandshake::start(qint64 clientCode) {
     return false;
   }
   const QString position = client["Position"].toText();
-  put(mapCustomer, "MapVal", position);
-  put(mapCustomer, "Code", QString::number(clientCode));
-  put(mapPrint, "Cust", DisplayName(client));
-  put(mapPrint, "Addr", client["Address"].toText());
-  put(mapPrint, "Phone", client["Tel"].toText());
-  put(mapPrint, "MapPath", position);
+  pc::Settings& settings = session_.pc.settings;
+  settings.write(setting::MapFile, position);
+  settings.write(setting::MapCustomer, QString::number(clientCode));
+  settings.write(setting::MapPrintName, DisplayName(client));
+  settings.write(setting::MapPrintAddress, client["Address"].toText());
+  settings.write(setting::MapPrintTel, client["Tel"].toText());
+  settings.write(setting::MapPrintFile, position);
   // An answer left over from an earlier run would end the wait at once.
-  put(mapState, "MapEdit", "0");
-  put(mapState, "OccurErr", "0");
+  settings.write(setting::MapEdited, false);
+  settings.write(setting::MapFailed, false);
   clientCode_ = clientCode;
   if (session_.pc.process.start(mapEditor)) return true;
   session_.prompts.MsgWarn(
@@ -51,14 +41,15 @@ bool MapHandshake::start(qint64 clientCode) {
 }
 
 MapHandshake::State MapHandshake::look() {
-  if (value(mapState, "OccurErr") == "1") {
-    put(mapState, "MapEdit", "0");
-    put(mapState, "OccurErr", "0");
+  pc::Settings& settings = session_.pc.settings;
+  if (settings.read(setting::MapFailed) == "1") {
+    settings.write(setting::MapEdited, false);
+    settings.write(setting::MapFailed, false);
     return State::Done;
   }
-  if (value(mapState, "MapEdit") != "1") return State::Waiting;
-  put(mapState, "MapEdit", "0");
-  const QString file = value(mapCustomer, "MapVal");
+  if (settings.read(setting::MapEdited) != "1") return State::Waiting;
+  settings.write(setting::MapEdited, false);
+  const QString file = settings.read(setting::MapFile);
   if (!file.isEmpty() && session_.pc.paths.exists(file)) {
     session_.dbBasic.Execute("Update Client Set Position = '" + plainText(file) +
                              "' Where Code = " + QString::number(clientCode_));

@@ -15,9 +15,6 @@ class MapHandshake {
   State look();
 
  private:
-  QString value(const QString& section, const QString& key) const;
-  void put(const QString& section, const QString& key, const QString& value);
-
   Session& session_;
   qint64 clientCode_ = 0;
 };

@@ -1,6 +1,7 @@
 #include "master/partners/bank_register.h"
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,9 +10,8 @@ const QString bankTitle = u"수납은행 관리자"_s;
 }
 
 BankRegister::BankRegister(Session& session) : RegisterRules(session, {u"Bank"_s, u"BName"_s, true}) {
-  list_.setColumns({{.header = u"은행명"_s, .width = 24, .locked = true},
-                    {.header = u"계좌번호"_s, .width = 26, .align = CellAlign::Center, .locked = true},
-                    {.header = u"예금주"_s, .width = 24, .locked = true}});
+  list_.setColumns(column::shown(
+      {column::text(u"은행명"_s, 24), column::centred(u"계좌번호"_s, 26), column::text(u"예금주"_s, 24)}));
 }
 
 QString BankRegister::listStatement() const {

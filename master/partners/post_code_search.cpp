@@ -1,6 +1,7 @@
 #include "master/partners/post_code_search.h"
 
 #include "store/data_access.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,9 +27,8 @@ bool PostCodeSearch::open() {
 }
 
 std::vector<SpreadColumn> PostCodeSearch::columns() {
-  return {{.header = u"우편번호"_s, .width = 10, .align = CellAlign::Center, .locked = true},
-          {.header = u"주소"_s, .width = 36, .locked = true},
-          {.header = u"번지"_s, .width = 14, .locked = true}};
+  return column::shown(
+      {column::centred(u"우편번호"_s, 10), column::text(u"주소"_s, 36), column::text(u"번지"_s, 14)});
 }
 
 // The upper bound is three digits and a postcode has more, so text order leaves the bound's own district out; kept.

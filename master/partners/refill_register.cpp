@@ -2,6 +2,7 @@
 
 #include "store/data_access.h"
 #include "store/year_file.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,22 +13,10 @@ const QString companyMissing = u"상호는 필수입력사항입니다!"_s;
 
 RefillRegister::RefillRegister(Session& session)
     : RegisterRules(session, {u"RefillState"_s, u"Code"_s, true}) {
-  list_.setColumns({{.header = u"상호"_s, .width = 18, .locked = true},
-                    {.header = u"대표자"_s, .width = 8, .locked = true},
-                    {.header = u"사업자번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
-                    {.header = u"전화번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
-                    {.header = u"팩스"_s, .width = 13, .align = CellAlign::Center, .locked = true},
-                    {.header = u"가스미불"_s,
-                     .width = 11,
-                     .kind = CellKind::Money,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"자재미불"_s,
-                     .width = 11,
-                     .kind = CellKind::Money,
-                     .align = CellAlign::Right,
-                     .locked = true},
-                    {.header = u"주소"_s, .width = 24, .locked = true}});
+  list_.setColumns(column::shown({column::text(u"상호"_s, 18), column::text(u"대표자"_s, 8),
+                                  column::centred(u"사업자번호"_s, 13), column::centred(u"전화번호"_s, 13),
+                                  column::centred(u"팩스"_s, 13), column::money(u"가스미불"_s, 11),
+                                  column::money(u"자재미불"_s, 11), column::text(u"주소"_s, 24)}));
 }
 
 QString RefillRegister::listStatement() const {

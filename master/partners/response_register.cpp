@@ -2,6 +2,7 @@
 
 #include "store/data_access.h"
 #include "store/date_text.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,13 +11,10 @@ const QString responseTitle = u"배달 관리자"_s;
 }
 
 ResponseRegister::ResponseRegister(Session& session) : RegisterRules(session, {u"Response"_s}) {
-  list_.setColumns({{.header = u"담당자"_s, .width = 10, .locked = true},
-                    {.header = u"전화번호"_s, .width = 13, .align = CellAlign::Center, .locked = true},
-                    {.header = u"휴대폰"_s, .width = 13, .align = CellAlign::Center, .locked = true},
-                    {.header = u"입사일자"_s, .width = 11, .align = CellAlign::Center, .locked = true},
-                    {.header = u"주민등록번호"_s, .width = 14, .align = CellAlign::Center, .locked = true},
-                    {.header = u"주소"_s, .width = 28, .locked = true},
-                    {.header = u"메모사항"_s, .width = 16, .locked = true}});
+  list_.setColumns(column::shown({column::text(u"담당자"_s, 10), column::centred(u"전화번호"_s, 13),
+                                  column::centred(u"휴대폰"_s, 13), column::centred(u"입사일자"_s, 11),
+                                  column::centred(u"주민등록번호"_s, 14), column::text(u"주소"_s, 28),
+                                  column::text(u"메모사항"_s, 16)}));
 }
 
 QString ResponseRegister::listStatement() const {

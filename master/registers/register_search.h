@@ -4,16 +4,18 @@
 #include "store/session.h"
 #include "ui/model/spread_model.h"
 
-/** One such list: its window's title, its statement and which field stands in which column. */
+/** One such list: its window's name and title, its grid's name, its statement and which field stands in which column. */
 class RegisterSearch {
  public:
-  static RegisterSearch volumes();    ///< columns: size, name, unit (won)
-  static RegisterSearch responses();  ///< columns: name, telephone, mobile
+  static RegisterSearch volumes();    ///< frmSearchVolume: size, name, unit (won)
+  static RegisterSearch responses();  ///< frmSearchResponse: name, telephone, mobile
   static RegisterSearch
-  refills();  ///< columns: company, owner, telephone, owed for gas and for materials (won)
-  static RegisterSearch banks();  ///< columns: bank, account, holder
+  refills();  ///< frmSearchRefill: company, owner, telephone, owed for gas and materials (won)
+  static RegisterSearch banks();  ///< frmSearchBank: bank, account, holder
 
+  const QString& form() const { return form_; }
   const QString& title() const { return title_; }
+  const char* grid() const { return grid_; }
   /** False after a failed query has been told. */
   bool load(Session& session, SpreadModel& list) const;
 
@@ -22,11 +24,16 @@ class RegisterSearch {
     QString field;
     SpreadColumn look;
   };
-  RegisterSearch(QString title, QString statement, std::vector<Column> columns)
-      : title_(std::move(title)), statement_(std::move(statement)), columns_(std::move(columns)) {}
-  static Column text(const QString& field, const QString& header, double width);
-  static Column money(const QString& field, const QString& header, double width);
+  RegisterSearch(QString form, QString title, const char* grid, QString statement,
+                 std::vector<Column> columns)
+      : form_(std::move(form)),
+        title_(std::move(title)),
+        grid_(grid),
+        statement_(std::move(statement)),
+        columns_(std::move(columns)) {}
 
-  QString title_, statement_;
+  QString form_, title_;
+  const char* grid_;
+  QString statement_;
   std::vector<Column> columns_;
 };

@@ -93,7 +93,7 @@ TEST(SeeIdForms, PortsAreChangedAndTheListSurvivesItsWindow) {
   WaitingList waiting(at.pc.clock);
   SeeIdPort first(at.pc.paths), second(at.pc.paths);
   Caller caller(at.session, {&first, &second}, waiting, [] { return nullptr; });
-  FrmSeeIDOptions options(session, caller);
+  FrmSeeIDOptions options(at.session, caller);
   options.show();
   EXPECT_EQ(options.findChild<QLineEdit*>("txtPortNo0")->text(), "1");
   options.findChild<QLineEdit*>("txtPortNo0")->setText("5");

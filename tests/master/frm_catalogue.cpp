@@ -6,19 +6,15 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "master/buildings/frmAPTAddress.h"
-#include "master/buildings/frmBDName.h"
+#include "app/form_pickers.h"
+#include "master/buildings/form_building_search.h"
 #include "master/catalogue/frmGasUtil.h"
 #include "master/catalogue/frmSearchSize.h"
-#include "master/catalogue/frmSearchVolume.h"
 #include "master/catalogue/frmVolume.h"
 #include "master/customers/frmSearchClient.h"
 #include "master/partners/frmPostCode.h"
 #include "master/partners/frmRefillState.h"
 #include "master/partners/frmResponse.h"
-#include "master/partners/frmSearchBank.h"
-#include "master/partners/frmSearchRefill.h"
-#include "master/partners/frmSearchResponse.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
@@ -72,6 +68,7 @@ struct CatalogueForms : testing::Test {
   }
   tests::TestPc pc;
   CataloguePickers pickers;
+  FormPickers windows{pc.session};
   tests::IdleCommands commands;
   tests::IdleCalls calls;
   FormContext context{pc.session, pickers, commands, calls};
@@ -191,7 +188,7 @@ TEST_F(CatalogueForms, GoodsAreTakenByEnterAndLeftByEsc) {
   EXPECT_EQ(taken->price, 140000);
 
   tests::whenModal<PickerDialog>([](PickerDialog&) { tests::key(Qt::Key_Escape); });
-  EXPECT_FALSE(frmSearchResponse(pc.session, nullptr));
+  EXPECT_FALSE(windows.searchResponse());
   tests::whenModal<PickerDialog>(
       [](PickerDialog& dialog) { dialog.findChild<QPushButton*>(u"btnNew"_s)->click(); });
   EXPECT_FALSE(frmSearchSize(context, u"1"_s, TradeSide::Purchase, nullptr));
@@ -207,16 +204,16 @@ TEST_F(CatalogueForms, ShortListsHandOverTheLineUnderTheCursor) {
     tests::key(Qt::Key_Return);
   };
   tests::whenModal<PickerDialog>(takeFirst);
-  EXPECT_EQ(frmSearchResponse(pc.session, nullptr), u"김배달"_s);
+  EXPECT_EQ(windows.searchResponse(), u"김배달"_s);
   tests::whenModal<PickerDialog>(takeFirst);
-  EXPECT_EQ(frmSearchRefill(pc.session, nullptr), u"한강충전소"_s);
+  EXPECT_EQ(windows.searchRefill(), u"한강충전소"_s);
   tests::whenModal<PickerDialog>(takeFirst);
-  const auto account = frmSearchBank(pc.session, nullptr);
+  const auto account = windows.searchBank();
   ASSERT_TRUE(account);
-  EXPECT_EQ(account->number + account->user, u"123-45-678해온가스"_s);
+  EXPECT_EQ(account->name + account->number + account->user, u"국민123-45-678해온가스"_s);
   run(u"Update Volume Set Unit = '1450' Where Code = 1"_s);
   tests::whenModal<PickerDialog>(takeFirst);
-  const auto regulator = frmSearchVolume(pc.session, nullptr);
+  const auto regulator = windows.searchVolume();
   ASSERT_TRUE(regulator);
   EXPECT_EQ(regulator->size, answer(u"Select Size From Volume Where Code = 1"_s));
   EXPECT_EQ(regulator->unit, 1450);
@@ -226,7 +223,7 @@ TEST_F(CatalogueForms, ShortListsHandOverTheLineUnderTheCursor) {
     tests::key(Qt::Key_Return);  // an empty list gives nothing to take
     tests::key(Qt::Key_Escape);
   });
-  EXPECT_FALSE(frmSearchResponse(pc.session, nullptr));
+  EXPECT_FALSE(windows.searchResponse());
 }
 
 TEST_F(CatalogueForms, EveryPickerIsWorkedByKeysAlone) {
@@ -247,13 +244,13 @@ TEST_F(CatalogueForms, EveryPickerIsWorkedByKeysAlone) {
   };
   const std::pair<const char*, std::function<bool()>> pickers[] = {
       {"frmSearchSize", [&] { return frmSearchSize(context, u"1"_s, TradeSide::Sale, nullptr).has_value(); }},
-      {"frmSearchVolume", [&] { return frmSearchVolume(pc.session, nullptr).has_value(); }},
-      {"frmSearchResponse", [&] { return frmSearchResponse(pc.session, nullptr).has_value(); }},
-      {"frmSearchRefill", [&] { return frmSearchRefill(pc.session, nullptr).has_value(); }},
-      {"frmSearchBank", [&] { return frmSearchBank(pc.session, nullptr).has_value(); }},
+      {"frmSearchVolume", [&] { return windows.searchVolume().has_value(); }},
+      {"frmSearchResponse", [&] { return windows.searchResponse().has_value(); }},
+      {"frmSearchRefill", [&] { return windows.searchRefill().has_value(); }},
+      {"frmSearchBank", [&] { return windows.searchBank().has_value(); }},
       {"frmPostCode", [&] { return frmPostCode(pc.session, u"도화"_s, nullptr).has_value(); }},
-      {"frmBDName", [&] { return frmBDName(pc.session, buildings).pick() > 0; }},
-      {"frmAPTAddress", [&] { return frmAPTAddress(pc.session, buildings).pick() > 0; }},
+      {"frmBDName", [&] { return frmBDName(pc.session, buildings, nullptr) > 0; }},
+      {"frmAPTAddress", [&] { return frmAPTAddress(pc.session, buildings, nullptr) > 0; }},
       {"frmSearchClient", client},
   };
   for (const auto& [name, run] : pickers) {

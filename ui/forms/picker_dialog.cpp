@@ -64,6 +64,10 @@ void PickerDialog::showHelp(const QString& text) {
   help_->setText(text);
 }
 
+void PickerDialog::showLines(int lines) {
+  resize(grid_->fullWidth() + 40, lines * fontMetrics().lineSpacing());
+}
+
 void PickerDialog::showFound() {
   if (grid_->model().DataRowCnt() > 0) {
     grid_->setActiveCell(1, grid_->activeCol());

@@ -23,6 +23,8 @@ class PickerDialog : public Dialog {
   /** Further parts between the find box and the grid. */
   QVBoxLayout* head() const { return head_; }
   void showHelp(const QString& text);
+  /** As wide as the columns and so many lines of text high, where no size is remembered. */
+  void showLines(int lines);
   Spread* grid() const { return grid_; }
   QLineEdit* findBox() const { return find_; }
 

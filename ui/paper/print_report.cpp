@@ -1,6 +1,7 @@
 #include "ui/paper/print_report.h"
 
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "ui/forms/FrmProgress.h"
 
 using namespace Qt::StringLiterals;
@@ -8,10 +9,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int pagesWithoutBar = 20;  ///< so many are printed at once, without showing progress
-const QString application = u"해온판매"_s, section = u"프린터설정"_s, lastPrinter = u"보고서"_s;
 
 std::optional<PrintChoice> ask(Session& session, int pages, QWidget* parent) {
-  const QString before = session.pc.settings.GetSetting(application, section, lastPrinter);
+  const QString before = session.pc.settings.read(setting::ReportPrinter);
   return askPrintChoice(session.prompts, *session.printers, before, pages, parent);
 }
 
@@ -25,7 +25,7 @@ PrintChooser& printChooser() {
 bool askAndPrint(Session& session, const pc::Report& report, const QString& title, QWidget* parent) {
   const auto choice = printChooser()(session, report.pages().count(), parent);
   if (!choice) return false;
-  session.pc.settings.SaveSetting(application, section, lastPrinter, choice->printer);
+  session.pc.settings.write(setting::ReportPrinter, choice->printer);
   return printTo(session, report, title, choice->printer, {choice->first - 1, choice->last - 1}, parent);
 }
 

@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "pc/file_name.h"
+#include "store/settings_table.h"
 #include "ui/paper/page_job.h"
 #include "ui/paper/print_queue.h"
 
@@ -60,7 +61,7 @@ QString pdfPrinterName() {
 
 QString pdfPlace(pc::Pc& pc) {
   QString file = qEnvironmentVariable("HAEON_PDF");
-  if (file.isEmpty()) file = pc.settings.GetSetting(u"해온판매"_s, u"프린터설정"_s, u"PDF파일"_s);
+  if (file.isEmpty()) file = pc.settings.read(setting::PdfFile);
   return file.isEmpty() ? QString() : pc.paths.native(file);
 }
 
