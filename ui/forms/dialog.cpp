@@ -9,6 +9,8 @@
 #include "ui/forms/guard.h"
 #include "ui/forms/push_button.h"
 
+using namespace Qt::StringLiterals;
+
 Dialog::Dialog(const QString& name, const QString& caption, Prompts& prompts, QWidget* parent)
     : QDialog(parent), prompts_(prompts) {
   setObjectName(name);
@@ -51,7 +53,7 @@ QLabel* Dialog::shownValue(const char* name, const QString& text) {
   auto* const label = new QLabel(text);
   label->setObjectName(QString::fromUtf8(name));
   label->setTextFormat(Qt::PlainText);
-  label->setProperty("role", QStringLiteral("value"));
+  label->setProperty("role", u"value"_s);
   return label;
 }
 
