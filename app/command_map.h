@@ -17,6 +17,12 @@ enum class CommandKind {
   Guide,
   Home,
   RemoteSupport,
+  BackUp,         ///< to the local disk
+  BackUpSupport,  ///< for support
+  BringBack,      ///< a backup put back
+  CashBook,
+  Schedule,
+  MoveIn,  ///< books of the older format
   Later,
 };
 

@@ -22,10 +22,15 @@
 #include "app/form_table.h"
 #include "app/form_tool_icons.h"
 #include "app/frame_rules.h"
+#include "app/move_in_start.h"
+#include "backup/settings.h"
 #include "links/FrmSeeIDOptions.h"
 #include "links/FrmSeeIDStanbyList.h"
 #include "links/caller.h"
+#include "links/companion_tools.h"
 #include "links/form_see_id_port.h"
+#include "links/frmMsgBackUp.h"
+#include "links/modBackUp.h"
 #include "ui/forms/form.h"
 #include "ui/forms/guard.h"
 #include "ui/forms/style.h"
@@ -241,6 +246,24 @@ void frmMain::perform(const CommandEntry& entry) {
         askAndOpenAddress(u"원격지원서비스에 접속하시겠습니까?"_s,
                           u"http://"_s + makerAddress() + u"/remote"_s);
         break;
+      case CommandKind::BackUp:
+        if (RunBackup(session_, 0, false, [this] { return closeChildren(); })) close();
+        break;
+      case CommandKind::BackUpSupport:
+        if (RunBackup(session_, 2, false, [this] { return closeChildren(); })) close();
+        break;
+      case CommandKind::BringBack:
+        if (RunRestore(session_, 1, [this] { return closeChildren(); })) close();
+        break;
+      case CommandKind::CashBook:
+        RunCashbook(session_, folderForTools(session_), oldCashBook());
+        break;
+      case CommandKind::Schedule:
+        RunSchedule(session_, folderForTools(session_), {});
+        break;
+      case CommandKind::MoveIn:
+        if (startMoveIn(session_, [this] { return closeChildren(); })) close();
+        break;
       case CommandKind::Menu:
       case CommandKind::Later:
         break;
@@ -356,10 +379,25 @@ QWidget* frmMain::activeForm() const {
 
 // --- leaving ----------------------------------------------------------------------------------------------------
 
-void frmMain::closeEvent(QCloseEvent* event) {
-  if (!silentClose_ && !askToLeave(session_)) return event->ignore();
+bool frmMain::closeChildren() {
   ground_->closeAllSubWindows();
-  if (!ground_->subWindowList().isEmpty()) return event->ignore();  // a child holds a cell it cannot save
+  return ground_->subWindowList().isEmpty();
+}
+
+bool frmMain::mayLeave() {
+  if (silentClose_ || session_.ClosingForBackup) return true;
+  if (!backup::readSettings(session_.pc).remindAtExit) return askToLeave(session_);
+  return AskBackupOnExit(
+      session_, [this] { return closeChildren(); },
+      [this] {
+        frmMsgBackUp reminder(this);
+        reminder.exec();
+        return reminder.Result();
+      });
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (!mayLeave() || !closeChildren()) return event->ignore();
   timer1_->stop();
   standby_.reset();
   guard([&] { caller_->CloseSeeID(); });

@@ -65,6 +65,9 @@ class frmMain : public QMainWindow, public Commands {
   void testCall();
   void askAndOpenAddress(const QString& question, const QString& address);
   bool guard(const std::function<void()>& work);
+  /** False when a child stays because it holds a cell that it cannot save. */
+  bool closeChildren();
+  bool mayLeave();
 
   Session& session_;
   std::unique_ptr<WaitingList> waiting_;

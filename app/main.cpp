@@ -1,9 +1,6 @@
 // The program's entry: one PC, one session, the start window, then the main window until it closes.
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QScreen>
-#include <QTranslator>
 #include <memory>
 
 #include "app/FrmFolderTrouble.h"
@@ -13,11 +10,13 @@
 #include "app/form_tool_icons.h"
 #include "app/frmMain.h"
 #include "app/frmSplash.h"
+#include "app/move_in_start.h"
 #include "app/start_up.h"
 #include "pc/program_line.h"
 #include "store/settings_table.h"
 #include "store/support_log.h"
 #include "ui/forms/guard.h"
+#include "ui/forms/korean.h"
 #include "ui/forms/message_boxes.h"
 #include "ui/forms/style.h"
 #include "ui/paper/print_fonts.h"
@@ -35,15 +34,6 @@ constexpr pc::ProgramLine programLine{
     "  HAEON_CLOCK   \"2026-03-16 09:00:00\": the program's clock starts there\n"
     "  HAEON_COM1    the device of the port COM1\n"
     "  HAEON_PDF     the file that the PDF writer fills without asking"};
-
-// Korean whatever the PC's language is: the boxes of the toolkit (file, colour) speak as the program does.
-void speakKorean(QApplication& application) {
-  const QLocale korean(QLocale::Korean, QLocale::SouthKorea);
-  QLocale::setDefault(korean);
-  auto* translator = new QTranslator(&application);
-  if (translator->load(korean, u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-    QApplication::installTranslator(translator);
-}
 
 // Slips go to a bank's reader: letters of another font are told before they are printed.
 void tellMissingFonts(Prompts& boxes) {
@@ -122,6 +112,8 @@ int main(int argc, char** argv) {
     splash.hide();
     if (!FrmFolderTrouble(whyNotStarted(session), session).tryAgain() || !begin()) QApplication::exit(0);
   };
+  session.AppTitle = u"해온판매"_s;
+  if (offeredMoveIn(session)) return 0;
   if (!begin()) return 1;
   support::noteRun(pc, support::Run::Begins);
   const int result = QApplication::exec();

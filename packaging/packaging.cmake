@@ -1,6 +1,6 @@
-# What `cmake --install` and `cpack` take along: the program, its statement tool, entry and icon for the desktop, papers.
+# What `cmake --install` and `cpack` take along: the program, its data compressor, the importer of old books, its statement tool, entry and icon for the desktop, papers.
 include(GNUInstallDirs)
-install(TARGETS haeon jetsql RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS haeon compressor haeon-import haeon-jet-rows jetsql RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES packaging/haeon.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/haeon.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES docs/guide.ko.md docs/notices.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -1,5 +1,6 @@
 #include "pc/process.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMimeDatabase>
 #include <QProcess>
@@ -32,7 +33,10 @@ bool Process::run(const QString& program, const QStringList& arguments, const QS
 }
 
 bool Process::start(const QString& written, const QStringList& arguments) const {
-  const QFileInfo program(paths_.native(written));
+  QFileInfo program(paths_.native(written));
+  const QString ours = paths_.programFolder() + u'\\';
+  if (!program.isFile() && written.startsWith(ours, Qt::CaseInsensitive))
+    program.setFile(QCoreApplication::applicationDirPath() + u'/' + written.sliced(ours.size()));
   return program.isFile() && run(program.filePath(), arguments, program.path());
 }
 

@@ -17,7 +17,8 @@ class Process {
 
   explicit Process(const Paths& paths) : paths_(paths) {}
 
-  /** False when there is no such file or it does not start. */
+  /** False when there is no such file or it does not start. What the program's folder lacks is looked for where this
+   *  program is installed: there lie the companions that come with it. */
   bool start(const QString& written, const QStringList& arguments = {}) const;
   /** Hands a file or folder to the PC's own program for it; False when the file or such a program is missing. */
   bool open(const QString& written) const;

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "store/data_access.h"
+#include "store/folder_swap.h"
 #include "store/jet/error_texts.h"
 #include "store/jet/file_system.h"
 #include "store/jet/presence.h"
@@ -144,6 +145,7 @@ bool prepareDataFolder(Session& session) {
     return !isThere(paths, session.DbPath + name) && makeDataFile(session, session.DbPath + name, kind);
   };
   try {
+    finishSwap(paths, session.DbPath);
     checkJournals(session);
     const bool first = !isThere(paths, session.DbPath + u"Basic.mdb"_s);
     if (first && !mayBegin(session)) return false;

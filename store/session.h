@@ -33,6 +33,8 @@ struct Session {
   QString CheckKind;          ///< meter book to open: "1" individual, "2" apartment, "3" multi-household
   bool StockEnabled = false;  ///< postings move LPG and Util
   QString SavedDateFormat;
+  bool ClosingForBackup =
+      false;  ///< a program that needs the files free was started: the main window closes without a question
 
   QString SaleDay;            ///< "yyyy-mm-dd", the day that frmTodaySale sums up; set by the sale screen
   bool SaleLedgerGas = true;  ///< what frmPrtSale lists: gas lines, else materials; set by the sale screen

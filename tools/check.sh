@@ -11,7 +11,7 @@ clang-format --dry-run --Werror $(sources .) 2>&1 | head -20
 
 # Core files include no widget header: the core could run where there is no screen.
 subjects=$(sources . | grep -vE '^(tests|samples|bench)/')
-core=$(echo "$subjects" | grep -vE '/(frm|Frm|form_)[^/]*$|app/main.cpp|^ui/[^m][^/]*/')
+core=$(echo "$subjects" | grep -vE '/(frm|Frm|form_)[^/]*$|/main.cpp|^ui/[^m][^/]*/')
 hits=$(grep -nE '#include <(QtWidgets|QtGui|QtPrintSupport|Q(Widget|Application|Dialog|Painter|Table|Line|Label|Main|Message|Font|Print|Color))' $core || true)
 [ -z "$hits" ] || { echo "$hits"; say "a core file includes a widget header"; }
 

@@ -83,7 +83,8 @@ void Presence::shareAgain() {
 }
 
 Presence::~Presence() {
-  if (takeAlone()) ::unlink(path_.constData());
+  // Not one of the same name in a folder that has taken this one's place meanwhile.
+  if (takeAlone() && !isGone(file_, path_.constData())) ::unlink(path_.constData());
   leave();
 }
 

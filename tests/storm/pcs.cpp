@@ -11,6 +11,7 @@
 #include "store/long_work.h"
 #include "tests/storm/books.h"
 #include "tests/storm/builder.h"
+#include "tests/storm/packer.h"
 #include "tests/storm/poster.h"
 #include "tests/storm/sweep.h"
 
@@ -114,6 +115,8 @@ int runPc(const QStringList& arguments) {
   if (work == u"start") return startOver(arguments.mid(1));
   if (work == u"post-limited") return postWithinLimit(arguments.mid(1));
   if (work == u"sweep") return runSweep(arguments.mid(1));
+  if (work == u"pack") return runPacker(arguments.mid(1));
+  if (work == u"put-back") return runRestorer(arguments.mid(1));
   if (work == u"post-as-anyone") return postAsAnyone(arguments.mid(1));
   return 1;
 }

@@ -1,0 +1,44 @@
+#pragma once
+// The data compressor's window: backups by one key, and the list of what was kept, to put one back.
+#include <QDialog>
+
+#include "backup/form_compressor.h"
+#include "ui/model/spread_model.h"
+
+class QLabel;
+class QPushButton;
+class Spread;
+
+namespace backup {
+
+class FrmArchive : public QDialog {
+ public:
+  FrmArchive(pc::Pc& pc, Prompts& prompts, QWidget* parent = nullptr);
+
+  /** With the cursor on the newest archive: it was opened to put one back. */
+  void beginWithRestore();
+  /** Put back during this run: the main program may be started again. */
+  bool restored() const { return restored_; }
+
+ private:
+  void build();
+  QPushButton* button(const char* name, const QString& caption, std::function<void()> work);
+  void showShelf();
+  void restoreChosen();
+  void restoreOther();
+  void restore(const QString& archive);
+  void backUp(Series series, bool toServer);
+  void changeSettings();
+  void openFolder();
+
+  pc::Pc& pc_;
+  Prompts& prompts_;
+  Compressor compressor_;
+  QList<ShelfArchive> shelf_;
+  SpreadModel rows_;
+  Spread* SpArchive_ = nullptr;
+  QLabel *pnlData_ = nullptr, *pnlShelf_ = nullptr;
+  bool restored_ = false;
+};
+
+}  // namespace backup

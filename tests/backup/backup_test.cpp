@@ -1,0 +1,317 @@
+// Archives of real books: made, read back, kept, refused when torn, and put in the books' place.
+#include <archive.h>
+#include <archive_entry.h>
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+
+#include <QDirIterator>
+#include <csignal>
+
+#include "backup/data_folder_alone.h"
+#include "backup/make_backup.h"
+#include "backup/restore.h"
+#include "store/folder_swap.h"
+#include "store/jet/presence.h"
+#include "tests/support.h"
+
+namespace {
+
+using namespace tests;
+using namespace Qt::StringLiterals;
+using backup::Series;
+
+const backup::Tell nobody;
+
+struct BackupTest : testing::Test, TestPc {
+  QString dataFolder = installedDataFolder();
+  backup::Settings settings{.folder = u"C:\\RWGas\\BackUp\\"_s, .keep = 3};
+
+  void SetUp() override {
+    pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(9, 0)));
+    openBooks(QDate(2026, 3, 16));
+    session.dbBasic.Execute(u"Insert Into Client(Code, Name, GasInit) Values(1, '김가네', 41000)"_s);
+    write(dataFolder + u"메모.txt"_s, "손으로 적은 것");
+    closeBooks();
+  }
+  void closeBooks() {
+    for (jet::Database* open : {&session.dbBasic, &session.dbYear, &session.dbTax, &session.dbCommon})
+      open->Close();
+    session.wsMain.Close();
+  }
+  QString native(const QString& written) const { return pc.paths.native(written); }
+  void write(const QString& path, const QByteArray& text) {
+    QFile file(native(path));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  }
+  static QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+  }
+  /** Every file below a folder with its bytes. */
+  static QMap<QString, QByteArray> contents(const QString& folder) {
+    QMap<QString, QByteArray> all;
+    for (QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext();) {
+      const QString path = it.next();
+      all[QDir(folder).relativeFilePath(path)] = bytesOf(path);
+    }
+    return all;
+  }
+  QMap<QString, QByteArray> books() const { return contents(native(dataFolder)); }
+  std::unique_ptr<backup::DataFolderAlone> hold() {
+    auto held = std::make_unique<backup::DataFolderAlone>(pc.paths, dataFolder);
+    EXPECT_EQ(held->take(), QStringList());
+    return held;
+  }
+  backup::BackupDone make(Series series = Series::Books, const backup::Tell& tell = nobody) {
+    return backup::makeBackup(pc, dataFolder, settings, series, hold(), tell);
+  }
+  QString restore(const QString& archive) {
+    const backup::ArchiveFacts facts = backup::verify(native(archive), nobody);
+    auto held = hold();
+    backup::prepareRestore(pc, dataFolder, archive, facts, nobody);
+    return backup::finishRestore(pc, dataFolder, std::move(held));
+  }
+  void changeBooks(const QString& name) {
+    const jet::Workspace workspace = openWorkspace(session, dataFolder);
+    workspace.OpenDatabase(dataFolder + u"Basic.mdb"_s)
+        .Execute(u"Update Client Set Name = '"_s + jet::plainText(name) + u"'"_s);
+  }
+  QString clientName() {
+    const jet::Workspace workspace = openWorkspace(session, dataFolder);
+    return workspace.OpenDatabase(dataFolder + u"Basic.mdb"_s)
+        .OpenRecordset(u"Select Name From Client"_s)[0]
+        .toText();
+  }
+  QStringList shelf() const {
+    return QDir(native(settings.folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+  }
+};
+
+/** The failure's number and text; 0 when there was none. */
+template <class Work>
+std::pair<int, QString> failureOf(Work work) {
+  try {
+    work();
+  } catch (const jet::Error& error) {
+    return {error.number(), error.description()};
+  }
+  return {0, {}};
+}
+
+TEST_F(BackupTest, WhatIsPackedComesBackByteByByteAndTheOldBooksStay) {
+  const auto before = books();
+  const backup::BackupDone done = make();
+  EXPECT_EQ(books(), before);
+  EXPECT_EQ(done.archive, "C:\\RWGas\\BackUp\\해온판매-20260316-090000.zip");
+  EXPECT_EQ(shelf(), QStringList{"해온판매-20260316-090000.zip"});
+  EXPECT_EQ(done.facts.files.size(), before.size());
+  changeBooks(u"박가네"_s);
+  const auto changed = books();
+  EXPECT_EQ(restore(done.archive), "C:\\RWGas\\Dbs-이전-20260316-090000");
+  EXPECT_EQ(books(), before);
+  EXPECT_EQ(clientName(), "김가네");
+  EXPECT_EQ(contents(native(u"C:\\RWGas\\Dbs-이전-20260316-090000"_s)), changed);
+  EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
+}
+
+TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
+  QStringList made;
+  for (int minute = 0; minute < 4; ++minute) {
+    pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(10, minute)));
+    made << make().archive;
+  }
+  write(settings.folder + u"해온판매-내것.zip"_s, "mine");
+  made << make().archive;
+  EXPECT_EQ(made.last(), "C:\\RWGas\\BackUp\\해온판매-20260316-100301.zip");
+  make(Series::Support);
+  EXPECT_EQ(shelf(), (QStringList{"해온판매-20260316-100200.zip", "해온판매-20260316-100300.zip",
+                                  "해온판매-20260316-100301.zip", "해온판매-AS-20260316-100300.zip",
+                                  "해온판매-내것.zip"}));
+  const auto listed = backup::archivesOf(pc.paths, settings);
+  ASSERT_EQ(listed.size(), 3);
+  EXPECT_EQ(listed.first().path, made.last());
+}
+
+TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {
+  auto workspace = std::make_unique<jet::Workspace>(openWorkspace(session, dataFolder));
+  auto year = std::make_unique<jet::Database>(workspace->OpenDatabase(dataFolder + u"2026Foundation.mdb"_s));
+  backup::DataFolderAlone held(pc.paths, dataFolder);
+  EXPECT_THAT(held.take(), testing::Contains(u"Basic.mdb"_s));
+  year.reset();
+  workspace.reset();
+  EXPECT_EQ(held.take(), QStringList());
+  jet::Workspace::Options impatient;
+  impatient.busyMilliseconds = 1;
+  const auto refused =
+      failureOf([&] { jet::Workspace(impatient).OpenDatabase(native(dataFolder + u"Basic.mdb"_s)); });
+  EXPECT_EQ(refused.first, 3356);
+}
+
+TEST_F(BackupTest, ADamagedDataFileEndsTheBackupButNotTheOneForSupport) {
+  make();
+  QFile file(native(dataFolder + u"dbTax.mdb"_s));
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  file.seek(4096);
+  file.write(QByteArray(4096, '\xff'));
+  file.close();
+  write(dataFolder + u"InOutCash.mdb"_s, "another program's");
+  const auto before = books();
+  const auto [number, text] = failureOf([&] { make(); });
+  EXPECT_EQ(number, 3049);
+  EXPECT_TRUE(text.contains(u"dbTax.mdb"_s)) << text.toStdString();
+  EXPECT_EQ(shelf(), QStringList{"해온판매-20260316-090000.zip"});
+  const backup::BackupDone support = make(Series::Support);
+  EXPECT_THAT(support.damaged, testing::Contains(u"dbTax.mdb"_s));
+  EXPECT_EQ(books(), before);
+  const auto [again, why] = failureOf([&] { restore(support.archive); });
+  EXPECT_EQ(again, 3049) << why.toStdString();
+  EXPECT_EQ(books(), before);
+}
+
+/** A zip as any other program makes it. */
+void makeZip(const QString& path, const QList<std::pair<QByteArray, QByteArray>>& entries) {
+  archive* zip = archive_write_new();
+  archive_write_set_format_zip(zip);
+  ASSERT_EQ(archive_write_open_filename(zip, QFile::encodeName(path).constData()), ARCHIVE_OK);
+  for (const auto& [name, bytes] : entries) {
+    archive_entry* entry = archive_entry_new();
+    archive_entry_set_pathname_utf8(entry, name.constData());
+    archive_entry_set_size(entry, bytes.size());
+    archive_entry_set_filetype(entry, AE_IFREG);
+    archive_write_header(zip, entry);
+    archive_write_data(zip, bytes.constData(), size_t(bytes.size()));
+    archive_entry_free(entry);
+  }
+  archive_write_free(zip);
+}
+
+TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
+  const QString good = native(make().archive);
+  const QByteArray whole = bytesOf(good);
+  const auto before = books();
+  const QString wrong = native(u"C:\\RWGas\\wrong.zip"_s);
+  const auto refused = [&] {
+    const auto [number, text] = failureOf([&] { restore(u"C:\\RWGas\\wrong.zip"_s); });
+    EXPECT_TRUE(text.contains(u"올바른 백업 파일이 아닙니다"_s)) << text.toStdString();
+    EXPECT_EQ(books(), before);
+    EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
+    return number;
+  };
+  for (const qsizetype length : {qsizetype(0), qsizetype(100), whole.size() / 2, whole.size() - 30}) {
+    write(u"C:\\RWGas\\wrong.zip"_s, whole.first(length));
+    EXPECT_EQ(refused(), 321) << "cut to " << length;
+  }
+  for (qsizetype at = 200; at < whole.size() / 2; at += whole.size() / 7) {
+    QByteArray changed = whole;
+    changed[at] = char(changed[at] ^ 0x55);
+    write(u"C:\\RWGas\\wrong.zip"_s, changed);
+    EXPECT_EQ(refused(), 321) << "changed at " << at;
+  }
+  makeZip(wrong, {{"Basic.mdb", "no list"}});
+  EXPECT_EQ(refused(), 321);
+  // A list that fits, and a name that would leave the folder.
+  const QByteArray sum = QCryptographicHash::hash("x", QCryptographicHash::Sha256).toHex();
+  for (const char* name : {"../Basic.mdb", "/tmp/Basic.mdb", "a/../../Basic.mdb", "C:Basic.mdb"}) {
+    makeZip(wrong, {{name, "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 " + name + '\n'}});
+    EXPECT_EQ(refused(), 321) << name;
+  }
+  makeZip(wrong,
+          {{"dbTax.mdb", "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 dbTax.mdb\n"}});
+  const auto [number, text] = failureOf([&] { restore(u"C:\\RWGas\\wrong.zip"_s); });
+  EXPECT_EQ(number, 321);
+  EXPECT_TRUE(text.contains(u"Basic.mdb 가 들어 있지 않아"_s));
+  EXPECT_EQ(books(), before);
+}
+
+/** No file of this process grows beyond so many bytes: what a full disk does to a write. */
+struct SmallFiles {
+  explicit SmallFiles(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    ::getrlimit(RLIMIT_FSIZE, &before);
+    rlimit less = before;
+    less.rlim_cur = bytes;
+    ::setrlimit(RLIMIT_FSIZE, &less);
+  }
+  ~SmallFiles() { ::setrlimit(RLIMIT_FSIZE, &before); }
+  rlimit before;
+};
+
+TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
+  const QString archive = make().archive;
+  pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(11, 0)));
+  const auto before = books(), shelved = contents(native(settings.folder));
+  for (const rlim_t room : {rlim_t(1000), rlim_t(20'000)}) {
+    const SmallFiles full(room);
+    EXPECT_EQ(failureOf([&] { make(); }).first, 61);
+    EXPECT_EQ(failureOf([&] { restore(archive); }).first, 61);
+  }
+  int told = 0;
+  const int steps = [&] {
+    make(Series::Support, [&](const QString&, qint64, qint64) { return ++told > 0; });
+    return told;
+  }();
+  ASSERT_GT(steps, 20);
+  QFile::remove(native(settings.folder) + u"/해온판매-AS-20260316-110000.zip"_s);
+  for (int stop = 1; stop <= steps; stop += 5) {
+    told = 0;
+    EXPECT_THROW(make(Series::Books, [&](const QString&, qint64, qint64) { return ++told < stop; }),
+                 backup::Stopped)
+        << stop;
+    ASSERT_EQ(contents(native(settings.folder)), shelved) << "stopped at " << stop;
+  }
+  EXPECT_EQ(books(), before);
+}
+
+TEST_F(BackupTest, TheServersCopyIsReadBackAndItsCommandMustEndWell) {
+  settings.serverFolder = u"Z:\\백업\\"_s;
+  QDir().mkpath(folder.path() + u"/z"_s);
+  const QString archive = make().archive, sent = folder.path() + u"/sent.zip"_s;
+  settings.serverCommand = u"cp %1 "_s + sent;
+  backup::sendToServer(pc, archive, settings, nobody);
+  EXPECT_EQ(bytesOf(native(u"Z:\\백업\\해온판매-20260316-090000.zip"_s)), bytesOf(native(archive)));
+  EXPECT_EQ(bytesOf(sent), bytesOf(native(archive)));
+  settings.serverCommand = u"sh -c \"echo 연결 실패; exit 3\" %1"_s;
+  QFile::remove(native(u"Z:\\백업\\해온판매-20260316-090000.zip"_s));
+  const auto [number, text] = failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); });
+  EXPECT_EQ(number, 75);
+  EXPECT_TRUE(text.contains(u"연결 실패"_s)) << text.toStdString();
+}
+
+TEST_F(BackupTest, SettingsComeBackAndNonsenseIsHeldWithinBounds) {
+  EXPECT_EQ(backup::readSettings(pc), (backup::Settings{.folder = u"C:\\RWGas\\BackUp\\"_s}));
+  const backup::Settings chosen{u"D:\\보관\\"_s, 7, u"Z:\\s\\"_s, u"scp %1 a:b"_s, false};
+  EXPECT_TRUE(backup::writeSettings(pc, {u" D:\\보관"_s, 7, u"Z:\\s"_s, u"scp %1 a:b "_s, false}));
+  EXPECT_EQ(backup::readSettings(pc), chosen);
+  pc.settings.SaveSetting("Backup", "설정", "보관개수", "0");
+  EXPECT_EQ(backup::readSettings(pc).keep, 1);
+  EXPECT_EQ(backup::dataFolderToPack(pc), installedDataFolder());
+  pc.settings.SaveSetting("Backup", "DB경로", "경로", "D:\\DBS");
+  EXPECT_EQ(backup::dataFolderToPack(pc), "D:\\DBS\\");
+}
+
+TEST_F(BackupTest, ABrokenOffSwapIsFinishedAndNeverThrowsBooksAway) {
+  const pc::Paths& paths = pc.paths;
+  const auto before = books();
+  // Killed while it was filled: rubbish.
+  beginPreparing(paths, dataFolder, pc.clock.now());
+  write(preparedFolder(dataFolder) + u"\\Basic.mdb"_s, "half");
+  beginPreparing(paths, dataFolder, pc.clock.now());
+  EXPECT_EQ(contents(native(preparedFolder(dataFolder))).keys(), QStringList{".unfinished"});
+  dropPrepared(paths, dataFolder);
+  // Killed right after the exchange, before the old books had their dated name.
+  QDir().mkdir(native(preparedFolder(dataFolder)));
+  write(preparedFolder(dataFolder) + u"\\Basic.mdb"_s, "old books");
+  EXPECT_FALSE(finishSwap(paths, dataFolder)) << "the books are there";
+  beginPreparing(paths, dataFolder, pc.clock.now());
+  EXPECT_EQ(bytesOf(native(u"C:\\RWGas\\Dbs-이전-20260316-090000"_s) + u"/Basic.mdb"_s), "old books");
+  dropPrepared(paths, dataFolder);
+  // Killed between two renamings.
+  QDir().rename(native(dataFolder), native(preparedFolder(dataFolder)));
+  ASSERT_FALSE(QFileInfo::exists(native(dataFolder)));
+  session.DbPath = dataFolder;
+  EXPECT_TRUE(prepareDataFolder(session)) << "the next start";
+  EXPECT_EQ(books(), before);
+}
+
+}  // namespace
