@@ -30,6 +30,7 @@ constexpr Chapter chapters[] = {
     {u"FrmPath", folder},
     {u"FrmNetDrive", folder},
     {u"FrmFolderTrouble", u"자료 폴더를 찾지 못할 때"},
+    {u"frmMsgBackUp", u"백업과 되돌리기"},
     {u"frmClient", client},
     {u"frmNewClient", finding},
     {u"frmSearchClient", finding},

@@ -17,7 +17,7 @@ void signIn(Stage& stage, const QString& pictureName) {
 void leave(Stage& stage) {
   stage.awaitWindow(QStringLiteral("LP가스 판매관리"));
   stage.keys({"alt+F4"});
-  stage.awaitWindow(QStringLiteral("프로그램 종료"));
+  stage.awaitWindow(QStringLiteral("데이터 백업"));
   stage.keys({"Return"});
   if (const int status = stage.awaitEnd(); status != 0)
     stage.stop(QStringLiteral("the program ended with status ") + QString::number(status));

@@ -25,10 +25,12 @@ struct MainWindow : testing::Test, tests::TestPc {
   int relinked = 0;
   MainWindow() {
     openBooks();
+    remind(false);
     window = std::make_unique<frmMain>(session, pickers);
     window->relink = [this] { ++relinked; };
     tests::show(*window);
   }
+  void remind(bool on) { pc.settings.SaveSetting("Backup", "설정", "종료알림", on ? "1" : "0"); }
   QAction* entry(const char* name) const {
     auto* action = window->findChild<QAction*>(QString::fromUtf8(name));
     EXPECT_TRUE(action) << name;
@@ -45,7 +47,7 @@ TEST_F(MainWindow, EntriesWithoutTheirFormAreOffAndStockEntriesFollowTheCompany)
   EXPECT_TRUE(entry("MnuUser")->isEnabled());
   EXPECT_TRUE(entry("MnuExit")->isEnabled());
   EXPECT_TRUE(entry("MnuIncome")->isEnabled());
-  EXPECT_FALSE(entry("MnuBack")->isEnabled());
+  EXPECT_TRUE(entry("MnuBack")->isEnabled());
   EXPECT_FALSE(entry("MnuInitStock")->isEnabled());
   EXPECT_FALSE(entry("MnuRemain")->isEnabled()) << "it has its form, but no stock is kept";
   session.StockEnabled = true;
@@ -200,6 +202,71 @@ TEST_F(MainWindow, LeavingAsksAndCountsOnce) {
   prompts.expect("프로그램 종료");
   EXPECT_TRUE(window->close());
   EXPECT_EQ(left, 1);
+}
+
+TEST_F(MainWindow, TheReminderComesBeforeTheEndAndMayBackUp) {
+  int left = 0;
+  QStringList started;
+  window->closed = [&] { ++left; };
+  QFile compressor(pc.paths.native("C:\\RWGas") + "/데이터압축.EXE");
+  ASSERT_TRUE(compressor.open(QIODevice::WriteOnly));
+  pc.process.setStarter([&](const QString& program, const QStringList& arguments, const QString&) {
+    started = QStringList(QFileInfo(program).fileName()) + arguments;
+    return true;
+  });
+  remind(true);
+  const auto closeBy = [&](const char* button) {
+    QTimer::singleShot(0, window.get(), [button] {
+      QWidget* const box = QApplication::activeModalWidget();
+      ASSERT_TRUE(box && box->objectName() == "frmMsgBackUp");
+      QTest::mouseClick(box->findChild<QWidget*>(button), Qt::LeftButton);
+    });
+    return window->close();
+  };
+  EXPECT_FALSE(closeBy("btnResult3"));
+  EXPECT_TRUE(window->isVisible());
+  window->openForm("frmUser");
+  EXPECT_TRUE(closeBy("btnResult0"));
+  EXPECT_EQ(started, (QStringList{"데이터압축.EXE", "SERVERUP"}));
+  EXPECT_EQ(left, 1);
+}
+
+TEST_F(MainWindow, BackupRestoreAndTheImportEndTheProgramAndTheToolsDoNot) {
+  int left = 0;
+  QStringList started;
+  window->closed = [&] { ++left; };
+  for (const char* name : {"데이터압축.EXE", "haeon-import", "CashPad", "RWPlanner.exe"}) {
+    QFile program(pc.paths.native("C:\\RWGas") + '/' + QString::fromUtf8(name));
+    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+  }
+  pc.process.setStarter([&](const QString& program, const QStringList& arguments, const QString&) {
+    started = QStringList(QFileInfo(program).fileName()) + arguments;
+    return true;
+  });
+  for (const char* tool : {"ManyCashInOut", "MnuCashBrief", "MnuInList", "MnuOutList"}) {
+    started.clear();
+    EXPECT_TRUE(window->run(tool));
+    EXPECT_EQ(started, (QStringList{"CashPad", "C:\\rwgas\\dbs"})) << tool;
+  }
+  EXPECT_TRUE(window->run("mnuSchedule"));
+  EXPECT_EQ(started, (QStringList{"RWPlanner.exe", "C:\\rwgas\\dbs"}));
+  EXPECT_EQ(left, 0);
+  prompts.expect("데이터 백업(하드)", false);
+  EXPECT_TRUE(window->run("MnuBack"));
+  EXPECT_EQ(left, 0);
+  const std::pair<const char*, QStringList> ends[] = {{"MnuBack", {"데이터압축.EXE"}},
+                                                      {"mnuDataManagerAS", {"데이터압축.EXE", "AS"}},
+                                                      {"mnuDataManagerDN", {"데이터압축.EXE", "UNZIP"}},
+                                                      {"mnuMoveIn", {"haeon-import", "--window"}}};
+  for (const auto& [name, program] : ends) {
+    session.ClosingForBackup = false;
+    left = 0;
+    window->show();
+    prompts.expect("종료합니다");
+    EXPECT_TRUE(window->run(name));
+    EXPECT_EQ(started, program);
+    EXPECT_EQ(left, 1) << name;
+  }
 }
 
 }  // namespace
