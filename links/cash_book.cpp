@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QHash>
 
-#include "store/data_files.h"
 #include "store/data_access.h"
+#include "store/data_files.h"
 
 using namespace Qt::StringLiterals;
 

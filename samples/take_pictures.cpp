@@ -24,11 +24,17 @@
 #include "app/frmSecurity.h"
 #include "app/frmSplash.h"
 #include "app/start_up.h"
+#include "backup/FrmArchive.h"
+#include "backup/FrmArchiveSettings.h"
+#include "backup/data_folder_alone.h"
+#include "backup/make_backup.h"
 #include "links/FrmSeeIDOptions.h"
 #include "links/FrmSeeIDStanbyList.h"
 #include "links/caller.h"
 #include "links/form_see_id_port.h"
+#include "links/frmMsgBackUp.h"
 #include "master/customers/frmNewClient.h"
+#include "moving/FrmMoveIn.h"
 #include "pc/program_line.h"
 #include "samples/sample_books.h"
 #include "store/settings_table.h"
@@ -225,6 +231,30 @@ void guideAndFirstSteps(frmMain& window, Photographer& photographer) {
   window.activeForm()->close();
 }
 
+/** The data compressor and the import, which work on closed books. */
+void aroundTheBooks(Session& session, Photographer& photographer) {
+  pc::Pc& pc = session.pc;
+  const QString folder = backup::dataFolderToPack(pc);
+  for (int day = 2; day >= 0; --day) {
+    const QDateTime now = pc.clock.now();
+    pc.clock.set(now.addDays(-day));
+    auto held = std::make_unique<backup::DataFolderAlone>(pc.paths, folder);
+    if (held->take().isEmpty())
+      backup::makeBackup(pc, folder, backup::readSettings(pc), backup::Series::Books, std::move(held), {});
+    pc.clock.set(now);
+  }
+  backup::FrmArchive archives(pc, session.prompts);
+  archives.show();
+  archives.beginWithRestore();
+  photographer.take(archives, "FrmArchive");
+  backup::FrmArchiveSettings settings(pc, session.prompts);
+  photographer.take(settings, "FrmArchiveSettings");
+  frmMsgBackUp reminder;
+  photographer.take(reminder, "frmMsgBackUp");
+  moving::FrmMoveIn import(session, "/mnt/old/RWGas/Dbs");
+  photographer.take(import, "FrmMoveIn");
+}
+
 /** A drive that is not there. */
 void lostFolder(Session& session, Photographer& photographer) {
   const QString folder = std::exchange(session.DbPath, "Z:\\DBS\\");
@@ -280,5 +310,6 @@ int main(int argc, char** argv) {
     window.close();
   }
   startUp.shutDown();
+  aroundTheBooks(session, photographer);
   return 0;
 }

@@ -4,12 +4,14 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 
+#include <QCryptographicHash>
 #include <QDirIterator>
 #include <csignal>
 
 #include "backup/data_folder_alone.h"
 #include "backup/make_backup.h"
 #include "backup/restore.h"
+#include "store/data_access.h"
 #include "store/folder_swap.h"
 #include "store/jet/presence.h"
 #include "tests/support.h"
@@ -24,7 +26,7 @@ const backup::Tell nobody;
 
 struct BackupTest : testing::Test, TestPc {
   QString dataFolder = installedDataFolder();
-  backup::Settings settings{.folder = u"C:\\RWGas\\BackUp\\"_s, .keep = 3};
+  backup::Settings settings{u"C:\\RWGas\\BackUp\\"_s, 3, {}, {}, true};
 
   void SetUp() override {
     pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(9, 0)));
@@ -75,7 +77,7 @@ struct BackupTest : testing::Test, TestPc {
   void changeBooks(const QString& name) {
     const jet::Workspace workspace = openWorkspace(session, dataFolder);
     workspace.OpenDatabase(dataFolder + u"Basic.mdb"_s)
-        .Execute(u"Update Client Set Name = '"_s + jet::plainText(name) + u"'"_s);
+        .Execute(u"Update Client Set Name = '"_s + plainText(name) + u"'"_s);
   }
   QString clientName() {
     const jet::Workspace workspace = openWorkspace(session, dataFolder);
@@ -279,7 +281,7 @@ TEST_F(BackupTest, TheServersCopyIsReadBackAndItsCommandMustEndWell) {
 }
 
 TEST_F(BackupTest, SettingsComeBackAndNonsenseIsHeldWithinBounds) {
-  EXPECT_EQ(backup::readSettings(pc), (backup::Settings{.folder = u"C:\\RWGas\\BackUp\\"_s}));
+  EXPECT_EQ(backup::readSettings(pc), (backup::Settings{u"C:\\RWGas\\BackUp\\"_s, 10, {}, {}, true}));
   const backup::Settings chosen{u"D:\\보관\\"_s, 7, u"Z:\\s\\"_s, u"scp %1 a:b"_s, false};
   EXPECT_TRUE(backup::writeSettings(pc, {u" D:\\보관"_s, 7, u"Z:\\s"_s, u"scp %1 a:b "_s, false}));
   EXPECT_EQ(backup::readSettings(pc), chosen);

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include "backup/FrmArchiveSettings.h"
+#include "store/data_access.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
 #include "ui/grid/spread.h"
@@ -31,7 +32,7 @@ struct ArchiveForm : testing::Test, TestPc {
     const jet::Workspace workspace = openWorkspace(session, session.DbPath);
     const jet::Database basic = workspace.OpenDatabase(session.DbPath + u"Basic.mdb"_s);
     basic.Execute(u"Delete * From Client"_s);
-    basic.Execute(u"Insert Into Client(Code, Name) Values(1, '"_s + jet::plainText(name) + u"')"_s);
+    basic.Execute(u"Insert Into Client(Code, Name) Values(1, '"_s + plainText(name) + u"')"_s);
   }
   QString name() const {
     const jet::Workspace workspace = openWorkspace(session, session.DbPath);
