@@ -63,9 +63,9 @@ constexpr CommandEntry commandTable[] = {
 
     {u"", u"MnuContribution", u"보조관리(&A)", Menu},
     {u"MnuContribution", u"MnuUser", u"사용자 등록(&U)", Form, u"frmUser", Relink},
-    {u"MnuContribution", u"MnuYearToYear", u"년도마감작업(&Y)", Later, u"", Ruled},
+    {u"MnuContribution", u"MnuYearToYear", u"년도마감작업(&Y)", CloseYear, u"", Ruled | FormsAway},
     {u"MnuContribution", u"YearError", u"년도마감에러(&E)", YearError},
-    {u"MnuContribution", u"MnuReIwol", u"체적검침 재이월(&W)", Later},
+    {u"MnuContribution", u"MnuReIwol", u"체적검침 재이월(&W)", Recarry, u"", FormsAway},
     {u"MnuContribution", u"ManyCashInOut", u"현금 출납장(&C)", CashBook, u"", Ruled},
     {u"MnuContribution", u"MnuCashBrief", u"현금출납조회(&B)", CashBook},
     {u"MnuContribution", u"MnuInList", u"수입 내역조회(&I)", CashBook},
@@ -79,7 +79,7 @@ constexpr CommandEntry commandTable[] = {
     {u"MnuContribution", u"mnuSchedule", u"스케줄 관리(&L)", Schedule},
     {u"MnuContribution", u"mnuSuKum", u"전자수납처리(&K)", Form, u"FrmSukum"},
     {u"MnuContribution", u"mnuMoveIn", u"이전 자료 가져오기(&M)", MoveIn, u"", Ruled},
-    {u"MnuContribution", u"mnu_changeYear", u"PC년도 변경(&T)", Dialog, u"frmChangeYear"},
+    {u"MnuContribution", u"mnu_changeYear", u"PC년도 변경(&T)", Dialog, u"frmChangeYear", FormsAway},
 
     {u"", u"MnuHelp", u"도움말(&H)", Menu},
     {u"MnuHelp", u"MnuAbout", u"프로그램 정보(&A)", Dialog, u"frmAbout"},

@@ -10,6 +10,8 @@ enum class CommandKind {
   Form,    ///< opens the form named
   Dialog,  ///< opens the form named and waits for it
   InitStock,
+  CloseYear,
+  Recarry,
   YearError,
   Exit,
   SeeIdEnabled,
@@ -31,6 +33,7 @@ struct CommandEntry {
     Relink = 1,      ///< the year files are linked anew first, so that a moved Basic.mdb is followed
     NeedsStock = 2,  ///< on only while the company manages its stock
     Ruled = 4,       ///< a line above the entry
+    FormsAway = 8,   ///< all open forms are closed first: they show another year, or an old copy of its book
   };
 
   const char16_t* menu;     ///< name of the menu it stands in; empty: the menu bar

@@ -6,6 +6,7 @@
 #include "app/FrmNetDrive.h"
 #include "app/FrmPath.h"
 #include "app/frmAbout.h"
+#include "app/frmChangeYear.h"
 #include "app/frmUser.h"
 #include "billing/FrmSukum.h"
 #include "billing/eva_total.h"
@@ -54,6 +55,7 @@ FormEntry briefEntry(const char16_t* name, Brief (*brief)()) {
 const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
     formEntry<frmBank>(u"frmBank"),
+    formEntry<frmChangeYear>(u"frmChangeYear"),
     formEntry<FrmFirstSteps>(u"FrmFirstSteps"),
     formEntry<FrmMargin>(u"FrmMargin"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),

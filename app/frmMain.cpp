@@ -21,6 +21,7 @@
 #include "app/form_ground.h"
 #include "app/form_table.h"
 #include "app/form_tool_icons.h"
+#include "app/form_year_end.h"
 #include "app/frame_rules.h"
 #include "app/move_in_start.h"
 #include "backup/settings.h"
@@ -209,6 +210,7 @@ void frmMain::perform(const CommandEntry& entry) {
   auto* const front = qobject_cast<Form*>(activeForm());
   if (front && !front->commitEditors()) return;
   guard([&] {
+    if (entry.flags & CommandEntry::FormsAway && !closeForms()) return;
     if (entry.flags & CommandEntry::Relink && relink) relink();
     switch (entry.kind) {
       case CommandKind::Form:
@@ -223,6 +225,12 @@ void frmMain::perform(const CommandEntry& entry) {
         break;
       case CommandKind::InitStock:
         initStock(session_, context_.pickers);
+        break;
+      case CommandKind::CloseYear:
+        runYearClose(session_, this);
+        break;
+      case CommandKind::Recarry:
+        runRecarry(session_, this);
         break;
       case CommandKind::YearError:
         rebuildBookRows(session_);
@@ -379,16 +387,16 @@ QWidget* frmMain::activeForm() const {
 
 // --- leaving ----------------------------------------------------------------------------------------------------
 
-bool frmMain::closeChildren() {
+bool frmMain::closeForms() {
   ground_->closeAllSubWindows();
-  return ground_->subWindowList().isEmpty();
+  return ground_->subWindowList().isEmpty();  // a child may hold a cell that it cannot save
 }
 
 bool frmMain::mayLeave() {
   if (silentClose_ || session_.ClosingForBackup) return true;
   if (!backup::readSettings(session_.pc).remindAtExit) return askToLeave(session_);
   return AskBackupOnExit(
-      session_, [this] { return closeChildren(); },
+      session_, [this] { return closeForms(); },
       [this] {
         frmMsgBackUp reminder(this);
         reminder.exec();
@@ -397,7 +405,7 @@ bool frmMain::mayLeave() {
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
-  if (!mayLeave() || !closeChildren()) return event->ignore();
+  if (!mayLeave() || !closeForms()) return event->ignore();
   timer1_->stop();
   standby_.reset();
   guard([&] { caller_->CloseSeeID(); });

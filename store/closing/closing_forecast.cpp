@@ -5,6 +5,7 @@
 #include "store/closing/file_replacement.h"
 #include "store/data_access.h"
 #include "store/data_files.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,7 +66,7 @@ QString closingFolder() {
 }
 
 QString closingFile(int year) {
-  return closingFolder() + QString::number(year) + u"Foundation.mdb"_s;
+  return closingFolder() + yearFileName(QString::number(year));
 }
 
 ClosingForecast forecastClosing(const Session& session) {
@@ -76,7 +77,7 @@ ClosingForecast forecastClosing(const Session& session) {
   const jet::Database year = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
   readDecember(year, forecast);
   forecast.kept = keptBeside(session.pc.paths, closingFile(forecast.year + 1));
-  const QString nextFile = yearFile(session, QString::number(forecast.year + 1));
+  const QString nextFile = yearFile(session, forecast.year + 1);
   forecast.nextStands = isThere(session.pc.paths, nextFile);
   if (!forecast.nextStands) return forecast;
   try {

@@ -6,6 +6,7 @@
 #include "store/long_work.h"
 #include "store/rounding.h"
 #include "store/vb.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,6 +8,7 @@
 #include "store/data_files.h"
 #include "store/long_work.h"
 #include "store/upgrades.h"
+#include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
 
@@ -69,7 +70,7 @@ void Closing::makeFiles() {
     if (year.hasTable(linkName)) year.deleteTable(linkName);
   }
   const QString place = closingFile(year_ + 1);
-  const QString nextFile = yearFile(session_, QString::number(year_ + 1));
+  const QString nextFile = yearFile(session_, year_ + 1);
   copy_ = std::make_unique<FileReplacement>(session_.pc.paths, place);
   copy_->copyFrom(closingFile(year_));
   if (nextFile.compare(place, Qt::CaseInsensitive) != 0) {
@@ -136,7 +137,7 @@ void Closing::carryDecember(const jet::Database& year, const jet::Database& next
 CarryCheck Closing::compare() const {
   const jet::Workspace& workspace = session_.wsMain;
   return checkCarry(workspace.OpenDatabase(yearFile(session_, session_.WorkYear)),
-                    workspace.OpenDatabase(yearFile(session_, QString::number(year_ + 1))));
+                    workspace.OpenDatabase(yearFile(session_, year_ + 1)));
 }
 
 bool ask(Session& session) {

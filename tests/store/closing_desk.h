@@ -2,6 +2,7 @@
 // The last evening of 2026 in a meter book worked by hand, and the closing as somebody sits in front of it.
 #include "store/closing/recarry.h"
 #include "store/closing/year_close.h"
+#include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
 
 namespace tests {
@@ -73,7 +74,7 @@ struct ClosingDesk : MeterDesk {
   }
 
   jet::Database year(int number) {
-    return session.wsMain.OpenDatabase(yearFile(session, QString::number(number)));
+    return session.wsMain.OpenDatabase(yearFile(session, number));
   }
   /** Of a year's file; fields parted by "|", rows by ";". */
   QString rowsIn(int number, const QString& sql) {

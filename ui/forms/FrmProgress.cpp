@@ -51,6 +51,14 @@ bool FrmProgress::step(int done, const QString& note) {
   return !stopped_;
 }
 
+void FrmProgress::begin(const QString& note, int total) {
+  note_->setText(note);
+  bar_->setRange(0, total);
+  bar_->setValue(0);
+  QApplication::processEvents();
+  sinceDrawn_.restart();
+}
+
 /** Esc and the window's own cross ask the work to stop where it may; the window goes when the work ends. */
 void FrmProgress::reject() {
   if (!stop_) return;

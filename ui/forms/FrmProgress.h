@@ -17,8 +17,12 @@ class FrmProgress : public QDialog {
 
   /** Shows the step, not oftener than the eye sees. False once the operator has asked to stop. */
   bool step(int done, const QString& note = {});
+  /** The bar from its start for another piece of the work. */
+  void begin(const QString& note, int total);
 
  protected:
+  QLabel* note() const { return note_; }
+  QProgressBar* bar() const { return bar_; }
   void closeEvent(QCloseEvent* event) override;
   void reject() override;
 
