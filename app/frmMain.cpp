@@ -255,13 +255,13 @@ void frmMain::perform(const CommandEntry& entry) {
                           u"http://"_s + makerAddress() + u"/remote"_s);
         break;
       case CommandKind::BackUp:
-        if (RunBackup(session_, 0, false, [this] { return closeChildren(); })) close();
+        if (RunBackup(session_, 0, false, [this] { return closeForms(); })) close();
         break;
       case CommandKind::BackUpSupport:
-        if (RunBackup(session_, 2, false, [this] { return closeChildren(); })) close();
+        if (RunBackup(session_, 2, false, [this] { return closeForms(); })) close();
         break;
       case CommandKind::BringBack:
-        if (RunRestore(session_, 1, [this] { return closeChildren(); })) close();
+        if (RunRestore(session_, 1, [this] { return closeForms(); })) close();
         break;
       case CommandKind::CashBook:
         RunCashbook(session_, folderForTools(session_), oldCashBook());
@@ -270,7 +270,7 @@ void frmMain::perform(const CommandEntry& entry) {
         RunSchedule(session_, folderForTools(session_), {});
         break;
       case CommandKind::MoveIn:
-        if (startMoveIn(session_, [this] { return closeChildren(); })) close();
+        if (startMoveIn(session_, [this] { return closeForms(); })) close();
         break;
       case CommandKind::Menu:
       case CommandKind::Later:

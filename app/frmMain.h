@@ -60,14 +60,13 @@ class frmMain : public QMainWindow, public Commands {
   bool isBuilt(const QString& form) const;
   /** The caller-identification windows, which hang on the window's own devices and list. */
   bool openCallerWindow(const QString& name);
-  /** False when one of them stays. */
+  /** False when a child stays because it holds a cell that it cannot save. */
   bool closeForms();
   bool showOpen(const QString& base, const QString& page);
   bool hiddenCommand(Qt::KeyboardModifiers keys);
   void testCall();
   void askAndOpenAddress(const QString& question, const QString& address);
   bool guard(const std::function<void()>& work);
-  /** False when a child stays because it holds a cell that it cannot save. */
   bool mayLeave();
 
   Session& session_;

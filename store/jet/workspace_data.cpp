@@ -209,7 +209,12 @@ void WorkspaceData::makeRoom() {
 
 void WorkspaceData::letGo(FilePtr file) {
   prepared_.forget(file);
-  connection_->detach(file->alias());
+  try {
+    connection_->detach(file->alias());
+  } catch (const Error&) {
+    if (groupDepth_ > 0) throw;
+    return reconnect();  // a failure of the disk left it busy; it goes with the connection
+  }
   file->attached = false;
   file->leave();
   std::erase(files_, file);
@@ -262,15 +267,15 @@ void WorkspaceData::tidy() {
   const QStringList linked = linkedPaths();
   const std::vector<FilePtr> others(files_.begin() + 1, files_.end());
   for (const FilePtr& file : others)
-    if (file->handles == 0 && !linked.contains(file->path())) letGo(file);
+    if (file->attached && file->handles == 0 && !linked.contains(file->path())) letGo(file);
 }
 
 /** Our own programs are kept out by the presence lock, other SQLite tools by SQLite's: in this mode it keeps whatever
  *  lock it has had, and a write without a change takes the highest one. */
 void WorkspaceData::lockExclusively(DataFile& file) {
   if (!file.takeAlone()) fail(3045, file.path());
-  connection_->exec("PRAGMA " + file.alias() + ".locking_mode = EXCLUSIVE");
   try {
+    connection_->exec("PRAGMA " + file.alias() + ".locking_mode = EXCLUSIVE");
     connection_->exec("UPDATE " + file.alias() + ".jet_links SET name = name WHERE 0");
   } catch (const Error&) {
     unlock(file);

@@ -11,6 +11,7 @@
 #include "store/long_work.h"
 #include "tests/storm/books.h"
 #include "tests/storm/builder.h"
+#include "tests/storm/closer.h"
 #include "tests/storm/packer.h"
 #include "tests/storm/poster.h"
 #include "tests/storm/sweep.h"
@@ -109,6 +110,7 @@ int runPc(const QStringList& arguments) {
   if (work == u"post") return runPoster(arguments.mid(1));
   if (work == u"read") return runReader(arguments.mid(1));
   if (work == u"build") return runBuilder(arguments.mid(1));
+  if (work == u"close") return runCloser(arguments.mid(1));
   if (work == u"hold") return holdLock(arguments.mid(1));
   if (work == u"work-long") return workLong(arguments.mid(1));
   if (work == u"start-once") return startOnce(arguments.mid(1));

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QRegularExpression>
 #include <memory>
 #include <optional>
 
@@ -49,7 +50,9 @@ QString stateOf(const QString& root) {
   QString state;
   Pc here(root);
   const jet::Workspace workspace = openWorkspace(here.session, here.session.DbPath);
-  for (const QString& name : here.pc.paths.list(here.session.DbPath, u"*.mdb"_s))
+  // What a closing keeps of the file that it replaced lies there once more, under a dated name.
+  for (const QString& name :
+       here.pc.paths.list(here.session.DbPath, u"*.mdb"_s).filter(QRegularExpression(u"^[^-]*$"_s)))
     state += name + u'\n' + tests::dumpOf(workspace.OpenDatabase(here.session.DbPath + name));
   return state;
 }
@@ -179,8 +182,9 @@ class Sweep {
 
   void tell(long place, size_t done, const Pc& here, const QString& what) {
     if (++wrong_ > faultsTold) return;
+    const QString told = (here.prompts.told + here.prompts.failureTexts).join(u" / "_s);
     report(u"fault %1 at %2, step %3: %4 [%5]"_s.arg(name_).arg(place).arg(done).arg(
-        what, (here.prompts.told + here.prompts.failureTexts).join(u" / "_s)));
+        what, QString(told).replace(u'\n', u' ')));
   }
 
   QString root_, name_;

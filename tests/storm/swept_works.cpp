@@ -12,6 +12,7 @@
 #include "store/rate_book.h"
 #include "tests/store/old_books.h"
 #include "tests/storm/builder.h"
+#include "tests/storm/closer.h"
 #include "tests/storm/poster.h"
 #include "tests/storm/sweep.h"
 #include "trade/sale_entry.h"
@@ -100,6 +101,13 @@ struct Collecting : Work {
   CollectionImport import;
 };
 
+struct Closing : Work {
+  explicit Closing(Pc& on) : here(on) {
+    steps_ = {[this] { closeYear(here.session, loneScreen()); }};
+  }
+  Pc& here;
+};
+
 struct Registering : Work {
   explicit Registering(Pc& here) : clients(here.session) {
     clients.loadPage(HouseStyle::Plain);
@@ -157,7 +165,7 @@ void copyFolder(const QString& from, const QString& to) {
 
 const QStringList& sweptWorks() {
   static const QStringList works{u"post"_s,    u"delete"_s, u"read"_s,  u"recalculate"_s, u"build"_s,
-                                 u"collect"_s, u"client"_s, u"start"_s, u"first-start"_s};
+                                 u"collect"_s, u"client"_s, u"close"_s, u"start"_s,       u"first-start"_s};
   return works;
 }
 
@@ -179,6 +187,11 @@ void makeBooksFor(const QString& work, const QString& root) {
     for (const auto& step : reading.steps()) step();
     here.session.dbBasic.Execute(u"Update User Set Security = 1500"_s);
   }
+  if (work == u"close") {
+    writeDecember(here, 5);
+    closeYear(here.session, loneScreen());
+    workInNextYear(here, 1);
+  }
   here.close();
   QFile file(here.pc.paths.native(u"C:\\RWGas\\202603.txt"_s));
   if (!file.open(QIODevice::WriteOnly)) return;
@@ -193,6 +206,7 @@ std::unique_ptr<Work> makeWork(const QString& work, Pc& here) {
   if (work == u"read") return std::make_unique<Reading>(here);
   if (work == u"recalculate") return std::make_unique<Recalculating>(here);
   if (work == u"build") return std::make_unique<Building>(here);
+  if (work == u"close") return std::make_unique<Closing>(here);
   if (work == u"collect") return std::make_unique<Collecting>(here);
   return std::make_unique<Registering>(here);
 }
