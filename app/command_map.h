@@ -2,7 +2,10 @@
 // The whole menu of the main window as one table: what stands where, what it opens, what must happen before.
 #include <QString>
 
+#include <optional>
 #include <span>
+
+#include "store/house_style.h"
 
 /** What choosing an entry does. Later: its work is not part of this program yet, so the entry stays off. */
 enum class CommandKind {
@@ -42,13 +45,13 @@ struct CommandEntry {
   CommandKind kind = CommandKind::Form;
   const char16_t* form = u"";  ///< form name, with the page or side it opens on behind a colon
   unsigned flags = 0;
-  const char16_t* checkKind = u"";  ///< meter book: "1" individual, "2" apartment, "3" multi-household
+  std::optional<HouseStyle> book = {};  ///< the meter book it opens on
 
   QString menuName() const { return QString::fromUtf16(menu); }
   QString objectName() const { return QString::fromUtf16(name); }
   QString text() const { return QString::fromUtf16(caption); }
   QString formName() const { return QString::fromUtf16(form); }
-  QString kindOfBook() const { return QString::fromUtf16(checkKind); }
+  QString kindOfBook() const { return book ? pageOfBook(*book) : QString(); }  ///< "1" to "3"; ''
 };
 
 struct ToolButton {

@@ -55,8 +55,8 @@ std::optional<BankChoice> FormPickers::searchBank() {
 std::optional<PostCodeChoice> FormPickers::searchPostCode(const QString& text) {
   return frmPostCode(session_, text, windowInFront());
 }
-std::optional<BuildingChoice> FormPickers::searchBuilding(int houseStyle) {
-  return chooseBuilding(session_, HouseStyle(houseStyle), windowInFront());
+std::optional<BuildingChoice> FormPickers::searchBuilding(HouseStyle style) {
+  return chooseBuilding(session_, style, windowInFront());
 }
 std::optional<QString> FormPickers::pickDate(const QString& initial) {
   return frmCalendar(session_.prompts, initial, session_.pc.clock.today(), windowInFront());

@@ -20,7 +20,7 @@ class FormPickers : public Pickers {
   std::optional<QString> searchRefill() override;
   std::optional<BankChoice> searchBank() override;
   std::optional<PostCodeChoice> searchPostCode(const QString& text) override;
-  std::optional<BuildingChoice> searchBuilding(int houseStyle) override;
+  std::optional<BuildingChoice> searchBuilding(HouseStyle style) override;
   std::optional<QString> pickDate(const QString& initial) override;
   bool checkPassword() override;
 

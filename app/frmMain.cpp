@@ -215,12 +215,12 @@ void frmMain::perform(const CommandEntry& entry) {
     switch (entry.kind) {
       case CommandKind::Form:
       case CommandKind::Dialog:
-        if (entry.kindOfBook().isEmpty()) {
-          openForm(entry.formName());
-        } else {
+        if (entry.book) {
           // As a page too: a form that stands open turns to the book that was asked for.
-          session_.CheckKind = entry.kindOfBook();
+          session_.CheckKind = *entry.book;
           openForm(entry.formName() + u':' + entry.kindOfBook());
+        } else {
+          openForm(entry.formName());
         }
         break;
       case CommandKind::InitStock:

@@ -100,7 +100,7 @@ const int recalculation = bench::addPair(
        auto beside = std::make_shared<bench::Plain>(*books);
        auto byHand = std::make_shared<PlainBill>(*beside);
        auto sheet = std::make_shared<ReadingSheet>(books->session);
-       sheet->book = MeterBook::Individual;
+       sheet->book = HouseStyle::Individual;
        sheet->month = 3;
        showReadings(*sheet);
        bench::require(sheet->grid.MaxRows() == size, "rows");

@@ -63,7 +63,7 @@ const int slips =
                       Session& session = books->session;
                       bench::require(readRateBook(session), "rates");
                       auto screen = std::make_shared<tests::ReadingRows>();
-                      screen->shownBook = MeterBook::Apartment;
+                      screen->shownBook = HouseStyle::Apartment;
                       for (int row = 1; row <= size; ++row)
                         screen->add(QStringLiteral("101동 %1호").arg(row), QString::number(row),
                                     QString::number(50000 + row * 10));

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "store/date_text.h"
 #include "store/vb.h"
 #include "ui/forms/FrmProgress.h"
 #include "ui/forms/fields.h"
@@ -22,7 +23,7 @@ FrmSukum::FrmSukum(FormContext& context, QWidget* parent)
   setHelp(year_, u"수납파일의 년도를 입력합니다"_s);
   whenLeft(year_, [this] { leaveYear(); });
   QStringList months;
-  for (int month = 1; month <= 12; ++month) months << QString::number(month).rightJustified(2, u'0');
+  for (int month = 1; month <= 12; ++month) months << twoDigits(month);
   month_ = fields.combo("CboMon", u"수납월"_s, months, 4);
   month_->setMaxVisibleItems(12);
   month_->setCurrentIndex(session().pc.clock.today().month() - 1);

@@ -16,14 +16,14 @@ double GetBuildingDelayPay(Session& session, qint64 code) {
   return rs[0].toDouble();
 }
 
-double lateRate(Session& session, MeterBook book, qint64 code) {
-  const double own = book == MeterBook::Apartment ? GetBuildingDelayPay(session, code) : 0;
+double lateRate(Session& session, HouseStyle book, qint64 code) {
+  const double own = book == HouseStyle::Apartment ? GetBuildingDelayPay(session, code) : 0;
   return own != 0 ? own : session.rates.of(book).rate;
 }
 
-LateRates::LateRates(Session& session, MeterBook book, bool buildingsToo)
+LateRates::LateRates(Session& session, HouseStyle book, bool buildingsToo)
     : ofBook_(session.rates.of(book).rate) {
-  if (!buildingsToo || book != MeterBook::Apartment) return;
+  if (!buildingsToo || book != HouseStyle::Apartment) return;
   jet::Recordset rs;
   const QString sql = QStringLiteral(
       "SELECT Client.Code, delaypay "

@@ -11,14 +11,14 @@ struct Session;
  *  after a failed query has been told. */
 double GetBuildingDelayPay(Session& session, qint64 code);
 /** Percent a month for a customer of the book: an apartment's building goes before the apartments' rate. */
-double lateRate(Session& session, MeterBook book, qint64 code);
+double lateRate(Session& session, HouseStyle book, qint64 code);
 
 /** The rates of a whole run, read by one statement at its beginning. */
 class LateRates {
  public:
   /** buildingsToo: an apartment's building goes before the apartments' rate, as in lateRate. A failed query has been
    *  told and leaves the book's rate. */
-  LateRates(Session& session, MeterBook book, bool buildingsToo);
+  LateRates(Session& session, HouseStyle book, bool buildingsToo);
   double of(qint64 code) const;
 
  private:

@@ -22,7 +22,7 @@ const QString everyBuilding = u"전체"_s;
 
 /** What is asked for, read from the answers. */
 struct EvaTotalAsk {
-  MeterBook book;
+  HouseStyle book;
   bool byCollection;       ///< the days of collection count, not the months
   int fromMonth, toMonth;  ///< 1 to 12
   QString fromDay, toDay;  ///< "03/16"; '' is no day
@@ -30,7 +30,7 @@ struct EvaTotalAsk {
   QString dong, ho;        ///< '' for any
 
   EvaTotalAsk(const Session& session, const BriefAsk& ask)
-      : book(MeterBook(ask.page)),
+      : book(HouseStyle(ask.page)),
         byCollection(ask.on(u"chkSuKum"_s)),
         fromMonth(ask.from(u"CboMon"_s).toInt()),
         toMonth(ask.to(u"CboMon"_s).toInt()),
@@ -44,10 +44,6 @@ struct EvaTotalAsk {
     return checkedMonthDay(typed, session.WorkYear, session.pc.clock).mid(5).replace(u'-', u'/');
   }
 };
-
-QString twoDigitMonth(int month) {
-  return QString::number(month).rightJustified(2, u'0');
-}
 
 QString wonText(const QString& won) {
   return vb::Format(won.toDouble(), u"#,##0"_s);
@@ -78,7 +74,7 @@ qint64 fieldWon(const jet::Recordset& rs, const QString& field) {
 
 QString periodText(const EvaTotalAsk& ask) {
   if (ask.byCollection) return ask.fromDay + u" ~ "_s + ask.toDay;
-  const QString from = twoDigitMonth(ask.fromMonth) + u'월', to = twoDigitMonth(ask.toMonth) + u'월';
+  const QString from = twoDigits(ask.fromMonth) + u'월', to = twoDigits(ask.toMonth) + u'월';
   return from == to ? from : from + u" ~ "_s + to;
 }
 
@@ -140,7 +136,7 @@ bool readLines(Session& session, const EvaTotalAsk& ask, BriefRows& into, Sums& 
     const qint64 remain = jet::Value(roundToTen(open, rule)).toLong();
     const int month = int(fieldWon(rs, u"Mon"_s));
     const QString name = readingName(ask.book, text(u"Name"_s), text(u"Dong"_s), text(u"Ho"_s));
-    into.rows.push_back({name, text(u"BDName"_s), twoDigitMonth(month), won(u"Trust"_s), won(u"UsePay"_s),
+    into.rows.push_back({name, text(u"BDName"_s), twoDigits(month), won(u"Trust"_s), won(u"UsePay"_s),
                          won(u"Delay"_s), won(u"Manage"_s), won(u"Pay"_s),
                          text(u"TrustDay"_s).replace(u'-', u'/'), QString::number(remain)});
     lines.push_back({text(u"Name"_s) + u'\n' + text(u"BDName"_s) + u'\n' + name, month, remain});
@@ -153,7 +149,7 @@ bool readLines(Session& session, const EvaTotalAsk& ask, BriefRows& into, Sums& 
 bool readPrev(Session& session, const EvaTotalAsk& ask, Sums& sums) {
   QString before = "Evaporation.Mon = " + QString::number(ask.fromMonth - 1);
   if (ask.byCollection) {
-    const QString month = twoDigitMonth(ask.fromDay.left(2).toInt() - 1);
+    const QString month = twoDigits(ask.fromDay.left(2).toInt() - 1);
     before = collectedBetween(month + "/01", month + "/31");
   }
   jet::Recordset rs;
@@ -179,7 +175,7 @@ void readEvaTotal(Session& session, const BriefAsk& asked, const BriefTeller&, B
 }
 
 QStringList buildings(const Session& session, int book) {
-  if (MeterBook(book) == MeterBook::Individual) return {};
+  if (HouseStyle(book) == HouseStyle::Individual) return {};
   QStringList entries{everyBuilding};
   jet::Recordset rs;
   if (!OpenSnapshot(session.prompts, session.dbYear, rs,
@@ -203,7 +199,7 @@ QStringList formulas(const BriefAsk& asked, const BriefRows& rows) {
           u"잔액= '"_s + won(3) + u'\''};
 }
 
-BriefPage bookPage(MeterBook book) {
+BriefPage bookPage(HouseStyle book) {
   using enum BriefLook;
   return {.key = QString::number(int(book) + 1),
           .tab = bookCaption(book),
@@ -212,7 +208,7 @@ BriefPage bookPage(MeterBook book) {
                       {.header = u"건물"_s,
                        .width = 16,
                        .staged = u"Str02"_s,
-                       .hidden = book == MeterBook::Individual},
+                       .hidden = book == HouseStyle::Individual},
                       {.header = u"월"_s, .width = 6, .look = Centre, .staged = u"Str03"_s},
                       {.header = u"미수금"_s, .look = Money, .staged = u"Lng01"_s},
                       {.header = u"사용금액"_s, .look = Money, .staged = u"Lng02"_s, .sum = true},
@@ -275,7 +271,7 @@ Brief evaTotalBrief() {
                          .label = u"수금일자 기준 검색"_s,
                          .help = u"선택하면 검침월이 아닌 수금일자로 조회합니다"_s,
                          .remembered = &setting::CollectionsShown}},
-          .pages = {bookPage(MeterBook::Individual), bookPage(MeterBook::Apartment),
-                    bookPage(MeterBook::MultiHousehold)},
-          .opensOn = [](const Session& session) { return session.CheckKind; }};
+          .pages = {bookPage(HouseStyle::Individual), bookPage(HouseStyle::Apartment),
+                    bookPage(HouseStyle::MultiHousehold)},
+          .opensOn = [](const Session& session) { return pageOfBook(session.CheckKind); }};
 }

@@ -48,7 +48,7 @@ frmEva::frmEva(FormContext& context, QWidget* parent)
           "사용자 등록화면에서 설정해 주시기 바랍니다"_s,
           u"검침 관리자"_s);
     sheet_.month = sheet_.calendarMonth();
-    showPage(session().CheckKind);
+    tabs_->setCurrentIndex(int(session().CheckKind));
     chooseBook(tabs_->currentIndex());
     showReadingDay();
   });
@@ -66,7 +66,7 @@ void frmEva::showEvent(QShowEvent* event) {
 void frmEva::focusWork() {
   if (sheet_.grid.MaxRows() > 0)
     grid_->setFocus();
-  else if (sheet_.book != MeterBook::Individual)
+  else if (sheet_.book != HouseStyle::Individual)
     cboBDName_->setFocus();
   else
     cboMon_->setFocus();
@@ -84,13 +84,13 @@ void frmEva::closeEvent(QCloseEvent* event) {
 // --- what is shown ------------------------------------------------------------------------------------------
 
 void frmEva::showPage(const QString& page) {
-  tabs_->setCurrentIndex(qBound(0, page.toInt() - 1, tabs_->count() - 1));
+  tabs_->setCurrentIndex(int(bookOfPage(page)));
   if (isVisible()) focusWork();
 }
 
 void frmEva::chooseBook(int index) {
-  sheet_.book = MeterBook(index);
-  const bool individual = sheet_.book == MeterBook::Individual;
+  sheet_.book = HouseStyle(index);
+  const bool individual = sheet_.book == HouseStyle::Individual;
   for (QWidget* const ofBuildings : {static_cast<QWidget*>(cboBDName_), static_cast<QWidget*>(chkOrdSeq_),
                                      static_cast<QWidget*>(chkDongShow_)})
     ofBuildings->setVisible(!individual);
@@ -130,7 +130,7 @@ void frmEva::chooseMonth(int index) {
   command([&] {
     sheet_.month = index;
     btnNoEva_->setEnabled(maySkipReadings(sheet_));
-    if (sheet_.book == MeterBook::Individual)
+    if (sheet_.book == HouseStyle::Individual)
       refresh();
     else
       clearRows();

@@ -25,7 +25,7 @@ class frmEva : public Form, public ReadingScreen {
 
   const SpreadModel& readings() const override { return sheet_.grid; }
   int activeReading() const override { return grid_->activeRow(); }
-  MeterBook book() const override { return sheet_.book; }
+  HouseStyle book() const override { return sheet_.book; }
   int month() const override { return sheet_.month; }
   QString buildingEntry() const override { return sheet_.buildingEntry(); }
 

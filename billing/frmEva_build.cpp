@@ -20,7 +20,7 @@ void frmEva::buildBooks() {
   tabs_->setObjectName(u"TabEva"_s);
   tabs_->setExpanding(false);
   tabs_->setDrawBase(false);
-  for (const MeterBook book : {MeterBook::Individual, MeterBook::Apartment, MeterBook::MultiHousehold})
+  for (const HouseStyle book : {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold})
     tabs_->addTab(bookCaption(book));
   pnlMarks_ = new QLabel(this);
   pnlMarks_->setObjectName(u"PnlMarks"_s);

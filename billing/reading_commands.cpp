@@ -130,7 +130,7 @@ bool clearUse(ReadingSheet& sheet, const ReadingProgress& progress) {
 namespace {
 
 QString skipQuestion(const ReadingSheet& sheet) {
-  const QString building = sheet.book == MeterBook::Individual ? QString() : u' ' + sheet.buildingEntry();
+  const QString building = sheet.book == HouseStyle::Individual ? QString() : u' ' + sheet.buildingEntry();
   return QStringList{
       u"[미검침]이란 당월에 검침을 실시하지 않고,"_s, u"전월의 검침을 그대로 다음달로 넘기는 기능입니다."_s,
       u"만약, 당월검침을 이미 입력한 경우"_s, u"입력한 검침수치가 모두 지워지므로 주의하시기 바랍니다."_s,

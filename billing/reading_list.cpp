@@ -37,7 +37,7 @@ void printReadingList(ReadingSheet& sheet) {
   Session& session = sheet.session;
   std::vector<BriefCells> rows;
   for (int row = 1; !sheet.grid.text(row, EvaCol::Name).isEmpty(); ++row) rows.push_back(listRow(sheet, row));
-  const QString building = sheet.book == MeterBook::Individual
+  const QString building = sheet.book == HouseStyle::Individual
                                ? u"일반주택/식당"_s
                                : BuildingLabelForDong(session, sheet.buildingEntry());
   printBriefRows(

@@ -36,7 +36,7 @@ QString bookTables() {
 
 /** The chosen building, and no household without a room number. */
 QString householdFilter(const ReadingSheet& sheet) {
-  if (sheet.book == MeterBook::Individual) return {};
+  if (sheet.book == HouseStyle::Individual) return {};
   QString filter;
   if (sheet.building > 0) {
     const QString entry = sheet.buildingEntry();
@@ -50,19 +50,12 @@ QString householdFilter(const ReadingSheet& sheet) {
   return filter + " And isnull(Client.Ho) = False ";
 }
 
+/** Of a month's rows and of those of the month before alike: the two are paired by their places. */
 QString readingOrder(const ReadingSheet& sheet) {
-  if (sheet.book == MeterBook::Individual) return " ORDER BY Client.name";
+  if (sheet.book == HouseStyle::Individual) return " ORDER BY Client.name";
   if (!ordersByRoom(sheet)) return " ORDER BY Client.code";
   // A room that is no number is room 0.
   return " ORDER BY Client.BDName, Client.dong, IIF(Client.ho is null, 0, "
-         "IIF(ISNUMERIC(Client.ho),  CLNG(Client.ho), 0) ), Client.code";
-}
-
-/** The same rows in the same order as the book's: the two are paired by their places. */
-QString previousOrder(const ReadingSheet& sheet) {
-  if (sheet.book == MeterBook::Individual) return " ORDER BY Client.Name";
-  if (!ordersByRoom(sheet)) return " ORDER BY Client.code";
-  return " ORDER BY Client.BDName, Client.dong,  IIF(Client.ho is null, 0, "
          "IIF(ISNUMERIC(Client.ho),  CLNG(Client.ho), 0) ), Client.code";
 }
 
@@ -74,7 +67,7 @@ QString bookStatement(const ReadingSheet& sheet) {
 QString previousStatement(const ReadingSheet& sheet) {
   return "Select Evaporation.UseGage AS PrevUseGage FROM Evaporation LEFT JOIN Client "
          "ON Evaporation.ClientCode = Client.Code " +
-         bookWhere(sheet, sheet.month - 1) + householdFilter(sheet) + previousOrder(sheet);
+         bookWhere(sheet, sheet.month - 1) + householdFilter(sheet) + readingOrder(sheet);
 }
 
 std::vector<QString> readingRow(const ReadingSheet& sheet, const jet::Recordset& rs,
@@ -141,7 +134,7 @@ Selection CheckSelection(ReadingSheet& sheet) {
     sheet.session.prompts.MsgWarn(u"조회/입력할 월을 선택하십시오"_s, readingManager);
     return Selection::NoMonth;
   }
-  if (sheet.book != MeterBook::Individual && sheet.building < 0) {
+  if (sheet.book != HouseStyle::Individual && sheet.building < 0) {
     sheet.session.prompts.MsgWarn(u"조회/입력할 건물을 선택하십시오"_s, readingManager);
     return Selection::NoBuilding;
   }
@@ -151,8 +144,8 @@ Selection CheckSelection(ReadingSheet& sheet) {
 void fillBuildings(ReadingSheet& sheet) {
   sheet.buildings.clear();
   sheet.building = -1;
-  if (sheet.book == MeterBook::Individual) return;
-  sheet.buildings << (sheet.book == MeterBook::Apartment ? u"아파트 전체"_s : u"다가구 전체"_s);
+  if (sheet.book == HouseStyle::Individual) return;
+  sheet.buildings << (sheet.book == HouseStyle::Apartment ? u"아파트 전체"_s : u"다가구 전체"_s);
   const bool blocks = showsBlocks(sheet.session);
   const QString style = QString::number(int(sheet.book));
   jet::Recordset rs;

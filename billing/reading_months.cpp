@@ -1,17 +1,10 @@
 #include "billing/reading_months.h"
 
 #include "billing/reading_sheet.h"
+#include "store/date_text.h"
 #include "store/session.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QString twoDigits(int month) {
-  return QString::number(month).rightJustified(2, u'0');
-}
-
-}  // namespace
 
 QStringList FillMonthList(const pc::Clock& clock) {
   QStringList months{u"기초"_s};

@@ -5,7 +5,7 @@
 #include "store/rate_book.h"
 
 /** The name in the individual book, "101동 203호" in the books of buildings. */
-inline QString readingName(MeterBook book, const QString& name, const QString& dong, const QString& ho) {
-  if (book == MeterBook::Individual) return name;
+inline QString readingName(HouseStyle book, const QString& name, const QString& dong, const QString& ho) {
+  if (book == HouseStyle::Individual) return name;
   return dong + QStringLiteral("동 ") + ho + QStringLiteral("호");
 }

@@ -43,7 +43,7 @@ class ReadingScreen {
   virtual ~ReadingScreen() = default;
   virtual const SpreadModel& readings() const = 0;
   virtual int activeReading() const = 0;  ///< row from 1; 0 when there is none
-  virtual MeterBook book() const = 0;
+  virtual HouseStyle book() const = 0;
   virtual int month() const = 0;              ///< the list index: 0 the opening entry, 1 to 12
   virtual QString buildingEntry() const = 0;  ///< as it stands in CboBDName; '' in the individual book
 };

@@ -1,5 +1,6 @@
 #include "billing/reading_sheet.h"
 
+#include "store/date_text.h"
 #include "store/session.h"
 #include "store/vb.h"
 #include "ui/model/column.h"
@@ -59,7 +60,7 @@ ReadingSheet::ReadingSheet(Session& of) : session(of) {
 
 QString ReadingSheet::monthText() const {
   if (month < 0) return {};
-  return isOpening() ? QStringLiteral("기초") : QString::number(month).rightJustified(2, u'0');
+  return isOpening() ? QStringLiteral("기초") : twoDigits(month);
 }
 
 QString ReadingSheet::buildingEntry() const {
@@ -82,13 +83,13 @@ void ReadingSheet::setNumber(int row, int col, double value) {
   grid.setText(row, col, vb::CStr(value));
 }
 
-QString bookCaption(MeterBook book) {
+QString bookCaption(HouseStyle book) {
   switch (book) {
-    case MeterBook::Apartment:
+    case HouseStyle::Apartment:
       return QStringLiteral("체적아파트");
-    case MeterBook::MultiHousehold:
+    case HouseStyle::MultiHousehold:
       return QStringLiteral("체적다가구");
-    case MeterBook::Individual:
+    case HouseStyle::Individual:
       break;
   }
   return QStringLiteral("체적일반");

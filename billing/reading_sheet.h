@@ -15,7 +15,7 @@ struct ReadingSheet {
 
   Session& session;
   SpreadModel grid;  ///< SpEva, columns as EvaCol
-  MeterBook book = MeterBook::Individual;
+  HouseStyle book = HouseStyle::Individual;
   int month = -1;         ///< place in the list of months: 0 the opening entry, 1 to 12; -1 nothing chosen
   QStringList buildings;  ///< entries of CboBDName; the first stands for all
   int building = -1;      ///< place in them; -1 nothing chosen
@@ -39,7 +39,7 @@ struct ReadingSheet {
 };
 
 /** "체적일반", "체적아파트", "체적다가구" */
-QString bookCaption(MeterBook book);
+QString bookCaption(HouseStyle book);
 /** What PnlHelp says about a column. */
 QString readingHelp(int col);
 

@@ -83,7 +83,7 @@ SlipTexts SlipWriter::texts(int row) const {
 
   put(SlipText::Code, code.rightJustified(codePlaces, u'0'));
   put(SlipText::Name, cell(EvaCol::Name));
-  if (screen_.book() == MeterBook::Individual) {
+  if (screen_.book() == HouseStyle::Individual) {
     put(SlipText::Address, cell(EvaCol::Address));
     put(SlipText::AddressLine, cell(EvaCol::Address));
   } else {

@@ -33,7 +33,8 @@ class MeterBooks {
   template <class Work>
   void each(const QDate& day, int month, const Work& work) {
     session_.pc.clock.set(day.startOfDay().addSecs(9 * 3600));
-    for (const MeterBook book : {MeterBook::Individual, MeterBook::Apartment, MeterBook::MultiHousehold}) {
+    for (const HouseStyle book :
+         {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold}) {
       ReadingSheet sheet(session_);
       sheet.book = book;
       sheet.month = month;
@@ -48,7 +49,7 @@ class MeterBooks {
 
   /** Cubic metres: a household cooks, a shop lives on it. */
   void read(ReadingSheet& sheet, int row) {
-    const int used = sheet.book == MeterBook::Individual ? 60 + dice_.roll(90) : 8 + dice_.roll(15);
+    const int used = sheet.book == HouseStyle::Individual ? 60 + dice_.roll(90) : 8 + dice_.roll(15);
     sheet.setNumber(row, EvaCol::UseGage, sheet.number(row, EvaCol::PrevUseGage) + used);
     CalcReadingRow(sheet, row);
     sheet.grid.setText(row, EvaCol::Prnt, QStringLiteral("1"));

@@ -189,7 +189,7 @@ void pickers(FormPickers& pickers, Session& session, Photographer& photographer)
   photographer.takeModal("frmSearchRefill", [&] { pickers.searchRefill(); });
   photographer.takeModal("frmSearchBank", [&] { pickers.searchBank(); });
   photographer.takeModal("frmPostCode", [&] { pickers.searchPostCode("장터"); });
-  photographer.takeModal("frmBDName", [&] { pickers.searchBuilding(1); });
+  photographer.takeModal("frmBDName", [&] { pickers.searchBuilding(HouseStyle::Apartment); });
   photographer.takeModal("frmCalendar", [&] { pickers.pickDate("2026-03-14"); });
   photographer.takeModal("frmSecurity", [&] { pickers.checkPassword(); });
 }

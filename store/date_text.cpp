@@ -2,6 +2,10 @@
 
 #include "store/vb.h"
 
+QString twoDigits(int number) {
+  return QString::number(number).rightJustified(2, u'0');
+}
+
 QString checkedDate(const QString& typed, const pc::Clock& clock) {
   const std::optional<QDate> day = vb::CDate(typed, clock.today().year());
   return day ? day->toString(QStringLiteral("yyyy-MM-dd")) : QString();

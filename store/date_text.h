@@ -4,6 +4,8 @@
 
 #include "pc/clock.h"
 
+/** "03": a month or day in its two digits. */
+QString twoDigits(int number);
 /** The date text a typed date stands for; '' when it is no date. */
 QString checkedDate(const QString& typed, const pc::Clock& clock);
 /** The same for a typed month and day ("11-24", "1.2") of a year of four digits. */

@@ -3,10 +3,9 @@
 #include <array>
 #include <cstddef>
 
-struct Session;
+#include "store/house_style.h"
 
-/** Books of the meter: the customers' HouseStyle, and the tab's index less one. */
-enum class MeterBook { Individual = 0, Apartment = 1, MultiHousehold = 2 };
+struct Session;
 
 struct RateBook {
   struct Entry {
@@ -14,7 +13,7 @@ struct RateBook {
     double security = 0;  ///< won a month
   };
   std::array<Entry, 3> books;
-  const Entry& of(MeterBook book) const { return books[size_t(book)]; }
+  const Entry& of(HouseStyle book) const { return books[size_t(book)]; }
 };
 
 /** Reads session.rates from the company's row; Null is 0. The rates of the individual and the multi-household book go

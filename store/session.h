@@ -27,11 +27,11 @@ struct Session {
   QString BasicPath;  ///< Basic.mdb as the links name it
   QString WorkYear;   ///< four digits; the year of the PC clock at start
   QString CurrentPassword;
-  QString DelayCalcFlag;      ///< "1" charge on the one month only, "0" cumulative
-  int AfterDueMethod = 0;     ///< 0 carries this month's delay charge on, 1 carries the bill without it
-  RateBook rates;             ///< read when the meter book opens and when the settings are saved
-  QString CheckKind;          ///< meter book to open: "1" individual, "2" apartment, "3" multi-household
-  bool StockEnabled = false;  ///< postings move LPG and Util
+  QString DelayCalcFlag;   ///< "1" charge on the one month only, "0" cumulative
+  int AfterDueMethod = 0;  ///< 0 carries this month's delay charge on, 1 carries the bill without it
+  RateBook rates;          ///< read when the meter book opens and when the settings are saved
+  HouseStyle CheckKind = HouseStyle::Individual;  ///< meter book to open
+  bool StockEnabled = false;                      ///< postings move LPG and Util
   QString SavedDateFormat;
   bool ClosingForBackup =
       false;  ///< a program that needs the files free was started: the main window closes without a question

@@ -22,7 +22,7 @@ frmHouseStyle::frmHouseStyle(FormContext& context, QWidget* parent)
     : RegisterForm(u"frmHouseStyle"_s, u"아파트/다가구 등록"_s, context.session, parent),
       context_(context),
       buildings_{BuildingRegister(context.session, HouseStyle::Apartment),
-                 BuildingRegister(context.session, HouseStyle::MultiFamily)} {
+                 BuildingRegister(context.session, HouseStyle::MultiHousehold)} {
   buildPage(buildings_[0], pages_[0], "SpApt", u"아파트(&1)"_s);
   buildPage(buildings_[1], pages_[1], "SpMany", u"다가구(&2)"_s);
   withoutDeleteButton();
@@ -163,7 +163,7 @@ void frmHouseStyle::lookUpBuilding() {
     return;
   }
   if (focusWidget() != boxes().name || !buildings().isNew()) return;
-  const auto chosen = context_.pickers.searchBuilding(int(buildings().houseStyle()));
+  const auto chosen = context_.pickers.searchBuilding(buildings().houseStyle());
   activateWindow();
   if (!chosen) return focus(boxes().name);
   boxes().name->setText(chosen->name);

@@ -28,7 +28,7 @@ bool isMoney(const QString& text) {
 
 QString telStatement(const ClientEntry& boxes, const QString& tel) {
   const QString others = " or Tel1 = '" + plainText(tel) + "' or Tel2 = '" + plainText(tel) + "'";
-  return boxes.houseStyle == HouseStyle::Plain
+  return boxes.houseStyle == HouseStyle::Individual
              ? "select * From Client Where Tel = '" + plainText(tel) + "'" + others
              : "Select * From Client Where Tel = '" + plainText(tel) + "'" + others;
 }
@@ -39,16 +39,17 @@ bool telIsTaken(const Session& session, const ClientEntry& boxes, const QString&
   const Lookup answer = lookUpClient(session, telStatement(boxes, tel), hit);
   if (answer == Lookup::Taken) {
     const QString whose = "전화번호 : " + tel + "   이  름 : " + DisplayName(hit);
-    session.prompts.MsgWarn(whose + (boxes.houseStyle == HouseStyle::Plain ? "\n이미 등록되어 있습니다!"
-                                                                           : " 은 이미 등록되어 있습니다!"),
-                            "주소 관리자");
+    session.prompts.MsgWarn(
+        whose + (boxes.houseStyle == HouseStyle::Individual ? "\n이미 등록되어 있습니다!"
+                                                            : " 은 이미 등록되어 있습니다!"),
+        "주소 관리자");
   }
   return answer != Lookup::Free;
 }
 
 /** The statement that finds a namesake or the same household; '' when there is nothing to compare by. */
 QString namesakeStatement(const ClientEntry& boxes) {
-  if (boxes.houseStyle == HouseStyle::Plain) {
+  if (boxes.houseStyle == HouseStyle::Individual) {
     return boxes.name.isEmpty() ? QString()
                                 : "Select * From Client Where Name = '" + plainText(boxes.name) + "'";
   }

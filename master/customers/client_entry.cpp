@@ -84,7 +84,7 @@ ClientEntry readClient(const jet::Recordset& client) {
 }
 
 QString DisplayName(const ClientEntry& client) {
-  if (client.houseStyle == HouseStyle::Plain) return client.name;
+  if (client.houseStyle == HouseStyle::Individual) return client.name;
   const QString block = client.bdName + u' ' + client.dong + QStringLiteral("동");
   return client.ho.isEmpty() ? block : block + u' ' + client.ho + QStringLiteral("호");
 }

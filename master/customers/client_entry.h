@@ -3,9 +3,9 @@
 #include <QString>
 
 #include "master/registers/row_change.h"
+#include "store/house_style.h"
 
 /** How a customer lives; also the number of its page in the register. */
-enum class HouseStyle { Plain = 0, Apartment = 1, MultiFamily = 2 };
 
 enum class PayWay { Visit = 1, Giro = 2, Transfer = 3 };
 
@@ -29,7 +29,7 @@ enum class ClientBox {
 /** Texts as typed; money may carry its thousands commas. A new entry has code 0. */
 struct ClientEntry {
   qint64 code = 0;
-  HouseStyle houseStyle = HouseStyle::Plain;
+  HouseStyle houseStyle = HouseStyle::Individual;
   QString name, uname;
   QString tel, tel1, tel2;
   QString postCode, address;

@@ -20,7 +20,7 @@ bool lookUpRegulator(Pickers& pickers, ClientEntry& boxes) {
 }
 
 bool lookUpBuilding(Pickers& pickers, ClientEntry& boxes) {
-  const auto block = pickers.searchBuilding(int(boxes.houseStyle));
+  const auto block = pickers.searchBuilding(boxes.houseStyle);
   if (!block) return false;
   boxes.bdName = block->name;
   boxes.dong = block->dong;

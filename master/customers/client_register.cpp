@@ -29,9 +29,9 @@ QString pageStatement(HouseStyle page) {
   switch (page) {
     case HouseStyle::Apartment:
       return "Select * From Client Where HouseStyle = 1 Order By BDname, code";
-    case HouseStyle::MultiFamily:
+    case HouseStyle::MultiHousehold:
       return "Select * From Client Where HouseStyle = 2 Order By BDName, code";
-    case HouseStyle::Plain:
+    case HouseStyle::Individual:
       break;
   }
   return "Select * From Client Where HouseStyle = 0 Order By Name";
@@ -39,7 +39,8 @@ QString pageStatement(HouseStyle page) {
 
 /** The fields behind a list's columns, in their order. */
 QStringList listFields(HouseStyle page) {
-  if (page == HouseStyle::Plain) return {"Name", "Tel", "GasInit", "UtilInit", "Memo", "AppDate", "Code"};
+  if (page == HouseStyle::Individual)
+    return {"Name", "Tel", "GasInit", "UtilInit", "Memo", "AppDate", "Code"};
   return {"BDName", "Dong", "Ho", "GasInit", "UtilInit", "Tel", "Code"};
 }
 
@@ -78,9 +79,9 @@ void removeSales(const Session& session, qint64 code) {
 }  // namespace
 
 ClientRegister::ClientRegister(Session& session) : session_(session) {
-  list(HouseStyle::Plain).setColumns(column::shown(plainColumns()));
+  list(HouseStyle::Individual).setColumns(column::shown(plainColumns()));
   list(HouseStyle::Apartment).setColumns(column::shown(householdColumns("아파트명")));
-  list(HouseStyle::MultiFamily).setColumns(column::shown(householdColumns("다가구명")));
+  list(HouseStyle::MultiHousehold).setColumns(column::shown(householdColumns("다가구명")));
 }
 
 bool ClientRegister::loadPage(HouseStyle page) {

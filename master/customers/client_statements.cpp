@@ -28,7 +28,7 @@ QString insertStatement(const ClientEntry& c) {
   const QString start =
       "Insert into Client(Name, Tel, Tel1, Tel2, PostCode, Address, "
       "Birth, Memo, HouseStyle, GasInit, UtilInit, AppDate, PayWay, ";
-  const bool household = c.houseStyle != HouseStyle::Plain;
+  const bool household = c.houseStyle != HouseStyle::Individual;
   const QString unit = typedNumber(c.volumeUnit);
   if (household && c.volume) {
     return start + "VolumeYesNo, Volume, VolumeUnit, BDName, Dong, Ho) Values(" + commonValues(c) +
@@ -59,7 +59,7 @@ QString updateStatement(const ClientEntry& c, const QString& movedBalances) {
   } else {
     sql += ", VolumeYesNo = False";
   }
-  if (c.houseStyle == HouseStyle::Plain) {
+  if (c.houseStyle == HouseStyle::Individual) {
     sql += ", Serial = '" + plainText(c.serial) + "', " + "Status = '" + plainText(c.status) + "', " +
            "Item = '" + plainText(c.item) + "', " + "Uname = '" + plainText(c.uname) + "'";
   } else {

@@ -40,7 +40,7 @@ ClientBoxes::ClientBoxes(Form& form, Pickers& pickers, QWidget* panel, HouseStyl
   Fields fields(panel, set == Set::Short ? 2 : pairsARow);
   if (set == Set::Short) {
     buildShort(fields);
-  } else if (style == HouseStyle::Plain) {
+  } else if (style == HouseStyle::Individual) {
     buildPlain(fields);
   } else {
     buildHousehold(fields);

@@ -31,9 +31,9 @@ frmClient::frmClient(FormContext& context, QWidget* parent)
   tabs_->setDocumentMode(true);
   body()->addWidget(tabs_, 1);
   buildButtons();
-  buildPage(HouseStyle::Plain, "일반/식당(&1)", "SpClient");
+  buildPage(HouseStyle::Individual, "일반/식당(&1)", "SpClient");
   buildPage(HouseStyle::Apartment, "아파트(&2)", "SpAptClient");
-  buildPage(HouseStyle::MultiFamily, "다가구(&3)", "SpManyClient");
+  buildPage(HouseStyle::MultiHousehold, "다가구(&3)", "SpManyClient");
 
   QList<QWidget*> order;
   for (const Page& page : pages_) order << page.boxes->order();
@@ -88,7 +88,7 @@ void frmClient::buildPage(HouseStyle style, const QString& caption, const char* 
   rows->setContentsMargins(0, 5, 0, 0);
   rows->setSpacing(5);
   page.grid = addSpread(gridName, clients_.list(style), page.sheet);
-  page.grid->setFillColumn(style == HouseStyle::Plain ? 5 : 1);
+  page.grid->setFillColumn(style == HouseStyle::Individual ? 5 : 1);
   rows->addWidget(page.grid, 1);
   QGroupBox* const panel = addGroup({});
   page.boxes = std::make_unique<ClientBoxes>(*this, context_.pickers, panel, style, ClientBoxes::Set::Full);

@@ -16,7 +16,8 @@ frmNewClient::frmNewClient(Session& session, Pickers& pickers, const QString& se
   body()->addWidget(form_);
 
   QGroupBox* const panel = form_->addGroup({});
-  boxes_ = std::make_unique<ClientBoxes>(*form_, pickers, panel, HouseStyle::Plain, ClientBoxes::Set::Short);
+  boxes_ =
+      std::make_unique<ClientBoxes>(*form_, pickers, panel, HouseStyle::Individual, ClientBoxes::Set::Short);
   save_ = form_->addButton("BtnSave", "저장(&S)", [this] { save(); });
   auto* const leave = form_->addButton("BtnExit", "닫기(&X)", [this] { reject(); });
   form_->body()->addWidget(panel);

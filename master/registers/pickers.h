@@ -4,6 +4,8 @@
 
 #include <optional>
 
+#include "store/house_style.h"
+
 enum class ClientSearchMode { General = 0, Volume = 1, All = 2 };
 
 struct ClientChoice {
@@ -51,7 +53,7 @@ class Pickers {
   virtual std::optional<QString> searchRefill() = 0;
   virtual std::optional<BankChoice> searchBank() = 0;
   virtual std::optional<PostCodeChoice> searchPostCode(const QString& text) = 0;
-  virtual std::optional<BuildingChoice> searchBuilding(int houseStyle) = 0;
+  virtual std::optional<BuildingChoice> searchBuilding(HouseStyle style) = 0;
   /** "yyyy-MM-dd" */
   virtual std::optional<QString> pickDate(const QString& initial) = 0;
   /** frmSecurity: True when the company's password was given. */

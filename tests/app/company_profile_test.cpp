@@ -86,8 +86,8 @@ TEST_F(CompanyProfileTest, RatesKeepTheirFractionsSafetyFeesLoseThem) {
   EXPECT_EQ(session.AfterDueMethod, 1);
   EXPECT_TRUE(rules.settings().oneMonthOnly);
   EXPECT_TRUE(rules.settings().withoutDelay);
-  EXPECT_EQ(session.rates.of(MeterBook::Individual).rate, double(2.1f)) << "single precision, widened";
-  EXPECT_EQ(session.rates.of(MeterBook::Apartment).security, 999);
+  EXPECT_EQ(session.rates.of(HouseStyle::Individual).rate, double(2.1f)) << "single precision, widened";
+  EXPECT_EQ(session.rates.of(HouseStyle::Apartment).security, 999);
 }
 
 TEST_F(CompanyProfileTest, PasswordIsComparedByCaseAndAnEmptyBoxDeletesIt) {

@@ -132,10 +132,10 @@ TEST_F(MainWindow, AnotherBooksEntryTurnsTheOpenReadingScreen) {
   ASSERT_TRUE(window->run("MnuIndivisualCheck"));
   auto* const screen = dynamic_cast<ReadingScreen*>(window->activeForm());
   ASSERT_TRUE(screen);
-  EXPECT_EQ(screen->book(), MeterBook::Individual);
+  EXPECT_EQ(screen->book(), HouseStyle::Individual);
   ASSERT_TRUE(window->run("MnuManyCheck"));
   EXPECT_EQ(children(), 1);
-  EXPECT_EQ(screen->book(), MeterBook::MultiHousehold);
+  EXPECT_EQ(screen->book(), HouseStyle::MultiHousehold);
   auto* const status = window->findChild<QLabel*>("PnlStatus");
   window->showStatus("가람식당");
   EXPECT_EQ(status->property("role"), "status");

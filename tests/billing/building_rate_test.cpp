@@ -20,17 +20,17 @@ TEST(BuildingRate, TheBuildingsOwnRateGoesBeforeTheApartments) {
   EXPECT_EQ(GetBuildingDelayPay(pc.session, 2), 0) << "0 is no rate of its own";
   EXPECT_EQ(GetBuildingDelayPay(pc.session, 3), 0) << "in no known building";
   EXPECT_EQ(GetBuildingDelayPay(pc.session, 99), 0);
-  EXPECT_EQ(lateRate(pc.session, MeterBook::Apartment, 1), 3.5);
-  EXPECT_EQ(lateRate(pc.session, MeterBook::Apartment, 2), 1.5);
-  EXPECT_EQ(lateRate(pc.session, MeterBook::Individual, 1), 2.5) << "only the apartments ask the building";
-  EXPECT_EQ(lateRate(pc.session, MeterBook::MultiHousehold, 1), 0.5);
+  EXPECT_EQ(lateRate(pc.session, HouseStyle::Apartment, 1), 3.5);
+  EXPECT_EQ(lateRate(pc.session, HouseStyle::Apartment, 2), 1.5);
+  EXPECT_EQ(lateRate(pc.session, HouseStyle::Individual, 1), 2.5) << "only the apartments ask the building";
+  EXPECT_EQ(lateRate(pc.session, HouseStyle::MultiHousehold, 1), 0.5);
 
-  for (const MeterBook book : {MeterBook::Individual, MeterBook::Apartment, MeterBook::MultiHousehold}) {
+  for (const HouseStyle book : {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold}) {
     const LateRates rates(pc.session, book, true);
     for (const qint64 code : {1, 2, 3, 99})
       EXPECT_EQ(rates.of(code), lateRate(pc.session, book, code)) << code;
   }
-  EXPECT_EQ(LateRates(pc.session, MeterBook::Apartment, false).of(1), 1.5);
+  EXPECT_EQ(LateRates(pc.session, HouseStyle::Apartment, false).of(1), 1.5);
 }
 
 TEST(BuildingRate, BlockEntriesLoseFourCharactersWhateverTheyAre) {

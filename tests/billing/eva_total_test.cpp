@@ -13,7 +13,7 @@ struct ShownReports : pc::Reports {
 
 /** The boxes of the form as a test fills them. */
 struct EvaTotalAsk {
-  MeterBook book = MeterBook::Individual;
+  HouseStyle book = HouseStyle::Individual;
   bool byCollection = false;
   int fromMonth = 1, toMonth = 1;
   QString fromDay = {}, toDay = {};
@@ -35,7 +35,7 @@ struct EvaTotal {
     ask.answers["txtHo"] = {.text = asked.ho};
     return run.load(ask);
   }
-  QStringList buildings(MeterBook book) { return run.brief().questions[0].entries(session, int(book)); }
+  QStringList buildings(HouseStyle book) { return run.brief().questions[0].entries(session, int(book)); }
   SpreadModel& grid() { return run.grid(page); }
   qint64 figure(int at) { return run.rows(page).figures.value(at).toLongLong(); }
   qint64 prev() { return figure(1); }
@@ -130,11 +130,11 @@ TEST_F(EvaTotalTest, BuildingsDongAndHoNarrowTheLinesTheBroughtInSumOnlyTheBuild
   set(a, 4, "Total = 100");
   set(b, 4, "Total = 20");
   set(c, 4, "Total = 3");
-  EXPECT_EQ(total.buildings(MeterBook::Apartment), QStringList({"전체", "새봄", "한빛"}));
-  EXPECT_EQ(total.buildings(MeterBook::MultiHousehold), QStringList({"전체", "다세대"}));
-  EXPECT_EQ(total.buildings(MeterBook::Individual), QStringList());
+  EXPECT_EQ(total.buildings(HouseStyle::Apartment), QStringList({"전체", "새봄", "한빛"}));
+  EXPECT_EQ(total.buildings(HouseStyle::MultiHousehold), QStringList({"전체", "다세대"}));
+  EXPECT_EQ(total.buildings(HouseStyle::Individual), QStringList());
 
-  EvaTotalAsk ask{.book = MeterBook::Apartment, .fromMonth = 5, .toMonth = 5};
+  EvaTotalAsk ask{.book = HouseStyle::Apartment, .fromMonth = 5, .toMonth = 5};
   ASSERT_TRUE(total.refresh(ask));
   EXPECT_EQ(names(), QStringList({"101동 201호", "102동 201호", "101동 301호"}));
   EXPECT_EQ(total.prev(), 123);
@@ -201,7 +201,7 @@ TEST_F(EvaTotalTest, ThePrintStagesTheLinesWithoutTheSum) {
   const int a = customer("가", 1000, 1, "한빛", "101", "201");
   bill(a, 3, 5000, 20000, 100, 1000, 6000, "03/10");
   ASSERT_TRUE(
-      total.refresh({.book = MeterBook::Apartment, .fromMonth = 3, .toMonth = 3, .building = "한빛"}));
+      total.refresh({.book = HouseStyle::Apartment, .fromMonth = 3, .toMonth = 3, .building = "한빛"}));
   total.print();
   const auto staged = [this] {
     const jet::Database print = session.wsMain.OpenDatabase("C:\\RWGas\\Dbs\\Print.mdb");

@@ -190,7 +190,7 @@ TEST(FrmEva, MonthsOpeningEntryAndTheButtonOfNoReadings) {
 TEST(FrmEva, BuildingsBlocksAndRooms) {
   tests::MeterDesk desk;
   fillEstate(desk);
-  desk.session.CheckKind = "2";
+  desk.session.CheckKind = HouseStyle::Apartment;
   Screen screen(desk);
   EXPECT_EQ(screen.control<QTabBar>("TabEva")->currentIndex(), 1);
   EXPECT_EQ(screen.form.readings().MaxRows(), 0) << "a building is chosen first";
@@ -350,7 +350,7 @@ TEST(FrmEva, GiroFormsAreOpenedWhereTheyAreBuilt) {
   desk.basic("Delete * From User");
   desk.pc.prompts.expect("연체료 및 안전관리비에 대한 기본설정이 되어 있지 않습니다!");
   Screen screen(desk);
-  EXPECT_EQ(desk.session.rates.of(MeterBook::Individual).rate, 0);
+  EXPECT_EQ(desk.session.rates.of(HouseStyle::Individual).rate, 0);
   for (const char* name : {"BtnOCR", "BtnOCR4"}) screen.click(name);
   EXPECT_EQ(screen.commands.asked, QStringList({"frmPrtJiroOCR:continuous", "frmPrtJiroOCR:a4"}));
   for (const char* name : {"BtnMicr", "BtnJiro", "BtnOrgJiro", "BtnA4"})

@@ -52,7 +52,7 @@ struct EvaTotalForm : testing::Test, tests::MeterDesk {
 };
 
 TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
-  session.CheckKind = "1";
+  session.CheckKind = HouseStyle::Individual;
   BriefForm form(idle.context, evaTotalBrief());
   tests::show(form);
   EXPECT_EQ(form.findChild<QTabBar*>("TabEvaTotal")->currentIndex(), 0);
@@ -78,7 +78,7 @@ TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
 }
 
 TEST_F(EvaTotalForm, CollectionDaysAreAskedForWhenTickedAndTheTickStays) {
-  session.CheckKind = "2";
+  session.CheckKind = HouseStyle::Apartment;
   {
     BriefForm form(idle.context, evaTotalBrief());
     tests::show(form);
@@ -96,7 +96,7 @@ TEST_F(EvaTotalForm, CollectionDaysAreAskedForWhenTickedAndTheTickStays) {
 }
 
 TEST_F(EvaTotalForm, F10ShowsThePaper) {
-  session.CheckKind = "2";
+  session.CheckKind = HouseStyle::Apartment;
   const QString pictures = qEnvironmentVariable("HAEON_PICTURES");
   const QString file = pictures.isEmpty() ? pc.folder.filePath("total.pdf") : pictures + "/total.pdf";
   printers.askFile = [&](const QString&) { return file; };

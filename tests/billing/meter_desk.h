@@ -66,7 +66,7 @@ struct MeterDesk {
             .arg(month));
   }
 
-  void show(MeterBook book, int month, int building = 0) {
+  void show(HouseStyle book, int month, int building = 0) {
     sheet.book = book;
     sheet.month = month;
     fillBuildings(sheet);

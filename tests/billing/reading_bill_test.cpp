@@ -13,7 +13,7 @@ using tests::MeterDesk;
 struct BillDesk : MeterDesk {
   int code;
   explicit BillDesk(const QDate& today = {2026, 3, 5}) : MeterDesk(today), code(customer("산골식당", 1500)) {
-    show(MeterBook::Individual, today.month());
+    show(HouseStyle::Individual, today.month());
   }
   void row(double before, double now, double arrears, double paid = 0) {
     sheet.setNumber(1, EvaCol::PrevUseGage, before);
@@ -88,20 +88,20 @@ TEST(ReadingBill, ASinglePrecisionRateKeepsItsError) {
   const QStringList late = {"200", "210", "210"};
   for (int rule = 1; rule <= 3; ++rule) {
     desk.payState(rule);
-    for (const auto book : {MeterBook::Individual, MeterBook::MultiHousehold}) {
+    for (const auto book : {HouseStyle::Individual, HouseStyle::MultiHousehold}) {
       desk.sheet.book = book;
       EXPECT_EQ(desk.late(10000), late[rule - 1]) << "209.99999... by rule " << rule;
     }
-    desk.sheet.book = MeterBook::Apartment;
+    desk.sheet.book = HouseStyle::Apartment;
     EXPECT_EQ(desk.late(10000), "210") << "the apartments' rate is double";
   }
 }
 
 TEST(ReadingBill, EachBookHasItsRateAndFeeAndTheBuildingItsOwn) {
   BillDesk desk;
-  desk.sheet.book = MeterBook::MultiHousehold;
+  desk.sheet.book = HouseStyle::MultiHousehold;
   EXPECT_EQ(desk.late(10000) + ' ' + desk.sheet.grid.text(1, EvaCol::Manage), "300 700");
-  desk.sheet.book = MeterBook::Apartment;
+  desk.sheet.book = HouseStyle::Apartment;
   EXPECT_EQ(desk.late(10000) + ' ' + desk.sheet.grid.text(1, EvaCol::Manage), "150 800");
   desk.basic("Insert Into APT(Name, Dong, delaypay) Values('한빛', '101', 5)");
   desk.basic("Update Client Set BDName = '한빛', Dong = '101'");

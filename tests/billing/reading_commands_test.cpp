@@ -14,7 +14,7 @@ using tests::MeterDesk;
 TEST(ReadingCommands, ReaderAndCollectorAreAskedForInTheirColumns) {
   MeterDesk desk;
   const int code = desk.customer("가람", 1500);
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   desk.pc.prompts.expectInput("검침담당", "홍길동");
   askPerson(desk.sheet, 1, EvaCol::UseGage);
   desk.pc.prompts.expectInput("수금담당자를 입력하세요", "김수금");
@@ -31,7 +31,7 @@ TEST(ReadingCommands, ReaderAndCollectorAreAskedForInTheirColumns) {
   askPerson(desk.sheet, 1, EvaCol::Delay);
   desk.run("Delete * From Evaporation Where Mon = 3");
   askPerson(desk.sheet, 1, EvaCol::UseGage);
-  desk.show(MeterBook::Individual, 0);
+  desk.show(HouseStyle::Individual, 0);
   askPerson(desk.sheet, 1, EvaCol::UseGage);  // no box in any of these
 }
 
@@ -39,12 +39,12 @@ TEST(ReadingCommands, AChangedMeterKeepsReadingLessPreviousReading) {
   MeterDesk desk;
   const int code = desk.customer("가람", 1500);
   desk.set(code, 2, "UseGage = 950");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   desk.pc.prompts.expect("당월검침을 먼저 입력하세요.");
   correctUse(desk.sheet, 1);
 
   desk.set(code, 3, "UseGage = 4, UseMuch = -946, UsePay = -1419000");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   const auto correct = [&](const char* use) {
     desk.pc.prompts.expect("이 기능은 계량기 교체시등에 사용됩니다.");
     desk.pc.prompts.expectInput("변경할 사용량을 입력하세요.", use);
@@ -56,7 +56,7 @@ TEST(ReadingCommands, AChangedMeterKeepsReadingLessPreviousReading) {
   EXPECT_EQ(desk.cells(1, {EvaCol::PrevUseGage, EvaCol::UseGage}), "-8.5|4");
   EXPECT_EQ(desk.bill(1), "12.5|18750|0|0|1000|19750");
   EXPECT_EQ(desk.field("Trust", code, 4), "19750");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   EXPECT_EQ(desk.cells(1, {EvaCol::PrevUseGage, EvaCol::UseMuch}), "-8.5|12.5") << "a reload keeps it";
 
   desk.run("Delete * From Evaporation Where Mon = 3");
@@ -77,7 +77,7 @@ TEST(ReadingCommands, RecalculationTakesTheRowsThatWereRead) {
   }
   desk.set(b, 3, "UseGage = 0, UseMuch = 0");
   desk.set(c, 3, "TrustDay = '03/04'");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?", false);
   recalculate(desk.sheet, {});
   EXPECT_EQ(desk.field("Total", a, 3), "0");
@@ -102,7 +102,7 @@ TEST(ReadingCommands, LongWorkStopsBetweenTwoRowsAndSaysSo) {
     const int code = desk.customer(name, 1000);
     desk.set(code, 3, "UseGage = 5, TrustDay = '03/01'");
   }
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?");
   for (int asked = 0; asked < 2; ++asked) desk.pc.prompts.expect("수금일자를 수정 하시겠습니까?", false);
   desk.pc.prompts.expect("3건 중 2건까지 처리하고 중지하였습니다.");
@@ -123,7 +123,7 @@ TEST(ReadingCommands, JanuaryIsRecalculatedOnLastYearsGas) {
                      .arg(code)
                      .arg(code * 1000));
   }
-  desk.show(MeterBook::Individual, 1);
+  desk.show(HouseStyle::Individual, 1);
   desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?");
   recalculate(desk.sheet, {});
   EXPECT_EQ(desk.rows("Select Delay, Total From Evaporation Where Mon = 1"), "20|16020;40|16040");
@@ -135,7 +135,7 @@ TEST(ReadingCommands, ClearingTheUseCountsTheRows) {
   desk.customer("나", 1000);
   desk.customer("다", 1000, 1, "한빛", "101", "1");
   desk.run("Update Evaporation Set UseMuch = 5, UsePay = 9");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   const QString question = "현재 화면내 모든고객에 대해 당월 사용량을 클리어 하시겠습니까?";
   desk.pc.prompts.expect(question, false);
   EXPECT_FALSE(clearUse(desk.sheet, {}));
@@ -155,7 +155,7 @@ TEST(ReadingCommands, AMonthWithoutReadingsRunsOverTheWholeBook) {
     desk.set(code, 2, QString("UseGage = %1, Total = %2").arg(code * 10).arg(code * 1000));
     desk.set(code, 3, "UseGage = 999, UseMuch = 9, UsePay = 8, Delay = 7, Manage = 6, Total = 5");
   }
-  desk.show(MeterBook::Apartment, 3, 2);
+  desk.show(HouseStyle::Apartment, 3, 2);
   ASSERT_EQ(desk.sheet.buildingEntry().toStdString(), "한빛");
   const QString question = "03월 체적아파트 고객 한빛의 검침을 미실시로 처리하시겠습니까?";
   desk.pc.prompts.expect(question, false);
@@ -171,7 +171,7 @@ TEST(ReadingCommands, AMonthWithoutReadingsRunsOverTheWholeBook) {
   EXPECT_EQ(desk.rows("Select ClientCode, Trust From Evaporation Where Mon = 4 Order By ClientCode"),
             "1|1000;2|2000;3|0");
 
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   desk.pc.prompts.expect(
       "입력한 검침수치가 모두 지워지므로 주의하시기 바랍니다.\n03월 체적일반 고객의 검침을", false);
   EXPECT_FALSE(skipReadings(desk.sheet, {}));
@@ -196,7 +196,7 @@ TEST(ReadingList, IsStagedAsItStandsOnTheScreen) {
            "UseGage = 10.5, UseMuch = 2.25, UsePay = 2250, Trust = 5, Delay = 4, Manage = 3, Total = 2260, "
            "Pay = 2, "
            "Prnt = -1, TrustDay = '03/02'");
-  desk.show(MeterBook::Apartment, 3, 1);
+  desk.show(HouseStyle::Apartment, 3, 1);
   desk.sheet.grid.setText(2, EvaCol::UsePay, "77");  // not stored
   printReadingList(desk.sheet);
   const jet::Database print = desk.session.wsMain.OpenDatabase("C:\\RWGas\\Dbs\\Print.mdb");
@@ -218,17 +218,17 @@ TEST(ReadingList, IsStagedAsItStandsOnTheScreen) {
   EXPECT_EQ(report.request.formulas, QStringList({"월= '03월)'", "건물명= '한빛'"}));
 
   desk.pc.pc.settings.SaveSetting(desk.session.AppTitle, "Config", "체적검침동별보기", "1");
-  desk.show(MeterBook::Apartment, 3, 1);
+  desk.show(HouseStyle::Apartment, 3, 1);
   printReadingList(desk.sheet);
   EXPECT_EQ(report.request.formulas.last(), "건물명= '한빛'") << "without its block";
-  desk.show(MeterBook::Apartment, 3, 0);
+  desk.show(HouseStyle::Apartment, 3, 0);
   printReadingList(desk.sheet);
   EXPECT_EQ(report.request.formulas.last(), "건물명= '아파'") << "the same four characters go";
 
   desk.sheet.grid.setText(1, EvaCol::Name, "");
   printReadingList(desk.sheet);
   EXPECT_EQ(staged(), "") << "a row without a name ends the list";
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   printReadingList(desk.sheet);
   EXPECT_EQ(report.request.formulas.last(), "건물명= '일반주택/식당'");
 }

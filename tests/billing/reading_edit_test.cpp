@@ -13,7 +13,7 @@ struct EditDesk : MeterDesk {
   EditDesk() {
     set(code, 2, "UseGage = 100, UsePay = 5000");
     set(code, 3, "Trust = 10000");
-    show(MeterBook::Individual, 3);
+    show(HouseStyle::Individual, 3);
   }
   /** "row,col" of the next cell, or "back". */
   QString edit(int col, const char* typed, bool yes = true, int row = 1) {
@@ -64,11 +64,11 @@ TEST(ReadingEdit, ANoOrARefusedMonthLeavesTheRowAsLoaded) {
   EXPECT_EQ(desk.take(EvaCol::UseGage, "110"), "back");
   EXPECT_EQ(desk.pc.prompts.seen.last(), "체적 관리자|선택된 자료를 수정하시겠습니까?");
   EXPECT_EQ(desk.take(EvaCol::Pay, "0"), "back") << "nothing changed, nothing asked";
-  desk.show(MeterBook::Individual, 2);
+  desk.show(HouseStyle::Individual, 2);
   desk.pc.prompts.expect("연체료에 대한 수정은 현재달만 가능합니다");
   EXPECT_EQ(desk.take(EvaCol::Delay, "5"), "back");
   EXPECT_EQ(desk.sheet.grid.text(1, EvaCol::Delay), "0");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   EXPECT_EQ(desk.bill(1), before);
 }
 
@@ -84,7 +84,7 @@ TEST(ReadingEdit, AFailedStatementPutsTheRowBack) {
 
 TEST(ReadingEdit, TheOpeningEntryComputesNothingAndItsAmountIsArrears) {
   EditDesk desk;
-  desk.show(MeterBook::Individual, 0);
+  desk.show(HouseStyle::Individual, 0);
   EXPECT_EQ(desk.edit(EvaCol::UseGage, "90"), "2,3");
   EXPECT_EQ(desk.bill(1), "0|0|0|0|0|0");
   EXPECT_EQ(desk.edit(EvaCol::Total, "4005"), "1,9");
@@ -130,7 +130,7 @@ TEST(ReadingEdit, PaidLateIsTickedOnlyWhereNothingIsLeft) {
   desk.sheet.setNumber(1, EvaCol::Pay, 0);
   EXPECT_EQ(tick("0", true), "0 -1") << "the screen says 0, the book keeps the tick";
 
-  desk.show(MeterBook::Individual, 0);
+  desk.show(HouseStyle::Individual, 0);
   desk.sheet.setNumber(1, EvaCol::Pay, 5000);
   desk.take(EvaCol::PayDelayed, "1");
   EXPECT_EQ(desk.rows("Select Mon From Evaporation Where paydelayed And ClientCode = 1 Order By Mon"),

@@ -36,39 +36,39 @@ struct Estate : MeterDesk {
 
 TEST(ReadingLoad, BooksBuildingsAndBlocks) {
   Estate desk;
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   EXPECT_EQ(names(desk), "사") << "a customer of no room is one of the individual book";
   EXPECT_EQ(desk.sheet.buildings, QStringList());
-  desk.show(MeterBook::MultiHousehold, 3);
+  desk.show(HouseStyle::MultiHousehold, 3);
   EXPECT_EQ(desk.sheet.buildings, QStringList({"다가구 전체", "달빛"}));
   EXPECT_EQ(names(desk), "1동 1호");
 
-  desk.show(MeterBook::Apartment, 3);
+  desk.show(HouseStyle::Apartment, 3);
   EXPECT_EQ(desk.sheet.buildings, QStringList({"아파트 전체", "별빛", "한빛"}));
   EXPECT_EQ(names(desk), "101동 101호 101동 9호 101동 관리실호 102동 101호 3동 7호")
       << "a household without a room is listed nowhere";
-  desk.show(MeterBook::Apartment, 3, 2);
+  desk.show(HouseStyle::Apartment, 3, 2);
   EXPECT_EQ(names(desk), "101동 101호 101동 9호 101동 관리실호 102동 101호");
 
   setting(desk, "체적검침동별보기", "1");
-  desk.show(MeterBook::Apartment, 3, 2);
+  desk.show(HouseStyle::Apartment, 3, 2);
   EXPECT_EQ(desk.sheet.buildings, QStringList({"아파트 전체", "별빛 3", "한빛 101", "한빛 102"}));
   EXPECT_EQ(names(desk), "101동 101호 101동 9호 101동 관리실호");
-  desk.show(MeterBook::Apartment, 3, 1);
+  desk.show(HouseStyle::Apartment, 3, 1);
   EXPECT_EQ(names(desk), "") << "only a block of three characters finds its households";
 }
 
 TEST(ReadingLoad, RoomsInOrderWhenTheyAreToBe) {
   Estate desk;
   setting(desk, "체적검침정렬방식", "1");
-  desk.show(MeterBook::Apartment, 3);
+  desk.show(HouseStyle::Apartment, 3);
   EXPECT_EQ(names(desk), "3동 7호 101동 관리실호 101동 9호 101동 101호 102동 101호")
       << "by building and block, rooms as numbers, a room of no number as 0";
   MeterDesk individual;
   individual.customer("하늘", 1000);
   individual.customer("가람", 1000);
   setting(individual, "체적검침정렬방식", "1");
-  individual.show(MeterBook::Individual, 3);
+  individual.show(HouseStyle::Individual, 3);
   EXPECT_EQ(names(individual), "가람 하늘");
 }
 
@@ -82,7 +82,7 @@ TEST(ReadingLoad, EveryColumnIsFilled) {
            "Prnt = -1, PrntDay = '03/01', TrustDay = '03/02', paydelayed = True");
   desk.set(code, 2, "UseGage = 100");
   desk.sheet.readingDay = "02/02";
-  desk.show(MeterBook::Apartment, 3);
+  desk.show(HouseStyle::Apartment, 3);
   EXPECT_EQ(desk.sheet.readingDay, "03/05") << "today again";
   const QString row = desk.cells(1, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
   EXPECT_EQ(row, "101동 203호|100|110.5|0|20|30|40|50|1230|60|1|03/02|1|1500|대구||가|3|1|한빛");
@@ -94,26 +94,26 @@ TEST(ReadingLoad, ThePreviousReadingFitsAUseSetByHand) {
   for (const int code : {a, b, c}) desk.set(code, 2, "UseGage = " + QString::number(900 + code));
   desk.set(a, 3, "UseGage = 12.3, UseMuch = 5.1");
   desk.set(b, 3, "UseGage = 0, UseMuch = 5");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   const auto previous = [&] {
     return desk.cells(1, {2}) + ' ' + desk.cells(2, {2}) + ' ' + desk.cells(3, {2});
   };
   EXPECT_EQ(previous(), "7.2 902 903") << "the meter was changed; not read yet; nothing used";
   desk.run("Delete * From Evaporation Where ClientCode = 2 And Mon = 2");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   EXPECT_EQ(previous(), "7.2 903 ") << "rows are paired by their places";
-  desk.show(MeterBook::Individual, 0);
+  desk.show(HouseStyle::Individual, 0);
   EXPECT_EQ(previous(), "  ");
 }
 
 TEST(ReadingLoad, TheIssuedAmountIsOpenInTheOpeningEntryAlone) {
   MeterDesk desk;
   desk.customer("가", 1000);
-  desk.show(MeterBook::Individual, 0);
+  desk.show(HouseStyle::Individual, 0);
   EXPECT_FALSE(desk.sheet.grid.locked(1, EvaCol::Total));
   EXPECT_TRUE(desk.pc.prompts.seen.last().contains("1월부터 2월까지의 검침량으로"));
   EXPECT_TRUE(desk.pc.prompts.seen.last().startsWith("체적 관리자|"));
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   EXPECT_TRUE(desk.sheet.grid.locked(1, EvaCol::Total));
   for (const int col : {EvaCol::Name, EvaCol::PrevUseGage, EvaCol::UseMuch, EvaCol::UsePay, EvaCol::Trust})
     EXPECT_TRUE(desk.sheet.grid.locked(1, col)) << col;
@@ -127,7 +127,7 @@ TEST(ReadingLoad, NothingIsLoadedBeforeMonthAndBuildingAreChosen) {
   EXPECT_EQ(CheckSelection(desk.sheet), Selection::NoMonth);
   desk.sheet.month = 3;
   EXPECT_EQ(CheckSelection(desk.sheet), Selection::Complete);
-  desk.sheet.book = MeterBook::Apartment;
+  desk.sheet.book = HouseStyle::Apartment;
   desk.pc.prompts.expect("조회/입력할 건물을 선택하십시오");
   EXPECT_EQ(CheckSelection(desk.sheet), Selection::NoBuilding);
   EXPECT_TRUE(desk.pc.prompts.seen.last().startsWith("검침 관리자|"));
@@ -136,7 +136,7 @@ TEST(ReadingLoad, NothingIsLoadedBeforeMonthAndBuildingAreChosen) {
 TEST(ReadingLoad, AFailedQueryLeavesTheGridAsItIs) {
   MeterDesk desk;
   desk.customer("가", 1000, 1, "한빛", "101", "1");
-  desk.show(MeterBook::Apartment, 3);
+  desk.show(HouseStyle::Apartment, 3);
   desk.sheet.buildings << "한'빛";
   desk.sheet.building = 2;
   desk.pc.prompts.expect("SELECT Client.Code");
@@ -176,7 +176,7 @@ TEST(ReadingPanel, TellsTheCustomerAndTakesHisReadingDay) {
   desk.customer("나라", 2345);
   desk.basic("Update Client Set Tel = '', Address = Null Where Name = '나라'");
   desk.set(code, 3, "PrntDay = '03/01 ', ChkMan = '홍길동'");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   ReadingPanel panel = enterReadingRow(desk.sheet, 1);
   EXPECT_EQ(panel.status, " 상호/성명:가람   전화:053-1   주소:대구");
   EXPECT_EQ(panel.man, "체적단가 : 1,500원  검침원 : 홍길동  수금원 : 미입력");

@@ -18,7 +18,7 @@ TEST(ReadingSave, TheWholeRowIsWrittenAndItsTotalGoesOneMonthOn) {
   MeterDesk desk;
   const int code = desk.customer("산골식당", 1500);
   desk.set(code, 4, "Total = 77, Trust = 5");
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   for (int col = EvaCol::UseGage; col <= EvaCol::Pay; ++col) desk.sheet.setNumber(1, col, col * 10 + 0.5);
   desk.sheet.grid.setText(1, EvaCol::Prnt, "1");
   desk.sheet.grid.setText(1, EvaCol::PayDelayed, "1");
@@ -36,7 +36,7 @@ TEST(ReadingSave, TheWholeRowIsWrittenAndItsTotalGoesOneMonthOn) {
 TEST(ReadingSave, CarryWithAndWithoutTheMonthsLateCharge) {
   MeterDesk desk;
   const int code = desk.customer("산골식당", 1500);
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   total(desk, 10000, 300, 12300);
   EXPECT_EQ(desk.field("Trust", code, 4), "12300");
   desk.session.AfterDueMethod = 1;
@@ -51,7 +51,7 @@ TEST(ReadingSave, CarryWithAndWithoutTheMonthsLateCharge) {
 TEST(ReadingSave, DecemberCarriesNothing) {
   MeterDesk desk({2026, 12, 10});
   desk.customer("산골식당", 1500);
-  desk.show(MeterBook::Individual, 12);
+  desk.show(HouseStyle::Individual, 12);
   total(desk, 10000, 0, 11000);
   EXPECT_EQ(desk.rows("Select Mon, Trust, Total From Evaporation Where Total <> 0 Or Trust <> 0"),
             "12|0|11000");
@@ -61,7 +61,7 @@ TEST(ReadingSave, TheOpeningRowFillsTheMonthsBeforeThisOneAndCarriesIntoIt) {
   MeterDesk desk;
   desk.customer("산골식당", 1500);
   desk.customer("들꽃분식", 1500);
-  desk.show(MeterBook::Individual, 0);
+  desk.show(HouseStyle::Individual, 0);
   ASSERT_EQ(desk.sheet.grid.text(2, EvaCol::ClientName), "산골식당");
   desk.sheet.setNumber(2, EvaCol::UseGage, 123);
   desk.sheet.setNumber(2, EvaCol::Total, 5000);
@@ -72,7 +72,7 @@ TEST(ReadingSave, TheOpeningRowFillsTheMonthsBeforeThisOneAndCarriesIntoIt) {
 
   MeterDesk january({2026, 1, 10});
   january.customer("산골식당", 1500);
-  january.show(MeterBook::Individual, 0);
+  january.show(HouseStyle::Individual, 0);
   january.sheet.setNumber(1, EvaCol::Total, 900);
   SaveReadingRow(january.sheet, 1);
   EXPECT_EQ(
@@ -84,7 +84,7 @@ TEST(ReadingSave, TheOpeningRowFillsTheMonthsBeforeThisOneAndCarriesIntoIt) {
 TEST(ReadingSave, ARefusedStatementWritesNeither) {
   MeterDesk desk;
   const int code = desk.customer("산골식당", 1500);
-  desk.show(MeterBook::Individual, 3);
+  desk.show(HouseStyle::Individual, 3);
   desk.sheet.setNumber(1, EvaCol::Total, 900);
   desk.sheet.readingDay = "3'4 5";
   EXPECT_THROW(SaveReadingRow(desk.sheet, 1), jet::Error);

@@ -86,7 +86,7 @@ TEST_F(Watched, TheSheetIsMarkedFromBothYearsFilesAndNothingOfTheBillMoves) {
   set(house, 3, "UseGage = 20, UseMuch = 8");
   set(empty, 0, "UseMuch = 1");
   const QString before = rows("Select * From Evaporation Order By ClientCode, Mon");
-  show(MeterBook::Individual, 3);
+  show(HouseStyle::Individual, 3);
   EXPECT_EQ(watched(1), "▲ 많음|7|40");
   EXPECT_EQ(watched(2), "|2|5") << "(2 + 4 + 9) / 3; November lies four months back";
   EXPECT_EQ(watched(3), "□ 미검침|0|") << "the opening row's use of 1 is none";
@@ -100,9 +100,9 @@ TEST_F(Watched, TheSheetIsMarkedFromBothYearsFilesAndNothingOfTheBillMoves) {
       << "before it is taken";
   EXPECT_EQ(rows("Select * From Evaporation Order By ClientCode, Mon"), before);
 
-  show(MeterBook::Individual, 1);
+  show(HouseStyle::Individual, 1);
   EXPECT_EQ(watched(2), "▼ 적음|9|54") << "January looks at last year: (9 + 99) / 2";
-  show(MeterBook::Individual, 0);
+  show(HouseStyle::Individual, 0);
   EXPECT_EQ(countsText(markReadings(sheet)) + useText(sheet, 1), "")
       << "nothing is expected of an opening entry";
 }
@@ -110,7 +110,7 @@ TEST_F(Watched, TheSheetIsMarkedFromBothYearsFilesAndNothingOfTheBillMoves) {
 TEST_F(Watched, AFinishedCellMovesItsMarkAndTheWayGoesRound) {
   set(shop, 2, "UseGage = 100");
   set(house, 2, "UseGage = 100");
-  show(MeterBook::Individual, 3);
+  show(HouseStyle::Individual, 3);
   EXPECT_EQ(nextMarked(sheet, 1, 1), 2);
   EXPECT_EQ(nextMarked(sheet, 1, -1), 3);
   const auto read = [&](int row, const char* text) {

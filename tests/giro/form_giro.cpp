@@ -136,7 +136,7 @@ TEST_F(GiroForms, BothPapersAsPdfReadBack) {
   PcPrinters real(pc);
   session.printers = &real;
   pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", pdfPrinterName());
-  front.window.shownBook = MeterBook::Apartment;
+  front.window.shownBook = HouseStyle::Apartment;
   front.window.entry = "행복아파트";
   front.window.add("101동 203호", "1234", "60590");
   front.window.add("101동 204호", "5", "0");

@@ -109,7 +109,7 @@ TEST_F(JiroOcrTest, ContinuousSlipTextByText) {
 }
 
 TEST_F(JiroOcrTest, A4SheetTextByText) {
-  screen.shownBook = MeterBook::Apartment;
+  screen.shownBook = HouseStyle::Apartment;
   screen.entry = "행복아파트";
   screen.add("101동 203호", "5", "58500");
   const int second = screen.add("101동 204호", "12", "0");
@@ -171,7 +171,7 @@ TEST_F(JiroOcrTest, A4SheetTextByText) {
 }
 
 TEST_F(JiroOcrTest, NothingOnTheA4SheetMeetsOrLeavesIt) {
-  screen.shownBook = MeterBook::MultiHousehold;
+  screen.shownBook = HouseStyle::MultiHousehold;
   screen.entry = "다가구 전체";
   for (int i = 0; i < 2; ++i) {
     const int row = screen.add("1234동 아주 긴 이름의 집 5678호 아주 긴 이름의 집", "1234567", "123456780");
@@ -208,7 +208,7 @@ TEST_F(JiroOcrTest, NothingOnTheA4SheetMeetsOrLeavesIt) {
 
 // Kept: only the A4 paper asks the building for its rate.
 TEST_F(JiroOcrTest, TheBuildingsOwnRateCountsOnA4Alone) {
-  screen.shownBook = MeterBook::Apartment;
+  screen.shownBook = HouseStyle::Apartment;
   screen.entry = "아파트 전체";
   screen.add("101동 203호", "5", "10000");
   session.dbBasic.Execute(
@@ -226,7 +226,7 @@ TEST_F(JiroOcrTest, TheBuildingsOwnRateCountsOnA4Alone) {
 }
 
 TEST_F(JiroOcrTest, TheSlipsOfARunAgreeWhateverIsChangedMeanwhile) {
-  screen.shownBook = MeterBook::Apartment;
+  screen.shownBook = HouseStyle::Apartment;
   for (const char* code : {"5", "6", "7"}) screen.add("101동 203호", code, "10100");
   for (const char* code : {"5", "6"})
     session.dbBasic.Execute(
@@ -286,7 +286,7 @@ TEST_F(JiroOcrTest, TheSlipNamesTheMonthBeforeTheShownOne) {
 }
 
 TEST_F(JiroOcrTest, BuildingLabelFollowsTheList) {
-  screen.shownBook = MeterBook::Apartment;
+  screen.shownBook = HouseStyle::Apartment;
   screen.add("101동 203호", "1", "10000");
   const auto label = [&](const QString& entry, const QString& blocks) {
     screen.entry = entry;

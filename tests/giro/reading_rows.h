@@ -6,7 +6,7 @@ namespace tests {
 
 struct ReadingRows : ReadingScreen {
   SpreadModel rows;
-  MeterBook shownBook = MeterBook::Individual;
+  HouseStyle shownBook = HouseStyle::Individual;
   int shownMonth = 3, active = 1;
   QString entry;
 
@@ -30,7 +30,7 @@ struct ReadingRows : ReadingScreen {
 
   const SpreadModel& readings() const override { return rows; }
   int activeReading() const override { return active; }
-  MeterBook book() const override { return shownBook; }
+  HouseStyle book() const override { return shownBook; }
   int month() const override { return shownMonth; }
   QString buildingEntry() const override { return entry; }
 };

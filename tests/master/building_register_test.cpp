@@ -150,7 +150,7 @@ TEST_F(BuildingRegisterTest, AMeteredBlockComesWithItsHouseholdsAsTheGridStands)
 }
 
 TEST_F(BuildingRegisterTest, ABlockWithoutMetersAndACorridorGoFloorByFloor) {
-  BuildingRegister houses(pc.session, HouseStyle::MultiFamily);
+  BuildingRegister houses(pc.session, HouseStyle::MultiHousehold);
   block[u"Structure"_s] = u"0"_s;
   block[u"Evaporation"_s] = u"0"_s;  // regulator and price left over in the boxes count for nothing
   houses.beginNew();

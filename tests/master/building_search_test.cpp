@@ -26,7 +26,7 @@ TEST(BuildingSearching, listsBuildingsOfAStyleWithTheirBlocks) {
   EXPECT_EQ(block->postCode + block->address + block->dong, "700-010중앙로 1102");
   EXPECT_FALSE(apartments.choice("한빛", "103"));
 
-  BuildingSearch houses(pc.session, HouseStyle::MultiFamily);
+  BuildingSearch houses(pc.session, HouseStyle::MultiHousehold);
   ASSERT_TRUE(houses.loadBuildings());
   EXPECT_EQ(houses.buildings().MaxRows(), 1);
 }

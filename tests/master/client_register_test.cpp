@@ -9,7 +9,7 @@ class ClientRegistering : public ::testing::Test {
  protected:
   void SetUp() override {
     pc.openBooks();
-    clients.loadPage(HouseStyle::Plain);
+    clients.loadPage(HouseStyle::Individual);
   }
   ClientEntry plain(const QString& name, const QString& tel = {}) {
     ClientEntry boxes = clients.beginNew();
@@ -65,8 +65,8 @@ TEST_F(ClientRegistering, newPlainCustomerStandsInFileAndList) {
   EXPECT_FALSE(row["VolumeYesNo"].toBool());
   EXPECT_EQ(count(pc.session.dbYear, "Evaporation"), 0);
   ASSERT_EQ(clients.rowOf(saved.code), 1);
-  EXPECT_EQ(clients.list(HouseStyle::Plain).text(1, 1), "김철수");
-  EXPECT_EQ(clients.list(HouseStyle::Plain).text(1, 3), "-12500");
+  EXPECT_EQ(clients.list(HouseStyle::Individual).text(1, 1), "김철수");
+  EXPECT_EQ(clients.list(HouseStyle::Individual).text(1, 3), "-12500");
   EXPECT_TRUE(clients.bottomLine().endsWith("등록고객수 : 1명")) << clients.bottomLine().toStdString();
 }
 
@@ -76,7 +76,7 @@ TEST_F(ClientRegistering, meterCustomersOfEveryPageGetThirteenRows) {
   boxes.pressure = "10";
   boxes.volumeUnit = "2000";
   const ClientSaved first = clients.save(boxes);
-  clients.loadPage(HouseStyle::MultiFamily);
+  clients.loadPage(HouseStyle::MultiHousehold);
   const ClientSaved second = clients.save(household("1203", true));
   for (const ClientSaved& saved : {first, second}) {
     const QString code = QString::number(saved.code);
@@ -88,7 +88,7 @@ TEST_F(ClientRegistering, meterCustomersOfEveryPageGetThirteenRows) {
   EXPECT_EQ(client(second.code)["VolumeUnit"].toLong(), 1500);
   EXPECT_EQ(client(second.code)["HouseStyle"].toLong(), 2);
   EXPECT_EQ(DisplayName(client(second.code)), "한빛 101동 1203호");
-  EXPECT_EQ(clients.list(HouseStyle::MultiFamily).text(1, 3), "1203");
+  EXPECT_EQ(clients.list(HouseStyle::MultiHousehold).text(1, 3), "1203");
 }
 
 TEST_F(ClientRegistering, refusalsSendTheFocusAndWriteNothing) {
@@ -167,7 +167,7 @@ TEST_F(ClientRegistering, changeAsksAndMakesMissingMeterRowsOnly) {
   EXPECT_EQ(client(code)["Status"].toText(), "음식");
   EXPECT_EQ(count(pc.session.dbYear, "Evaporation Where ClientCode = 1"), 13);
   EXPECT_EQ(count(pc.session.dbYear, "Evaporation Where UseGage = 77"), 1);
-  EXPECT_EQ(clients.list(HouseStyle::Plain).text(clients.rowOf(code), 5), "계단 옆");
+  EXPECT_EQ(clients.list(HouseStyle::Individual).text(clients.rowOf(code), 5), "계단 옆");
 
   boxes.volume = false;
   pc.prompts.expect("위와 같이");
@@ -241,8 +241,8 @@ TEST_F(ClientRegistering, anApostropheDropsTheSaveAndLeavesTheBoxesOpen) {
 
 TEST_F(ClientRegistering, listsFollowTheirOrderAndCancelGoesBack) {
   for (const char* name : {"하나", "가람", "나래"}) clients.save(plain(name));
-  clients.loadPage(HouseStyle::Plain);
-  SpreadModel& list = clients.list(HouseStyle::Plain);
+  clients.loadPage(HouseStyle::Individual);
+  SpreadModel& list = clients.list(HouseStyle::Individual);
   EXPECT_EQ(list.text(1, 1) + list.text(2, 1) + list.text(3, 1), "가람나래하나");
   EXPECT_EQ(clients.selectRow(2).name, "나래");
   EXPECT_EQ(clients.beginNew().name, "");

@@ -33,7 +33,7 @@ struct ClientPickers : tests::IdlePickers {
     return place;
   }
   std::optional<VolumeChoice> searchVolume() override { return regulator; }
-  std::optional<BuildingChoice> searchBuilding(int) override { return building; }
+  std::optional<BuildingChoice> searchBuilding(HouseStyle) override { return building; }
   std::optional<QString> pickDate(const QString&) override { return QStringLiteral("2026-03-01"); }
 };
 

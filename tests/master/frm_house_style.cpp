@@ -23,8 +23,8 @@ struct HousePickers : tests::IdlePickers {
   std::optional<PostCodeChoice> searchPostCode(const QString&) override {
     return PostCodeChoice{u"712-010"_s, u"경북 달빛시 장터동"_s, {}};
   }
-  std::optional<BuildingChoice> searchBuilding(int style) override {
-    asked = style;
+  std::optional<BuildingChoice> searchBuilding(HouseStyle style) override {
+    asked = int(style);
     return BuildingChoice{u"달빛아파트"_s, u"101"_s, u"712-010"_s, u"경북 달빛시 장터동 7"_s};
   }
   int asked = -1;

@@ -294,7 +294,7 @@ TEST_F(RegistersOnTwoPcs, WhatHappensWhileTheOperatorIsAskedCountsToo) {
 
 TEST_F(RegistersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
   ClientRegister clients(here.session);
-  clients.loadPage(HouseStyle::Plain);
+  clients.loadPage(HouseStyle::Individual);
   ClientEntry boxes = clients.selectRow(1);
   there->run(u"Update Client Set GasInit = GasInit + 38000, LastDate = '2026-06-15', Address = '중앙로 9'"_s);
   boxes.memo = u"계단"_s;
@@ -304,7 +304,7 @@ TEST_F(RegistersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
   EXPECT_EQ(stored(u"GasInit From Client"_s), u"50500"_s);
   EXPECT_EQ(stored(u"Address From Client"_s), u"중앙로 9"_s);
   EXPECT_EQ(stored(u"Memo From Client"_s), u"계단"_s);
-  EXPECT_EQ(clients.list(HouseStyle::Plain).text(1, 3), u"50500"_s);
+  EXPECT_EQ(clients.list(HouseStyle::Individual).text(1, 3), u"50500"_s);
 
   boxes = clients.selectRow(1);
   there->run(u"Update Client Set GasInit = GasInit - 500"_s);
@@ -322,7 +322,7 @@ TEST_F(RegistersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
 
 TEST_F(RegistersOnTwoPcs, ACustomerDeletedElsewhereBecomesANewEntryAndAMovedOneIsNotDeleted) {
   ClientRegister clients(here.session);
-  clients.loadPage(HouseStyle::Plain);
+  clients.loadPage(HouseStyle::Individual);
   ClientEntry boxes = clients.selectRow(1);
   there->run(u"Update Client Set GasInit = GasInit + 38000"_s);
   here.prompts.expect(u"선택된 고객자료를 삭제하시겠습니까?"_s);
@@ -336,7 +336,7 @@ TEST_F(RegistersOnTwoPcs, ACustomerDeletedElsewhereBecomesANewEntryAndAMovedOneI
   here.prompts.expect(u"입력한 내용은 칸에 남아 있습니다."_s);
   EXPECT_FALSE(clients.save(boxes).done);
   EXPECT_TRUE(clients.isNew());
-  EXPECT_EQ(clients.list(HouseStyle::Plain).MaxRows(), 0);
+  EXPECT_EQ(clients.list(HouseStyle::Individual).MaxRows(), 0);
   EXPECT_TRUE(clients.save(boxes).done);
   EXPECT_EQ(stored(u"Memo From Client"_s), u"계단"_s);
 }

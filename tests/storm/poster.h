@@ -42,7 +42,7 @@ struct ChosenPickers : Pickers {
   std::optional<QString> searchRefill() override { return {}; }
   std::optional<BankChoice> searchBank() override { return {}; }
   std::optional<PostCodeChoice> searchPostCode(const QString&) override { return {}; }
-  std::optional<BuildingChoice> searchBuilding(int) override { return {}; }
+  std::optional<BuildingChoice> searchBuilding(HouseStyle) override { return {}; }
   std::optional<QString> pickDate(const QString&) override { return {}; }
   bool checkPassword() override { return true; }
 };

@@ -110,7 +110,7 @@ struct Closing : Work {
 
 struct Registering : Work {
   explicit Registering(Pc& here) : clients(here.session) {
-    clients.loadPage(HouseStyle::Plain);
+    clients.loadPage(HouseStyle::Individual);
     steps_ = {[this] {
                 ClientEntry boxes = clients.beginNew();
                 boxes.name = u"국밥집"_s;

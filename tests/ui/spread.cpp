@@ -416,6 +416,13 @@ TEST_F(SpreadTest, RowsComeAndGoUnderTheOpenEditor) {
   EXPECT_TRUE(grid->commitEdit());
   EXPECT_EQ(model.text(3, 2), u"abc"_s) << "the text follows its row";
 
+  tests::type(u"mine"_s);
+  model.setText(3, 3, u"beside"_s);
+  EXPECT_EQ(grid->editingText(), u"mine"_s);
+  model.setText(3, 2, u"the rule's"_s);
+  EXPECT_FALSE(grid->isEditing()) << "a rule wrote into the open cell";
+  EXPECT_EQ(model.text(3, 2), u"the rule's"_s);
+
   tests::type(u"gone"_s);
   model.deleteRow(3);
   EXPECT_FALSE(grid->isEditing());

@@ -47,12 +47,14 @@ bool Spread::run(const std::function<void()>& work) const {
   return true;
 }
 
-void Spread::told(SpreadModel::What what, int row, int) {
+void Spread::told(SpreadModel::What what, int row, int col) {
   using What = SpreadModel::What;
   const int rows = model_.MaxRows();
   const int change = rows - knownRows_;
   knownRows_ = rows;
   if (what == What::Cells) {
+    // A rule that writes into the open cell by itself takes it from the hand.
+    if (isEditing() && !committing_ && row == editRow_ && col == editCol_) closeEditor();
     if (row == 0)
       viewport()->update();
     else
