@@ -3,6 +3,7 @@
 #include "billing/reading_load.h"
 #include "billing/reading_sheet.h"
 #include "store/rate_book.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 namespace tests {
@@ -26,15 +27,7 @@ struct MeterDesk {
   void run(const QString& sql) { session.dbYear.Execute(sql); }
   void basic(const QString& sql) { session.dbBasic.Execute(sql); }
   /** Fields parted by "|", rows by ";". */
-  QString rows(const QString& sql) {
-    QStringList lines;
-    for (jet::Recordset rs = session.dbYear.OpenRecordset(sql); !rs.atEnd(); rs.MoveNext()) {
-      QStringList fields;
-      for (int at = 0; at < rs.fieldNames().size(); ++at) fields << rs[at].toText();
-      lines << fields.join('|');
-    }
-    return lines.join(';');
-  }
+  QString rows(const QString& sql) { return rowsOf(session.dbYear, sql); }
   QString field(const QString& column, int code, int month) {
     return rows(QString("Select %1 From Evaporation Where ClientCode = %2 And Mon = %3")
                     .arg(column, QString::number(code), QString::number(month)));

@@ -5,6 +5,7 @@
 #include "pc/reports.h"
 #include "store/report_staging.h"
 #include "store/year_file.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 namespace tests {
@@ -79,14 +80,7 @@ struct BriefDesk {
   /** Fields of Print: "Str01, Lng01". */
   QStringList staged(const QString& fields) {
     const jet::Database print = session.wsMain.OpenDatabase(printFile());
-    QStringList rows;
-    for (jet::Recordset rs = print.OpenRecordset("Select " + fields + " From Print"); !rs.atEnd();
-         rs.MoveNext()) {
-      QStringList cells;
-      for (int at = 0; at < rs.fieldNames().size(); ++at) cells << rs[at].toText();
-      rows << cells.join('|');
-    }
-    return rows;
+    return linesOf(print, "Select " + fields + " From Print");
   }
 };
 

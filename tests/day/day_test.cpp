@@ -4,30 +4,17 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QTemporaryDir>
 #include <stdexcept>
 
-#include "samples/sample_books.h"
-#include "tests/support.h"
+#include "tests/day/sample_folder.h"
 
 namespace {
 
 TEST(SampleDay, BalancesAndStockAreRightToTheWonAndThePiece) {
-  QTemporaryDir root;
-  qputenv("HAEON_CLOCK", samples::dayClock);
-  {
-    pc::Pc pc(root.path());
-    tests::ScriptedPrompts prompts;
-    samples::makeBooks(pc, prompts);
-  }
+  const tests::SampleFolder books;
   samples::DayReport day;
   try {
-    samples::Stage::Options options;
-    options.programs = HAEON_PROGRAMS;
-    options.pcRoot = root.path();
-    options.clock = samples::dayClock;
-    options.pictures = qEnvironmentVariable("HAEON_PICTURES");
-    samples::Stage stage(options);
+    samples::Stage stage(books.options());
     day = samples::playDay(stage, [](const QString&) {});
   } catch (const std::runtime_error& failure) {
     FAIL() << failure.what();

@@ -5,15 +5,12 @@
 
 #include <QDir>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 
 #include <cstdio>
 #include <stdexcept>
 
-#include "samples/day.h"
 #include "samples/entrance.h"
-#include "samples/sample_books.h"
-#include "tests/support.h"
+#include "tests/day/sample_folder.h"
 
 namespace {
 
@@ -51,23 +48,13 @@ TEST(RealWindowMonkey, AnyKeyIsAnswered) {
                                         : 1;
   const int keys = longRun ? 4000 : 120;
   std::fprintf(stderr, "keys on the real window, seed %u\n", seed);
-  QTemporaryDir root;
+  const tests::SampleFolder books;
   // What a file box writes stays in the test's own folder.
-  qputenv("HOME", root.path().toUtf8());
-  qputenv("HAEON_CLOCK", samples::dayClock);
-  {
-    pc::Pc pc(root.path());
-    tests::ScriptedPrompts prompts;
-    samples::makeBooks(pc, prompts);
-  }
+  qputenv("HOME", books.root.path().toUtf8());
   QStringList last;
   try {
-    samples::Stage::Options options;
-    options.programs = HAEON_PROGRAMS;
-    options.pcRoot = root.path();
-    options.clock = samples::dayClock;
-    options.pictures = qEnvironmentVariable("HAEON_PICTURES");
-    options.pdf = root.filePath("paper.pdf");
+    samples::Stage::Options options = books.options();
+    options.pdf = books.root.filePath("paper.pdf");
     samples::Stage stage(options);
     const auto enter = [&] {
       stage.startProgram();

@@ -4,11 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QProcess>
-#include <QTemporaryDir>
 #include <stdexcept>
 
-#include "samples/sample_books.h"
-#include "tests/support.h"
+#include "tests/day/sample_folder.h"
 
 namespace {
 
@@ -30,23 +28,14 @@ QString pdfText(const QString& file) {
 }
 
 TEST(SampleMonth, ReadingsBecomeSlipsTheBanksFileAndTheNextMonthsArrears) {
-  QTemporaryDir root;
-  {
-    qputenv("HAEON_CLOCK", "2026-03-16 09:00:00");
-    pc::Pc pc(root.path());
-    tests::ScriptedPrompts prompts;
-    samples::makeBooks(pc, prompts);
-  }
-  const QString pdf = root.filePath("slips.pdf");
+  const tests::SampleFolder books("2026-03-16 09:00:00");
+  const QString pdf = books.root.filePath("slips.pdf");
   samples::MonthReport month;
   try {
     month = samples::playMonth(
         [&](const QString& clock) {
-          samples::Stage::Options options;
-          options.programs = HAEON_PROGRAMS;
-          options.pcRoot = root.path();
+          samples::Stage::Options options = books.options();
           options.clock = clock;
-          options.pictures = qEnvironmentVariable("HAEON_PICTURES");
           options.pdf = pdf;
           return options;
         },

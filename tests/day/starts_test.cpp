@@ -1,16 +1,13 @@
 // The program starts and ends, again and again, on a machine that has other work to do.
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <atomic>
 #include <stdexcept>
 #include <thread>
 #include <vector>
 
-#include "samples/day.h"
 #include "samples/entrance.h"
-#include "samples/sample_books.h"
-#include "tests/support.h"
+#include "tests/day/sample_folder.h"
 
 namespace {
 
@@ -37,23 +34,12 @@ class Load {
 };
 
 TEST(Starts, AllComeUpOnALoadedMachine) {
-  QTemporaryDir root;
-  qputenv("HAEON_CLOCK", samples::dayClock);
-  {
-    pc::Pc pc(root.path());
-    tests::ScriptedPrompts prompts;
-    samples::makeBooks(pc, prompts);
-  }
-  samples::Stage::Options options;
-  options.programs = HAEON_PROGRAMS;
-  options.pcRoot = root.path();
-  options.clock = samples::dayClock;
-  options.pictures = qEnvironmentVariable("HAEON_PICTURES");
+  const tests::SampleFolder books;
   const Load load;
   const int starts = qEnvironmentVariable("HAEON_STORM") == u"long" ? 30 : 3;
   for (int start = 1; start <= starts; ++start) {
     try {
-      samples::Stage stage(options);
+      samples::Stage stage(books.options());
       stage.startProgram();
       samples::signIn(stage);
       samples::leave(stage);

@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-#include "store/jet/database.h"
+#include "tests/answers.h"
 
 namespace jet_tests {
 
@@ -33,27 +33,11 @@ inline jet::TableDef link(const QString& name, const QString& path, const QStrin
   return {name, {}, {}, u";DATABASE="_s + path, source.isEmpty() ? name : source};
 }
 
-/** Number of the error that work fails with, 0 when it does not. */
-template <typename Work>
-int failureOf(Work work) {
-  try {
-    work();
-  } catch (const jet::Error& error) {
-    return error.number();
-  }
-  return 0;
-}
+using tests::failureOf;
 
 /** The rows of a query: fields joined by "|", rows by a blank, Null as "-". */
 inline std::string rows(const jet::Database& db, const QString& sql) {
-  jet::Recordset rs = db.OpenRecordset(sql);
-  QStringList all;
-  for (; !rs.atEnd(); rs.MoveNext()) {
-    QStringList one;
-    for (int i = 0; i < rs.fieldNames().size(); ++i) one << (rs[i].isNull() ? u"-"_s : rs[i].toText());
-    all << one.join(u'|');
-  }
-  return all.join(u' ').toStdString();
+  return tests::linesOf(db, sql, u"-"_s).join(u' ').toStdString();
 }
 
 /** Basic.mdb with customers and a year file that is linked to it. */

@@ -6,23 +6,15 @@
 
 #include <QDateTime>
 
-#include "store/jet/error.h"
 #include "store/jet/format_rules.h"
 #include "store/jet/value.h"
+#include "tests/answers.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-template <typename Work>
-int textRuleError(Work work) {
-  try {
-    work();
-  } catch (const jet::Error& error) {
-    return error.number();
-  }
-  return 0;
-}
+using tests::failureOf;
 
 TEST(TextRules, ValTakesWhatNumberAText) {
   EXPECT_EQ(jet::val(u"12kg"), 12);
@@ -84,7 +76,7 @@ TEST(TextRules, TiesGoToTheEvenNumber) {
   EXPECT_EQ(jet::Value("12.5kg").toLong(), 12);
   EXPECT_EQ(jet::roundHalfEven(2.345, 2), 2.34);
   EXPECT_EQ(jet::roundHalfEven(2.675, 2), 2.68);
-  EXPECT_EQ(textRuleError([] { (void)jet::Value(1e19).toLong(); }), 6);
+  EXPECT_EQ(failureOf([] { (void)jet::Value(1e19).toLong(); }), 6);
 }
 
 TEST(TextRules, TextsCompareWithoutCaseAndTrailingBlanks) {
@@ -128,7 +120,7 @@ TEST(TextRules, LikeKnowsFourMarksAndBrackets) {
   EXPECT_TRUE(jet::like(u"", u"[]"));
   EXPECT_FALSE(jet::like(u"abc ", u"abc"));
   EXPECT_TRUE(jet::like(u"aXbXc", u"*x*c"));
-  EXPECT_EQ(textRuleError([] { (void)jet::like(u"a", u"[a"); }), 93);
+  EXPECT_EQ(failureOf([] { (void)jet::like(u"a", u"[a"); }), 93);
 }
 
 TEST(TextRules, AReadyPatternAnswersAsTheRule) {
@@ -144,7 +136,7 @@ TEST(TextRules, AReadyPatternAnswersAsTheRule) {
       EXPECT_EQ(ready.matches(text.toStdString()), jet::like(text, pattern))
           << text.toStdString() << '|' << pattern.toStdString();
   }
-  EXPECT_EQ(textRuleError([] { (void)jet::LikePattern(u"[a"_s).matches("a"); }), 93);
+  EXPECT_EQ(failureOf([] { (void)jet::LikePattern(u"[a"_s).matches("a"); }), 93);
 }
 
 TEST(TextRules, PartsOfATextCountCharacters) {
@@ -153,8 +145,8 @@ TEST(TextRules, PartsOfATextCountCharacters) {
   EXPECT_EQ(jet::midOf(u"홍길동"_s, 2), u"길동"_s);
   EXPECT_EQ(jet::midOf(u"홍길동"_s, 2, 1), u"길"_s);
   EXPECT_EQ(jet::midOf(u"홍길동"_s, 4), u""_s);
-  EXPECT_EQ(textRuleError([] { (void)jet::midOf(u"a"_s, 0); }), 5);
-  EXPECT_EQ(textRuleError([] { (void)jet::leftOf(u"a"_s, -1); }), 5);
+  EXPECT_EQ(failureOf([] { (void)jet::midOf(u"a"_s, 0); }), 5);
+  EXPECT_EQ(failureOf([] { (void)jet::leftOf(u"a"_s, -1); }), 5);
 }
 
 TEST(FormatRules, Numbers) {

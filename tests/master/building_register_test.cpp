@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 
 #include "store/jet/error.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -62,15 +63,7 @@ struct BuildingRegisterTest : testing::Test {
     pc.openBooks({2026, 3, 16});
     buildings.load();
   }
-  QString rows(const QString& sql) {
-    QStringList lines;
-    for (auto rs = pc.session.dbYear.OpenRecordset(sql); !rs.atEnd(); rs.MoveNext()) {
-      QStringList cells;
-      for (int at = 0; at < rs.fieldNames().size(); ++at) cells << rs[at].toText();
-      lines << cells.join(u'|');
-    }
-    return lines.join(u';');
-  }
+  QString rows(const QString& sql) { return tests::rowsOf(pc.session.dbYear, sql); }
   QString blocks() {
     QStringList all;
     for (auto rs = pc.session.dbBasic.OpenRecordset(u"Select * From APT Order By Code"_s); !rs.atEnd();

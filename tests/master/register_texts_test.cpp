@@ -5,6 +5,7 @@
 #include "master/partners/bank_register.h"
 #include "master/partners/refill_register.h"
 #include "master/partners/response_register.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -29,12 +30,7 @@ class RegisterTexts : public testing::Test {
     session.dbBasic = at.session.dbBasic;
     session.dbYear = at.session.dbYear;
   }
-  QString stored(const QString& table) {
-    QStringList all;
-    for (auto rs = session.dbBasic.OpenRecordset(u"Select * From "_s + table); !rs.atEnd(); rs.MoveNext())
-      for (int i = 0; i < rs.fieldNames().size(); ++i) all << rs[i].toText();
-    return all.join(u'|');
-  }
+  QString stored(const QString& table) { return tests::rowsOf(session.dbBasic, u"Select * From "_s + table); }
   /** Every text box in turn, for a new row and for the first one. */
   void tryTexts(RegisterRules& rules, const QString& table, const RegisterFields& good,
                 const QStringList& texts) {

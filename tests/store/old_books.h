@@ -1,6 +1,7 @@
 #pragma once
 // Data files as the first version of the program left them: without the columns that the upgrades add.
 #include "store/year_file.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 namespace tests {
@@ -28,14 +29,7 @@ inline QString dumpOf(const jet::Database& db) {
     out += table.name + u':' + table.connect + u'\n';
     if (table.isLink()) continue;
     for (const auto& field : table.fields) out += u' ' + field.name + QString::number(field.size);
-    for (jet::Recordset rs = db.OpenRecordset(QStringLiteral("Select * From [%1]").arg(table.name));
-         !rs.atEnd(); rs.MoveNext()) {
-      out += u'\n';
-      for (int at = 0; at < rs.fieldNames().size(); ++at) {
-        out += u'|' + (rs[at].isNull() ? QStringLiteral("-") : rs[at].toText());
-      }
-    }
-    out += u'\n';
+    out += u'\n' + linesOf(db, "Select * From [" + table.name + ']', "-").join(u'\n') + u'\n';
   }
   return out;
 }

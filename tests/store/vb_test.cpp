@@ -3,19 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "store/date_text.h"
-#include "store/jet/error.h"
+#include "tests/answers.h"
 
 namespace {
 
-template <typename Work>
-int errorOf(Work work) {
-  try {
-    work();
-  } catch (const jet::Error& error) {
-    return error.number();
-  }
-  return 0;
-}
+using tests::failureOf;
 
 TEST(Vb, WholeNumbersTakeTheEvenOneAndTellWhatDoesNotFit) {
   EXPECT_EQ(vb::CLng(2.5), 2);
@@ -23,16 +15,16 @@ TEST(Vb, WholeNumbersTakeTheEvenOneAndTellWhatDoesNotFit) {
   EXPECT_EQ(vb::CLng(-2.5), -2);
   EXPECT_EQ(vb::CLng(u"1,234.6"), 1235);
   EXPECT_EQ(vb::CInt(32767.4), 32767);
-  EXPECT_EQ(errorOf([] { vb::CInt(32767.5); }), 6);
+  EXPECT_EQ(failureOf([] { vb::CInt(32767.5); }), 6);
   EXPECT_EQ(vb::CLng(-2147483648.5), -2147483648LL);
-  EXPECT_EQ(errorOf([] { vb::CLng(2147483648.0); }), 6);
-  EXPECT_EQ(errorOf([] { vb::CLng(std::numeric_limits<double>::quiet_NaN()); }), 6);
-  EXPECT_EQ(errorOf([] { vb::CLng(u"12kg"); }), 13);
-  EXPECT_EQ(errorOf([] { vb::CDbl(u""); }), 13);
-  EXPECT_EQ(errorOf([] { vb::CDbl(u"1E400"); }), 6);
+  EXPECT_EQ(failureOf([] { vb::CLng(2147483648.0); }), 6);
+  EXPECT_EQ(failureOf([] { vb::CLng(std::numeric_limits<double>::quiet_NaN()); }), 6);
+  EXPECT_EQ(failureOf([] { vb::CLng(u"12kg"); }), 13);
+  EXPECT_EQ(failureOf([] { vb::CDbl(u""); }), 13);
+  EXPECT_EQ(failureOf([] { vb::CDbl(u"1E400"); }), 6);
   EXPECT_EQ(vb::CCur(1.00005), 1.0);
   EXPECT_EQ(vb::CCur(-2.00015), -2.0002);
-  EXPECT_EQ(errorOf([] { vb::CCur(1e15); }), 6);
+  EXPECT_EQ(failureOf([] { vb::CCur(1e15); }), 6);
   EXPECT_EQ(vb::Val(u"12kg"), 12);
 }
 
