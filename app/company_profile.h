@@ -21,7 +21,7 @@ struct BillingSettings {
   QString Security, AptSecurity, ManySecurity;  ///< safety fee, won; fractions are lost
   bool oneMonthOnly = false;                    ///< delay charge on the one month, else cumulative
   bool withoutDelay = false;                    ///< arrears carried without this month's delay charge
-  QString Post1 = QStringLiteral("000"), Post2 = QStringLiteral("999");
+  QString Post1 = "000", Post2 = "999";
   bool Stock = false;
   QString password, passwordAgain;  ///< empty deletes the password
 

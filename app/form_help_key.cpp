@@ -7,6 +7,8 @@
 #include "app/FrmGuide.h"
 #include "app/guide_chapters.h"
 
+using namespace Qt::StringLiterals;
+
 HelpKey::~HelpKey() {
   delete guide_;
 }
@@ -32,11 +34,11 @@ void HelpKey::open() {
 
 /** Its own chapter, else that of the form behind it. */
 QString HelpKey::chapterOf(QWidget* window) const {
-  const bool frame = window && window->objectName() == QStringLiteral("frmMain");
+  const bool frame = window && window->objectName() == u"frmMain"_s;
   QString chapter = window && !frame ? guideChapter(window->objectName()) : QString();
   if (!chapter.isEmpty()) return chapter;
   if (const QWidget* const form = formInFront_()) chapter = guideChapter(form->objectName());
-  return chapter.isEmpty() ? guideChapter(QStringLiteral("frmMain")) : chapter;
+  return chapter.isEmpty() ? guideChapter(u"frmMain"_s) : chapter;
 }
 
 void HelpKey::show(const QString& chapter, const QString& words, QWidget* over) {

@@ -12,7 +12,7 @@ QString makerAddress() {
 }
 
 QString mainWindowTitle() {
-  return u"LP가스 판매관리 - 해온판매!  Ver."_s + QStringLiteral(HAEON_VERSION) + u' ' + makerAddress();
+  return u"LP가스 판매관리 - 해온판매!  Ver."_s + HAEON_VERSION + u' ' + makerAddress();
 }
 
 QString longDate(const QDate& date) {

@@ -121,7 +121,7 @@ void frmSplash::paintEvent(QPaintEvent*) {
   painter.drawText(QRect(34, 34, width() - 68, 30), Qt::AlignLeft | Qt::AlignVCenter, u"해온판매"_s);
   painter.setFont(look::textFont());
   painter.drawText(QRect(34, 68, width() - 68, 24), Qt::AlignLeft | Qt::AlignVCenter,
-                   u"LP가스 판매관리  Ver."_s + QStringLiteral(HAEON_VERSION));
+                   u"LP가스 판매관리  Ver."_s + HAEON_VERSION);
   painter.setPen(look::line);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

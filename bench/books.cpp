@@ -7,6 +7,8 @@
 #include "store/upgrades.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace bench {
 
 void NoPrompts::stop(const QString& text) {
@@ -15,14 +17,14 @@ void NoPrompts::stop(const QString& text) {
 
 Books::Books() {
   pc.clock.set(QDateTime({2026, 3, 16}, {9, 0}));
-  session.AppTitle = QStringLiteral("해온판매");
+  session.AppTitle = u"해온판매"_s;
   session.DbPath = installedDataFolder();
-  session.WorkYear = QStringLiteral("2026");
+  session.WorkYear = u"2026"_s;
   session.StockEnabled = true;
   require(prepareDataFolder(session), "data folder");
   makeYearFile(session, session.WorkYear);
   session.wsMain = openWorkspace(session, session.DbPath);
-  session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
+  session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + u"Basic.mdb"_s);
   require(upgrades::relink(session), "links");
   session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
   session.dbCommon = session.dbBasic;
@@ -44,9 +46,9 @@ void Books::addClients(int count) {
           "Insert Into Client(Name, Tel, Tel1, Tel2, Address, HouseStyle, GasInit, UtilInit, VolumeYesNo, "
           "VolumeUnit) "
           "Values('" +
-          QStringLiteral("고객") + n + "', '053-" + QString::number(200 + code % 700) + "-" +
+          u"고객"_s + n + "', '053-" + QString::number(200 + code % 700) + "-" +
           QString::number(code * 7919 % 10000).rightJustified(4, u'0') + "', '', '', '" +
-          QStringLiteral("경북 달빛시 장터동 ") + n + "', 0, 0, 0, False, 0)");
+          u"경북 달빛시 장터동 "_s + n + "', 0, 0, 0, False, 0)");
     }
   });
 }
@@ -60,7 +62,7 @@ void Books::addSales(const jet::Database& year, int lines, int clients, int year
           "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, Response, SaleName, SaleThing, "
           "SaleUnit, SaleNum, "
           "SaleGubun, Gubun, Income, Trust, DC) Values(0, 0, '" +
-          day + "', " + QString::number(1 + at % clients) + ", '" + QStringLiteral("홍길수") + "', 'LPG', '" +
+          day + "', " + QString::number(1 + at % clients) + ", '" + u"홍길수"_s + "', 'LPG', '" +
           (at % 3 ? "20" : "50") + "', 27000, " + QString::number(1 + at % 3) + ", " +
           QString::number(1 + at % 6) + (at % 5 ? ", False, " : ", True, ") + QString::number(at % 4 * 9000) +
           ", " + QString::number(at % 2 * 1000) + ", 0)");
@@ -77,7 +79,7 @@ void knowTextOrder(sqlite3* db) {
 }
 
 Plain::Plain(const Books& books) {
-  for (const QString& name : {QStringLiteral("Basic.mdb"), QStringLiteral("2026Foundation.mdb")})
+  for (const QString& name : {u"Basic.mdb"_s, u"2026Foundation.mdb"_s})
     require(QFile::copy(books.native(name), folder_.filePath(name)), "copy");
   require(sqlite3_open(folder_.filePath("Basic.mdb").toUtf8().constData(), &db_) == SQLITE_OK, "open");
   knowTextOrder(db_);

@@ -10,6 +10,8 @@
 #include "ui/forms/style.h"
 #include "ui/grid/spread.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int rows = 100000, columns = 13;
@@ -62,7 +64,7 @@ const int pageDown = bench::addFigure({"grid of 100,000 rows: a page down, key t
 const int edited = bench::addFigure({"grid of 100,000 rows: a cell edited, key to picture", 1, "frames", [] {
                                        BigGrid big;
                                        return big.frames([&] {
-                                         big.press(Qt::Key_7, QStringLiteral("7"));
+                                         big.press(Qt::Key_7, u"7"_s);
                                          big.press(Qt::Key_Return);
                                        });
                                      }});

@@ -4,6 +4,8 @@
 
 #include "pc/program_line.h"
 
+using namespace Qt::StringLiterals;
+
 namespace bench {
 void runAll(const QString& filter, bool quick);
 }
@@ -18,7 +20,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   QStringList arguments = QApplication::arguments().sliced(1);
-  const bool quick = arguments.removeAll(QStringLiteral("--quick")) > 0;
+  const bool quick = arguments.removeAll(u"--quick"_s) > 0;
   char program[] = "bench";
   char* flags[] = {program, nullptr};
   int count = 1;

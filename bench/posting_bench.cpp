@@ -5,6 +5,8 @@
 #include "bench/pairs.h"
 #include "trade/sale_book.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int customers = 1000;
@@ -94,18 +96,18 @@ void postByTheRules(SaleBook& posting, int client) {
   grid.setMaxRows(0);
   grid.setMaxRows(1);
   const auto set = [&](int col, const QString& text) { grid.setText(1, col, text); };
-  set(LineCol::Date, QStringLiteral("03-16"));
+  set(LineCol::Date, u"03-16"_s);
   set(LineCol::Code, QString::number(client));
   grid.setComboPosition(1, LineCol::Kind, 0);
   posting.postRow(1);
-  set(LineCol::Item, joinItem({QStringLiteral("LPG"), QStringLiteral("20")}));
-  set(LineCol::Number, QStringLiteral("1"));
-  set(LineCol::Unit, QStringLiteral("27000"));
-  set(LineCol::Discount, QStringLiteral("0"));
-  set(LineCol::Amount, QStringLiteral("27000"));
-  set(LineCol::Paid, QStringLiteral("20000"));
-  set(LineCol::Trust, QStringLiteral("7000"));
-  set(LineCol::Person, QStringLiteral("홍길수"));
+  set(LineCol::Item, joinItem({u"LPG"_s, u"20"_s}));
+  set(LineCol::Number, u"1"_s);
+  set(LineCol::Unit, u"27000"_s);
+  set(LineCol::Discount, u"0"_s);
+  set(LineCol::Amount, u"27000"_s);
+  set(LineCol::Paid, u"20000"_s);
+  set(LineCol::Trust, u"7000"_s);
+  set(LineCol::Person, u"홍길수"_s);
   posting.postRow(1);
 }
 

@@ -1,9 +1,10 @@
 #include "links/waiting_list.h"
 
+using namespace Qt::StringLiterals;
+
 void WaitingList::AddStanbyNumber(const QString& number, const QDateTime& called) {
-  const QString format = clock_.shortDateFormat() + QStringLiteral(" HH:mm:ss");
-  entries_ << number + QStringLiteral(" [") + (called.isValid() ? called : clock_.now()).toString(format) +
-                  u']';
+  const QString format = clock_.shortDateFormat() + u" HH:mm:ss"_s;
+  entries_ << number + u" ["_s + (called.isValid() ? called : clock_.now()).toString(format) + u']';
   tell();
 }
 

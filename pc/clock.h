@@ -13,7 +13,7 @@ class Clock {
   QDateTime now() const;
   QDate today() const { return now().date(); }
   /** Today as date text, "yyyy-MM-dd". */
-  QString dateText() const { return today().toString(QStringLiteral("yyyy-MM-dd")); }
+  QString dateText() const { return today().toString(u"yyyy-MM-dd"); }
   /** From now on the clock shows this moment and goes on from there. */
   void set(const QDateTime& moment);
 
@@ -22,7 +22,7 @@ class Clock {
 
  private:
   qint64 shiftMilliseconds_ = 0;
-  QString shortDate_ = QStringLiteral("yyyy-MM-dd");
+  QString shortDate_ = "yyyy-MM-dd";
 };
 
 }  // namespace pc

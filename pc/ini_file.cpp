@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <filesystem>
 
+using namespace Qt::StringLiterals;
+
 namespace pc {
 
 namespace {
@@ -18,13 +20,13 @@ QString iniEscaped(const QString& text, bool isKey) {
   for (int at = 0; at < text.size(); ++at) {
     const QChar c = text[at];
     if (c == u'\\') {
-      out += QStringLiteral("\\\\");
+      out += u"\\\\"_s;
     } else if (c == u'\n') {
-      out += QStringLiteral("\\n");
+      out += u"\\n"_s;
     } else if (c == u'\r') {
-      out += QStringLiteral("\\r");
+      out += u"\\r"_s;
     } else if (isKey && (c == u'=' || (at == 0 && (c == u'[' || c == u';')))) {
-      out += QStringLiteral("\\") + c;
+      out += u"\\"_s + c;
     } else {
       out += c;
     }
@@ -123,7 +125,7 @@ bool IniFile::write(const Entries& entries) const {
   for (const Entry& first : entries) {
     if (done.contains(first.section, Qt::CaseInsensitive)) continue;
     done << first.section;
-    out += u'[' + iniEscaped(first.section, false) + QStringLiteral("]\n");
+    out += u'[' + iniEscaped(first.section, false) + u"]\n"_s;
     for (const Entry& entry : entries) {
       if (!same(entry.section, first.section)) continue;
       out += iniEscaped(entry.key, true) + u'=' + iniEscaped(entry.value, false) + u'\n';
@@ -136,7 +138,7 @@ bool IniFile::write(const Entries& entries) const {
 bool IniFile::change(const QString& section, const QString& key, const QString* value) {
   QDir().mkpath(QFileInfo(file_).path());
   // Another program may be writing the same file: what it wrote is read again under the lock.
-  QLockFile lock(file_ + QStringLiteral(".lock"));
+  QLockFile lock(file_ + u".lock"_s);
   const bool locked = lock.tryLock(2000);
   if (!unsaved_) {
     const auto stored = read();

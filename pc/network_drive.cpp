@@ -5,6 +5,8 @@
 #include <QLibrary>
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace pc {
 
 QString networkFailureText(int failure) {
@@ -12,29 +14,29 @@ QString networkFailureText(int failure) {
     case 0:
       return {};
     case netAccessDenied:
-      return QStringLiteral("접근 불가");
+      return u"접근 불가"_s;
     case netAlreadyAssigned:
-      return QStringLiteral("이미 연결되어 있는 경로입니다.");
+      return u"이미 연결되어 있는 경로입니다."_s;
     case netBadDeviceType:
-      return QStringLiteral("장치 유형과 자원 유형이 일치하지 않습니다.");
+      return u"장치 유형과 자원 유형이 일치하지 않습니다."_s;
     case netBadDevice:
-      return QStringLiteral("선택하신 경로가 유효하지 않습니다.");
+      return u"선택하신 경로가 유효하지 않습니다."_s;
     case netBadNetName:
-      return QStringLiteral("선택하신 경로가 유효하지 않거나 존재하지 않습니다.");
+      return u"선택하신 경로가 유효하지 않거나 존재하지 않습니다."_s;
     case netBadProfile:
     case netCannotOpenProfile:
-      return QStringLiteral("사용자 프로파일을 열 수 없습니다.");
+      return u"사용자 프로파일을 열 수 없습니다."_s;
     case netAlreadyRemembered:
-      return QStringLiteral("선택하신 경로가 이미 다른 사용자 프로파일에서 사용중입니다.");
+      return u"선택하신 경로가 이미 다른 사용자 프로파일에서 사용중입니다."_s;
     case netInvalidPassword:
-      return QStringLiteral("사용자 암호가 유효하지 않습니다.");
+      return u"사용자 암호가 유효하지 않습니다."_s;
     case netNoNetOrBadPath:
-      return QStringLiteral("네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다.");
+      return u"네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다."_s;
     case netNoNetwork:
-      return QStringLiteral("네트워크가 존재하지 않습니다.");
+      return u"네트워크가 존재하지 않습니다."_s;
     case netExtendedError:
     default:
-      return QStringLiteral("네트워크 상에 오류가 발생했습니다.");
+      return u"네트워크 상에 오류가 발생했습니다."_s;
   }
 }
 
@@ -42,8 +44,7 @@ QString networkFailureText(int failure) {
 
 Share findShare(const QString& share, const QString& letter) {
   using AddConnection = unsigned long(__stdcall*)(const wchar_t*, const wchar_t*, const wchar_t*);
-  const auto add =
-      reinterpret_cast<AddConnection>(QLibrary::resolve(QStringLiteral("mpr"), "WNetAddConnectionW"));
+  const auto add = reinterpret_cast<AddConnection>(QLibrary::resolve(u"mpr"_s, "WNetAddConnectionW"));
   if (!add) return {netNoNetwork, {}};
   // No password of its own: the share is opened as the user of the PC.
   const unsigned long result = add(share.toStdWString().c_str(), L"", letter.toStdWString().c_str());
@@ -56,9 +57,9 @@ namespace {
 
 /** Folders under which \\server\share may already be mounted on this PC. */
 QStringList mountedPlaces(const QString& server, const QString& share) {
-  return {QStringLiteral("/mnt/%1/%2").arg(server, share), QStringLiteral("/media/%1/%2").arg(server, share),
-          QStringLiteral("%1/gvfs/smb-share:server=%2,share=%3")
-              .arg(qEnvironmentVariable("XDG_RUNTIME_DIR"), server.toLower(), share.toLower())};
+  return {u"/mnt/%1/%2"_s.arg(server, share), u"/media/%1/%2"_s.arg(server, share),
+          u"%1/gvfs/smb-share:server=%2,share=%3"_s.arg(qEnvironmentVariable("XDG_RUNTIME_DIR"),
+                                                        server.toLower(), share.toLower())};
 }
 
 }  // namespace
@@ -66,7 +67,7 @@ QStringList mountedPlaces(const QString& server, const QString& share) {
 Share findShare(const QString& share, const QString&) {
   QStringList places{share};
   int missing = netBadNetName;
-  if (share.startsWith(QStringLiteral("\\\\"))) {
+  if (share.startsWith(u"\\\\"_s)) {
     QStringList names = share.split(u'\\', Qt::SkipEmptyParts);
     if (names.size() < 2) return {netBadNetName, {}};
     const QString server = names.takeFirst(), name = names.takeFirst();

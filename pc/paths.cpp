@@ -8,6 +8,8 @@
 
 #include "pc/network_drive.h"
 
+using namespace Qt::StringLiterals;
+
 namespace pc {
 
 namespace {
@@ -23,16 +25,16 @@ bool startsWithDrive(const QString& path) {
   return path.size() >= 2 && path[1] == u':' && path[0].unicode() < 0x80 && path[0].isLetter();
 }
 
-const QString mappedSection = QStringLiteral("drives");
+const QString mappedSection = u"drives"_s;
 
 }  // namespace
 
-Paths::Paths(QString root) : root_(QDir::cleanPath(root)), mapped_(root_ + QStringLiteral("/drives.ini")) {}
+Paths::Paths(QString root) : root_(QDir::cleanPath(root)), mapped_(root_ + u"/drives.ini"_s) {}
 
 QString Paths::defaultRoot() {
   const QString named = qEnvironmentVariable("HAEON_PC");
   if (!named.isEmpty()) return QDir(named).absolutePath();
-  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/haeon");
+  return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/haeon"_s;
 }
 
 QString Paths::driveFolder(QChar letter) const {
@@ -85,7 +87,7 @@ bool Paths::makeFolder(const QString& written) const {
 }
 
 bool Paths::copy(const QString& from, const QString& to) const {
-  const QString target = native(to), unfinished = target + QStringLiteral(".new");
+  const QString target = native(to), unfinished = target + u".new"_s;
   QFile::remove(unfinished);
   if (!QFileInfo::exists(target) && QFile::copy(native(from), unfinished) &&
       QFile::rename(unfinished, target)) {
@@ -101,7 +103,7 @@ QStringList Paths::drives() const {
     for (const QFileInfo& drive : QDir::drives()) letters << drive.filePath().first(2).toUpper();
     return letters;
   }
-  letters << QStringLiteral("C:");
+  letters << u"C:"_s;
   for (const QString& name : QDir(root_).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
     if (name.size() == 1 && name[0].isLetter()) letters << name.toUpper() + u':';
   }

@@ -31,7 +31,7 @@ class Paths {
   /** Copies one file to a name that must be free; the name is taken only when the copy is whole. */
   bool copy(const QString& from, const QString& to) const;
   /** The program's own folder as written, "C:\RWGas" */
-  QString programFolder() const { return QStringLiteral("C:\\RWGas"); }
+  QString programFolder() const { return "C:\\RWGas"; }
   /** Drive letters in use, upper case with colon. */
   QStringList drives() const;
   /** The folder behind a mapped letter ("Z:"); '' when the letter is none, or where the PC keeps that itself. */

@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace pc {
 
 #ifndef Q_OS_WIN
@@ -13,11 +15,11 @@ namespace {
 
 /** The desktop's opener answers after the program has gone on, so it is asked before what it would open the file with. */
 bool hasProgramFor(const QString& file) {
-  if (QStandardPaths::findExecutable(QStringLiteral("xdg-open")).isEmpty()) return false;
-  const QString asks = QStandardPaths::findExecutable(QStringLiteral("xdg-mime"));
+  if (QStandardPaths::findExecutable(u"xdg-open"_s).isEmpty()) return false;
+  const QString asks = QStandardPaths::findExecutable(u"xdg-mime"_s);
   if (asks.isEmpty()) return true;
   QProcess question;
-  question.start(asks, {QStringLiteral("query"), QStringLiteral("default"),
+  question.start(asks, {u"query"_s, u"default"_s,
                         QMimeDatabase().mimeTypeForFile(file, QMimeDatabase::MatchExtension).name()});
   constexpr int patience = 3000;  // milliseconds; a desktop that does not answer may still open it
   if (!question.waitForFinished(patience)) return true;
@@ -44,10 +46,10 @@ bool Process::open(const QString& written) const {
   const QFileInfo target(paths_.native(written));
   if (!target.exists()) return false;
 #ifdef Q_OS_WIN
-  return run(QStringLiteral("explorer"), {QString(target.filePath()).replace(u'/', u'\\')}, target.path());
+  return run(u"explorer"_s, {QString(target.filePath()).replace(u'/', u'\\')}, target.path());
 #else
   if (!starter_ && !hasProgramFor(target.filePath())) return false;
-  return run(QStringLiteral("xdg-open"), {target.filePath()}, target.path());
+  return run(u"xdg-open"_s, {target.filePath()}, target.path());
 #endif
 }
 

@@ -52,7 +52,7 @@ struct ReportSpan {
 struct ReportLayout {
   PaperSize paper;
   double left = 0.5, top = 0.5, right = 0.5, bottom = 0.5;  ///< margins, inches
-  PrintFont font{QStringLiteral("굴림체"), 9};
+  PrintFont font{"굴림체", 9};
   double rowPoints = 0;  ///< height of a row in points; 0 follows the font
   ReportLines title;     ///< once, on the first page
   ReportLines next;      ///< in its place on the others

@@ -1,14 +1,15 @@
 #include "pc/settings.h"
 
+using namespace Qt::StringLiterals;
+
 namespace pc {
 
 IniFile& Settings::fileOf(const QString& application) const {
   QString name = application.toLower();
   for (QChar& c : name) {
-    if (QStringLiteral("/\\:*?\"<>|").contains(c)) c = u'_';
+    if (u"/\\:*?\"<>|"_s.contains(c)) c = u'_';
   }
-  return files_.try_emplace(name, root_ + QStringLiteral("/settings/") + name + QStringLiteral(".ini"))
-      .first->second;
+  return files_.try_emplace(name, root_ + u"/settings/"_s + name + u".ini"_s).first->second;
 }
 
 QString Settings::read(const Setting& setting, const QString& fallback) const {

@@ -3,6 +3,8 @@
 #include "store/data_access.h"
 #include "store/session.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** Kept: these columns are read in single precision, and its error goes on into the charge. */
@@ -15,8 +17,7 @@ double singlePrecision(const jet::Value& rate) {
 bool readRateBook(Session& session) {
   session.rates = {};
   jet::Recordset user;
-  if (!OpenSnapshot(session.prompts, session.dbBasic, user, QStringLiteral("Select * From User")) ||
-      user.atEnd())
+  if (!OpenSnapshot(session.prompts, session.dbBasic, user, u"Select * From User"_s) || user.atEnd())
     return false;
   session.rates.books = {{{singlePrecision(user["Rate"]), user["Security"].toDouble()},
                           {user["APTRate"].toDouble(), user["APTSecurity"].toDouble()},

@@ -4,6 +4,8 @@
 #include "store/session.h"
 #include "store/vb.h"
 
+using namespace Qt::StringLiterals;
+
 double roundToTen(double won, std::optional<int> payState) {
   // The fraction is dropped from the text of 15 digits, not by arithmetic: 1234.9999999999999 is 1235 here.
   QString text = vb::CStr(won);
@@ -26,7 +28,7 @@ double roundToTen(double won, std::optional<int> payState) {
 
 std::optional<int> companyPayState(Session& session) {
   jet::Recordset rs;
-  if (!OpenSnapshot(session.prompts, session.dbBasic, rs, QStringLiteral("Select PayState From User")) ||
+  if (!OpenSnapshot(session.prompts, session.dbBasic, rs, u"Select PayState From User"_s) ||
       rs.RecordCount() == 0)
     return {};
   return int(rs["PayState"].toLong());

@@ -4,6 +4,8 @@
 
 #include "store/schema_shape.h"
 
+using namespace Qt::StringLiterals;
+
 namespace schema {
 
 using namespace shape;
@@ -149,8 +151,7 @@ std::vector<jet::TableDef> printTables() {
   std::vector<jet::Field> fields;
   const auto add = [&](const char* kind, int count, auto make) {
     for (int at = 1; at <= count; ++at) {
-      fields.push_back(
-          make(QStringLiteral("%1%2").arg(QLatin1String(kind)).arg(at, 2, 10, QLatin1Char('0'))));
+      fields.push_back(make(u"%1%2"_s.arg(QLatin1String(kind)).arg(at, 2, 10, QLatin1Char('0'))));
     }
   };
   add("Str", 13, [](const QString& name) { return text(qPrintable(name), 255); });

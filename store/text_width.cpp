@@ -4,6 +4,8 @@
 
 #include "store/vb.h"
 
+using namespace Qt::StringLiterals;
+
 QString StripNumber(const QString& text) {
   QString rest = text;
   rest.remove(u'.').remove(u'-');
@@ -14,9 +16,8 @@ QString moneyText(double won) {
   const bool whole = won == std::trunc(won);
   constexpr double exact = 9007199254740992.0;  // 2^53
   if (!whole || std::fabs(won) >= exact) {
-    const QString text =
-        vb::Format(won, whole ? QStringLiteral("###,###,###") : QStringLiteral("###,###,###.##"));
-    return text.isEmpty() ? QStringLiteral("0") : text;
+    const QString text = vb::Format(won, whole ? u"###,###,###"_s : u"###,###,###.##"_s);
+    return text.isEmpty() ? u"0"_s : text;
   }
   QString text = QString::number(qint64(won));
   for (qsizetype at = text.size() - 3; at > (won < 0 ? 1 : 0); at -= 3) text.insert(at, u',');

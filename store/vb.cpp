@@ -8,6 +8,8 @@
 #include "store/jet/format_rules.h"
 #include "store/jet/text_rules.h"
 
+using namespace Qt::StringLiterals;
+
 namespace vb {
 
 namespace {
@@ -25,9 +27,9 @@ int fullYear(const QString& digits) {
 
 /** The numbers of a date text as they were written; empty when it holds anything else. */
 QStringList dateNumbers(const QString& text) {
-  static const QRegularExpression time(QStringLiteral("\\s+([01]?\\d|2[0-3]):[0-5]?\\d(:[0-5]?\\d)?$"));
-  static const QRegularExpression numbers(QStringLiteral(
-      "^(\\d{1,4})\\s*(?:[-/.]|[년월])\\s*(\\d{1,4})(?:\\s*(?:[-/.]|월)\\s*(\\d{1,4}))?\\s*일?$"));
+  static const QRegularExpression time(u"\\s+([01]?\\d|2[0-3]):[0-5]?\\d(:[0-5]?\\d)?$"_s);
+  static const QRegularExpression numbers(
+      u"^(\\d{1,4})\\s*(?:[-/.]|[년월])\\s*(\\d{1,4})(?:\\s*(?:[-/.]|월)\\s*(\\d{1,4}))?\\s*일?$"_s);
   const QRegularExpressionMatch match = numbers.match(text.trimmed().remove(time));
   if (!match.hasMatch()) return {};
   QStringList found = match.capturedTexts().mid(1);
@@ -98,7 +100,7 @@ QString Format(double number, const QString& picture) {
 
 QString Format(const QDateTime& moment, const QString& picture) {
   QString local = picture;
-  local.replace(QStringLiteral("DDDDD"), QStringLiteral("yyyy-mm-dd"), Qt::CaseInsensitive);
+  local.replace(u"DDDDD"_s, u"yyyy-mm-dd"_s, Qt::CaseInsensitive);
   return jet::formatDate(moment, local.replace(u'/', u'-'));
 }
 

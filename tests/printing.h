@@ -18,14 +18,14 @@ inline void PrintTo(QStringView text, std::ostream* out) {
   QString shown;
   for (const QChar letter : text) {
     if (letter == u'\n') {
-      shown += QStringLiteral("\\n");
+      shown += "\\n";
     } else if (letter == u'"' || letter == u'\\') {
       shown += u'\\';
       shown += letter;
     } else if (letter == u' ' || (letter.isPrint() && !letter.isSpace()) || letter.isSurrogate()) {
       shown += letter;
     } else {
-      shown += QStringLiteral("\\x%1").arg(int(letter.unicode()), 4, 16, QChar(u'0'));
+      shown += "\\x" + QString::number(letter.unicode(), 16).rightJustified(4, u'0');
     }
   }
   *out << '"' << shown.toStdString() << '"';

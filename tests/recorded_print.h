@@ -51,7 +51,7 @@ struct RecordedJob {
 
 class RecordedPrinters : public pc::Printers {
  public:
-  QStringList installed{QStringLiteral("지로프린터"), QStringLiteral("PDF 파일")};
+  QStringList installed{"지로프린터", "PDF 파일"};
   QString refusal;          ///< when set, a job that begins is refused with it
   int refusesFromPage = 0;  ///< the printer fails when this page begins; 0 never
   std::vector<std::shared_ptr<RecordedJob>> jobs;
@@ -60,7 +60,7 @@ class RecordedPrinters : public pc::Printers {
   QString defaultName() const override { return installed.value(0); }
   std::unique_ptr<pc::PrintJob> open(const QString& printer, const QString& title,
                                      const pc::PaperSize& paper) override {
-    if (!installed.contains(printer)) throw pc::PrintError{QStringLiteral("없는 프린터: ") + printer};
+    if (!installed.contains(printer)) throw pc::PrintError{"없는 프린터: " + printer};
     if (!refusal.isEmpty()) throw pc::PrintError{refusal};
     auto job = std::make_shared<RecordedJob>();
     job->printer = printer;
@@ -105,7 +105,7 @@ class RecordedPrinters : public pc::Printers {
     }
     void newPage() override {
       if (refusesFromPage_ && record_->pages + 1 >= refusesFromPage_)
-        throw pc::PrintError{QStringLiteral("용지가 없습니다.")};
+        throw pc::PrintError{"용지가 없습니다."};
       ++record_->pages;
     }
     void end() override { record_->ended = true; }

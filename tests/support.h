@@ -43,7 +43,7 @@ class ScriptedPrompts : public Prompts {
     return next(text, title).yes;
   }
   void ErrorBox(const QString& text, int number, const QString& description) override {
-    next(text + u' ' + QString::number(number) + u' ' + description, QStringLiteral("오류"));
+    next(text + u' ' + QString::number(number) + u' ' + description, "오류");
   }
   std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString&) override {
     return next(prompt, title).typed;
@@ -87,7 +87,7 @@ struct TestPc {
   /** Empty data files in "C:\\RWGas\\Dbs\\", opened as at the end of a start; today, when given, is the clock's day. */
   void openBooks(const QDate& today = {}) {
     if (today.isValid()) pc.clock.set(today.startOfDay().addSecs(9 * 3600));
-    session.AppTitle = QStringLiteral("해온판매");
+    session.AppTitle = "해온판매";
     session.DbPath = installedDataFolder();
     session.WorkYear = QString::number(pc.clock.today().year());
     ASSERT_TRUE(pc.paths.makeFolder(session.DbPath));
@@ -97,10 +97,10 @@ struct TestPc {
     }
     makeYearFile(session, session.WorkYear);
     session.wsMain = openWorkspace(session, session.DbPath);
-    session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
+    session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
     ASSERT_TRUE(upgrades::relink(session));
     session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
-    session.dbTax = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("dbTax.mdb"));
+    session.dbTax = session.wsMain.OpenDatabase(session.DbPath + "dbTax.mdb");
     session.dbCommon = session.dbBasic;
   }
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace jet {
 namespace {
 
@@ -106,12 +108,12 @@ Error errorOf(int number, const QString& detail) {
     if (entry.number != number) continue;
     QString text = QString::fromUtf16(entry.text);
     if (detail.isEmpty()) {
-      text.remove(QStringLiteral(" (%1)"));
-      text.remove(QStringLiteral("'%1' "));
+      text.remove(u" (%1)"_s);
+      text.remove(u"'%1' "_s);
     }
     return Error(number, text.contains(u"%1") ? text.arg(detail) : text);
   }
-  return Error(number, QStringLiteral("알 수 없는 오류입니다. %1").arg(detail).trimmed());
+  return Error(number, u"알 수 없는 오류입니다. %1"_s.arg(detail).trimmed());
 }
 
 bool isStoreFailure(int number) {

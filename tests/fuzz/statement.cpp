@@ -107,7 +107,7 @@ void compareReadings(const QByteArray& input, const QString& sql) {
 QByteArrayList statementSeeds() {
   QByteArrayList seeds = corpusOf("statement");
   for (const char* name : {"cases.txt", "rows.txt", "statements_in_use.txt"}) {
-    QFile file(QStringLiteral(HAEON_TEST_DATA "/jet/") + QLatin1StringView(name));
+    QFile file(QString(HAEON_TEST_DATA "/jet/") + QLatin1StringView(name));
     if (!file.open(QIODevice::ReadOnly)) continue;
     for (const QByteArray& line : file.readAll().split('\n'))
       if (!line.isEmpty() && line[0] != '#' && line[0] != '@') seeds << line.split('\t').first();

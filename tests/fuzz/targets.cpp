@@ -92,7 +92,7 @@ const QList<Target>& targets() {
 
 QByteArrayList corpusOf(const char* name) {
   QByteArrayList seeds;
-  const QDir folder(QStringLiteral(HAEON_TEST_DATA "/fuzz/corpus/") + QLatin1StringView(name));
+  const QDir folder(QString(HAEON_TEST_DATA "/fuzz/corpus/") + QLatin1StringView(name));
   for (const QString& file : folder.entryList(QDir::Files, QDir::Name)) {
     QFile seed(folder.filePath(file));
     if (seed.open(QIODevice::ReadOnly)) seeds << seed.readAll();

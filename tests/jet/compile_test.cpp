@@ -44,7 +44,7 @@ QString columnsOf(const QString& sql) {
 }
 
 TEST(Compile, Cases) {
-  QFile file(QStringLiteral(HAEON_TEST_DATA "/jet/cases.txt"));
+  QFile file(HAEON_TEST_DATA "/jet/cases.txt");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   int count = 0;
   for (int number = 1; !file.atEnd(); ++number) {

@@ -20,7 +20,7 @@ std::string outcome(const jet::Database& db, const QString& sql) {
 }
 
 TEST(Rows, OfTheDialect) {
-  QFile file(QStringLiteral(HAEON_TEST_DATA "/jet/rows.txt"));
+  QFile file(HAEON_TEST_DATA "/jet/rows.txt");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   QTemporaryDir folder;
   const jet::Workspace workspace({.mainFile = folder.filePath(u"a.mdb"_s), .resolvePath = {}});

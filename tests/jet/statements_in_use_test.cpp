@@ -53,7 +53,7 @@ class SampleFile {
 };
 
 TEST(StatementsInUse, RunOnTheirFiles) {
-  QFile file(QStringLiteral(HAEON_TEST_DATA "/jet/statements_in_use.txt"));
+  QFile file(HAEON_TEST_DATA "/jet/statements_in_use.txt");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   std::optional<SampleFile> sample;
   int count = 0;

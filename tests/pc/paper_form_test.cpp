@@ -5,6 +5,8 @@
 
 #include "tests/recorded_print.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using pc::at, pc::inches, pc::PaperItem;
@@ -15,9 +17,9 @@ constexpr pc::PaperFont fonts[] = {{u"굴림체"}, {u"돋움체", 7.2, true}};
 
 struct PaperFormTest : testing::Test {
   tests::RecordedPrinters printers;
-  std::unique_ptr<pc::PrintJob> job = printers.open(QStringLiteral("지로프린터"), {}, {});
+  std::unique_ptr<pc::PrintJob> job = printers.open(u"지로프린터"_s, {}, {});
   const tests::RecordedJob& record() { return *printers.jobs.back(); }
-  const std::vector<QString> texts{QStringLiteral("가람상사"), QStringLiteral("1,500")};
+  const std::vector<QString> texts{u"가람상사"_s, u"1,500"_s};
 
   void draw(std::span<const PaperItem> items, pc::PaperShift shift = {}) {
     pc::PaperForm form{.paper = {}, .rowsPerInch = 6, .columnsPerInch = 10, .fonts = fonts, .items = items};
@@ -101,11 +103,7 @@ TEST_F(PaperFormTest, ListsGoOverSheetsAndPlacesOverPages) {
   const auto sheets = [](int lines) {
     QStringList all;
     for (const pc::PaperSheet& sheet : pc::sheetsOf(lines, 14))
-      all << QStringLiteral("%1: %2+%3%4")
-                 .arg(sheet.number)
-                 .arg(sheet.first)
-                 .arg(sheet.count)
-                 .arg(sheet.last ? "." : "");
+      all << u"%1: %2+%3%4"_s.arg(sheet.number).arg(sheet.first).arg(sheet.count).arg(sheet.last ? "." : "");
     return all.join(' ');
   };
   EXPECT_EQ(sheets(0), "1: 0+0.");
@@ -115,7 +113,7 @@ TEST_F(PaperFormTest, ListsGoOverSheetsAndPlacesOverPages) {
   pc::PaperPlaces places(*job, 2);
   const auto next = [&] {
     const int place = places.next();
-    return QStringLiteral("%1/%2").arg(record().pages).arg(place);
+    return u"%1/%2"_s.arg(record().pages).arg(place);
   };
   for (const char* place : {"1/0", "1/1", "2/0"}) EXPECT_EQ(next(), place);
   places.newSheet();

@@ -8,6 +8,8 @@
 
 #include "pc/process.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void touch(const QString& file) {
@@ -45,7 +47,7 @@ TEST_F(PathsTest, LeavesPathsWithoutALetterAlone) {
 
 TEST_F(PathsTest, ListsByPatternInAnyCaseAndCopiesToFreeNamesOnly) {
   for (const char* name : {"2026Foundation.mdb", "2025foundation.MDB", "Basic.mdb"}) {
-    touch(at(QStringLiteral("/c/RWGas/Dbs/") + QString::fromLatin1(name)));
+    touch(at(u"/c/RWGas/Dbs/"_s + QString::fromLatin1(name)));
   }
   EXPECT_EQ(paths.list("C:\\RWGas\\Dbs\\", "*Foundation.mdb"),
             (QStringList{"2025foundation.MDB", "2026Foundation.mdb"}));

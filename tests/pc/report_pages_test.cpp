@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Kind = pc::ReportBand::Kind;
@@ -89,7 +91,7 @@ TEST(ReportLayoutTest, TellsWhereADamagedFileIsWrong) {
         "column Str01 \"이름\" 0", "column Str01 \"이름\" nan", "column Str01 \"이름\" 5 sum", "title",
         "title left 10", "paper B5", "margins 10 10 10", "margins 10 10 10 999", "font 굴림체 1e9",
         "span \"위\" Str01 Str02", "row 0"})
-    EXPECT_THAT(refusalOf(QString("column Lng01 \"금액\" 9\n") + line).toStdString(), HasSubstr("2번째 줄"))
+    EXPECT_THAT(refusalOf(u"column Lng01 \"금액\" 9\n"_s + line).toStdString(), HasSubstr("2번째 줄"))
         << line;
   const QString columns = "column Lng01 \"a\" 9\ncolumn Lng02 \"b\" 9\ncolumn Lng03 \"c\" 9\n";
   EXPECT_THAT(refusalOf(columns + "span \"x\" Lng02 Lng01").toStdString(), HasSubstr("4번째 줄"));
@@ -107,8 +109,7 @@ struct ReportPagesTest : testing::Test {
   }
   pc::ReportTable table(int rows) const {
     pc::ReportTable made{.fields = {"Str01", "Lng01"}};
-    for (int row = 0; row < rows; ++row)
-      made.rows.push_back({QString("고객%1").arg(row / 6), qint64(row + 1)});
+    for (int row = 0; row < rows; ++row) made.rows.push_back({u"고객%1"_s.arg(row / 6), qint64(row + 1)});
     return made;
   }
   /** "heading rows(first-last) total" of each page. */
@@ -124,11 +125,11 @@ struct ReportPagesTest : testing::Test {
           EXPECT_GE(band.top, bottom - 1e-9) << "bands do not lie on each other";
           bottom = band.top + band.height;
         }
-        text += QString("TNHGRsSuF")[int(band.kind)];
+        text += u"TNHGRsSuF"_s[int(band.kind)];
         rows += band.kind == Kind::Row;
       }
       EXPECT_LE(bottom, layout.paper.height + 1e-9) << "nothing below the paper";
-      shapes << text.replace(QString("R").repeated(rows), QString::number(rows));
+      shapes << text.replace(u"R"_s.repeated(rows), QString::number(rows));
     }
     return shapes;
   }
@@ -170,7 +171,7 @@ TEST_F(ReportPagesTest, GroupsSumUpAndAreNamedAgainOnTheNextPage) {
   const pc::ReportPages pages(layout, rows);
   QString kinds;
   for (int page = 0; page < pages.count(); ++page) {
-    for (const auto& band : pages.bands(page)) kinds += QString("TNHGRsSuF")[int(band.kind)];
+    for (const auto& band : pages.bands(page)) kinds += u"TNHGRsSuF"_s[int(band.kind)];
     kinds += ' ';
   }
   // A group's line stays with its first row, a sum with its last; the group that goes on is named again.

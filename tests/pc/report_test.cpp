@@ -6,6 +6,8 @@
 #include "tests/recorded_print.h"
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::PrintedItem;
@@ -101,7 +103,7 @@ TEST_F(ReportTest, TextsStandAtTheirPlaces) {
 TEST_F(ReportTest, ManyPagesCarryOnAndTheTotalIsRightToTheWon) {
   qint64 sum = 0;
   for (int i = 0; i < 5000; ++i) {
-    add(QString("고객%1").arg(i + 1), 1'000'001 + i, 0.1);
+    add(u"고객%1"_s.arg(i + 1), 1'000'001 + i, 0.1);
     sum += 1'000'001 + i;
   }
   ASSERT_EQ(sum, 5'012'502'500);
@@ -111,7 +113,7 @@ TEST_F(ReportTest, ManyPagesCarryOnAndTheTotalIsRightToTheWon) {
   EXPECT_TRUE(last.contains("500")) << "five thousand tenths";
   EXPECT_TRUE(last.contains("[합 계] 5,000건"));
   EXPECT_TRUE(job->texts(2).contains("이어서 2"));
-  EXPECT_TRUE(job->texts(2).contains(QString("2 / %1").arg(job->pages)));
+  EXPECT_TRUE(job->texts(2).contains(u"2 / %1"_s.arg(job->pages)));
   int rows = 0;
   for (const auto& item : job->items) {
     rows += item.text.startsWith("고객");
@@ -160,7 +162,7 @@ TEST_F(ReportTest, StopsAndRefusesWithoutAnEnd) {
 }
 
 TEST(ReportFormula, NameAndValue) {
-  EXPECT_EQ(pc::readFormula("조회월= '03'"), std::make_pair(QString("조회월"), QString("03")));
+  EXPECT_EQ(pc::readFormula("조회월= '03'"), std::make_pair(u"조회월"_s, u"03"_s));
   EXPECT_EQ(pc::readFormula("판매구분= '월 체적)'").second, "월 체적)");
   EXPECT_EQ(pc::readFormula("a = 'x = 'y''").second, "x = 'y'");
   EXPECT_EQ(pc::readFormula("빈= ''").second, "");

@@ -9,6 +9,8 @@
 #include "pc/clock.h"
 #include "pc/cp949.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST(Settings, KeepsTextsByApplicationSectionAndKeyInAnyCase) {
@@ -84,7 +86,7 @@ TEST(CodePage949, HoldsAllSyllablesAndMarksWhatIsBroken) {
   EXPECT_EQ(pc::fromCp949(ddom + ga + "A\\~"), "똠가A\\~");
   EXPECT_EQ(pc::toCp949("힣"), QByteArray("\xc6\x52"));
   EXPECT_EQ(pc::toCp949("😀é"), "??") << "not in the code page";
-  EXPECT_EQ(pc::fromCp949(ga + "\xb0"), QString("가") + QChar(QChar::ReplacementCharacter));
+  EXPECT_EQ(pc::fromCp949(ga + "\xb0"), u"가"_s + QChar(QChar::ReplacementCharacter));
   EXPECT_EQ(pc::fromCp949(QByteArray("\xff") + "A"), QString(QChar(QChar::ReplacementCharacter)) + "A");
   QString every;
   for (int code = 0xac00; code <= 0xd7a3; ++code) every += QChar(code);

@@ -42,7 +42,7 @@ inline void fillOldBasic(const jet::Database& basic) {
     std::erase_if(old.indexes, [](const jet::Index& index) { return index.name.startsWith(u"Tel"); });
     if (def.name == u"PostCode") {
       jet::Field ddd;
-      ddd.name = QStringLiteral("DDD");
+      ddd.name = "DDD";
       ddd.size = 5;
       old.fields.push_back(ddd);
     }
@@ -75,14 +75,14 @@ inline void makeOldBooks(TestPc& here) {
     const jet::Database file = ws.CreateDatabase(session.DbPath + name);
     ws.Together([&] { fill(file); });
   };
-  make(QStringLiteral("Basic.mdb"), fillOldBasic);
-  make(QStringLiteral("2002Foundation.mdb"), fillOldYear);
+  make("Basic.mdb", fillOldBasic);
+  make("2002Foundation.mdb", fillOldYear);
   for (const char* year : {"2023", "2025", "2026"}) makeYearFile(session, QString::fromLatin1(year));
   for (const char* name : {"/dbTax.mdb", "/Print.mdb", "/dbPost.mdb"}) {
     QFile::copy(emptyDataFolder() + QLatin1String(name),
                 here.pc.paths.native(session.DbPath) + QLatin1String(name));
   }
-  const jet::Database post = ws.OpenDatabase(session.DbPath + QStringLiteral("dbPost.mdb"));
+  const jet::Database post = ws.OpenDatabase(session.DbPath + "dbPost.mdb");
   post.Execute("Insert Into Post Values('702-010', '대구', '북구', '고성동', '1~99')");
   post.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('700-020', '대구', '중구', '동인''동')");
 }

@@ -2,6 +2,8 @@
 
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ReportStagingTest : testing::Test, tests::TestPc {
@@ -25,7 +27,7 @@ TEST_F(ReportStagingTest, RowsStandInTheirOrderAndReplaceTheLastReports) {
   stage(5000);
   const QStringList rows = staged();
   ASSERT_EQ(rows.size(), 5000);
-  for (int row = 1; row <= 5000; ++row) EXPECT_EQ(rows[row - 1], QString("고객%1/-%1").arg(row));
+  for (int row = 1; row <= 5000; ++row) EXPECT_EQ(rows[row - 1], u"고객%1/-%1"_s.arg(row));
   stage(2);
   EXPECT_EQ(staged(), QStringList({"고객1/-1", "고객2/-2"}));
   stage(0);
@@ -44,8 +46,8 @@ TEST_F(ReportStagingTest, ScratchIsTheStationsOwnAndMadeAnewWhenMissing) {
 TEST_F(ReportStagingTest, AFailedRowGoesOnToTheCallerLeavesNothingAndLetsTheFileGo) {
   EXPECT_THROW(stageReport(session, 3,
                            [](int row) {
-                             return row == 2 ? QString("Insert Into Print(Str01) Values('O'Neil')")
-                                             : QString("Insert Into Print(Str01) Values('A')");
+                             return row == 2 ? u"Insert Into Print(Str01) Values('O'Neil')"_s
+                                             : u"Insert Into Print(Str01) Values('A')"_s;
                            }),
                jet::Error);
   EXPECT_EQ(staged(), QStringList()) << "half a report would look like a whole one";

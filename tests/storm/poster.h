@@ -38,7 +38,7 @@ struct ChosenPickers : Pickers {
   std::optional<ClientChoice> searchClient(const QString&, ClientSearchMode, bool) override { return client; }
   std::optional<ItemChoice> searchSize(const QString&, TradeSide) override { return item; }
   std::optional<VolumeChoice> searchVolume() override { return {}; }
-  std::optional<QString> searchResponse() override { return QStringLiteral("홍길동"); }
+  std::optional<QString> searchResponse() override { return "홍길동"; }
   std::optional<QString> searchRefill() override { return {}; }
   std::optional<BankChoice> searchBank() override { return {}; }
   std::optional<PostCodeChoice> searchPostCode(const QString&) override { return {}; }

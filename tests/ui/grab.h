@@ -14,7 +14,7 @@ inline void grab(QWidget& window, const QString& name) {
   if (folder.isEmpty()) return;
   QDir().mkpath(folder);
   QApplication::processEvents();
-  window.grab().save(folder + u'/' + name + QStringLiteral(".png"));
+  window.grab().save(folder + u'/' + name + ".png");
 }
 
 /** Shows a window in front, with the focus in it. */

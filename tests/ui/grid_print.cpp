@@ -5,6 +5,8 @@
 #include "ui/model/spread_model.h"
 #include "ui/paper/print_report.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class GridPrinting : public ::testing::Test {
@@ -42,8 +44,8 @@ TEST_F(GridPrinting, rowsGoOverPagesWithHeadingAndNumbers) {
   QStringList all;
   for (int page = 1; page <= job.pages; ++page) {
     const QStringList texts = job.texts(page);
-    for (const QString& text : {QString("일반고객 현황"), QString("이름"), QString("가스미수"),
-                                QString("보유"), QString("%1 / 3").arg(page)})
+    for (const QString& text :
+         {u"일반고객 현황"_s, u"이름"_s, u"가스미수"_s, u"보유"_s, u"%1 / 3"_s.arg(page)})
       EXPECT_EQ(texts.count(text), 1) << text.toStdString() << page;
     all << texts;
   }

@@ -8,6 +8,8 @@
 #include "tests/support.h"
 #include "ui/paper/print_fonts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct PrintersTest : testing::Test {
@@ -49,8 +51,8 @@ TEST_F(PrintersTest, TextStandsAtItsInchesAndAmountsLineUp) {
   auto job = open({11.69, 8.27});
   job->setFont({"굴림체", 10, false});
   job->text(1, 2, "검침");
-  job->text(3, 3, QString("1,234,560").rightJustified(13));
-  job->text(3, 4, QString("7").rightJustified(13));
+  job->text(3, 3, u"1,234,560"_s.rightJustified(13));
+  job->text(3, 4, u"7"_s.rightJustified(13));
   EXPECT_NEAR(job->textWidth("         7890"), 13 * 5.0 / 72, 0.003) << "blanks are as wide as digits";
   EXPECT_NEAR(job->textWidth("동호"), 4 * 5.0 / 72, 0.003);
   job->setFont({"OCR-B-1", 12, false});

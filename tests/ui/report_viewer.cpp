@@ -18,6 +18,8 @@
 #include "ui/paper/page_view.h"
 #include "ui/paper/printers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ReportViewing : public ::testing::Test {
@@ -31,21 +33,19 @@ class ReportViewing : public ::testing::Test {
   /** A month's list of an apartment block. */
   void stageReadings(int rows) {
     stageReport(pc.session, rows, [](int row) {
-      return QString(
-                 "Insert Into Print(Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06, "
-                 "Str02, Str03, Str04) Values('%1동 %2호', %3, %4, %5, %6, %7, %8, 1000, %9, %10, 'O', "
-                 "'03/%11', '한빛아파트')")
-          .arg(101 + row / 400)
-          .arg((row % 400 / 4 + 1) * 100 + row % 4 + 1)
-          .arg(1200.5 + row)
-          .arg(1218.75 + row)
-          .arg(18.25)
-          .arg(39'420)
-          .arg(row % 7 == 0 ? 52'300 : 0)
-          .arg(row % 7 == 0 ? 1'046 : 0)
-          .arg(row % 7 == 0 ? 93'766 : 40'420)
-          .arg(row % 3 == 0 ? 40'420 : 0)
-          .arg(row % 28 + 1, 2, 10, QChar('0'));
+      return u"Insert Into Print(Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06, "
+             u"Str02, Str03, Str04) Values('%1동 %2호', %3, %4, %5, %6, %7, %8, 1000, %9, %10, 'O', "
+             u"'03/%11', '한빛아파트')"_s.arg(101 + row / 400)
+                 .arg((row % 400 / 4 + 1) * 100 + row % 4 + 1)
+                 .arg(1200.5 + row)
+                 .arg(1218.75 + row)
+                 .arg(18.25)
+                 .arg(39'420)
+                 .arg(row % 7 == 0 ? 52'300 : 0)
+                 .arg(row % 7 == 0 ? 1'046 : 0)
+                 .arg(row % 7 == 0 ? 93'766 : 40'420)
+                 .arg(row % 3 == 0 ? 40'420 : 0)
+                 .arg(row % 28 + 1, 2, 10, QChar('0'));
     });
   }
   frmReport* show(const QString& file = "체적검침현황.rpt") {
@@ -72,7 +72,7 @@ TEST_F(ReportViewing, KeysTurnPagesChangeTheSizeAndClose) {
   tests::key(Qt::Key_PageUp);
   EXPECT_EQ(view->page(), 0) << "nothing before the first";
   tests::key(Qt::Key_PageDown);
-  EXPECT_EQ(label(form, "LblPage"), QString("2 / %1").arg(pages));
+  EXPECT_EQ(label(form, "LblPage"), u"2 / %1"_s.arg(pages));
   tests::key(Qt::Key_End);
   EXPECT_EQ(view->page(), pages - 1);
   EXPECT_FALSE(form->findChild<QPushButton*>("BtnNext")->isEnabled());
@@ -105,7 +105,7 @@ TEST_F(ReportViewing, PrintsWhatIsChosenOnTheChosenPrinterAndRemembersIt) {
   EXPECT_TRUE(printers.jobs[0]->ended);
   EXPECT_EQ(printers.jobs[0]->title, "체적검침현황");
   EXPECT_EQ(printers.jobs[0]->pages, 1);
-  EXPECT_TRUE(printers.jobs[0]->texts().contains(QString("2 / %1").arg(asked)));
+  EXPECT_TRUE(printers.jobs[0]->texts().contains(u"2 / %1"_s.arg(asked)));
   EXPECT_EQ(pc.pc.settings.GetSetting("해온판매", "프린터설정", "보고서"), "지로프린터");
 
   printers.refusal = "용지가 없습니다.";

@@ -16,6 +16,8 @@
 #include "ui/forms/boxes.h"
 #include "ui/grid/spread.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int accentPixels(QWidget& of) {
@@ -63,7 +65,7 @@ TEST(Look, TheFocusIsSeenOnEveryKindOfControl) {
     QApplication::processEvents();
     ASSERT_TRUE(control->hasFocus()) << control->metaObject()->className();
     const int with = accentPixels(*control);
-    tests::grab(window, QStringLiteral("focus_%1").arg(controls.indexOf(control)));
+    tests::grab(window, u"focus_%1"_s.arg(controls.indexOf(control)));
     (control == controls.first() ? controls.last() : controls.first())->setFocus(Qt::OtherFocusReason);
     QApplication::processEvents();
     EXPECT_GT(with - accentPixels(*control), 60) << control->metaObject()->className();
