@@ -16,6 +16,7 @@
 #include "tests/ui/modal.h"
 #include "ui/paper/frmReport.h"
 #include "ui/paper/page_view.h"
+#include "ui/paper/print_choice.h"
 #include "ui/paper/printers.h"
 
 using namespace Qt::StringLiterals;
