@@ -87,6 +87,10 @@ const FormEntry formTable[] = {
 
 }  // namespace
 
+std::span<const FormEntry> builtForms() {
+  return formTable;
+}
+
 const FormEntry* findForm(const QString& name) {
   const QString base = name.section(u':', 0, 0);
   for (const auto& entry : formTable)

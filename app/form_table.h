@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <functional>
+#include <span>
 
 #include "master/registers/form_context.h"
 
@@ -15,5 +16,7 @@ struct FormEntry {
   std::function<void(QWidget* form, const QString& page)> showPage;
 };
 
+/** Every form that is built, by name. */
+std::span<const FormEntry> builtForms();
 /** Takes the name with or without its page; null when that form is not built. */
 const FormEntry* findForm(const QString& name);
