@@ -27,7 +27,7 @@ FrmArchive::FrmArchive(pc::Pc& pc, Prompts& prompts, QWidget* parent)
   rows_.setColumns({{.header = u"백업한 때"_s, .width = 20, .align = CellAlign::Center, .locked = true},
                     {.header = u"크기"_s, .width = 11, .align = CellAlign::Right, .locked = true},
                     {.header = u"곳"_s, .width = 9, .align = CellAlign::Center, .locked = true},
-                    {.header = u"파일"_s, .width = 48, .locked = true}});
+                    {.header = u"파일"_s, .width = 42, .locked = true}});
   build();
   showShelf();
 }
@@ -66,7 +66,7 @@ void FrmArchive::build() {
   SpArchive_ = new Spread(rows_);
   SpArchive_->setObjectName(u"SpArchive"_s);
   SpArchive_->setFillColumn(Name);
-  SpArchive_->setMinimumSize(680, 260);
+  SpArchive_->setMinimumSize(720, 260);
   SpArchive_->enterPressed = [this](int, int) { restoreChosen(); };
   SpArchive_->doubleClicked = [this](int, int) { restoreChosen(); };
 

@@ -78,7 +78,7 @@ void FrmArchiveSettings::build() {
   txtCommand_->setObjectName(u"txtCommand"_s);
   row(u"서버 명령(&C)"_s, txtCommand_, txtCommand_);
   hint(
-      u"서버 명령은 백업 뒤에 실행합니다. %1 자리에 백업 파일의 경로가 들어갑니다. 예: scp %1 shop@server:backup/"_s);
+      u"서버 명령은 백업 뒤에 실행합니다. %1 자리에 백업 파일의 경로가 들어갑니다.\n예: scp %1 shop@server:backup/"_s);
   chkRemind_ = new QCheckBox(u"해온판매를 끝낼 때 백업할지 묻기(&M)"_s);
   chkRemind_->setObjectName(u"chkRemind"_s);
   grid->addWidget(chkRemind_, line++, 1);
@@ -91,6 +91,7 @@ void FrmArchiveSettings::build() {
   leave->setAutoDefault(false);
   connect(leave, &QPushButton::clicked, this, &QDialog::reject);
   auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(8);
   buttons->addStretch();
   buttons->addWidget(ok);
   buttons->addWidget(leave);

@@ -3,6 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <fcntl.h>
+#include <locale.h>
 #include <unistd.h>
 
 #include <QCryptographicHash>
@@ -66,6 +67,21 @@ bool isPlainName(const QString& name) {
       parts, [](const QString& part) { return part.isEmpty() || part == "."_L1 || part == ".."_L1; });
 }
 
+/** The library turns names by the locale, and they are Hangul whatever the PC's language is. */
+class HangulNames {
+ public:
+  HangulNames() : utf8_(::newlocale(LC_CTYPE_MASK, "C.UTF-8", locale_t{})), before_(::uselocale(utf8_)) {}
+  ~HangulNames() {
+    ::uselocale(before_);
+    if (utf8_) ::freelocale(utf8_);
+  }
+  HangulNames(const HangulNames&) = delete;
+  HangulNames& operator=(const HangulNames&) = delete;
+
+ private:
+  locale_t utf8_, before_;
+};
+
 struct Closer {
   void operator()(archive* a) const {
     archive_free(a);  // a reader and a writer alike
@@ -82,7 +98,6 @@ class Zip {
     if (!file_.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
       failWriting(path_, errno);
     archive_write_set_format_zip(zip_.get());
-    // The names are Hangul whatever the PC's language is.
     archive_write_set_options(zip_.get(), "zip:hdrcharset=UTF-8");
     check(archive_write_open_fd(zip_.get(), file_.handle()));
   }
@@ -116,6 +131,7 @@ class Zip {
   }
   [[noreturn]] void fail() { failWriting(path_, archive_errno(zip_.get())); }
 
+  const HangulNames names_;
   QString path_;
   QFile file_;
   Archive zip_;
@@ -125,6 +141,7 @@ class Zip {
 /** Walks the archive's entries; take is given every piece of a file's bytes, and an empty one at its end. */
 void walk(const QString& nativeZip,
           const std::function<void(const QString& name, const QByteArray& bytes)>& take) {
+  const HangulNames names;
   const Archive zip(archive_read_new());
   archive_read_support_format_zip_seekable(zip.get());
   const auto why = [&] { return QString::fromUtf8(archive_error_string(zip.get())); };

@@ -1,5 +1,6 @@
 #include "backup/data_folder_alone.h"
 
+#include <QFile>
 #include <optional>
 
 #include "pc/paths.h"
@@ -66,6 +67,12 @@ QStringList DataFolderAlone::take() {
     held_[name] = std::move(held);
   }
   return busy;
+}
+
+void clearMarks(const pc::Paths& paths, const QString& keptFolder) {
+  if (keptFolder.isEmpty()) return;
+  for (const QString& name : paths.list(keptFolder, u"*.ldb"_s))
+    QFile::remove(paths.native(keptFolder + u'\\' + name));
 }
 
 }  // namespace backup

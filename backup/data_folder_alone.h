@@ -32,4 +32,7 @@ class DataFolderAlone {
   std::map<QString, int> strange_;  ///< name, the engine's number
 };
 
+/** The marks of who was in go from a folder that was put aside while it was held: nobody is in it any more. */
+void clearMarks(const pc::Paths& paths, const QString& keptFolder);
+
 }  // namespace backup

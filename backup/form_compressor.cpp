@@ -51,7 +51,7 @@ std::unique_ptr<DataFolderAlone> Compressor::awaitFolder() {
   while (!busy.isEmpty()) {
     const QString note = u"자료 파일을 쓰는 프로그램이 끝나기를 기다리고 있습니다.\n사용 중인 파일: "_s +
                          busy.join(u", "_s) +
-                         u"\n이 PC와 다른 PC의 해온판매를 끝내 주십시오. [중지]를 누르면 그만둡니다."_s;
+                         u"\n이 PC와 다른 PC의 해온판매를 끝내 주십시오.\n[중지]를 누르면 그만둡니다."_s;
     constexpr int look = 60;  // milliseconds
     QThread::msleep(look);
     if (!waiting.step(0, note)) throw Stopped{};

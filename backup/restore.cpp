@@ -38,6 +38,7 @@ QString finishRestore(const pc::Pc& pc, const QString& dataFolder, std::unique_p
   try {
     const QString kept = swapIn(pc.paths, dataFolder, pc.clock.now());
     held.reset();
+    clearMarks(pc.paths, kept);
     return kept;
   } catch (...) {
     dropPrepared(pc.paths, dataFolder);

@@ -65,7 +65,7 @@ void copyEntries(const jet::Database& from, const jet::Database& to) {
   to.Together([&] {
     for (; !rs.atEnd(); rs.MoveNext()) {
       if (rs.isNull(u"Cash"_s)) continue;
-      const bool isIncome = rs[u"Sub"_s].toText().trimmed() == "수 입"_L1;
+      const bool isIncome = rs[u"Sub"_s].toText().trimmed() == u"수 입";
       const jet::Value cash = rs[u"Cash"_s], none(0);
       jet::Value day = rs[u"CurDate"_s];
       if (!day.isNull()) day = jet::Value(day.toText().replace(u'.', u'-'));

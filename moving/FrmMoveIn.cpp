@@ -88,7 +88,8 @@ bool FrmMoveIn::mayBegin(const QString& folder) {
   }
   // Old files in the data folder itself are what is brought in; anything else there is work that would be put aside.
   const QString books = session_.pc.paths.native(session_.DbPath);
-  if (QDir(folder) == QDir(books) || !holdsWork(session_)) return true;
+  if (QDir(folder) == QDir(books) || placeOf(session_, folder) != session_.DbPath || !holdsWork(session_))
+    return true;
   return session_.prompts.MsgAsk(
       session_.DbPath +
           u" 에는 이미 입력한 자료가 있습니다.\n가져온 자료로 바꾸고, 지금의 자료는 옆에 날짜를 붙인 폴더로 "

@@ -1,6 +1,5 @@
 #include "moving/jet_file.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QLocale>
@@ -82,7 +81,7 @@ OldType typeOf(int number) {
 
 /** The reading program lies where this one is installed, or above it where this is a test. */
 QString readingProgram() {
-  const QString name = u"haeon-jet-rows"_s, here = QCoreApplication::applicationDirPath();
+  const QString name = u"haeon-jet-rows"_s, here = QFileInfo(u"/proc/self/exe"_s).canonicalPath();
   for (const QString& folder : {here, here + u"/.."_s})
     if (QFileInfo::exists(folder + u'/' + name)) return folder + u'/' + name;
   return QStandardPaths::findExecutable(name);

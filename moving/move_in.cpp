@@ -37,11 +37,14 @@ QStringList filesOf(const QString& nativeFolder) {
 /** One run: what has been read so far. */
 class Run {
  public:
-  Run(Session& session, const QString& from, const backup::Tell& tell)
+  /** target: the folder whose successor is made, as written. */
+  Run(Session& session, const QString& from, const QString& target, const backup::Tell& tell)
       : session_(session),
         from_(from),
+        target_(target),
+        isLedger_(target == ledgerFolder(session)),
         tell_(tell),
-        into_(session.pc.paths.native(preparedFolder(session.DbPath))) {}
+        into_(session.pc.paths.native(preparedFolder(target))) {}
 
   void bringFiles() {
     const QStringList names = filesOf(from_);
@@ -55,7 +58,8 @@ class Run {
   }
   /** What a data folder needs besides. */
   void makeMissing() {
-    const QString folder = preparedFolder(session_.DbPath) + u'\\';
+    if (isLedger_) return;
+    const QString folder = preparedFolder(target_) + u'\\';
     for (const auto& [name, kind] : {std::pair{emptyYear, schema::File::Year},
                                      {u"Print.mdb"_s, schema::File::Print},
                                      {u"dbTax.mdb"_s, schema::File::Tax},
@@ -74,6 +78,10 @@ class Run {
     const auto kind = kindOfFile(name);
     if (!kind) {
       report.unknown << name + u": 이 프로그램이 쓰지 않는 파일"_s;
+      return;
+    }
+    if ((*kind == schema::File::Ledger) != isLedger_) {
+      report.unknown << name + u": 다른 폴더에 두는 파일. 그 폴더를 따로 가져오십시오."_s;
       return;
     }
     if (!isOldFormat(from_ + u'/' + name)) {
@@ -96,6 +104,7 @@ class Run {
       const auto found =
           std::ranges::find_if(tables, [&](const OldTable& table) { return isSame(table.name, ours.name); });
       if (found == tables.end()) {
+        if (isLedger_) continue;  // each of its files holds a few of the tables
         file.createTable(ours);
         report.tables.push_back({name, ours.name, 0, {u"이전 파일에 없는 표, 빈 표로 만듦"_s}});
         continue;
@@ -138,7 +147,8 @@ class Run {
   }
 
   Session& session_;
-  const QString from_;
+  const QString from_, target_;
+  const bool isLedger_;
   const backup::Tell& tell_;
   const QString into_;
   QList<qint64> customers_;
@@ -179,8 +189,15 @@ QString MoveReport::text() const {
 
 std::optional<schema::File> kindOfFile(const QString& name) {
   static const QRegularExpression year(u"^\\d{4}Foundation\\.mdb$"_s,
-                                       QRegularExpression::CaseInsensitiveOption);
+                                       QRegularExpression::CaseInsensitiveOption),
+      ledgerMonth(u"^db\\d{6}\\.mdb$"_s, QRegularExpression::CaseInsensitiveOption);
+  static const QStringList ledger{
+      u"dbPerTrader.mdb"_s, u"dbCharge.mdb"_s,    u"dbNonKum.mdb"_s,   u"dbProduct.mdb"_s,  u"dbMoney.mdb"_s,
+      u"LedgerList.mdb"_s,  u"PeriodInOut.mdb"_s, u"PerMonthly.mdb"_s, u"dbAnalysis.mdb"_s, u"dbDaily.mdb"_s,
+      u"dbInOut.mdb"_s,     u"dbTradeAll.mdb"_s,  u"dbResult.mdb"_s,   u"dbReTrade.mdb"_s,  u"dbList.mdb"_s};
   if (year.match(name).hasMatch()) return schema::File::Year;
+  if (ledgerMonth.match(name).hasMatch() || ledger.contains(name, Qt::CaseInsensitive))
+    return schema::File::Ledger;
   using schema::File;
   for (const auto& [known, kind] : {std::pair{basicName, File::Basic},
                                     {u"dbTax.mdb"_s, File::Tax},
@@ -212,24 +229,40 @@ bool holdsWork(Session& session) {
   }
 }
 
+QString ledgerFolder(const Session& session) {
+  const QString drive = session.pc.settings.GetSetting(u"온누리경영"_s, u"Drive"_s, u"Drive"_s, u"C:"_s);
+  return drive.left(1) + u":\\온누리경영\\Dbs\\"_s;
+}
+
+QString placeOf(const Session& session, const QString& nativeFolder) {
+  if (holdsOldBooks(nativeFolder)) return session.DbPath;
+  const auto isLedger = [&](const QString& name) {
+    return kindOfFile(name) == schema::File::Ledger && isOldFormat(nativeFolder + u'/' + name);
+  };
+  return std::ranges::any_of(filesOf(nativeFolder), isLedger) ? ledgerFolder(session) : QString();
+}
+
 MoveReport moveIn(Session& session, const QString& nativeFolder, const backup::Tell& tell) {
   if (!QFileInfo(nativeFolder).isDir()) throw jet::errorOf(3044, nativeFolder);
-  if (!holdsOldBooks(nativeFolder))
+  const QString target = placeOf(session, nativeFolder);
+  if (target.isEmpty())
     throw jet::Error(3024, nativeFolder + u"\n이 폴더에는 이전 형식의 Basic.mdb 가 없습니다."_s);
   const pc::Paths& paths = session.pc.paths;
-  const auto held = std::make_unique<backup::DataFolderAlone>(paths, session.DbPath);
+  auto held = std::make_unique<backup::DataFolderAlone>(paths, target);
   if (const QStringList busy = held->take(); !busy.isEmpty()) throw jet::errorOf(3045, busy.join(u", "_s));
-  beginPreparing(paths, session.DbPath, session.pc.clock.now());
+  beginPreparing(paths, target, session.pc.clock.now());
   try {
-    Run run(session, QDir::cleanPath(nativeFolder), tell);
+    Run run(session, QDir::cleanPath(nativeFolder), target, tell);
     run.bringFiles();
     run.makeMissing();
     run.checkFiles();
-    run.report.keptFolder = swapIn(paths, session.DbPath, session.pc.clock.now());
+    run.report.keptFolder = swapIn(paths, target, session.pc.clock.now());
+    held.reset();
+    backup::clearMarks(paths, run.report.keptFolder);
     writeReport(session, run.report);
     return run.report;
   } catch (...) {
-    dropPrepared(paths, session.DbPath);
+    dropPrepared(paths, target);
     throw;
   }
 }

@@ -34,10 +34,14 @@ struct MoveReport {
 std::optional<schema::File> kindOfFile(const QString& name);
 /** Whether a folder, as written or native, holds a Basic.mdb of the older format. */
 bool holdsOldBooks(const QString& nativeFolder);
+/** The companion ledger's folder, as written: its files have a place of their own. */
+QString ledgerFolder(const Session& session);
+/** Where the old files of a folder go, as written: the data folder, the ledger's folder, or '' when there are none. */
+QString placeOf(const Session& session, const QString& nativeFolder);
 /** Whether customers or sales lie in the data folder, which would be put aside. */
 bool holdsWork(Session& session);
 
-/** Reads nativeFolder and puts its books in the place of session.DbPath, whose files nobody may have open. Throws
+/** Reads nativeFolder and puts its books in their place (placeOf), whose files nobody may have open. Throws
  *  jet::Error and backup::Stopped; both folders are then as they were. */
 MoveReport moveIn(Session& session, const QString& nativeFolder, const backup::Tell& tell);
 

@@ -101,6 +101,7 @@ void loosenKeys(FittedTable& fitted) {
     for (const QString& name : index.fields) places.push_back(fieldAt(name));
     QSet<QStringList> seen;
     qint64 twice = 0;
+    QStringList which;
     for (const auto& row : fitted.rows) {
       QStringList key;
       bool isNull = false;
@@ -108,10 +109,19 @@ void loosenKeys(FittedTable& fitted) {
         isNull |= row[place].isNull();
         key << keyText(row[place]);
       }
-      twice += seen.contains(key) || (isNull && index.primary);
+      if (seen.contains(key) || (isNull && index.primary)) {
+        ++twice;
+        which = key;
+      }
       seen.insert(key);
     }
     if (twice == 0) continue;
+    // A number the store itself hands out: which of two rows the other tables mean, nobody can tell.
+    if (fitted.table.fields[places.front()].autonumber)
+      throw jet::Error(
+          3022,
+          u"%1의 자동번호 %2이(가) 겹치거나 비어 있어 가져올 수 없습니다. (%3)\n이전 프로그램에서 그 줄을 "
+          u"바로잡은 뒤 다시 하십시오."_s.arg(fitted.table.name, index.fields.first(), which.join(u", "_s)));
     index.primary = index.unique = false;
     fitted.notes << u"열쇠(%1)가 겹치거나 빈 줄 %2개: 모두 가져왔으나 겹침을 막지 않는 칸이 됨"_s
                         .arg(index.fields.join(u", "_s))

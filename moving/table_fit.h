@@ -16,6 +16,7 @@ struct FittedTable {
   QStringList unknownColumns;  ///< the old table's that we do not know, with how many values they hold
 };
 
+/** Throws jet::Error 3022 where an automatic number stands twice. */
 FittedTable fit(const jet::TableDef& ours, const OldTable& old, const std::vector<OldRow>& rows);
 
 /** Writes the rows into the new table and compares what is stored with what was read: rows, values that are not Null,

@@ -142,11 +142,14 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   Rows many;
   for (int at = 1; at <= 700; ++at)
     many.push_back({at, u"손님%1"_s.arg(at), at * 1.5, at % 2 == 0, 0, null, null, null});
-  many.push_back({5, longName, 3e9, false, 0, null, null, null});  // a code that stands twice
+  many.push_back({701, longName, 3e9, false, 0, null, null, null});
   put(u"Basic.mdb"_s, {clients(many),
                        {u"User"_s,
                         {{u"Company"_s}, {u"Rate"_s, JetType::Single}, {u"PayState"_s}},
-                        {{u"가스"_s, 0.3f, u"반올림"_s}}}});
+                        {{u"가스"_s, 0.3f, u"반올림"_s}}},
+                       {u"Bank"_s,
+                        {{u"BName"_s}, {u"BNumber"_s}, {u"BUser"_s}},
+                        {{u"농협"_s, u"1-2"_s, u"가"_s}, {u"농협"_s, u"1-2 "_s, u"나"_s}}}});
   put(u"dbDetail.mdb"_s,
       {{u"DealList"_s,
         {{u"DealDate"_s}, {u"CCode"_s}, {u"SaleSeq"_s}, {u"UnitCost"_s, JetType::Double}},
@@ -156,11 +159,21 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select Count(*), Sum(GasInit), Max(Len(Name)) From Client"_s),
             "701|3000368025|60");  // 1.5 x 700 x 701 / 2 = 368025, and 3,000,000,000
   EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select Rate, PayState From User"_s), "0.3|-");
+  EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select BUser From Bank Order By BUser"_s), "가\n나");
   EXPECT_EQ(rows(u"dbDetail.mdb"_s, u"Select DealDate, CCode, UnitCost From DealList"_s), "2026-03-02||0.1");
   const QString text = report.text();
-  EXPECT_TRUE(text.contains(u"열쇠(Code)가 겹치거나 빈 줄 1개"_s)) << text.toStdString();
+  EXPECT_TRUE(text.contains(u"열쇠(BName, BNumber)가 겹치거나 빈 줄 1개"_s)) << text.toStdString();
   EXPECT_TRUE(text.contains(u"Name: 50자에서 60자로 넓힘"_s)) << text.toStdString();
   EXPECT_TRUE(text.contains(u"PayState: 숫자가 아니어서 비워 둔 값 1개 (반올림)"_s)) << text.toStdString();
+}
+
+TEST_F(MoveIn, AnAutomaticNumberThatStandsTwiceIsTold) {
+  put(u"Basic.mdb"_s, {clients({{5, u"가"_s, 0.0, false, 0, null, null, null},
+                                {5, u"나"_s, 0.0, false, 0, null, null, null}})});
+  const auto [number, text] = failure();
+  EXPECT_EQ(number, 3022);
+  EXPECT_TRUE(text.contains(u"Client의 자동번호 Code이(가) 겹치거나 비어 있어"_s)) << text.toStdString();
+  EXPECT_FALSE(pc.paths.exists(u"C:\\RWGas\\Dbs"_s));
 }
 
 TEST_F(MoveIn, OldFilesInTheDataFolderItselfAreKeptBesideIt) {
@@ -184,6 +197,20 @@ TEST_F(MoveIn, OldFilesInTheDataFolderItselfAreKeptBesideIt) {
           u"2025Foundation.mdb: 고객이 없는 판매 1줄이 있습니다. 해온판매는 시작할 때 그런 줄을 지웁니다."_s));
   EXPECT_EQ(rows(u"2002Foundation.mdb"_s, u"Select Count(*) From Sale"_s), "0");
   EXPECT_EQ(rows(u"2025Foundation.mdb"_s, u"Select Count(*) From Sale"_s), "1");
+}
+
+TEST_F(MoveIn, TheLedgersFilesGoToTheLedgersFolder) {
+  const JetTable trader{u"Trader"_s,
+                        {{u"Code"_s}, {u"C_Name"_s}, {u"TotNoPay"_s, JetType::Long}},
+                        {{u"000001"_s, u"가나상사"_s, 1500}}};
+  put(u"dbPerTrader.mdb"_s, {trader}, 3);
+  put(u"db202603.mdb"_s, {{u"Sale"_s, {{u"Code"_s}, {u"SumKum"_s, JetType::Long}}, {{u"1"_s, 110}}}}, 3);
+  bring();
+  session.DbPath = u"C:\\온누리경영\\Dbs\\"_s;
+  EXPECT_EQ(rows(u"dbPerTrader.mdb"_s, u"Select Code, C_Name, TotNoPay From Trader"_s),
+            "000001|가나상사|1500");
+  EXPECT_EQ(rows(u"db202603.mdb"_s, u"Select Code, SumKum From Sale"_s), "1|110");
+  EXPECT_FALSE(pc.paths.exists(u"C:\\RWGas\\Dbs\\Basic.mdb"_s));
 }
 
 TEST_F(MoveIn, ATornFileIsToldAndBothFoldersStay) {
