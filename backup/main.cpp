@@ -22,7 +22,7 @@ constexpr pc::ProgramLine programLine{
     "  HDDAUTO         a backup on this PC that tells failures alone\n"
     "  UNZIP           the window, on the newest backup, to put it back\n"
     "Exit status 0 when the work was done.\n"
-    "  HAEON_PC      the folder that stands for the PC's drives and settings (~/.local/share/haeon)"};
+    "  HAEON_PC      the folder that stands for the drives and settings of the PC (~/.local/share/haeon)"};
 
 int workInWindow(pc::Pc& pc, Prompts& boxes, bool toRestore) {
   backup::FrmArchive window(pc, boxes);

@@ -112,10 +112,11 @@ bool ConvCashBook(Session& session, const QString& folder, const QString& oldFil
                         u"등록된 자료의 양에 따라 다소 시간이 걸릴 수도 있습니다."_s,
                     cashTitle);
     if (!isThere(paths, newPath)) {
-      prompts.MsgWarn(u"현금출납장 신버전 DB를 찾을 수 없습니다."_s + u'\n' +
-                          u"재설치를 하지 않은 경우 재설치를 하여 주시고,"_s + u'\n' +
-                          u"재설치를 한 경우 ["_s + supportNumber + u"]로 문의 바랍니다."_s,
-                      cashTitle);
+      prompts.MsgWarn(
+          u"현금출납장 신버전 DB를 찾을 수 없습니다."_s + u'\n' +
+              u"재설치를 하지 않은 경우 재설치를 하여 주시고,"_s + u'\n' +
+              QStringList{u"재설치를 한 경우 ["_s, supportNumber, u"]로 문의 바랍니다."_s}.join(QString()),
+          cashTitle);
       return false;
     }
     convertCashBook(session, oldPath, newPath);

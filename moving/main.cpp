@@ -25,7 +25,7 @@ constexpr pc::ProgramLine programLine{
     "What was in the data folder stays beside it under a dated name. A report of everything goes to standard "
     "output.\n"
     "Exit status 0 when the books are in their place, 1 with the reason when nothing was changed.\n"
-    "  HAEON_PC    the folder that stands for the PC's drives and settings (~/.local/share/haeon)"};
+    "  HAEON_PC    the folder that stands for the drives and settings of the PC (~/.local/share/haeon)"};
 
 /** Where nobody sits before a window: what would be said goes to the console. */
 class ConsolePrompts : public Prompts {

@@ -179,7 +179,7 @@ QString MoveReport::text() const {
   if (!unknown.isEmpty()) lines << QString() << u"[가져오지 않은 것]"_s << unknown;
   QString file;
   for (const MovedTable& table : tables) {
-    if (table.file != file) lines << QString() << u'[' + table.file + u']';
+    if (table.file != file) lines << QString() << u"[%1]"_s.arg(table.file);
     file = table.file;
     lines << u"%1  %2줄"_s.arg(table.name).arg(table.rows);
     for (const QString& note : table.notes) lines << u"    "_s + note;
