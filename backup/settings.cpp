@@ -2,6 +2,7 @@
 
 #include "pc/pc.h"
 #include "store/data_files.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,9 +10,6 @@ namespace backup {
 
 namespace {
 
-const QString application = u"Backup"_s, section = u"설정"_s;
-const QString folderKey = u"백업폴더"_s, keepKey = u"보관개수"_s, serverFolderKey = u"서버폴더"_s,
-              serverCommandKey = u"서버명령"_s, remindKey = u"종료알림"_s;
 const QString usualFolder = u"C:\\RWGas\\BackUp\\"_s;
 
 QString asFolder(const QString& written) {
@@ -23,33 +21,29 @@ QString asFolder(const QString& written) {
 }  // namespace
 
 Settings readSettings(const pc::Pc& pc) {
-  const auto stored = [&](const QString& key, const QString& fallback = {}) {
-    return pc.settings.GetSetting(application, section, key, fallback);
-  };
   Settings settings;
-  settings.folder = asFolder(stored(folderKey));
+  settings.folder = asFolder(pc.settings.read(setting::ArchiveFolder));
   if (settings.folder.isEmpty()) settings.folder = usualFolder;
   bool isNumber = false;
-  const int keep = stored(keepKey).toInt(&isNumber);
+  const int keep = pc.settings.read(setting::ArchivesKept).toInt(&isNumber);
   if (isNumber) settings.keep = qBound(1, keep, mostKept);
-  settings.serverFolder = asFolder(stored(serverFolderKey));
-  settings.serverCommand = stored(serverCommandKey).trimmed();
-  settings.remindAtExit = stored(remindKey, u"1"_s) != "0"_L1;
+  settings.serverFolder = asFolder(pc.settings.read(setting::ArchiveServerFolder));
+  settings.serverCommand = pc.settings.read(setting::ArchiveServerCommand).trimmed();
+  settings.remindAtExit = pc.settings.read(setting::BackupRemindedAtExit) != "0"_L1;
   return settings;
 }
 
 bool writeSettings(pc::Pc& pc, const Settings& settings) {
-  const auto store = [&](const QString& key, const QString& value) {
-    return pc.settings.SaveSetting(application, section, key, value);
-  };
-  return store(folderKey, asFolder(settings.folder)) && store(keepKey, QString::number(settings.keep)) &&
-         store(serverFolderKey, asFolder(settings.serverFolder)) &&
-         store(serverCommandKey, settings.serverCommand.trimmed()) &&
-         store(remindKey, settings.remindAtExit ? u"1"_s : u"0"_s);
+  pc::Settings& store = pc.settings;
+  return store.write(setting::ArchiveFolder, asFolder(settings.folder)) &&
+         store.write(setting::ArchivesKept, QString::number(settings.keep)) &&
+         store.write(setting::ArchiveServerFolder, asFolder(settings.serverFolder)) &&
+         store.write(setting::ArchiveServerCommand, settings.serverCommand.trimmed()) &&
+         store.write(setting::BackupRemindedAtExit, settings.remindAtExit);
 }
 
 QString dataFolderToPack(const pc::Pc& pc) {
-  const QString told = asFolder(pc.settings.GetSetting(application, u"DB경로"_s, u"경로"_s));
+  const QString told = asFolder(pc.settings.read(setting::BackupFolder));
   return told.isEmpty() ? installedDataFolder() : told;
 }
 

@@ -2,6 +2,7 @@
 
 #include "links/cash_book.h"
 #include "store/data_files.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,14 +24,14 @@ QString folderOf(Session& session, const CompanionTool& tool) {
   const pc::Paths& paths = session.pc.paths;
   const QString own = paths.programFolder();
   if (paths.exists(own + program)) return own;
-  const QString section = u"General"_s, key = u"AppPath"_s;
-  QString folder = session.pc.settings.GetSetting(application, section, key);
+  const pc::Setting place = setting::toolFolderOf(application);
+  QString folder = session.pc.settings.read(place);
   if (folder.isEmpty()) {
     session.prompts.MsgWarn(missing);
     return {};
   }
   if (!paths.exists(folder)) {
-    if (folder != own) session.pc.settings.SaveSetting(application, section, key, own);
+    if (folder != own) session.pc.settings.write(place, own);
     folder = own;
   }
   if (folder.endsWith(u'\\')) folder.chop(1);

@@ -14,6 +14,7 @@
 #include "store/folder_swap.h"
 #include "store/jet/error_texts.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -230,7 +231,7 @@ bool holdsWork(Session& session) {
 }
 
 QString ledgerFolder(const Session& session) {
-  const QString drive = session.pc.settings.GetSetting(u"온누리경영"_s, u"Drive"_s, u"Drive"_s, u"C:"_s);
+  const QString drive = session.pc.settings.read(setting::ProgramDrive);
   return drive.left(1) + u":\\온누리경영\\Dbs\\"_s;
 }
 

@@ -17,6 +17,18 @@ inline constexpr Setting ReportFolder{program, surroundings,
 inline constexpr Setting NoticeHidden{program, surroundings, u"NoMsg", u"0"};
 inline constexpr Setting PostCodesRebuilt{program, registration, u"PostC"};  ///< "ok" once it was done
 inline constexpr Setting BackupFolder{u"Backup", u"DB경로", u"경로"};        ///< told to the backup tool
+/** The drive of the installed folder, as the setup wrote it. */
+inline constexpr Setting ProgramDrive{u"온누리경영", u"Drive", u"Drive", u"C:"};
+// What the data compressor is told to do.
+inline constexpr Setting ArchiveFolder{u"Backup", u"설정", u"백업폴더"};
+inline constexpr Setting ArchivesKept{u"Backup", u"설정", u"보관개수"};
+inline constexpr Setting ArchiveServerFolder{u"Backup", u"설정", u"서버폴더"};
+inline constexpr Setting ArchiveServerCommand{u"Backup", u"설정", u"서버명령"};
+inline constexpr Setting BackupRemindedAtExit{u"Backup", u"설정", u"종료알림", u"1"};
+/** Where a companion program lies when it is not in the program's folder. */
+constexpr Setting toolFolderOf(QStringView application) {
+  return {application, u"General", u"AppPath"};
+}
 inline constexpr Setting MapFolder{u"MainProg", u"경로설정", u"Map경로"};
 
 // --- the company and its bills ----------------------------------------------------------------------------------

@@ -73,9 +73,7 @@ struct ClosingDesk : MeterDesk {
     EXPECT_FALSE(session.dbYear.hasTable("TmpTbl"));
   }
 
-  jet::Database year(int number) {
-    return session.wsMain.OpenDatabase(yearFile(session, number));
-  }
+  jet::Database year(int number) { return session.wsMain.OpenDatabase(yearFile(session, number)); }
   /** Of a year's file; fields parted by "|", rows by ";". */
   QString rowsIn(int number, const QString& sql) {
     const jet::Database now = session.dbYear;
