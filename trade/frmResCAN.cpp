@@ -23,6 +23,15 @@ frmResCAN::frmResCAN(FormContext& context, QWidget* parent)
   cans->bind(empty, u"CANEmpty"_s, u"빈용기 수량을 입력합니다"_s);
   cans->bind(full, u"CANFull"_s, u"실병 수량을 입력합니다"_s);
   cans->bind(total, u"CANTotal"_s, u"총용기 수량을 입력합니다"_s);
+  // What the van holds is what stands on it, full or empty; another total may still be typed.
+  for (MoneyBox* const box : {empty, full})
+    connect(box, &QLineEdit::textEdited, this, [=] {
+      if (!empty->plainText().isEmpty() && !full->plainText().isEmpty())
+        total->setValue(empty->value() + full->value());
+    });
+  onKey(Qt::Key_F10, [this] { cans_.print(); });
+  setBottomLine(u"F10:인쇄  Esc:닫기"_s);
+  start();
   attachSearch(*this, person, name, [person, &context] {
     const auto chosen = context.pickers.searchResponse();
     if (chosen) person->setText(*chosen);
@@ -35,13 +44,4 @@ frmResCAN::frmResCAN(FormContext& context, QWidget* parent)
     size->setText(chosen->size);
     return true;
   });
-  // What the van holds is what stands on it, full or empty; another total may still be typed.
-  for (MoneyBox* const box : {empty, full})
-    connect(box, &QLineEdit::textEdited, this, [=] {
-      if (!empty->plainText().isEmpty() && !full->plainText().isEmpty())
-        total->setValue(empty->value() + full->value());
-    });
-  onKey(Qt::Key_F10, [this] { cans_.print(); });
-  setBottomLine(u"F10:인쇄  Esc:닫기"_s);
-  start();
 }

@@ -50,6 +50,7 @@ frmVolumeEstimate::frmVolumeEstimate(FormContext& context, QWidget* parent)
   onKey(Qt::Key_F10, [this] { forecast_.print(); });
   onKey(Qt::Key_Escape, [this] { close(); });
   showHelp(u" 지난 8회의 배달일자를 기준으로 예상일자를 추출합니다"_s);
+  resize(sizeHint());
 }
 
 QComboBox* frmVolumeEstimate::dayPart(const QString& name, int most, QWidget* parent) {

@@ -12,7 +12,7 @@ class Pickers;
 void attachPostCode(Form& form, Pickers& pickers, QLineEdit* code, QLineEdit* address);
 
 /** The box takes its text from a search alone: F12, and Enter while it is empty, run it; Delete empties the box. After a
- *  choice, which search tells by True, the cursor goes to next. */
+ *  choice, which search tells by True, the cursor goes to next. Attach after the Enter order. */
 void attachSearch(Form& form, QLineEdit* box, QWidget* next, std::function<bool()> search);
 
 /** F12 in the box opens the calendar on the box's date. */

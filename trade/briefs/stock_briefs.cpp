@@ -10,6 +10,7 @@ namespace {
 BriefColumn stockColumn(const QString& header, const QString& group, const QString& staged) {
   BriefColumn column = piecesColumn(header, {}, staged);
   column.group = group;
+  column.sum = false;  // cylinders of three and of fifty kilograms make no sum
   return column;
 }
 
