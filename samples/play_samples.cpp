@@ -49,6 +49,9 @@ void playDay(const samples::Stage::Options& options) {
   row("cylinders held (CANTotalHold)", report.before.total, report.after.total);
   out() << "\nlines of the day (kind, item, size, number, income, credit)\n";
   for (const QString& line : report.lines) out() << "  " << line << '\n';
+  out() << "purchases of the day (station, kind, item, size, number, payment, credit)\n";
+  for (const QString& line : report.purchases) out() << "  " << line << '\n';
+  out() << "full 20 kg cylinders in the month (opening, bought, sold, closing)\n  " << report.stock << '\n';
 }
 
 void playMonth(const samples::Stage::Options& options) {
