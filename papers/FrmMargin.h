@@ -1,23 +1,16 @@
 #pragma once
 // How far each kind of document is moved on its paper.
-#include "ui/forms/dialog.h"
+#include "papers/form_document_kinds.h"
 
-struct FormContext;
 class QLineEdit;
-class QListWidget;
 
-class FrmMargin : public Dialog {
+class FrmMargin : public DocumentKindDialog {
  public:
   explicit FrmMargin(FormContext& context, QWidget* parent = nullptr);
-  /** Puts the list on a kind of document. */
-  void showPage(const QString& kind);
 
  private:
-  QString kind() const;
-  void showKind();
+  void showKind() override;
   void store();
 
-  FormContext& context_;
-  QListWidget* list1_;
   QLineEdit *txtTop_, *txtLeft_;
 };

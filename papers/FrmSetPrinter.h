@@ -1,25 +1,18 @@
 #pragma once
 // Which printer each kind of document goes to.
-#include "ui/forms/dialog.h"
+#include "papers/form_document_kinds.h"
 
-struct FormContext;
 class QComboBox;
 class QLabel;
-class QListWidget;
 
-class FrmSetPrinter : public Dialog {
+class FrmSetPrinter : public DocumentKindDialog {
  public:
   explicit FrmSetPrinter(FormContext& context, QWidget* parent = nullptr);
-  /** Puts the list on a kind of document. */
-  void showPage(const QString& kind);
 
  private:
-  QString kind() const;
-  void showKind();
+  void showKind() override;
   void store();
 
-  FormContext& context_;
-  QListWidget* list1_;
   QComboBox* cboPrinter_;
   QLabel* lblChosen_;
 };

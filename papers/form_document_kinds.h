@@ -1,22 +1,29 @@
 #pragma once
-// The list of document kinds that the set-up windows share.
-#include <QListWidget>
-
+// The set-up windows that keep something for each kind of document: the kinds at the left, its boxes at the right.
 #include "papers/paper_printer.h"
+#include "ui/forms/dialog.h"
 
-/** List1, on its first kind and as wide as its entries. */
-inline QListWidget* documentKindList() {
-  auto* list = new QListWidget;
-  list->setObjectName(QStringLiteral("List1"));
-  list->setSpacing(1);
-  list->addItems(documentKinds());
-  list->setCurrentRow(0);
-  list->setFixedWidth(list->sizeHintForColumn(0) + 40);
-  list->setMinimumHeight(list->sizeHintForRow(0) * (list->count() + 1));
-  return list;
-}
+struct FormContext;
+class QListWidget;
 
-inline void chooseDocumentKind(QListWidget& list, const QString& kind) {
-  const qsizetype place = documentKinds().indexOf(kind);
-  if (place >= 0) list.setCurrentRow(int(place));
-}
+class DocumentKindDialog : public Dialog {
+ public:
+  /** Puts the list on a kind of document. */
+  void showPage(const QString& kind);
+
+ protected:
+  DocumentKindDialog(const QString& name, const QString& caption, FormContext& context, QWidget* parent);
+  /** The chosen kind is shown now and whenever another is chosen; for the end of the derived constructor. */
+  void start();
+  virtual void showKind() = 0;
+
+  Session& session() const { return session_; }
+  QWidget* panel() const { return panel_; }  ///< for the boxes of a kind
+  QListWidget* list() const { return list_; }
+  QString kind() const;
+
+ private:
+  Session& session_;
+  QListWidget* list_;
+  QWidget* panel_;
+};

@@ -33,27 +33,14 @@ bool isSameCan(const RegisterFields& one, const RegisterFields& other) {
 
 CanBook::CanBook(Session& session)
     : RegisterRules(session,
-                    {u"ResCAN"_s, u"ResName"_s, true, {{u"LPGName"_s, true}, {u"CANSize"_s, false}}}) {
-  const auto pieces = [](const QString& header) {
-    return SpreadColumn{
-        .header = header, .width = 11, .kind = CellKind::Money, .align = CellAlign::Right, .locked = true};
-  };
-  list_.setColumns({{.header = u"담당자"_s, .width = 14, .locked = true},
-                    {.header = u"용기명"_s, .width = 16, .locked = true},
-                    {.header = u"용량"_s, .width = 8, .align = CellAlign::Center, .locked = true},
-                    pieces(u"빈용기"_s),
-                    pieces(u"실병"_s),
-                    pieces(u"총용기"_s)});
-}
-
-QString CanBook::listStatement() const {
-  return u"Select * From ResCAN Order By ResName, LPGName, CANSize"_s;
-}
-
-std::vector<QString> CanBook::cells(const RegisterFields& record) const {
-  return {record[u"ResName"_s],  record[u"LPGName"_s], record[u"CANSize"_s],
-          record[u"CANEmpty"_s], record[u"CANFull"_s], record[u"CANTotal"_s]};
-}
+                    {u"ResCAN"_s, u"ResName"_s, true, {{u"LPGName"_s, true}, {u"CANSize"_s, false}}}, canTitle,
+                    {u"Select * From ResCAN Order By ResName, LPGName, CANSize"_s,
+                     {{u"ResName"_s, column::text(u"담당자"_s, 14)},
+                      {u"LPGName"_s, column::text(u"용기명"_s, 16)},
+                      {u"CANSize"_s, column::centred(u"용량"_s, 8)},
+                      {u"CANEmpty"_s, column::money(u"빈용기"_s, 11)},
+                      {u"CANFull"_s, column::money(u"실병"_s, 11)},
+                      {u"CANTotal"_s, column::money(u"총용기"_s, 11)}}}) {}
 
 RegisterRules::Outcome CanBook::store(const RegisterFields& boxes) {
   for (const CanBox& box : canBoxes)

@@ -11,8 +11,6 @@ class CanBook : public RegisterRules {
   void print();
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   Outcome insert(const RegisterFields& boxes) override { return store(boxes); }
   Outcome change(const RegisterFields& boxes) override { return store(boxes); }
   Outcome saveWithoutRow(const RegisterFields& boxes) override { return store(boxes); }

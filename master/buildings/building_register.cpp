@@ -5,7 +5,6 @@
 #include <map>
 
 #include "store/data_access.h"
-#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,37 +17,38 @@ bool ticked(const RegisterFields& fields, const QString& name) {
   return fields[name].toInt() != 0;
 }
 
+/** Of a metered block alone. */
+RegisterColumn ofMetered(const QString& field, const SpreadColumn& look) {
+  return {field, look, [field](const RegisterFields& record) {
+            return ticked(record, u"Evaporation"_s) ? record[field] : QString();
+          }};
+}
+
+RegisterList buildingList(HouseStyle style) {
+  const bool apartment = style == HouseStyle::Apartment;
+  return {
+      apartment ? u"Select * From APT Where Gubun = True  "_s : u"Select * From APT Where Gubun = False "_s,
+      {{u"Name"_s, column::text(apartment ? u"아파트명"_s : u"다가구명"_s, 20)},
+       {u"Dong"_s, column::centred(u"동"_s, 7)},
+       {u"Structure"_s, column::centred(u"세대구조"_s, 9),
+        [](const RegisterFields& record) {
+          return ticked(record, u"Structure"_s) ? u"계단식"_s : u"복도식"_s;
+        }},
+       {u"Height"_s, column::integer(u"층수"_s, 5)},
+       {u"Width"_s, column::integer(u"층당세대"_s, 9)},
+       {{}, column::money(u"세대수"_s, 7)},  // dressList counts them
+       ofMetered(u"Pressure"_s, column::centred(u"압력조정기"_s, 11)),
+       ofMetered(u"Eva"_s, column::money(u"체적단가"_s, 9)),
+       {u"delaypay"_s, column::number(u"연체료율"_s, 9)},
+       {u"PostCode"_s, column::centred(u"우편번호"_s, 9)},
+       {u"Address"_s, column::text(u"주소"_s, 36)}}};
+}
+
 }  // namespace
 
 BuildingRegister::BuildingRegister(Session& session, HouseStyle style)
-    : RegisterRules(session, {u"APT"_s}), style_(style) {
-  list_.setColumns(column::shown(
-      {column::text(style == HouseStyle::Apartment ? u"아파트명"_s : u"다가구명"_s, 20),
-       column::centred(u"동"_s, 7), column::centred(u"세대구조"_s, 9), column::integer(u"층수"_s, 5),
-       column::integer(u"층당세대"_s, 9), column::money(u"세대수"_s, 7), column::centred(u"압력조정기"_s, 11),
-       column::money(u"체적단가"_s, 9), column::number(u"연체료율"_s, 9), column::centred(u"우편번호"_s, 9),
-       column::text(u"주소"_s, 36)}));
+    : RegisterRules(session, {u"APT"_s}, buildingTitle, buildingList(style)), style_(style) {
   ::showUnits(units_, {}, true);
-}
-
-QString BuildingRegister::listStatement() const {
-  return style_ == HouseStyle::Apartment ? u"Select * From APT Where Gubun = True  "_s
-                                         : u"Select * From APT Where Gubun = False "_s;
-}
-
-std::vector<QString> BuildingRegister::cells(const RegisterFields& record) const {
-  const bool metered = ticked(record, u"Evaporation"_s);
-  return {record[u"Name"_s],
-          record[u"Dong"_s],
-          ticked(record, u"Structure"_s) ? u"계단식"_s : u"복도식"_s,
-          record[u"Height"_s],
-          record[u"Width"_s],
-          u"0"_s,
-          metered ? record[u"Pressure"_s] : QString(),
-          metered ? record[u"Eva"_s] : QString(),
-          record[u"delaypay"_s],
-          record[u"PostCode"_s],
-          record[u"Address"_s]};
 }
 
 /** The households that stand: a block left half made by a power cut shows here. */

@@ -23,8 +23,6 @@ class BuildingRegister : public RegisterRules {
   std::function<std::function<bool(int done)>(int count)> beginWork;
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   RegisterFields blank() const override;
   Outcome insert(const RegisterFields& boxes) override;
   Outcome change(const RegisterFields& boxes) override;

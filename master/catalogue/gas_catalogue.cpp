@@ -1,7 +1,6 @@
 #include "master/catalogue/gas_catalogue.h"
 
 #include "store/data_access.h"
-#include "ui/model/column.h"
 
 #include <QtMath>
 
@@ -15,16 +14,24 @@ double gasNumber(const RegisterFields& fields, const QString& column) {
 }
 }  // namespace
 
-GasCatalogue::GasCatalogue(Session& session) : RegisterRules(session, {u"LPG"_s}) {
-  std::vector<SpreadColumn> columns{column::text(u"품명"_s, 12),        column::right(u"규격"_s, 6),
-                                    column::money(u"가스구입가"_s, 10), column::money(u"가스판매가"_s, 10),
-                                    column::money(u"용기구입가"_s, 10), column::money(u"용기판매가"_s, 10),
-                                    column::money(u"실병재고"_s, 8),    column::money(u"공병재고"_s, 8),
-                                    column::money(u"용기대여"_s, 8),    column::money(u"보유용기"_s, 8),
-                                    column::money(u"가스재고"_s, 9),    column::money(u"재고액"_s, 12)};
-  for (SpreadColumn& each : columns) each.group = u"가스/용기 현황"_s;
-  list_.setColumns(column::shown(std::move(columns)));
-}
+GasCatalogue::GasCatalogue(Session& session)
+    : RegisterRules(session, {u"LPG"_s}, gasTitle,
+                    {u"Select * From LPG Order By Code"_s,
+                     {{u"LPGName"_s, column::text(u"품명"_s, 12)},
+                      {u"Size"_s, column::right(u"규격"_s, 6)},
+                      {u"LPGPurchase"_s, column::money(u"가스구입가"_s, 10)},
+                      {u"LPGSelling"_s, column::money(u"가스판매가"_s, 10)},
+                      {u"CANPurchase"_s, column::money(u"용기구입가"_s, 10)},
+                      {u"CANSelling"_s, column::money(u"용기판매가"_s, 10)},
+                      {u"CANFull"_s, column::money(u"실병재고"_s, 8)},
+                      {u"CANEmpty"_s, column::money(u"공병재고"_s, 8)},
+                      {u"CANLoan"_s, column::money(u"용기대여"_s, 8)},
+                      {{}, column::money(u"보유용기"_s, 8), totalHold},
+                      {u"LPGStock"_s, column::money(u"가스재고"_s, 9)},
+                      {{},
+                       column::money(u"재고액"_s),
+                       [](const RegisterFields& record) { return QString::number(stockWorth(record)); }}},
+                     u"가스/용기 현황"_s}) {}
 
 QString GasCatalogue::defaultName() {
   return u"LPG"_s;
@@ -40,17 +47,6 @@ qint64 GasCatalogue::stockWorth(const RegisterFields& record) {
   const double size = gasNumber(record, u"Size"_s);
   if (size == 0) return 0;
   return qRound64(gasNumber(record, u"LPGStock"_s) * gasNumber(record, u"LPGPurchase"_s) / size);
-}
-
-QString GasCatalogue::listStatement() const {
-  return u"Select * From LPG Order By Code"_s;
-}
-
-std::vector<QString> GasCatalogue::cells(const RegisterFields& record) const {
-  return {record[u"LPGName"_s],    record[u"Size"_s],        record[u"LPGPurchase"_s],
-          record[u"LPGSelling"_s], record[u"CANPurchase"_s], record[u"CANSelling"_s],
-          record[u"CANFull"_s],    record[u"CANEmpty"_s],    record[u"CANLoan"_s],
-          totalHold(record),       record[u"LPGStock"_s],    QString::number(stockWorth(record))};
 }
 
 RegisterRules::Outcome GasCatalogue::insert(const RegisterFields& boxes) {
@@ -115,8 +111,4 @@ RegisterRules::Outcome GasCatalogue::erase() {
       u"선택된 LPG/용기에 대한 자료를 삭제하시겠습니까?"_s, gasTitle, [&] {
         session_.dbBasic.Execute(u"Delete * From LPG Where Code = "_s + plainNumber(record()[u"Code"_s]));
       });
-}
-
-RegisterRules::Outcome GasCatalogue::saveWithoutRow(const RegisterFields&) {
-  return refuse(u"신규등록은 신규버튼을 누른 후 입력해 주십시오"_s, gasTitle);
 }

@@ -16,12 +16,9 @@ class GasCatalogue : public RegisterRules {
   static qint64 stockWorth(const RegisterFields& record);
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   Outcome insert(const RegisterFields& boxes) override;
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
-  Outcome saveWithoutRow(const RegisterFields& boxes) override;
   QStringList runningColumns() const override;
 
  private:

@@ -1,7 +1,6 @@
 #include "master/catalogue/util_catalogue.h"
 
 #include "store/data_access.h"
-#include "ui/model/column.h"
 
 #include <QtMath>
 
@@ -11,30 +10,23 @@ namespace {
 const QString utilTitle = u"시설/자재 관리자"_s;
 
 /** Whole won, half a won away from zero. */
-qint64 utilStockWorth(const RegisterFields& record) {
-  return qRound64(typedNumber(record[u"UtilStock"_s]).toDouble() *
-                  typedNumber(record[u"UtilPurchase"_s]).toDouble());
+QString utilStockWorth(const RegisterFields& record) {
+  return QString::number(qRound64(typedNumber(record[u"UtilStock"_s]).toDouble() *
+                                  typedNumber(record[u"UtilPurchase"_s]).toDouble()));
 }
 }  // namespace
 
-UtilCatalogue::UtilCatalogue(Session& session) : RegisterRules(session, {u"Util"_s}) {
-  std::vector<SpreadColumn> columns{column::text(u"품명"_s, 24),      column::text(u"규격"_s, 14),
-                                    column::money(u"구입단가"_s, 12), column::money(u"판매단가"_s, 12),
-                                    column::money(u"재고량"_s, 10),   column::money(u"재고액"_s, 14),
-                                    column::integer(u"코드"_s, 7)};
-  for (SpreadColumn& each : columns) each.group = u"시설/자재 현황"_s;
-  list_.setColumns(column::shown(std::move(columns)));
-}
-
-QString UtilCatalogue::listStatement() const {
-  return u"Select * From Util Order By Code"_s;
-}
-
-std::vector<QString> UtilCatalogue::cells(const RegisterFields& record) const {
-  return {record[u"Name"_s],        record[u"Size"_s],      record[u"UtilPurchase"_s],
-          record[u"UtilSelling"_s], record[u"UtilStock"_s], QString::number(utilStockWorth(record)),
-          record[u"Code"_s]};
-}
+UtilCatalogue::UtilCatalogue(Session& session)
+    : RegisterRules(session, {u"Util"_s}, utilTitle,
+                    {u"Select * From Util Order By Code"_s,
+                     {{u"Name"_s, column::text(u"품명"_s, 24)},
+                      {u"Size"_s, column::text(u"규격"_s, 14)},
+                      {u"UtilPurchase"_s, column::money(u"구입단가"_s)},
+                      {u"UtilSelling"_s, column::money(u"판매단가"_s)},
+                      {u"UtilStock"_s, column::money(u"재고량"_s, 10)},
+                      {{}, column::money(u"재고액"_s, 14), utilStockWorth},
+                      {u"Code"_s, column::integer(u"코드"_s, 7)}},
+                     u"시설/자재 현황"_s}) {}
 
 RegisterRules::Outcome UtilCatalogue::checkRequired(const RegisterFields& boxes) {
   if (boxes[u"Name"_s].isEmpty())
@@ -85,8 +77,4 @@ RegisterRules::Outcome UtilCatalogue::erase() {
   return eraseChosen(record()[u"Name"_s] + u' ' + record()[u"Size"_s], u"선택된 자료를 삭제하시겠습니까?"_s,
                      utilTitle,
                      [&] { session_.dbBasic.Execute(u"Delete * From Util"_s + whereIs(record())); });
-}
-
-RegisterRules::Outcome UtilCatalogue::saveWithoutRow(const RegisterFields&) {
-  return refuse(u"신규등록은 신규버튼을 누른 후 입력해 주십시오"_s, utilTitle);
 }

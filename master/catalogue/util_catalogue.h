@@ -9,12 +9,9 @@ class UtilCatalogue : public RegisterRules {
   explicit UtilCatalogue(Session& session);
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   Outcome insert(const RegisterFields& boxes) override;
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
-  Outcome saveWithoutRow(const RegisterFields& boxes) override;
   QStringList runningColumns() const override { return {"UtilStock"}; }
 
  private:

@@ -1,7 +1,6 @@
 #include "master/catalogue/volume_register.h"
 
 #include "store/data_access.h"
-#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,18 +10,13 @@ constexpr int regulatorCodeColumn = 4;
 const QString volumeTitle = u"체적 관리자"_s;
 }  // namespace
 
-VolumeRegister::VolumeRegister(Session& session) : RegisterRules(session, {u"Volume"_s}) {
-  list_.setColumns(column::shown({column::text(u"규격"_s, 16), column::text(u"명칭"_s, 24),
-                                  column::money(u"단가"_s, 12), column::hidden(u"코드"_s)}));
-}
-
-QString VolumeRegister::listStatement() const {
-  return u"Select Size, Name, Unit, Code From Volume Order By Code"_s;
-}
-
-std::vector<QString> VolumeRegister::cells(const RegisterFields& record) const {
-  return {record[u"Size"_s], record[u"Name"_s], record[u"Unit"_s], record[u"Code"_s]};
-}
+VolumeRegister::VolumeRegister(Session& session)
+    : RegisterRules(session, {u"Volume"_s}, volumeTitle,
+                    {u"Select Size, Name, Unit, Code From Volume Order By Code"_s,
+                     {{u"Size"_s, column::text(u"규격"_s, 16)},
+                      {u"Name"_s, column::text(u"명칭"_s, 24)},
+                      {u"Unit"_s, column::money(u"단가"_s)},
+                      {u"Code"_s, column::hidden(u"코드"_s)}}}) {}
 
 void VolumeRegister::dressList() {
   for (int row = 1; row <= list_.MaxRows(); ++row)

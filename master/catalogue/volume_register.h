@@ -14,8 +14,6 @@ class VolumeRegister : public RegisterRules {
   static constexpr int fixedColour = 0xCDEAF8;
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   Outcome insert(const RegisterFields& boxes) override;
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;

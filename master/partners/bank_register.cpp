@@ -1,7 +1,6 @@
 #include "master/partners/bank_register.h"
 
 #include "store/data_access.h"
-#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,18 +8,12 @@ namespace {
 const QString bankTitle = u"수납은행 관리자"_s;
 }
 
-BankRegister::BankRegister(Session& session) : RegisterRules(session, {u"Bank"_s, u"BName"_s, true}) {
-  list_.setColumns(column::shown(
-      {column::text(u"은행명"_s, 24), column::centred(u"계좌번호"_s, 26), column::text(u"예금주"_s, 24)}));
-}
-
-QString BankRegister::listStatement() const {
-  return u"Select * From Bank"_s;
-}
-
-std::vector<QString> BankRegister::cells(const RegisterFields& record) const {
-  return {record[u"BName"_s], record[u"BNumber"_s], record[u"BUser"_s]};
-}
+BankRegister::BankRegister(Session& session)
+    : RegisterRules(session, {u"Bank"_s, u"BName"_s, true}, bankTitle,
+                    {u"Select * From Bank"_s,
+                     {{u"BName"_s, column::text(u"은행명"_s, 24)},
+                      {u"BNumber"_s, column::centred(u"계좌번호"_s, 26)},
+                      {u"BUser"_s, column::text(u"예금주"_s, 24)}}}) {}
 
 RegisterRules::Outcome BankRegister::store(const RegisterFields& boxes) {
   const QString name = boxes[u"BName"_s];

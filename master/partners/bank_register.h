@@ -8,8 +8,6 @@ class BankRegister : public RegisterRules {
   explicit BankRegister(Session& session);
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   Outcome insert(const RegisterFields& boxes) override { return store(boxes); }
   Outcome change(const RegisterFields& boxes) override { return store(boxes); }
   Outcome saveWithoutRow(const RegisterFields& boxes) override { return store(boxes); }

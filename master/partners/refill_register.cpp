@@ -2,7 +2,6 @@
 
 #include "store/data_access.h"
 #include "store/year_file.h"
-#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,21 +11,16 @@ const QString companyMissing = u"상호는 필수입력사항입니다!"_s;
 }  // namespace
 
 RefillRegister::RefillRegister(Session& session)
-    : RegisterRules(session, {u"RefillState"_s, u"Code"_s, true}) {
-  list_.setColumns(column::shown({column::text(u"상호"_s, 18), column::text(u"대표자"_s, 8),
-                                  column::centred(u"사업자번호"_s, 13), column::centred(u"전화번호"_s, 13),
-                                  column::centred(u"팩스"_s, 13), column::money(u"가스미불"_s, 11),
-                                  column::money(u"자재미불"_s, 11), column::text(u"주소"_s, 24)}));
-}
-
-QString RefillRegister::listStatement() const {
-  return u"Select * From RefillState Order By Code"_s;
-}
-
-std::vector<QString> RefillRegister::cells(const RegisterFields& record) const {
-  return {record[u"Company"_s], record[u"User"_s],    record[u"BusCode"_s],  record[u"Tel"_s],
-          record[u"Fax"_s],     record[u"GasInit"_s], record[u"UtilInit"_s], record[u"Address"_s]};
-}
+    : RegisterRules(session, {u"RefillState"_s, u"Code"_s, true}, refillTitle,
+                    {u"Select * From RefillState Order By Code"_s,
+                     {{u"Company"_s, column::text(u"상호"_s, 18)},
+                      {u"User"_s, column::text(u"대표자"_s, 8)},
+                      {u"BusCode"_s, column::centred(u"사업자번호"_s, 13)},
+                      {u"Tel"_s, column::centred(u"전화번호"_s, 13)},
+                      {u"Fax"_s, column::centred(u"팩스"_s, 13)},
+                      {u"GasInit"_s, column::money(u"가스미불"_s, 11)},
+                      {u"UtilInit"_s, column::money(u"자재미불"_s, 11)},
+                      {u"Address"_s, column::text(u"주소"_s, 24)}}}) {}
 
 bool RefillRegister::nameAccepted(const QString& company, const QString& ownCode) {
   const QString others = ownCode.isEmpty() ? QString() : u" And Code <> '"_s + plainText(ownCode) + u"'"_s;
@@ -114,8 +108,4 @@ RegisterRules::Outcome RefillRegister::erase() {
   return eraseAsShown(refillTitle, [&] {
     session_.dbBasic.Execute(u"Delete * From RefillState Where company = '"_s + plainText(company) + u"'"_s);
   });
-}
-
-RegisterRules::Outcome RefillRegister::saveWithoutRow(const RegisterFields&) {
-  return refuse(u"신규등록은 신규버튼을 누른 후 입력해 주십시오"_s, refillTitle);
 }

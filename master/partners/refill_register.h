@@ -8,12 +8,9 @@ class RefillRegister : public RegisterRules {
   explicit RefillRegister(Session& session);
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   Outcome insert(const RegisterFields& boxes) override;
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
-  Outcome saveWithoutRow(const RegisterFields& boxes) override;
   QStringList runningColumns() const override { return {"GasInit", "UtilInit"}; }
 
  private:

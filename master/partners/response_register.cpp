@@ -2,7 +2,6 @@
 
 #include "store/data_access.h"
 #include "store/date_text.h"
-#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,21 +9,16 @@ namespace {
 const QString responseTitle = u"배달 관리자"_s;
 }
 
-ResponseRegister::ResponseRegister(Session& session) : RegisterRules(session, {u"Response"_s}) {
-  list_.setColumns(column::shown({column::text(u"담당자"_s, 10), column::centred(u"전화번호"_s, 13),
-                                  column::centred(u"휴대폰"_s, 13), column::centred(u"입사일자"_s, 11),
-                                  column::centred(u"주민등록번호"_s, 14), column::text(u"주소"_s, 28),
-                                  column::text(u"메모사항"_s, 16)}));
-}
-
-QString ResponseRegister::listStatement() const {
-  return u"Select * From Response"_s;
-}
-
-std::vector<QString> ResponseRegister::cells(const RegisterFields& record) const {
-  return {record[u"Name"_s],     record[u"Tel"_s],     record[u"HP"_s],  record[u"AppDate"_s],
-          record[u"IdentyNo"_s], record[u"Address"_s], record[u"Memo"_s]};
-}
+ResponseRegister::ResponseRegister(Session& session)
+    : RegisterRules(session, {u"Response"_s}, responseTitle,
+                    {u"Select * From Response"_s,
+                     {{u"Name"_s, column::text(u"담당자"_s, 10)},
+                      {u"Tel"_s, column::centred(u"전화번호"_s, 13)},
+                      {u"HP"_s, column::centred(u"휴대폰"_s, 13)},
+                      {u"AppDate"_s, column::centred(u"입사일자"_s, 11)},
+                      {u"IdentyNo"_s, column::centred(u"주민등록번호"_s, 14)},
+                      {u"Address"_s, column::text(u"주소"_s, 28)},
+                      {u"Memo"_s, column::text(u"메모사항"_s, 16)}}}) {}
 
 RegisterFields ResponseRegister::blank() const {
   return {{u"AppDate"_s, session_.pc.clock.dateText()}};
@@ -78,8 +72,4 @@ RegisterRules::Outcome ResponseRegister::erase() {
                        session_.dbBasic.Execute(u"Delete * From Response Where Code = "_s +
                                                 plainNumber(record()[u"Code"_s]));
                      });
-}
-
-RegisterRules::Outcome ResponseRegister::saveWithoutRow(const RegisterFields&) {
-  return refuse(u"신규등록은 신규버튼을 누른 후 입력해 주십시오"_s, responseTitle);
 }

@@ -8,13 +8,10 @@ class ResponseRegister : public RegisterRules {
   explicit ResponseRegister(Session& session);
 
  protected:
-  QString listStatement() const override;
-  std::vector<QString> cells(const RegisterFields& record) const override;
   RegisterFields blank() const override;
   Outcome insert(const RegisterFields& boxes) override;
   Outcome change(const RegisterFields& boxes) override;
   Outcome erase() override;
-  Outcome saveWithoutRow(const RegisterFields& boxes) override;
 
  private:
   /** A name there must be, and a date that is none is refused; a date passes on as "yyyy-MM-dd". */

@@ -8,6 +8,11 @@ namespace {
 const QString registerTitle = u"자료 확인"_s;
 }
 
+RegisterRules::RegisterRules(Session& session, Table table, QString title, RegisterList shown)
+    : session_(session), table_(std::move(table)), title_(std::move(title)), shownAs_(std::move(shown)) {
+  list_.setColumns(looksOf(shownAs_));
+}
+
 bool RegisterRules::load() {
   const auto keyOf = [this](const RegisterFields& record) {
     QString key = record[table_.key];
@@ -19,11 +24,11 @@ bool RegisterRules::load() {
   list_.clear();
   records_.clear();
   jet::Recordset rs;
-  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs, listStatement())) return false;
+  if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs, shownAs_.statement)) return false;
   std::vector<std::vector<QString>> rows;
   for (; !rs.atEnd(); rs.MoveNext()) {
     RegisterFields record = fieldsOf(rs);
-    rows.push_back(cells(record));
+    rows.push_back(cellsOf(shownAs_, record));
     if (!chosen.isEmpty() && keyOf(record) == chosen) row_ = int(rows.size());
     records_.push_back(std::move(record));
   }
@@ -72,6 +77,10 @@ RegisterRules::Outcome RegisterRules::save(const RegisterFields& boxes, const Re
   new_ = false;
   load();
   return outcome;
+}
+
+RegisterRules::Outcome RegisterRules::saveWithoutRow(const RegisterFields&) {
+  return refuse(u"신규등록은 신규버튼을 누른 후 입력해 주십시오"_s, title_);
 }
 
 RegisterRules::Outcome RegisterRules::remove() {

@@ -3,7 +3,7 @@
 // and new. A register of its own says how a row is read, checked, stored and taken out.
 #include <vector>
 
-#include "master/registers/row_change.h"
+#include "master/registers/register_list.h"
 #include "ui/model/spread_model.h"
 
 class RegisterRules {
@@ -23,7 +23,8 @@ class RegisterRules {
     std::vector<std::pair<QString, bool>> also = {};
   };
 
-  RegisterRules(Session& session, Table table) : session_(session), table_(std::move(table)) {}
+  /** title: of the box that refuses a save without a row. */
+  RegisterRules(Session& session, Table table, QString title, RegisterList shown);
   virtual ~RegisterRules() = default;
   RegisterRules(const RegisterRules&) = delete;
   RegisterRules& operator=(const RegisterRules&) = delete;
@@ -53,16 +54,13 @@ class RegisterRules {
   Outcome remove();
 
  protected:
-  virtual QString listStatement() const = 0;
-  /** The list's cells of one record, in the order of the columns. */
-  virtual std::vector<QString> cells(const RegisterFields& record) const = 0;
   /** Texts that BtnNew puts into the boxes. */
   virtual RegisterFields blank() const { return {}; }
   virtual Outcome insert(const RegisterFields& boxes) = 0;
   virtual Outcome change(const RegisterFields& boxes) = 0;
   virtual Outcome erase() = 0;
   /** BtnSave with neither BtnNew nor a chosen row. */
-  virtual Outcome saveWithoutRow(const RegisterFields& boxes) = 0;
+  virtual Outcome saveWithoutRow(const RegisterFields& boxes);
   /** Row colours and the like, after the list has been filled. */
   virtual void dressList() {}
 
@@ -95,6 +93,8 @@ class RegisterRules {
   std::optional<Outcome> impossible(const RegisterFields& boxes);
 
   Table table_;
+  QString title_;
+  RegisterList shownAs_;
   RegisterFields labels_;
   RegisterFields shown_;                 ///< of the change being saved
   std::vector<RegisterFields> records_;  ///< one a row of the list

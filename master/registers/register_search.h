@@ -1,8 +1,8 @@
 #pragma once
 // The short lists that other screens pick a supplier, a person, a bank account or a regulator from.
 #include "master/registers/pickers.h"
+#include "master/registers/register_list.h"
 #include "store/session.h"
-#include "ui/model/spread_model.h"
 
 /** One such list: its window's name and title, its grid's name, its statement and which field stands in which column. */
 class RegisterSearch {
@@ -20,20 +20,10 @@ class RegisterSearch {
   bool load(Session& session, SpreadModel& list) const;
 
  private:
-  struct Column {
-    QString field;
-    SpreadColumn look;
-  };
-  RegisterSearch(QString form, QString title, const char* grid, QString statement,
-                 std::vector<Column> columns)
-      : form_(std::move(form)),
-        title_(std::move(title)),
-        grid_(grid),
-        statement_(std::move(statement)),
-        columns_(std::move(columns)) {}
+  RegisterSearch(QString form, QString title, const char* grid, RegisterList list)
+      : form_(std::move(form)), title_(std::move(title)), grid_(grid), list_(std::move(list)) {}
 
   QString form_, title_;
   const char* grid_;
-  QString statement_;
-  std::vector<Column> columns_;
+  RegisterList list_;
 };
