@@ -14,6 +14,10 @@
 #include "briefs/form_brief.h"
 #include "giro/frmPrtChange.h"
 #include "giro/frmPrtJiroOCR.h"
+#include "links/FrmSMS.h"
+#include "links/form_short_list.h"
+#include "links/frmCar.h"
+#include "links/frmDm.h"
 #include "master/buildings/frmHouseStyle.h"
 #include "master/catalogue/frmGasUtil.h"
 #include "master/catalogue/frmVolume.h"
@@ -56,6 +60,10 @@ const FormEntry formTable[] = {
     formEntry<frmAbout>(u"frmAbout"),
     formEntry<frmBank>(u"frmBank"),
     formEntry<frmChangeYear>(u"frmChangeYear"),
+    formEntry<frmCar>(u"frmCar"),
+    formEntry<frmCaRepairUnit>(u"frmCaRepairUnit"),
+    formEntry<frmCarRes>(u"frmCarRes"),
+    formEntry<frmDm>(u"frmDm"),
     formEntry<FrmFirstSteps>(u"FrmFirstSteps"),
     formEntry<FrmMargin>(u"FrmMargin"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
@@ -74,6 +82,7 @@ const FormEntry formTable[] = {
     formEntry<frmResCAN>(u"frmResCAN"),
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmSale>(u"frmSale"),
+    formEntry<FrmSMS>(u"FrmSMS"),
     formEntry<FrmSukum>(u"FrmSukum"),
     formEntry<frmTodaySale>(u"frmTodaySale"),
     briefEntry(u"frmHoldBrief", holdBrief),

@@ -33,6 +33,28 @@ void company(Town& town) {
   town.basic.Execute("Insert Into Bank(BName, BNumber, BUser) Values('우체국', '700-00-0000-02', '문달수')");
 }
 
+void vehicles(Town& town) {
+  const char* const numbers[] = {"1204", "3371", "8025"};
+  for (size_t at = 0; at < std::size(numbers); ++at)
+    town.basic.Execute("Insert Into CaRes(CarNo, ResName) Values(" + quoted(numbers[at]) + ", " +
+                       quoted(staff[at % staff.size()]) + ")");
+  const std::pair<const char*, int> repairs[] = {{"엔진오일 교환", 65000},
+                                                 {"타이어 교체", 240000},
+                                                 {"브레이크 패드", 120000},
+                                                 {"배터리 교체", 110000},
+                                                 {"정기검사", 45000}};
+  for (const auto& [name, cost] : repairs)
+    town.basic.Execute("Insert Into CaRepair(CarRepair) Values(" + quoted(name) + ")");
+  for (int at = 0; at < 14; ++at) {
+    const auto& [name, cost] = repairs[size_t(at) % std::size(repairs)];
+    const size_t car = size_t(at) % std::size(numbers);
+    town.basic.Execute("Insert Into Car(RDate, RContent, RCarNo, RResName, RMoney) Values('2026-0" +
+                       number(at / 6 + 1) + "-" + number(at * 2 + 1).rightJustified(2, u'0') + "', " +
+                       quoted(name) + ", " + quoted(numbers[car]) + ", " + quoted(staff[car % staff.size()]) +
+                       ", " + number(cost) + ")");
+  }
+}
+
 void postcodes(Town& town) {
   for (const Village& village : villages)
     for (int lot = 0; lot < 12; ++lot) {
@@ -81,6 +103,7 @@ void catalogue(Town& town) {
 
 void writeShop(Town& town) {
   company(town);
+  vehicles(town);
   postcodes(town);
   catalogue(town);
 }

@@ -112,9 +112,9 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
   window.resize(1280, 860);
   photographer.take(window, "frmMain");
   session.SaleDay = session.pc.clock.dateText();  // the day whose figures F5 shows
-  for (const char* name :
-       {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank", "frmHouseStyle",
-        "frmEva", "FrmSukum", "frmSale", "frmTodaySale", "frmBuy", "frmResCAN", "frmVolumeEstimate"}) {
+  for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
+                           "frmHouseStyle", "frmEva", "FrmSukum", "FrmSMS", "frmDm", "frmCar", "frmSale",
+                           "frmTodaySale", "frmBuy", "frmResCAN", "frmVolumeEstimate"}) {
     if (name[3] != 'T') closeForm(window);
     window.openForm(QString::fromLatin1(name));
     auto* const form = window.findChild<QWidget*>(QString::fromLatin1(name));
@@ -196,7 +196,7 @@ void pickers(FormPickers& pickers, Session& session, Photographer& photographer)
 
 void small(frmMain& window, Session& session, Photographer& photographer) {
   for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtChange", "FrmSetPrinter",
-                           "FrmMargin", "FrmPrintSection"}) {
+                           "FrmMargin", "FrmPrintSection", "frmCarRes", "frmCaRepairUnit"}) {
     // A dialog runs inside openForm; a child is taken from the main window. The profile asks for the password first.
     const WhenModal then([&](QWidget& box) {
       if (box.objectName() == "frmSecurity") {

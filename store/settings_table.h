@@ -51,6 +51,10 @@ inline constexpr Setting SeeIdPorts[] = {
 inline constexpr Setting WaitingX{program, surroundings, u"발신번호대기창x", u"-1"};
 inline constexpr Setting WaitingY{program, surroundings, u"발신번호대기창y", u"-1"};
 
+// --- the sender tools, which write their folder themselves -------------------------------------------------------
+inline constexpr Setting SmsFolder{u"라온SMS", surroundings, u"AppPath"};
+inline constexpr Setting RelayFolder{u"라온릴레이", surroundings, u"AppPath"};
+
 // --- paper ------------------------------------------------------------------------------------------------------
 inline constexpr Setting GiroPrinter{program, printing, u"DEVICENAME"};
 inline constexpr Setting GiroTop{program, printing, u"TOP"}, GiroLeft{program, printing, u"LEFT"};

@@ -32,8 +32,8 @@ bool isSameCan(const RegisterFields& one, const RegisterFields& other) {
 }  // namespace
 
 CanBook::CanBook(Session& session)
-    : RegisterRules(session,
-                    {u"ResCAN"_s, u"ResName"_s, true, {{u"LPGName"_s, true}, {u"CANSize"_s, false}}}, canTitle,
+    : RegisterRules(session, {u"ResCAN"_s, u"ResName"_s, true, {{u"LPGName"_s, true}, {u"CANSize"_s, false}}},
+                    canTitle,
                     {u"Select * From ResCAN Order By ResName, LPGName, CANSize"_s,
                      {{u"ResName"_s, column::text(u"담당자"_s, 14)},
                       {u"LPGName"_s, column::text(u"용기명"_s, 16)},
