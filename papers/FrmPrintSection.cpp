@@ -3,6 +3,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "master/registers/form_context.h"
+
 using namespace Qt::StringLiterals;
 
 FrmPrintSection::FrmPrintSection(FormContext& context, QWidget* parent)
