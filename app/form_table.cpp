@@ -9,6 +9,7 @@
 #include "app/frmChangeYear.h"
 #include "app/frmUser.h"
 #include "billing/FrmSukum.h"
+#include "billing/apt_baln.h"
 #include "billing/eva_total.h"
 #include "billing/frmEva.h"
 #include "briefs/form_brief.h"
@@ -73,6 +74,7 @@ const FormEntry formTable[] = {
     formEntry<frmBuy>(u"frmBuy"),
     formEntry<frmClient>(u"frmClient"),
     formEntry<frmEva>(u"frmEva"),
+    briefEntry(u"FrmAptBaln_rpt", aptBalnBrief),
     briefEntry(u"frmEvaTotal", evaTotalBrief),
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmHouseStyle>(u"frmHouseStyle"),

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "billing/building_rate.h"
+#include "billing/late_charge.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
 #include "store/jet/sql.h"
@@ -34,24 +35,21 @@ std::optional<double> usePayOf(Session& session, const jet::Database& year, cons
   return rs.atEnd() ? otherwise : rs[0].toDouble();
 }
 
-/** What the late charge runs on: all arrears, or the money of last month's gas alone. Nothing when that cannot be
- *  read. */
-std::optional<double> lateChargeBase(const ReadingSheet& sheet, int row) {
+std::optional<double> baseOf(const ReadingSheet& sheet, int row) {
   Session& session = sheet.session;
-  const double arrears = sheet.number(row, EvaCol::Trust);
   const bool oneMonthOnly = session.DelayCalcFlag == QStringLiteral("1");
-  const bool paidLate = !oneMonthOnly && wasPaidLate(sheet, row);
-  if (!oneMonthOnly && !paidLate) return arrears;
-
-  if (sheet.month == 1 && arrears != 0) {
-    const int lastYear = session.pc.clock.today().year() - 1;
-    const jet::Database december = openYear(session, lastYear);
-    if (!december.isOpen()) return {};
-    return usePayOf(session, december, sheet.code(row), 12, arrears);
-  }
-  if (arrears != 0 || paidLate)
-    return usePayOf(session, session.dbYear, sheet.code(row), sheet.month - 1, arrears);
-  return arrears;
+  const PastGas past{.lastDecember = [&](double otherwise) -> std::optional<double> {
+                       const jet::Database december = openYear(session, session.pc.clock.today().year() - 1);
+                       if (!december.isOpen()) return {};
+                       return usePayOf(session, december, sheet.code(row), 12, otherwise);
+                     },
+                     .monthBefore =
+                         [&](double otherwise) {
+                           return usePayOf(session, session.dbYear, sheet.code(row), sheet.month - 1,
+                                           otherwise);
+                         }};
+  return lateChargeBase(sheet.number(row, EvaCol::Trust), sheet.month, oneMonthOnly,
+                        !oneMonthOnly && wasPaidLate(sheet, row), past);
 }
 
 void moveTotal(ReadingSheet& sheet, int row, double by) {
@@ -72,7 +70,7 @@ void CalcReadingRow(ReadingSheet& sheet, int row) {
   sheet.setNumber(row, EvaCol::UseMuch, use);
   sheet.setNumber(row, EvaCol::UsePay, sheet.number(row, EvaCol::VolumeUnit) * use);
 
-  const std::optional<double> base = lateChargeBase(sheet, row);
+  const std::optional<double> base = baseOf(sheet, row);
   if (!base) return;
   const double rate = lateRate(session, sheet.book, sheet.code(row).toLongLong());
   sheet.setNumber(row, EvaCol::Delay, RoundByPayState(session, rate * *base / 100));

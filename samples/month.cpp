@@ -6,24 +6,14 @@
 
 #include "pc/paths.h"
 #include "samples/entrance.h"
+#include "samples/meter_keys.h"
 #include "store/year_file.h"
 
 namespace samples {
 namespace {
 
-const QString yearFile = yearFileName(QStringLiteral("2026"));
-constexpr int month = 3;
-
-/** The block's households in the screen's order, and the individual book's. */
-const QString blockOnly =
-    QStringLiteral("Client.BDName = '달빛아파트' And Client.Dong = '101' And isnull(Client.Ho) = False ");
-const QString shopsOnly = QStringLiteral("Client.HouseStyle = 0 ");
-
-QString meterRows(const QString& columns, int ofMonth, const QString& whose, const QString& order) {
-  return "Select " + columns +
-         " From Evaporation LEFT JOIN Client ON Evaporation.ClientCode = Client.Code Where " + whose +
-         "And Evaporation.Mon = " + QString::number(ofMonth) + " ORDER BY Client." + order;
-}
+constexpr int year = 2026, month = 3;
+const QString yearFile = yearFileName(QString::number(year));
 
 class Month {
  public:
@@ -49,48 +39,21 @@ class Month {
   void readAndPrint() {
     stage_->startProgram();
     signIn(*stage_);
-    openBlock(1);
-    enterReadings(blockOnly, QStringLiteral("Code"), usedByHousehold);
+    MeterKeys keys(*stage_, year, month);
+    keys.openBlock(1, true);
+    keys.enterReadings(sampleBlock(), usedByHousehold);
     stage_->picture(QStringLiteral("month-1-readings"));
     tell_(QStringLiteral("the readings of 30 households were typed"));
     recalculate();
     tell_(QStringLiteral("the block was computed once more"));
-    stage_->keys({"alt+v", "1"});
-    enterReadings(shopsOnly, QStringLiteral("Name"), usedByShop);
+    keys.openShops();
+    keys.enterReadings(sampleShops(), usedByShop);
     stage_->picture(QStringLiteral("month-2-shops"));
     tell_(QStringLiteral("the individual book was read"));
-    report_.block = bills(blockOnly, QStringLiteral("Code"));
-    report_.shops = bills(shopsOnly, QStringLiteral("Name"));
+    report_.block = keys.bills(sampleBlock());
+    report_.shops = keys.bills(sampleShops());
     printSlips();
     leave(*stage_);
-  }
-
-  /** The book of apartments by its menu entry, shown by block, one block chosen. */
-  void openBlock(int placeInList) {
-    stage_->keys({"alt+v", "2"});
-    if (!blocksShown_) {
-      // From the buildings over the button and the day to the second check box, and back.
-      stage_->keys({"Tab", "Tab", "Tab", "Tab", "space", "shift+Tab", "shift+Tab", "shift+Tab", "shift+Tab"});
-      blocksShown_ = true;
-    }
-    for (int step = 0; step <= placeInList; ++step) stage_->keys({"Down"});  // the first stands for all
-    stage_->keys({"Return"});
-  }
-
-  void enterReadings(const QString& whose, const QString& order, int (*used)(int)) {
-    const QStringList before = stage_->query(yearFile, meterRows("UseGage", month - 1, whose, order));
-    for (int place = 1; place <= before.size(); ++place) {
-      stage_->type(QString::number(before[place - 1].toLongLong() + used(place)));
-      stage_->keys({"Return"});
-      stage_->awaitWindow(QStringLiteral("체적 관리자"));  // whether the cell shall be changed
-      stage_->keys({"Return"});
-    }
-    stage_->awaitRow(
-        yearFile,
-        "Select Count(Evaporation.Mon) From Evaporation LEFT JOIN Client ON Evaporation.ClientCode = "
-        "Client.Code Where " +
-            whose + "And Evaporation.Mon = 3 And UseGage <> 0",
-        QString::number(before.size()));
   }
 
   void recalculate() {
@@ -102,24 +65,8 @@ class Month {
     stage_->awaitWindow(QStringLiteral("LP가스 판매관리"));
   }
 
-  QList<MonthBill> bills(const QString& whose, const QString& order) const {
-    QList<MonthBill> list;
-    const QStringList rows = stage_->query(
-        yearFile,
-        meterRows(
-            "Client.Code, Client.Name, UseGage, UseMuch, UsePay, Evaporation.Trust, Delay, Manage, Total",
-            month, whose, order));
-    for (const QString& row : rows) {
-      const QStringList cells = row.split(u'\t');
-      const auto whole = [&](int at) { return cells.value(at).toLongLong(); };
-      list.push_back(
-          {whole(0), cells.value(1), whole(2), whole(3), whole(4), whole(5), whole(6), whole(7), whole(8)});
-    }
-    return list;
-  }
-
   void printSlips() {
-    openBlock(1);
+    MeterKeys(*stage_, year, month).openBlock(1);
     stage_->keys({"ctrl+2"});
     stage_->awaitWindow(QStringLiteral("OCR-A4"));
     stage_->keys({"alt+g"});
@@ -175,7 +122,7 @@ class Month {
     stage_->picture(QStringLiteral("month-6-collected"));
     tell_(QString::number(report_.paidSlips) +
           QStringLiteral(" payments came back from the bank and were posted"));
-    openBlock(1);
+    MeterKeys(*stage_, year, month).openBlock(1);
     stage_->picture(QStringLiteral("month-7-april"));
     for (MonthBill& bill : report_.block)
       bill.nextArrears =
@@ -191,7 +138,6 @@ class Month {
   const std::function<Stage::Options(const QString&)>& options_;
   const std::function<void(const QString&)>& tell_;
   Stage* stage_ = nullptr;
-  bool blocksShown_ = false;
   MonthReport report_;
 };
 

@@ -6,6 +6,7 @@
 #include "store/closing/file_replacement.h"
 #include "store/data_access.h"
 #include "store/data_files.h"
+#include "store/jet/error_texts.h"
 #include "store/long_work.h"
 #include "store/upgrades.h"
 #include "store/year_file.h"
@@ -80,13 +81,13 @@ void Closing::makeFiles() {
   const jet::Workspace& workspace = session_.wsMain;
   const jet::Database linked = workspace.OpenDatabase(copy_->made());
   const jet::Database next = book_ ? workspace.OpenDatabase(book_->made()) : linked;
-  // Alone: another PC would go on collecting for December while it is carried.
-  const jet::Database year = workspace.OpenDatabase(yearFile(session_, session_.WorkYear), true);
+  // A PC that comes in from here on and collects for December is found by the comparison.
+  const jet::Database year = workspace.OpenDatabase(yearFile(session_, session_.WorkYear));
   addBalanceRow(next);
   copyKeys(year, next);
   carryDecember(year, next);
   for (const jet::Database& file : {linked, next})
-    if (!file.isSound()) throw jet::Error(3049, file.path());
+    if (!file.isSound()) throw jet::errorOf(3043, file.path());
 }
 
 /** Kept: the test names no customer, so of all customers only the first gets a row, and only in a file without one. */

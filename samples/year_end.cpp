@@ -1,0 +1,71 @@
+#include "samples/year_end.h"
+
+#include "pc/paths.h"
+#include "samples/entrance.h"
+#include "samples/meter_keys.h"
+#include "store/data_files.h"
+#include "store/year_file.h"
+
+namespace samples {
+namespace {
+
+constexpr int closedYear = 2026;
+
+int carriedRows(Stage& stage) {
+  return stage
+      .query(yearFileName(QString::number(closedYear + 1)),
+             "Select Count(Mon) From Evaporation Where Mon = 1 And Trust <> 0")
+      .value(0)
+      .toInt();
+}
+
+void closeBooks(Stage& stage, const QString& newFile) {
+  stage.keys({"alt+a", "y"});
+  stage.awaitWindow(QStringLiteral("년도마감 미리보기"));
+  stage.picture(QStringLiteral("year-1-forecast"));
+  stage.keys({"Return"});
+  stage.awaitWindow(QStringLiteral("자료 관리자"));
+  stage.picture(QStringLiteral("year-2-question"));
+  stage.keys({"alt+y"});
+  stage.awaitRow(yearFileName(QString::number(closedYear + 1)), "Select Count(Mon) > 0 From Evaporation",
+                 "-1");
+  stage.awaitWindow(QStringLiteral("자료 관리자"));
+  stage.picture(QStringLiteral("year-3-closed"));
+  stage.keys({"Return"});
+}
+
+}  // namespace
+
+YearEndReport playYearEnd(const std::function<Stage::Options(const QString& clock)>& options,
+                          const std::function<void(const QString&)>& tell) {
+  YearEndReport report;
+  {
+    Stage stage(options(QString::fromLatin1(closingClock)));
+    stage.startProgram();
+    signIn(stage);
+    MeterKeys keys(stage, closedYear, 12);
+    keys.openBlock(1, true);
+    keys.enterReadings(sampleBlock(), usedByHousehold);
+    report.december = keys.bills(sampleBlock());
+    tell(QStringLiteral("December's readings of 30 households were typed"));
+    const pc::Paths paths(options(QString()).pcRoot);
+    closeBooks(stage, paths.native(installedDataFolder() + yearFileName(QString::number(closedYear + 1))));
+    report.carried = carriedRows(stage);
+    tell(QStringLiteral("the year was closed"));
+    leave(stage);
+  }
+  Stage stage(options(QString::fromLatin1(newYearClock)));
+  stage.startProgram();
+  signIn(stage);
+  MeterKeys keys(stage, closedYear + 1, 1);
+  keys.openBlock(1);
+  stage.picture(QStringLiteral("year-4-january"));
+  keys.enterReadings(sampleBlock(), usedByHousehold);
+  report.january = keys.bills(sampleBlock());
+  stage.picture(QStringLiteral("year-5-read"));
+  tell(QStringLiteral("January bills carry what December left"));
+  leave(stage);
+  return report;
+}
+
+}  // namespace samples
