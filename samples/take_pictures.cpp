@@ -194,6 +194,23 @@ void pickers(FormPickers& pickers, Session& session, Photographer& photographer)
   photographer.takeModal("frmSecurity", [&] { pickers.checkPassword(); });
 }
 
+/** The arrears of the month before, and the year's end as a shop sees it in December. */
+void yearEnd(frmMain& window, Session& session, Photographer& photographer) {
+  closeForm(window);
+  if (window.run("mnuAPTbaln")) {
+    auto* const form = window.findChild<QWidget*>("FrmAptBaln_rpt");
+    auto* const month = form->findChild<QComboBox*>("CboMon");
+    month->setCurrentIndex(month->currentIndex() - 1);
+    form->findChild<QPushButton*>("BtnRefresh")->click();
+    photographer.take(*form, "FrmAptBaln_rpt");
+  }
+  photographer.takeModal("frmChangeYear", [&] { window.run("mnu_changeYear"); });
+  session.dbYear.Execute(
+      "Update Evaporation Set UseGage = 1200 + ClientCode * 7, Trust = (ClientCode Mod 3) * 24800, "
+      "Total = (ClientCode Mod 5) * 18650 Where Mon = 12");
+  photographer.takeModal("FrmYearEnd", [&] { window.run("MnuYearToYear"); });
+}
+
 void small(frmMain& window, Session& session, Photographer& photographer) {
   for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtChange", "FrmSetPrinter",
                            "FrmMargin", "FrmPrintSection", "frmCarRes", "frmCaRepairUnit"}) {
@@ -306,6 +323,7 @@ int main(int argc, char** argv) {
     pickers(searches, session, photographer);
     small(window, session, photographer);
     guideAndFirstSteps(window, photographer);
+    yearEnd(window, session, photographer);
     window.setSilentClose();
     window.close();
   }

@@ -7,40 +7,16 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include "app/FrmYearEnd.h"
+#include "app/frmChangeYear.h"
 #include "app/frmMain.h"
 #include "tests/idle_context.h"
 #include "tests/store/closing_desk.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
 #include "ui/grid/spread.h"
 
 namespace {
-
-/** Runs once the named dialog is in front; fails when it never comes. */
-class WhenInFront {
- public:
-  WhenInFront(const QString& name, std::function<void(QDialog&)> work) : name_(name), work_(std::move(work)) {
-    look();
-  }
-  ~WhenInFront() { EXPECT_TRUE(*seen_) << name_.toStdString() << " never came"; }
-
- private:
-  void look() {
-    QTimer::singleShot(0, [name = name_, work = work_, seen = seen_] { poll(name, work, seen); });
-  }
-  static void poll(const QString& name, const std::function<void(QDialog&)>& work,
-                   const std::shared_ptr<bool>& seen) {
-    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog && dialog->objectName() == name && dialog->isVisible()) {
-      *seen = true;
-      return work(*dialog);
-    }
-    QTimer::singleShot(5, [=] { poll(name, work, seen); });
-  }
-
-  QString name_;
-  std::function<void(QDialog&)> work_;
-  std::shared_ptr<bool> seen_ = std::make_shared<bool>(false);
-};
 
 struct YearEndForms : testing::Test, tests::ClosingDesk {
   tests::IdlePickers pickers;
@@ -63,7 +39,7 @@ struct YearEndForms : testing::Test, tests::ClosingDesk {
 TEST_F(YearEndForms, AClosingIsReadAskedAndDone) {
   ASSERT_TRUE(window->run("MnuClient"));
   ASSERT_EQ(children(), 1);
-  const WhenInFront page("FrmYearEnd", [&](QDialog& dialog) {
+  tests::whenModal<FrmYearEnd>([&](QDialog& dialog) {
     EXPECT_EQ(children(), 0) << "a form would go on with the old year's rows";
     EXPECT_TRUE(shownIn(dialog, "LblHead").contains("2027년 1월에 넘어갈 미수: 3명, 42,300원"));
     EXPECT_EQ(shownIn(dialog, "LblWarning"), "");
@@ -85,7 +61,7 @@ TEST_F(YearEndForms, WorkThatWouldBeLostIsShownAndEnterLeaves) {
   closeWell();
   year(2027).Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2027-01-04', 1, 1)");
   year(2027).Execute("Update Evaporation Set UseMuch = 16, Pay = 20000 Where Mon = 1 And ClientCode = 1");
-  const WhenInFront page("FrmYearEnd", [&](QDialog& dialog) {
+  tests::whenModal<FrmYearEnd>([&](QDialog& dialog) {
     const QString warning = shownIn(dialog, "LblWarning");
     EXPECT_TRUE(warning.contains("판매 1건, 검침·수금 1건 (수금 20,000원)")) << warning.toStdString();
     tests::grab(dialog, "FrmYearEnd-lost");
@@ -99,11 +75,10 @@ TEST_F(YearEndForms, WhatDiffersIsShownAndCanBePutBack) {
   closeWell();
   year(2027).Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2027-01-04', 1, 1)");
   run("Delete * From Evaporation Where Mon = 1 And ClientCode = 1");
-  std::unique_ptr<WhenInFront> second;
-  const WhenInFront first("FrmYearEnd", [&](QDialog& dialog) {
+  tests::whenModal<FrmYearEnd>([&](QDialog& dialog) {
     EXPECT_EQ(dialog.findChild<Spread*>()->model().text(1, 6), "1월 행이 없어 넘어가지 않음");
     press(dialog, "BtnYes");
-    second = std::make_unique<WhenInFront>("FrmYearEnd", [&](QDialog& after) {
+    tests::whenModal<FrmYearEnd>([&](QDialog& after) {
       EXPECT_TRUE(shownIn(after, "LblHead").contains("고객 4명 중 다른 고객: 1명"));
       EXPECT_TRUE(shownIn(after, "LblWarning").contains("2027Foundation-20261231-"));
       EXPECT_EQ(after.findChild<Spread*>()->model().text(1, 3), "35,500");
@@ -144,8 +119,8 @@ TEST_F(YearEndForms, TheProgressWindowTellsItsText) {
 
 TEST_F(YearEndForms, AnotherYearIsChosenAndTheClockGoesAlong) {
   closeWell();
-  const auto choose = [this](const QString& year, auto check) {
-    return WhenInFront("frmChangeYear", [=](QDialog& dialog) {
+  const auto choose = [](const QString& year, auto check) {
+    tests::whenModal<frmChangeYear>([=](QDialog& dialog) {
       auto* const box = dialog.findChild<QComboBox*>("CmbYY");
       check(*box);
       box->setCurrentText(year);
@@ -154,7 +129,7 @@ TEST_F(YearEndForms, AnotherYearIsChosenAndTheClockGoesAlong) {
     });
   };
   {
-    const auto front = choose("2027", [](QComboBox& box) {
+    choose("2027", [](QComboBox& box) {
       EXPECT_EQ(box.count(), 11);
       EXPECT_EQ(box.itemText(0), "2021");
       EXPECT_EQ(box.itemText(10), "2031");
@@ -168,7 +143,7 @@ TEST_F(YearEndForms, AnotherYearIsChosenAndTheClockGoesAlong) {
   EXPECT_EQ(field("Trust", owes, 1), "35500") << "dbYear is the chosen year's";
   EXPECT_EQ(session.WorkYear, "2026");
   {
-    const auto front = choose("2030", [](QComboBox&) {});
+    choose("2030", [](QComboBox&) {});
     pc.prompts.expect("3024");
     EXPECT_TRUE(window->run("mnu_changeYear"));
   }
@@ -183,7 +158,7 @@ TEST_F(YearEndForms, AnotherYearIsChosenAndTheClockGoesAlong) {
 TEST_F(YearEndForms, TheLastOfFebruaryIsADayInEveryYear) {
   closeWell();
   pc.pc.clock.set(QDateTime(QDate(2028, 2, 29), QTime(9, 0)));
-  const WhenInFront front("frmChangeYear", [](QDialog& dialog) {
+  tests::whenModal<frmChangeYear>([](QDialog& dialog) {
     dialog.findChild<QComboBox*>("CmbYY")->setCurrentText("2027");
     dialog.findChild<QPushButton*>("BtnOk")->click();
   });
