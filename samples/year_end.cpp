@@ -27,8 +27,7 @@ void closeBooks(Stage& stage, const QString& newFile) {
   stage.awaitWindow(QStringLiteral("자료 관리자"));
   stage.picture(QStringLiteral("year-2-question"));
   stage.keys({"alt+y"});
-  stage.awaitRow(yearFileName(QString::number(closedYear + 1)), "Select Count(Mon) > 0 From Evaporation",
-                 "-1");
+  stage.awaitFile(newFile);
   stage.awaitWindow(QStringLiteral("자료 관리자"));
   stage.picture(QStringLiteral("year-3-closed"));
   stage.keys({"Return"});

@@ -17,6 +17,10 @@ namespace {
 
 const QString linkName = u"TmpTbl"_s;
 
+void removeLink(const jet::Database& year) {
+  if (year.hasTable(linkName)) year.deleteTable(linkName);
+}
+
 class Closing {
  public:
   Closing(Session& session, const ClosingScreen& screen)
@@ -65,11 +69,8 @@ QStringList Closing::kept() const {
 }
 
 void Closing::makeFiles() {
-  // A link that an interrupted closing of another program left would hold the next year's file open.
-  {
-    const jet::Database year = session_.wsMain.OpenDatabase(yearFile(session_, session_.WorkYear));
-    if (year.hasTable(linkName)) year.deleteTable(linkName);
-  }
+  // One that another program's interrupted closing left would hold the next year's file open.
+  removeLink(session_.wsMain.OpenDatabase(yearFile(session_, session_.WorkYear)));
   const QString place = closingFile(year_ + 1);
   const QString nextFile = yearFile(session_, year_ + 1);
   copy_ = std::make_unique<FileReplacement>(session_.pc.paths, place);
@@ -105,12 +106,20 @@ void Closing::copyKeys(const jet::Database& year, const jet::Database& next) {
   link.name = linkName;
   link.connect = u";DATABASE="_s + copy_->made();
   link.sourceTableName = u"Evaporation"_s;
-  session_.wsMain.Together({year, next}, [&] {
-    next.Execute(u"Delete * From Evaporation"_s);
-    year.createTable(link);
-    year.Execute(u"Insert Into TmpTbl(ClientCode, Mon) Select ClientCode, Mon From Evaporation"_s);
-    year.deleteTable(linkName);
-  });
+  try {
+    session_.wsMain.Together({year, next}, [&] {
+      next.Execute(u"Delete * From Evaporation"_s);
+      year.createTable(link);
+      year.Execute(u"Insert Into TmpTbl(ClientCode, Mon) Select ClientCode, Mon From Evaporation"_s);
+      year.deleteTable(linkName);
+    });
+  } catch (const jet::Error&) {  // a statement that was refused leaves what ran before it
+    try {
+      removeLink(year);
+    } catch (const jet::Error&) {  // the next closing does it
+    }
+    throw;
+  }
 }
 
 void Closing::carryDecember(const jet::Database& year, const jet::Database& next) {
