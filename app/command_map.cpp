@@ -25,7 +25,7 @@ constexpr CommandEntry commandTable[] = {
     {u"MnuLPG", u"MnuIncome", u"가스 구매등록(&B)", Form, u"frmBuy:gas", Relink},
     {u"MnuLPG", u"MnuOutcome", u"가스 판매등록(&S)", Form, u"frmSale:gas", Relink},
     {u"MnuLPG", u"mnu거래명세표", u"거래명세표(&D)", Form, u"FrmDealList", Relink | Ruled},
-    {u"MnuLPG", u"mnu세금계산서", u"세금계산서(&T)", Form, u"FrmTax", Relink},
+    {u"MnuLPG", u"mnu세금계산서", u"세금계산서(&T)", Form, u"FrmPrintSection:tax", Relink},
     {u"MnuLPG", u"MnuEvaporationForecast", u"예상 배달현황(&F)", Form, u"frmVolumeEstimate", Relink | Ruled},
     {u"MnuLPG", u"MnuRes_Can", u"담당용기 재고현황(&N)", Form, u"frmResCAN", Relink | NeedsStock},
     {u"MnuLPG", u"MnuLPGSale", u"고객별 판매 현황(&C)", Form, u"frmLPGSaleBrief:client", Relink},

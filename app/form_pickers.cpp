@@ -3,6 +3,10 @@
 #include <QApplication>
 
 #include "app/frmSecurity.h"
+#include "documents/pickers/FrmMsg.h"
+#include "documents/pickers/FrmNewTrader.h"
+#include "documents/pickers/FrmPost.h"
+#include "documents/pickers/FrmTraderList.h"
 #include "master/buildings/form_building_search.h"
 #include "master/catalogue/frmSearchSize.h"
 #include "master/customers/frmNewClient.h"
@@ -60,6 +64,18 @@ std::optional<BuildingChoice> FormPickers::searchBuilding(HouseStyle style) {
 }
 std::optional<QString> FormPickers::pickDate(const QString& initial) {
   return frmCalendar(session_.prompts, initial, session_.pc.clock.today(), windowInFront());
+}
+TraderFound FormPickers::searchTrader(const QString& text) {
+  return FrmTraderList(session_, *this, text, windowInFront());
+}
+bool FormPickers::registerTrader(bool customer) {
+  return FrmNewTrader(session_, *this, customer, windowInFront()).enter();
+}
+std::optional<PostCodeChoice> FormPickers::searchPost(const QString& text) {
+  return FrmPost(session_, text, windowInFront());
+}
+std::optional<PrintMethodChoice> FormPickers::askPrintMethod(const PrintMethodQuestion& question) {
+  return FrmMsg(session_, question, windowInFront());
 }
 
 bool FormPickers::checkPassword() {

@@ -22,6 +22,10 @@ class FormPickers : public Pickers {
   std::optional<PostCodeChoice> searchPostCode(const QString& text) override;
   std::optional<BuildingChoice> searchBuilding(HouseStyle style) override;
   std::optional<QString> pickDate(const QString& initial) override;
+  TraderFound searchTrader(const QString& text) override;
+  bool registerTrader(bool customer) override;
+  std::optional<PostCodeChoice> searchPost(const QString& text) override;
+  std::optional<PrintMethodChoice> askPrintMethod(const PrintMethodQuestion& question) override;
   bool checkPassword() override;
 
  private:

@@ -13,6 +13,9 @@
 #include "billing/eva_total.h"
 #include "billing/frmEva.h"
 #include "briefs/form_brief.h"
+#include "documents/invoices/FrmNewAcount.h"
+#include "documents/invoices/FrmTax.h"
+#include "documents/statements/FrmDealList.h"
 #include "giro/frmPrtChange.h"
 #include "giro/frmPrtJiroOCR.h"
 #include "links/FrmSMS.h"
@@ -65,13 +68,16 @@ const FormEntry formTable[] = {
     formEntry<frmCaRepairUnit>(u"frmCaRepairUnit"),
     formEntry<frmCarRes>(u"frmCarRes"),
     formEntry<frmDm>(u"frmDm"),
+    formEntry<FrmDealList>(u"FrmDealList"),
     formEntry<FrmFirstSteps>(u"FrmFirstSteps"),
     formEntry<FrmMargin>(u"FrmMargin"),
+    formEntry<FrmNewAcount>(u"FrmNewAcount"),
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),
     formEntry<FrmPrintSection>(u"FrmPrintSection"),
     formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
     formEntry<frmBuy>(u"frmBuy"),
+    formEntry<FrmTax>(u"FrmTax"),
     formEntry<frmClient>(u"frmClient"),
     formEntry<frmEva>(u"frmEva"),
     briefEntry(u"FrmAptBaln_rpt", aptBalnBrief),

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "master/registers/form_business_number.h"
 #include "ui/forms/choose.h"
 #include "ui/forms/fields.h"
 
@@ -103,6 +104,7 @@ QWidget* frmUser::buildProfilePage() {
   txtUser_ = put(u"대표자"_s, box(u"txtUser"_s, u"대표자명을 입력하십시오. (필수)"_s, 20), 2);
   txtBusCode_ =
       put(u"사업자번호"_s, box(u"TxtBusCode"_s, u"사업자등록번호를 입력하십시오. 예) 123-45-67890"_s, 12), 1);
+  watchBusinessNumber(*this, txtBusCode_);
   txtPostCode_ =
       put(u"우편번호"_s, box(u"TxtPostCode"_s, u"우편번호를 입력하십시오. F12를 누르면 검색합니다."_s, 7), 2);
   txtAddress_ = put(u"주소"_s, box(u"TxtAddress"_s, u"사업장 주소를 입력하십시오."_s, 100), 0);

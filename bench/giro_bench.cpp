@@ -1,57 +1,20 @@
 // Slips to a PDF file: the rows' figures, layout and print job beside the same texts drawn straight on the file.
-#include <QFontMetricsF>
-#include <QHash>
-#include <QPainter>
-#include <QPrinter>
-
 #include <memory>
 
 #include "bench/books.h"
 #include "bench/pairs.h"
+#include "bench/plain_drawing.h"
 #include "giro/jiro_ocr.h"
 #include "store/rate_book.h"
 #include "store/settings_table.h"
 #include "tests/giro/reading_rows.h"
 #include "tests/recorded_print.h"
-#include "ui/paper/print_fonts.h"
 #include "ui/paper/printers.h"
 
 namespace {
 
 GiroInput slipInput() {
   return {"2026", "03", "31", "2026.02.01", "2026.02.28", {QStringLiteral("가스를 아껴 씁시다.")}};
-}
-
-/** The recorded texts on a landscape A4 file, each in its font at its place. */
-void drawPlainly(const tests::RecordedJob& job, const QString& file) {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(file);
-  printer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()));
-  printer.setFullPage(true);
-  QPainter painter(&printer);
-  const double dot = printer.logicalDpiX();
-  QHash<QString, std::pair<QFont, double>> fonts;
-  int page = 1;
-  QString current;
-  double ascent = 0;
-  for (const tests::PrintedItem& item : job.items) {
-    for (; page < item.page; ++page) printer.newPage();
-    if (item.kind != tests::PrintedItem::Text) continue;
-    const QString wanted = item.font.family + QString::number(item.font.points);
-    if (wanted != current) {
-      auto& [font, itsAscent] = fonts[wanted];
-      if (itsAscent == 0) {
-        font = printFont(item.font);
-        font.setPixelSize(int(font.pointSizeF() / 72 * dot));
-        itsAscent = QFontMetricsF(font).ascent();
-      }
-      painter.setFont(font);
-      current = wanted;
-      ascent = itsAscent;
-    }
-    painter.drawText(QPointF(item.x * dot, item.y * dot + ascent), item.text);
-  }
 }
 
 const int slips =
@@ -82,7 +45,8 @@ const int slips =
                         bench::require(slipsOf->print(slipInput(), GiroSelection::All) == size, "slips");
                       };
                       plain.run = [books, recorder] {
-                        drawPlainly(*recorder->jobs.back(), books->folder.filePath("plain.pdf"));
+                        bench::drawPlainly(*recorder->jobs.back(), books->folder.filePath("plain.pdf"),
+                                           QPageLayout::Landscape);
                       };
                     }});
 

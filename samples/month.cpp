@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <memory>
 
 #include "pc/paths.h"
@@ -27,9 +28,16 @@ class Month {
       stage_ = &stage;
       readAndPrint();
     }
-    Stage stage(options_(QString::fromLatin1(collectingClock)));
+    {
+      Stage stage(options_(QString::fromLatin1(collectingClock)));
+      stage_ = &stage;
+      collect();
+    }
+    Stage::Options atMonthsEnd = options_(QString::fromLatin1(documentClock));
+    atMonthsEnd.pdf = QFileInfo(atMonthsEnd.pdf).absolutePath();  // a file a job, named by what it holds
+    Stage stage(atMonthsEnd);
     stage_ = &stage;
-    collect();
+    issueDocuments(atMonthsEnd.pdf);
     return report_;
   }
 
@@ -133,6 +141,71 @@ class Month {
               .toLongLong();
     leave(*stage_);
     tell_(QStringLiteral("April opens with what is still owed"));
+  }
+
+  // ---- the month's papers
+
+  /** The PDF writer for the kind of document whose form is open; key opens its printers. */
+  void choosePdf(const QStringList& keys) {
+    stage_->keys(keys);
+    stage_->awaitWindow(QStringLiteral("프린트 드라이버 설정"));
+    stage_->keys({"alt+s", "alt+x"});  // where there is no other printer it is chosen already
+    stage_->awaitWindow(QStringLiteral("LP가스 판매관리"));
+  }
+
+  /** Answers FrmMsg with the whole sheet and the ink-jet, from its first button. */
+  void chooseDrawnForm(const QString& title) {
+    stage_->awaitWindow(title);
+    stage_->keys({"shift+Tab", "Down", "Tab", "Return"});
+  }
+
+  void issueDocuments(const QString& folder) {
+    stage_->startProgram();
+    signIn(*stage_);
+    stage_->keys({"alt+l", "d"});
+    choosePdf({"alt+t"});
+    // From the dates to the list; then the first line of each of three customers.
+    stage_->type(QStringLiteral("20260301"));
+    stage_->keys({"Return"});
+    stage_->type(QStringLiteral("20260331"));
+    stage_->keys({"Return"});
+    const QStringList clients = stage_->query(
+        yearFile,
+        QStringLiteral("Select ClientCode From Sale Where SaleDate Between '2026-03-01' And '2026-03-31' And "
+                       "DealList = 0 And SaleGubun <> 7 Order By SaleDate, SaleID"));
+    qsizetype line = 0;
+    for (int statement = 0; statement < statementsIssued; ++statement) {
+      if (statement > 0) {
+        const QString last = clients.value(line);
+        while (clients.value(line) == last && line < clients.size()) {
+          stage_->keys({"Down"});
+          ++line;
+        }
+      }
+      stage_->keys({"space"});
+    }
+    stage_->picture(QStringLiteral("month-8-statements"));
+    stage_->keys({"alt+p", "Down", "Return"});
+    chooseDrawnForm(QStringLiteral("거래명세표 발행"));
+    stage_->awaitFile(folder + QStringLiteral("/거래명세표.pdf"));
+    stage_->awaitRow(yearFile, QStringLiteral("Select Count(*) From Sale Where DealList = 1"),
+                     QString::number(statementsIssued));
+    tell_(QStringLiteral("three statements were issued"));
+    stage_->keys({"Escape", "alt+l", "t"});
+    stage_->awaitWindow(QStringLiteral("세금계산서 집계"));
+    stage_->keys({"Return"});
+    stage_->awaitWindow(QStringLiteral("LP가스 판매관리"));
+    choosePdf({"alt+i"});
+    stage_->keys({"ctrl+Home", "ctrl+shift+End", "space"});
+    stage_->picture(QStringLiteral("month-9-invoices"));
+    stage_->keys({"alt+p"});
+    chooseDrawnForm(QStringLiteral("세금계산서 발행"));
+    stage_->awaitFile(folder + QStringLiteral("/세금계산서.pdf"));
+    report_.invoices = int(
+        stage_->query(QStringLiteral("dbTax.mdb"), QStringLiteral("Select Serial From TaxAcount")).size());
+    stage_->keys({"Escape"});
+    leave(*stage_);
+    tell_(QString::number(report_.invoices) + QStringLiteral(" invoices of the month were issued"));
   }
 
   const std::function<Stage::Options(const QString&)>& options_;

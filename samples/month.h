@@ -1,6 +1,6 @@
 #pragma once
 // The sample month, played by keystrokes: the readings of an apartment block and of the metered shops, the slips on
-// paper, the bank's file of what was paid, and what the next month opens with.
+// paper, the bank's file of what was paid, what the next month opens with, and the month's statements and invoices.
 #include <functional>
 
 #include "samples/stage.h"
@@ -20,10 +20,12 @@ struct MonthBill {
 struct MonthReport {
   QList<MonthBill> block, shops;
   int paidSlips = 0;  ///< records in the bank's file
+  int invoices = 0;   ///< tax invoices issued
 };
 
 /** Households 1 to 30 of 달빛아파트 101 and the individual book, in March; books as makeBooks leaves them.
- *  reading and collecting: stages on one PC at readingClock and collectingClock; pdf names the slips' file.
+ *  reading and collecting: stages on one PC at readingClock and collectingClock; pdf names the slips' file, the documents
+ *  lie beside it ("거래명세표.pdf", "세금계산서.pdf").
  *  Throws std::runtime_error. */
 MonthReport playMonth(const std::function<Stage::Options(const QString& clock)>& options,
                       const std::function<void(const QString&)>& tell);
@@ -40,6 +42,9 @@ constexpr bool paysAtTheBank(qint64 code) {
   return code % 3 != 0;
 }
 
-inline constexpr char readingClock[] = "2026-03-26 09:00:00", collectingClock[] = "2026-04-13 09:00:00";
+inline constexpr int statementsIssued = 3;
+
+inline constexpr char readingClock[] = "2026-03-26 09:00:00", collectingClock[] = "2026-04-13 09:00:00",
+                      documentClock[] = "2026-03-31 18:00:00";
 
 }  // namespace samples

@@ -1,4 +1,5 @@
 // Pictures of every form on the sample retailer's books, for the documents and for looking at.
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
@@ -179,6 +180,30 @@ void totals(frmMain& window, ReportViewer& reports, Photographer& photographer) 
   reports.window()->close();
 }
 
+/** March's statements and invoices, and an invoice that is typed. */
+void documents(frmMain& window, FormPickers& pickers, Photographer& photographer) {
+  closeForm(window);
+  const auto click = [](QWidget& form, const char* name) { form.findChild<QAbstractButton*>(name)->click(); };
+  if (!window.openForm("FrmDealList:2026-03-01,2026-03-31")) return;
+  auto* deals = window.findChild<QWidget*>("FrmDealList");
+  click(*deals, "ChkAll");
+  photographer.take(*deals, "FrmDealList");
+  closeForm(window);
+  window.openForm("FrmTax:0");
+  auto* tax = window.findChild<QWidget*>("FrmTax");
+  click(*tax, "Chk선택");
+  photographer.take(*tax, "FrmTax");
+  closeForm(window);
+  photographer.takeModal("FrmNewAcount", [&] { window.openForm("FrmNewAcount"); });
+  photographer.takeModal("FrmMsg", [&] {
+    pickers.askPrintMethod(
+        {"거래명세표 발행", "거래명세표 발행 방법을 선택하세요", "잉크젯(레이저)(&L)", "도트발행(&D)"});
+  });
+  photographer.takeModal("FrmTraderList", [&] { pickers.searchTrader("식당"); });
+  photographer.takeModal("FrmNewTrader", [&] { pickers.registerTrader(true); });
+  photographer.takeModal("FrmPost", [&] { pickers.searchPost("장터"); });
+}
+
 void pickers(FormPickers& pickers, Session& session, Photographer& photographer) {
   photographer.takeModal("frmSearchClient",
                          [&] { pickers.searchClient("식당", ClientSearchMode::General, false); });
@@ -320,6 +345,7 @@ int main(int argc, char** argv) {
     mainWindowForms(window, session, photographer);
     meterBook(window, session, photographer);
     totals(window, reports, photographer);
+    documents(window, searches, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);
     guideAndFirstSteps(window, photographer);

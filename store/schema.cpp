@@ -123,13 +123,19 @@ std::vector<jet::TableDef> taxTables() {
       make(
           "TaxAcount",
           {text("Serial", 20), text("CCode", 6), date("DealDate"), text("DealYY", 7), date("IssueDate"),
-           whole("TradeKum"), whole("VatKum"), whole("Blank"), text("List", 100), text("Section", 1)},
+           real("TradeKum"), real("VatKum"), whole("Blank"), text("List", 100), text("Section", 1)},
           {primary("PK", {"Serial"}), index("Client", {"CCode", "DealYY"}), index("DealDate", {"DealDate"})}),
       make("NewAcount",
            {text("TaxCode", 20), text("CCode", 6), text("CName", 60), text("PCode", 10), text("PName", 60),
-            text("PNorm", 30), real("Quantity"), real("UnitCost"), whole("TradeKum"), whole("VatKum"),
-            whole("SumKum"), date("DealDate"), date("IssueDate"), whole("Item")},
+            text("PNorm", 30), real("Quantity"), real("UnitCost"), real("TradeKum"), real("VatKum"),
+            real("SumKum"), date("DealDate"), date("IssueDate"), whole("Item"), text("Code", 10),
+            text("Station", 60)},
            {index("TaxCode", {"TaxCode"})}),
+      // What stood on an issued invoice, line by line: the register itself names its items in one text.
+      make("TaxItem",
+           {text("Serial", 20), whole("Line"), text("PName", 100), text("PNorm", 30), real("Quantity"),
+            real("UnitCost"), real("TradeKum"), real("VatKum"), whole("Item"), date("DealDate")},
+           {primary("PK", {"Serial", "Line"})}),
   };
 }
 

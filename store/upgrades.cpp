@@ -183,16 +183,36 @@ bool relink(Session& session) {
 }
 
 void widenTaxFields(const jet::Database& tax) {
-  for (const auto& [table, field] : {std::pair{u"TaxAcount"_s, u"Serial"_s},
-                                     {u"NewAcount"_s, u"TaxCode"_s},
-                                     {u"NewAcount"_s, u"Quantity"_s}}) {
-    if (!tax.hasTable(table)) continue;
-    const jet::TableDef stored = tax.tableDef(table);
-    const jet::Field *const known = fieldOf(stored, field),
-                            &wanted = *fieldOf(schema::table(schema::File::Tax, table), field);
-    if (!known || (known->type == wanted.type && known->size >= wanted.size)) continue;
-    const QString type = wanted.type == jet::Type::Double ? u"Double"_s : u"Text(%1)"_s.arg(wanted.size);
-    tax.Execute(u"Alter Table %1 Alter Column %2 %3"_s.arg(table, field, type));
+  const auto isNarrow = [](const jet::Field& known, const jet::Field& wanted) {
+    return wanted.type == jet::Type::Text ? known.size < wanted.size
+                                          : known.type == jet::Type::Long && wanted.type == jet::Type::Double;
+  };
+  for (const jet::TableDef& wanted : schema::tablesOf(schema::File::Tax)) {
+    if (!tax.hasTable(wanted.name)) {
+      tax.Together([&] {
+        if (!tax.hasTable(wanted.name)) tax.createTable(wanted);
+      });
+      continue;
+    }
+    const auto lacks = [&](const jet::TableDef& stored) {
+      return std::ranges::any_of(wanted.fields, [&](const jet::Field& field) {
+        const jet::Field* const known = fieldOf(stored, field.name);
+        return !known || isNarrow(*known, field);
+      });
+    };
+    if (!lacks(tax.tableDef(wanted.name))) continue;
+    tax.Together([&] {
+      const jet::TableDef stored = tax.tableDef(wanted.name);  // another PC may have been here meanwhile
+      for (const jet::Field& field : wanted.fields) {
+        const jet::Field* const known = fieldOf(stored, field.name);
+        if (!known)
+          tax.appendField(wanted.name, field);
+        else if (isNarrow(*known, field))
+          tax.Execute(u"Alter Table %1 Alter Column %2 %3"_s.arg(
+              wanted.name, field.name,
+              field.type == jet::Type::Double ? u"Double"_s : u"Text(%1)"_s.arg(field.size)));
+      }
+    });
   }
 }
 

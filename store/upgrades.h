@@ -27,8 +27,9 @@ void removeOrphans(Session& session);
 /** Sets BasicPath and links the tables of Basic.mdb into every year file anew. False at the first file that does not
  *  open. */
 bool relink(Session& session);
-/** TaxAcount.Serial and NewAcount.TaxCode take more than the usual seven digits (a month's number goes beyond 999),
- *  Quantity takes fractions. */
+/** The tax file's columns as wide as they are needed: more than seven digits in the numbers (a month's goes beyond 999),
+ *  fractions in Quantity, amounts beyond two thousand million; NewAcount gets Code and Station; the table of
+ *  the issued items is made. */
 void widenTaxFields(const jet::Database& tax);
 /** Client.Tel1, and Tel2 only where Tel1 was missing. */
 void addMoreTelephones(Session& session);

@@ -42,6 +42,11 @@ class ScriptedPrompts : public Prompts {
       EXPECT_FALSE(yesFirst && text.contains(loss)) << "stands on yes: " << text.toStdString();
     return next(text, title).yes;
   }
+  /** expect() answers yes or no, expectInput() with a text cancels. */
+  Answer MsgYesNoCancel(const QString& text, const QString& title) override {
+    const Expected answer = next(text, title);
+    return answer.typed ? Answer::Cancel : answer.yes ? Answer::Yes : Answer::No;
+  }
   void ErrorBox(const QString& text, int number, const QString& description) override {
     next(text + u' ' + QString::number(number) + u' ' + description, "오류");
   }

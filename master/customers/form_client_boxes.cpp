@@ -5,6 +5,7 @@
 #include <QRadioButton>
 
 #include "master/customers/tel_format.h"
+#include "master/registers/form_business_number.h"
 #include "ui/forms/fields.h"
 #include "ui/forms/form.h"
 
@@ -75,6 +76,7 @@ void ClientBoxes::buildPlain(Fields& fields) {
   addMeter(fields);
   serial_ = line(fields, "TxtSerial", "사업자번호", 16, 12);
   help(serial_, "사업자등록번호나 주민등록번호를 입력합니다");
+  watchBusinessNumber(form_, serial_);
   status_ = line(fields, "TxtStatus", "업태", 14, 10);
   help(status_, "사업자의 업태를 입력합니다");
   item_ = line(fields, "TxtItem", "종목", 22, 20);

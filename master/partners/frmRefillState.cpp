@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 
+#include "master/registers/form_business_number.h"
 #include "master/registers/form_lookups.h"
 
 using namespace Qt::StringLiterals;
@@ -14,8 +15,9 @@ frmRefillState::frmRefillState(FormContext& context, QWidget* parent)
   Fields fields(stations->boxPanel(), 3);
   stations->bind(fields.text("TxtCompany", u"상호"_s, 0, 40), u"Company"_s, u"거래처의 상호를 입력합니다"_s);
   stations->bind(fields.text("TxtUser", u"대표자"_s, 16, 20), u"User"_s, u"대표자의 성명을 입력합니다"_s);
-  stations->bind(fields.text("TxtBusCode", u"사업자번호"_s, 16, 12), u"BusCode"_s,
-                 u"사업자등록번호를 입력합니다"_s);
+  QLineEdit* const busCode = fields.text("TxtBusCode", u"사업자번호"_s, 16, 12);
+  stations->bind(busCode, u"BusCode"_s, u"사업자등록번호를 입력합니다"_s);
+  watchBusinessNumber(*this, busCode);
   stations->bind(fields.tel("TxtTel", u"전화번호"_s), u"Tel"_s, u"거래처의 전화번호를 입력합니다"_s);
   stations->bind(fields.tel("TxtFax", u"팩스"_s), u"Fax"_s, u"거래처의 팩스번호를 입력합니다"_s);
   fields.newRow();

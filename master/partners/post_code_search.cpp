@@ -32,10 +32,11 @@ std::vector<SpreadColumn> PostCodeSearch::columns() {
 }
 
 // The upper bound is three digits and a postcode has more, so text order leaves the bound's own district out; kept.
-QString PostCodeSearch::statement(const QString& text) const {
+QString PostCodeSearch::statement(const QString& text, Area area) const {
   QString from, to;
   jet::Recordset rs;
-  if (OpenSnapshot(session_.prompts, session_.dbBasic, rs, u"Select * From User"_s) && !rs.atEnd()) {
+  if (area == Area::Own && OpenSnapshot(session_.prompts, session_.dbBasic, rs, u"Select * From User"_s) &&
+      !rs.atEnd()) {
     from = areaBound(rs[u"Post1"_s]);
     to = areaBound(rs[u"Post2"_s]);
   }

@@ -36,6 +36,22 @@ struct BankChoice {
   QString name, number, user;
 };
 
+/** What FrmTraderList ends with. */
+struct TraderFound {
+  bool any = true;                     ///< False: the text finds nobody
+  std::optional<ClientChoice> trader;  ///< nothing also when the operator leaves
+};
+
+/** What FrmMsg asks before documents are printed: its title, its prompt and the captions of the two ways to print. */
+struct PrintMethodQuestion {
+  QString title, prompt, inkjet, dot;
+};
+/** paper: 0 "A4 반장 설정", 1 "A4 전체 설정", 2 "A4 반장 설정(B형)". */
+struct PrintMethodChoice {
+  bool dot = false;
+  int paper = 0;
+};
+
 enum class TradeSide { Sale, Purchase };
 
 /** Nothing when the operator leaves without choosing. */
@@ -56,6 +72,15 @@ class Pickers {
   virtual std::optional<BuildingChoice> searchBuilding(HouseStyle style) = 0;
   /** "yyyy-MM-dd" */
   virtual std::optional<QString> pickDate(const QString& initial) = 0;
+  // What the document forms ask; whoever has no such forms answers as an operator who leaves.
+  /** FrmTraderList: chooses by itself where the text finds a single one. */
+  virtual TraderFound searchTrader(const QString&) { return {}; }
+  /** FrmNewTrader of the sale side or not; False when the operator leaves. */
+  virtual bool registerTrader(bool) { return false; }
+  /** FrmPost */
+  virtual std::optional<PostCodeChoice> searchPost(const QString&) { return {}; }
+  /** FrmMsg */
+  virtual std::optional<PrintMethodChoice> askPrintMethod(const PrintMethodQuestion&) { return {}; }
   /** frmSecurity: True when the company's password was given. */
   virtual bool checkPassword() = 0;
 };

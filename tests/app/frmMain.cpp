@@ -157,9 +157,10 @@ TEST_F(MainWindow, EveryChildOpensWhollyInSight) {
   session.dbBasic.Execute("Insert Into User(Company) Values('해온가스')");
   window->resize(1092, 614);  // what a small screen at 125 % leaves
   QApplication::processEvents();
-  for (const char* form : {"frmUser", "frmBank", "frmResponse", "frmVolume", "frmClient", "frmHouseStyle",
-                           "frmGasUtil", "frmRefillState", "FrmSukum", "frmSale", "frmTodaySale", "frmEva",
-                           "frmEvaTotal", "frmBuy", "frmResCAN", "frmVolumeEstimate"}) {
+  for (const char* form :
+       {"frmUser", "frmBank", "frmResponse", "frmVolume", "frmClient", "frmHouseStyle", "frmGasUtil",
+        "frmRefillState", "FrmSukum", "frmSale", "frmTodaySale", "frmEva", "frmEvaTotal", "frmBuy",
+        "frmResCAN", "frmVolumeEstimate", "FrmDealList", "FrmTax"}) {
     ASSERT_TRUE(window->openForm(QString::fromUtf8(form)));
     QApplication::processEvents();
     const QMdiSubWindow* const child = ground->currentSubWindow();

@@ -3,6 +3,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 #include <memory>
 #include <thread>
@@ -71,6 +72,52 @@ TEST_F(ManyPcs, TwoLoseNothing) {
 
 TEST_F(ManyPcs, FourLoseNothing) {
   postTogether(4, measure(40, 1500));
+}
+
+TEST_F(ManyPcs, TwoThatIssueTheSameLinesPutNoneOnTwoPapersAndGiveNoNumberTwice) {
+  constexpr int lines = 120;
+  {
+    Pc here(folder.path());
+    here.open();
+    here.session.dbYear.Together([&] {
+      for (int line = 0; line < lines; ++line)
+        here.session.dbYear.Execute(
+            u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun) "
+            u"Values('2026-03-%1', %2, 'LPG', '20', 30000, 1, 1)"_s.arg(1 + line % 28, 2, 10, QChar(u'0'))
+                .arg(1 + line % 40));
+    });
+  }
+  std::vector<std::unique_ptr<Child>> children;
+  for (int pc = 0; pc < 2; ++pc)
+    children.push_back(std::make_unique<Child>(QStringList{u"--pc"_s, u"issue"_s, folder.path()}));
+  QStringList papers, serials, invoiced;
+  for (const auto& child : children) {
+    ASSERT_TRUE(child->finish(600000));
+    int own = 0;
+    for (const QString& told : child->lines()) {
+      const QStringList words = told.split(u' ');
+      if (words.value(1) == u"statement") papers << words.value(2);
+      if (words.value(1) == u"invoice") {
+        serials << words.value(2);
+        invoiced << words.value(3) + words.value(4);
+      }
+      own += words.size() > 2;
+    }
+    EXPECT_GT(own, 0) << "the other one got everything";
+  }
+  for (const QStringList& list : {papers, serials, invoiced})
+    EXPECT_EQ(list.size(), QSet<QString>(list.begin(), list.end()).size()) << list.join(u' ').toStdString();
+  EXPECT_EQ(papers.size(), lines);
+  EXPECT_EQ(invoiced.size(), lines) << "120 lines of 120 days and customers";
+  Pc here(folder.path());
+  here.open();
+  const auto count = [&](const jet::Database& db, const QString& sql) {
+    return db.OpenRecordset(sql)[0].toLong();
+  };
+  EXPECT_EQ(count(here.session.dbYear, u"Select Count(*) From Sale Where DealList = 1 And SaleList = 1"_s),
+            lines);
+  EXPECT_EQ(count(here.session.dbTax, u"Select Count(*) From TaxAcount"_s), lines);
+  EXPECT_EQ(count(here.session.dbTax, u"Select Sum(TradeKum + VatKum) From TaxAcount"_s), lines * 30000);
 }
 
 TEST_F(ManyPcs, AProgramThatIsStartedAgainAndAgainDisturbsNobody) {

@@ -8,6 +8,9 @@
 #include <csignal>
 
 #include "app/start_up.h"
+#include "documents/invoices/tax_issue.h"
+#include "documents/statements/deal_issue.h"
+#include "documents/statements/deal_search.h"
 #include "store/long_work.h"
 #include "tests/storm/books.h"
 #include "tests/storm/builder.h"
@@ -103,6 +106,46 @@ int postAsAnyone(const QStringList& arguments) {
   return runPoster(arguments);
 }
 
+/** ROOT: issues statements and invoices of March, all it can get, a few at a time until nothing is pending; tells each
+ *  line and number it put on a paper. */
+int issueDocuments(const QStringList& arguments) {
+  Pc here(arguments.at(0));
+  here.open();
+  here.session.dbYear.Execute(u"Update Client Set Memo = Memo Where Code = 0"_s);
+  report(QLatin1String(word::ready));
+  const auto done = [] { return u"%1 "_s.arg(QLatin1String(word::line)); };
+  const auto first = [](const SpreadModel& grid, int codeCol) {
+    std::vector<int> rows;
+    for (int row = 1; row <= grid.MaxRows() && rows.size() < 7; ++row)
+      if (!grid.text(row, codeCol).isEmpty()) rows.push_back(row);
+    return rows;
+  };
+  const QDate from(2026, 3, 1), to(2026, 3, 31);
+  const jet::Database history;  // this storm has none: the state on the line alone must do
+  DealSearch deals(here.session, history);
+  for (;;) {
+    deals.search({.from = from, .to = to});
+    const std::vector<int> rows = first(deals.grid(), DealCol::Code);
+    if (rows.empty()) break;
+    for (const int row : claimDeals(here.session, deals.grid(), rows, DealMark::SaleId))
+      report(done() + u"statement "_s + deals.grid().text(row, DealCol::Code));
+  }
+  clsPrintTax tax(here.session.dbTax, taxStation(to));
+  TaxGatherer gatherer(here.session, tax);
+  TaxIssuer issuer(here.session, tax, gatherer);
+  TaxSheet sheet;
+  for (;;) {
+    gatherer.gather(from, to, TaxGathering::Daily);
+    sheet.listPending(tax, Vat::Included, TaxGathering::Daily);
+    const std::vector<int> rows = first(sheet.grid(), TaxCol::TaxCode);
+    if (rows.empty()) break;
+    const TaxIssueAsk ask{.gathering = TaxGathering::Daily, .serial = u"2603001"_s};
+    for (const TaxInvoice& invoice : issuer.issue(sheet, rows, ask).issued)
+      report(done() + u"invoice "_s + invoice.serial + u' ' + invoice.dealDate + u' ' + invoice.clientCode);
+  }
+  return 0;
+}
+
 }  // namespace
 
 int runPc(const QStringList& arguments) {
@@ -119,6 +162,7 @@ int runPc(const QStringList& arguments) {
   if (work == u"sweep") return runSweep(arguments.mid(1));
   if (work == u"pack") return runPacker(arguments.mid(1));
   if (work == u"put-back") return runRestorer(arguments.mid(1));
+  if (work == u"issue") return issueDocuments(arguments.mid(1));
   if (work == u"post-as-anyone") return postAsAnyone(arguments.mid(1));
   return 1;
 }

@@ -88,6 +88,18 @@ bool MessageBoxes::MsgAsk(const QString& text, const QString& title, bool yesFir
   return box.clickedButton() == yes;
 }
 
+Prompts::Answer MessageBoxes::MsgYesNoCancel(const QString& text, const QString& title) {
+  QMessageBox box(QMessageBox::Question, titleOf(title), {}, QMessageBox::NoButton, owner());
+  dress(box, text);
+  auto* const yes = box.addButton(u"예(&Y)"_s, QMessageBox::YesRole);
+  auto* const no = box.addButton(u"아니오(&N)"_s, QMessageBox::NoRole);
+  auto* const cancel = box.addButton(u"취소(&C)"_s, QMessageBox::RejectRole);
+  box.setDefaultButton(cancel);
+  box.setEscapeButton(cancel);
+  box.exec();
+  return box.clickedButton() == yes ? Answer::Yes : box.clickedButton() == no ? Answer::No : Answer::Cancel;
+}
+
 void MessageBoxes::ErrorBox(const QString& text, int number, const QString& description) {
   tell(QMessageBox::Warning,
        text + u"\n오류번호 : "_s + QString::number(number) + u"\n오류내용 : "_s + description, u"오류"_s);

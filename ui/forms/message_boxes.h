@@ -18,6 +18,7 @@ class MessageBoxes : public Prompts {
   void MsgInfo(const QString& text, const QString& title = {}) override;
   void MsgWarn(const QString& text, const QString& title = {}) override;
   bool MsgAsk(const QString& text, const QString& title = {}, bool yesFirst = true) override;
+  Answer MsgYesNoCancel(const QString& text, const QString& title = {}) override;
   void ErrorBox(const QString& text, int number, const QString& description) override;
   void noted(const jet::Error& error) override;
   std::optional<QString> InputBox(const QString& prompt, const QString& title,

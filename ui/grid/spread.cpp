@@ -284,6 +284,10 @@ bool Spread::moveTo(int row, int col, bool extend) {
   return true;
 }
 
+std::pair<int, int> Spread::markedRows() const {
+  return std::minmax({activeRow_, anchorRow_});
+}
+
 void Spread::showRow(int row) {
   const int top = topRow();
   if (row < top)

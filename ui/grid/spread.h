@@ -50,6 +50,10 @@ class Spread : public QAbstractScrollArea {
   /** A double click on a cell; without the hook it opens the cell with its text. */
   std::function<void(int row, int col)> doubleClicked;
   std::function<void(int col)> headerClicked;
+  /** Space on a cell that rests, in lists whose rows are ticked; without it the cell takes the key. */
+  std::function<void(int fromRow, int toRow)> spacePressed;
+  /** The mouse was drawn over more than one row and let go. */
+  std::function<void(int fromRow, int toRow)> blockMarked;
   /** The operator drew a column wider or narrower. */
   std::function<void(int col)> columnResized;
   /** The right button at a place of the screen. */
@@ -65,6 +69,8 @@ class Spread : public QAbstractScrollArea {
   bool setActiveCell(int row, int col);
   /** The next cell to the right that is neither hidden nor locked, over to the following rows. */
   bool moveToNextOpenCell();
+  /** First and last row of the marked block; the current row twice where none is marked. */
+  std::pair<int, int> markedRows() const;
   void showRow(int row);
 
   // --- editing ----------------------------------------------------------------------------------------------

@@ -132,6 +132,11 @@ bool Spread::restingKey(QKeyEvent* event) {
   const CellKind kind = model_.column(activeCol_).kind;
   if (event->key() == Qt::Key_F2 && !isCommand(*event)) return kind != CellKind::CheckBox && beginEdit();
   if (!isTyping(*event)) return false;
+  if (event->key() == Qt::Key_Space && spacePressed) {
+    const auto [from, to] = markedRows();
+    run([&] { spacePressed(from, to); });
+    return true;
+  }
   switch (kind) {
     case CellKind::CheckBox:
       if (event->key() == Qt::Key_Space) toggleCheck();

@@ -69,6 +69,10 @@ void Spread::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Spread::mouseReleaseEvent(QMouseEvent*) {
+  if (marking_ && blockMarked && anchorRow_ != activeRow_) {
+    const auto [from, to] = markedRows();
+    run([&] { blockMarked(from, to); });
+  }
   marking_ = false;
   if (resizing_ == 0) return;
   const int col = resizing_;

@@ -115,6 +115,10 @@ void Spread::paintRow(QPainter& painter, int row, const QRect& part, int first, 
   }
   painter.setPen(look::gridLine);
   painter.drawLine(whole.bottomLeft(), whole.bottomRight());
+  if (const int rgb = model_.topLine(row); rgb >= 0 && row > 1) {
+    painter.setPen(QPen(QColor::fromRgb(QRgb(rgb)), 2));
+    painter.drawLine(whole.topLeft(), whole.topRight());
+  }
 }
 
 void Spread::paintCell(QPainter& painter, int row, int col, const QRect& rect) {

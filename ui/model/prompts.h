@@ -14,6 +14,9 @@ class Prompts {
   virtual void MsgWarn(const QString& text, const QString& title = {}) = 0;
   /** True for Yes. yesFirst False makes No the default button. */
   virtual bool MsgAsk(const QString& text, const QString& title = {}, bool yesFirst = true) = 0;
+  enum class Answer { Yes, No, Cancel };
+  /** Text and title; with a third way out, which Esc takes too and which a program without a screen takes. */
+  virtual Answer MsgYesNoCancel(const QString&, const QString& = {}) { return Answer::Cancel; }
   /** text, "오류번호 : " + number, "오류내용 : " + description, under "오류". */
   virtual void ErrorBox(const QString& text, int number, const QString& description) = 0;
   /** The same for an error at hand, which is noted as well. */

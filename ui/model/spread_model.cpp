@@ -185,6 +185,15 @@ void SpreadModel::setBold(int row, bool bold) {
   tell(What::Cells, row, 0);
 }
 
+int SpreadModel::topLine(int row) const {
+  return rows_.at(size_t(row - 1)).topLine;
+}
+
+void SpreadModel::setTopLine(int row, int rgb) {
+  rows_.at(size_t(row - 1)).topLine = rgb;
+  tell(What::Cells, row, 0);
+}
+
 qint64 SpreadModel::sum(int col, int fromRow, int toRow) const {
   qint64 total = 0;
   for (int row = fromRow; row <= toRow; ++row) total += QString(text(row, col)).remove(u',').toLongLong();

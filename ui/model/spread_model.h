@@ -77,6 +77,9 @@ class SpreadModel {
   void setSign(int row, int col, const QString& sign);
   bool bold(int row) const;
   void setBold(int row, bool bold);
+  /** 0xRRGGBB of a line along the row's upper edge that parts it from the rows above; -1: none. */
+  int topLine(int row) const;
+  void setTopLine(int row, int rgb);
 
   /** Numbers of a column's texts added up exactly, "1,234" read as 1234; in won or pieces. */
   qint64 sum(int col, int fromRow, int toRow) const;
@@ -101,6 +104,7 @@ class SpreadModel {
     qint64 id = 0;  ///< extras hang on the row, not on its place
     bool bold = false;
     int background = -1;
+    int topLine = -1;
   };
   struct Formula {
     qint64 id;  ///< of the row that shows the sum

@@ -1,0 +1,31 @@
+#pragma once
+// The from and to of the document forms: txtDate(0) and txtDate(1), and the range they stand for.
+#include <QDate>
+
+#include <functional>
+#include <optional>
+
+#include "documents/document_date.h"
+#include "ui/forms/fields.h"
+#include "ui/forms/form.h"
+
+class DateRangeBoxes {
+ public:
+  DateRangeBoxes(Form& form, QWidget* parent, const QString& fromHelp, const QString& toHelp);
+
+  DateBox* box(int end) const { return boxes_[end]; }
+  /** An empty date takes the one given for it. */
+  void set(const QString& from, const QString& to, const QDate& emptyFrom, const QDate& emptyTo);
+  QDate from() const { return dayOf(0); }
+  QDate to() const { return dayOf(1); }
+  /** Told after a box took another date. */
+  std::function<void()> changed;
+
+ private:
+  QDate dayOf(int end) const { return QDate::fromString(taken_[end], Qt::ISODate); }
+  void check(int end);
+
+  Form& form_;
+  DateBox* boxes_[2];
+  QString taken_[2];  ///< what stands in them as a date
+};

@@ -1,0 +1,41 @@
+#include "documents/ledger/clsTrade.h"
+
+#include "documents/ledger/softly.h"
+#include "store/data_access.h"
+
+std::optional<jet::Recordset> clsTrade::Read() const {
+  std::optional<jet::Recordset> rows;
+  softly([&] { rows = db_.OpenRecordset("SELECT * FROM " + table() + " ORDER BY Code"); });
+  return rows;
+}
+
+std::optional<jet::Recordset> clsTrade::ReadLine() const {
+  std::optional<jet::Recordset> rows;
+  softly([&] {
+    rows = db_.OpenRecordset("SELECT * FROM " + table() + " WHERE Code = '" + plainText(Code) + "'");
+  });
+  return rows;
+}
+
+bool clsTrade::Delete() const {
+  int gone = 0;
+  return softly([&] {
+           gone = db_.Execute("DELETE * FROM " + table() + " WHERE Code = '" + plainText(Code) + "'");
+         }) &&
+         gone > 0;
+}
+
+jet::Recordset clsTrade::TaxQuery(const QString& from, const QString& to, TaxGathering kind) const {
+  const bool daily = kind == TaxGathering::Daily;
+  const QString day = daily ? "Sale.saledate" : "Left$(Sale.saleDate, 7)";
+  return db_.OpenRecordset(
+      "SELECT " + day +
+      " AS SDealDate, client.Name AS CName, Sum(Sale.saleunit * sale.salenum) AS SumKum, "
+      "Count(Sale.salename) AS CSPCode,Sum(0) AS SumVat, First(Sale.salename) AS SPName, "
+      "Sum(Sale.salenum) AS SumQuantity, First(Sale.saleunit) AS FUnitCost, Sale.ClientCode AS SCCode, "
+      "First(Sale.Salething) AS SPNorm, Sum(sale.DC) as SumDC FROM Sale LEFT JOIN Client ON "
+      "Sale.ClientCode = client.Code WHERE Sale.saleDate BETWEEN '" +
+      plainText(from) + "' AND '" + plainText(to) +
+      "' AND Sale.saleunit <> 0 and Sale.SaleList = 0 GROUP BY " + day +
+      ", client.Name, Sale.ClientCode ORDER BY " + (daily ? "Sale.saleDate;" : "Client.Name;"));
+}

@@ -1,0 +1,121 @@
+#include "documents/ledger/clsTrader.h"
+
+#include <vector>
+
+#include "documents/ledger/softly.h"
+#include "store/data_access.h"
+
+namespace {
+
+struct Written {
+  const char* column;
+  QString value;  ///< as it stands in a statement
+};
+
+QString quoted(const QString& text) {
+  return "'" + plainText(text) + "'";
+}
+
+std::vector<Written> written(const TraderFields& of) {
+  return {{"C_Name", quoted(of.C_Name)},
+          {"U_Name", quoted(of.U_Name)},
+          {"Serial", quoted(of.Serial)},
+          {"Phone", quoted(of.Phone)},
+          {"Fax", quoted(of.Fax)},
+          {"DDD", quoted(of.DDD)},
+          {"Charge", quoted(of.Charge)},
+          {"VAT", QString::number(of.VAT)},
+          {"Addr1", quoted(of.Addr1)},
+          {"Addr2", quoted(of.Addr2)},
+          {"Post", quoted(of.Post)},
+          {"Status", quoted(of.Status)},
+          {"Item", quoted(of.Item)},
+          {"OpenDate", quoted(of.OpenDate)},
+          {"CloseDate", quoted(of.CloseDate)},
+          {"EnterDate", quoted(of.EnterDate)},
+          {"Section", quoted(of.Section)},
+          {"TotNoPay", QString::number(of.TotNoPay)},
+          {"Bigo", quoted(of.Bigo)},
+          {"bDeled", of.bDeled ? "True" : "False"},
+          {"HPhone", quoted(of.HPhone)}};
+}
+
+}  // namespace
+
+std::optional<jet::Recordset> clsTrader::open(const QString& sql) const {
+  std::optional<jet::Recordset> rows;
+  softly([&] { rows = db_.OpenRecordset(sql); });
+  return rows;
+}
+
+std::optional<qint64> clsTrader::numberOf(const QString& sql) const {
+  const auto rows = open(sql);
+  if (!rows || rows->atEnd()) return {};
+  return (*rows)[0].toLong();
+}
+
+std::optional<jet::Recordset> clsTrader::List() const {
+  return open("SELECT * FROM Trader ORDER BY Code");
+}
+
+std::optional<jet::Recordset> clsTrader::UndeletedList() const {
+  return open("SELECT * FROM Trader WHERE bDeled = False ORDER BY C_Name;");
+}
+
+std::optional<jet::Recordset> clsTrader::FindClient(const QString& code, const QString& name,
+                                                    const QString& tel, const QString& address) const {
+  if (!code.isEmpty())
+    return open("SELECT * FROM client WHERE Code = " + plainNumber(code) + " ORDER BY Code;");
+  // Kept: "ORDERY" is no word of the language, so this branch finds nothing.
+  return open("SELECT * FROM client WHERE name LIKE '*" + plainText(name) + "*' OR Tel LIKE '*" +
+              plainText(tel) + "*' OR Address LIKE '*" + plainText(address) + "*' ORDERY BY Code;");
+}
+
+bool clsTrader::Insert() const {
+  QString columns = "Code", values = quoted(fields.Code);
+  for (const Written& each : written(fields)) {
+    columns += QString(", ") + each.column;
+    values += ", " + each.value;
+  }
+  return softly([&] { db_.Execute("INSERT INTO Trader(" + columns + ") VALUES(" + values + ")"); });
+}
+
+bool clsTrader::Update() const {
+  QStringList pairs;
+  for (const Written& each : written(fields)) pairs << QString(each.column) + " = " + each.value;
+  return softly([&] {
+    db_.Execute("UPDATE Trader SET " + pairs.join(", ") + " WHERE Code = '" + plainText(fields.Code) + "'");
+  });
+}
+
+bool clsTrader::Delete() const {
+  return softly([&] { db_.Execute("Delete * From Trader WHERE Code = '" + plainText(fields.Code) + "'"); });
+}
+
+std::optional<qint64> clsTrader::VatOf(const QString& code) const {
+  return numberOf("SELECT VAT FROM Trader WHERE Code = '" + plainText(code) + "'");
+}
+
+std::optional<QString> clsTrader::NextCode() const {
+  const auto last = open("SELECT Max(Code) AS MCode FROM Trader;");
+  if (!last) return {};
+  return QString("%1").arg((*last)["MCode"].toText().toLongLong() + 1, 6, 10, QChar('0'));
+}
+
+std::optional<qint64> clsTrader::TotNoPayOf(const QString& code) const {
+  return numberOf("SELECT TotNoPay FROM Trader WHERE Code = '" + plainText(code) + "'");
+}
+
+std::optional<jet::Recordset> clsTrader::FindByName(const QString& name) const {
+  return open("SELECT * FROM Trader WHERE C_Name = '" + plainText(name) + "'");
+}
+
+bool clsTrader::SetCharge(const jet::Database& ledger, const QString& code, const QString& charge) {
+  const QString change = " set charge = '" + plainText(charge) + "' where CCode = '" + plainText(code) + "'";
+  return softly([&] {
+    ledger.Together([&] {
+      ledger.Execute("update sale" + change);
+      ledger.Execute("update purchase" + change);
+    });
+  });
+}

@@ -1,0 +1,16 @@
+#include "documents/tick_column.h"
+
+void TickColumn::set(int row, bool on) {
+  if (!list_.text(row, codeCol_).isEmpty()) list_.setText(row, tickCol_, on ? "1" : "0");
+}
+
+void TickColumn::setBlock(int from, int to, bool on) {
+  for (int row = qMin(from, to); row <= qMax(from, to); ++row) set(row, on);
+}
+
+std::vector<int> TickColumn::ticked() const {
+  std::vector<int> rows;
+  for (int row = 1; row <= list_.MaxRows(); ++row)
+    if (isTicked(row) && !list_.text(row, codeCol_).isEmpty()) rows.push_back(row);
+  return rows;
+}

@@ -1,0 +1,487 @@
+// Statements: what the list holds, what issuing does to the data, what stands where on the four papers.
+#include "documents/statements/deal_desk.h"
+#include "papers/paper_printer.h"
+#include "store/schema.h"
+#include "store/year_file.h"
+#include "tests/documents/places.h"
+#include "tests/recorded_print.h"
+#include "tests/support.h"
+
+namespace {
+
+using tests::column, tests::row;
+
+struct Deals : testing::Test {
+  Deals() {
+    pc.openBooks(QDate(2026, 3, 31));
+    upgrades::makeDealList(session);
+    session.printers = &printers;
+    session.dbBasic.Execute(
+        "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
+        "'123-45-67891', '서울 중구 1', '소매', '가스')");
+    session.dbBasic.Execute(
+        "Insert Into Client(Name, Uname, Serial, Address, Status, Item, GasInit, UtilInit) "
+        "Values('한라식당', "
+        "'김하나', '2208162517', '서울 강남 2', '음식', '한식', 50000, -2000)");
+    session.dbBasic.Execute("Insert Into Client(Name) Values('바다식당')");
+  }
+  void sale(const jet::Database& year, const QString& date, int client, const QString& name, qint64 unit,
+            qint64 number, int gubun = 1, const QString& thing = "20") {
+    year.Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
+                         "SaleGubun) Values('%1', %2, '%3', '%4', %5, %6, %7)")
+                     .arg(date)
+                     .arg(client)
+                     .arg(name, thing)
+                     .arg(unit)
+                     .arg(number)
+                     .arg(gubun));
+  }
+  void sale(const QString& date, int client, const QString& name, qint64 unit, qint64 number, int gubun = 1) {
+    sale(session.dbYear, date, client, name, unit, number, gubun);
+  }
+  DealAsk range(const QString& from, const QString& to, DealTab tab = DealTab::Pending) {
+    return {
+        .from = QDate::fromString(from, Qt::ISODate), .to = QDate::fromString(to, Qt::ISODate), .tab = tab};
+  }
+  QString first(const jet::Database& db, const QString& sql) {
+    const auto rows = db.OpenRecordset(sql);
+    return rows.atEnd() ? "-" : rows[0].toText();
+  }
+  QString cells(DealDesk& desk, int line, std::initializer_list<int> columns) {
+    QStringList found;
+    for (const int each : columns) found << desk.grid().text(line, each);
+    return found.join('|');
+  }
+  const tests::RecordedJob& print(const DocumentRun& run) {
+    runDocuments(onPrinter(session, printers.defaultName()), run);
+    return *printers.jobs.back();
+  }
+  /** The text at a row and column of a copy. */
+  QString at(const tests::RecordedJob& job, int page, double y, double x) {
+    const auto* item = job.at(page, x * column, y * row);
+    return item ? item->text : "-";
+  }
+
+  tests::TestPc pc;
+  Session& session = pc.session;
+  tests::RecordedPrinters printers;
+};
+
+TEST_F(Deals, TheListIsWhatIsPendingByDateAndCollectionsAreNeverInIt) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  sale("2026-03-02", 2, "LPG", 30'000, 1);
+  sale("2026-03-02", 2, "부탄", 10'000, 1);
+  sale("2026-03-05", 2, "LPG", 30'000, 1);
+  sale("2026-03-05", 1, "밸브", 5'000, 1, 7);
+  sale("2026-03-06", 1, "가스수금", 0, 0, 4);
+  sale("2026-03-06", 1, "자재수금", 9, 9, 8);
+  session.dbYear.Execute("Update Sale Set DealList = 3 Where SaleName = '자재수금'");
+  DealDesk desk(session);
+  ASSERT_TRUE(desk.search(range("2026-03-01", "2026-03-31")));
+  EXPECT_EQ(desk.grid().MaxRows(), 4);
+  using namespace DealCol;
+  EXPECT_EQ(cells(desk, 1, {Date, Client, Item, Norm, Quantity, Price, Amount, Tick, Code}),
+            "2026-03-02|한라식당|LPG|20|2|30000|60000||1");
+  EXPECT_EQ(cells(desk, 2, {Date, Client, Day, ClientName, ClientCode, MainCode}),
+            "|바다식당|2026-03-02|바다식당|2|2");
+  EXPECT_EQ(cells(desk, 3, {Date, Client, ClientName}), "||바다식당");
+  EXPECT_EQ(cells(desk, 4, {Date, Client}), "2026-03-05|바다식당") << "a new date names its customer again";
+  EXPECT_EQ(desk.grid().topLine(4), 0xC0C0C0);
+  EXPECT_EQ(desk.grid().topLine(3), -1);
+  EXPECT_EQ(desk.found().sumText(), "130,000 ");
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 2"), "2");
+
+  DealAsk ask = range("2026-03-01", "2026-03-31");
+  ask.facility = true;
+  ask.clientCode = "1";
+  desk.search(ask);
+  EXPECT_EQ(desk.found().sum(), 65'000);
+  session.dbYear.Execute("Update Sale Set DealList = -1 Where SaleID = 1");
+  session.dbYear.Execute("Update Sale Set DealList = 3 Where SaleID = 2");
+  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  EXPECT_EQ(cells(desk, 1, {Code}), "1") << "below zero counts as issued, above two stands nowhere";
+  EXPECT_EQ(desk.grid().MaxRows(), 1);
+}
+
+TEST_F(Deals, DatesThatAreNoRangeAreToldAndAnEmptyListHasOneBlankRow) {
+  DealDesk desk(session);
+  pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
+  EXPECT_FALSE(desk.search(range("2026-03-02", "2026-03-01")));
+  EXPECT_TRUE(desk.search(range("2026-03-02", "2026-03-02")));
+  EXPECT_EQ(desk.grid().MaxRows(), 1);
+  EXPECT_EQ(desk.found().sumText(), "");
+  desk.ticks().setAll(true);
+  EXPECT_EQ(desk.grid().text(1, DealCol::Tick), "") << "a row without a sale line is never ticked";
+  pc.prompts.expect("발행할 거래내역을 선택하세요.");
+  EXPECT_FALSE(desk.mayPrint(printers.defaultName()));
+}
+
+TEST_F(Deals, AYearsBoundaryOpensBothFilesAndEachLineIsMarkedInItsOwn) {
+  makeYearFile(session, "2025");
+  ASSERT_TRUE(upgrades::relink(session));
+  const auto before = openYear(session, "2025");
+  sale(before, "2025-12-31", 1, "LPG", 1'000, 1);
+  sale(before, "2025-11-30", 1, "LPG", 100, 1);
+  sale("2026-01-01", 1, "LPG", 2'000, 1);
+  sale("2026-02-28", 1, "LPG", 3'000, 1);
+  DealDesk desk(session);
+  ASSERT_TRUE(desk.search(range("2025-12-01", "2026-02-28")));
+  EXPECT_EQ(desk.found().sum(), 6'000);
+  desk.ticks().setAll(true);
+  print(desk.issue({}));
+  EXPECT_EQ(first(before, "Select DealList From Sale Where SaleDate = '2025-12-31'"), "1");
+  EXPECT_EQ(first(before, "Select DealList From Sale Where SaleDate = '2025-11-30'"), "0")
+      << "the same SaleID 2";
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 1"), "2");
+  pc.prompts.expect("2024년의 자료 파일을 열 수 없어");
+  EXPECT_TRUE(desk.search(range("2024-12-01", "2026-03-01")));
+  EXPECT_EQ(desk.found().sum(), 100);
+}
+
+TEST_F(Deals, ALineInTheHistoryStaysHiddenAndAPrintedOneIsWrittenThere) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().toggle(1);
+  print(desk.issue({}));
+  const auto history = session.wsMain.OpenDatabase(session.DbPath + "dbDetail.mdb");
+  EXPECT_EQ(first(history,
+                  "Select DealDate & CCode & CName & PName & PNorm & Quant & UnitCost & SaleKum & SaleSeq "
+                  "From DealList"),
+            "2026-03-021한라식당LPG20230000600001");
+  session.dbYear.Execute("Update Sale Set DealList = 0");
+  desk.search(range("2026-03-01", "2026-03-31"));
+  EXPECT_EQ(desk.found().sum(), 0);
+  session.dbYear.Execute("Update Sale Set DealList = 1");
+  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  EXPECT_EQ(desk.found().sum(), 60'000) << "the issued list does not look there";
+}
+
+TEST_F(Deals, AHistoryThatRefusesIsToldOnceAndThePaperComes) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  sale("2026-03-02", 1, "LPG", 30'000, 3);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  session.wsMain.OpenDatabase(session.DbPath + "dbDetail.mdb").Execute("drop table DealList");
+  pc.prompts.expect("거래명세서 내역을 저장하는 중 오류가 발생했습니다.");
+  EXPECT_FALSE(print(desk.issue({})).items.empty());
+}
+
+TEST_F(Deals, WhatAnotherPcIssuedMeanwhileStandsOnNoSecondPaper) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  sale("2026-03-02", 1, "부탄", 10'000, 1);
+  DealDesk here(session), there(session);
+  for (DealDesk* each : {&here, &there}) {
+    each->search(range("2026-03-01", "2026-03-31"));
+    each->ticks().setAll(true);
+  }
+  there.ticks().set(1, false);
+  EXPECT_EQ(there.issue({}).documents, 1);
+  pc.prompts.expect("다른 PC에서 먼저 발행하였거나 삭제한 1개의 거래내역은 발행하지 않았습니다.");
+  const auto& job = print(here.issue({}));
+  EXPECT_TRUE(job.texts().contains("LPG (20)"));
+  EXPECT_FALSE(job.texts().contains("부탄 (20)"));
+  pc.prompts.expect("2개의 거래내역은");
+  EXPECT_EQ(here.issue({}).documents, 0);
+}
+
+TEST_F(Deals, TheLedgersLayoutMarksBySaleIdWhereItsOwnColumnIsMissingOrForeign) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  sale("2026-03-03", 1, "LPG", 30'000, 2);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().toggle(1);
+  EXPECT_EQ(desk.issue({.layout = DealLayout::Dot}).documents, 1);
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 1"), "1");
+  session.dbYear.Execute("Alter Table Sale Add Column Code Text(10)");
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().toggle(1);
+  EXPECT_EQ(desk.issue({.layout = DealLayout::Dot}).documents, 1);
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 1"), "2");
+}
+
+TEST_F(Deals, WithoutALedgerQuantityAndDeletionEndInTheirOwnMessageOnce) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  pc.prompts.expect("거래내역을 수정하는 중 오류가 발생했습니다.");
+  EXPECT_FALSE(desk.changeQuantity(1, "3"));
+  EXPECT_EQ(desk.grid().text(1, DealCol::Quantity), "2");
+  pc.prompts.expect("삭제할 내역을 선택하세요.");
+  EXPECT_FALSE(desk.deleteTicked());
+  desk.ticks().setAll(true);
+  pc.prompts.expect("선택하신 2개의 내역을 삭제하시겠습니까?", false);
+  EXPECT_FALSE(desk.deleteTicked());
+  pc.prompts.expect("선택하신 2개의 내역을 삭제하시겠습니까?", true);
+  pc.prompts.expect("거래명세표 내역을 삭제하는 중 오류가 발생했습니다.");
+  EXPECT_TRUE(desk.deleteTicked());
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale"), "2");
+}
+
+TEST_F(Deals, WithALedgerTheLineAndItsBookMove) {
+  session.dbBasic.createTable(schema::table(schema::File::Ledger, "Trader"));
+  for (const char* name : {"Trader", "Product", "SaleBook"})
+    session.dbYear.createTable(schema::table(schema::File::Ledger, name));
+  for (const char* field : {"Code Text(10)", "CCode Text(6)", "PCode Text(10)", "Quantity Long",
+                            "TradeKum Long", "VatKum Long", "SumKum Long"})
+    session.dbYear.Execute(QString("Alter Table Sale Add Column ") + field);
+  sale("2026-03-02", 1, "LPG", 10'000, 2);
+  session.dbYear.Execute(
+      "Update Sale Set Code = '1', CCode = '000001', TradeKum = 20000, VatKum = 2000, SumKum = "
+      "22000, DC = 500");
+  session.dbYear.Execute("Insert Into Trader(Code, VAT) Values('000001', 2)");
+  session.dbYear.Execute(
+      "Insert Into SaleBook(CCode, DealDate, TradeKum, DC, VatKum, SumKum) Values('000001', "
+      "'2026-03-02', 20000, 500, 2000, 22000)");
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  ASSERT_TRUE(desk.changeQuantity(1, "3"));
+  // 3 x 10,000 less 500 is 29,500; a tenth on top is 2,950
+  EXPECT_EQ(desk.grid().text(1, DealCol::Amount), "32450");
+  const QString figures = "Select TradeKum & '/' & DC & '/' & VatKum & '/' & SumKum From ";
+  EXPECT_EQ(first(session.dbYear, figures + "Sale"), "29500/500/2950/32450");
+  EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "29500/500/2950/32450");
+  desk.ticks().toggle(1);
+  pc.prompts.expect("선택하신 1개의 내역을 삭제하시겠습니까?");
+  EXPECT_TRUE(desk.deleteTicked());
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale"), "0");
+  EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "0/0/0/0") << "the next start takes such a row away";
+}
+
+// --- the papers -----------------------------------------------------------------------------------------------
+
+TEST_F(Deals, HalfA4TextByText) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  sale("2026-03-05", 1, "부탄", 55, 1);
+  setDocumentMargins(session, "거래명세표", {"1", "3"});
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  const auto& job = print(desk.issue({}));
+  EXPECT_EQ(job.pages, 1);
+  EXPECT_EQ(job.paper.width, 8.27);
+  for (const double base : {1 + 3.0, 1 + 38.0}) {
+    const auto text = [&](double y, double x) { return at(job, 1, base + y, 3 + 2 + x); };
+    EXPECT_EQ(text(0, 16), "2026년 03월 31일");
+    EXPECT_EQ(text(5, 20), "123-45-67891");
+    EXPECT_EQ(text(5, 63), "2208162517");
+    EXPECT_EQ(text(7, 16), "해온가스");
+    EXPECT_EQ(text(7, 46), "홍길동");
+    EXPECT_EQ(text(7, 64), "한라식당");
+    EXPECT_EQ(text(7, 94), "김하나");
+    EXPECT_EQ(text(9, 16), "서울 중구 1");
+    EXPECT_EQ(text(9, 64), "서울 강남 2");
+    EXPECT_EQ(text(11, 16), "소매");
+    EXPECT_EQ(text(11, 36), "가스");
+    EXPECT_EQ(text(11, 64), "음식");
+    EXPECT_EQ(text(11, 85), "한식");
+    EXPECT_EQ(text(15, 9), "2026-03-02");
+    EXPECT_EQ(text(15, 23), "LPG (20)");
+    EXPECT_EQ(text(15, 58), "          2");
+    EXPECT_EQ(text(15, 70), "     30,000");
+    EXPECT_EQ(text(15, 84), "      54,545");  // 60,000 / 1.1
+    EXPECT_EQ(text(15, 98), "       5,455");
+    EXPECT_EQ(text(16, 84), "          50");
+    EXPECT_EQ(text(16, 98), "           5");
+    EXPECT_EQ(text(30, 14), "54,595");
+    EXPECT_EQ(text(30, 32), "5,460");
+    EXPECT_EQ(text(30, 49), "60,055");
+    EXPECT_EQ(text(30, 65), "-");
+  }
+  EXPECT_EQ(job.items.front().font.family, "굴림체");
+  EXPECT_EQ(job.items.front().font.points, 9.75);
+}
+
+TEST_F(Deals, FourteenLinesAreOneSheetFifteenAreTwoAndTheSumsRunOn) {
+  for (int line = 0; line < 15; ++line) sale("2026-03-02", 1, "LPG", 1'100, 1);
+  DealDesk desk(session);
+  desk.search(range("2026-03-02", "2026-03-02"));
+  desk.ticks().setAll(true);
+  desk.ticks().set(15, false);
+  const DealPrint onTop{.vat = Vat::OnTop};
+  {
+    const auto& job = print(desk.papers(onTop));
+    EXPECT_EQ(job.pages, 1);
+    EXPECT_EQ(job.texts().filter("뒷장").size(), 0);
+    EXPECT_EQ(at(job, 1, 3 + 15 + 13, 2 + 9), "LPG (20)") << "one day: no date, the item in its place";
+    EXPECT_EQ(at(job, 1, 3 + 15, 2 + 23), "-");
+    EXPECT_EQ(at(job, 1, 3 + 30, 2 + 49), "16,940");  // 14 x 1,210
+  }
+  desk.ticks().set(15, true);
+  const auto& job = print(desk.papers(onTop));
+  EXPECT_EQ(job.pages, 2);
+  EXPECT_EQ(at(job, 1, 3 + 30, 2 + 65), "- 뒷장있음(1)-");
+  EXPECT_EQ(at(job, 1, 38 + 30, 2 + 65), "- 뒷장있음(1)-");
+  EXPECT_EQ(job.texts(2).filter("뒷장").size(), 0);
+  EXPECT_EQ(at(job, 2, 3 + 15, 2 + 9), "LPG (20)");
+  EXPECT_EQ(at(job, 2, 3 + 16, 2 + 9), "-");
+  for (const double base : {3.0, 38.0}) {
+    EXPECT_EQ(at(job, 2, base + 30, 2 + 14), "16,500");
+    EXPECT_EQ(at(job, 2, base + 30, 2 + 32), "1,650");
+    EXPECT_EQ(at(job, 2, base + 30, 2 + 49), "18,150");
+  }
+}
+
+TEST_F(Deals, EachRunOfOneCustomerIsAStatementOnItsOwnSheetAndVatIsAChoice) {
+  sale("2026-03-02", 1, "LPG", 100, 1);
+  sale("2026-03-02", 2, "LPG", 200, 1);
+  sale("2026-03-03", 1, "LPG", 300, 1);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  const DocumentRun run = desk.papers({.vat = Vat::None});
+  EXPECT_EQ(run.documents, 3);
+  EXPECT_EQ(run.name(1), "2026-03-31 바다식당 거래명세표");
+  const auto& job = print(run);
+  EXPECT_EQ(job.pages, 3);
+  EXPECT_EQ(at(job, 2, 3 + 7, 2 + 64), "바다식당");
+  EXPECT_EQ(at(job, 3, 3 + 30, 2 + 14), "300");
+  EXPECT_EQ(at(job, 3, 3 + 30, 2 + 32), "-") << "no tax, nothing printed";
+  EXPECT_EQ(print(desk.papers({.vat = {}})).texts(3).filter("300").size(), 2)
+      << "the price alone, on both copies";
+  desk.ticks().set(2, false);
+  EXPECT_EQ(desk.papers({}).documents, 1) << "an unticked line parts no run";
+  session.dbBasic.Execute("Delete From Client Where Code = 1");
+  EXPECT_TRUE(print(desk.papers({})).texts().contains("한라식당"))
+      << "a customer deleted meanwhile keeps his name";
+}
+
+TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  const auto& job = print(desk.papers({.layout = DealLayout::FullA4}));
+  const QStringList marks{"  (공급자 보관용)", "(공급받는자 보관용)"};
+  for (int copy = 0; copy < 2; ++copy) {
+    const double edge = (1 + 35 * copy) * row;
+    const auto label = [&](double x, double y) {
+      const auto* item = job.at(1, x, edge + y);
+      return item ? item->text : "-";
+    };
+    EXPECT_EQ(label(0.68, 0.51), "날 짜 :");
+    EXPECT_EQ(label(3.23, 0.20), "거 래 명 세 표");
+    EXPECT_EQ(label(3.37, 0.51), marks[copy]);
+    EXPECT_EQ(label(5.92, 0.54), "검수자");
+    EXPECT_EQ(label(0.75, 1.81), "자");
+    EXPECT_EQ(label(3.98, 1.65), "는");
+    EXPECT_EQ(label(6.16, 1.28), "명");
+    EXPECT_EQ(label(5.97, 1.97), "목");
+    EXPECT_EQ(label(1.23, 2.26), "총미수금:");
+    EXPECT_EQ(label(3.51, 2.26), "합    계:");
+    EXPECT_EQ(label(5.51, 2.26), "전미수금:");
+    EXPECT_EQ(label(0.85, 2.61), "C O D E");
+    EXPECT_EQ(label(1.78, 2.61), " 품              목");
+    EXPECT_EQ(label(7.02, 2.59), "비 고");
+    const double base = 1 + 35 * copy;
+    EXPECT_EQ(at(job, 1, base + 2.9, 18), "2026");
+    EXPECT_EQ(at(job, 1, base + 2.9, 27), "03");
+    EXPECT_EQ(at(job, 1, base + 2.9, 33), "31");
+    EXPECT_EQ(at(job, 1, base + 5.1, 23), "123-45-67891");
+    EXPECT_EQ(at(job, 1, base + 5.1, 69), "2208162517");
+    EXPECT_EQ(at(job, 1, base + 7, 19), "해온가스");
+    EXPECT_EQ(at(job, 1, base + 7, 42), "홍길동");
+    EXPECT_EQ(at(job, 1, base + 7, 65), "한라식당");
+    EXPECT_EQ(at(job, 1, base + 7, 92), "김하나");
+    EXPECT_EQ(at(job, 1, base + 11.3, 89), "한식");
+    EXPECT_EQ(at(job, 1, base + 16.92, 13), "03-02");
+    EXPECT_EQ(at(job, 1, base + 16.92, 24), "LPG (20)");
+    EXPECT_EQ(at(job, 1, base + 16.92, 59).trimmed(), "2");
+    EXPECT_EQ(at(job, 1, base + 16.92, 74).trimmed(), "30,000");
+    EXPECT_EQ(at(job, 1, base + 16.92, 87).trimmed(), "60,000");
+    EXPECT_EQ(at(job, 1, base + 13.6, 26).trimmed(), "108,000") << "48,000 before it";
+    EXPECT_EQ(at(job, 1, base + 13.6, 55).trimmed(), "60,000");
+    EXPECT_EQ(at(job, 1, base + 13.6, 80).trimmed(), "48,000");
+  }
+  EXPECT_GT(std::ranges::count_if(job.items,
+                                  [](const auto& item) { return item.kind == tests::PrintedItem::Line; }),
+            60);
+  const auto& bare = print(desk.papers({.layout = DealLayout::FullA4, .drawnForm = false}));
+  EXPECT_EQ(std::ranges::count_if(bare.items,
+                                  [](const auto& item) { return item.kind != tests::PrintedItem::Text; }),
+            0);
+  EXPECT_EQ(at(bare, 1, 1 + 7, 19), "해온가스");
+}
+
+TEST_F(Deals, TheOtherHalfSheetAndTheDotPrinter) {
+  for (int line = 0; line < 15; ++line) sale("2026-03-02", 1, "LPG", 1'100, 1);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  {
+    const auto& job = print(desk.papers({.layout = DealLayout::HalfA4B}));
+    EXPECT_EQ(at(job, 1, 3 + 0, 14), "2026년 03월 31일");
+    EXPECT_EQ(at(job, 1, 3 + 5, 21), "123-45-67891");
+    EXPECT_EQ(at(job, 1, 38 + 5, 69), "2208162517");
+    EXPECT_EQ(at(job, 1, 3 + 7, 12), "해온가스");
+    EXPECT_EQ(at(job, 1, 3 + 7, 41), "홍길동");
+    EXPECT_EQ(at(job, 1, 3 + 7, 60), "한라식당");
+    EXPECT_EQ(at(job, 1, 3 + 7, 89), "김하나");
+    EXPECT_EQ(at(job, 1, 3 + 9, 60), "서울 강남 2");
+    EXPECT_EQ(at(job, 1, 3 + 11, 31), "가스");
+    EXPECT_EQ(at(job, 1, 3 + 11, 80), "한식");
+    EXPECT_EQ(at(job, 1, 3 + 15, 6), "2026-03-02");
+    EXPECT_EQ(at(job, 1, 3 + 15, 24), "LPG (20)");
+    EXPECT_EQ(at(job, 1, 3 + 15, 55), "          1");
+    EXPECT_EQ(at(job, 1, 3 + 15, 67).trimmed(), "1,100");
+    EXPECT_EQ(at(job, 1, 3 + 15, 81).trimmed(), "1,100");
+    EXPECT_EQ(at(job, 2, 3 + 30, 12), "15,000");
+    EXPECT_EQ(at(job, 2, 3 + 30, 32), "1,500");
+    EXPECT_EQ(at(job, 2, 3 + 30, 52), "16,500");
+    EXPECT_EQ(at(job, 2, 3 + 30, 71), "64,500");
+  }
+  const auto& job = print(desk.papers({.layout = DealLayout::Dot}));
+  EXPECT_EQ(job.paper.height, 11);
+  EXPECT_EQ(at(job, 1, 2 + 2, 1), "2026-03-31");
+  EXPECT_EQ(at(job, 1, 2 + 2, 18), "123-45-67891");
+  EXPECT_EQ(at(job, 1, 2 + 2, 66), "2208162517");
+  EXPECT_EQ(at(job, 1, 2 + 4, 37), "홍길동");
+  EXPECT_EQ(at(job, 1, 2 + 4, 67), "한라식당");
+  EXPECT_EQ(at(job, 1, 2 + 4, 96), "김하나");
+  EXPECT_EQ(at(job, 1, 2 + 6, 67), "서울 강남 2");
+  EXPECT_EQ(at(job, 1, 2 + 8, 87), "===비======고===");
+  EXPECT_EQ(at(job, 1, 2 + 9, 1), "03-02 LPG (20)");
+  EXPECT_EQ(at(job, 1, 2 + 9, 40).trimmed(), "1");
+  EXPECT_EQ(at(job, 1, 2 + 9, 50).trimmed(), "1,100");
+  EXPECT_EQ(at(job, 1, 2 + 9, 65).trimmed(), "1,000");
+  EXPECT_EQ(at(job, 1, 2 + 9, 79).trimmed(), "100");
+  EXPECT_EQ(at(job, 1, 2 + 24, 88), "15,400") << "this page alone";
+  EXPECT_EQ(at(job, 1, 2 + 25, 60), "-");
+  EXPECT_EQ(at(job, 2, 2 + 24, 35), "15,000");
+  EXPECT_EQ(at(job, 2, 2 + 24, 92), "16,500");
+  EXPECT_EQ(at(job, 2, 2 + 25, 60), "전이월 : 48,000");
+  EXPECT_EQ(at(job, 2, 35 + 25, 80), "잔액 : 64,500");
+
+  session.dbYear.createTable(schema::table(schema::File::Ledger, "SaleBook"));
+  session.dbYear.Execute(
+      "Insert Into SaleBook(CCode, DealDate, TradeKum) Values('000001', '2026-01-00', 700)");
+  session.dbYear.Execute("Insert Into SaleBook(CCode, DealDate, SumKum) Values('000001', '2026-02-10', 300)");
+  EXPECT_EQ(at(print(desk.papers({.layout = DealLayout::Dot})), 2, 2 + 25, 60), "전이월 : 1,000")
+      << "the ledger knows better";
+}
+
+TEST_F(Deals, NothingMovesWithoutACompanyOrAPrinterAndARefusalLeavesTheLinesIssued) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  EXPECT_THROW(desk.mayPrint("없는 프린터"), pc::PrintError);
+  EXPECT_TRUE(desk.mayPrint(printers.defaultName()));
+  session.dbBasic.Execute("Delete From User");
+  pc.prompts.expect("사용자등록부터 하셔야 합니다");
+  EXPECT_FALSE(desk.mayPrint(printers.defaultName()));
+  EXPECT_EQ(first(session.dbYear, "Select DealList From Sale"), "0");
+  printers.refusal = "용지 없음";
+  const DocumentRun run = desk.issue({});
+  EXPECT_THROW(print(run), pc::PrintError);
+  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  EXPECT_EQ(desk.found().sum(), 60'000);
+  desk.ticks().setAll(true);
+  printers.refusal.clear();
+  const auto& again = print(desk.issue({}));
+  EXPECT_EQ(at(again, 1, 3 + 15, 2 + 23), "LPG (20)");
+}
+
+}  // namespace

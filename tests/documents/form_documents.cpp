@@ -1,0 +1,400 @@
+// The document forms on real windows: keys, mouse, boxes, where the hand goes next.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+
+#include "documents/invoices/FrmNewAcount.h"
+#include "documents/invoices/FrmTax.h"
+#include "documents/pickers/FrmMsg.h"
+#include "documents/pickers/FrmNewTrader.h"
+#include "documents/pickers/FrmTraderList.h"
+#include "documents/statements/FrmDealList.h"
+#include "papers/form_document_run.h"
+#include "papers/paper_printer.h"
+#include "tests/idle_context.h"
+#include "tests/recorded_print.h"
+#include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
+
+namespace {
+
+/** Runs act in the menu that opens next. */
+void whenMenu(std::function<void(QMenu&)> act) {
+  auto* const look = new QTimer(qApp);
+  QObject::connect(look, &QTimer::timeout, look, [look, act = std::move(act)] {
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu) return;
+    look->deleteLater();
+    act(*menu);
+  });
+  look->start(1);
+}
+
+/** Searches and questions answered as the test says. */
+struct DocumentPickers : tests::IdlePickers {
+  TraderFound found;
+  std::optional<PrintMethodChoice> method = PrintMethodChoice{};
+  PrintMethodQuestion asked;
+  TraderFound searchTrader(const QString&) override { return found; }
+  std::optional<PrintMethodChoice> askPrintMethod(const PrintMethodQuestion& question) override {
+    asked = question;
+    return method;
+  }
+};
+
+struct DocumentForms : testing::Test {
+  DocumentForms() {
+    pc.openBooks(QDate(2026, 3, 31));
+    upgrades::makeDealList(session);
+    session.printers = &printers;
+    session.dbBasic.Execute(
+        "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
+        "'123-45-67891', '서울 중구 세종대로 1', '소매', '가스')");
+    session.dbBasic.Execute(
+        "Insert Into Client(Name, Uname, Serial, Address, Status, Item, Tel) Values('한라식당', '김하나', "
+        "'220-81-62517', '서울 강남 2', '음식', '한식', '555-1234')");
+    session.dbBasic.Execute("Insert Into Client(Name, Tel) Values('바다식당', '555-9999')");
+    for (int line = 0; line < 16; ++line)
+      session.dbYear.Execute(
+          QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun) "
+                  "Values('2026-03-%1', %2, 'LPG', '20', 34500, %3, 1)")
+              .arg(20 + line / 2, 2, 10, QChar('0'))
+              .arg(1 + line % 2)
+              .arg(line % 4 + 1));
+  }
+  QString pending() {
+    return session.dbYear.OpenRecordset("Select Count(*) From Sale Where DealList = 0")[0].toText();
+  }
+  static void press(QWidget& form, const char* name) {
+    QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
+  }
+  static void click(Spread& grid, int row, int col) {
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, grid.cellRect(row, col).center());
+  }
+
+  tests::TestPc pc;
+  Session& session = pc.session;
+  tests::RecordedPrinters printers;
+  DocumentPickers pickers;
+  tests::IdleCommands commands;
+  tests::IdleCalls calls;
+  FormContext context{session, pickers, commands, calls};
+};
+
+struct DealForm : DocumentForms {
+  DealForm() : form(context) {
+    form.Open("2026-03-01", "2026-03-31");
+    tests::show(form);
+    grid = form.findChild<Spread*>("grdList");
+  }
+  QString tick(int row) { return grid->model().text(row, DealCol::Tick); }
+  FrmDealList form;
+  Spread* grid = nullptr;
+};
+
+TEST_F(DealForm, OpensOnTheRangeAndTellsThePrinter) {
+  EXPECT_EQ(form.windowTitle(), "거래명세표 발행 - 현재 설정된 프린터 : 지로프린터");
+  EXPECT_EQ(form.openingKey(), "2026-03-00");
+  EXPECT_EQ(grid->model().MaxRows(), 16);
+  EXPECT_EQ(form.findChild<QLabel*>("pnlSum")->text(), "1,380,000 ");  // 40 pieces at 34,500
+  EXPECT_TRUE(form.findChild<QCheckBox*>("chkForm")->isChecked());
+  EXPECT_TRUE(form.findChild<QRadioButton*>("OptGubun(2)")->isChecked());
+  form.resize(form.sizeHint());
+  tests::grab(form, "FrmDealList");
+  form.Open({}, {});
+  EXPECT_EQ(form.findChild<QLineEdit*>("txtDate(0)")->text(), "2026-03-31");
+  EXPECT_EQ(form.findChild<QLabel*>("pnlSum")->text(), "");
+}
+
+TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
+  grid->setFocus();
+  grid->setActiveCell(1, DealCol::Item);
+  tests::key(Qt::Key_Space);
+  EXPECT_EQ(tick(1), "1");
+  tests::key(Qt::Key_Space);
+  EXPECT_EQ(tick(1), "0");
+  tests::key(Qt::Key_Down, Qt::ShiftModifier);
+  tests::key(Qt::Key_Space);
+  EXPECT_EQ(tick(1) + tick(2) + tick(3), "11");
+  click(*grid, 5, DealCol::Item);
+  EXPECT_EQ(tick(5), "") << "a click chooses a row, nothing more";
+  QTest::mouseDClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
+                     grid->cellRect(5, DealCol::Item).center());
+  EXPECT_EQ(tick(5), "1");
+  click(*grid, 6, DealCol::Tick);
+  EXPECT_EQ(tick(6), "1");
+  QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    grid->cellRect(8, DealCol::Item).center());
+  QTest::mouseMove(grid->viewport(), grid->cellRect(10, DealCol::Item).center());
+  {
+    QMouseEvent drag(QEvent::MouseMove, grid->cellRect(10, DealCol::Item).center(),
+                     grid->viewport()->mapToGlobal(grid->cellRect(10, DealCol::Item).center()), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(grid->viewport(), &drag);
+  }
+  QTest::mouseRelease(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      grid->cellRect(10, DealCol::Item).center());
+  EXPECT_EQ(tick(7) + tick(8) + tick(9) + tick(10) + tick(11), "111");
+  form.findChild<QCheckBox*>("ChkAll")->click();
+  EXPECT_EQ(tick(16), "1");
+  form.findChild<QCheckBox*>("ChkAll")->click();
+  EXPECT_EQ(tick(1), "0");
+}
+
+TEST_F(DealForm, TheCustomerIsChosenAndForgotten) {
+  tests::key(Qt::Key_Insert);
+  auto* const client = form.findChild<QLineEdit*>("txtinput");
+  EXPECT_TRUE(client->hasFocus());
+  pickers.found = {.any = false, .trader = {}};
+  pc.prompts.expect("등록된 거래처가 없습니다.");
+  tests::key(Qt::Key_Return);
+  client->setText("없는집");
+  pc.prompts.expect("검색된 거래처가 없습니다.");
+  tests::key(Qt::Key_Return);
+  pickers.found = {.any = true, .trader = ClientChoice{2, "바다식당"}};
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(form.findChild<QLineEdit*>("txtCCode")->text(), "2");
+  EXPECT_EQ(grid->model().MaxRows(), 8);
+  client->setFocus();
+  client->clear();
+  form.findChild<QLineEdit*>("txtDate(0)")->setFocus();
+  QApplication::processEvents();
+  EXPECT_EQ(form.findChild<QLineEdit*>("txtCCode")->text(), "");
+}
+
+TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
+  auto* const from = form.findChild<DateBox*>("txtDate(0)");
+  from->setFocus();
+  from->setDateText("2026-13-01");
+  pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
+  tests::key(Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_EQ(from->text(), "2026-03-01");
+  EXPECT_TRUE(from->hasFocus());
+  from->setDateText("2026-03-31");
+  form.findChild<DateBox*>("txtDate(1)")->setFocus();
+  QApplication::processEvents();
+  form.findChild<DateBox*>("txtDate(1)")->setDateText("2026-03-30");
+  pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
+  tests::key(Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_TRUE(from->hasFocus());
+}
+
+TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
+  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  EXPECT_EQ(grid->model().text(1, DealCol::Code), "");
+  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(0);
+  grid->setFocus();
+  grid->setActiveCell(1, DealCol::Item);
+  tests::key(Qt::Key_Space);
+  pickers.method = PrintMethodChoice{false, 1};
+  whenMenu([](QMenu& menu) {
+    EXPECT_EQ(menu.actions().at(0)->text(), " 명 세 표 출 력 ");
+    EXPECT_EQ(menu.actions().at(2)->text(), " 취          소 ");
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+  });
+  press(form, "btnPrint");
+  EXPECT_EQ(pickers.asked.title, "거래명세표 발행");
+  EXPECT_EQ(pickers.asked.inkjet, "잉크젯(레이저)(&L)");
+  ASSERT_EQ(printers.jobs.size(), 1u);
+  EXPECT_TRUE(printers.jobs[0]->ended);
+  EXPECT_TRUE(printers.jobs[0]->texts().contains("C O D E"));
+  EXPECT_EQ(pending(), "15");
+  EXPECT_EQ(grid->model().MaxRows(), 15) << "it left the list";
+  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  EXPECT_EQ(grid->model().text(1, DealCol::ClientName), "한라식당");
+  grid->setFocus();
+  tests::key(Qt::Key_Space);
+  printers.refusal = "용지가 없습니다.";
+  pc.prompts.expect("용지가 없습니다.\n\n거래명세표를 모두 인쇄하지 못했습니다.");
+  press(form, "btnPrint");
+  EXPECT_EQ(pending(), "15");
+}
+
+TEST_F(DealForm, LeavingTheQuestionIssuesNothing) {
+  grid->setFocus();
+  form.findChild<QCheckBox*>("ChkAll")->click();
+  whenMenu([](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
+  press(form, "btnPrint");
+  pickers.method = {};
+  whenMenu([](QMenu& menu) {
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+  });
+  press(form, "btnPrint");
+  EXPECT_EQ(pending(), "16");
+  pickers.method = PrintMethodChoice{};
+  press(form, "btnPreview");
+  EXPECT_EQ(pending(), "16") << "looked at";
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->objectName() == "FrmPaperView") {
+      tests::grab(*window, "FrmDealList-preview");
+      window->close();
+    }
+}
+
+TEST_F(DealForm, AQuantityTheLedgerRefusesComesBack) {
+  grid->setFocus();
+  grid->setActiveCell(1, DealCol::Quantity);
+  tests::type("7");
+  pc.prompts.expect("거래내역을 수정하는 중 오류가 발생했습니다.");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(grid->model().text(1, DealCol::Quantity), "1");
+  EXPECT_FALSE(grid->isEditing());
+  pc.prompts.expect("삭제할 내역을 선택하세요.");
+  tests::key(Qt::Key_Delete);
+}
+
+struct TaxForm : DocumentForms {
+  TaxForm() : form(context) {
+    tests::show(form);
+    grid = form.findChild<Spread*>("grdList");
+  }
+  QString label(const char* name) { return form.findChild<QLabel*>(name)->text(); }
+  QString box(const char* name) { return form.findChild<QLineEdit*>(name)->text(); }
+  FrmTax form;
+  Spread* grid = nullptr;
+};
+
+TEST_F(TaxForm, GathersTheMonthAndShowsItsSums) {
+  EXPECT_EQ(form.windowTitle(), "세금계산서 발행 - 현재 설정된 프린터 : 지로프린터");
+  EXPECT_EQ(box("txtDate(0)") + box("txtDate(1)"), "2026-03-012026-03-31");
+  EXPECT_EQ(box("Txt일련번호1") + '-' + box("Txt일련번호2"), "2603-001");
+  EXPECT_EQ(grid->model().MaxRows(), 2);
+  EXPECT_EQ(label("pnlSum(2)"), "1,380,000");
+  EXPECT_EQ(label("pnlCaption"), " 발행할 거래내역을 선택하세요. [선택:Space 또는 Click]");
+  form.resize(form.sizeHint());
+  tests::grab(form, "FrmTax");
+  form.findChild<QCheckBox*>("ChkVat")->click();
+  EXPECT_EQ(label("pnlSum(1)"), "");
+  form.findChild<QRadioButton*>("OptVat(1)")->click();
+  EXPECT_FALSE(form.findChild<QCheckBox*>("ChkVat")->isChecked());
+  EXPECT_EQ(label("pnlSum(2)"), "1,518,000");
+  form.findChild<QRadioButton*>("OptGubun(1)")->click();
+  EXPECT_EQ(grid->model().MaxRows(), 16);
+}
+
+TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
+  grid->setFocus();
+  click(*grid, 1, TaxCol::Client);
+  EXPECT_EQ(grid->model().text(1, TaxCol::Tick), "1");
+  pickers.method = PrintMethodChoice{false, 1};
+  tests::key(Qt::Key_F4);
+  EXPECT_EQ(pickers.asked.prompt, "세금계산서 발행 방법을 선택하세요.");
+  EXPECT_EQ(grid->model().MaxRows(), 1);
+  EXPECT_EQ(box("Txt일련번호2"), "002");
+  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "2603001");
+  grid->setFocus();
+  grid->setActiveCell(1, TaxCol::Client);
+  pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
+  tests::key(Qt::Key_Delete);
+  EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "");
+  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(0);
+  EXPECT_EQ(grid->model().MaxRows(), 1) << "its lines do not come back";
+}
+
+TEST_F(TaxForm, F5ChangesTheIssueDateAndEscLeavesTheDatesFirst) {
+  grid->setFocus();
+  grid->setActiveCell(1, TaxCol::Client);
+  tests::key(Qt::Key_F5);
+  ASSERT_TRUE(grid->isEditing());
+  tests::type("20260330");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(grid->model().text(1, TaxCol::IssueDate), "2026-03-30");
+  tests::key(Qt::Key_Insert);
+  EXPECT_TRUE(form.findChild<QLineEdit*>("txtDate(0)")->hasFocus());
+  tests::key(Qt::Key_Escape);
+  EXPECT_TRUE(form.isVisible());
+  tests::key(Qt::Key_F1);
+  EXPECT_EQ(commands.asked.back(), "FrmMargin:세금계산서");
+  tests::key(Qt::Key_F2);
+  EXPECT_EQ(commands.asked.back(), "FrmMargin:세금계산서") << "invoices are typed in the other mode";
+  form.showPage("1");
+  EXPECT_EQ(label("pnlCaption"), " F2키를 눌러 발행할 내역을 먼저 입력하세요.");
+  EXPECT_FALSE(form.findChild<QPushButton*>("Cmd모으기")->isEnabled());
+  tests::key(Qt::Key_F2);
+  EXPECT_EQ(commands.asked.back(), "FrmNewAcount:2026-03-31,2026-03-31");
+}
+
+TEST_F(DocumentForms, TypingAnInvoiceByKeys) {
+  FrmNewAcount form(context);
+  tests::show(form);
+  auto* const grid = form.findChild<Spread*>("grdList");
+  EXPECT_TRUE(form.findChild<QLineEdit*>("txtinput")->hasFocus());
+  grid->setFocus();
+  pc.prompts.expect("거래처를 먼저 선택하여 주십시요.");
+  tests::type("a");
+  EXPECT_TRUE(form.findChild<QLineEdit*>("txtinput")->hasFocus());
+  pickers.found = {.any = true, .trader = ClientChoice{1, "한라식당"}};
+  tests::key(Qt::Key_Return);
+  EXPECT_TRUE(grid->isAncestorOf(QApplication::focusWidget()));
+  for (const char* typed : {"gas", "20", "0", "2", "1000"}) {
+    tests::type(typed);
+    tests::key(Qt::Key_Return);
+  }
+  EXPECT_EQ(grid->model().text(1, AcountCol::Total), "2,200");
+  EXPECT_EQ(form.findChild<QLabel*>("pnlSum(1)")->text(), "200");
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(grid->activeRow(), 2);
+  tests::grab(form, "FrmNewAcount");
+  pc.prompts.expect("세금계산서 내역을 저장하시겠습니까?", true);
+  pc.prompts.expect("[닫기]버튼을 누르시면 계산서를 발행하실 수 있습니다");
+  press(form, "btnQuit");
+  EXPECT_FALSE(form.isVisible());
+  FrmTax tax(context);
+  // The form empties what was left behind when it opens for typed invoices; what is typed while it is open stays.
+  tax.showPage("1");
+  EXPECT_EQ(tax.findChild<Spread*>("grdList")->model().text(1, TaxCol::TaxCode), "");
+}
+
+TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
+  tests::whenModal([](QWidget& dialog) {
+    tests::grab(dialog, "FrmMsg");
+    dialog.findChild<QRadioButton*>("optPaper(2)")->click();
+    QTest::mouseClick(dialog.findChild<QPushButton*>("btnDot"), Qt::LeftButton);
+  });
+  const auto method = FrmMsg(session, {"제목", "물음", "잉크젯", "도트"}, nullptr);
+  ASSERT_TRUE(method);
+  EXPECT_TRUE(method->dot);
+  EXPECT_EQ(method->paper, 2);
+  tests::whenModal([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  EXPECT_FALSE(FrmMsg(session, {}, nullptr));
+
+  EXPECT_FALSE(FrmTraderList(session, pickers, "없는집", nullptr).any);
+  EXPECT_EQ(FrmTraderList(session, pickers, "바다", nullptr).trader->name, "바다식당")
+      << "one hit shows nothing";
+  tests::whenModal([](QWidget& dialog) {
+    tests::grab(dialog, "FrmTraderList");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  });
+  EXPECT_EQ(FrmTraderList(session, pickers, "식당", nullptr).trader->name, "한라식당");
+  tests::whenModal([](QWidget& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+  const TraderFound left = FrmTraderList(session, pickers, "", nullptr);
+  EXPECT_TRUE(left.any);
+  EXPECT_FALSE(left.trader);
+
+  tests::whenModal([&](QWidget& dialog) {
+    tests::grab(dialog, "FrmNewTrader");
+    dialog.findChild<QLineEdit*>("txtName")->setText("새 거래처");
+    dialog.findChild<QLineEdit*>("txtSerial")->setText("123-45-67890");
+    pc.prompts.expect("검증번호가 맞지 않습니다.");
+    pc.prompts.expect("거래처를 등록하는 중 오류가 발생했습니다.");
+    QTest::mouseClick(dialog.findChild<QPushButton*>("BtnSave"), Qt::LeftButton);
+    EXPECT_TRUE(dialog.isVisible()) << "what was typed stays";
+    pc.prompts.expect("저장하지 않고 버리시겠습니까?", true);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  EXPECT_FALSE(FrmNewTrader(session, pickers, true).enter());
+}
+
+}  // namespace

@@ -1,0 +1,564 @@
+// Tax invoices: gathering, numbers, issuing, the register, the papers, the tax office's sheet.
+#include "documents/invoices/new_acount.h"
+#include "documents/invoices/tax_bulk.h"
+#include "documents/invoices/tax_desk.h"
+#include "papers/paper_printer.h"
+#include "store/business_number.h"
+#include "store/schema.h"
+#include "store/year_file.h"
+#include "tests/documents/places.h"
+#include "tests/recorded_print.h"
+#include "tests/support.h"
+
+namespace {
+
+using tests::column, tests::row;
+
+struct Taxes : testing::Test {
+  Taxes() {
+    pc.openBooks(QDate(2026, 3, 31));
+    session.printers = &printers;
+    session.dbBasic.Execute(
+        "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
+        "'1234567891', '서울 중구 1', '소매', '가스')");
+    session.dbBasic.Execute(
+        "Insert Into Client(Name, Uname, Serial, Address, Status, Item) Values('한라식당', '김하나', "
+        "'220-81-62517', '서울 강남 2', '음식', '한식')");
+    session.dbBasic.Execute("Insert Into Client(Name) Values('바다식당')");
+  }
+  void sale(const QString& date, int client, qint64 unit, qint64 number, qint64 discount = 0,
+            const QString& name = "LPG", const jet::Database* year = nullptr) {
+    (year ? *year : session.dbYear)
+        .Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
+                         "SaleGubun, DC) Values('%1', %2, '%3', '20', %4, %5, 1, %6)")
+                     .arg(date)
+                     .arg(client)
+                     .arg(name)
+                     .arg(unit)
+                     .arg(number)
+                     .arg(discount));
+  }
+  TaxAsk month(TaxTab tab = TaxTab::Pending, std::optional<TaxGathering> gathering = TaxGathering::Monthly) {
+    return {.from = QDate(2026, 3, 1), .to = QDate(2026, 3, 31), .gathering = gathering, .tab = tab};
+  }
+  QString first(const jet::Database& db, const QString& sql) {
+    const auto rows = db.OpenRecordset(sql);
+    return rows.atEnd() ? "-" : rows[0].toText();
+  }
+  QString cells(TaxDesk& desk, int line, std::initializer_list<int> columns) {
+    QStringList found;
+    for (const int each : columns) found << desk.grid().text(line, each);
+    return found.join('|');
+  }
+  const tests::RecordedJob& print(const DocumentRun& run) {
+    runDocuments(onPrinter(session, printers.defaultName()), run);
+    return *printers.jobs.back();
+  }
+  QString at(const tests::RecordedJob& job, int page, double y, double x) {
+    const auto* item = job.at(page, x * column, y * row);
+    return item ? item->text : "-";
+  }
+  void issueAll(TaxDesk& desk, const TaxAsk& ask, QString& serial, const TaxPaperChoice& choice = {}) {
+    desk.gather(ask);
+    desk.ticks().setAll(true);
+    print(desk.issue(ask, serial, choice));
+  }
+
+  tests::TestPc pc;
+  Session& session = pc.session;
+  tests::RecordedPrinters printers;
+};
+
+using namespace TaxCol;
+
+TEST_F(Taxes, NumbersGoOnBehind999AndNeverTwice) {
+  const clsPrintTax tax(session.dbTax, "2026-03-31 a");
+  EXPECT_EQ(tax.NextSerial("2603"), "2603001");
+  EXPECT_EQ(tax_serial::inc("2603009"), "2603010");
+  EXPECT_EQ(tax_serial::inc("2603999"), "26031000");
+  EXPECT_EQ(tax_serial::inc("26031000"), "26031001");
+  for (const char* serial : {"2602777", "2603998", "2603999"})
+    session.dbTax.Execute(QString("Insert Into TaxAcount(Serial) Values('%1')").arg(serial));
+  EXPECT_EQ(tax.NextSerial("2603"), "26031000");
+  session.dbTax.Execute("Insert Into TaxAcount(Serial) Values('26031000')");
+  EXPECT_EQ(tax.NextSerial("2603"), "26031001") << "by number: as texts 999 stands behind 1000";
+  EXPECT_EQ(tax_serial::shown("2603001"), "2603-001");
+  EXPECT_EQ(tax_serial::prefixOf("2026-03-31"), "2603");
+}
+
+TEST_F(Taxes, AMonthsLinesBecomeOneInvoiceACustomer) {
+  sale("2026-03-02", 1, 30'000, 2);
+  sale("2026-03-09", 1, 10'000, 1, 500, "부탄");
+  sale("2026-03-09", 2, 55, 1);
+  sale("2026-03-10", 2, 0, 9);      // without a price it never reaches an invoice
+  sale("2026-02-28", 2, 7'777, 1);  // another month
+  session.dbBasic.Execute("Insert Into Client(Name) Values('공제식당')");
+  sale("2026-03-05", 3, 1'000, 1, 1'000);  // what is left is nothing: no invoice, no number
+  TaxDesk desk(session);
+  ASSERT_TRUE(desk.gather(month()));
+  ASSERT_EQ(desk.grid().MaxRows(), 2);
+  EXPECT_EQ(
+      cells(desk, 1, {IssueDate, DealDate, Client, Supply, Tax, Total, Item, Tick, TaxCode, ClientCode}),
+      "2026-03-31|2026-03|바다식당|50|5|55|LPG||2603001|2");
+  EXPECT_EQ(cells(desk, 2, {Client, Supply, Tax, Total, Item, TaxCode}),
+            "한라식당|63182|6318|69500|LPG 외|2603002");  // 69,500 / 1.1 is 63,181.8
+  EXPECT_EQ(desk.sheet().sums(), (VatSplit{63'232, 6'323, 69'555}));
+  TaxAsk ask = month();
+  ask.vat = Vat::OnTop;
+  desk.list(ask);
+  EXPECT_EQ(cells(desk, 2, {Supply, Tax, Total}), "69500|6950|76450");
+  ask.vat = Vat::None;
+  desk.list(ask);
+  EXPECT_EQ(cells(desk, 2, {Supply, Tax, Total}), "69500|0|69500");
+  EXPECT_EQ(first(session.dbTax,
+                  "Select Quantity & '/' & UnitCost & '/' & TradeKum & '/' & Item & '/' & PCode & Code "
+                  "From NewAcount Where CCode = '1'"),
+            "3/30000/63182/2/0000002");
+}
+
+TEST_F(Taxes, ByDayAndOverTwoYearsEachMonthHasItsOwnNumbers) {
+  makeYearFile(session, "2025");
+  ASSERT_TRUE(upgrades::relink(session));
+  const auto before = openYear(session, "2025");
+  sale("2025-12-31", 1, 1'100, 1, 0, "LPG", &before);
+  sale("2026-01-01", 1, 2'200, 1);
+  sale("2026-01-01", 1, 3'300, 1);
+  sale("2026-01-02", 1, 4'400, 1);
+  session.dbTax.Execute("Insert Into TaxAcount(Serial) Values('2601041')");
+  TaxDesk desk(session);
+  TaxAsk ask{.from = QDate(2024, 12, 31), .to = QDate(2026, 1, 2), .gathering = TaxGathering::Daily};
+  ASSERT_TRUE(desk.gather(ask)) << "a year without a file is passed over";
+  ASSERT_EQ(desk.grid().MaxRows(), 3);
+  EXPECT_EQ(cells(desk, 1, {DealDate, Total, TaxCode}), "2025-12-31|1100|2512001");
+  EXPECT_EQ(cells(desk, 2, {DealDate, Total, Item, TaxCode}), "2026-01-01|5500|LPG 외|2601042");
+  EXPECT_EQ(cells(desk, 3, {DealDate, Total, Item, TaxCode}), "2026-01-02|4400|LPG|2601043");
+  desk.ticks().setAll(true);
+  QString serial = "2601042";
+  const auto& job = print(desk.issue(ask, serial, {}));
+  EXPECT_EQ(job.pages, 3);
+  EXPECT_EQ(serial, "2601044");
+  EXPECT_EQ(first(session.dbTax, "Select Serial From TaxAcount Where DealDate = '2025-12-31'"), "2512001");
+  EXPECT_EQ(first(before, "Select SaleList From Sale"), "1");
+  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where SaleList = 1"), "3");
+  pc.prompts.expect("검색일자 지정이 잘못되었습니다.");
+  EXPECT_FALSE(desk.gather({.from = QDate(2026, 1, 2), .to = QDate(2026, 1, 1)}));
+}
+
+TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
+  sale("2026-03-02", 1, 30'000, 2);
+  sale("2026-03-09", 1, 10'000, 1);
+  sale("2026-03-09", 2, 1'100, 1);
+  TaxDesk desk(session);
+  desk.gather(month());
+  desk.ticks().toggle(2);  // 한라식당
+  QString serial = "2603005";
+  print(desk.issue(month(), serial, {}));
+  EXPECT_EQ(serial, "2603006");
+  EXPECT_EQ(first(session.dbTax,
+                  "Select Serial & CCode & DealDate & DealYY & IssueDate & TradeKum & '/' & VatKum & "
+                  "'/' & Blank & List & Section From TaxAcount"),
+            "260300512026-032026-032026-03-3163636/6364/6LPG 외0");
+  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale Where ClientCode = 1"), "2");
+  EXPECT_EQ(first(session.dbYear, "Select SaleList From Sale Where ClientCode = 2"), "0");
+  desk.list(month());
+  EXPECT_EQ(desk.grid().MaxRows(), 1) << "the rest is still pending";
+  EXPECT_EQ(cells(desk, 1, {Client, TaxCode}), "바다식당|2603001");
+  desk.list(month(TaxTab::Issued));
+  EXPECT_EQ(cells(desk, 1, {TaxCode, Client, Supply, Tax, Total, Item}),
+            "2603005|한라식당|63636|6364|70000|LPG 외");
+  desk.list(month(TaxTab::Issued, TaxGathering::Period));
+  EXPECT_TRUE(desk.sheet().isEmpty()) << "each way of gathering has its own section";
+
+  desk.list(month(TaxTab::Issued));
+  pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
+  EXPECT_TRUE(desk.deleteIssued(1));
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0");
+  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale"), "2")
+      << "a deleted invoice frees no line";
+  session.dbTax.Execute("drop table TaxAcount");
+  pc.prompts.expect("지정하신 세금계산서 내역을");
+  pc.prompts.expect("계산서 데이터를 삭제하는 중 오류가 발생했습니다.");
+  EXPECT_FALSE(desk.deleteIssued(1));
+}
+
+TEST_F(Taxes, APeriodsInvoicesAreFoundAgainInTheRegister) {
+  sale("2026-03-09", 2, 1'100, 1);
+  TaxDesk desk(session);
+  TaxAsk ask = month(TaxTab::Pending, TaxGathering::Period);
+  ask.from = QDate(2026, 3, 9);
+  ask.to = QDate(2026, 3, 10);
+  QString serial = "2603001";
+  issueAll(desk, ask, serial);
+  ask.tab = TaxTab::Issued;
+  desk.list(ask);
+  EXPECT_EQ(cells(desk, 1, {TaxCode, DealDate, Total}), "2603001|2026-03|1100");
+}
+
+TEST_F(Taxes, WhatMovedSinceItWasGatheredIsNotIssued) {
+  sale("2026-03-02", 1, 30'000, 2);
+  sale("2026-03-02", 2, 1'100, 1);
+  TaxDesk here(session);
+  here.gather(month());
+  here.ticks().setAll(true);
+  sale("2026-03-31", 1, 1'000, 1);  // a delivery entered meanwhile would leave the pool on no paper
+  QString serial = "2603001";
+  pc.prompts.expect("1건은 발행하지 않았습니다.\n다시 집계한 후 발행하세요.");
+  EXPECT_EQ(here.issue(month(), serial, {}).documents, 1);
+  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale Where ClientCode = 1"), "0");
+  here.gather(month());
+  EXPECT_EQ(cells(here, 1, {Client, Total}), "한라식당|61000");
+}
+
+TEST_F(Taxes, OfTwoStationsOneGetsTheLinesAndNoNumberIsGivenTwice) {
+  sale("2026-03-02", 1, 30'000, 2);
+  sale("2026-03-02", 2, 1'100, 1);
+  clsPrintTax a(session.dbTax, "2026-03-31 a"), b(session.dbTax, "2026-03-31 b");
+  TaxGatherer gatherA(session, a), gatherB(session, b);
+  gatherA.gather(QDate(2026, 3, 1), QDate(2026, 3, 31), TaxGathering::Monthly);
+  gatherB.gather(QDate(2026, 3, 1), QDate(2026, 3, 31), TaxGathering::Monthly);
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "4") << "neither empties the other's";
+  TaxSheet sheetA, sheetB;
+  sheetA.listPending(a, Vat::Included, TaxGathering::Monthly);
+  sheetB.listPending(b, Vat::Included, TaxGathering::Monthly);
+  EXPECT_EQ(sheetA.grid().MaxRows(), 2);
+  TaxIssuer issueA(session, a, gatherA), issueB(session, b, gatherB);
+  const TaxIssueAsk ask{.serial = "2603001"};
+  EXPECT_EQ(issueA.issue(sheetA, {1}, ask).issued.size(), 1u);
+  const TaxIssue second = issueB.issue(sheetB, {1, 2}, ask);
+  ASSERT_EQ(second.issued.size(), 1u);
+  EXPECT_EQ(second.moved, 1);
+  EXPECT_EQ(second.issued[0].serial, "2603002");
+  EXPECT_EQ(second.nextSerial, "2603003");
+  b.Empty();
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount Where Station = '2026-03-31 a'"), "1");
+  clsPrintTax later(session.dbTax, "2026-04-02 c");
+  later.Empty();
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0")
+      << "left behind the day before yesterday";
+}
+
+TEST_F(Taxes, ARefusedRegisterIsToldAndFreesNothingOnPaper) {
+  sale("2026-03-02", 1, 30'000, 2);
+  TaxDesk desk(session);
+  desk.gather(month());
+  desk.ticks().setAll(true);
+  session.dbTax.Execute("drop table TaxItem");
+  QString serial = "2603001";
+  pc.prompts.expect("세금계산서 내역을 저장하는 중 오류가 발생했습니다.");
+  EXPECT_EQ(desk.issue(month(), serial, {}).documents, 0);
+  EXPECT_EQ(first(session.dbYear, "Select SaleList From Sale"), "0")
+      << "the line is free for the next gathering";
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0");
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0") << "half a register row is none";
+}
+
+TEST_F(Taxes, AmountsBeyondTheCellsStayPending) {
+  sale("2026-03-02", 1, 1'100'000'000, 1'000);  // supply of 1,000,000,000,000: thirteen digits
+  sale("2026-03-02", 2, 1'100'000, 99'999);     // supply 99,999,000,000: eleven
+  TaxDesk desk(session);
+  desk.gather(month());
+  EXPECT_EQ(cells(desk, 2, {Supply, Total}), "1000000000000|1100000000000");
+  desk.ticks().setAll(true);
+  QString serial = "2603001";
+  pc.prompts.expect("금액의 자릿수가 계산서의 칸보다 많은 1건은");
+  const auto& job = print(desk.issue(month(), serial, {}));
+  EXPECT_EQ(first(session.dbTax, "Select TradeKum & '/' & Blank From TaxAcount"), "99999000000/0");
+  EXPECT_TRUE(job.texts().contains("*109,998,900,000"));
+  EXPECT_EQ(first(session.dbYear, "Select SaleList From Sale Where ClientCode = 1"), "0");
+}
+
+TEST_F(Taxes, IssueDatesAreChangedInTheList) {
+  sale("2026-03-02", 1, 30'000, 2);
+  TaxDesk desk(session);
+  desk.gather(month());
+  EXPECT_TRUE(desk.setIssueDate(1, "20260330"));
+  EXPECT_EQ(cells(desk, 1, {IssueDate}), "2026-03-30");
+  EXPECT_EQ(first(session.dbTax, "Select IssueDate From NewAcount"), "2026-03-30");
+  pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
+  EXPECT_FALSE(desk.setIssueDate(1, "20261330"));
+  session.dbTax.Execute("drop table NewAcount");
+  pc.prompts.expect("세금계산서의 발행일자를 변경하는 중 오류가 발생했습니다.");
+  EXPECT_FALSE(desk.setIssueDate(1, "20260329"));
+  EXPECT_EQ(cells(desk, 1, {IssueDate}), "2026-03-30");
+}
+
+// --- typed invoices ---------------------------------------------------------------------------------------------
+
+TEST_F(Taxes, ATypedInvoiceFollowsItsCells) {
+  clsPrintTax tax(session.dbTax, taxStation(QDate(2026, 3, 31)));
+  NewAcountEntry entry(session, tax);
+  entry.setDates("2026-03-31", "2026-03-15");
+  pc.prompts.expect("거래처를 먼저 선택하여 주십시요.");
+  EXPECT_FALSE(entry.mayEdit(1, AcountCol::Name));
+  entry.setClient("1", "한라식당");
+  SpreadModel& grid = entry.grid();
+  const auto line = [&](int at) {
+    return grid.text(at, AcountCol::Supply) + '|' + grid.text(at, AcountCol::Tax) + '|' +
+           grid.text(at, AcountCol::Total);
+  };
+  EXPECT_TRUE(entry.mayEdit(1, AcountCol::Quantity));
+  entry.finishCell(1, AcountCol::Name, "LPG");
+  EXPECT_EQ(grid.text(1, AcountCol::TaxCode), "2603001");
+  entry.finishCell(1, AcountCol::Quantity, "2.5");
+  entry.finishCell(1, AcountCol::Price, "1000");
+  EXPECT_EQ(line(1), "2,500|250|2,750") << "without a ledger the tax comes on top";
+  EXPECT_EQ(grid.text(1, AcountCol::Quantity), "2.5");
+  entry.finishCell(1, AcountCol::Total, "55");
+  EXPECT_EQ(line(1), "50|5|55");
+  entry.finishCell(1, AcountCol::Supply, "25");
+  EXPECT_EQ(line(1), "25|2|27");
+  const auto next = entry.nextCell(1, AcountCol::Total);
+  EXPECT_EQ(next, (std::pair{2, int(AcountCol::Name)}));
+  entry.finishCell(2, AcountCol::Kinds, "3");
+  EXPECT_EQ(grid.text(2, AcountCol::TaxCode), "2603001") << "the lines share it";
+  pc.prompts.expect("수량 및 단가을 입력할 수 없습니다.");
+  EXPECT_FALSE(entry.mayEdit(2, AcountCol::Price));
+  pc.prompts.expect("수량 및 단가를 입력할 수 없습니다.");
+  EXPECT_FALSE(entry.finishCell(2, AcountCol::Quantity, "1"));
+  EXPECT_EQ(entry.nextCell(2, AcountCol::Kinds).second, int(AcountCol::Supply));
+  entry.finishCell(2, AcountCol::Name, "밸브");
+  entry.finishCell(2, AcountCol::Total, "999999999999");
+  pc.prompts.expect("금액은 열두 자리까지");
+  EXPECT_FALSE(entry.finishCell(2, AcountCol::Total, "1000000000000"));
+  EXPECT_EQ(entry.sums().total, 1'000'000'000'026);
+  ASSERT_TRUE((pc.prompts.expect("[닫기]버튼을 누르시면 계산서를 발행하실 수 있습니다"), entry.save()));
+  EXPECT_FALSE(entry.isUnsaved());
+  EXPECT_EQ(first(session.dbTax,
+                  "Select Sum(SumKum) & '/' & Count(*) & '/' & Min(Code) & '/' & Max(Code) From NewAcount"),
+            "1000000000026/2/000001/000002");
+  entry.finishCell(1, AcountCol::Name, "다음");
+  EXPECT_EQ(grid.text(1, AcountCol::TaxCode), "2603002") << "behind the one that waits";
+  pc.prompts.expect("선택하신 내역을 삭제하시겠습니까?");
+  pc.prompts.expect("내역을 삭제하였습니다");
+  entry.deleteLine(1);
+  EXPECT_FALSE(entry.isUnsaved());
+}
+
+TEST_F(Taxes, TheCustomersOwnChoiceSplitsATypedLine) {
+  session.dbBasic.createTable(schema::table(schema::File::Ledger, "Trader"));
+  session.dbBasic.Execute("Insert Into Trader(Code, VAT) Values('000001', 1)");
+  session.dbBasic.Execute("Insert Into Trader(Code, VAT) Values('000002', 0)");
+  clsPrintTax tax(session.dbTax, "2026-03-31 a");
+  NewAcountEntry entry(session, tax);
+  entry.setDates("2026-03-31", "2026-03-15");
+  const auto split = [&](const QString& client, int col, const QString& typed) {
+    entry.setClient(client, "a");
+    if (col == AcountCol::Price) entry.finishCell(1, AcountCol::Quantity, "1");
+    entry.finishCell(1, col, typed);
+    return entry.grid().text(1, AcountCol::Supply) + '|' + entry.grid().text(1, AcountCol::Tax);
+  };
+  EXPECT_EQ(split("1", AcountCol::Price, "1100"), "1,000|100");
+  EXPECT_EQ(split("1", AcountCol::Supply, "1100"), "1,100|110") << "a typed supply is without the tax";
+  EXPECT_EQ(split("2", AcountCol::Price, "1100"), "1,100|0");
+  EXPECT_EQ(split("2", AcountCol::Total, "1100"), "1,000|100") << "a typed total holds it";
+}
+
+TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
+  clsPrintTax tax(session.dbTax, taxStation(QDate(2026, 3, 31)));
+  NewAcountEntry entry(session, tax);
+  entry.setDates("2026-03-30", "2026-03-15");
+  entry.setClient("1", "한라식당");
+  for (int line = 1; line <= 5; ++line) {
+    entry.finishCell(line, AcountCol::Name, QString("품목%1").arg(line));
+    entry.finishCell(line, AcountCol::Supply, QString::number(1'000 * line));
+    entry.nextCell(line, AcountCol::Total);
+  }
+  pc.prompts.expect("[닫기]버튼을");
+  entry.save();
+  TaxDesk desk(session);
+  TaxAsk ask = month(TaxTab::Pending, {});
+  desk.list(ask);
+  EXPECT_EQ(cells(desk, 1, {IssueDate, DealDate, Supply, Tax, Item}),
+            "2026-03-30|2026-03-15|15000|1500|품목1");
+  desk.ticks().setAll(true);
+  QString serial = "2603001";
+  const auto& job = print(desk.issue(ask, serial, {}));
+  EXPECT_EQ(job.pages, 2) << "four lines have room";
+  EXPECT_EQ(first(session.dbTax, "Select Section & DealDate From TaxAcount"), "32026-03-15");
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0");
+  ask.tab = TaxTab::Issued;
+  desk.list(ask);
+  desk.ticks().setAll(true);
+  EXPECT_EQ(print(desk.issue(ask, serial, {})).texts(2), job.texts(2)) << "printed again from the register";
+
+  SpreadModel sheet;
+  desk.fillBulk(sheet, true);
+  ASSERT_EQ(sheet.MaxRows(), 1);
+  const auto cell = [&](const QString& header) {
+    for (int col = 1; col <= sheet.MaxCols(); ++col)
+      if (sheet.column(col).header.startsWith(header)) return sheet.text(1, col);
+    return QString("-");
+  };
+  EXPECT_EQ(cell("작성일자"), "20260330");
+  EXPECT_EQ(cell("공급자 등록번호"), "1234567891");
+  EXPECT_EQ(cell("공급받는자 등록번호"), "2208162517");
+  EXPECT_EQ(cell("공급받는자 상호"), "한라식당");
+  EXPECT_EQ(cell("공급가액"), "15000");
+  EXPECT_EQ(cell("세액"), "1500");
+  EXPECT_EQ(cell("일자1"), "15");
+  EXPECT_EQ(cell("품목3"), "품목3");
+  EXPECT_EQ(cell("공급가액3"), "3000");
+  EXPECT_EQ(cell("품목4"), "품목4 외 1건");
+  EXPECT_EQ(cell("공급가액4"), "9000");
+  EXPECT_EQ(cell("세액4"), "900");
+  EXPECT_EQ(cell("영수(01)"), "01");
+  EXPECT_EQ(sheet.MaxCols(), 22 + 4 * 8 + 5);
+}
+
+// --- the papers -------------------------------------------------------------------------------------------------
+
+TEST_F(Taxes, HalfA4TextByText) {
+  sale("2026-03-02", 1, 30'000, 2);
+  setDocumentMargins(session, "세금계산서", {"1", "2"});
+  TaxDesk desk(session);
+  desk.gather(month());
+  desk.ticks().setAll(true);
+  QString serial = "2603007";
+  const auto& job = print(desk.issue(month(), serial, {.layout = TaxLayout::HalfA4, .receipt = true}));
+  EXPECT_EQ(job.pages, 1);
+  for (const double top : {1 + 1.5, 1 + 1.5 + 35.07}) {
+    const auto text = [&](double y, double x) { return at(job, 1, top + y, 2 + x); };
+    EXPECT_EQ(text(3.9, 86), "2603-007");
+    EXPECT_EQ(text(6.3, 30), "123-45-67891");
+    EXPECT_EQ(text(6.3, 67), "220-81-62517");
+    EXPECT_EQ(text(8.2, 25), "해온가스");
+    EXPECT_EQ(text(8.2, 48), "홍길동");
+    EXPECT_EQ(text(8.2, 72), "한라식당");
+    EXPECT_EQ(text(8.2, 96), "김하나");
+    EXPECT_EQ(text(10.8, 25), "서울 중구 1");
+    EXPECT_EQ(text(10.8, 72), "서울 강남 2");
+    EXPECT_EQ(text(12.9, 25), "소매");
+    EXPECT_EQ(text(12.9, 42), "가스");
+    EXPECT_EQ(text(12.9, 72), "음식");
+    EXPECT_EQ(text(12.9, 90), "한식");
+    EXPECT_EQ(text(16.9, 11), "2026");
+    EXPECT_EQ(text(16.9, 17), "03");
+    EXPECT_EQ(text(16.9, 21), "31");
+    EXPECT_EQ(text(16.9, 26), "6");
+    EXPECT_EQ(text(16.9, 30), "            5 4 5 4 5 ");  // eleven cells of two columns
+    EXPECT_EQ(text(16.9, 53), "            5 4 5 5 ");    // ten
+    EXPECT_EQ(text(20.3, 12), "03");
+    EXPECT_EQ(text(20.3, 15), "-") << "a month has no day";
+    EXPECT_EQ(text(20.3, 20), "LPG (20)");
+    EXPECT_EQ(text(20.3, 52), "        2");
+    EXPECT_EQ(text(20.3, 62), "    30,000");
+    EXPECT_EQ(text(20.3, 73), "        54,545");
+    EXPECT_EQ(text(20.3, 88), "        5,455");
+    EXPECT_EQ(text(22.1, 22), "=== 이하 여백 ===");
+    EXPECT_EQ(text(28.6, 12), "*********60,000");
+    EXPECT_EQ(text(28.6, 100), "영수");
+  }
+  EXPECT_EQ(std::ranges::count_if(job.items,
+                                  [](const auto& item) { return item.kind != tests::PrintedItem::Text; }),
+            0);
+}
+
+TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
+  sale("2026-03-02", 1, 30'000, 2);
+  TaxDesk desk(session);
+  TaxAsk ask = month(TaxTab::Pending, TaxGathering::Daily);
+  desk.gather(ask);
+  desk.ticks().setAll(true);
+  const auto& job = print(desk.papers(ask, "2603001", {}));
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0") << "looked at, nothing issued";
+  constexpr double cell = 8.0 / 72, indent = (cell - column) / 2;
+  const QStringList marks{"(공급자 보관용)", "(공급받는자 보관용)"};
+  for (int copy = 0; copy < 2; ++copy) {
+    const double edge = (1.5 + 35.07 * copy) * row;
+    const auto label = [&](double x, double y) {
+      const auto* item = job.at(1, x, edge + y);
+      return item ? item->text : "-";
+    };
+    EXPECT_EQ(label(0.68, 0.10), "(별지 제11호 서식)");
+    EXPECT_EQ(label(1.50, 0.49), "세  금  계  산  서");
+    EXPECT_EQ(label(3.94, 0.53), marks[copy]);
+    EXPECT_EQ(label(5.30, 0.66), "일련번호");
+    EXPECT_EQ(label(0.71, 2.14), "자");
+    EXPECT_EQ(label(0.88, 1.53), "(법인명)");
+    EXPECT_EQ(label(3.93, 1.68), "받");
+    EXPECT_EQ(label(6.02, 2.25), "목");
+    EXPECT_EQ(label(1.79, 2.62), "공란수백십억천백십만천백십일십억천백십만천백십일");
+    EXPECT_EQ(label(3.38, 2.42), "세    액");
+    EXPECT_EQ(label(1.65, 3.12), "품    목   -   규    격");
+    EXPECT_EQ(label(5.12, 4.57), "외상미수금");
+    EXPECT_EQ(label(6.20, 4.72), "이 금액을        함");
+    const double y = 16.9 * row;
+    EXPECT_EQ(label(1.79 + cell, y), "6");
+    for (int digit = 0; digit < 5; ++digit)
+      EXPECT_EQ(label(1.79 + (3 + 6 + digit) * cell + indent, y), QString("54545").mid(digit, 1));
+    EXPECT_EQ(label(1.79 + (3 + 5) * cell + indent, y), "-") << "an empty cell";
+    EXPECT_EQ(label(1.79 + 23 * cell + indent, y), "5") << "the tax's last digit";
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 12), "03");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 15), "02");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 8.2, 19), "해온가스");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 3.9, 82), "2603-001");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 28.6, 100), "청구");
+    const auto* title = job.at(1, 1.50, edge + 0.49);
+    ASSERT_TRUE(title);
+    EXPECT_EQ(title->font.family, "돋움체");
+    EXPECT_EQ(title->ink.blue, copy == 0 ? 200 : 0);
+    EXPECT_EQ(job.at(1, 19 * column, (1.5 + 35.07 * copy + 8.2) * row)->ink.blue, 0) << "texts are black";
+  }
+  const auto half = std::ranges::find_if(job.items, [](const auto& item) { return item.dashed; });
+  ASSERT_NE(half, job.items.end());
+  EXPECT_NEAR(half->y, 11.69 / 2, 0.001);
+}
+
+TEST_F(Taxes, WithoutTaxNothingStandsWhereItWouldAndTheDotPrinterDrawsNothing) {
+  sale("2026-03-02", 1, 30'000, 2);
+  sale("2026-03-03", 1, 1'000, 1);
+  TaxDesk desk(session);
+  TaxAsk ask = month();
+  ask.vat = Vat::None;
+  desk.gather(ask);
+  desk.ticks().setAll(true);
+  const auto& job = print(desk.papers(ask, "2603001", {.layout = TaxLayout::HalfA4, .withoutTax = true}));
+  EXPECT_EQ(at(job, 1, 1.5 + 16.9, 53), "-");
+  EXPECT_EQ(at(job, 1, 1.5 + 20.3, 88), "-");
+  EXPECT_EQ(at(job, 1, 1.5 + 20.3, 20), "LPG 외");
+  EXPECT_EQ(at(job, 1, 1.5 + 20.3, 52), "-") << "several lines have no one quantity";
+  const auto& dot = print(desk.papers(ask, "2603001", {.layout = TaxLayout::Dot}));
+  EXPECT_EQ(dot.paper.height, 11);
+  EXPECT_EQ(at(dot, 1, 1.5 + 3.9, 82), "2603-001");
+  EXPECT_EQ(at(dot, 1, 1.5 + 8.2, 19), "해온가스");
+  EXPECT_EQ(at(dot, 1, 1.5 + 33 + 22.1, 22), "=== 이하 여백 ===");
+  EXPECT_EQ(std::ranges::count_if(dot.items,
+                                  [](const auto& item) { return item.kind != tests::PrintedItem::Text; }),
+            0);
+}
+
+TEST_F(Taxes, NothingIsIssuedWithoutACompanyAndARefusalStandsInTheRegister) {
+  sale("2026-03-02", 1, 30'000, 2);
+  TaxDesk desk(session);
+  desk.gather(month());
+  pc.prompts.expect("발행할 거래내역을 선택하세요.");
+  EXPECT_FALSE(desk.mayPrint(printers.defaultName()));
+  desk.ticks().setAll(true);
+  EXPECT_TRUE(desk.mayPrint(printers.defaultName()));
+  session.dbBasic.Execute("Delete From User");
+  pc.prompts.expect("사용자등록부터 하셔야 합니다");
+  EXPECT_FALSE(desk.mayPrint(printers.defaultName()));
+  printers.refusal = "용지 없음";
+  QString serial = "2603001";
+  const DocumentRun run = desk.issue(month(), serial, {});
+  EXPECT_EQ(run.name(0), "2026-03-31 한라식당 세금계산서 2603001");
+  EXPECT_THROW(print(run), pc::PrintError);
+  printers.refusal.clear();
+  desk.list(month(TaxTab::Issued));
+  desk.ticks().setAll(true);
+  EXPECT_TRUE(print(desk.issue(month(TaxTab::Issued), serial, {})).texts().contains("2603-001"));
+}
+
+TEST(BusinessNumber, TheLastDigitFollowsFromTheNine) {
+  EXPECT_TRUE(mayBeBusinessNumber("123-45-67891"));  // 169 leaves 1
+  EXPECT_FALSE(mayBeBusinessNumber("123-45-67890"));
+  EXPECT_FALSE(mayBeBusinessNumber("1234567892"));
+  EXPECT_TRUE(mayBeBusinessNumber("220 81 62517"));
+  EXPECT_FALSE(mayBeBusinessNumber("220-18-62517")) << "two digits changed places";
+  EXPECT_TRUE(mayBeBusinessNumber("000-00-00000"));
+  EXPECT_TRUE(mayBeBusinessNumber("")) << "none";
+  EXPECT_TRUE(mayBeBusinessNumber("800101-1234567")) << "a resident's number is none of these";
+  EXPECT_TRUE(mayBeBusinessNumber("12345A7890"));
+}
+
+}  // namespace
