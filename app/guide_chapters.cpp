@@ -16,8 +16,8 @@ constexpr char16_t first[] = u"처음 시작", settings[] = u"사용자 등록�
                    folder[] = u"자료 폴더와 네트워크", client[] = u"고객", finding[] = u"고객 찾기",
                    building[] = u"아파트와 다가구 등록", items[] = u"가스·자재·체적단가",
                    partners[] = u"충전소·담당자·은행·우편번호", slips[] = u"지로", caller[] = u"발신번호",
-                   reports[] = u"집계와 보고서", fleet[] = u"차량 정비",
-                   statements[] = u"거래명세표", invoices[] = u"세금계산서";
+                   reports[] = u"집계와 보고서", fleet[] = u"차량 정비", statements[] = u"거래명세표",
+                   invoices[] = u"세금계산서";
 
 constexpr Chapter chapters[] = {
     {u"frmSplash", first},

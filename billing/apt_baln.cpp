@@ -4,6 +4,7 @@
 #include "store/data_access.h"
 #include "store/data_files.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 #include "store/vb.h"
 
 using namespace Qt::StringLiterals;
@@ -118,7 +119,7 @@ std::vector<BriefQuestion> questions() {
            .name = u"chkOnlyOpen"_s,
            .label = u"미수만"_s,
            .help = u"다 받은 달은 빼고 보여 줍니다"_s,
-           .remembered = u"APT미수만"_s}};
+           .remembered = &setting::OpenArrearsAlone}};
 }
 
 std::vector<BriefColumn> columns() {

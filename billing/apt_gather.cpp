@@ -172,7 +172,7 @@ bool Gathering::run() {
     const jet::Database before = openYear(session_, year_ - 1);
     if (before.isOpen() && !readRows(before, year_ - 1, 12, ask_.openings)) return false;
   }
-  const LateRates rates(session_, MeterBook::Apartment, true);
+  const LateRates rates(session_, HouseStyle::Apartment, true);
   const AptRules rules{session_.AfterDueMethod, companyPayState(session_)};
   session_.wsMain.Together({scratch_}, [&] {
     scratch_.Execute(u"DELETE * FROM AptBaln"_s);

@@ -42,6 +42,7 @@ inline constexpr Setting AfterDueMethod{program, config, u"납기후금액계산
 inline constexpr Setting BlocksShown{program, config, u"체적검침동별보기", u"0"};
 inline constexpr Setting OrderedByRoom{program, config, u"체적검침정렬방식", u"0"};
 inline constexpr Setting CollectionsShown{program, config, u"수금액조회", u"0"};
+inline constexpr Setting OpenArrearsAlone{program, config, u"APT미수만"};
 
 // --- the telephone ----------------------------------------------------------------------------------------------
 inline constexpr Setting SeeIdUse{program, registration, u"SeeIDUse"};  ///< "1" in use

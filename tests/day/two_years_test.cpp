@@ -85,7 +85,8 @@ struct TwoYears : testing::Test, tests::TestPc {
 
   void readAndPay(int year, int month) {
     pc.clock.set(QDateTime(QDate(year, month, 26), QTime(9, 0)));
-    for (const MeterBook book : {MeterBook::Individual, MeterBook::Apartment, MeterBook::MultiHousehold}) {
+    for (const HouseStyle book :
+         {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold}) {
       ReadingSheet sheet(session);
       sheet.book = book;
       sheet.month = month;
