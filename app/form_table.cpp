@@ -25,6 +25,7 @@
 #include "master/buildings/frmHouseStyle.h"
 #include "master/catalogue/frmGasUtil.h"
 #include "master/catalogue/frmVolume.h"
+#include "master/customers/FrmPreView.h"
 #include "master/customers/frmClient.h"
 #include "master/partners/frmBank.h"
 #include "master/partners/frmRefillState.h"
@@ -75,6 +76,7 @@ const FormEntry formTable[] = {
     formEntry<FrmNetDrive>(u"FrmNetDrive"),
     formEntry<FrmPath>(u"FrmPath"),
     formEntry<FrmPrintSection>(u"FrmPrintSection"),
+    formEntry<FrmPreView>(u"FrmPreView"),
     formEntry<FrmSetPrinter>(u"FrmSetPrinter"),
     formEntry<frmBuy>(u"frmBuy"),
     formEntry<FrmTax>(u"FrmTax"),
@@ -93,8 +95,20 @@ const FormEntry formTable[] = {
     formEntry<FrmSMS>(u"FrmSMS"),
     formEntry<FrmSukum>(u"FrmSukum"),
     formEntry<frmTodaySale>(u"frmTodaySale"),
-    briefEntry(u"frmHoldBrief", holdBrief),
+    briefEntry(u"frmLPGSaleBrief", lpgSaleBrief),
+    briefEntry(u"frmResSaleBrief", resSaleBrief),
+    briefEntry(u"frmResUtilBrief", resUtilBrief),
     briefEntry(u"frmTrustBrief", trustBrief),
+    briefEntry(u"frmUtilTrustBrief", utilTrustBrief),
+    briefEntry(u"frmCANLPGBrief", canLpgBrief),
+    briefEntry(u"frmCANCompanyBrief", canCompanyBrief),
+    briefEntry(u"frmCANResBrief", canResBrief),
+    briefEntry(u"frmUtilClientBrief", utilClientBrief),
+    briefEntry(u"frmSaleBrief", saleBrief),
+    briefEntry(u"frmAClientSaleBrief", clientSaleBrief),
+    briefEntry(u"frmPrtSale", saleLedgerBrief),
+    briefEntry(u"frmPrtBuy", buyLedgerBrief),
+    briefEntry(u"frmHoldBrief", holdBrief),
     briefEntry(u"frmUtilHoldBrief", utilHoldBrief),
     formEntry<frmUser>(u"frmUser"),
     formEntry<frmVolume>(u"frmVolume"),

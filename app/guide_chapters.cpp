@@ -17,7 +17,7 @@ constexpr char16_t first[] = u"처음 시작", settings[] = u"사용자 등록�
                    building[] = u"아파트와 다가구 등록", items[] = u"가스·자재·체적단가",
                    partners[] = u"충전소·담당자·은행·우편번호", slips[] = u"지로", caller[] = u"발신번호",
                    reports[] = u"집계와 보고서", fleet[] = u"차량 정비", statements[] = u"거래명세표",
-                   invoices[] = u"세금계산서";
+                   invoices[] = u"세금계산서", saleReports[] = u"판매 보고서";
 
 constexpr Chapter chapters[] = {
     {u"frmSplash", first},
@@ -33,6 +33,7 @@ constexpr Chapter chapters[] = {
     {u"FrmFolderTrouble", u"자료 폴더를 찾지 못할 때"},
     {u"frmMsgBackUp", u"백업과 되돌리기"},
     {u"frmClient", client},
+    {u"FrmPreView", client},
     {u"frmNewClient", finding},
     {u"frmSearchClient", finding},
     {u"frmCalendar", client},
@@ -73,7 +74,19 @@ constexpr Chapter chapters[] = {
     {u"FrmNewTrader", invoices},
     {u"FrmPost", invoices},
     {u"frmEvaTotal", reports},
-    {u"frmTrustBrief", reports},
+    {u"frmTrustBrief", saleReports},
+    {u"frmLPGSaleBrief", saleReports},
+    {u"frmResSaleBrief", saleReports},
+    {u"frmResUtilBrief", saleReports},
+    {u"frmUtilTrustBrief", saleReports},
+    {u"frmCANLPGBrief", saleReports},
+    {u"frmCANCompanyBrief", saleReports},
+    {u"frmCANResBrief", saleReports},
+    {u"frmUtilClientBrief", saleReports},
+    {u"frmSaleBrief", saleReports},
+    {u"frmAClientSaleBrief", saleReports},
+    {u"frmPrtSale", saleReports},
+    {u"frmPrtBuy", saleReports},
     {u"FrmAptBaln_rpt", u"APT 미수 현황"},
     {u"FrmYearEnd", u"년도 마감"},
     {u"frmNextYear", u"년도 마감"},

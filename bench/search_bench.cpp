@@ -1,4 +1,4 @@
-// What the operator waits for while the customer is on the line, and a month's report over a year's lines.
+// What the operator waits for while the customer is on the line.
 #include <memory>
 
 #include "bench/books.h"
@@ -37,44 +37,5 @@ const int byFourDigits =
                       };
                     },
                     9});
-
-const int monthView =
-    bench::addPair({"month view of the sale report: a year's lines by day and kind",
-                    1.3,
-                    {10000, 100000, 1000000},
-                    [](int size, bench::Side& ours, bench::Side& plain) {
-                      auto books = std::make_shared<bench::Books>();
-                      books->addClients(1000);
-                      books->addSales(books->session.dbYear, size, 1000);
-                      auto beside = std::make_shared<bench::Plain>(*books);
-                      auto kilograms = std::make_shared<double>(0);
-                      ours.run = [books, kilograms] {
-                        jet::Recordset days = books->session.dbYear.OpenRecordset(
-                            "SELECT Sale.SaleDate, Sum(Sale.SaleNum) AS SaleNum, Sum(val(Sale.SaleThing) * "
-                            "Sale.SaleNum) as SaleKG, "
-                            "Sum(Sale.SaleUnit) AS SaleUnit, Sum(Sale.Income) AS Income, Sum(Sale.DC) AS DC, "
-                            "Sum(Sale.Trust) AS Trust, "
-                            "Sale.SaleGubun From Sale Where Sale.Gubun = False And not (Sale.SaleGubun = 7 "
-                            "or Sale.SaleGubun = 8 or "
-                            "Sale.SaleGubun = 4) and Sale.SaleDate like '2026*' GROUP BY Sale.SaleDate, "
-                            "Sale.SaleGubun ORDER BY "
-                            "Sale.SaleDate");
-                        *kilograms = 0;
-                        for (; !days.atEnd(); days.MoveNext()) *kilograms += days["SaleKG"].toDouble();
-                      };
-                      sqlite3_stmt* grouped = beside->prepare(
-                          "SELECT SaleDate, SUM(SaleNum), SUM(CAST(SaleThing AS REAL) * SaleNum), "
-                          "SUM(SaleUnit), SUM(Income), SUM(DC), "
-                          "SUM(Trust), SaleGubun FROM y.Sale WHERE Gubun = 0 AND NOT (SaleGubun = 7 OR "
-                          "SaleGubun = 8 OR SaleGubun = 4) "
-                          "AND SaleDate LIKE '2026%' GROUP BY SaleDate, SaleGubun ORDER BY SaleDate");
-                      plain.run = [beside, grouped, kilograms] {
-                        double sum = 0;
-                        while (sqlite3_step(grouped) == SQLITE_ROW) sum += sqlite3_column_double(grouped, 2);
-                        sqlite3_reset(grouped);
-                        bench::require(*kilograms == 0 || sum == *kilograms, "another sum");
-                      };
-                    },
-                    3});
 
 }  // namespace

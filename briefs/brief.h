@@ -44,6 +44,7 @@ struct BriefQuestion {
   QString when = {};  ///< the name of a check: asked while it is on; with "!" before it, while it is off
   const pc::Setting* remembered = nullptr;  ///< of a check: an entry of store/settings_table
   bool anew = false;                        ///< starts empty on every page
+  bool fromNewYear = false;                 ///< a period that begins with the year instead of the month
 };
 
 struct BriefAnswer {
@@ -110,6 +111,7 @@ struct BriefChart {
   QString title = {};
   int label = 0;                 ///< column, from 1
   std::vector<int> series = {};  ///< columns, from 1
+  bool byLabel = false;          ///< rows of one label are one
   int most = 0;  ///< only so many rows, the largest of the first series; 0 for all in their order
 };
 
@@ -145,8 +147,10 @@ struct BriefPage {
   // The paper: a report file, or without one the grid as it stands.
   QString report = {};
   std::function<QStringList(const BriefAsk&, const BriefRows&)> formulas = {};
-  bool blankRow = true;     ///< an empty grid is one blank row, which keeps the report from failing
-  QString printTitle = {};  ///< of the grid on paper
+  bool blankRow = true;  ///< an empty grid is one blank row, which keeps the report from failing
+  std::function<QString(const BriefAsk&)> printTitle = {};  ///< of the grid on paper
+  /** A page without a grid: its report reads the live tables by this selection formula. */
+  std::function<QString(const Session&, const BriefAsk&)> selection = {};
 
   std::vector<BriefPanel> panels = {};
   BriefChart chart = {};
@@ -156,8 +160,7 @@ struct BriefPage {
 
 struct Brief {
   QString form = {}, caption = {};
-  QString status = {};  ///< the help line when nothing else speaks
-  QString tabs = {};    ///< the tab bar's name
+  QString tabs = {};  ///< the tab bar's name
   std::vector<BriefQuestion> questions = {};
   std::vector<BriefPage> pages = {};
   bool printButton = true;                              ///< False: by F10 alone

@@ -135,6 +135,23 @@ bool BriefRun::load(BriefAsk ask, const BriefTeller& tell) {
   return true;
 }
 
+bool BriefRun::printLive(BriefAsk ask) {
+  if (check(ask)) return false;
+  const BriefPage& page = this->page(ask.page);
+  QStringList files, missing;
+  const BriefAnswer& period = ask[page.period];
+  walkBriefYears(session_, period.text.left(4).toInt(), period.to.left(4).toInt(), missing,
+                 [&](const jet::Database& file) {
+                   files << file.path();
+                   return true;
+                 });
+  session_.reports->show({.file = page.report,
+                          .formulas = page.formulas ? page.formulas(ask, {}) : QStringList(),
+                          .selection = page.selection(session_, ask),
+                          .liveFiles = files});
+  return true;
+}
+
 void BriefRun::print(int at, const QByteArray& chart) {
   const BriefPage& page = this->page(at);
   const Shown& shown = shown_.at(size_t(at));

@@ -30,6 +30,8 @@ class BriefRun {
   /** Checks and shows. False after telling why nothing is there; the grid is then empty. */
   bool load(BriefAsk ask, const BriefTeller& tell = {});
   void clear(int page);
+  /** Checks and shows the report of a page without a grid. False after telling what is wrong. */
+  bool printLive(BriefAsk ask);
   /** Stages the page and shows its report; chart: a picture below the rows. Throws jet::Error. */
   void print(int page, const QByteArray& chart = {});
 

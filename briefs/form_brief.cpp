@@ -1,9 +1,11 @@
 #include "briefs/form_brief.h"
 
-#include <QGroupBox>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShowEvent>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -11,6 +13,7 @@
 #include <memory>
 
 #include "briefs/form_brief_asks.h"
+#include "briefs/form_brief_chart.h"
 #include "store/vb.h"
 #include "ui/forms/FrmProgress.h"
 #include "ui/grid/excel_export.h"
@@ -45,14 +48,33 @@ void BriefForm::build() {
   head->addWidget(tabs_);
   head->addWidget(questionRow());
   body()->addLayout(head);
-  body()->addWidget(grids_, 1);
+  body()->addWidget(gridAndChart(), 1);
   body()->addWidget(footRow());
   connect(tabs_, &QTabBar::currentChanged, this, [this](int at) { guard([&] { turnTo(at, false); }); });
+}
+
+QWidget* BriefForm::gridAndChart() {
+  const auto hasChart = [](const BriefPage& page) { return page.chart.kind != BriefChart::Kind::None; };
+  if (std::ranges::none_of(run_.brief().pages, hasChart)) return grids_;
+  auto* const split = new QSplitter(Qt::Horizontal, this);
+  split->setChildrenCollapsible(false);
+  chart_ = new BriefChartPane(session(), run_.brief().form, split);
+  split->addWidget(grids_);
+  split->addWidget(chart_);
+  split->setStretchFactor(0, 1);
+  split_ = split;
+  return split;
 }
 
 void BriefForm::addPage(int at) {
   const BriefPage& page = run_.page(at);
   tabs_->addTab(page.tab);
+  if (page.selection) {
+    auto* const told = new QLabel(u"기간을 넣고 엔터나 F10을 누르면 보고서가 나옵니다."_s, grids_);
+    told->setMargin(12);
+    grids_->addWidget(told);
+    return;
+  }
   Spread* const grid = addSpread(qPrintable(page.grid), run_.grid(at));
   grid->setFillColumn(page.fill);
   if (page.behind) {
@@ -63,13 +85,14 @@ void BriefForm::addPage(int at) {
 }
 
 QWidget* BriefForm::questionRow() {
-  auto* const panel = addGroup(QString());
+  auto* const panel = new QFrame(this);
+  panel->setFrameShape(QFrame::StyledPanel);
   auto* const row = new QHBoxLayout(panel);
   row->setContentsMargins(6, 4, 6, 4);
   row->setSpacing(5);
   asks_ = new BriefAsks(*this, context_, run_);
   row->addWidget(asks_, 1);
-  row->addWidget(addButton("BtnRefresh", u"조회"_s, [this] { refresh(); }));
+  if (!isLedger()) row->addWidget(addButton("BtnRefresh", u"조회"_s, [this] { refresh(); }));
   enterOrder(asks_->boxes(), [this] { refresh(); });
   asks_->watchPicks();
   return panel;
@@ -87,23 +110,57 @@ QWidget* BriefForm::footRow() {
   line->addWidget(panels_);
   line->addStretch(1);
   if (run_.brief().printButton) line->addWidget(addButton("BtnPrt", u"인쇄"_s, [this] { print(); }));
-  line->addWidget(addButton("BtnExcel", u"엑셀"_s,
-                            [this] { ExportToExcelFile(session(), run_.grid(page()), windowTitle()); }));
+  if (!isLedger())
+    line->addWidget(addButton("BtnExcel", u"엑셀"_s,
+                              [this] { ExportToExcelFile(session(), run_.grid(page()), windowTitle()); }));
+  if (chart_) line->addWidget(addButton("BtnChart", u"그래프"_s, [this] { turnChart(); }));
   line->addWidget(addButton("BtnExit", u"닫기"_s, [this] { close(); }));
   return row;
 }
 
 void BriefForm::addKeys() {
-  QStringList keys{u"F5:조회"_s, u"F10:인쇄"_s, u"Esc:닫기"_s};
+  QStringList keys{u"F10:인쇄"_s, u"Esc:닫기"_s};
+  if (!isLedger()) keys.prepend(u"F5:조회"_s);
   for (const BriefPage& page : run_.brief().pages)
     if (page.behind && !keys.contains(u"Enter:내역"_s)) keys.prepend(u"Enter:내역"_s);
-  setBottomLine(keys.join(u"  "_s));
   onKey(Qt::Key_F5, [this] { refresh(); });
+  if (chart_) {
+    keys.insert(keys.size() - 2, u"F8:그래프"_s);
+    onKey(Qt::Key_F8, [this] { turnChart(); });
+  }
+  setBottomLine(keys.join(u"  "_s));
   onKey(Qt::Key_F10, [this] { print(); });
   onKey(Qt::Key_Escape, [this] { back(); });
 }
 
 // --- pages ----------------------------------------------------------------------------------------------------
+
+/** Its pages have no grid: what is asked for goes straight into a report. */
+bool BriefForm::isLedger() const {
+  return bool(run_.page(0).selection);
+}
+
+/** The hand begins with the first question, or with the rows it was opened on. */
+void BriefForm::showEvent(QShowEvent* event) {
+  const bool first = !begun_ && !event->spontaneous();
+  Form::showEvent(event);
+  if (!first) return;
+  begun_ = true;
+  if (split_) shareWidth();
+  if (!run_.rows(page()).rows.empty())
+    focusGrid();
+  else if (QWidget* const box = asks_->firstAsked())
+    focus(box);
+}
+
+/** The grid is given what its columns need, the picture the rest, within reason. */
+void BriefForm::shareWidth() {
+  constexpr int least = 300, most = 560;
+  int needed = 0;
+  for (const Spread* const each : findChildren<Spread*>()) needed = std::max(needed, each->fullWidth());
+  const int picture = std::clamp(split_->width() - needed - 24, least, most);
+  split_->setSizes({split_->width() - picture, picture});
+}
 
 int BriefForm::page() const {
   return grids_->currentIndex();
@@ -122,6 +179,7 @@ void BriefForm::turnTo(int at, bool keepsTrail) {
   }
   asks_->turn(at, true);
   showPanels();
+  showChart();
 }
 
 void BriefForm::showPage(const QString& text) {
@@ -142,12 +200,14 @@ void BriefForm::refresh() {
 
 bool BriefForm::load() {
   BriefAsk ask = asks_->read(page());
+  const bool live = bool(run_.page(page()).selection);
   if (const auto wrong = run_.check(ask)) {
     if (QWidget* const box = asks_->box(*wrong)) focus(box);
     return false;
   }
   asks_->put(ask);
   const BusyPointer busy;
+  if (live) return run_.printLive(ask);
   const BriefPage& shown = run_.page(page());
   std::unique_ptr<FrmProgress> bar;
   const auto tell = [&](int done, int total) {
@@ -158,18 +218,24 @@ bool BriefForm::load() {
   const bool found = run_.load(ask, tell);
   bar.reset();
   showPanels();
+  showChart();
   if (!found) return false;
-  if (const QString& note = run_.rows(page()).note; !note.isEmpty()) showHelp(note);
   grid()->setActiveCell(1, 1);
   focusGrid();
+  const BriefRows& rows = run_.rows(page());
+  QString told = QString::number(rows.rows.size()) + u"건을 조회했습니다."_s;
+  if (shown.behind) told += u"   엔터를 누르면 내역이 나옵니다."_s;
+  showHelp(rows.note.isEmpty() ? told : told + u"   "_s + rows.note);
   return true;
 }
 
 void BriefForm::print() {
-  if (const BriefPage& shown = run_.page(page()); shown.report.isEmpty())
-    PrintGrid(session(), run_.grid(page()), shown.printTitle, this);
+  if (run_.page(page()).selection)
+    load();
+  else if (const BriefPage& shown = run_.page(page()); shown.report.isEmpty())
+    PrintGrid(session(), run_.grid(page()), shown.printTitle(run_.ask(page())), this);
   else
-    run_.print(page());
+    run_.print(page(), chart_ && chart_->isVisible() ? chart_->picture() : QByteArray());
 }
 
 void BriefForm::openBehind(int row) {
@@ -199,6 +265,20 @@ void BriefForm::back() {
   grid()->setActiveCell(step.row, step.col);
   grid()->showRow(step.row);
   focusGrid();
+}
+
+void BriefForm::showChart() {
+  if (!chart_) return;
+  const BriefPage& shown = run_.page(page());
+  const bool has = shown.chart.kind != BriefChart::Kind::None;
+  findChild<QPushButton*>(u"BtnChart"_s)->setEnabled(has);
+  chart_->setVisible(has && chart_->isWanted());
+  if (has) chart_->setRows(shown.chart, shown.columns, run_.rows(page()).rows);
+}
+
+void BriefForm::turnChart() {
+  chart_->setWanted(!chart_->isWanted());
+  showChart();
 }
 
 void BriefForm::showPanels() {

@@ -6,6 +6,8 @@
 #include "ui/forms/form.h"
 
 class BriefAsks;
+class BriefChartPane;
+class QSplitter;
 class QStackedWidget;
 class QTabBar;
 
@@ -16,13 +18,18 @@ class BriefForm : public Form {
   /** "month", or a page with its answers as briefAddress writes it: then its rows are shown at once. */
   void showPage(const QString& page);
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   void build();
   QWidget* questionRow();
+  QWidget* gridAndChart();
   QWidget* footRow();
   void addPage(int page);
   void addKeys();
   int page() const;
+  bool isLedger() const;
   Spread* grid() const;
   /** What the operator or a line asked for; keepsTrail: Esc still leads back. */
   void turnTo(int page, bool keepsTrail);
@@ -32,13 +39,18 @@ class BriefForm : public Form {
   void openBehind(int row);
   void back();
   void showPanels();
+  void shareWidth();
+  void showChart();
+  void turnChart();
 
   FormContext& context_;
   BriefRun run_;
   BriefAsks* asks_ = nullptr;
   QTabBar* tabs_ = nullptr;
   QStackedWidget* grids_ = nullptr;
+  QSplitter* split_ = nullptr;  ///< null without a picture
   QWidget* panels_ = nullptr;
+  BriefChartPane* chart_ = nullptr;  ///< null where no page has one
   QList<QLabel*> figures_;
   /** A page that a line led away from, and the line. */
   struct Step {
@@ -47,4 +59,5 @@ class BriefForm : public Form {
     int row, col;
   };
   std::vector<Step> trail_;
+  bool begun_ = false;  ///< it has been shown
 };

@@ -105,7 +105,9 @@ QList<QWidget*> BriefAsks::makeBoxes(const BriefQuestion& question, QWidget* pan
     case AskKind::MonthPeriod:
       return {monthBox(name + u"From"_s, panel), monthBox(name + u"To"_s, panel)};
     case AskKind::Period:
-      return {dayBox(name + u"From"_s, first, false, panel), dayBox(name + u"To"_s, today, false, panel)};
+      return {
+          dayBox(name + u"From"_s, question.fromNewYear ? QDate(today.year(), 1, 1) : first, false, panel),
+          dayBox(name + u"To"_s, today, false, panel)};
     case AskKind::MonthDayPeriod:
       return {dayBox(name + u"From"_s, first, true, panel), dayBox(name + u"To"_s, today, true, panel)};
     case AskKind::Options:
@@ -242,9 +244,11 @@ void BriefAsks::takeClient(Put& put, qint64 code) {
 }
 
 bool BriefAsks::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress &&
-      pickKey(static_cast<QLineEdit*>(watched), static_cast<QKeyEvent*>(event)->key()))
-    return true;
+  if (event->type() == QEvent::KeyPress) {
+    const auto* const key = static_cast<QKeyEvent*>(event);
+    const bool plain = !(key->modifiers() & ~Qt::KeypadModifier);
+    if (plain && pickKey(static_cast<QLineEdit*>(watched), key->key())) return true;
+  }
   return QWidget::eventFilter(watched, event);
 }
 
@@ -288,7 +292,7 @@ void BriefAsks::answer(const QString& name, const QString& value) {
       else if (put.question->kind == AskKind::Options)
         box->findChildren<QRadioButton*>().value(value.toInt())->setChecked(true);
       else if (auto* const combo = qobject_cast<QComboBox*>(box))
-        combo->setCurrentIndex(std::max(0, combo->findText(value, Qt::MatchStartsWith)));
+        combo->setCurrentIndex(std::max({0, combo->findText(value), combo->findText(value + u"월"_s)}));
       else if (auto* const line = qobject_cast<QLineEdit*>(box))
         line->setText(value);
     }

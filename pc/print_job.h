@@ -1,6 +1,7 @@
 #pragma once
 // Printing as the forms ask for it: a named printer, text at a place in inches, pages, end or abandon. Behind it the
 // PC's printers and PDF (ui/paper/printers); in a test a recorder whose items are asserted (tests/recorded_print.h).
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -43,6 +44,9 @@ class PrintJob {
   virtual void line(double x1, double y1, double x2, double y2, double width = 0.5, bool dashed = false) = 0;
   /** grey: 0 black to 1 white. */
   virtual void fill(double x, double y, double width, double height, double grey) = 0;
+  /** A picture's file (PNG, JPEG, BMP), as large as the box takes it unbent, in its middle; nothing for what is no
+   *  picture. */
+  virtual void picture(double x, double y, double width, double height, const QByteArray& file) = 0;
   virtual void newPage() = 0;
   virtual void end() = 0;
   virtual void abandon() = 0;

@@ -4,15 +4,23 @@ using namespace Qt::StringLiterals;
 
 namespace pc {
 
+namespace {
+constexpr double chartInches = 3.3;
+}
+
 Report::Report(ReportLayout layout, ReportTable table, const QStringList& formulas, const QString& today,
-               ReportPicture picture)
-    : layout_(std::move(layout)), table_(std::move(table)), today_(today), picture_(std::move(picture)) {
+               ReportPicture picture, QByteArray chart)
+    : layout_(std::move(layout)),
+      table_(std::move(table)),
+      today_(today),
+      picture_(std::move(picture)),
+      chart_(std::move(chart)) {
   if (table_.rows.empty()) throw ReportError{u"출력할 자료가 없습니다!"_s};
   for (const QString& formula : formulas) {
     const auto [name, value] = readFormula(formula);
     formulas_.insert(name, value);
   }
-  pages_ = std::make_unique<ReportPages>(layout_, table_);
+  pages_ = std::make_unique<ReportPages>(layout_, table_, chart_.isEmpty() ? 0 : chartInches);
 }
 
 QString Report::figure(const QString& number, const ReportColumn& column) const {

@@ -21,13 +21,15 @@ class Report : public Pages {
  public:
   /** Throws ReportError when there is no row or the paper takes none. */
   Report(ReportLayout layout, ReportTable table, const QStringList& formulas, const QString& today,
-         ReportPicture picture);
+         ReportPicture picture, QByteArray chart = {});
   Report(const Report&) = delete;
   Report& operator=(const Report&) = delete;
 
   const ReportLayout& layout() const { return layout_; }
   const ReportTable& table() const { return table_; }
   const ReportPages& pages() const { return *pages_; }
+  /** A picture's file that stands below the rows; empty for none. */
+  const QByteArray& chart() const { return chart_; }
 
   int count() const override { return pages_->count(); }
   PaperSize paper() const override { return layout_.paper; }
@@ -50,6 +52,7 @@ class Report : public Pages {
   QHash<QString, QString> formulas_;
   QString today_;
   ReportPicture picture_;
+  QByteArray chart_;
 };
 
 /** "월= '03월)'" as name and value: what stands between the first and the last apostrophe. */

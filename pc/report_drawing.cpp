@@ -10,7 +10,8 @@ namespace {
 
 using Kind = ReportBand::Kind;
 
-constexpr double cellPad = 0.04;  ///< inches
+constexpr double cellPad = 0.04;     ///< inches
+constexpr double pictureGap = 0.15;  ///< inches
 constexpr double hairline = 0.25, frameLine = 0.9;
 constexpr double headingGrey = 0.9, sumGrey = 0.95;
 constexpr double smallestPart =
@@ -61,6 +62,10 @@ class PageDrawing {
       case Kind::Summary:
         closeTable();
         return drawLines(layout_.summary, band);
+      case Kind::Picture:
+        closeTable();
+        return job_.picture(layout_.left, band.top + pictureGap, layout_.width(), band.height - pictureGap,
+                            report_.chart());
       case Kind::Group:
         closeTable();
         openTable(band.top);
@@ -192,7 +197,7 @@ class PageDrawing {
       const QString text = report_.cell(band.row, column);
       if (text.isEmpty()) continue;
       const Box box = cellBox(col, band.top, band.height, col);
-      if (column.field.startsWith("Str"_L1))
+      if (column.isText())
         putText(box, text, column.align);
       else
         putFigure(box, text, column.align, bold);
@@ -209,7 +214,7 @@ class PageDrawing {
       const Box box = cellBox(col, band.top, band.height, col);
       if (column.sum) {
         putFigure(box, report_.figure(sums[col].text(), column), column.align, true);
-      } else if (!labelled && column.field.startsWith("Str"_L1)) {
+      } else if (!labelled && column.isText()) {
         putText(box, report_.filled(label, page_), ReportAlign::Center);
         labelled = true;
       }

@@ -94,7 +94,25 @@ bool isNumberField(const QString& field) {
   return field.startsWith("Lng"_L1) || field.startsWith("Dbl"_L1);
 }
 
-void checkField(const QString& field) {
+QString liveName(const QString& name) {
+  static const QRegularExpression names(u"^[\\p{L}\\p{N}_]+$"_s);
+  if (!names.match(name).hasMatch()) throw ReportError{u"'"_s + name + u"'은(는) 쓸 수 없는 이름입니다"_s};
+  return name;
+}
+
+/** "Sale.SaleDate" of a table that was named before. */
+QString liveField(const QString& field, const ReportLayout& layout) {
+  const QString table = liveName(field.section(u'.', 0, 0));
+  liveName(field.section(u'.', 1));
+  if (!layout.tables.has(table)) throw ReportError{u"'"_s + table + u"' 테이블이 앞에 없습니다"_s};
+  return field;
+}
+
+void checkField(const QString& field, const ReportLayout& layout) {
+  if (!layout.tables.first.isEmpty()) {
+    if (!layout.tables.values.contains(field)) liveField(field, layout);
+    return;
+  }
   static const QRegularExpression fields(u"^(Str(0[1-9]|1[0-3])|Lng0[1-8]|Dbl0[1-3])$"_s);
   if (!fields.match(field).hasMatch()) throw ReportError{u"'"_s + field + u"' 칸은 없습니다"_s};
 }
@@ -136,11 +154,11 @@ void readColumn(LayoutReader& words, ReportLayout& layout) {
   ReportColumn column;
   column.field = words.word(u"칸의 이름이");
   const bool counter = column.field == "no"_L1;
-  if (!counter) checkField(column.field);
+  if (!counter) checkField(column.field, layout);
   column.caption = words.quoted(u"칸의 제목이");
   column.width = words.number(u"칸의 너비가", 1, 200);
   column.align = words.align();
-  const bool number = isNumberField(column.field);
+  const bool number = isNumberField(column.field) || (!layout.tables.first.isEmpty() && !counter);
   if (number && words.isQuoted()) column.picture = words.quoted(u"모양이");
   column.sum = number && words.take(u"sum");
   layout.columns.push_back(column);
@@ -165,8 +183,37 @@ void readSpan(LayoutReader& words, ReportLayout& layout) {
 
 void readGroup(LayoutReader& words, ReportLayout& layout) {
   layout.groupField = words.word(u"칸의 이름이");
-  checkField(layout.groupField);
+  checkField(layout.groupField, layout);
   layout.group.push_back(readLine(words, layout.font.points));
+}
+
+void readTable(LayoutReader& words, ReportLayout& layout) {
+  if (!layout.columns.empty() || !layout.tables.first.isEmpty())
+    throw ReportError{u"table은 칸보다 앞에 한 번만 적습니다"_s};
+  layout.tables.first = liveName(words.word(u"테이블의 이름이"));
+}
+
+void readJoin(LayoutReader& words, ReportLayout& layout) {
+  if (layout.tables.first.isEmpty()) throw ReportError{u"table이 앞에 없습니다"_s};
+  ReportTables::Join join{.table = liveName(words.word(u"테이블의 이름이")), .left = {}, .right = {}};
+  layout.tables.joins.push_back(join);
+  layout.tables.joins.back().left = liveField(words.word(u"앞의 칸이"), layout);
+  layout.tables.joins.back().right = liveField(words.word(u"이을 칸이"), layout);
+}
+
+void readValue(LayoutReader& words, ReportLayout& layout) {
+  QStringList& sum = layout.tables.values[liveName(words.word(u"값의 이름이"))];
+  do {
+    sum << liveField(words.word(u"더할 칸이"), layout);
+  } while (!words.atEnd());
+}
+
+void readLabels(LayoutReader& words, ReportLayout& layout) {
+  auto& labels = layout.tables.labels[liveField(words.word(u"칸의 이름이"), layout)];
+  do {
+    const QString code = words.word(u"값이");
+    labels[code] = words.quoted(u"따옴표 안의 글이");
+  } while (!words.atEnd());
 }
 
 void readLayoutLine(const QString& text, ReportLayout& layout) {
@@ -179,6 +226,16 @@ void readLayoutLine(const QString& text, ReportLayout& layout) {
   const QString kind = words.word(u"");
   if (const auto band = bands.find(kind); band != bands.end())
     band->second->push_back(readLine(words, layout.font.points));
+  else if (kind == "table"_L1)
+    readTable(words, layout);
+  else if (kind == "join"_L1)
+    readJoin(words, layout);
+  else if (kind == "order"_L1)
+    layout.tables.order << liveField(words.word(u"칸이"), layout);
+  else if (kind == "value"_L1)
+    readValue(words, layout);
+  else if (kind == "label"_L1)
+    readLabels(words, layout);
   else if (kind == "paper"_L1)
     readPaper(words, layout);
   else if (kind == "margins"_L1)
@@ -203,6 +260,14 @@ void readLayoutLine(const QString& text, ReportLayout& layout) {
 }
 
 }  // namespace
+
+bool ReportTables::has(const QString& table) const {
+  return table == first || std::ranges::any_of(joins, [&](const Join& join) { return join.table == table; });
+}
+
+bool ReportColumn::isText() const {
+  return field.startsWith("Str"_L1) || (picture.isEmpty() && field.contains(u'.'));
+}
 
 double ReportLine::height() const {
   double points = 0;

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <vector>
 
 #include "pc/print_job.h"
@@ -41,6 +42,9 @@ struct ReportColumn {
   ReportAlign align = ReportAlign::Left;
   QString picture = {};  ///< '' shows the number as it is
   bool sum = false;
+
+  /** A text is cut to its column, a figure is set smaller. */
+  bool isText() const;
 };
 
 /** One caption above neighbouring columns, from first to last (places from 0). */
@@ -49,7 +53,22 @@ struct ReportSpan {
   int first = 0, last = 0;
 };
 
+/** The live tables of a report whose rows are not staged. Names are letters, digits and _; nothing else is read. */
+struct ReportTables {
+  struct Join {
+    QString table, left, right;  ///< "Client", "Sale.ClientCode", "Client.Code"
+  };
+  QString first;  ///< '' for a staged report
+  std::vector<Join> joins = {};
+  QStringList order = {};                                     ///< "Sale.SaleDate"
+  std::map<QString, QStringList> values = {};                 ///< a name for a sum of fields
+  std::map<QString, std::map<QString, QString>> labels = {};  ///< a field's codes in words
+
+  bool has(const QString& table) const;
+};
+
 struct ReportLayout {
+  ReportTables tables = {};
   PaperSize paper;
   double left = 0.5, top = 0.5, right = 0.5, bottom = 0.5;  ///< margins, inches
   PrintFont font{"굴림체", 9};
@@ -67,7 +86,8 @@ struct ReportLayout {
   double rowHeight() const;      ///< inches
   double headingHeight() const;  ///< inches, of the columns' captions
   double width() const { return paper.width - left - right; }
-  /** What the report needs of a row: columns, the group's field, fields named in the group's texts. */
+  /** What the report needs of a row: columns, the group's field, fields named in the group's texts; of a live report
+   *  also names of its values. */
   QStringList fields() const;
 };
 

@@ -38,7 +38,7 @@ bool ReportTable::isBlank(int row) const {
   });
 }
 
-ReportPages::ReportPages(const ReportLayout& layout, const ReportTable& table)
+ReportPages::ReportPages(const ReportLayout& layout, const ReportTable& table, double pictureHeight)
     : layout_(layout), table_(table), total_(layout.columns.size()) {
   limit_ = layout.paper.height - layout.bottom - (layout.foot.empty() ? 0 : heightOf(layout.foot) + footGap);
   countRows();
@@ -74,6 +74,9 @@ ReportPages::ReportPages(const ReportLayout& layout, const ReportTable& table)
   }
   if (!layout.total.isEmpty()) put(Kind::Total, layout.rowHeight());
   if (!layout.summary.empty()) put(Kind::Summary, heightOf(layout.summary));
+  if (pictureHeight <= 0) return;
+  if (at_ + pictureHeight > limit_) beginPage(false);
+  put(Kind::Picture, std::min(pictureHeight, limit_ - at_));
 }
 
 void ReportPages::countRows() {
@@ -100,7 +103,7 @@ double ReportPages::spaceBehind(int row) const {
   return space;
 }
 
-void ReportPages::beginPage() {
+void ReportPages::beginPage(bool heading) {
   const bool first = pages_.empty();
   pages_.emplace_back();
   if (!layout_.foot.empty()) {
@@ -110,7 +113,7 @@ void ReportPages::beginPage() {
   at_ = layout_.top;
   const ReportLines& head = first ? layout_.title : layout_.next;
   if (!head.empty()) put(first ? Kind::Title : Kind::Next, heightOf(head));
-  put(Kind::Heading, layout_.headingHeight());
+  if (heading) put(Kind::Heading, layout_.headingHeight());
 }
 
 void ReportPages::put(Kind kind, double height, int row, int sums) {

@@ -29,7 +29,7 @@ using ReportSums = std::vector<ExactSum>;
 
 /** A strip of a page, from its top over its height, in inches. */
 struct ReportBand {
-  enum class Kind { Title, Next, Heading, Group, Row, Subtotal, Total, Summary, Foot };
+  enum class Kind { Title, Next, Heading, Group, Row, Subtotal, Total, Summary, Foot, Picture };
   Kind kind;
   double top = 0, height = 0;
   int row = -1;   ///< of a row, of a group's first row
@@ -38,8 +38,8 @@ struct ReportBand {
 
 class ReportPages {
  public:
-  /** Throws ReportError when the paper takes not even one row. */
-  ReportPages(const ReportLayout& layout, const ReportTable& table);
+  /** pictureHeight: inches below the rows; 0 for none. Throws ReportError when the paper takes not even one row. */
+  ReportPages(const ReportLayout& layout, const ReportTable& table, double pictureHeight = 0);
 
   int count() const { return int(pages_.size()); }
   const std::vector<ReportBand>& bands(int page) const { return pages_.at(size_t(page)); }  ///< from 0
@@ -53,7 +53,7 @@ class ReportPages {
   bool groupBegins(int row) const;
   bool groupEnds(int row) const;
   double spaceBehind(int row) const;
-  void beginPage();
+  void beginPage(bool heading = true);
   void put(ReportBand::Kind kind, double height, int row = -1, int sums = -1);
   void addRow(int row, ReportSums& sums) const;
 

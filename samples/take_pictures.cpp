@@ -1,6 +1,7 @@
 // Pictures of every form on the sample retailer's books, for the documents and for looking at.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -204,6 +205,46 @@ void documents(frmMain& window, FormPickers& pickers, Photographer& photographer
   photographer.takeModal("FrmPost", [&] { pickers.searchPost("장터"); });
 }
 
+/** Every report of the trade side over the year so far, each with the first page of its paper. */
+void tradeReports(frmMain& window, Session& session, ReportViewer& reports, Photographer& photographer) {
+  const QString year = session.WorkYear, month = session.pc.clock.today().addMonths(-1).toString("MM");
+  const QString days = "?TxtDayFrom=" + year + "-01-01&TxtDayTo=" + session.pc.clock.dateText();
+  const std::pair<QString, QString> shown[] = {
+      {"frmLPGSaleBrief:month?CboYear=" + year, "-month"},
+      {"frmLPGSaleBrief:day?CboYear=" + year + "&CboMonth=" + month, "-day"},
+      {"frmLPGSaleBrief:client" + days, "-client"},
+      {"frmResSaleBrief:lines" + days, "-lines"},
+      {"frmResSaleBrief:person" + days, "-person"},
+      {"frmResSaleBrief:total" + days, "-total"},
+      {"frmResUtilBrief:total" + days, "-total"},
+      {"frmTrustBrief:clients?TxtName=", ""},
+      {"frmUtilTrustBrief:clients?TxtName=", ""},
+      {"frmCANLPGBrief:loans" + days, ""},
+      {"frmCANCompanyBrief:loans" + days, ""},
+      {"frmCANResBrief:loans" + days, ""},
+      {"frmUtilClientBrief:clients" + days, ""},
+      {"frmSaleBrief:lines" + days, ""},
+      {"frmAClientSaleBrief:lines" + days + "&TxtClient=1", ""},
+      {"frmPrtSale:ledger", ""},
+      {"frmPrtBuy:ledger", ""}};
+  for (const auto& [address, behind] : shown) {
+    closeForm(window);
+    if (!window.openForm(address)) continue;
+    const QString name = address.section(':', 0, 0);
+    auto* const form = window.findChild<QWidget*>(name);
+    photographer.take(*form, name + behind);
+    if (auto* const tick = form->findChild<QCheckBox*>("ChkChart"); tick && behind == "-month")
+      tick->setChecked(true);
+    if (name == "frmAClientSaleBrief") continue;  // its grid goes straight to a printer
+    QTest::keyClick(form, Qt::Key_F10);
+    if (!reports.window()) continue;
+    photographer.take(*reports.window(), name + behind + "-paper");
+    reports.window()->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  closeForm(window);
+}
+
 void pickers(FormPickers& pickers, Session& session, Photographer& photographer) {
   photographer.takeModal("frmSearchClient",
                          [&] { pickers.searchClient("식당", ClientSearchMode::General, false); });
@@ -346,6 +387,7 @@ int main(int argc, char** argv) {
     meterBook(window, session, photographer);
     totals(window, reports, photographer);
     documents(window, searches, photographer);
+    tradeReports(window, session, reports, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);
     guideAndFirstSteps(window, photographer);

@@ -13,14 +13,14 @@ QString layoutName(const QString& report) {
   return (report.endsWith(".rpt"_L1, Qt::CaseInsensitive) ? report.chopped(4) : report) + u".layout"_s;
 }
 
+}  // namespace
+
 pc::ReportValue reportValue(const jet::Value& value) {
   if (value.isNull()) return {};
   if (value.isWhole()) return value.toLong();
   if (value.isDouble()) return value.toDouble();
   return value.toText();
 }
-
-}  // namespace
 
 pc::ReportLayout findReportLayout(const Session& session, const QString& file) {
   const QString name = layoutName(file);
@@ -49,8 +49,11 @@ pc::ReportTable readStagedRows(const Session& session, const QString& dataFile, 
 
 std::unique_ptr<pc::Report> makeReport(const Session& session, const pc::ReportRequest& request) {
   pc::ReportLayout layout = findReportLayout(session, request.file);
-  pc::ReportTable rows = readStagedRows(session, request.dataFile, layout.fields());
+  pc::ReportTable rows = layout.tables.first.isEmpty()
+                             ? readStagedRows(session, request.dataFile, layout.fields())
+                             : readLiveRows(session, layout, request);
   return std::make_unique<pc::Report>(
       std::move(layout), std::move(rows), request.formulas, session.pc.clock.dateText(),
-      [](const QString& number, const QString& picture) { return jet::format(number, picture); });
+      [](const QString& number, const QString& picture) { return jet::format(number, picture); },
+      request.picture);
 }

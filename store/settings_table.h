@@ -74,6 +74,15 @@ constexpr Setting leftMarginOf(QStringView kind) {
   return {program, kind, u"LeftMargin"};
 }
 
+// --- report forms -----------------------------------------------------------------------------------------------
+/** Of a form by its name, which must outlive the setting. */
+constexpr Setting chartShownOf(QStringView form) {
+  return {program, u"그래프보기", form, u"1"};
+}
+constexpr Setting chartPrintedOf(QStringView form) {
+  return {program, u"그래프인쇄", form, u"0"};
+}
+
 // --- the main window's ground -----------------------------------------------------------------------------------
 inline constexpr QStringView common = u"라온공통", ground = u"메인배경";
 inline constexpr Setting GroundPicture{common, ground, u"로고파일경로"};

@@ -12,7 +12,7 @@ namespace tests {
 
 /** One thing on paper; places in inches from the sheet's left upper corner. */
 struct PrintedItem {
-  enum Kind { Text, Line, Fill };
+  enum Kind { Text, Line, Fill, Picture };
   Kind kind = Text;
   int page = 1;
   double x = 0, y = 0;
@@ -102,6 +102,10 @@ class RecordedPrinters : public pc::Printers {
     void fill(double x, double y, double width, double height, double grey) override {
       record_->items.push_back(
           {PrintedItem::Fill, record_->pages, x, y, {}, font_, x + width, y + height, grey, ink_, false});
+    }
+    void picture(double x, double y, double width, double height, const QByteArray& file) override {
+      record_->items.push_back({PrintedItem::Picture, record_->pages, x, y, QString::number(file.size()),
+                                font_, x + width, y + height, 0, ink_, false});
     }
     void newPage() override {
       if (refusesFromPage_ && record_->pages + 1 >= refusesFromPage_)

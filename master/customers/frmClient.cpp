@@ -78,7 +78,11 @@ void frmClient::buildButtons() {
                          [this] { context_.commands.openForm("frmHouseStyle"); });
   apartment_->setEnabled(context_.commands.hasForm("frmHouseStyle"));
   exit_ = addButton("BtnExit", "닫기(&X)", [this] { (parentWidget() ? parentWidget() : this)->close(); });
-  buttons_ = buttonRow({apartment_, image_, nullptr, new_, save_, cancel_, delete_, nullptr, exit_});
+  auto* const map = addButton("BtnPreView", "약도 인쇄(&P)", [this] {
+    if (map_.handOver(clients_.code())) context_.commands.openForm("FrmPreView:customer");
+  });
+  map->setEnabled(context_.commands.hasForm("FrmPreView"));
+  buttons_ = buttonRow({apartment_, image_, map, nullptr, new_, save_, cancel_, delete_, nullptr, exit_});
 }
 
 void frmClient::buildPage(HouseStyle style, const QString& caption, const char* gridName) {

@@ -11,7 +11,7 @@ const QString registerTitle = "고객 관리자";
 
 }  // namespace
 
-bool MapHandshake::start(qint64 clientCode) {
+bool MapHandshake::handOver(qint64 clientCode) {
   if (clientCode == 0) {
     session_.prompts.MsgWarn("약도를 출력할 고객을 먼저 선택하십시오", registerTitle);
     return false;
@@ -30,6 +30,12 @@ bool MapHandshake::start(qint64 clientCode) {
   settings.write(setting::MapPrintAddress, client["Address"].toText());
   settings.write(setting::MapPrintTel, client["Tel"].toText());
   settings.write(setting::MapPrintFile, position);
+  return true;
+}
+
+bool MapHandshake::start(qint64 clientCode) {
+  if (!handOver(clientCode)) return false;
+  pc::Settings& settings = session_.pc.settings;
   // An answer left over from an earlier run would end the wait at once.
   settings.write(setting::MapEdited, false);
   settings.write(setting::MapFailed, false);

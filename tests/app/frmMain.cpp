@@ -158,9 +158,11 @@ TEST_F(MainWindow, EveryChildOpensWhollyInSight) {
   window->resize(1092, 614);  // what a small screen at 125 % leaves
   QApplication::processEvents();
   for (const char* form :
-       {"frmUser", "frmBank", "frmResponse", "frmVolume", "frmClient", "frmHouseStyle", "frmGasUtil",
-        "frmRefillState", "FrmSukum", "frmSale", "frmTodaySale", "frmEva", "frmEvaTotal", "frmBuy",
-        "frmResCAN", "frmVolumeEstimate", "FrmDealList", "FrmTax"}) {
+       {"frmUser",           "frmBank",      "frmResponse",    "frmVolume",       "frmClient",
+        "frmHouseStyle",     "frmGasUtil",   "frmRefillState", "FrmSukum",        "frmSale",
+        "frmTodaySale",      "frmEva",       "frmEvaTotal",    "frmBuy",          "frmResCAN",
+        "frmVolumeEstimate", "FrmDealList",  "FrmTax",         "frmLPGSaleBrief", "frmResSaleBrief",
+        "frmTrustBrief",     "frmSaleBrief", "frmCANResBrief", "frmPrtSale"}) {
     ASSERT_TRUE(window->openForm(QString::fromUtf8(form)));
     QApplication::processEvents();
     const QMdiSubWindow* const child = ground->currentSubWindow();

@@ -161,6 +161,34 @@ TEST_F(ReportTest, StopsAndRefusesWithoutAnEnd) {
   EXPECT_THROW(pc::Report(layout, table, {}, "", picture), pc::ReportError);
 }
 
+TEST_F(ReportTest, APictureStandsBelowTheRowsOrOnAPageOfItsOwn) {
+  const auto pictures = [this] {
+    const pc::Report report(layout, table, formulas, "", picture, QByteArray("png"));
+    pc::printReport(*printers.open("지로프린터", "현황", layout.paper), report);
+    std::vector<PrintedItem> found;
+    for (const PrintedItem& item : printers.jobs.back()->items)
+      if (item.kind == PrintedItem::Picture) found.push_back(item);
+    return found;
+  };
+  for (int i = 0; i < 3; ++i) add("고객", 1, 1);
+  auto found = pictures();
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found[0].page, 1);
+  const PrintedItem* const summary = find(*printers.jobs.back(), "모두 3원");
+  ASSERT_TRUE(summary);
+  EXPECT_GT(found[0].y, summary->y);
+  EXPECT_DOUBLE_EQ(found[0].x, layout.left);
+  EXPECT_DOUBLE_EQ(found[0].x2 - found[0].x, layout.width());
+  for (int i = 0; i < 35; ++i) add("고객", 1, 1);
+  found = pictures();
+  const auto& job = *printers.jobs.back();
+  EXPECT_EQ(job.pages, 2) << "the rows themselves take one page";
+  EXPECT_EQ(found[0].page, 2);
+  EXPECT_EQ(job.texts(2).count("이름"), 0) << "no heading over a picture";
+  EXPECT_TRUE(job.texts(2).contains("이어서 2") && job.texts(2).contains("2 / 2"));
+  EXPECT_LT(found[0].y2, layout.paper.height - layout.bottom);
+}
+
 TEST(ReportFormula, NameAndValue) {
   EXPECT_EQ(pc::readFormula("조회월= '03'"), std::make_pair(u"조회월"_s, u"03"_s));
   EXPECT_EQ(pc::readFormula("판매구분= '월 체적)'").second, "월 체적)");

@@ -18,6 +18,14 @@ BriefQuestion askName(std::vector<int> pages) {
           .pages = std::move(pages)};
 }
 
+BriefQuestion askPerson(std::vector<int> pages) {
+  return {.kind = AskKind::Person,
+          .name = "TxtResponse",
+          .label = "담당자",
+          .help = "F12로 담당자를 선택하세요.  지움 : DELETE",
+          .pages = std::move(pages)};
+}
+
 BriefQuestion askSheet(std::vector<int> pages) {
   return {.kind = AskKind::Options,
           .name = "OptGubun",
@@ -63,10 +71,24 @@ BriefColumn hiddenColumn(const QString& field) {
   return {.header = field, .field = field, .key = false, .hidden = true};
 }
 
+BriefColumn itemColumn(const QString& staged, double width) {
+  return {.header = "품명 / 용량", .width = width, .staged = staged, .cell = [](const jet::Recordset& rs) {
+            const QString name = rs["SaleName"].toText(), size = rs["SaleThing"].toText();
+            return size.isEmpty() || size == "0" ? name : name + " / " + size;
+          }};
+}
+
+BriefColumn amountColumn(const QString& staged) {
+  BriefColumn column = wonColumn("판매금액", {}, staged);
+  column.cell = [](const jet::Recordset& rs) {
+    return QString::number(rs["Income"].toLong() + rs["Trust"].toLong());
+  };
+  return column;
+}
+
 std::vector<BriefColumn> saleFigures() {
-  return {piecesColumn("수량", "SaleNum", "Lng01"), wonColumn("판매금액", "Amount", "Lng02"),
-          wonColumn("D/C", "DC", "Lng03"), wonColumn("입금액", "Income", "Lng04"),
-          wonColumn("미수금", "Trust", "Lng05")};
+  return {piecesColumn("수량", "SaleNum", "Lng01"), amountColumn("Lng02"), wonColumn("D/C", "DC", "Lng03"),
+          wonColumn("입금액", "Income", "Lng04"), wonColumn("미수금", "Trust", "Lng05")};
 }
 
 QString periodFormula(const BriefAsk& ask) {
@@ -77,6 +99,12 @@ QString periodFormula(const BriefAsk& ask) {
 }
 
 QString linesOfClient(qint64 code, const QString& from, const QString& to) {
-  return briefAddress("frmAClientSaleBrief", "lines",
-                      {{"TxtClient", QString::number(code)}, {"TxtDayFrom", from}, {"TxtDayTo", to}});
+  QList<std::pair<QString, QString>> answers{{"TxtClient", QString::number(code)}};
+  if (!from.isEmpty()) answers << std::pair{"TxtDayFrom", from} << std::pair{"TxtDayTo", to};
+  return briefAddress("frmAClientSaleBrief", "lines", answers);
+}
+
+QString clientBehind(const BriefAsk& ask, const BriefCells& cells) {
+  const qint64 code = cells.back().toLongLong();
+  return code > 0 ? linesOfClient(code, ask.from(briefPeriod), ask.to(briefPeriod)) : QString();
 }

@@ -69,11 +69,17 @@ void completeCredit(Session& session, CreditKind kind, const CreditColumns& at, 
   }
 }
 
-void addAges(std::vector<BriefColumn>& columns) {
+/** The customer, the figures, how old what is owed is, and the hidden code. */
+std::vector<BriefColumn> creditColumns(const std::vector<BriefColumn>& figures) {
+  std::vector<BriefColumn> columns{clientColumn("Str01"), textColumn("전화번호", "Tel", {}, 14),
+                                   textColumn("최근거래일", "LastDate", {}, 11)};
+  columns.insert(columns.end(), figures.begin(), figures.end());
   for (const char* header : {"30일 이내", "60일", "90일", "90일 초과"}) {
     columns.push_back(wonColumn(header, {}, {}));
     columns.back().group = "미수 기간";
   }
+  columns.push_back(hiddenColumn("Code"));
+  return columns;
 }
 
 QString creditStatement(const QString& balance, const BriefAsk& ask) {
@@ -92,8 +98,40 @@ BriefChart creditChart(int column) {
           .most = 12};
 }
 
-QString linesBehind(const BriefCells& cells, size_t code) {
-  return linesOfClient(cells[code].toLongLong(), {}, {});
+/** What the two forms differ in. */
+struct CreditBook {
+  QString form, caption;
+  CreditKind kind;
+  QString balance;  ///< the customer's column
+  QString what, report;
+  std::vector<BriefColumn> columns;
+  CreditColumns at;
+};
+
+Brief creditBrief(const CreditBook& book) {
+  return {
+      .form = book.form,
+      .caption = book.caption,
+      .questions = {askName(), askSheet()},
+      .pages = {
+          {.key = "clients",
+           .grid = "SpTrust",
+           .columns = book.columns,
+           .statement = [balance =
+                             book.balance](const BriefAsk& ask) { return creditStatement(balance, ask); },
+           .complete = [kind = book.kind, at = book.at](
+                           Session& session, const BriefAsk&, const BriefTeller&,
+                           BriefRows& rows) { completeCredit(session, kind, at, rows); },
+           .emptyText = [what =
+                             book.what](const BriefAsk&) { return what + " 미수금이 있는 고객이 없습니다!"; },
+           .report = book.report,
+           .formulas = [](const BriefAsk& ask,
+                          const BriefRows&) { return QStringList{"판매구분= '(" + sheetName(ask) + ")'"}; },
+           .chart = creditChart(int(book.at.balance) + 1),
+           .behind =
+               [](const BriefAsk&, const BriefCells& cells) {
+                 return linesOfClient(cells.back().toLongLong(), {}, {});
+               }}}};
 }
 
 }  // namespace
@@ -101,37 +139,33 @@ QString linesBehind(const BriefCells& cells, size_t code) {
 Brief trustBrief() {
   enum { Client, Tel, Last, Before, Amount, Discount, Income, Collected, Gas, Util, Total, Age };
   constexpr size_t code = Age + 4;
-  std::vector<BriefColumn> columns{clientColumn("Str01"),
-                                   textColumn("전화번호", "Tel", {}, 14),
-                                   textColumn("최근거래일", "LastDate", {}, 11),
-                                   wonColumn("이월미수", {}, "Lng01"),
-                                   wonColumn("판매금액", {}, "Lng02"),
-                                   wonColumn("D/C", {}, "Lng03"),
-                                   wonColumn("입금액", {}, "Lng04"),
-                                   wonColumn("수금액", {}, "Lng05"),
-                                   wonColumn("가스미수", "GasInit", "Lng06"),
-                                   wonColumn("자재미수", "UtilInit", "Lng07"),
-                                   wonColumn("미수합계", "Total", "Lng08")};
-  addAges(columns);
-  columns.push_back(hiddenColumn("Code"));
-  return {
-      .form = "frmTrustBrief",
-      .caption = "미수금 현황",
-      .questions = {askName(), askSheet()},
-      .pages = {
-          {.key = "clients",
-           .grid = "SpTrust",
-           .columns = std::move(columns),
-           .statement = [](const BriefAsk& ask) { return creditStatement("GasInit", ask); },
-           .complete =
-               [](Session& session, const BriefAsk&, const BriefTeller&, BriefRows& rows) {
-                 completeCredit(session, CreditKind::Gas,
-                                {code, Gas, Before, Amount, Discount, Income, Collected, Age}, rows);
-               },
-           .emptyText = [](const BriefAsk&) { return QString("가스 미수금이 있는 고객이 없습니다!"); },
-           .report = "가스미수금현황.rpt",
-           .formulas = [](const BriefAsk& ask,
-                          const BriefRows&) { return QStringList{"판매구분= '(" + sheetName(ask) + ")'"}; },
-           .chart = creditChart(Gas + 1),
-           .behind = [](const BriefAsk&, const BriefCells& cells) { return linesBehind(cells, code); }}}};
+  return creditBrief(
+      {.form = "frmTrustBrief",
+       .caption = "미수금 현황",
+       .kind = CreditKind::Gas,
+       .balance = "GasInit",
+       .what = "가스",
+       .report = "가스미수금현황.rpt",
+       .columns = creditColumns({wonColumn("이월미수", {}, "Lng01"), wonColumn("판매금액", {}, "Lng02"),
+                                 wonColumn("D/C", {}, "Lng03"), wonColumn("입금액", {}, "Lng04"),
+                                 wonColumn("수금액", {}, "Lng05"), wonColumn("가스미수", "GasInit", "Lng06"),
+                                 wonColumn("자재미수", "UtilInit", "Lng07"),
+                                 wonColumn("미수합계", "Total", "Lng08")}),
+       .at = {code, Gas, Before, Amount, Discount, Income, Collected, Age}});
+}
+
+Brief utilTrustBrief() {
+  enum { Client, Tel, Last, Before, Amount, Income, Collected, Util, Age };
+  constexpr size_t code = Age + 4;
+  return creditBrief(
+      {.form = "frmUtilTrustBrief",
+       .caption = "자재 미수 현황",
+       .kind = CreditKind::Material,
+       .balance = "UtilInit",
+       .what = "자재",
+       .report = "자재미수현황.rpt",
+       .columns = creditColumns({wonColumn("이월미수", {}, "Lng01"), wonColumn("판매금액", {}, "Lng02"),
+                                 wonColumn("입금액", {}, "Lng03"), wonColumn("수금액", {}, "Lng04"),
+                                 wonColumn("자재미수", "UtilInit", "Lng05")}),
+       .at = {code, Util, Before, Amount, 0, Income, Collected, Age}});
 }

@@ -17,6 +17,10 @@ void KeptPages::draw(pc::PrintJob& job, int page) const {
       case Item::Fill:
         job.fill(double(item.x), double(item.y), double(item.x2), double(item.y2), double(item.weight));
         break;
+      case Item::Picture:
+        job.picture(double(item.x), double(item.y), double(item.x2 - item.x), double(item.y2 - item.y),
+                    pictures_[size_t(item.weight)]);
+        break;
       default:
         job.line(double(item.x), double(item.y), double(item.x2), double(item.y2), double(item.weight),
                  item.kind == Item::Dashed);
@@ -55,6 +59,10 @@ class KeepingJob : public pc::PrintJob {
   }
   void fill(double x, double y, double width, double height, double grey) override {
     put(KeptPages::Item::Fill, x, y, width, height, grey);
+  }
+  void picture(double x, double y, double width, double height, const QByteArray& file) override {
+    put(KeptPages::Item::Picture, x, y, x + width, y + height, double(kept_->pictures_.size()));
+    kept_->pictures_.push_back(file);
   }
   void newPage() override { kept_->pages_.emplace_back(); }
   void end() override {}

@@ -13,14 +13,15 @@ class KeptPages : public pc::Pages {
  private:
   friend class KeepingJob;
   struct Item {
-    enum Kind : quint8 { Text, Line, Dashed, Fill } kind;
+    enum Kind : quint8 { Text, Line, Dashed, Fill, Picture } kind;
     quint8 font;
     pc::PrintInk ink;
-    float x, y, x2, y2, weight;  ///< inches; weight in points, or a box's grey
+    float x, y, x2, y2, weight;  ///< inches; weight in points, a box's grey, a picture's place
     QString text;
   };
   pc::PaperSize paper_;
   std::vector<pc::PrintFont> fonts_;
+  std::vector<QByteArray> pictures_;
   std::vector<std::vector<Item>> pages_;
 };
 

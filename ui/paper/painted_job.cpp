@@ -83,6 +83,16 @@ void PaintedJob::fill(double x, double y, double width, double height, double gr
   painter_.fillRect(QRectF(dots(x), dots(y), dots(width), dots(height)), QColor::fromRgbF(grey, grey, grey));
 }
 
+void PaintedJob::picture(double x, double y, double width, double height, const QByteArray& file) {
+  const QImage image = QImage::fromData(file);
+  if (image.isNull()) return;
+  const QSizeF size = QSizeF(image.size()).scaled({dots(width), dots(height)}, Qt::KeepAspectRatio);
+  const QPointF middle{dots(x + width / 2), dots(y + height / 2)};
+  const QRectF place{middle - QPointF(size.width() / 2, size.height() / 2), size};
+  painter_.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter_.drawImage(place, image);
+}
+
 ScreenPage::ScreenPage(QPaintDevice& picture, const pc::PaperSize& paper, double dotsPerInch)
     : PaintedJob(paper) {
   if (!begin(picture, fineDotsPerInch)) throw pc::PrintError{u"화면에 그릴 수 없습니다."_s};

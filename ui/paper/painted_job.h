@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QHash>
+#include <QImage>
 #include <QPainter>
 #include <memory>
 
@@ -23,6 +24,7 @@ class PaintedJob : public pc::PrintJob {
   void setInk(const pc::PrintInk& ink) override;
   void line(double x1, double y1, double x2, double y2, double width, bool dashed) override;
   void fill(double x, double y, double width, double height, double grey) override;
+  void picture(double x, double y, double width, double height, const QByteArray& file) override;
 
  protected:
   explicit PaintedJob(const pc::PaperSize& paper) : paper_(paper) {}

@@ -15,7 +15,7 @@ SpreadColumn sheetColumn(const pc::ReportLayout& layout, int at) {
     made.kind = CellKind::Integer;
   else if (column.field.startsWith("Lng"_L1))
     made.kind = column.picture.isEmpty() ? CellKind::Integer : CellKind::Money;
-  else if (column.field.startsWith("Dbl"_L1))
+  else if (!column.isText())
     made.kind = CellKind::Number;
   return made;
 }
@@ -41,7 +41,7 @@ SpreadModel reportSheet(const pc::Report& report) {
     auto& line = cells.emplace_back();
     bool labelled = false;
     for (size_t at = 0; at < layout.columns.size(); ++at) {
-      const bool text = layout.columns[at].field.startsWith("Str"_L1);
+      const bool text = layout.columns[at].isText();
       const bool label = text && !labelled;
       line.push_back(layout.columns[at].sum ? report.pages().total()[at].text()
                      : label                ? report.filled(layout.total, 0)

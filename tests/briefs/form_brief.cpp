@@ -1,0 +1,240 @@
+// The window of the report forms: questions, pages, the way to the lines behind a row and back, the picture.
+#include "briefs/form_brief.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+
+#include "tests/briefs/brief_desk.h"
+#include "tests/idle_context.h"
+#include "tests/ui/grab.h"
+#include "trade/briefs/trade_briefs.h"
+
+namespace {
+
+struct ChoosingPickers : tests::IdlePickers {
+  std::optional<ClientChoice> client;
+  std::optional<QString> person;
+  QStringList asked;
+  std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode, bool) override {
+    asked << text;
+    return client;
+  }
+  std::optional<QString> searchResponse() override { return person; }
+};
+
+struct BriefWindow : testing::Test, tests::BriefDesk {
+  BriefWindow() {
+    for (int day = 1; day <= 20; ++day)
+      sale({.day = qPrintable(QString("2026-03-%1").arg(day, 2, 10, QChar('0'))),
+            .client = 1 + day % 2,
+            .pieces = day % 4 + 1,
+            .income = 40000 * day,
+            .trust = day % 3 ? 0 : 25000,
+            .person = day % 2 ? "한기사" : "두기사"});
+    sale({.day = "2026-01-15", .income = 700000});
+  }
+  static Spread* gridOf(BriefForm& form) {
+    for (Spread* const grid : form.findChildren<Spread*>())
+      if (grid->isVisible()) return grid;
+    return nullptr;
+  }
+  static int pageOf(BriefForm& form) { return form.findChild<QTabBar*>()->currentIndex(); }
+  template <class T>
+  static T* box(BriefForm& form, const char* name) {
+    return form.findChild<T*>(name);
+  }
+
+  ChoosingPickers pickers;
+  tests::IdleCommands commands;
+  tests::IdleCalls calls;
+  FormContext context{session, pickers, commands, calls};
+};
+
+TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
+  BriefForm form(context, lpgSaleBrief());
+  form.showPage("month");
+  tests::show(form);
+  EXPECT_EQ(box<QComboBox>(form, "CboYear")->currentText(), "2026");
+  EXPECT_FALSE(box<QWidget>(form, "CboMonth")->isVisible());
+  EXPECT_FALSE(box<QWidget>(form, "TxtDayFrom")->isVisible());
+  tests::key(Qt::Key_F5);
+  EXPECT_EQ(gridOf(form)->model().MaxRows(), 13);
+  EXPECT_TRUE(gridOf(form)->isAncestorOf(QApplication::focusWidget())) << "where the hand works";
+  form.resize(1200, 620);
+  tests::grab(form, "frmLPGSaleBrief-month");
+  gridOf(form)->setActiveCell(3, 4);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(pageOf(form), 1);
+  EXPECT_EQ(box<QComboBox>(form, "CboMonth")->currentText(), "03월");
+  EXPECT_EQ(gridOf(form)->model().text(20, 1), "03-20");
+  tests::grab(form, "frmLPGSaleBrief-day");
+  gridOf(form)->setActiveCell(2, 1);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(commands.asked.last(), "frmSaleBrief:lines?TxtDayFrom=2026-03-02&TxtDayTo=2026-03-02");
+  tests::key(Qt::Key_Escape);
+  EXPECT_EQ(pageOf(form), 0);
+  EXPECT_EQ(gridOf(form)->activeRow(), 3);
+  EXPECT_EQ(gridOf(form)->activeCol(), 4);
+  gridOf(form)->setActiveCell(13, 1);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(pageOf(form), 0) << "behind the sum stands nothing";
+  tests::key(Qt::Key_Escape);
+  EXPECT_FALSE(form.isVisible()) << "nothing is left to go back to";
+}
+
+TEST_F(BriefWindow, APageTurnedByHandForgetsTheWayBack) {
+  BriefForm form(context, lpgSaleBrief());
+  tests::show(form);
+  tests::key(Qt::Key_F5);
+  gridOf(form)->setActiveCell(3, 1);
+  tests::key(Qt::Key_Return);
+  form.findChild<QTabBar*>()->setCurrentIndex(2);
+  box<QLineEdit>(form, "TxtName")->setText("하나");
+  box<QRadioButton>(form, "OptGubun1")->click();
+  tests::key(Qt::Key_F5);
+  EXPECT_EQ(gridOf(form)->model().text(1, 1), "김하나");
+  gridOf(form)->setActiveCell(1, 1);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(commands.asked.last(),
+            "frmAClientSaleBrief:lines?TxtClient=1&TxtDayFrom=2026-03-01&TxtDayTo=2026-03-31");
+  tests::grab(form, "frmLPGSaleBrief-client");
+  tests::key(Qt::Key_Escape);
+  EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(BriefWindow, OpensOnTheLinesItIsAskedFor) {
+  BriefForm form(context, clientSaleBrief());
+  form.showPage("lines?TxtClient=1&TxtDayFrom=2026-03-01&TxtDayTo=2026-03-31");
+  tests::show(form);
+  EXPECT_EQ(box<QLineEdit>(form, "TxtClient")->text(), "김하나");
+  EXPECT_EQ(gridOf(form)->model().MaxRows(), 11);
+  // Another customer, by search: Enter on what is not chosen yet.
+  box<QLineEdit>(form, "TxtClient")->setFocus();
+  box<QLineEdit>(form, "TxtClient")->setText("한빛");
+  pickers.client = ClientChoice{2, "한빛 101동 202호"};
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(pickers.asked, QStringList{"한빛"});
+  EXPECT_EQ(box<QLineEdit>(form, "TxtClient")->text(), "한빛 101동 202호");
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "TxtDayFrom");
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(gridOf(form)->model().MaxRows(), 11) << "Enter in the last box asks";
+  tests::grab(form, "frmAClientSaleBrief");
+}
+
+TEST_F(BriefWindow, AWrongDayIsToldAndTheCursorStandsInIt) {
+  BriefForm form(context, saleBrief());
+  tests::show(form);
+  box<QLineEdit>(form, "TxtDayTo")->setText("2026-02-30");
+  pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
+  tests::key(Qt::Key_F5);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "TxtDayTo");
+  EXPECT_FALSE(form.findChild<QPushButton*>("BtnPrt")) << "printed by F10 alone";
+  tests::key(Qt::Key_F10);
+  EXPECT_EQ(staged("Str01"), QStringList{""}) << "an empty grid is one blank row";
+  EXPECT_EQ(reports.asked.back().file, "전체판매현황.rpt");
+}
+
+TEST_F(BriefWindow, APersonIsChosenBySearchAndTakenAway) {
+  BriefForm form(context, resSaleBrief());
+  form.showPage("person");
+  tests::show(form);
+  auto* const person = box<QLineEdit>(form, "TxtResponse");
+  person->setFocus();
+  pickers.person = "두기사";
+  tests::key(Qt::Key_F12);
+  EXPECT_EQ(person->text(), "두기사");
+  tests::key(Qt::Key_F5);
+  EXPECT_EQ(gridOf(form)->model().MaxRows(), 11);
+  person->setFocus();
+  tests::key(Qt::Key_Delete);
+  EXPECT_EQ(person->text(), "");
+  form.showPage("total");
+  tests::key(Qt::Key_F5);
+  form.resize(1200, 620);
+  tests::grab(form, "frmResSaleBrief-total");
+  gridOf(form)->setActiveCell(2, 1);
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(pageOf(form), 1);
+  EXPECT_EQ(person->text(), "한기사");
+  tests::key(Qt::Key_Escape);
+  EXPECT_EQ(pageOf(form), 2);
+  EXPECT_EQ(gridOf(form)->activeRow(), 2);
+}
+
+TEST_F(BriefWindow, ThePictureIsHiddenForGoodAndGoesOnThePaperWhenTicked) {
+  {
+    BriefForm form(context, lpgSaleBrief());
+    tests::show(form);
+    tests::key(Qt::Key_F5);
+    auto* const pane = box<QWidget>(form, "ChartPane");
+    ASSERT_TRUE(pane && pane->isVisible());
+    tests::key(Qt::Key_F10);
+    EXPECT_TRUE(reports.asked.back().picture.isEmpty());
+    box<QCheckBox>(form, "ChkChart")->click();
+    tests::key(Qt::Key_F10);
+    const QImage chart = QImage::fromData(reports.asked.back().picture);
+    EXPECT_GT(chart.width(), 1000);
+    int coloured = 0;
+    for (int x = 0; x < chart.width(); x += 5)
+      for (int y = 0; y < chart.height(); y += 5)
+        coloured += chart.pixelColor(x, y) == QColor(0x2B, 0x5F, 0x9E);
+    EXPECT_GT(coloured, 100) << "bars in the program's colour";
+    if (const QString folder = qEnvironmentVariable("HAEON_PICTURES"); !folder.isEmpty())
+      chart.save(folder + "/chart.png");
+    tests::key(Qt::Key_F8);
+    EXPECT_FALSE(pane->isVisible());
+    tests::key(Qt::Key_F10);
+    EXPECT_TRUE(reports.asked.back().picture.isEmpty()) << "what is hidden is not printed";
+  }
+  BriefForm again(context, lpgSaleBrief());
+  tests::show(again);
+  EXPECT_FALSE(box<QWidget>(again, "ChartPane")->isVisible());
+  EXPECT_TRUE(box<QCheckBox>(again, "ChkChart")->isChecked());
+  again.findChild<QPushButton*>("BtnChart")->click();
+  EXPECT_TRUE(box<QWidget>(again, "ChartPane")->isVisible());
+}
+
+TEST_F(BriefWindow, EveryReportOpensAsksAndPrintsByKeys) {
+  run("Update Client Set GasInit = 90000, UtilInit = 4000 Where Code = 1");
+  sale({.day = "2026-03-05", .kind = 5, .pieces = 2});
+  sale({.day = "2026-03-06", .kind = 7, .pieces = 1, .income = 4000, .item = "밸브", .size = "15A"});
+  for (const auto brief : {lpgSaleBrief, resSaleBrief, resUtilBrief, trustBrief, utilTrustBrief, canLpgBrief,
+                           canCompanyBrief, canResBrief, utilClientBrief, saleBrief}) {
+    BriefForm form(context, brief());
+    SCOPED_TRACE(brief().form.toStdString());
+    tests::show(form);
+    for (int page = 0; page < int(brief().pages.size()); ++page) {
+      form.findChild<QTabBar*>()->setCurrentIndex(page);
+      tests::key(Qt::Key_F5);
+      ASSERT_TRUE(gridOf(form));
+      EXPECT_GT(gridOf(form)->model().MaxRows(), 1) << page;
+      tests::key(Qt::Key_F10);
+      EXPECT_EQ(reports.asked.back().file, brief().pages[size_t(page)].report);
+    }
+    tests::key(Qt::Key_Escape);
+    EXPECT_FALSE(form.isVisible());
+  }
+}
+
+TEST_F(BriefWindow, ALedgerAsksForItsDaysAlone) {
+  BriefForm form(context, saleLedgerBrief());
+  tests::show(form);
+  form.resize(form.sizeHint());
+  tests::grab(form, "frmPrtSale");
+  tests::key(Qt::Key_F10);
+  EXPECT_EQ(reports.asked.back().file, "salegas.rpt");
+  EXPECT_TRUE(reports.asked.back().selection.contains("'2026-03-31'"));
+  box<QLineEdit>(form, "TxtDayFrom")->setText("2026-04-01");
+  pc.prompts.expect("늦습니다");
+  tests::key(Qt::Key_F10);
+  EXPECT_EQ(reports.asked.size(), 1u);
+}
+
+}  // namespace

@@ -1,0 +1,146 @@
+// The selection formula: what is understood, what is refused, and the condition it becomes.
+#include "pc/selection_formula.h"
+
+#include "store/report_source.h"
+#include "store/report_staging.h"
+#include "store/year_file.h"
+#include "tests/support.h"
+
+namespace {
+
+pc::ReportTables saleTables() {
+  return {.first = "Sale", .joins = {{"Client", "Sale.ClientCode", "Client.Code"}}};
+}
+
+QString condition(const QString& formula) {
+  try {
+    return selectionCondition(formula, saleTables());
+  } catch (const pc::ReportError& error) {
+    return "!" + error.text.section('\n', 0, 0);
+  }
+}
+
+TEST(SelectionFormula, BecomesACondition) {
+  const struct {
+    const char *formula, *condition;
+  } cases[] = {
+      {"", ""},
+      {"   ", ""},
+      {"{Sale.SaleDate} >= '2026-01-01' And {Sale.SaleDate} <= '2026-03-31'",
+       "(Sale.SaleDate >= '2026-01-01' And Sale.SaleDate <= '2026-03-31')"},
+      {"{Sale.SaleGubun} <> 7 and {Sale.SaleGubun} <> 8 ", "(Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8)"},
+      {"{Sale.A}=1 or {Sale.B}=2 and {Sale.C}=3", "(Sale.A = 1 Or (Sale.B = 2 And Sale.C = 3))"},
+      {"({Sale.A}=1 OR {Sale.B}=2) AND NOT {Sale.C}<3.5",
+       "((Sale.A = 1 Or Sale.B = 2) And Not (Sale.C < 3.5))"},
+      {"Not Not ({Client.VolumeYesNo} = TRUE)", "Not (Not (Client.VolumeYesNo = True))"},
+      {"{Sale.Income} > -5", "Sale.Income > -5"},
+      {"{Client.Name} = 'O''Neil'' Or 1=1 --'", "Client.Name = 'O''Neil'' Or 1=1 --'"},
+      {"{Client.이름} = '가' And{Sale.A}=1", "(Client.이름 = '가' And Sale.A = 1)"}};
+  for (const auto& each : cases) EXPECT_EQ(condition(each.formula), QString(each.condition)) << each.formula;
+}
+
+TEST(SelectionFormula, AnythingElseIsRefused) {
+  for (const char* formula : {"{Sale.A}",
+                              "{Sale.A} =",
+                              "{Sale.A} = 'x",
+                              "{Sale.A} = x",
+                              "{Sale} = 1",
+                              "{.A} = 1",
+                              "Sale.A = 1",
+                              "{Sale.A} = 1 And",
+                              "And {Sale.A} = 1",
+                              "({Sale.A} = 1",
+                              "{Sale.A} = 1)",
+                              "{Sale.A} = 1 {Sale.B} = 2",
+                              "{Sale.A} = 1; Delete * From Sale",
+                              "{Sale.A; Drop} = 1",
+                              "{Sale.A]} = 1",
+                              "{Sale.A} == 1",
+                              "{Sale.A} Like '*'",
+                              "{Sale.A} = 1a",
+                              "{Sale.A} = 1.",
+                              "{Sale.A} = --1",
+                              "{Sale.A} = {Sale.B}",
+                              "Not",
+                              "()",
+                              "{Sale.A} = '1' 'x'",
+                              "{Buy.A} = 1",
+                              "{Sale.A} = 1 Andy {Sale.A} = 2"})
+    EXPECT_TRUE(condition(formula).startsWith("!선택 조건"))
+        << formula << " -> " << condition(formula).toStdString();
+  const QString deep = QString("(").repeated(30) + "{Sale.A} = 1" + QString(")").repeated(30);
+  EXPECT_EQ(condition(deep), "!선택 조건이 잘못되었습니다: 괄호가 너무 깊습니다");
+  EXPECT_TRUE(condition(QString("(").repeated(1000000)).startsWith("!"));
+  EXPECT_TRUE(condition(QString("Not ").repeated(1000000)).startsWith("!"));
+}
+
+struct LiveReport : testing::Test, tests::TestPc {
+  LiveReport() { openBooks(QDate(2026, 3, 31)); }
+  pc::ReportTable read(const QString& layout, const QString& selection, const QStringList& files = {}) {
+    return readLiveRows(session, pc::parseReportLayout(layout),
+                        {.file = {},
+                         .selection = selection,
+                         .liveFiles = files.isEmpty() ? QStringList{session.dbYear.path()} : files});
+  }
+  QString refused(const QString& layout) {
+    try {
+      pc::parseReportLayout(layout);
+    } catch (const pc::ReportError& error) {
+      return error.text;
+    }
+    return {};
+  }
+  const QString layout =
+      "table Sale\njoin Client Sale.ClientCode Client.Code\norder Sale.SaleDate\nvalue 금액 Sale.Income "
+      "Sale.Trust\nlabel Sale.SaleGubun 1 \"가스\"\ncolumn no \"번호\" 5\ncolumn Sale.SaleDate \"일자\" 10\n"
+      "column Client.Name \"고객\" 10\ncolumn Sale.SaleGubun \"구분\" 5\ncolumn 금액 \"금액\" 10 right "
+      "\"#,##0\" sum\n";
+};
+
+TEST_F(LiveReport, RowsComeFromTheTablesTheLayoutNames) {
+  session.dbYear.Execute(u"Insert Into Client(Code, Name, HouseStyle) Values(1, '김하나', 0)");
+  for (const char* line :
+       {"'2026-03-02', 1, 1, 100, 20", "'2026-03-01', 1, 7, 5, 0", "'2026-03-03', 9, 2, 1, 1"})
+    session.dbYear.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Income, Trust) Values(" +
+                           QString(line) + ")");
+  const auto texts = [](const pc::ReportTable& table) {
+    QStringList rows;
+    for (const auto& row : table.rows) {
+      QStringList cells;
+      for (const auto& value : row) cells << pc::plainText(value);
+      rows << cells.join('|');
+    }
+    return rows;
+  };
+  EXPECT_EQ(texts(read(layout, {})),
+            QStringList({"2026-03-01|김하나|7|5", "2026-03-02|김하나|가스|120", "2026-03-03||2|2"}));
+  EXPECT_EQ(texts(read(layout, "{Client.HouseStyle} = 0 And Not ({Sale.SaleGubun} = 7)")),
+            QStringList({"2026-03-02|김하나|가스|120"}));
+  EXPECT_THROW(read(layout, "{Sale.Nothing} = 1"), jet::Error);
+  EXPECT_THROW(read(layout, "{Sale.SaleDate} = 1"), jet::Error) << "a text against a number";
+  makeYearFile(session, "2025");
+  openYear(session, "2025")
+      .Execute(u"Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-12-31', 1, 1)");
+  EXPECT_EQ(texts(read(layout, {}, {openYear(session, "2025").path(), session.dbYear.path()})).size(), 4);
+}
+
+TEST_F(LiveReport, ALayoutNamesWhatItReads) {
+  EXPECT_EQ(refused(layout), "");
+  const struct {
+    const char *line, *why;
+  } wrong[] = {{"join Client Sale.ClientCode Client.Code\n", "table이 앞에 없습니다"},
+               {"table Sa;le\n", "쓸 수 없는 이름"},
+               {"table Sale\ntable Buy\n", "한 번만"},
+               {"table Sale\njoin Client Sale.ClientCode\n", "이을 칸이 빠졌습니다"},
+               {"table Sale\njoin Client Buy.ClientCode Client.Code\n", "'Buy' 테이블이 앞에 없습니다"},
+               {"table Sale\norder Sale.Sale Date\n", "모르는 낱말"},
+               {"table Sale\ncolumn Str01 \"이름\" 10\n", "쓸 수 없는 이름"},
+               {"table Sale\ncolumn Client.Name \"이름\" 10\n", "'Client' 테이블이 앞에 없습니다"},
+               {"table Sale\nvalue 합\n", "더할 칸이 빠졌습니다"},
+               {"table Sale\nlabel Sale.SaleGubun 1 가스\n", "따옴표 안의 글이 빠졌습니다"},
+               {"column Sale.SaleDate \"일자\" 10\n", "칸은 없습니다"}};
+  for (const auto& each : wrong)
+    EXPECT_TRUE(refused(each.line).contains(each.why)) << each.line << refused(each.line).toStdString();
+}
+
+}  // namespace
