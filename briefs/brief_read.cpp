@@ -2,6 +2,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <set>
 
 #include "briefs/brief_run.h"
 #include "store/data_access.h"
@@ -21,12 +22,14 @@ std::pair<int, int> askedYears(const BriefPage& page, const BriefAsk& ask) {
   return {first, last > 0 ? last : first};
 }
 
-int firstYearOnDisk(const Session& session, int otherwise) {
-  int first = otherwise;
+constexpr int yearsTold = 4;  ///< of those without a file, before "and others"
+
+/** Years with a file, the open one among them. */
+std::set<int> yearsThere(const Session& session) {
+  std::set<int> years{session.WorkYear.toInt()};
   for (const QString& file : yearFileNames(session, session.DbPath))
-    if (const int year = file.left(4).toInt(); year > 0 && file != yearTemplate())
-      first = std::min(first, year);
-  return first;
+    if (const int year = file.left(4).toInt(); year > 0 && file != yearTemplate()) years.insert(year);
+  return years;
 }
 
 void walkReached(Session& session, const BriefPage& page, const BriefAsk& ask, QStringList& missing,
@@ -37,7 +40,7 @@ void walkReached(Session& session, const BriefPage& page, const BriefAsk& ask, Q
   }
   auto [first, last] = askedYears(page, ask);
   const bool all = page.reach == BriefReach::UpTo;
-  if (all) first = firstYearOnDisk(session, first);
+  if (all) first = std::min(first, *yearsThere(session).begin());
   walkBriefYears(session, first, last, missing, work);
   if (all) missing.clear();  // the years are not asked for one by one
 }
@@ -127,15 +130,17 @@ void orderRows(const std::vector<int>& order, std::vector<BriefCells>& rows) {
 void walkBriefYears(Session& session, int first, int last, QStringList& missing,
                     const std::function<bool(const jet::Database&)>& work) {
   const int open = session.WorkYear.toInt();
-  if (open < first && !work(session.dbYear)) return;
-  for (int year = first; year <= last; ++year) {
+  const std::set<int> there = yearsThere(session);
+  for (int year = first; year <= last && missing.size() <= yearsTold; ++year)
+    if (!there.contains(year)) missing << QString::number(year);
+  for (const int year : there) {
+    if (year != open && (year < first || year > last)) continue;
     const jet::Database file = year == open ? session.dbYear : openYear(session, year);
     if (!file.isOpen())
       missing << QString::number(year);
     else if (!work(file))
       return;
   }
-  if (open > last) work(session.dbYear);
 }
 
 BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask) {
