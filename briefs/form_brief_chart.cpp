@@ -195,7 +195,7 @@ QByteArray BriefChartPane::picture() const {
   image.setDevicePixelRatio(paperScale);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing);
-  paper.render(&painter);
+  paper.render(&painter, QRectF(QPointF(), QSizeF(paperSize)), QRect(QPoint(), paperSize));
   painter.end();
   QByteArray png;
   QBuffer file(&png);
