@@ -83,7 +83,7 @@ bool Compressor::backUp(Series series, bool toServer, bool quiet) {
     const QString folder = dataFolderToPack(pc_);
     finishSwap(pc_.paths, folder);
     auto held = awaitFolder();
-    run(title,
+    run(u"백업 중"_s,
         [&](const Tell& tell) { done = makeBackup(pc_, folder, settings, series, std::move(held), tell); });
   });
   if (!made) return false;
@@ -133,7 +133,7 @@ bool Compressor::restore(const QString& archive) {
   const bool done = guarded(title, [&] {
     // Held from before the unpacking: nobody works on books that are about to be put aside.
     auto held = awaitFolder();
-    run(title, [&](const Tell& tell) { prepareRestore(pc_, folder, archive, facts, tell); });
+    run(u"되돌리는 중"_s, [&](const Tell& tell) { prepareRestore(pc_, folder, archive, facts, tell); });
     kept = finishRestore(pc_, folder, std::move(held));
   });
   if (!done) return false;

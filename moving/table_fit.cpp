@@ -181,18 +181,20 @@ void compare(const jet::Database& file, const FittedTable& fitted) {
 FittedTable fit(const jet::TableDef& ours, const OldTable& old, const std::vector<OldRow>& rows) {
   FittedTable fitted{ours, {}, {}, {}, {}};
   QSet<int> known;
+  QStringList missing;
   for (jet::Field& field : fitted.table.fields) {
     int column = -1;
     for (size_t at = 0; at < old.columns.size(); ++at)
       if (old.columns[at].name.compare(field.name, Qt::CaseInsensitive) == 0) column = int(at);
     fitted.from.push_back(column);
     if (column < 0) {
-      fitted.notes << u"%1: 이전 파일에 없는 칸, 처음 값으로 둠"_s.arg(field.name);
+      missing << field.name;
       continue;
     }
     known << column;
     widen(field, rows, column, fitted.notes);
   }
+  if (!missing.isEmpty()) fitted.notes << u"이전 파일에 없어 처음 값으로 둔 칸: "_s + missing.join(u", "_s);
   std::vector<QStringList> misfits(fitted.table.fields.size());
   for (const OldRow& row : rows) {
     std::vector<jet::Value> values(fitted.table.fields.size());

@@ -72,7 +72,7 @@ void Stage::startProgram() {
 
 bool Stage::programRuns() const {
   program_->waitForFinished(0);
-  return program_->state() == QProcess::Running;
+  return goesOn_ || program_->state() == QProcess::Running;
 }
 
 int Stage::awaitEnd() {

@@ -31,6 +31,8 @@ class Stage {
   bool programRuns() const;
   /** Waits until the program has ended by itself; its exit status. */
   int awaitEnd();
+  /** From now on the keys go to what the program has started before its end; that one's end is not watched. */
+  void goOnWithCompanion() { goesOn_ = true; }
 
   /** Keys by their names ("Return", "Down", "alt+l") to the window in front, each when the one before is done with. */
   void keys(const QStringList& names);
@@ -62,6 +64,7 @@ class Stage {
   std::unique_ptr<QProcess> display_, manager_, program_;
   std::unique_ptr<Display> screen_;
   quint32 lastToken_ = 0;
+  bool goesOn_ = false;
   int unit_ = -1, unitFarEnd_ = -1;  // the pseudo-terminal's two ends
 };
 

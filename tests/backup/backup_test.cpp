@@ -85,6 +85,7 @@ struct BackupTest : testing::Test, TestPc {
         .OpenRecordset(u"Select Name From Client"_s)[0]
         .toText();
   }
+  static QString nameOf(const backup::BackupDone& done) { return done.archive.section(u'\\', -1); }
   QStringList shelf() const {
     return QDir(native(settings.folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
   }
@@ -105,15 +106,17 @@ TEST_F(BackupTest, WhatIsPackedComesBackByteByByteAndTheOldBooksStay) {
   const auto before = books();
   const backup::BackupDone done = make();
   EXPECT_EQ(books(), before);
-  EXPECT_EQ(done.archive, "C:\\RWGas\\BackUp\\해온판매-20260316-090000.zip");
-  EXPECT_EQ(shelf(), QStringList{"해온판매-20260316-090000.zip"});
+  EXPECT_EQ(done.archive, settings.folder + backup::archiveName(Series::Books, done.facts.made));
+  EXPECT_EQ(shelf(), QStringList{nameOf(done)});
+  EXPECT_TRUE(nameOf(done).startsWith(u"해온판매-20260316-09"_s)) << "the program's clock";
   EXPECT_EQ(done.facts.files.size(), before.size());
   changeBooks(u"박가네"_s);
   const auto changed = books();
-  EXPECT_EQ(restore(done.archive), "C:\\RWGas\\Dbs-이전-20260316-090000");
+  const QString kept = restore(done.archive);
+  EXPECT_TRUE(kept.startsWith(u"C:\\RWGas\\Dbs-이전-20260316-09"_s)) << kept.toStdString();
   EXPECT_EQ(books(), before);
   EXPECT_EQ(clientName(), "김가네");
-  EXPECT_EQ(contents(native(u"C:\\RWGas\\Dbs-이전-20260316-090000"_s)), changed);
+  EXPECT_EQ(contents(native(kept)), changed);
   EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
 }
 
@@ -121,18 +124,20 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
   QStringList made;
   for (int minute = 0; minute < 4; ++minute) {
     pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(10, minute)));
-    made << make().archive;
+    made << nameOf(make());
   }
   write(settings.folder + u"해온판매-내것.zip"_s, "mine");
-  made << make().archive;
-  EXPECT_EQ(made.last(), "C:\\RWGas\\BackUp\\해온판매-20260316-100301.zip");
-  make(Series::Support);
-  EXPECT_EQ(shelf(), (QStringList{"해온판매-20260316-100200.zip", "해온판매-20260316-100300.zip",
-                                  "해온판매-20260316-100301.zip", "해온판매-AS-20260316-100300.zip",
-                                  "해온판매-내것.zip"}));
+  const backup::ArchiveFacts last = backup::verify(native(settings.folder + made.last()), nobody);
+  pc.clock.set(last.made);
+  const backup::BackupDone second = make();
+  EXPECT_GT(second.facts.made, last.made);
+  made << nameOf(second);
+  const QString support = nameOf(make(Series::Support));
+  EXPECT_TRUE(support.startsWith(u"해온판매-AS-20260316-10"_s)) << support.toStdString();
+  EXPECT_EQ(shelf(), (QStringList{made[2], made[3], made[4], support, u"해온판매-내것.zip"_s}));
   const auto listed = backup::archivesOf(pc.paths, settings);
   ASSERT_EQ(listed.size(), 3);
-  EXPECT_EQ(listed.first().path, made.last());
+  EXPECT_EQ(listed.first().path, second.archive);
 }
 
 TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {
@@ -151,7 +156,7 @@ TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {
 }
 
 TEST_F(BackupTest, ADamagedDataFileEndsTheBackupButNotTheOneForSupport) {
-  make();
+  const QString good = nameOf(make());
   QFile file(native(dataFolder + u"dbTax.mdb"_s));
   ASSERT_TRUE(file.open(QIODevice::ReadWrite));
   file.seek(4096);
@@ -162,7 +167,7 @@ TEST_F(BackupTest, ADamagedDataFileEndsTheBackupButNotTheOneForSupport) {
   const auto [number, text] = failureOf([&] { make(); });
   EXPECT_EQ(number, 3049);
   EXPECT_TRUE(text.contains(u"dbTax.mdb"_s)) << text.toStdString();
-  EXPECT_EQ(shelf(), QStringList{"해온판매-20260316-090000.zip"});
+  EXPECT_EQ(shelf(), QStringList{good});
   const backup::BackupDone support = make(Series::Support);
   EXPECT_THAT(support.damaged, testing::Contains(u"dbTax.mdb"_s));
   EXPECT_EQ(books(), before);
@@ -218,6 +223,19 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
     makeZip(wrong, {{name, "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 " + name + '\n'}});
     EXPECT_EQ(refused(), 321) << name;
   }
+  // A list that tells of other bytes, of more, of fewer files.
+  const QByteArray other = QCryptographicHash::hash("y", QCryptographicHash::Sha256).toHex();
+  const auto listed = [](const QByteArray& hash, const char* size) {
+    return "haeon backup 1\nfile " + hash + ' ' + size + " Basic.mdb\n";
+  };
+  makeZip(wrong, {{"Basic.mdb", "x"}, {"haeon-backup.txt", listed(other, "1")}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"Basic.mdb", "x"}, {"haeon-backup.txt", listed(sum, "2")}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"Basic.mdb", "x"}, {"more.mdb", "y"}, {"haeon-backup.txt", listed(sum, "1")}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"haeon-backup.txt", listed(sum, "1")}});
+  EXPECT_EQ(refused(), 321);
   makeZip(wrong,
           {{"dbTax.mdb", "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 dbTax.mdb\n"}});
   const auto [number, text] = failureOf([&] { restore(u"C:\\RWGas\\wrong.zip"_s); });
@@ -247,6 +265,7 @@ TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
     const SmallFiles full(room);
     EXPECT_EQ(failureOf([&] { make(); }).first, 61);
     EXPECT_EQ(failureOf([&] { restore(archive); }).first, 61);
+    EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
   }
   int told = 0;
   const int steps = [&] {
@@ -254,7 +273,7 @@ TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
     return told;
   }();
   ASSERT_GT(steps, 20);
-  QFile::remove(native(settings.folder) + u"/해온판매-AS-20260316-110000.zip"_s);
+  for (const QString& name : shelf().filter(u"-AS-"_s)) QFile::remove(native(settings.folder) + u'/' + name);
   for (int stop = 1; stop <= steps; stop += 5) {
     told = 0;
     EXPECT_THROW(make(Series::Books, [&](const QString&, qint64, qint64) { return ++told < stop; }),
@@ -265,16 +284,46 @@ TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
   EXPECT_EQ(books(), before);
 }
 
+TEST_F(BackupTest, EveryStepIsDoneBeforeTheArchiveHasItsNameAndTheFilesAreFreeAfterTheCopy) {
+  QStringList steps;
+  bool free = true;
+  make(Series::Books, [&](const QString& what, qint64, qint64) {
+    const QString step = what.section(u':', 0, 0);
+    if (steps.isEmpty() || steps.last() != step) steps << step;
+    EXPECT_TRUE(shelf().filter(u"해온판매"_s).isEmpty()) << what.toStdString();
+    if (step != u"복사") {
+      jet::Workspace::Options impatient;
+      impatient.busyMilliseconds = 1;
+      free &= failureOf([&] {
+                jet::Workspace(impatient).OpenDatabase(native(dataFolder + u"Basic.mdb"_s));
+              }).first == 0;
+    }
+    return true;
+  });
+  EXPECT_EQ(steps, (QStringList{u"복사"_s, u"자료 검사"_s, u"압축"_s, u"확인"_s}));
+  EXPECT_TRUE(free) << "other PCs wait for the copy alone";
+}
+
+TEST_F(BackupTest, AnArchiveThatChangedSinceItWasLookedAtIsNotPutBack) {
+  const QString archive = native(make().archive);
+  backup::ArchiveFacts facts = backup::verify(archive, nobody);
+  facts.files.first().sum = QByteArray(64, '0');
+  const QString place = folder.path() + u"/fresh"_s;
+  EXPECT_EQ(failureOf([&] { backup::unpack(archive, facts, place, nobody); }).first, 321);
+}
+
 TEST_F(BackupTest, TheServersCopyIsReadBackAndItsCommandMustEndWell) {
   settings.serverFolder = u"Z:\\백업\\"_s;
   QDir().mkpath(folder.path() + u"/z"_s);
-  const QString archive = make().archive, sent = folder.path() + u"/sent.zip"_s;
+  const backup::BackupDone done = make();
+  const QString archive = done.archive, copy = settings.serverFolder + nameOf(done),
+                sent = folder.path() + u"/sent.zip"_s;
   settings.serverCommand = u"cp %1 "_s + sent;
   backup::sendToServer(pc, archive, settings, nobody);
-  EXPECT_EQ(bytesOf(native(u"Z:\\백업\\해온판매-20260316-090000.zip"_s)), bytesOf(native(archive)));
+  EXPECT_EQ(bytesOf(native(copy)), bytesOf(native(archive)));
   EXPECT_EQ(bytesOf(sent), bytesOf(native(archive)));
   settings.serverCommand = u"sh -c \"echo 연결 실패; exit 3\" %1"_s;
-  QFile::remove(native(u"Z:\\백업\\해온판매-20260316-090000.zip"_s));
+  QFile::remove(native(copy));
   const auto [number, text] = failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); });
   EXPECT_EQ(number, 75);
   EXPECT_TRUE(text.contains(u"연결 실패"_s)) << text.toStdString();
@@ -306,7 +355,9 @@ TEST_F(BackupTest, ABrokenOffSwapIsFinishedAndNeverThrowsBooksAway) {
   write(preparedFolder(dataFolder) + u"\\Basic.mdb"_s, "old books");
   EXPECT_FALSE(finishSwap(paths, dataFolder)) << "the books are there";
   beginPreparing(paths, dataFolder, pc.clock.now());
-  EXPECT_EQ(bytesOf(native(u"C:\\RWGas\\Dbs-이전-20260316-090000"_s) + u"/Basic.mdb"_s), "old books");
+  const QStringList kept = QDir(native(u"C:\\RWGas"_s)).entryList({u"Dbs-이전-20260316-*"_s}, QDir::Dirs);
+  ASSERT_EQ(kept.size(), 1);
+  EXPECT_EQ(bytesOf(native(u"C:\\RWGas\\"_s + kept.first()) + u"/Basic.mdb"_s), "old books");
   dropPrepared(paths, dataFolder);
   // Killed between two renamings.
   QDir().rename(native(dataFolder), native(preparedFolder(dataFolder)));

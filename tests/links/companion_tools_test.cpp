@@ -147,7 +147,11 @@ TEST_F(CompanionTools, AFailureInTheMiddleLeavesTheOldFileAndTheNextStartGoesOnW
   EXPECT_FALSE(stands(u"OLDdbCashbook.mdb"_s));
   {
     const jet::Workspace workspace{jet::Workspace::Options{}};
-    open(workspace, u"dbCashbook.mdb"_s).createTable(schema::table(schema::File::Cashbook, u"cashbook"_s));
+    const jet::Database book = open(workspace, u"dbCashbook.mdb"_s);
+    book.createTable(schema::table(schema::File::Cashbook, u"cashbook"_s));
+    // Copied before the power went.
+    book.Execute(
+        u"Insert Into cashbook(code, sDate, AcntName, detail, income, outlay) Values(1, '2005-03-01', '매출', '외상', 5000, 0)"_s);
   }
   prompts.expect(u"현금출납장 DB가 업데이트 되었습니다."_s);
   prompts.expect(u"업그레이드가 완료 되었습니다."_s);

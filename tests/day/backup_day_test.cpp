@@ -1,0 +1,68 @@
+// A backup and its way back by keys on the real window: the program ends, the data compressor does its work beside it.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <stdexcept>
+
+#include "backup/archive.h"
+#include "samples/entrance.h"
+#include "tests/day/sample_folder.h"
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct BackupDay : testing::Test, tests::SampleFolder {
+  const QString data = u"C:\\RWGas\\Dbs"_s;
+
+  QString native(const QString& written) const { return pc::Paths(root.path()).native(written); }
+  QStringList archives() const {
+    return QDir(native(u"C:\\RWGas\\BackUp"_s)).entryList({u"해온판매-*.zip"_s}, QDir::Files);
+  }
+};
+
+TEST_F(BackupDay, TheBooksGoToAnArchiveAndComeBackByKeys) {
+  try {
+    {
+      samples::Stage stage(options());
+      stage.startProgram();
+      samples::signIn(stage);
+      stage.keys({u"alt+b"_s, u"b"_s});
+      stage.awaitWindow(u"데이터 백업(하드)"_s);
+      stage.keys({u"Return"_s});
+      EXPECT_EQ(stage.awaitEnd(), 0);
+      stage.goOnWithCompanion();
+      stage.awaitWindow(u"데이터 압축"_s);
+      stage.keys({u"space"_s});
+      stage.awaitWindow(u"데이터 백업"_s);
+      ASSERT_EQ(archives().size(), 1);
+      EXPECT_NO_THROW(backup::verify(native(u"C:\\RWGas\\BackUp"_s) + u'/' + archives().first(), {}));
+      stage.keys({u"Return"_s});
+      stage.awaitWindow(u"데이터 압축"_s);
+      stage.keys({u"alt+x"_s});
+    }
+    samples::Stage stage(options());
+    const QString before =
+        stage.query(u"Basic.mdb"_s, u"Select Count(*), Sum(GasInit) From Client"_s).join(u' ');
+    stage.query(u"Basic.mdb"_s, u"Update Client Set GasInit = 0"_s);
+    stage.startProgram();
+    samples::signIn(stage);
+    stage.keys({u"alt+b"_s, u"d"_s});
+    stage.awaitWindow(u"데이터 내려받기"_s);
+    stage.keys({u"Return"_s});
+    EXPECT_EQ(stage.awaitEnd(), 0);
+    stage.goOnWithCompanion();
+    stage.awaitWindow(u"데이터 압축"_s);
+    stage.keys({u"Return"_s});  // the cursor is on the newest
+    stage.awaitWindow(u"데이터 내려받기"_s);
+    EXPECT_NE(stage.query(u"Basic.mdb"_s, u"Select Count(*), Sum(GasInit) From Client"_s).join(u' '), before);
+    stage.keys({u"Left"_s, u"Return"_s});  // it stands on no
+    stage.awaitFile(native(data) + u"/Basic.mdb"_s);
+    stage.awaitRow(u"Basic.mdb"_s, u"Select Count(*), Sum(GasInit) From Client"_s, before);
+    EXPECT_EQ(QDir(native(u"C:\\RWGas"_s)).entryList({u"Dbs-이전-*"_s}, QDir::Dirs).size(), 1);
+  } catch (const std::runtime_error& failure) {
+    ADD_FAILURE() << failure.what();
+  }
+}
+
+}  // namespace
