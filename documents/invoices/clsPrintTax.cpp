@@ -34,7 +34,7 @@ QString tax_serial::shown(const QString& code) {
 
 QString taxStation(const QDate& today) {
   static const QString station = today.toString(Qt::ISODate) + ' ' +
-                                 QSysInfo::machineHostName().remove('\'').left(30) + ' ' +
+                                 QSysInfo::machineHostName().remove(QChar(0x27)).left(30) + ' ' +
                                  QString::number(QCoreApplication::applicationPid());
   return station;
 }

@@ -94,7 +94,7 @@ TaxIssuer::Claim TaxIssuer::claim(const jet::Database& year, const TaxInvoice& i
   if (now["SItem"].toLong() != line.Item || now["SSum"].toLong() - now["SumDC"].toLong() != line.SumKum)
     return Claim::Moved;
   if (!fileInvoice(invoice, section)) return Claim::Refused;
-  const bool named = line.Item == 1 && !line.PName.contains('\'');
+  const bool named = line.Item == 1 && !line.PName.contains(QChar(0x27));
   year.Execute("update sale set SaleList = 1 where " + free +
                (named ? " AND  salename = '" + plainText(line.PName) + "'" : QString()));
   return Claim::Got;

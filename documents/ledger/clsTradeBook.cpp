@@ -63,7 +63,7 @@ std::optional<qint64> clsTradeBook::PeriodBalance(const QString& code, const QSt
   const auto dealt =
       open("SELECT Sum(SumKum) AS SSum, Sum(InOutKum) AS SInOut FROM " + table() + " WHERE CCode = '" +
            plainText(code) + "' AND DealDate BETWEEN '" + plainText(year) + "-01-01' AND '" +
-           first.addDays(-1).toString(Qt::ISODate) + "' AND NOT DealDate LIKE '*-00';");
+           plainText(first.addDays(-1).toString(Qt::ISODate)) + "' AND NOT DealDate LIKE '*-00';");
   if (!dealt) return {};
   return broughtIn + (*dealt)["SSum"].toLong() - (*dealt)["SInOut"].toLong();
 }

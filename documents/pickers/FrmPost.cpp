@@ -12,7 +12,7 @@ std::optional<PostCodeChoice> FrmPost(Session& session, const QString& text, QWi
   PickerDialog dialog("FrmPost", "우편번호 검색", session, posts.list(), "SpPost", parent);
   dialog.grid()->setFillColumn(2);
   const auto search = [&](const QString& typed) {
-    if (!posts.search(typed)) session.prompts.MsgInfo("'" + typed + "' 가 없습니다.");
+    if (!posts.search(typed)) session.prompts.MsgInfo(QString("'%1' 가 없습니다.").arg(typed));
     dialog.showFound();
   };
   QLineEdit* const box =

@@ -15,18 +15,21 @@ TraderSearch::TraderSearch(Session& session) : session_(session) {
 }
 
 int TraderSearch::search(QString text) {
-  for (const char each : {'\'', '\\', ']'}) text.remove(each);
+  for (const char16_t each : {u'\x27', u'\\', u']'}) text.remove(QChar(each));
   // A bracket would begin a list of characters that never ends.
-  const QString pattern = plainText(QString(text).replace("[", "[[]"));
+  const QString pattern = QString(text).replace("[", "[[]");
   QString sql = "SELECT (bdname & dong & '동' & ho & '호') as U_Name, Name, tel, Address, Code FROM Client ";
   if (text.isEmpty()) {
     sql += "ORDER BY name;";
   } else if (text[0].isDigit()) {
-    sql += "where (tel LIKE '*" + pattern + "*' OR Address LIKE '*" + pattern + "*') ORDER BY Name;";
+    sql += "where (tel LIKE '*" + plainText(pattern) + "*' OR Address LIKE '*" + plainText(pattern) +
+           "*') ORDER BY Name;";
   } else if (text[0] > 'A' && text[0] < 'Z') {
-    sql += "where (name LIKE '" + pattern + "*' OR Address LIKE '" + pattern + "*') ORDER BY Name;";
+    sql += "where (name LIKE '" + plainText(pattern) + "*' OR Address LIKE '" + plainText(pattern) +
+           "*') ORDER BY Name;";
   } else {
-    sql += "where (Name LIKE '*" + pattern + "*' OR Address LIKE '*" + pattern + "*') ORDER BY Name;";
+    sql += "where (Name LIKE '*" + plainText(pattern) + "*' OR Address LIKE '*" + plainText(pattern) +
+           "*') ORDER BY Name;";
   }
   std::vector<std::vector<QString>> rows;
   jet::Recordset found;

@@ -51,7 +51,6 @@ void writeDealHistory(Session& session, const jet::Database& history,
                       const std::vector<DealStatement>& statements) {
   if (!history.isOpen()) return;
   bool all = true;
-  const auto text = [](const QString& value, int size) { return copiedText(value.left(size)); };
   history.Together([&] {
     for (const DealStatement& statement : statements)
       for (const DealLine& line : statement.lines)
@@ -60,9 +59,10 @@ void writeDealHistory(Session& session, const jet::Database& history,
               "INSERT INTO DealList(DealDate, CCode, CName, PName, PNorm, Quant, UnitCost, SaleKum, "
               "SaleSeq) VALUES('" +
               copiedText(line.date) + "', '" + copiedText(statement.clientCode) + "', '" +
-              text(statement.clientName, 40) + "', '" + text(line.item, 40) + "', '" + text(line.norm, 20) +
-              "', " + QString::number(line.quantity) + ", " + QString::number(line.price) + ", " +
-              QString::number(line.amount) + ", '" + copiedText(line.saleId) + "')");
+              copiedText(statement.clientName.left(40)) + "', '" + copiedText(line.item.left(40)) + "', '" +
+              copiedText(line.norm.left(20)) + "', " + QString::number(line.quantity) + ", " +
+              QString::number(line.price) + ", " + QString::number(line.amount) + ", '" +
+              copiedText(line.saleId) + "')");
         });
   });
   if (!all) session.prompts.MsgWarn("거래명세서 내역을 저장하는 중 오류가 발생했습니다.");

@@ -72,9 +72,9 @@ void DealSearch::leaveCollectionsOut(const QDate& from, const QDate& to) {
 
 void DealSearch::readHistory(const QDate& from, const QDate& to) {
   if (!history_.isOpen()) return;
-  for (auto rows =
-           history_.OpenRecordset("SELECT DealDate, CCode, SaleSeq FROM DealList WHERE DealDate BETWEEN '" +
-                                  from.toString(Qt::ISODate) + "' AND '" + to.toString(Qt::ISODate) + "'");
+  for (auto rows = history_.OpenRecordset(
+           "SELECT DealDate, CCode, SaleSeq FROM DealList WHERE DealDate BETWEEN '" +
+           plainText(from.toString(Qt::ISODate)) + "' AND '" + plainText(to.toString(Qt::ISODate)) + "'");
        !rows.atEnd(); rows.MoveNext())
     written_ << historyKey(rows[0].toText(), rows[1].toText(), rows[2].toText());
 }
@@ -86,8 +86,8 @@ void DealSearch::list(const jet::Database& year, const QString& from, const QStr
       "TCName, Sale.salename AS SPName, Sale.SaleThing AS SPNorm, Sale.SaleNum AS SQuant, Sale.SaleUnit AS "
       "SCost, Sale.SaleNum * Sale.SaleUnit AS SSum, Sale.DC as SDC, Sale.saleid AS SCode FROM Sale RIGHT "
       "JOIN Client ON Sale.ClientCode = Client.Code WHERE Sale.SaleDate BETWEEN '" +
-      plainText(from) + "' AND '" + plainText(to) +
-      (pending ? "' and deallist = 0 " : "' and deallist < 2 and deallist <> 0 ");
+      plainText(from) + "' AND '" + plainText(to) + "'";
+  sql += pending ? " and deallist = 0 " : " and deallist < 2 and deallist <> 0 ";
   if (!ask.clientCode.isEmpty()) sql += "AND Sale.ClientCode = " + plainNumber(ask.clientCode);
   if (!ask.facility) sql += " AND Sale.salegubun <> 7 ";
   sql += " ORDER BY Sale.SaleDate, Sale.saleID;";

@@ -18,6 +18,7 @@
 #include "papers/paper_printer.h"
 #include "tests/idle_context.h"
 #include "tests/recorded_print.h"
+#include "tests/support.h"
 #include "tests/ui/grab.h"
 #include "tests/ui/modal.h"
 
