@@ -72,10 +72,10 @@ TEST(SampleMonth, ReadingsBecomeSlipsTheBanksFileAndTheNextMonthsArrears) {
   const QString scanned = QString(slips).remove(u' ');
   EXPECT_TRUE(scanned.contains("<0000000++34++809405<<11<")) << "the line that the bank's reader takes";
 
-  const QString statements = pdfText(root.filePath("거래명세표.pdf"));
+  const QString statements = pdfText(books.root.filePath("거래명세표.pdf"));
   EXPECT_EQ(statements.count(u'\f'), samples::statementsIssued) << "a sheet each";
   EXPECT_EQ(statements.count("(공급받는자 보관용)"), samples::statementsIssued);
-  const QString invoices = pdfText(root.filePath("세금계산서.pdf"));
+  const QString invoices = pdfText(books.root.filePath("세금계산서.pdf"));
   EXPECT_GT(month.invoices, 100);
   EXPECT_EQ(invoices.count(u'\f'), month.invoices);
   EXPECT_TRUE(invoices.contains("2603-001"));
