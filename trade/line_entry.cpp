@@ -249,7 +249,8 @@ LineStep LineEntry::enterKey(int row, int col, const QString& typed) {
     case LineCol::Paid:
     case LineCol::Trust:
       // The line is right as it stands, with the person it offers: nothing is left to stop for.
-      if (const QString person = grid().offer(row, LineCol::Person); !person.isEmpty())
+      if (const QString person = grid().offer(row, LineCol::Person);
+          !person.isEmpty() && hand_.next[size_t(col - 1)] == LineCol::Person)
         return takePerson(row, person);
       break;
     case LineCol::Person:

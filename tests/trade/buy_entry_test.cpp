@@ -76,7 +76,9 @@ TEST(BuyEntry, AChosenStationShowsItsLinesAndEscShowsAll) {
 
 TEST(BuyEntry, ANewLineOffersTheStationsLastItemOfTheKind) {
   Buy buy;
+  buy.pc.session.dbBasic.Execute(QString("Insert Into Response(Name) Values('홍길동')"));
   buy.bought("한강", 2, 30000);
+  buy.run("Update Buy Set Response = '홍길동'");
   buy.pickers.refills.push_back("한강");
   const int row = buy.entry.enterKey(buy.cells().MaxRows(), LineCol::Partner, {}).row;
   EXPECT_EQ(buy.cells().offer(row, LineCol::Item), "LPG / 20");
@@ -84,6 +86,11 @@ TEST(BuyEntry, ANewLineOffersTheStationsLastItemOfTheKind) {
   buy.entry.enterKey(row, LineCol::Kind, "가스");
   EXPECT_EQ(buy.entry.enterKey(row, LineCol::Item, {}).col, LineCol::Number);
   EXPECT_EQ(buy.cell(row, LineCol::Paid), "30000");
+  EXPECT_EQ(buy.entry.enterKey(row, LineCol::Amount, "30000").col, LineCol::Paid)
+      << "what is paid is asked for";
+  EXPECT_EQ(buy.entry.enterKey(row, LineCol::Paid, "30000").col, LineCol::Partner)
+      << "with the person it offers";
+  EXPECT_TRUE(buy.line().endsWith("|홍길동"));
 }
 
 TEST(BuyEntry, MaterialsOpenWithTheirOwnKind) {
