@@ -3,6 +3,7 @@
 #include "pc/reports.h"
 #include "store/data_access.h"
 #include "store/report_staging.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 

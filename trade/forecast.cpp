@@ -12,6 +12,7 @@
 #include "store/jet/text_rules.h"
 #include "store/report_staging.h"
 #include "store/year_file.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,25 +27,17 @@ constexpr int deliveredPaper = 0xFFDFE2, expectedPaper = 0xFCFFD0, reservedPaper
 
 std::vector<SpreadColumn> forecastColumns() {
   const auto day = [](const QString& header, const QString& group, int paper) {
-    return SpreadColumn{.header = header,
-                        .group = group,
-                        .width = 7,
-                        .align = CellAlign::Center,
-                        .locked = true,
-                        .background = paper};
+    return column::grouped(group, column::coloured(paper, column::centred(header, 7)));
   };
   const QString delivered = u"배달일자"_s, expected = u"예상"_s;
-  std::vector<SpreadColumn> columns = {{.header = u"고객명/상호"_s, .width = 22, .locked = true},
-                                       {.header = u"전화번호"_s, .width = 14, .locked = true}};
+  std::vector<SpreadColumn> columns = {column::text(u"고객명/상호"_s, 22), column::text(u"전화번호"_s, 14)};
   for (int at = 1; at <= lastDeliveries; ++at)
     columns.push_back(day(QString::number(at) + u"차"_s, delivered, deliveredPaper));
-  columns.push_back(day(u"최근"_s, expected, expectedPaper));
-  columns.push_back(day(u"예상"_s, expected, expectedPaper));
-  columns.push_back(day(u"평균"_s, expected, expectedPaper));
-  columns.push_back(day(u"예약"_s, {}, reservedPaper));
-  columns.back().locked = false;
-  columns.back().maxLength = 10;
-  columns.push_back({.header = u"코드"_s, .hidden = true});
+  for (const QString& header : {u"최근"_s, u"예상"_s, u"평균"_s})
+    columns.push_back(day(header, expected, expectedPaper));
+  columns = column::shown(std::move(columns));
+  columns.push_back(column::limited(10, day(u"예약"_s, {}, reservedPaper)));
+  columns.push_back(column::hidden(u"코드"_s));
   return columns;
 }
 

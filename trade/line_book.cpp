@@ -5,29 +5,27 @@
 #include "store/jet/error.h"
 #include "store/jet/sql.h"
 #include "store/text_width.h"
+#include "ui/model/column.h"
 
 std::vector<SpreadColumn> lineColumns(const LineKinds& kinds, const QStringList& headers) {
-  const auto money = [](double width) {
-    return SpreadColumn{.width = width, .kind = CellKind::Money, .align = CellAlign::Right, .maxLength = 12};
+  constexpr int digits = 12;  // of an amount
+  const auto header = [&headers](int col) { return headers.value(col - 1); };
+  const auto money = [&header](int col, double width) {
+    return column::limited(digits, column::money(header(col), width));
   };
-  std::vector<SpreadColumn> columns = {
-      {.width = 6, .kind = CellKind::MonthDay, .align = CellAlign::Center, .maxLength = 10},
-      {.width = 22},
-      {.width = 7, .kind = CellKind::Combo, .align = CellAlign::Center, .combo = labelsOf(kinds)},
-      {.width = 18},
-      {.width = 5, .kind = CellKind::Integer, .align = CellAlign::Right, .maxLength = 6},
-      money(10),
-      money(9),
-      money(10),
-      money(10),
-      money(10),
-      {.width = 9, .align = CellAlign::Center, .maxLength = 20},
-      {.hidden = true},
-      {.hidden = true},
-  };
-  columns[LineCol::Trust - 1].locked = true;
-  for (size_t at = 0; at < columns.size(); ++at) columns[at].header = headers.value(qsizetype(at));
-  return columns;
+  return {column::limited(10, column::monthDay(header(LineCol::Date), 6)),
+          column::text(header(LineCol::Partner), 22),
+          column::choice(header(LineCol::Kind), 7, labelsOf(kinds)),
+          column::text(header(LineCol::Item), 18),
+          column::limited(6, column::integer(header(LineCol::Number), 5)),
+          money(LineCol::Unit, 10),
+          money(LineCol::Discount, 9),
+          money(LineCol::Amount, 10),
+          money(LineCol::Paid, 10),
+          column::locked(money(LineCol::Trust, 10)),
+          column::limited(20, column::centred(header(LineCol::Person), 9)),
+          column::hidden(header(LineCol::Key)),
+          column::hidden(header(LineCol::Code))};
 }
 
 LineBook::LineBook(Session& session, LineTable table)

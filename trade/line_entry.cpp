@@ -1,6 +1,7 @@
 #include "trade/line_entry.h"
 
 #include "trade/line_items.h"
+#include "ui/model/row_backup.h"
 
 namespace {
 
@@ -15,25 +16,29 @@ bool isLineFigure(int col) {
  *  write on whatever line gets that number. */
 class LineRowBefore {
  public:
-  LineRowBefore(LineBook& book, int row) : book_(book), grid_(book.grid()), row_(row) {
-    for (int col = LineCol::Date; col <= LineCol::Code; ++col) cells_ << grid_.text(row, col);
-    known_ = book.known(row);
-  }
-  void putBack() const {
-    for (int col = LineCol::Date; col <= LineCol::Code; ++col)
-      if (col != LineCol::Key) grid_.setText(row_, col, cells_.at(col - 1));
+  LineRowBefore(LineBook& book, int row)
+      : book_(book),
+        row_(row),
+        cells_(book.grid(), row, LineCol::Code),
+        known_(book.known(row)),
+        hadKey_(!key().isEmpty()) {}
+  void keep() { cells_.stored(); }
+  void putBack() {
     if (!known_.isEmpty()) book_.setKnown(row_, known_);
     // A disk that is silent about a stored line has not lost it: without its key it would be written once more.
-    const bool hadKey = !cells_.at(LineCol::Key - 1).isEmpty();
-    if (!book_.isStored(row_).value_or(hadKey)) grid_.setText(row_, LineCol::Key, {});
+    const QString own = book_.isStored(row_).value_or(hadKey_) ? key() : QString();
+    cells_.putBack();
+    book_.grid().setText(row_, LineCol::Key, own);
   }
 
  private:
+  const QString& key() const { return book_.grid().text(row_, LineCol::Key); }
+
   LineBook& book_;
-  SpreadModel& grid_;
   int row_;
-  QStringList cells_;
+  RowBackup cells_;
   QString known_;
+  bool hadKey_;
 };
 
 struct RequiredCell {
@@ -69,10 +74,13 @@ LineStep LineEntry::finishCell(int row, int col, const QString& typed) {
 
 /** Runs a step that writes the row. One that is refused, meets another PC's change or fails leaves it as it was. */
 LineStep LineEntry::wholly(int row, int col, const std::function<LineStep()>& work) {
-  const LineRowBefore unchanged(book_, row);
+  LineRowBefore unchanged(book_, row);
   try {
     const LineStep step = work();
-    if (step.end == LineStep::Refused) unchanged.putBack();
+    if (step.end == LineStep::Refused)
+      unchanged.putBack();
+    else
+      unchanged.keep();
     return step;
   } catch (const LineMoved& moved) {
     unchanged.putBack();
