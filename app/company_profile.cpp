@@ -122,8 +122,7 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
   }
   session_.DelayCalcFlag = settings.oneMonthOnly ? u"1"_s : u"0"_s;
   session_.pc.settings.write(setting::LateChargeKind, session_.DelayCalcFlag);
-  session_.AfterDueMethod = settings.withoutDelay ? 1 : 0;
-  session_.pc.settings.write(setting::AfterDueMethod, QString::number(session_.AfterDueMethod));
+  setAfterDueMethod(session_, settings.withoutDelay ? 1 : 0);
   session_.dbBasic.Execute(
       u"Update User Set PayState = "_s + QString::number(settings.PayState) + u", AptRate = "_s +
       valText(settings.AptRate) + u", "_s + u"AptSecurity = "_s + wholeText(settings.AptSecurity) +

@@ -17,11 +17,15 @@
 #include "documents/invoices/FrmTax.h"
 #include "documents/statements/FrmDealList.h"
 #include "giro/frmPrtChange.h"
+#include "giro/frmPrtJiro.h"
 #include "giro/frmPrtJiroOCR.h"
 #include "links/FrmSMS.h"
 #include "links/form_short_list.h"
 #include "links/frmCar.h"
 #include "links/frmDm.h"
+#include "giro/frmPrtJiroOrg.h"
+#include "giro/frmPrtJiroOrgA4.h"
+#include "giro/frmPrtMicr.h"
 #include "master/buildings/frmHouseStyle.h"
 #include "master/catalogue/frmGasUtil.h"
 #include "master/catalogue/frmVolume.h"
@@ -87,7 +91,11 @@ const FormEntry formTable[] = {
     formEntry<frmGasUtil>(u"frmGasUtil"),
     formEntry<frmHouseStyle>(u"frmHouseStyle"),
     formEntry<frmPrtChange>(u"frmPrtChange"),
+    formEntry<frmPrtJiro>(u"frmPrtJiro"),
     formEntry<frmPrtJiroOCR>(u"frmPrtJiroOCR"),
+    formEntry<frmPrtJiroOrg>(u"frmPrtJiroOrg"),
+    formEntry<frmPrtJiroOrgA4>(u"frmPrtJiroOrgA4"),
+    formEntry<frmPrtMicr>(u"frmPrtMicr"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResCAN>(u"frmResCAN"),
     formEntry<frmResponse>(u"frmResponse"),

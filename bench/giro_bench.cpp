@@ -4,7 +4,7 @@
 #include "bench/books.h"
 #include "bench/pairs.h"
 #include "bench/plain_drawing.h"
-#include "giro/jiro_ocr.h"
+#include "giro/giro_slips.h"
 #include "store/rate_book.h"
 #include "store/settings_table.h"
 #include "tests/giro/reading_rows.h"
@@ -30,8 +30,8 @@ const int slips =
                       for (int row = 1; row <= size; ++row)
                         screen->add(QStringLiteral("101동 %1호").arg(row), QString::number(row),
                                     QString::number(50000 + row * 10));
-                      auto slipsOf = std::make_shared<JiroOcr>(session, [screen] { return screen.get(); });
-                      slipsOf->setPaper(OcrPaper::A4);
+                      auto slipsOf = std::make_shared<GiroSlips>(session, [screen] { return screen.get(); });
+                      slipsOf->setPaper(GiroPaper::OcrA4);
 
                       auto recorder = std::make_shared<tests::RecordedPrinters>();
                       session.printers = recorder.get();

@@ -143,12 +143,10 @@ void frmEva::buildButtons() {
                          const QString& tip = {}) {
     QPushButton* const button =
         addButton(name, caption, [this, form] { context_.commands.openForm(QString::fromUtf8(form)); });
-    button->setEnabled(context_.commands.hasForm(QString::fromUtf8(form)));
     // The captions have no letter of their own, and the hand stands in the grid.
     button->setShortcut(Qt::CTRL | Qt::Key(Qt::Key_1 + giroForms++));
     const QString keys = button->shortcut().toString(QKeySequence::NativeText);
-    const QString words = button->isEnabled() ? tip : u"아직 준비되지 않은 지로입니다"_s;
-    button->setToolTip(words.isEmpty() ? keys : words + u"  "_s + keys);
+    button->setToolTip(tip.isEmpty() ? keys : tip + u"  "_s + keys);
     return button;
   };
   btnNoEva_ = addButton("BtnNoEva", u"미검침(&N)"_s, [this] {

@@ -1,8 +1,10 @@
 #include "giro/form_giro_parts.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -60,4 +62,69 @@ QString DueDateBoxes::month() const {
 
 QString DueDateBoxes::day() const {
   return day_->text();
+}
+
+PeriodBoxes::PeriodBoxes(const char* fromName, const char* toName, const QString& mask, QWidget* parent)
+    : QWidget(parent) {
+  auto* const row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(4);
+  for (auto [box, name] : {std::pair{&from_, fromName}, std::pair{&to_, toName}}) {
+    *box = new QLineEdit;
+    (*box)->setObjectName(QString::fromUtf8(name));
+    (*box)->setMaxLength(10);
+    (*box)->setInputMask(mask);
+    (*box)->setFixedWidth(10 * fontMetrics().horizontalAdvance(u'0') + 22);
+    if (row->count()) row->addWidget(new QLabel(u"-"_s));
+    row->addWidget(*box);
+  }
+  row->addStretch();
+}
+
+QString PeriodBoxes::from() const {
+  return from_->text();
+}
+
+QString PeriodBoxes::to() const {
+  return to_->text();
+}
+
+void PeriodBoxes::set(const QString& from, const QString& to) {
+  from_->setText(from);
+  to_->setText(to);
+}
+
+BankPanel::BankPanel(int number, QWidget* parent) : QGroupBox(u"수납은행선택"_s, parent) {
+  const QString suffix = number > 1 ? QString::number(number) : QString();
+  if (number > 1) setTitle(title() + u' ' + suffix);
+  auto* const grid = new QGridLayout(this);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(5);
+  const auto box = [&](int row, const QString& name, const QString& label) {
+    auto* const made = new QLineEdit;
+    made->setObjectName(name + suffix);
+    made->setMaxLength(40);
+    made->setMinimumWidth(24 * fontMetrics().horizontalAdvance(u'0'));
+    grid->addWidget(new QLabel(label), row, 0, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(made, row, 1);
+    return made;
+  };
+  name_ = box(0, u"TxtBank"_s, u"은행명"_s);
+  account_ = box(1, u"TxtNumber"_s, u"계좌번호"_s);
+  holder_ = box(2, u"TxtUser"_s, u"예금주"_s);
+  search_ = new QPushButton(number > 1 ? u"조회"_s : u"조회(&F)"_s);
+  search_->setObjectName(u"BtnRef"_s + suffix);
+  search_->setAutoDefault(false);
+  search_->setToolTip(u"등록된 은행에서 고릅니다"_s);
+  grid->addWidget(search_, 0, 2);
+}
+
+SlipBank BankPanel::bank() const {
+  return {name_->text(), account_->text(), holder_->text()};
+}
+
+void BankPanel::setBank(const SlipBank& bank) {
+  name_->setText(bank.name);
+  account_->setText(bank.account);
+  holder_->setText(bank.holder);
 }

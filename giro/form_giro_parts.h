@@ -1,12 +1,16 @@
 #pragma once
-// What the giro forms' windows share: whom to print, the due date.
+// What the giro forms' windows are made of: whom to print, the due date, the period of use, the bank.
 #include <QDate>
 #include <QGroupBox>
+#include <functional>
 
 #include "giro/giro_run.h"
+#include "giro/slip.h"
 
+struct FormContext;
 class QHBoxLayout;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 
 /** Opt1 to Opt4. */
@@ -32,4 +36,31 @@ class DueDateBoxes : public QWidget {
   QLineEdit* box(QHBoxLayout& row, const QString& name, const QString& text, int digits,
                  const QString& label);
   QLineEdit *year_, *month_, *day_;
+};
+
+/** Two boxes for the first and last day of use. */
+class PeriodBoxes : public QWidget {
+ public:
+  /** mask: '' takes any text of ten characters. */
+  PeriodBoxes(const char* fromName, const char* toName, const QString& mask, QWidget* parent = nullptr);
+  QString from() const;
+  QString to() const;
+  void set(const QString& from, const QString& to);
+
+ private:
+  QLineEdit *from_, *to_;
+};
+
+/** "수납은행선택": TxtBank, TxtNumber, TxtUser and the search; a further panel's names carry its number. */
+class BankPanel : public QGroupBox {
+ public:
+  /** number: 1 to 3. search: what the button runs. */
+  BankPanel(int number, QWidget* parent = nullptr);
+  SlipBank bank() const;
+  void setBank(const SlipBank& bank);
+  QPushButton* search() const { return search_; }
+
+ private:
+  QLineEdit *name_, *account_, *holder_;
+  QPushButton* search_;
 };

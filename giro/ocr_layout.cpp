@@ -1,4 +1,4 @@
-#include "giro/ocr_layout.h"
+#include "giro/giro_paper.h"
 
 namespace {
 
@@ -116,10 +116,16 @@ constexpr pc::PaperForm a4{.paper = {11.69, 8.27},
 
 }  // namespace
 
-const pc::PaperForm& ocrForm(OcrPaper paper) {
-  return paper == OcrPaper::Continuous ? ocr::continuous : ocr::a4;
+const pc::PaperForm& ocrContinuousForm() {
+  return ocr::continuous;
 }
 
-int ocrNoteWidth(OcrPaper paper) {
-  return paper == OcrPaper::Continuous ? ocr::continuousNote : ocr::a4Note;
+const pc::PaperForm& ocrA4Form() {
+  return ocr::a4;
+}
+
+int noteWidth(GiroPaper paper) {
+  return paper == GiroPaper::OcrContinuous ? ocr::continuousNote
+         : paper == GiroPaper::OcrA4       ? ocr::a4Note
+                                           : 0;
 }

@@ -2,6 +2,8 @@
 
 #include "billing/reading_screen.h"
 #include "giro/scan_line.h"
+#include "store/data_access.h"
+#include "store/date_text.h"
 #include "store/rounding.h"
 #include "store/session.h"
 #include "store/settings_table.h"
@@ -13,10 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int amountPlaces = 13, codePlaces = 7;
-
-QString amountText(double amount) {
-  return moneyText(amount).rightJustified(amountPlaces);
-}
 
 /** "101동 203호" */
 struct Household {
@@ -34,22 +32,71 @@ bool isWholeBook(const QString& entry) {
 
 }  // namespace
 
-SlipWriter::SlipWriter(Session& session, const ReadingScreen& screen, OcrPaper paper, const GiroInput& input)
-    : screen_(screen),
+SlipWriter::SlipWriter(Session& session, const ReadingScreen& screen, const SlipRules& rules,
+                       const GiroInput& input)
+    : session_(session),
+      screen_(screen),
+      rules_(rules),
+      arrearsOnly_(input.monthsArrearsOnly),
       giroNumber_(session.pc.settings.read(setting::ApprovalNumber)),
-      rates_(session, screen.book(), paper == OcrPaper::A4),
+      rates_(session, screen.book(), rules.buildingsRate),
       payState_(companyPayState(session)) {
+  writeCommon(input);
+  writeBanks(input.banks);
+  writeCompany(input.companyPreprinted);
+  if (const QString entry = screen.buildingEntry(); !isWholeBook(entry))
+    buildingLabel_ = BuildingLabelForDong(session, entry);
+}
+
+void SlipWriter::writeCommon(const GiroInput& input) {
   const auto put = [&](SlipText what, const QString& text) { common_[size_t(what)] = text; };
-  const QDate thisYear(session.pc.clock.today().year(), 1, 1);
-  const QDate issue = thisYear.addMonths(screen.month() - 2);  // kept: the month before the shown one
+  const QDate thisYear(session_.pc.clock.today().year(), 1, 1);
+  const QDate issue = thisYear.addMonths(screen_.month() - 2);  // kept: the month before the shown one
   put(SlipText::IssueYear, issue.toString(u"yyyy"_s));
-  put(SlipText::IssueMonth, issue.toString(u"MM"_s));
-  put(SlipText::UsePeriod, input.useFrom + u'-' + input.useTo);
+  put(SlipText::IssueMonth, twoDigits(issue.month()));
+  put(SlipText::MonthTitle, twoDigits(issue.month()) + u"월분"_s);
+  put(SlipText::UsePeriod, input.useFrom + QString::fromUtf16(rules_.periodBetween) + input.useTo);
   put(SlipText::DueYear, input.year);
   put(SlipText::DueMonth, input.month);
   put(SlipText::DueDay, input.day);
-  if (const QString entry = screen.buildingEntry(); !isWholeBook(entry))
-    buildingLabel_ = BuildingLabelForDong(session, entry);
+  put(SlipText::DueDate, QString::fromUtf16(rules_.dueDate).arg(input.year, input.month, input.day));
+}
+
+void SlipWriter::writeBanks(const std::vector<SlipBank>& banks) {
+  const auto labelled = [&](const QString& label, const QString& text) {
+    return rules_.labelsBank && !text.isEmpty() ? label + text : text;
+  };
+  for (size_t at = 0; at < std::min<size_t>(banks.size(), 3); ++at) {
+    QString* const places = &common_[size_t(SlipText::Bank) + 3 * at];
+    places[0] = labelled(u"은행명 : "_s, banks[at].name);
+    places[1] = banks[at].account;
+    places[2] = labelled(u"예금주 : "_s, banks[at].holder);
+  }
+}
+
+void SlipWriter::writeCompany(bool preprinted) {
+  const auto put = [&](SlipText what, const QString& text) { common_[size_t(what)] = text; };
+  // On paper that has the words already, blanks of the same width stand in for them.
+  put(SlipText::FeeLabel, preprinted ? QString(10, u' ') : u"안전관리비"_s);
+  put(SlipText::PhoneLabel, preprinted ? QString(11, u' ') : u"문의전화 : "_s);
+  jet::Recordset company;
+  if (preprinted ||
+      !OpenSnapshot(session_.prompts, session_.dbBasic, company, u"Select Company, Tel From User"_s) ||
+      company.atEnd())
+    return;
+  put(SlipText::Company, company[0].toText());
+  put(SlipText::Phone, company[1].toText());
+}
+
+/** Kept: a paper that reads the rule anew follows a change in the middle of its run, and lets 0 through. */
+double SlipWriter::rounded(double won) const {
+  if (!rules_.roundsAnew) return roundToTen(won, payState_);
+  return won == 0 ? won : RoundByPayState(session_, won);
+}
+
+QString SlipWriter::figure(double amount) const {
+  const QString text = moneyText(amount);
+  return rules_.padsFigures ? text.rightJustified(amountPlaces) : text;
 }
 
 QString SlipWriter::customer(int row) const {
@@ -65,24 +112,26 @@ SlipTexts SlipWriter::texts(int row) const {
 
   const QString code = cell(EvaCol::Code);
   const double rate = rates_.of(code.toLongLong());
-  const auto charge = [&](double on) { return rate == 0 ? 0 : roundToTen(rate / 100 * on, payState_); };
-  const double total = number(EvaCol::Total), arrears = number(EvaCol::Trust);
-  const double afterDue = charge(total);
-  const QString totalText = amountText(total);
-  put(SlipText::Total, totalText);
-  put(SlipText::AmountToPay, cell(EvaCol::PayWay) == "3"_L1 ? u"(자동이체)"_s : totalText);
-  put(SlipText::AfterDueCharge, amountText(afterDue));
-  put(SlipText::AfterDueAmount, amountText(total + afterDue));
-  put(SlipText::Late, amountText(charge(arrears)));
-  put(SlipText::PrevReading, amountText(number(EvaCol::PrevUseGage)));
-  put(SlipText::Reading, amountText(number(EvaCol::UseGage)));
-  put(SlipText::Use, amountText(number(EvaCol::UseMuch)));
-  put(SlipText::Amount, amountText(number(EvaCol::UsePay)));
-  put(SlipText::Manage, amountText(number(EvaCol::Manage)));
-  put(SlipText::Arrears, amountText(arrears));
+  const auto charge = [&](double on) { return rate == 0 ? 0 : rounded(rate / 100 * on); };
+  const double total = number(EvaCol::Total), arrears = number(EvaCol::Trust),
+               amount = number(EvaCol::UsePay), fee = number(EvaCol::Manage);
+  const double afterDue =
+      charge(rules_.afterDueByMethod && session_.AfterDueMethod == 1 ? amount + fee : total);
+  put(SlipText::Total, figure(total));
+  put(SlipText::AmountToPay, cell(EvaCol::PayWay) == "3"_L1 ? u"(자동이체)"_s : figure(total));
+  put(SlipText::AfterDueCharge, figure(afterDue));
+  put(SlipText::AfterDueAmount, figure(total + afterDue));
+  put(SlipText::Late, arrearsOnly_ ? QString() : figure(charge(arrears)));
+  put(SlipText::PrevReading, figure(number(EvaCol::PrevUseGage)));
+  put(SlipText::Reading, figure(number(EvaCol::UseGage)));
+  put(SlipText::Use, figure(number(EvaCol::UseMuch)));
+  put(SlipText::Amount, figure(amount));
+  put(SlipText::Manage, figure(fee));
+  put(SlipText::Arrears, figure(arrears));
 
   put(SlipText::Code, code.rightJustified(codePlaces, u'0'));
   put(SlipText::Name, cell(EvaCol::Name));
+  put(SlipText::NameSir, cell(EvaCol::Name) + u" 님"_s);
   if (screen_.book() == HouseStyle::Individual) {
     put(SlipText::Address, cell(EvaCol::Address));
     put(SlipText::AddressLine, cell(EvaCol::Address));

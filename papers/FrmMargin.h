@@ -1,16 +1,16 @@
 #pragma once
 // How far each kind of document is moved on its paper.
-#include "papers/form_document_kinds.h"
+#include "papers/form_kind_dialog.h"
 
 class QLineEdit;
 
-class FrmMargin : public DocumentKindDialog {
+class FrmMargin : public KindDialog {
  public:
   explicit FrmMargin(FormContext& context, QWidget* parent = nullptr);
 
- private:
+ protected:
   void showKind() override;
-  void store();
 
+ private:
   QLineEdit *txtTop_, *txtLeft_;
 };

@@ -3,25 +3,27 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 
-#include "master/registers/form_context.h"
+#include "papers/paper_printer.h"
+#include "pc/print_job.h"
 #include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
 
 FrmSetPrinter::FrmSetPrinter(FormContext& context, QWidget* parent)
-    : DocumentKindDialog(u"FrmSetPrinter"_s, u"프린트 드라이버 설정"_s, context, parent) {
-  const pc::Printers* const printers = session().printers;
-  const QString standard = printers ? printers->defaultName() : QString();
+    : KindDialog(context, u"FrmSetPrinter"_s, u"프린트 드라이버 설정"_s, parent) {
+  const pc::Printers* printers = session().printers;
+  auto* const standard = shownValue(
+      "Spn기본프린터", printers && !printers->defaultName().isEmpty() ? printers->defaultName() : u"없음"_s);
+  lblChosen_ = shownValue("LblChosen");
   Fields boxes(panel(), 1);
-  boxes.add(u"기본프린터"_s, shownValue("Spn기본프린터", standard.isEmpty() ? u"없음"_s : standard));
-  boxes.add(u"현재 설정"_s, lblChosen_ = shownValue("LblChosen"));
+  boxes.add(u"기본프린터"_s, standard);
+  boxes.add(u"현재 설정"_s, lblChosen_);
   cboPrinter_ = boxes.combo("CboPrinter", u"설치된 프린터"_s, printers ? printers->names() : QStringList());
   cboPrinter_->setMinimumWidth(24 * fontMetrics().horizontalAdvance(u'0'));
   addButton("Command1", u"프린터선택(&S)"_s, [this] { store(); });
   addLeave("BtnExit", u"닫기(&X)"_s);
-  start();
+  showKind();
   list()->setFocus();
 }
 

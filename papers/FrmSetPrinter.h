@@ -1,16 +1,18 @@
 #pragma once
 // Which printer each kind of document goes to.
-#include "papers/form_document_kinds.h"
+#include "papers/form_kind_dialog.h"
 
 class QComboBox;
 class QLabel;
 
-class FrmSetPrinter : public DocumentKindDialog {
+class FrmSetPrinter : public KindDialog {
  public:
   explicit FrmSetPrinter(FormContext& context, QWidget* parent = nullptr);
 
- private:
+ protected:
   void showKind() override;
+
+ private:
   void store();
 
   QComboBox* cboPrinter_;

@@ -135,7 +135,7 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
   photographer.take(window, "frmMain-at-work");
 }
 
-/** The month before of one block, and its slips on paper: slips.pdf in the folder. */
+/** The month before of one block, and its slips on paper: slips.pdf and one file a further paper. */
 void meterBook(frmMain& window, Session& session, Photographer& photographer) {
   closeForm(window);
   if (!window.run("MnuAPTCheck")) return;
@@ -146,22 +146,35 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
   form->findChild<QPushButton*>("BtnRefresh")->click();
   photographer.take(*form, "frmEva");
   session.pc.settings.write(setting::GiroPrinter, pdfPrinterName());
-  qputenv("HAEON_PDF", photographer.file("slips.pdf").toUtf8());
-  const WhenModal then([&](QWidget& box) {
-    auto* const slips = qobject_cast<QDialog*>(&box);
-    if (slips->objectName() != "frmPrtJiroOCR") {
-      if (auto* const told = qobject_cast<QMessageBox*>(slips)) {
-        QTextStream(stderr) << told->text() << '\n';
-        told->reject();
+  const std::pair<const char*, const char*> papers[] = {{"frmPrtJiroOCR:a4", "slips.pdf"},
+                                                        {"frmPrtJiro", "slips-micr.pdf"},
+                                                        {"frmPrtMicr", "slips-micr-a4.pdf"},
+                                                        {"frmPrtJiroOrg", "slips-general.pdf"},
+                                                        {"frmPrtJiroOrgA4", "slips-general-a4.pdf"}};
+  for (const auto& [paper, file] : papers) {
+    qputenv("HAEON_PDF", photographer.file(file).toUtf8());
+    const QString name = QString::fromLatin1(paper).section(':', 0, 0);
+    const WhenModal then([&](QWidget& box) {
+      auto* const slips = qobject_cast<QDialog*>(&box);
+      if (slips->objectName() != name) {
+        if (auto* const told = qobject_cast<QMessageBox*>(slips)) {
+          QTextStream(stderr) << told->text() << '\n';
+          told->reject();
+        }
+        return;
       }
-      return;
-    }
-    slips->findChild<QRadioButton*>("Opt4")->click();
-    photographer.take(*slips, "frmPrtJiroOCR");
-    slips->findChild<QPushButton*>("BtnJiro")->click();
-    slips->reject();
-  });
-  window.openForm("frmPrtJiroOCR:a4");
+      slips->findChild<QRadioButton*>("Opt4")->click();
+      photographer.take(*slips, name);
+      slips->findChild<QPushButton*>("BtnJiro")->click();
+      if (name == "frmPrtMicr") {
+        slips->findChild<QPushButton*>("BtnPreview")->click();
+        if (auto* const view = slips->findChild<QWidget*>("FrmPaperView"))
+          photographer.take(*view, "FrmPaperView");
+      }
+      slips->reject();
+    });
+    window.openForm(QString::fromLatin1(paper));
+  }
 }
 
 /** The meter book's totals of the month before, and their paper. */

@@ -2,6 +2,7 @@
 
 #include "store/data_access.h"
 #include "store/session.h"
+#include "store/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,4 +24,9 @@ bool readRateBook(Session& session) {
                           {user["APTRate"].toDouble(), user["APTSecurity"].toDouble()},
                           {singlePrecision(user["ManyRate"]), user["ManySecurity"].toDouble()}}};
   return true;
+}
+
+void setAfterDueMethod(Session& session, int method) {
+  session.AfterDueMethod = method;
+  session.pc.settings.write(setting::AfterDueMethod, QString::number(method));
 }

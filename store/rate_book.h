@@ -20,3 +20,6 @@ struct RateBook {
  *  through single precision and keep its binary error (2.1 is 2.0999999046...), the apartments' does not. False when
  *  there is no row (all figures are then 0) or after a failed query has been told. */
 bool readRateBook(Session& session);
+
+/** method: as Session::AfterDueMethod, which follows. */
+void setAfterDueMethod(Session& session, int method);

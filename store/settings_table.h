@@ -60,6 +60,11 @@ inline constexpr Setting RelayFolder{u"라온릴레이", surroundings, u"AppPath
 inline constexpr Setting GiroPrinter{program, printing, u"DEVICENAME"};
 inline constexpr Setting GiroTop{program, printing, u"TOP"}, GiroLeft{program, printing, u"LEFT"};
 inline constexpr Setting OcrThisMonth{program, surroundings, u"OCRA4지로_당월기본", u"0"};
+inline constexpr Setting OrgA4ThisMonth{program, surroundings, u"A4지로_당월기본", u"0"};
+inline constexpr Setting OrgA4NewPaper{program, surroundings, u"A4최신용지타입", u"0"},
+    OrgA4Preprinted{program, surroundings, u"A4지로용지타입", u"0"};
+inline constexpr Setting OrgA4UseFrom{program, surroundings, u"A4지로_사용기간From"},
+    OrgA4UseTo{program, surroundings, u"A4지로_사용기간To"};
 inline constexpr Setting ReportPrinter{program, printing, u"보고서"};  ///< the one chosen last
 inline constexpr Setting PdfFile{program, printing, u"PDF파일"};       ///< file or folder; empty asks
 inline constexpr Setting PdfFolder{program, printing, u"PDF폴더"};  ///< the one chosen last for several files

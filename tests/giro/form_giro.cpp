@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -17,51 +16,15 @@
 #include "papers/FrmMargin.h"
 #include "papers/FrmPrintSection.h"
 #include "papers/FrmSetPrinter.h"
-#include "tests/giro/reading_rows.h"
-#include "tests/idle_context.h"
-#include "tests/recorded_print.h"
-#include "tests/support.h"
-#include "tests/ui/grab.h"
+#include "tests/giro/giro_windows.h"
 #include "ui/grid/spread.h"
 #include "ui/paper/printers.h"
 
 namespace {
 
-/** Stands for the window of the meter book. */
-struct ReadingWindow : QWidget, tests::ReadingRows {};
+using tests::click, tests::part;
 
-struct GiroForms : testing::Test, tests::TestPc {
-  struct Front : tests::IdleCommands {
-    ReadingWindow window;
-    QWidget* activeForm() const override { return const_cast<ReadingWindow*>(&window); }
-  };
-  Front front;
-  tests::IdlePickers pickers;
-  tests::IdleCalls calls;
-  FormContext context{session, pickers, front, calls};
-  tests::RecordedPrinters printers;
-
-  void SetUp() override {
-    openBooks(QDate(2026, 3, 16));
-    session.printers = &printers;
-    session.dbBasic.Execute("Insert Into User(Company, PayState) Values('해온가스', 1)");
-    session.rates.books = {{{2, 0}, {3, 0}, {1, 0}}};
-    pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "지로프린터");
-    pc.settings.SaveSetting("해온판매", "Registration", "Ocr", "1234567");
-  }
-  template <class W>
-  static W* part(QWidget& form, const char* name) {
-    W* found = form.findChild<W*>(QString::fromUtf8(name));
-    EXPECT_TRUE(found) << name;
-    return found;
-  }
-  static void click(QWidget& form, const char* name) {
-    QTest::mouseClick(part<QPushButton>(form, name), Qt::LeftButton);
-  }
-  QString setting(const char* section, const char* key) {
-    return pc.settings.GetSetting("해온판매", QString::fromUtf8(section), QString::fromUtf8(key));
-  }
-};
+struct GiroForms : testing::Test, tests::GiroWindows {};
 
 TEST_F(GiroForms, BoxesBeginWithTodayAndTheUseMonth) {
   frmPrtJiroOCR form(context);
@@ -155,11 +118,7 @@ TEST_F(GiroForms, BothPapersAsPdfReadBack) {
     click(form, "BtnJiro");
     qunsetenv("HAEON_PDF");
 
-    QProcess reader;
-    reader.start("pdftotext", {"-layout", file, "-"});
-    reader.waitForFinished();
-    const QStringList pages =
-        QString::fromUtf8(reader.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts);
+    const QStringList pages = tests::pdfPages(file);
     ASSERT_EQ(pages.size(), paper == "a4" ? 2 : 3);
     // 60590 weighs 0 + 27 + 5 + 0 + 18 = 50; 2% or 3% of it is charged after the due date: here 3%, 1,810 by ten
     EXPECT_TRUE(pages[0].contains(QRegularExpression("<1234567\\+ +\\+12344\\+ +\\+605900< +<11<")))
@@ -167,8 +126,7 @@ TEST_F(GiroForms, BothPapersAsPdfReadBack) {
     for (const char* text : {"60,590", "1,810", "62,400", "0001234", "행복아파트 101동", "감사드립니다."})
       EXPECT_TRUE(pages[0].contains(QString::fromUtf8(text))) << text << '\n' << pages[0].toStdString();
     EXPECT_TRUE(pages.last().contains("(자동이체)"));
-    if (const QString pictures = qEnvironmentVariable("HAEON_PICTURES"); !pictures.isEmpty())
-      QProcess::execute("pdftoppm", {"-png", "-r", "110", file, pictures + "/giro-" + paper});
+    tests::pictureOf(file, "giro-" + paper);
   }
 }
 

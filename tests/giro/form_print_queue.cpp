@@ -7,7 +7,7 @@
 
 #include <cups/cups.h>
 
-#include "giro/jiro_ocr.h"
+#include "giro/giro_slips.h"
 #include "tests/giro/reading_rows.h"
 #include "tests/support.h"
 #include "ui/paper/printers.h"
@@ -21,7 +21,7 @@ struct PrintQueue : testing::Test, tests::TestPc {
   QProcess cups;
   PcPrinters printers{pc};
   tests::ReadingRows screen;
-  JiroOcr giro{session, [this] { return &screen; }};
+  GiroSlips giro{session, [this] { return &screen; }};
 
   void SetUp() override {
     cups.start("bash", {HAEON_TEST_DATA "/giro/cups_queue.sh", server});
@@ -81,7 +81,7 @@ TEST_F(PrintQueue, SlipsReachTheQueueWholeOrNotAtAll) {
   EXPECT_EQ(printers.names(), (QStringList{queue, pdfPrinterName()}));
   QString options;
   GiroInput input{"2026", "03", "31", "2026.02.01", "2026.02.28", {"감사합니다"}};
-  giro.setPaper(OcrPaper::A4);
+  giro.setPaper(GiroPaper::OcrA4);
   EXPECT_EQ(giro.print(input, GiroSelection::All), 3);
   QStringList pages = take(&options).split('\f', Qt::SkipEmptyParts);
   ASSERT_EQ(pages.size(), 2);
@@ -89,7 +89,7 @@ TEST_F(PrintQueue, SlipsReachTheQueueWholeOrNotAtAll) {
   EXPECT_TRUE(options.startsWith("OCR-A4 지로\n") && options.contains("print-scaling=none") &&
               options.contains("media=A4"))
       << options.toStdString();
-  giro.setPaper(OcrPaper::Continuous);
+  giro.setPaper(GiroPaper::OcrContinuous);
   EXPECT_EQ(giro.print(input, GiroSelection::Active), 1);
   EXPECT_TRUE(take(&options).contains("감사합니다"));
   EXPECT_TRUE(options.contains("media=Custom.14x3.5in")) << "the continuous paper is named to the printer";

@@ -1,22 +1,22 @@
 #pragma once
-// The rules of frmPrtJiroOCR: what its boxes begin with, and the run. It reads the reading screen at every call.
+// The rules of the giro forms: what their boxes begin with, and the run. They read the reading screen at every call.
 #include <QDate>
 #include <functional>
 #include <utility>
 
+#include "giro/giro_paper.h"
 #include "giro/giro_run.h"
 #include "giro/slip.h"
+#include "pc/settings.h"
 
-class JiroOcr {
+class GiroSlips {
  public:
   /** screen: the open reading screen, or null. */
-  JiroOcr(Session& session, std::function<const ReadingScreen*()> screen)
+  GiroSlips(Session& session, std::function<const ReadingScreen*()> screen)
       : session_(session), screen_(std::move(screen)) {}
 
-  void setPaper(OcrPaper paper) { paper_ = paper; }
-  OcrPaper paper() const { return paper_; }
-  /** Half-width characters of a note's line that the paper has room for. */
-  int noteWidth() const;
+  void setPaper(GiroPaper paper) { paper_ = paper; }
+  GiroPaper paper() const { return paper_; }
 
   QDate dueDate() const;  ///< today
   /** Whether the use month begins with the shown month; else with the one before it. */
@@ -25,6 +25,8 @@ class JiroOcr {
   int firstUseMonth() const;  ///< 1 to 12
   /** First and last day of a use month, "yyyy.MM.dd": the last such month that is not behind the shown one. */
   std::pair<QString, QString> usePeriod(int useMonth) const;
+  /** The same of the month before today's. */
+  std::pair<QString, QString> lastMonth() const;
 
   /** The slips of the chosen rows, wherever they go; nothing after telling why none can be made. It reads the reading
    *  screen: it must end before that is closed or loaded anew. */
@@ -35,8 +37,24 @@ class JiroOcr {
  private:
   /** First day of the shown month in the present calendar year. */
   QDate shownMonth() const;
+  const pc::Setting& thisMonth() const;
 
   Session& session_;
   std::function<const ReadingScreen*()> screen_;
-  OcrPaper paper_ = OcrPaper::Continuous;
+  GiroPaper paper_ = GiroPaper::OcrContinuous;
 };
+
+/** What frmPrtJiroOrgA4 remembers in section "환경설정". */
+struct OrgA4Memory {
+  bool newPaper = false;    ///< chkNewPaper
+  bool preprinted = false;  ///< chkPaperType
+  QString useFrom, useTo;   ///< '' until it was printed once
+};
+OrgA4Memory orgA4Memory(const Session& session);
+void keepOrgA4Memory(Session& session, const OrgA4Memory& memory);
+
+/** Which of frmPrtJiro's two papers the shop uses: the option "MICR용지" that all PCs share. */
+GiroPaper jiroPaper(Session& session);
+void setJiroPaper(Session& session, GiroPaper paper);
+/** The bank that a form begins with: the registered one where there is no choice. */
+std::optional<SlipBank> onlyBank(Session& session);
