@@ -11,6 +11,8 @@
 #include "trade/forecast.h"
 #include "trade/stock_walk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int items = 300;
@@ -21,12 +23,10 @@ void addItemLines(bench::Books& books, int lines) {
     const jet::Database& year = books.session.dbYear;
     for (int at = 0; at < items; ++at)
       books.session.dbBasic.Execute(
-          QStringLiteral("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('품목%1', '20', 100, 50)")
-              .arg(at));
+          u"Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('품목%1', '20', 100, 50)"_s.arg(at));
     for (int at = 0; at < lines; ++at) {
-      const QString day = QStringLiteral("2026-%1-%2")
-                              .arg(1 + at % 3, 2, 10, QChar(u'0'))
-                              .arg(1 + at % 28, 2, 10, QChar(u'0'));
+      const QString day =
+          u"2026-%1-%2"_s.arg(1 + at % 3, 2, 10, QChar(u'0')).arg(1 + at % 28, 2, 10, QChar(u'0'));
       const QString item = QString::number(at % items), pieces = QString::number(1 + at % 4);
       const QString kind = QString::number(at % 7 == 0 ? 3 : at % 11 == 0 ? 5 : at % 13 == 0 ? 6 : 1);
       if (at % 5)

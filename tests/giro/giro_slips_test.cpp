@@ -236,6 +236,8 @@ TEST_F(JiroOcrTest, BuildingLabelFollowsTheList) {
   EXPECT_EQ(label("푸른마을", "0"), "푸른마을 101동 203호");
   EXPECT_EQ(label("푸른마을 101", "1"), "푸른마을 101동 203호");
   EXPECT_EQ(label("아파트 전체", "1"), "행복아파트 101동 203호") << "the row's building";
+  screen.shownBook = HouseStyle::MultiHousehold;
+  EXPECT_EQ(label("다가구 전체", "1"), "행복아파트 101동 203호");
 }
 
 TEST_F(JiroOcrTest, OptionsChooseTheRows) {
@@ -251,6 +253,8 @@ TEST_F(JiroOcrTest, OptionsChooseTheRows) {
     return found;
   };
   EXPECT_EQ(codes(GiroSelection::Active), "3");
+  screen.active = 6;
+  EXPECT_TRUE(rowsToPrint(screen, GiroSelection::Active).empty()) << "below the last row";
   EXPECT_EQ(codes(GiroSelection::Ticked), "24");
   EXPECT_EQ(codes(GiroSelection::Unticked), "135");
   EXPECT_EQ(codes(GiroSelection::All), "12345");

@@ -72,6 +72,8 @@ TEST_F(CallerTest, OpensOnlyWhatIsInUse) {
   caller.setEnabled(true);
   EXPECT_EQ(first.asked, QStringList{"open COM7"});
   EXPECT_TRUE(second.asked.isEmpty()) << "port 0 is no device and no message";
+  caller.OpenSeeID();
+  EXPECT_EQ(first.asked.size(), 1) << "open already";
   caller.setEnabled(false);
   EXPECT_EQ(first.asked.last(), "close COM1") << "kept: named by its place, not by the stored number";
   EXPECT_FALSE(caller.enabled());

@@ -162,6 +162,24 @@ TEST_F(ReportPagesTest, TitleOnceFootOnEveryPage) {
   EXPECT_EQ(shape(table(14)), QStringList({"FTH6", "FNH7", "FNH1"}));
 }
 
+TEST_F(ReportPagesTest, AGroupThatBeginsAPageIsNamedOnceAndASubtotalTakesItsRowAlong) {
+  layout.groupField = "Str01";
+  layout.group = {
+      {{{.points = 19.2, .text = "{Str01}"}}}};  // 0.4 inch: the second group's first row has no room
+  EXPECT_EQ(shape(table(9)), QStringList({"HG6", "HG3"}));
+  layout.group = {};
+  layout.subtotal = "[소 계]";
+  const pc::ReportTable rows = table(18);
+  const pc::ReportPages pages(layout, rows);
+  QString kinds;
+  for (int page = 0; page < pages.count(); ++page) {
+    for (const auto& band : pages.bands(page)) kinds += u"TNHGRsSuF"_s[int(band.kind)];
+    kinds += ' ';
+  }
+  // Six rows and their sum, three rows; three rows and their sum, five rows; the last with its sum.
+  EXPECT_EQ(kinds, "HGRRRRRRsGRRR HGRRRsGRRRRR HGRs ");
+}
+
 TEST_F(ReportPagesTest, GroupsSumUpAndAreNamedAgainOnTheNextPage) {
   layout.groupField = "Str01";
   layout.group = {{{{.points = 4.8, .text = "{Str01}"}}}};

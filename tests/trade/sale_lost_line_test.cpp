@@ -66,4 +66,19 @@ TEST(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
       << "what was not kept is not taken for another PC's change";
 }
 
+TEST(SaleLostLine, ABookThatDoesNotAnswerLeavesAStoredLineItsRow) {
+  SaleDesk desk;
+  SaleBook book(desk.pc.session);
+  SaleEntry entry(book, desk.pickers, desk.calls);
+  book.FillSaleGrid(SaleSheet::General, true);
+  desk.pickers.clients.push_back(ClientChoice{SaleDesk::Plain, "산골식당"});
+  const int row = entry.enterKey(book.grid().MaxRows(), LineCol::Partner, {}).row;
+  desk.pickers.items.assign(2, ItemChoice{"LPG", "20", 40000, 0});
+  entry.enterKey(row, LineCol::Item, {});
+  ASSERT_EQ(book.grid().text(row, LineCol::Key), "1");
+  desk.pickers.during = [&] { desk.pc.session.dbYear.Close(); };
+  EXPECT_THROW(entry.search(row, LineCol::Item, {}), jet::Error);
+  EXPECT_EQ(book.grid().text(row, LineCol::Key), "1") << "else the line would be written once more";
+}
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "tests/trade/sale_desk.h"
+#include "tests/trade/line_cases.h"
 
 namespace {
 
@@ -409,6 +409,35 @@ TEST(SaleEntry, AnItemTypedInItsCellIsOneOfTheCatalogueOrNothing) {
   sale.change(row, LineCol::Number, "3");
   sale.change(row, LineCol::Item, "lpg / 20");
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|3|27000|0|81000|0") << "another whole name keeps the figures";
+}
+
+TEST(SalePosting, ANewKindClearsFiguresAndPerson) {
+  SaleDesk desk;
+  SaleBook book(desk.pc.session);
+  book.FillSaleGrid(SaleSheet::General, true);
+  SpreadModel& cells = book.grid();
+  const int row = cells.MaxRows();
+  cells.setText(row, LineCol::Code, "1");
+  for (int col = LineCol::Number; col <= LineCol::Person; ++col) cells.setText(row, col, "7");
+  cells.setComboPosition(row, LineCol::Kind, positionOf(book.kinds(), SaleLoan));
+  book.resetRow(row);
+  QStringList texts;
+  for (int col = LineCol::Number; col <= LineCol::Person; ++col) texts << cells.text(row, col);
+  EXPECT_EQ(texts.join(u'|'), "0|0|0|0|0|0|");
+}
+
+TEST(SaleEntry, ABalanceBeyondALinesLimitIsCollectedAllTheSame) {
+  SaleDesk desk;
+  desk.run("Update Client Set GasInit = 2000000000 Where Code = 1");
+  SaleBook book(desk.pc.session);
+  SaleEntry entry(book, desk.pickers, desk.calls);
+  book.FillSaleGrid(SaleSheet::General, true);
+  desk.pickers.clients.push_back(ClientChoice{SaleDesk::Plain, "산골식당"});
+  tests::CaseHand hand(desk, book, entry);
+  hand.begin("수금");
+  hand.play({"9=1000"});
+  EXPECT_EQ(hand.figures(), "0|0|0|2000000000|1000|1999999000");
+  EXPECT_EQ(desk.balance(), "1999999000|5000");
 }
 
 TEST(SaleEntry, ALineTooLargeForTheBookIsToldBeforeAnythingIsWritten) {

@@ -61,18 +61,25 @@ TEST(SaleStock, MaterialMovesByNameAndSpecification) {
   EXPECT_EQ(desk.rows("Select UtilStock From Util"), "32") << "a deletion gives back what is stored";
 }
 
-TEST(SaleStock, ADeletedGasLineGivesBackStoredKilogramsAndShownPieces) {
-  SaleDesk desk;
-  desk.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
-      "Values('2026-03-05', 1, 1, False, '20', 5)");
-  TradeLine line;
-  line.kind = &saleKind(SaleGas);
-  line.item = {"LPG", "20"};
-  line.key = "1";
-  line.number = 3;
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
-  EXPECT_EQ(desk.stock(), "1100|100|10|37|53");
+TEST(SaleStock, ADeletionGivesBackStoredKilogramsAndOfGasAndLoansTheShownPieces) {
+  const std::pair<SaleKind, const char*> ofFiveStoredThreeShown[] = {{SaleGas, "1100|100|10|37|53"},
+                                                                     {SaleLoan, "1000|100|7|43|50"},
+                                                                     {SaleReturn, "1000|100|15|35|50"},
+                                                                     {SaleCylinder, "1000|105|10|45|50"},
+                                                                     {SaleFullCylinder, "1100|105|10|40|55"}};
+  for (const auto& [kind, stock] : ofFiveStoredThreeShown) {
+    SaleDesk desk;
+    desk.run(
+        "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
+        "Values('2026-03-05', 1, 1, False, '20', 5)");
+    TradeLine line;
+    line.kind = &saleKind(kind);
+    line.item = {"LPG", "20"};
+    line.key = "1";
+    line.number = 3;
+    SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
+    EXPECT_EQ(desk.stock(), stock) << kind;
+  }
 }
 
 TEST(SaleStock, AChangedItemIsNotGivenItsStockBack) {
