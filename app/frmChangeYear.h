@@ -1,15 +1,10 @@
 #pragma once
 // "PC년도 변경": another year's file and the clock in that year.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 struct FormContext;
-class QComboBox;
 
-class frmChangeYear : public QDialog {
+class frmChangeYear : public Dialog {
  public:
   explicit frmChangeYear(FormContext& context, QWidget* parent = nullptr);
-
- private:
-  FormContext& context_;
-  QComboBox* cmbYY_;
 };

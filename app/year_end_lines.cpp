@@ -1,6 +1,7 @@
 #include "app/year_end_lines.h"
 
 #include "store/vb.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,14 +13,6 @@ QString won(double amount) {
 
 QString reading(double cubicMetres) {
   return vb::CStr(cubicMetres);
-}
-
-SpreadColumn textColumn(const QString& header, double width) {
-  return {.header = header, .width = width, .locked = true};
-}
-
-SpreadColumn numberColumn(const QString& header, double width, CellKind kind = CellKind::Money) {
-  return {.header = header, .width = width, .kind = kind, .align = CellAlign::Right, .locked = true};
 }
 
 QString lost(const ClosingForecast& forecast) {
@@ -60,10 +53,10 @@ void fillForecast(YearEndPage& page, const ClosingForecast& forecast) {
                     forecast.kept.join(u'\n');
   page.warning = warnings.join(u"\n\n"_s);
 
-  page.lines.setColumns({numberColumn(u"고객코드"_s, 9, CellKind::Integer), textColumn(u"고객명"_s, 20),
-                         numberColumn(u"12월 지침"_s, 11, CellKind::Number),
-                         numberColumn(u"12월 이월미수"_s, 14), numberColumn(u"1월로 넘어갈 미수"_s, 17),
-                         textColumn(u"비고"_s, 24)});
+  page.lines.setColumns(
+      column::shown({column::integer(u"고객코드"_s, 9), column::text(u"고객명"_s, 20),
+                     column::number(u"12월 지침"_s, 11), column::money(u"12월 이월미수"_s, 14),
+                     column::money(u"1월로 넘어갈 미수"_s, 17), column::text(u"비고"_s, 24)}));
   std::vector<std::vector<QString>> rows;
   for (const ForecastLine& line : forecast.lines)
     rows.push_back({QString::number(line.code), line.name, reading(line.reading), won(line.trust),
@@ -85,9 +78,9 @@ void fillDifferences(YearEndPage& page, const CarryCheck& check, int year, const
     page.warning +=
         u"\n바꾸기 전의 자료는 아래의 파일에 있습니다. [되돌리기]를 하면 마감하기 전으로 돌아갑니다.\n"_s +
         kept;
-  page.lines.setColumns({numberColumn(u"고객코드"_s, 9, CellKind::Integer), textColumn(u"고객명"_s, 20),
-                         numberColumn(u"12월 발행금액"_s, 16), numberColumn(u"1월 미수금"_s, 16),
-                         textColumn(u"비고"_s, 24)});
+  page.lines.setColumns(column::shown({column::integer(u"고객코드"_s, 9), column::text(u"고객명"_s, 20),
+                                       column::money(u"12월 발행금액"_s, 16),
+                                       column::money(u"1월 미수금"_s, 16), column::text(u"비고"_s, 24)}));
   std::vector<std::vector<QString>> rows;
   const auto shown = [](const std::optional<double>& amount) { return amount ? won(*amount) : QString(); };
   for (const CarriedBill& bill : check.differing)
