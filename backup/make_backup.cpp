@@ -4,7 +4,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QProcess>
 #include <QStorageInfo>
 
@@ -12,6 +11,7 @@
 #include "pc/pc.h"
 #include "store/jet/database.h"
 #include "store/jet/error_texts.h"
+#include "store/jet/presence.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +62,17 @@ struct WorkFolder {
   throw jet::Error(damagedData,
                    u"자료 파일이 손상되어 백업을 마치지 않았습니다: "_s + names.join(u", "_s) +
                        u"\n전에 만든 백업은 그대로 있습니다. [A/S용 백업]은 손상된 파일도 담습니다."_s);
+}
+
+/** A lock that goes with its process: what a killed run leaves locks nobody out. */
+jet::AloneWith aloneAt(const QString& nativeShelf) {
+  constexpr int patience = 200;  // milliseconds
+  try {
+    return {nativeShelf + u"/packing"_s, patience};
+  } catch (const jet::Error&) {
+    throw jet::Error(3045,
+                     nativeShelf + u"\n이 폴더에 다른 백업을 만들고 있습니다. 끝난 뒤에 다시 하십시오."_s);
+  }
 }
 
 /** Some second later when an archive of this second stands already. */
@@ -141,12 +152,7 @@ BackupDone makeBackup(const pc::Pc& pc, const QString& dataFolder, const Setting
   const pc::Paths& paths = pc.paths;
   if (!paths.makeFolder(settings.folder)) failWriting(paths.native(settings.folder), 0);
   const QString shelf = paths.native(settings.folder), books = paths.native(dataFolder);
-  QLockFile one(shelf + u"/.packing.lock"_s);
-  one.setStaleLockTime(0);  // by the process alone: packing may take long
-  if (!one.tryLock()) {
-    if (one.error() != QLockFile::LockFailedError) failWriting(shelf, 0);
-    throw jet::errorOf(3045, settings.folder);
-  }
+  const jet::AloneWith one = aloneAt(shelf);
   const QStringList names = filesToPack(books, shelf);
   if (names.isEmpty()) throw jet::errorOf(3024, dataFolder + u"Basic.mdb"_s);
   qint64 total = 0, done = 0;

@@ -140,6 +140,17 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
   EXPECT_EQ(listed.first().path, second.archive);
 }
 
+TEST_F(BackupTest, WhatAKilledRunLeftLocksNobodyOutAndGoes) {
+  ASSERT_TRUE(pc.paths.makeFolder(settings.folder + u".packing"_s));
+  for (const char* left : {"packing.ldb", ".packing.zip", ".packing/Basic.mdb"})
+    write(settings.folder + QString::fromLatin1(left), "half");
+  const QString made = nameOf(make());
+  EXPECT_EQ(QDir(native(settings.folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList{made});
+  const jet::AloneWith another(native(settings.folder) + u"/packing"_s, 0);
+  EXPECT_EQ(failureOf([&] { make(); }).first, 3045) << "two at once would share the place they work in";
+}
+
 TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {
   auto workspace = std::make_unique<jet::Workspace>(openWorkspace(session, dataFolder));
   auto year = std::make_unique<jet::Database>(workspace->OpenDatabase(dataFolder + u"2026Foundation.mdb"_s));
