@@ -128,7 +128,7 @@ const int gathering = bench::addPair(
            sqlite3_bind_text(insert, 1, QByteArray::number(++code).constData(), -1, SQLITE_TRANSIENT);
            sqlite3_bind_text(insert, 2, reinterpret_cast<const char*>(sqlite3_column_text(sums, 7)), -1,
                              SQLITE_TRANSIENT);
-           for (const auto [to, from] : {std::pair{3, 1}, {4, 4}, {5, 8}, {6, 5}, {7, 6}, {11, 0}, {12, 3}})
+           for (const auto& [to, from] : {std::pair{3, 1}, {4, 4}, {5, 8}, {6, 5}, {7, 6}, {11, 0}, {12, 3}})
              sqlite3_bind_value(insert, to, sqlite3_column_value(sums, from));
            sqlite3_bind_double(insert, 6, sqlite3_column_double(sums, 5));
            sqlite3_bind_double(insert, 7, sqlite3_column_double(sums, 6));
