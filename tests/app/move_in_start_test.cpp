@@ -1,0 +1,52 @@
+// The ways to the program that brings old books in.
+#include "app/move_in_start.h"
+
+#include "tests/moving/jet_writer.h"
+#include "tests/support.h"
+
+namespace {
+
+using namespace tests;
+
+struct MoveInStart : testing::Test, TestPc {
+  QStringList started;
+  void SetUp() override {
+    session.AppTitle = u"해온판매"_s;
+    ASSERT_TRUE(pc.paths.makeFolder(installedDataFolder()));
+    QFile importer(pc.paths.native(u"C:\\RWGas"_s) + u"/haeon-import"_s);
+    ASSERT_TRUE(importer.open(QIODevice::WriteOnly));
+    pc.process.setStarter([this](const QString& program, const QStringList& arguments, const QString&) {
+      started = QStringList(QFileInfo(program).fileName()) + arguments;
+      return true;
+    });
+  }
+};
+
+TEST_F(MoveInStart, OldFilesInTheDataFolderAreOfferedBeforeTheStart) {
+  EXPECT_FALSE(offeredMoveIn(session)) << "an empty folder asks nothing";
+  const QString folder = pc.paths.native(installedDataFolder());
+  JetWriter(3).write(folder + u"/BASIC.MDB"_s, {{u"Client"_s, {{u"Name"_s}}, {}}});
+  prompts.expect(u"이전 형식의 자료가 있습니다."_s, false);
+  EXPECT_FALSE(offeredMoveIn(session));
+  EXPECT_TRUE(started.isEmpty());
+  prompts.expect(u"이전 형식의 자료가 있습니다."_s);
+  EXPECT_TRUE(offeredMoveIn(session));
+  EXPECT_EQ(started, (QStringList{u"haeon-import"_s, u"--window"_s, folder}));
+}
+
+TEST_F(MoveInStart, TheMenuAsksClosesTheFormsAndEndsTheProgram) {
+  bool closes = false;
+  const auto closeForms = [&] { return closes; };
+  prompts.expect(u"이전 자료 가져오기"_s, false);
+  EXPECT_FALSE(startMoveIn(session, closeForms));
+  prompts.expect(u"이전 자료 가져오기"_s);
+  EXPECT_FALSE(startMoveIn(session, closeForms)) << "a form stays";
+  EXPECT_TRUE(started.isEmpty());
+  closes = true;
+  prompts.expect(u"이전 자료 가져오기"_s);
+  EXPECT_TRUE(startMoveIn(session, closeForms));
+  EXPECT_EQ(started, (QStringList{u"haeon-import"_s, u"--window"_s}));
+  EXPECT_TRUE(session.ClosingForBackup);
+}
+
+}  // namespace
