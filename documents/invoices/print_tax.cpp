@@ -73,34 +73,37 @@ constexpr PaperItem drawnPlaces[] = {
     {serialRow, 82, Serial},
     {numberRow, 30, SupplierSerial},
     {numberRow, 67, BuyerSerial},
-    at(nameRow, 19, SupplierName).cut(18),
-    at(nameRow, 48, SupplierPerson).cut(10),
-    at(nameRow, 72, BuyerName).cut(17),
-    at(nameRow, 96, BuyerPerson).cut(14),
-    at(addressRow, 19, SupplierAddress).cut(38),
-    at(addressRow, 72, BuyerAddress).cut(38),
-    at(kindRow, 19, SupplierStatus).cut(18),
-    at(kindRow, 42, SupplierItem).cut(15),
-    at(kindRow, 72, BuyerStatus).cut(16),
-    at(kindRow, 90, BuyerItem).cut(20),
+    at(nameRow, 19, SupplierName).cut(16),
+    at(nameRow, 48, SupplierPerson).cut(7),
+    at(nameRow, 72, BuyerName).cut(15),
+    at(nameRow, 96, BuyerPerson).cut(12),
+    at(addressRow, 19, SupplierAddress).cut(36),
+    at(addressRow, 72, BuyerAddress).cut(36),
+    at(kindRow, 19, SupplierStatus).cut(16),
+    at(kindRow, 42, SupplierItem).cut(13),
+    at(kindRow, 72, BuyerStatus).cut(14),
+    at(kindRow, 90, BuyerItem).cut(18),
     {digitRow, 11, Year},
     {digitRow, 17, Month},
     {digitRow, 22, Day},
+    {totalRow, 12, Total},
+    {totalRow, 100, Word},
+};
+
+constexpr PaperItem cellPlaces[] = {
     pc::inches(firstCell + cell, digitY, Blank),
     pc::inches(firstCell + 3 * cell + indent, digitY, SupplyDigits).cells(supplyCells, cell),
     pc::inches(firstCell + (3 + supplyCells) * cell + indent, digitY, TaxDigits).cells(taxCells, cell),
-    {totalRow, 12, Total},
-    {totalRow, 100, Word},
 };
 
 constexpr PaperItem line[] = {
     {itemRow, 12, Line::Month},
     {itemRow, 15, Line::Day},
-    at(itemRow, 20, Line::Item).cut(32),
-    at(itemRow, 52, Line::Quantity).padded(9),
-    at(itemRow, 62, Line::Price).padded(10),
+    at(itemRow, 20, Line::Item).cut(29),
+    at(itemRow, 52, Line::Quantity).padded(7),
+    at(itemRow, 62, Line::Price).padded(9),
     at(itemRow, 73, Line::Supply).padded(14),
-    at(itemRow, 88, Line::Tax).padded(13),
+    at(itemRow, 88, Line::Tax).padded(12),
     {itemRow, 22, Line::Rest},
 };
 
@@ -117,9 +120,20 @@ constexpr pc::PaperForm paper(std::span<const PaperItem> items, pc::PaperSize si
           .lineRows = 1.8};
 }
 
+constexpr pc::PaperForm digits(std::span<const PaperItem> items) {
+  return {.paper = {},
+          .rowsPerInch = documentRows,
+          .columnsPerInch = documentColumns,
+          .fonts = letters,
+          .items = items,
+          .copies = 2,
+          .copyRows = copyRows};
+}
+
 }  // namespace print_tax
 
 const pc::PaperForm printTaxHalf = print_tax::paper(print_tax::halfPlaces, {}, print_tax::copyRows),
                     printTaxHalfB = print_tax::paper(print_tax::otherPlaces, {}, print_tax::copyRows),
                     printTaxDrawn = print_tax::paper(print_tax::drawnPlaces, {}, print_tax::copyRows),
-                    printTaxDot = print_tax::paper(print_tax::otherPlaces, {9.5, 11}, print_tax::dotRows);
+                    printTaxDot = print_tax::paper(print_tax::otherPlaces, {9.5, 11}, print_tax::dotRows),
+                    printTaxCells = print_tax::digits(print_tax::cellPlaces);

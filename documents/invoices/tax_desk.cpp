@@ -101,8 +101,11 @@ DocumentRun TaxDesk::issue(const TaxAsk& ask, QString& serial, const TaxPaperCho
 }
 
 DocumentRun TaxDesk::runOf(std::vector<TaxInvoice> invoices, const TaxPaperChoice& choice) {
-  const auto paper = std::make_shared<const TaxPaper>(
-      choice, readSupplier(session_).value_or(DocumentParty{}), documentMargins(session_, kind).shift());
+  const DocumentMargins margins = documentMargins(session_, kind);
+  pc::PaperShift shift = margins.shift();
+  if (choice.layout == TaxLayout::FullA4 && margins.left.isEmpty()) shift.columns = drawnFormColumns;
+  const auto paper =
+      std::make_shared<const TaxPaper>(choice, readSupplier(session_).value_or(DocumentParty{}), shift);
   const auto all = std::make_shared<const std::vector<TaxInvoice>>(std::move(invoices));
   return {.title = kind,
           .paper = paper->paper(),

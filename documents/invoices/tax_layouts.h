@@ -47,9 +47,10 @@ inline constexpr int taxLinesOnSheet = 4;
 /** Cells of the drawn row "공란수백십억천백십만천백십일십억천백십만천백십일". */
 inline constexpr int supplyCells = 11, taxCells = 10;
 
-/** printTaxHalf: the pre-printed half sheets. printTaxColumns: the other papers, whose header rows begin elsewhere; on
- *  the drawn form its digits stand in the form's cells. */
+/** The pre-printed half sheet; the papers whose header rows begin elsewhere, on the drawn form without the digits. */
 extern const pc::PaperForm printTaxHalf, printTaxHalfB, printTaxDrawn, printTaxDot;
+/** The digits in the drawn form's cells, which no margin moves sideways. */
+extern const pc::PaperForm printTaxCells;
 /** The drawn form with its one text. */
 extern const pc::PaperForm taxForm;
 enum class TaxFormText { CopyLabel };

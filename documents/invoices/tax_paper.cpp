@@ -68,6 +68,7 @@ void TaxPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const TaxInvoice&
         job.setInk(inks[size_t(copy)]);
         pc::drawPaper(job, taxForm, {margin_.rows, 0}, place, {&labels[size_t(copy)], 1});
         job.setInk({});
+        pc::drawPaper(job, printTaxCells, {margin_.rows, 0}, place, shown);
         const double half = job.paper().height / 2;
         if (copy == 1) job.line(0, half, job.paper().width, half, 0.5, true);
       }

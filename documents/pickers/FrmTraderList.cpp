@@ -26,6 +26,10 @@ TraderFound FrmTraderList(Session& session, Pickers& pickers, const QString& tex
   dialog.findBox()->setPlaceholderText("상호명으로 검색  [검색:엔터]");
   dialog.showHelp("거래처를 선택하세요.  [클릭 또는 엔터]");
   int row = 0;
+  dialog.grid()->clicked = [&](int clicked, int) {
+    row = clicked;
+    dialog.accept();
+  };
   dialog.addButton("btnSelect", "선택(&S)", [&] {
     if (dialog.grid()->activeRow() == 0) return;
     row = dialog.grid()->activeRow();

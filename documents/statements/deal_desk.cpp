@@ -130,9 +130,12 @@ DocumentRun DealDesk::issue(const DealPrint& print) {
 
 DocumentRun DealDesk::runOf(std::vector<DealStatement> statements, const DealPrint& print) {
   const QDate today = session_.pc.clock.today();
+  const DocumentMargins margins = documentMargins(session_, kind);
+  pc::PaperShift shift = margins.shift();
+  if (print.layout == DealLayout::FullA4 && margins.left.isEmpty()) shift.columns = drawnFormColumns;
   const auto paper = std::make_shared<const DealPaper>(
       DealPaperChoice{print.layout, print.vat, print.drawnForm, asked_.from != asked_.to, today},
-      readSupplier(session_).value_or(DocumentParty{}), documentMargins(session_, kind).shift());
+      readSupplier(session_).value_or(DocumentParty{}), shift);
   const auto all = std::make_shared<const std::vector<DealStatement>>(std::move(statements));
   return {.title = kind,
           .paper = paper->paper(),

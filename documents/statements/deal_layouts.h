@@ -5,6 +5,10 @@
 /** The statement forms' grid: six rows to the inch, a column as wide as a half-width character of the letters. */
 inline constexpr double documentPoints = 9.75, documentRows = 6, documentColumns = 144 / documentPoints;
 
+/** Columns that the texts of a drawn form stand to the right where the operator has set no margin: there they clear the
+ *  form's words. */
+inline constexpr double drawnFormColumns = 2;
+
 enum class DealLayout { HalfA4, FullA4, HalfA4B, Dot };
 
 /** The texts of a statement's sheet. */

@@ -376,24 +376,24 @@ TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
     EXPECT_EQ(label(1.78, 2.61), " 품              목");
     EXPECT_EQ(label(7.02, 2.59), "비 고");
     const double base = 1 + 35 * copy;
-    EXPECT_EQ(at(job, 1, base + 2.9, 18), "2026");
-    EXPECT_EQ(at(job, 1, base + 2.9, 27), "03");
-    EXPECT_EQ(at(job, 1, base + 2.9, 33), "31");
-    EXPECT_EQ(at(job, 1, base + 5.1, 23), "123-45-67891");
-    EXPECT_EQ(at(job, 1, base + 5.1, 69), "2208162517");
-    EXPECT_EQ(at(job, 1, base + 7, 19), "해온가스");
-    EXPECT_EQ(at(job, 1, base + 7, 42), "홍길동");
-    EXPECT_EQ(at(job, 1, base + 7, 65), "한라식당");
-    EXPECT_EQ(at(job, 1, base + 7, 92), "김하나");
-    EXPECT_EQ(at(job, 1, base + 11.3, 89), "한식");
-    EXPECT_EQ(at(job, 1, base + 16.92, 13), "03-02");
-    EXPECT_EQ(at(job, 1, base + 16.92, 24), "LPG (20)");
-    EXPECT_EQ(at(job, 1, base + 16.92, 59).trimmed(), "2");
-    EXPECT_EQ(at(job, 1, base + 16.92, 74).trimmed(), "30,000");
-    EXPECT_EQ(at(job, 1, base + 16.92, 87).trimmed(), "60,000");
-    EXPECT_EQ(at(job, 1, base + 13.6, 26).trimmed(), "108,000") << "48,000 before it";
-    EXPECT_EQ(at(job, 1, base + 13.6, 55).trimmed(), "60,000");
-    EXPECT_EQ(at(job, 1, base + 13.6, 80).trimmed(), "48,000");
+    EXPECT_EQ(at(job, 1, base + 2.9, 2 + 18), "2026");
+    EXPECT_EQ(at(job, 1, base + 2.9, 2 + 27), "03");
+    EXPECT_EQ(at(job, 1, base + 2.9, 2 + 33), "31");
+    EXPECT_EQ(at(job, 1, base + 5.1, 2 + 23), "123-45-67891");
+    EXPECT_EQ(at(job, 1, base + 5.1, 2 + 69), "2208162517");
+    EXPECT_EQ(at(job, 1, base + 7, 2 + 19), "해온가스");
+    EXPECT_EQ(at(job, 1, base + 7, 2 + 42), "홍길동");
+    EXPECT_EQ(at(job, 1, base + 7, 2 + 65), "한라식당");
+    EXPECT_EQ(at(job, 1, base + 7, 2 + 92), "김하나");
+    EXPECT_EQ(at(job, 1, base + 11.3, 2 + 89), "한식");
+    EXPECT_EQ(at(job, 1, base + 16.92, 2 + 13), "03-02");
+    EXPECT_EQ(at(job, 1, base + 16.92, 2 + 24), "LPG (20)");
+    EXPECT_EQ(at(job, 1, base + 16.92, 2 + 59).trimmed(), "2");
+    EXPECT_EQ(at(job, 1, base + 16.92, 2 + 74).trimmed(), "30,000");
+    EXPECT_EQ(at(job, 1, base + 16.92, 2 + 87).trimmed(), "60,000");
+    EXPECT_EQ(at(job, 1, base + 13.6, 2 + 26).trimmed(), "108,000") << "48,000 before it";
+    EXPECT_EQ(at(job, 1, base + 13.6, 2 + 55).trimmed(), "60,000");
+    EXPECT_EQ(at(job, 1, base + 13.6, 2 + 80).trimmed(), "48,000");
   }
   EXPECT_GT(std::ranges::count_if(job.items,
                                   [](const auto& item) { return item.kind == tests::PrintedItem::Line; }),
@@ -402,7 +402,7 @@ TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
   EXPECT_EQ(std::ranges::count_if(bare.items,
                                   [](const auto& item) { return item.kind != tests::PrintedItem::Text; }),
             0);
-  EXPECT_EQ(at(bare, 1, 1 + 7, 19), "해온가스");
+  EXPECT_EQ(at(bare, 1, 1 + 7, 2 + 19), "해온가스");
 }
 
 TEST_F(Deals, TheOtherHalfSheetAndTheDotPrinter) {

@@ -440,10 +440,10 @@ TEST_F(Taxes, HalfA4TextByText) {
     EXPECT_EQ(text(20.3, 12), "03");
     EXPECT_EQ(text(20.3, 15), "-") << "a month has no day";
     EXPECT_EQ(text(20.3, 20), "LPG (20)");
-    EXPECT_EQ(text(20.3, 52), "        2");
-    EXPECT_EQ(text(20.3, 62), "    30,000");
+    EXPECT_EQ(text(20.3, 52), "      2");
+    EXPECT_EQ(text(20.3, 62), "   30,000");
     EXPECT_EQ(text(20.3, 73), "        54,545");
-    EXPECT_EQ(text(20.3, 88), "        5,455");
+    EXPECT_EQ(text(20.3, 88), "       5,455");
     EXPECT_EQ(text(22.1, 22), "=== 이하 여백 ===");
     EXPECT_EQ(text(28.6, 12), "*********60,000");
     EXPECT_EQ(text(28.6, 100), "영수");
@@ -488,16 +488,16 @@ TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
       EXPECT_EQ(label(1.79 + (3 + 6 + digit) * cell + indent, y), QString("54545").mid(digit, 1));
     EXPECT_EQ(label(1.79 + (3 + 5) * cell + indent, y), "-") << "an empty cell";
     EXPECT_EQ(label(1.79 + 23 * cell + indent, y), "5") << "the tax's last digit";
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 12), "03");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 15), "02");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 8.2, 19), "해온가스");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 3.9, 82), "2603-001");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 28.6, 100), "청구");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 2 + 12), "03");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 2 + 15), "02");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 8.2, 2 + 19), "해온가스");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 3.9, 2 + 82), "2603-001");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 28.6, 2 + 100), "청구");
     const auto* title = job.at(1, 1.50, edge + 0.49);
     ASSERT_TRUE(title);
     EXPECT_EQ(title->font.family, "돋움체");
     EXPECT_EQ(title->ink.blue, copy == 0 ? 200 : 0);
-    EXPECT_EQ(job.at(1, 19 * column, (1.5 + 35.07 * copy + 8.2) * row)->ink.blue, 0) << "texts are black";
+    EXPECT_EQ(job.at(1, 21 * column, (1.5 + 35.07 * copy + 8.2) * row)->ink.blue, 0) << "texts are black";
   }
   const auto half = std::ranges::find_if(job.items, [](const auto& item) { return item.dashed; });
   ASSERT_NE(half, job.items.end());

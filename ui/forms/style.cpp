@@ -106,7 +106,7 @@ QTabBar::tab { border: 1px solid #C9D0D8; border-bottom: none; background: #E8EC
 QTabBar::tab:selected { background: #FFFFFF; color: #2B5F9E; border-top: 2px solid #2B5F9E; }
 QTabBar::tab:selected:focus { background: #DCE8F6; border: 2px solid #2B5F9E; }
 #PnlHelp { background: #E8ECF1; border: 1px solid #C9D0D8; color: #2B5F9E; padding: 2px 8px; }
-#pnlCaption { background: #FFFFFF; border: 1px solid #2B5F9E; color: #1F2733; padding: 10px 24px; }
+#frmFloatMsg #pnlCaption { background: #FFFFFF; border: 1px solid #2B5F9E; color: #1F2733; padding: 10px 24px; }
 #LblBottom { background: #E8ECF1; border: 1px solid #C9D0D8; border-left: none; color: #4A5565; padding: 2px 8px; }
 QLabel[role="value"] { background: #FFFFFF; border: 1px solid #C9D0D8; padding: 1px 4px; min-height: 1.5em; }
 QLabel[role="faint"] { color: #6B7583; }
