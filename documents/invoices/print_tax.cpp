@@ -87,13 +87,13 @@ constexpr PaperItem drawnPlaces[] = {
     {digitRow, 17, Month},
     {digitRow, 22, Day},
     {totalRow, 12, Total},
-    {totalRow, 100, Word},
 };
 
 constexpr PaperItem cellPlaces[] = {
     pc::inches(firstCell + cell, digitY, Blank),
     pc::inches(firstCell + 3 * cell + indent, digitY, SupplyDigits).cells(supplyCells, cell),
     pc::inches(firstCell + (3 + supplyCells) * cell + indent, digitY, TaxDigits).cells(taxCells, cell),
+    {totalRow, 100, Word},
 };
 
 constexpr PaperItem line[] = {

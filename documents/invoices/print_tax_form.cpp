@@ -86,7 +86,7 @@ constexpr PaperItem places[] = {
     // the head's boxes
     pc::box(0.68, edge + 0.85, 7.5, edge + 5.0, 1),
     upright(5.25, 0.36, 0.85),
-    upright(5.95, 0.36, 0.85),
+    upright(5.67, 0.36, 0.85),
     upright(7.5, 0.36, 0.85),
     across(0.36, 5.25, 7.5),
     across(0.60, 5.25, 7.5),

@@ -49,7 +49,7 @@ inline constexpr int supplyCells = 11, taxCells = 10;
 
 /** The pre-printed half sheet; the papers whose header rows begin elsewhere, on the drawn form without the digits. */
 extern const pc::PaperForm printTaxHalf, printTaxHalfB, printTaxDrawn, printTaxDot;
-/** The digits in the drawn form's cells, which no margin moves sideways. */
+/** The digits in the drawn form's cells and the word in its sentence, which no margin moves sideways. */
 extern const pc::PaperForm printTaxCells;
 /** The drawn form with its one text. */
 extern const pc::PaperForm taxForm;

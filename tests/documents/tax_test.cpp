@@ -492,7 +492,7 @@ TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
     EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 2 + 15), "02");
     EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 8.2, 2 + 19), "해온가스");
     EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 3.9, 2 + 82), "2603-001");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 28.6, 2 + 100), "청구");
+    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 28.6, 100), "청구");
     const auto* title = job.at(1, 1.50, edge + 0.49);
     ASSERT_TRUE(title);
     EXPECT_EQ(title->font.family, "돋움체");
