@@ -96,6 +96,7 @@ QString Forecast::period() const {
 bool Forecast::ExtractForecast(ForecastOf which, const QString& shownYear, const std::optional<QString>& day,
                                const std::function<bool(int, int)>& tell) {
   shownYear_ = shownYear;
+  period_ = period();
   if (which == ForecastOf::Nobody) {
     session_.prompts.MsgWarn(u"배달 예상을 추출할 고객을 구분하세요"_s, forecastTitle);
     return false;
@@ -113,7 +114,7 @@ bool Forecast::ExtractForecast(ForecastOf which, const QString& shownYear, const
   for (const jet::Database* file : files) {
     jet::Recordset rows;
     if (!OpenSnapshot(session_.prompts, *file, rows,
-                      u"Select Distinct ClientCode From Sale"_s + clause + period()))
+                      u"Select Distinct ClientCode From Sale"_s + clause + period_))
       return false;
     for (; !rows.atEnd(); rows.MoveNext()) clients.insert(rows[0].toLong());
   }
@@ -152,7 +153,7 @@ bool Forecast::read(const jet::Database& file, const QString& code, ForecastOf w
       << (which == ForecastOf::General  ? u"WHERE Client.VolumeYesNo = FALSE And "
           : which == ForecastOf::Volume ? u"WHERE Client.VolumeYesNo=True And "
                                         : u"WHERE ")
-      << u" Sale.ClientCode = " << code << u" and Sale.SaleGubun <> 4 and " << period()
+      << u" Sale.ClientCode = " << code << u" and Sale.SaleGubun <> 4 and " << period_
       << u" Order By Sale.SaleDate Desc";
   jet::Recordset line;
   if (!OpenSnapshot(session_.prompts, file, line, sql)) return false;

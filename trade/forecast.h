@@ -52,4 +52,5 @@ class Forecast {
   Session& session_;
   SpreadModel grid_;
   QString shownYear_;
+  QString period_;  ///< the condition on the days that are looked through
 };
