@@ -36,10 +36,10 @@ class Poster {
                                                  : ItemChoice{u"LPG"_s, u"50"_s, 98000, 0};
     const int row = entry_.enterKey(grid().MaxRows(), LineCol::Partner, u"손님"_s).row;
     if (row == 0) return;
-    const QStringList kinds = saleLabels(sheet);
+    const QStringList kinds = labelsOf(saleKinds(sheet));
     begin(row, [&] { entry_.finishCell(row, LineCol::Kind, kinds.at(below(int(kinds.size())))); });
     if (failed_ || key(row).isEmpty()) return;
-    if (isCollection(kind(row))) {
+    if (posting_.kindOf(row).isPayment()) {
       finish(row, LineCol::Paid, 1 + below(9000));
     } else {
       step(row,
@@ -69,7 +69,7 @@ class Poster {
   void begin(int row, const std::function<void()>& work) {
     timed(key(row), work);
     if (failed_ || key(row).isEmpty()) return;
-    tell(row, saleKindAt(posting_.sheet(), 0), u"0 0 0"_s);
+    tell(row, posting_.kinds().front().code, u"0 0 0"_s);
   }
 
   /** A line whose step failed is left as it is; the operator would look first. */
@@ -79,7 +79,7 @@ class Poster {
     if (failed_) return;
     QStringList figures;
     for (const int col : {LineCol::Number, LineCol::Paid, LineCol::Trust})
-      figures << QString::number(saleWhole(grid().text(row, col)));
+      figures << QString::number(lineWhole(grid().text(row, col)));
     tell(row, kind(row), figures.join(u' '));
   }
 
