@@ -116,7 +116,9 @@ void setJiroPaper(Session& session, GiroPaper paper) {
 std::optional<SlipBank> onlyBank(Session& session) {
   jet::Recordset banks;
   if (!OpenSnapshot(session.prompts, session.dbBasic, banks, u"Select BName, BNumber, BUser From Bank"_s) ||
-      banks.RecordCount() != 1)
+      banks.atEnd())
     return {};
-  return SlipBank{banks[0].toText(), banks[1].toText(), banks[2].toText()};
+  const SlipBank bank{banks[0].toText(), banks[1].toText(), banks[2].toText()};
+  banks.MoveNext();
+  return banks.atEnd() ? std::optional(bank) : std::nullopt;
 }

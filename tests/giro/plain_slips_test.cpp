@@ -236,6 +236,7 @@ TEST_F(PlainSlips, GeneralGiroOnA4WithThreeBanks) {
 TEST_F(PlainSlips, A4PaperThatIsPrintedAlreadyAndThePaperWithOneLineOfArrears) {
   session.dbBasic.Execute("Update User Set Tel = '053-700-0000'");
   input.companyPreprinted = true;
+  input.banks = {};
   print(GiroPaper::JiroOrgA4);
   EXPECT_EQ(job().at(1, 5 / 15.0, 13.1 / 8)->text, QString(10, ' '));
   EXPECT_EQ(job().at(1, 50 / 15.0, 20.0 / 8)->text, QString(11, ' '));
