@@ -18,16 +18,17 @@ void DateRangeBoxes::set(const QString& from, const QString& to, const QDate& em
   for (int end = 0; end < 2; ++end) boxes_[end]->setDateText(taken_[end]);
 }
 
-void DateRangeBoxes::check(int end) {
+bool DateRangeBoxes::check(int end) {
   const QString typed = boxes_[end]->dateText();
-  if (typed == taken_[end]) return;
+  if (typed == taken_[end]) return true;
   const QString date = documentDate(form_.session(), typed);
   if (date.isEmpty()) {
     boxes_[end]->setDateText(taken_[end]);
     Form::focus(boxes_[end]);
-    return;
+    return false;
   }
   taken_[end] = date;
   boxes_[end]->setDateText(date);
   if (changed) changed();
+  return true;
 }

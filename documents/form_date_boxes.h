@@ -16,6 +16,8 @@ class DateRangeBoxes {
   DateBox* box(int end) const { return boxes_[end]; }
   /** An empty date takes the one given for it. */
   void set(const QString& from, const QString& to, const QDate& emptyFrom, const QDate& emptyTo);
+  /** What was typed becomes the range, also in a box that is not left yet. False after telling that it is no date. */
+  bool take() { return check(0) && check(1); }
   QDate from() const { return dayOf(0); }
   QDate to() const { return dayOf(1); }
   /** Told after a box took another date. */
@@ -23,7 +25,7 @@ class DateRangeBoxes {
 
  private:
   QDate dayOf(int end) const { return QDate::fromString(taken_[end], Qt::ISODate); }
-  void check(int end);
+  bool check(int end);
 
   Form& form_;
   DateBox* boxes_[2];

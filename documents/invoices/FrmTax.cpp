@@ -274,6 +274,7 @@ TaxAsk FrmTax::ask() const {
 }
 
 void FrmTax::gather() {
+  if (!dates_->take()) return;
   const BusyPointer busy;
   if (!desk_.gather(ask())) return focus(dates_->box(0));
   showSums();

@@ -199,6 +199,7 @@ DealAsk FrmDealList::ask() const {
 }
 
 void FrmDealList::search() {
+  if (!dates_->take()) return;
   const BusyPointer busy;
   all_->setChecked(false);
   const bool found = desk_.search(ask());

@@ -211,6 +211,7 @@ TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
   EXPECT_EQ(grid->model().MaxRows(), 15) << "it left the list";
   form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
   EXPECT_EQ(grid->model().text(1, DealCol::ClientName), "한라식당");
+  tests::show(form);  // the bar of the run was in front
   grid->setFocus();
   tests::key(Qt::Key_Space);
   printers.refusal = "용지가 없습니다.";
@@ -293,6 +294,7 @@ TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
   EXPECT_EQ(box("Txt일련번호2"), "002");
   form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
   EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "2603001");
+  tests::show(form);  // the bar of the run was in front
   grid->setFocus();
   grid->setActiveCell(1, TaxCol::Client);
   pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
@@ -307,6 +309,7 @@ TEST_F(TaxForm, F5ChangesTheIssueDateAndEscLeavesTheDatesFirst) {
   grid->setActiveCell(1, TaxCol::Client);
   tests::key(Qt::Key_F5);
   ASSERT_TRUE(grid->isEditing());
+  tests::key(Qt::Key_A, Qt::ControlModifier);
   tests::type("20260330");
   tests::key(Qt::Key_Return);
   EXPECT_EQ(grid->model().text(1, TaxCol::IssueDate), "2026-03-30");
