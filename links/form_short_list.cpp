@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 
 #include "ui/forms/form_ini.h"
-#include "ui/forms/style.h"
 #include "ui/grid/spread.h"
 
 using namespace Qt::StringLiterals;
@@ -43,7 +42,7 @@ ShortListDialog::ShortListDialog(const ShortListKind& kind, Session& session, bo
     const int row = hints->rowCount();
     hints->addWidget(new QLabel(of), row, 0);
     auto* const words = new QLabel(text);
-    words->setStyleSheet(u"color:"_s + look::faintInk.name());
+    words->setProperty("role", u"faint"_s);
     hints->addWidget(words, row, 1);
   };
   for (int at = 0; at + 1 < kind.hints.size(); at += 2) hint(kind.hints[at], kind.hints[at + 1]);
