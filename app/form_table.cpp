@@ -26,6 +26,7 @@
 #include "links/form_short_list.h"
 #include "links/frmCar.h"
 #include "links/frmDm.h"
+#include "links/frmPrtSafe.h"
 #include "master/buildings/frmHouseStyle.h"
 #include "master/catalogue/frmGasUtil.h"
 #include "master/catalogue/frmVolume.h"
@@ -96,6 +97,7 @@ const FormEntry formTable[] = {
     formEntry<frmPrtJiroOrg>(u"frmPrtJiroOrg"),
     formEntry<frmPrtJiroOrgA4>(u"frmPrtJiroOrgA4"),
     formEntry<frmPrtMicr>(u"frmPrtMicr"),
+    formEntry<frmPrtSafe>(u"frmPrtSafe"),
     formEntry<frmRefillState>(u"frmRefillState"),
     formEntry<frmResCAN>(u"frmResCAN"),
     formEntry<frmResponse>(u"frmResponse"),

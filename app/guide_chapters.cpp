@@ -99,6 +99,7 @@ constexpr Chapter chapters[] = {
     {u"frmReport", reports},
     {u"FrmSMS", u"문자 보내기"},
     {u"frmDm", u"DM 발송"},
+    {u"frmPrtSafe", u"안전관리대장"},
     {u"frmCar", fleet},
     {u"frmCarRes", fleet},
     {u"frmCaRepairUnit", fleet},

@@ -292,7 +292,7 @@ void yearEnd(frmMain& window, Session& session, Photographer& photographer) {
 
 void small(frmMain& window, Session& session, Photographer& photographer) {
   for (const char* name : {"frmUser", "FrmPath", "FrmNetDrive", "frmAbout", "frmPrtChange", "FrmSetPrinter",
-                           "FrmMargin", "FrmPrintSection", "frmCarRes", "frmCaRepairUnit"}) {
+                           "FrmMargin", "FrmPrintSection", "frmCarRes", "frmCaRepairUnit", "frmPrtSafe"}) {
     // A dialog runs inside openForm; a child is taken from the main window. The profile asks for the password first.
     const WhenModal then([&](QWidget& box) {
       if (box.objectName() == "frmSecurity") {

@@ -1,4 +1,4 @@
-// The repair log, its pick lists and the labels, by keys on the real windows.
+// The repair log, its pick lists, the safety register and the labels, by keys on the real windows.
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
@@ -11,6 +11,8 @@
 #include "links/form_short_list.h"
 #include "links/frmCar.h"
 #include "links/frmDm.h"
+#include "links/frmPrtSafe.h"
+#include "pc/reports.h"
 #include "tests/idle_context.h"
 #include "tests/recorded_print.h"
 #include "tests/support.h"
@@ -22,11 +24,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+struct KeptReports : pc::Reports {
+  std::vector<pc::ReportRequest> shown;
+  void show(const pc::ReportRequest& request) override { shown.push_back(request); }
+};
+
 struct SideJobs : testing::Test, tests::TestPc {
   tests::IdleContext idle{session};
+  KeptReports reports;
 
   SideJobs() {
     openBooks(QDate(2026, 3, 16));
+    session.reports = &reports;
     for (const char* sql :
          {"Insert Into Response(Name) Values('김배달')", "Insert Into Response(Name) Values('박기사')",
           "Insert Into CaRes(CarNo, ResName) Values('1234','김배달')",
@@ -149,6 +158,33 @@ TEST_F(SideJobs, APickListIsKeptByKeysAndSavedOnTheWayOut) {
   tests::key(Qt::Key_Escape);
   EXPECT_FALSE(cars.isVisible());
   EXPECT_EQ(answer(u"Select Count(*) From CaRes"_s), u"2"_s) << "not saved";
+}
+
+TEST_F(SideJobs, TheSafetyRegisterSelectsItsDays) {
+  frmPrtSafe form(idle.context);
+  tests::show(form);
+  tests::grab(form, u"frmPrtSafe"_s);
+  auto* const from = form.findChild<QLineEdit*>(u"txtDate0"_s);
+  EXPECT_EQ(from->text(), u"2026-03-01"_s);
+  form.findChild<QLineEdit*>(u"TxtMon"_s)->setText(u"3"_s);
+  for (int step = 0; step < 3; ++step) tests::key(Qt::Key_Return);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), u"BtnPrint"_s);
+  tests::key(Qt::Key_Return);
+  ASSERT_EQ(reports.shown.size(), 1u);
+  const pc::ReportRequest& request = reports.shown.front();
+  EXPECT_EQ(request.file, u"safenote.rpt"_s);
+  EXPECT_EQ(request.selection, u"{Sale.SaleDate} >= '2026-03-01'  and {Sale.SaleDate} <= '2026-03-16'"_s);
+  EXPECT_EQ(request.formulas, (QStringList{u"DDay= '2026-03-01 ~ 2026-03-16'"_s, u"DMon= '3'"_s}));
+  EXPECT_EQ(request.liveFiles, QStringList{u"C:\\RWGas\\Dbs\\2026Foundation.mdb"_s});
+
+  from->setText(u"2026-02-30"_s);
+  prompts.expect(u"날짜입력이 잘못되었습니다!"_s);
+  form.findChild<QPushButton*>(u"BtnPrint"_s)->click();
+  EXPECT_TRUE(from->hasFocus());
+  from->setText(u"2019-01-01"_s);
+  prompts.expect(u"2019년의 자료 파일이 없습니다!"_s);
+  form.findChild<QPushButton*>(u"BtnPrint"_s)->click();
+  EXPECT_EQ(reports.shown.size(), 1u);
 }
 
 TEST_F(SideJobs, LabelsGoToTheChosenPrinter) {
