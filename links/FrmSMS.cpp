@@ -26,7 +26,7 @@ FrmSMS::FrmSMS(FormContext& context, QWidget* parent)
     showCount();
     return true;
   };
-  setHelp(grdList_, u"스페이스나 클릭으로 보낼 거래처를 선택합니다"_s);
+  grdList_->cellEntered = [this](int, int) { showHelp(u"스페이스나 클릭으로 보낼 거래처를 선택합니다"_s); };
   body()->addWidget(grdList_, 1);
   body()->addWidget(buildFoot());
   search();

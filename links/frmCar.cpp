@@ -31,6 +31,7 @@ frmCar::frmCar(FormContext& context, QWidget* parent)
   };
   grid_->enterPressed = [this](int row, int col) { enterPressed(row, col); };
   grid_->cellLeaving = [this](int row, int, int toRow, int) { return mayLeave(row, toRow); };
+  grid_->cellEntered = [this](int, int) { showHint(); };
   body()->addWidget(grid_, 1);
   pnl_ = new QLabel(this);
   pnl_->setObjectName(u"pnl"_s);
@@ -96,9 +97,13 @@ QWidget* frmCar::buildHead() {
 /** The switch, the hint and the sum follow what the log shows. */
 void frmCar::showState() {
   (log_.asks() ? asking_ : entering_)->setChecked(true);
-  setHelp(grid_, log_.asks() ? u"차량정비 내용을 기간별/차량별로 조회합니다"_s
-                             : u"차량정비내용을 입력. 자료삭제:Delete, 차량/정비부품조회:F12"_s);
+  showHint();
   guard([this] { pnl_->setText(log_.summary()); });
+}
+
+void frmCar::showHint() {
+  showHelp(log_.asks() ? u"차량정비 내용을 기간별/차량별로 조회합니다"_s
+                       : u"차량정비내용을 입력. 자료삭제:Delete, 차량/정비부품조회:F12"_s);
 }
 
 void frmCar::toNewLine() {

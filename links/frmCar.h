@@ -17,6 +17,7 @@ class frmCar : public Form {
  private:
   QWidget* buildHead();
   void showState();
+  void showHint();
   void toNewLine();
   void ask();
   void enterAll();

@@ -24,7 +24,7 @@ frmDm::frmDm(FormContext& context, QWidget* parent)
     showCounts();
     return true;
   };
-  setHelp(grid_, u"스페이스나 클릭으로 보낼 고객을 선택합니다"_s);
+  grid_->cellEntered = [this](int, int) { showHelp(u"스페이스나 클릭으로 보낼 고객을 선택합니다"_s); };
   body()->addWidget(grid_, 1);
   body()->addWidget(buttonRow(
       {addButton("BtnPrt", u"봉투(&P)"_s, [this] { print(DmPaper::Envelope); }),

@@ -33,7 +33,11 @@ bool SmsSearch::search(SmsFilter filter, const QString& name, qint64 balance,
   jet::Recordset clients;
   if (!OpenSnapshot(session_.prompts, session_.dbBasic, clients, clientStatement(filter, name, balance)))
     return false;
-  const Teller tell = beginWork ? beginWork(int(clients.RecordCount())) : nullptr;
+  if (!clients.atEnd()) {
+    clients.MoveLast();  // only then the rows are counted
+    clients.MoveFirst();
+  }
+  const Teller tell = beginWork ? beginWork(clients.RecordCount()) : nullptr;
   std::vector<std::vector<QString>> rows;
   for (; !clients.atEnd(); clients.MoveNext()) {
     rows.push_back({u"0"_s, clients[u"Name"_s].toText(), clients[u"Tel"_s].toText(),

@@ -66,11 +66,13 @@ TEST_F(SideJobs, ALineIsEnteredWithTheListsBehindF12) {
     tests::key(Qt::Key_Return);
   });
   tests::key(Qt::Key_F12);
+  tests::show(form);  // off the screen no window comes back to the front by itself
   EXPECT_EQ(grid.model().text(2, CarCol::CarNo), u"5678"_s);
   EXPECT_EQ(grid.model().text(2, CarCol::Person), u"박기사"_s) << "the vehicle brings its driver";
   EXPECT_EQ(grid.activeCol(), CarCol::Content);
   tests::whenModal<QDialog>([](QDialog&) { tests::key(Qt::Key_Return); });
   tests::key(Qt::Key_F12);
+  tests::show(form);
   EXPECT_EQ(grid.model().text(2, CarCol::Content), u"엔진오일 교환"_s);
   tests::type(u"65000"_s);
   tests::key(Qt::Key_Return);

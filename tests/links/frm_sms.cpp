@@ -90,7 +90,7 @@ TEST_F(SmsForm, ANameIsFoundByEnterAndAFailureLeavesTheWindow) {
   EXPECT_EQ(list.text(1, SmsCol::Name), u"해맑은세탁소"_s);
   name->setFocus();
   name->setText(u"'"_s);
-  prompts.expect(u"LIKE"_s);
+  prompts.expect(u"Like"_s);
   tests::key(Qt::Key_Return);
   EXPECT_TRUE(form.isVisible());
 }
