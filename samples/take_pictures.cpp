@@ -124,7 +124,7 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
     const std::string_view shown = name;
     if (shown == "frmSale" || shown == "frmBuy") {  // on a line, so that its customer or station is shown
       QCoreApplication::processEvents();
-      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+      if (QWidget* const hand = form->focusWidget()) QTest::keyClick(hand, Qt::Key_Up);
     }
     if (shown == "frmVolumeEstimate") {
       form->findChild<QRadioButton*>("SSOption1(2)")->click();

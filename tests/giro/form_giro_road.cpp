@@ -53,8 +53,9 @@ TEST(GiroRoad, TheSlipShowsWhatTheReadingScreenShows) {
     QStringList texts;
     for (const QString& text : job.texts()) texts << text.trimmed();
     // 2% of 12,000 in arrears; 2% of 58,240 is 1,164, cut to ten
-    for (const char* text : {"달빛식당", "1,100", "1,130", "30", "45,000", "1,000", "12,000", "240", "58,240",
-                             "1,160", "59,400", "대구"})
+    EXPECT_FALSE(texts.filter("달빛식당").isEmpty());
+    for (const char* text :
+         {"1,100", "1,130", "30", "45,000", "1,000", "12,000", "240", "58,240", "1,160", "59,400", "대구"})
       EXPECT_TRUE(texts.contains(QString::fromUtf8(text))) << text;
     // 58240 from the right: 0 + 12 + 2 + 56 + 15 = 85
     EXPECT_EQ(texts.filter("+582405<").size(), QString(paper).startsWith("BtnOCR") ? 1 : 0)

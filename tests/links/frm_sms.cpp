@@ -20,7 +20,7 @@ namespace {
 struct SmsForm : testing::Test, tests::TestPc {
   SmsForm() {
     openBooks(QDate(2026, 3, 16));
-    for (const QString& client : {u"'달빛식당', '010-1234-5678,02-333-4444', 152000"_s,
+    for (const QString& client : {u"'달빛식당', '02-333-4444,010-1234', 152000"_s,
                                   u"'가람상회', '010-5555-6666', 0"_s, u"'해맑은세탁소', '', 38000"_s})
       session.dbBasic.Execute(u"Insert Into Client(Name, Tel, GasInit) Values("_s + client + u")"_s);
   }

@@ -211,6 +211,7 @@ TEST_P(Registers, WhatWasTypedGoesOnlyAfterAQuestion) {
     prompts.expect(question, false);
     form->parentWidget()->close();
     stays("the window's own button");
+    pc.settings.SaveSetting("Backup", "설정", "종료알림", "0");  // the plain question
     prompts.expect("종료");
     prompts.expect(question, false);
     window->close();

@@ -90,7 +90,7 @@ TEST_F(RegisterTexts, ABankThatAnotherToolNamedSoTakesNoOtherAlong) {
   ASSERT_TRUE(banks.load());
   banks.select(2);
   EXPECT_THROW(banks.remove(), jet::Error);
-  EXPECT_EQ(stored(u"Bank"_s), u"국민|1||x' Or '1'='1|2|"_s);
+  EXPECT_EQ(stored(u"Bank"_s), u"국민|1|;x' Or '1'='1|2|"_s);
 }
 
 }  // namespace
