@@ -156,6 +156,11 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
     const QString name = QString::fromLatin1(paper).section(':', 0, 0);
     const WhenModal then([&](QWidget& box) {
       auto* const slips = qobject_cast<QDialog*>(&box);
+      if (!slips) {  // the preview over its dialog
+        photographer.take(box, "FrmPaperView");
+        box.close();
+        return;
+      }
       if (slips->objectName() != name) {
         if (auto* const told = qobject_cast<QMessageBox*>(slips)) {
           QTextStream(stderr) << told->text() << '\n';
@@ -166,11 +171,7 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
       slips->findChild<QRadioButton*>("Opt4")->click();
       photographer.take(*slips, name);
       slips->findChild<QPushButton*>("BtnJiro")->click();
-      if (name == "frmPrtMicr") {
-        slips->findChild<QPushButton*>("BtnPreview")->click();
-        if (auto* const view = slips->findChild<QWidget*>("FrmPaperView"))
-          photographer.take(*view, "FrmPaperView");
-      }
+      if (name == "frmPrtMicr") slips->findChild<QPushButton*>("BtnPreview")->click();
       slips->reject();
     });
     window.openForm(QString::fromLatin1(paper));
