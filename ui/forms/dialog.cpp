@@ -103,5 +103,7 @@ void Dialog::keyPressEvent(QKeyEvent* event) {
 
 void Dialog::showEvent(QShowEvent* event) {
   if (paths_ && !event->spontaneous()) FormIni(*paths_).LoadFormIni(*this);
+  // Texts that came after the building, or a place remembered with smaller letters, cut no button.
+  if (!event->spontaneous()) resize(size().expandedTo(sizeHint()));
   QDialog::showEvent(event);
 }
