@@ -77,6 +77,7 @@ TEST_F(MapPaper, WithoutAFileTheBoxSaysSoAndTheNextCustomerTakesItsPlace) {
   EXPECT_FALSE(MapHandshake(session).handOver(0));
   choice.reset();
   prompts.expect("약도 출력");
+  tests::show(form);
   tests::key(Qt::Key_F10);
   EXPECT_EQ(printers.jobs.size(), 2u) << "he left the question for the printer";
 }
