@@ -47,6 +47,8 @@ FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
     file->exclusiveHandles += int(exclusive);
   } catch (const Error& error) {
     if (file) --file->handles;
+    // As behind a statement: what a silent disk or network left in the connection, an open transaction too, goes with it.
+    if (error.number() == 3043 && groupDepth_ == 0) disconnect();
     tidy();
     if (error.number() == 3261) fail(exclusive ? 3045 : 3356, written);
     throw;
