@@ -15,6 +15,11 @@ namespace {
 class Progress {
  public:
   Progress(const QString& caption, QWidget* over) : caption_(caption), over_(over) {}
+  /** The last box stood over a window that goes: the hand comes back to the main window. */
+  ~Progress() {
+    window_.reset();
+    over_->activateWindow();
+  }
 
   void tell(const QString& text, int done, int total) {
     if (!window_) window_ = std::make_unique<frmNextYear>(caption_, over_);
