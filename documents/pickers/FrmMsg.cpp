@@ -20,6 +20,9 @@ std::optional<PrintMethodChoice> FrmMsg(Session& session, const PrintMethodQuest
     rows->addWidget(papers.back());
   }
   papers.front()->setChecked(true);
+  // Tab comes to the chosen one, from which the arrows choose another.
+  for (auto* each : papers)
+    if (!each->isChecked()) each->setFocusPolicy(Qt::ClickFocus);
   dialog.body()->addWidget(group);
   std::optional<PrintMethodChoice> chosen;
   const auto choose = [&](bool dot) {
