@@ -19,6 +19,10 @@ class Trade {
     write(town.customers.size() - 1, 1, text(gases[1].name), number(gases[1].size), 66000, 1, 16000,
           callerOwes);
     town.customers.back().gasInit = callerOwes;
+    GasStock& delivered = town.stocks[1];
+    delivered.full -= 1;
+    delivered.empty += 1;
+    delivered.kilograms -= gases[1].size;
     for (QDate day(today.year() - 1, 1, 2); day < today; day = day.addDays(1)) {
       if (day.dayOfWeek() == Qt::Sunday) continue;
       today_ = day.toString(u"yyyy-MM-dd");
