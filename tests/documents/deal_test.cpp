@@ -1,21 +1,16 @@
 // Statements: what the list holds, what issuing does to the data, what stands where on the four papers.
 #include "documents/statements/deal_desk.h"
-#include "papers/paper_printer.h"
 #include "store/schema.h"
 #include "store/year_file.h"
-#include "tests/documents/places.h"
-#include "tests/recorded_print.h"
-#include "tests/support.h"
+#include "tests/documents/document_desk.h"
 
 namespace {
 
 using tests::column, tests::row;
 
-struct Deals : testing::Test {
+struct Deals : tests::DocumentDesk {
   Deals() {
-    pc.openBooks(QDate(2026, 3, 31));
     upgrades::makeDealList(session);
-    session.printers = &printers;
     session.dbBasic.Execute(
         "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
         "'123-45-67891', '서울 중구 1', '소매', '가스')");
@@ -43,28 +38,6 @@ struct Deals : testing::Test {
     return {
         .from = QDate::fromString(from, Qt::ISODate), .to = QDate::fromString(to, Qt::ISODate), .tab = tab};
   }
-  QString first(const jet::Database& db, const QString& sql) {
-    const auto rows = db.OpenRecordset(sql);
-    return rows.atEnd() ? "-" : rows[0].toText();
-  }
-  QString cells(DealDesk& desk, int line, std::initializer_list<int> columns) {
-    QStringList found;
-    for (const int each : columns) found << desk.grid().text(line, each);
-    return found.join('|');
-  }
-  const tests::RecordedJob& print(const DocumentRun& run) {
-    runDocuments(onPrinter(session, printers.defaultName()), run);
-    return *printers.jobs.back();
-  }
-  /** The text at a row and column of a copy. */
-  QString at(const tests::RecordedJob& job, int page, double y, double x) {
-    const auto* item = job.at(page, x * column, y * row);
-    return item ? item->text : "-";
-  }
-
-  tests::TestPc pc;
-  Session& session = pc.session;
-  tests::RecordedPrinters printers;
 };
 
 TEST_F(Deals, TheListIsWhatIsPendingByDateAndCollectionsAreNeverInIt) {

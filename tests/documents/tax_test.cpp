@@ -2,22 +2,17 @@
 #include "documents/invoices/new_acount.h"
 #include "documents/invoices/tax_bulk.h"
 #include "documents/invoices/tax_desk.h"
-#include "papers/paper_printer.h"
 #include "store/business_number.h"
 #include "store/schema.h"
 #include "store/year_file.h"
-#include "tests/documents/places.h"
-#include "tests/recorded_print.h"
-#include "tests/support.h"
+#include "tests/documents/document_desk.h"
 
 namespace {
 
 using tests::column, tests::row;
 
-struct Taxes : testing::Test {
+struct Taxes : tests::DocumentDesk {
   Taxes() {
-    pc.openBooks(QDate(2026, 3, 31));
-    session.printers = &printers;
     session.dbBasic.Execute(
         "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
         "'1234567891', '서울 중구 1', '소매', '가스')");
@@ -41,32 +36,11 @@ struct Taxes : testing::Test {
   TaxAsk month(TaxTab tab = TaxTab::Pending, std::optional<TaxGathering> gathering = TaxGathering::Monthly) {
     return {.from = QDate(2026, 3, 1), .to = QDate(2026, 3, 31), .gathering = gathering, .tab = tab};
   }
-  QString first(const jet::Database& db, const QString& sql) {
-    const auto rows = db.OpenRecordset(sql);
-    return rows.atEnd() ? "-" : rows[0].toText();
-  }
-  QString cells(TaxDesk& desk, int line, std::initializer_list<int> columns) {
-    QStringList found;
-    for (const int each : columns) found << desk.grid().text(line, each);
-    return found.join('|');
-  }
-  const tests::RecordedJob& print(const DocumentRun& run) {
-    runDocuments(onPrinter(session, printers.defaultName()), run);
-    return *printers.jobs.back();
-  }
-  QString at(const tests::RecordedJob& job, int page, double y, double x) {
-    const auto* item = job.at(page, x * column, y * row);
-    return item ? item->text : "-";
-  }
   void issueAll(TaxDesk& desk, const TaxAsk& ask, QString& serial, const TaxPaperChoice& choice = {}) {
     desk.gather(ask);
     desk.ticks().setAll(true);
     print(desk.issue(ask, serial, choice));
   }
-
-  tests::TestPc pc;
-  Session& session = pc.session;
-  tests::RecordedPrinters printers;
 };
 
 using namespace TaxCol;
