@@ -9,6 +9,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "documents/form_sections.h"
 #include "documents/invoices/tax_bulk.h"
 #include "papers/form_document_run.h"
 #include "papers/paper_printer.h"
@@ -35,20 +36,10 @@ QWidget* tightRow(QWidget* parent, QHBoxLayout*& row) {
 
 FrmTax::FrmTax(FormContext& context, QWidget* parent)
     : Form("FrmTax", "세금계산서 발행", context.session, parent), context_(context), desk_(context.session) {
-  tabs_ = new QTabBar(this);
-  tabs_->setObjectName("tabSection");
-  tabs_->setExpanding(false);
-  tabs_->setFocusPolicy(Qt::NoFocus);
-  tabs_->addTab("발행할 내역");
-  tabs_->addTab("발행한 내역");
+  tabs_ = sectionTabs(this);
   grid_ = addSpread("grdList", desk_.grid());
   grid_->setFillColumn(TaxCol::Item);
-  auto* const head = new QVBoxLayout;
-  head->setSpacing(0);
-  head->addWidget(tabs_);
-  head->addWidget(questionRow());
-  head->addWidget(choiceRow());
-  body()->addLayout(head);
+  body()->addLayout(sectionHead({tabs_, questionRow(), choiceRow()}));
   body()->addWidget(grid_, 1);
   body()->addWidget(sumRow());
   setBottomLine(keysFirst);

@@ -3,31 +3,20 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <stdexcept>
 
-#include "samples/sample_books.h"
-#include "tests/support.h"
+#include "tests/day/sample_folder.h"
 
 namespace {
 
 TEST(SampleYearEnd, DecemberIsClosedAndJanuaryBillsCarryWhatItLeft) {
-  QTemporaryDir root;
-  {
-    qputenv("HAEON_CLOCK", samples::closingClock);
-    pc::Pc pc(root.path());
-    tests::ScriptedPrompts prompts;
-    samples::makeBooks(pc, prompts);
-  }
+  const tests::SampleFolder books(samples::closingClock);
   samples::YearEndReport year;
   try {
     year = samples::playYearEnd(
         [&](const QString& clock) {
-          samples::Stage::Options options;
-          options.programs = HAEON_PROGRAMS;
-          options.pcRoot = root.path();
+          samples::Stage::Options options = books.options();
           options.clock = clock;
-          options.pictures = qEnvironmentVariable("HAEON_PICTURES");
           return options;
         },
         [](const QString&) {});
