@@ -33,4 +33,10 @@ hits=$(grep -nE '\b(Get|Save)Setting\(' $(sources . | grep -vE '^(tests/|pc/sett
 # Nothing joined into a statement leaves its place.
 tools/plain_texts $(echo "$subjects" | grep -vE '^(store/jet|pc|ui)/') ||
   say "a value could become part of a statement"
+
+# What the texts for developers and operators name is there, and every folder stands in the map.
+tools/doc_paths $(git ls-files '*.md') || say "a text names a path that is not there"
+for folder in $(sources . | grep / | cut -d/ -f1 | sort -u); do
+  grep -q "^| \`$folder/\`" README.md || say "$folder/ is not in the README's map"
+done
 exit $bad
