@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr double readable = 1'000'000, tenThousand = 10'000;  ///< won
+constexpr double readable = 100'000, tenThousand = 10'000;  ///< won
 
 /** The labels' order, the greatest first. */
 std::vector<size_t> largest(const std::vector<double>& values, size_t most) {

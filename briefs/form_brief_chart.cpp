@@ -28,6 +28,7 @@ namespace {
 constexpr QSize paperSize{1120, 380};  ///< of the picture on paper, in pixels of the screen
 constexpr int paperScale = 3;
 constexpr int longestLabel = 12;  ///< characters
+constexpr int mostLabels = 16;    ///< of a lying axis
 
 QColor seriesColour(size_t at) {
   const QColor colours[] = {look::accent, look::warning, look::faintInk};
@@ -97,16 +98,18 @@ void addAxes(QChart& made, const BriefChart& chart, const ChartData& data) {
   figures->setTitleBrush(look::faintInk);
   auto* const labels = new QBarCategoryAxis;
   QStringList texts;
-  for (const QString& label : data.labels) texts << shortLabel(label);
+  const qsizetype each = isRanking(chart) ? 1 : (data.labels.size() + mostLabels - 1) / mostLabels;
+  for (qsizetype at = 0; at < data.labels.size(); ++at)
+    texts << (at % each ? u""_s : shortLabel(data.labels[at]));  // a month's days: every other one is named
   // Two labels of one text would be one place of the axis.
   for (qsizetype at = 0; at < texts.size(); ++at)
     while (texts.indexOf(texts[at]) < at) texts[at] += u' ';
   if (isRanking(chart)) std::ranges::reverse(texts);
   labels->append(texts);
-  if (!isRanking(chart) && texts.size() > 16) labels->setLabelsAngle(-90);
   style(figures);
   style(labels);
   labels->setGridLineVisible(false);
+  labels->setTruncateLabels(false);  // two figures in a narrow place are figures, not dots
   made.addAxis(labels, isRanking(chart) ? Qt::AlignLeft : Qt::AlignBottom);
   made.addAxis(figures, isRanking(chart) ? Qt::AlignBottom : Qt::AlignLeft);
   for (QAbstractSeries* const series : made.series()) {

@@ -165,23 +165,23 @@ TEST(ChartData, TakesItsFiguresFromTheRows) {
   const std::vector<BriefColumn> columns{
       {.header = "고객"}, {.header = "금액", .look = Money}, {.header = "개수", .look = Pieces}};
   const std::vector<BriefCells> rows{
-      {"가", "500", "1"}, {"나", "999999", "2"}, {"가", "1000", "30"}, {"다", "-7", ""}};
+      {"가", "500", "1"}, {"나", "99999", "2"}, {"가", "1000", "30"}, {"다", "-7", ""}};
   ChartData data = chartData({BriefChart::Kind::Bars, "", 1, {2, 3}}, columns, rows);
   EXPECT_EQ(data.labels, QStringList({"가", "나", "가", "다"})) << "each row for itself";
   EXPECT_EQ(data.names, QStringList({"금액", "개수"}));
   EXPECT_EQ(data.unit, "원");
-  EXPECT_EQ(data.series[0], (std::vector<double>{500, 999999, 1000, -7}));
+  EXPECT_EQ(data.series[0], (std::vector<double>{500, 99999, 1000, -7}));
   EXPECT_EQ(data.series[1], (std::vector<double>{1, 2, 30, 0}));
   data = chartData({.kind = BriefChart::Kind::Bars, .label = 1, .series = {3, 2}, .byLabel = true, .most = 2},
                    columns, rows);
   EXPECT_EQ(data.labels, QStringList({"가", "나"}))
       << "the greatest by the first series, rows of one name together";
   EXPECT_EQ(data.series[0], (std::vector<double>{31, 2}));
-  EXPECT_EQ(data.series[1], (std::vector<double>{1500, 999999}));
+  EXPECT_EQ(data.series[1], (std::vector<double>{1500, 99999}));
   EXPECT_EQ(data.unit, "개");
-  EXPECT_EQ(chartData({BriefChart::Kind::Bars, "", 1, {2}}, columns, {{"가", "1000000", ""}}).series[0],
-            std::vector<double>{100});
-  EXPECT_EQ(chartData({BriefChart::Kind::Bars, "", 1, {2}}, columns, {{"가", "-1000000", ""}}).unit, "만원");
+  EXPECT_EQ(chartData({BriefChart::Kind::Bars, "", 1, {2}}, columns, {{"가", "100000", ""}}).series[0],
+            std::vector<double>{10});
+  EXPECT_EQ(chartData({BriefChart::Kind::Bars, "", 1, {2}}, columns, {{"가", "-100000", ""}}).unit, "만원");
   EXPECT_TRUE(chartData({}, columns, rows).labels.isEmpty());
   EXPECT_TRUE(chartData({BriefChart::Kind::Bars, "", 1, {2}, false, 5}, columns, {}).labels.isEmpty());
 }
