@@ -4,14 +4,7 @@
 #include <QVBoxLayout>
 
 #include "ui/forms/style.h"
-
-namespace {
-
-SpreadColumn daySumColumn(const QString& header, CellKind kind) {
-  return {.header = header, .width = 14, .kind = kind, .align = CellAlign::Right, .locked = true};
-}
-
-}  // namespace
+#include "ui/model/column.h"
 
 frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
     : Form("frmTodaySale", "금일판매내역", context.session, parent), today_(context.session) {
@@ -19,11 +12,9 @@ frmTodaySale::frmTodaySale(FormContext& context, QWidget* parent)
   title_->setObjectName("LblTitle");
   title_->setFont(look::textFont(12, true));
   body()->addWidget(title_);
-  sums_.setColumns({{.header = "구분", .width = 14, .align = CellAlign::Center, .locked = true},
-                    daySumColumn("판매수량", CellKind::Integer),
-                    daySumColumn("입금액", CellKind::Money),
-                    daySumColumn("D/C", CellKind::Money),
-                    daySumColumn("미수금", CellKind::Money)});
+  sums_.setColumns(
+      column::shown({column::centred("구분", 14), column::integer("판매수량", 14),
+                     column::money("입금액", 14), column::money("D/C", 14), column::money("미수금", 14)}));
   grid_ = addSpread("SpToday", sums_);
   grid_->setFillColumn(1);
   body()->addWidget(grid_, 1);

@@ -19,29 +19,26 @@ bool ticked(const RegisterFields& fields, const QString& name) {
 
 /** Of a metered block alone. */
 RegisterColumn ofMetered(const QString& field, const SpreadColumn& look) {
-  return {field, look, [field](const RegisterFields& record) {
-            return ticked(record, u"Evaporation"_s) ? record[field] : QString();
-          }};
+  return computes(look, [field](const RegisterFields& record) {
+    return ticked(record, u"Evaporation"_s) ? record[field] : QString();
+  });
 }
 
 RegisterList buildingList(HouseStyle style) {
   const bool apartment = style == HouseStyle::Apartment;
   return {
       apartment ? u"Select * From APT Where Gubun = True  "_s : u"Select * From APT Where Gubun = False "_s,
-      {{u"Name"_s, column::text(apartment ? u"아파트명"_s : u"다가구명"_s, 20)},
-       {u"Dong"_s, column::centred(u"동"_s, 7)},
-       {u"Structure"_s, column::centred(u"세대구조"_s, 9),
-        [](const RegisterFields& record) {
-          return ticked(record, u"Structure"_s) ? u"계단식"_s : u"복도식"_s;
-        }},
-       {u"Height"_s, column::integer(u"층수"_s, 5)},
-       {u"Width"_s, column::integer(u"층당세대"_s, 9)},
-       {{}, column::money(u"세대수"_s, 7)},  // dressList counts them
+      {field::text(u"Name"_s, apartment ? u"아파트명"_s : u"다가구명"_s, 20),
+       field::centred(u"Dong"_s, u"동"_s, 7),
+       computes(column::centred(u"세대구조"_s, 9),
+                [](const RegisterFields& record) {
+                  return ticked(record, u"Structure"_s) ? u"계단식"_s : u"복도식"_s;
+                }),
+       field::integer(u"Height"_s, u"층수"_s, 5), field::integer(u"Width"_s, u"층당세대"_s, 9),
+       field::money({}, u"세대수"_s, 7),  // dressList counts them
        ofMetered(u"Pressure"_s, column::centred(u"압력조정기"_s, 11)),
-       ofMetered(u"Eva"_s, column::money(u"체적단가"_s, 9)),
-       {u"delaypay"_s, column::number(u"연체료율"_s, 9)},
-       {u"PostCode"_s, column::centred(u"우편번호"_s, 9)},
-       {u"Address"_s, column::text(u"주소"_s, 36)}}};
+       ofMetered(u"Eva"_s, column::money(u"체적단가"_s, 9)), field::number(u"delaypay"_s, u"연체료율"_s, 9),
+       field::centred(u"PostCode"_s, u"우편번호"_s, 9), field::text(u"Address"_s, u"주소"_s, 36)}};
 }
 
 }  // namespace

@@ -15,23 +15,20 @@ double gasNumber(const RegisterFields& fields, const QString& column) {
 }  // namespace
 
 GasCatalogue::GasCatalogue(Session& session)
-    : RegisterRules(session, {u"LPG"_s}, gasTitle,
-                    {u"Select * From LPG Order By Code"_s,
-                     {{u"LPGName"_s, column::text(u"품명"_s, 12)},
-                      {u"Size"_s, column::right(u"규격"_s, 6)},
-                      {u"LPGPurchase"_s, column::money(u"가스구입가"_s, 10)},
-                      {u"LPGSelling"_s, column::money(u"가스판매가"_s, 10)},
-                      {u"CANPurchase"_s, column::money(u"용기구입가"_s, 10)},
-                      {u"CANSelling"_s, column::money(u"용기판매가"_s, 10)},
-                      {u"CANFull"_s, column::money(u"실병재고"_s, 8)},
-                      {u"CANEmpty"_s, column::money(u"공병재고"_s, 8)},
-                      {u"CANLoan"_s, column::money(u"용기대여"_s, 8)},
-                      {{}, column::money(u"보유용기"_s, 8), totalHold},
-                      {u"LPGStock"_s, column::money(u"가스재고"_s, 9)},
-                      {{},
-                       column::money(u"재고액"_s),
-                       [](const RegisterFields& record) { return QString::number(stockWorth(record)); }}},
-                     u"가스/용기 현황"_s}) {}
+    : RegisterRules(
+          session, {u"LPG"_s}, gasTitle,
+          {u"Select * From LPG Order By Code"_s,
+           {field::text(u"LPGName"_s, u"품명"_s, 12), field::right(u"Size"_s, u"규격"_s, 6),
+            field::money(u"LPGPurchase"_s, u"가스구입가"_s, 10),
+            field::money(u"LPGSelling"_s, u"가스판매가"_s, 10),
+            field::money(u"CANPurchase"_s, u"용기구입가"_s, 10),
+            field::money(u"CANSelling"_s, u"용기판매가"_s, 10), field::money(u"CANFull"_s, u"실병재고"_s, 8),
+            field::money(u"CANEmpty"_s, u"공병재고"_s, 8), field::money(u"CANLoan"_s, u"용기대여"_s, 8),
+            computes(column::money(u"보유용기"_s, 8), totalHold),
+            field::money(u"LPGStock"_s, u"가스재고"_s, 9),
+            computes(column::money(u"재고액"_s),
+                     [](const RegisterFields& record) { return QString::number(stockWorth(record)); })},
+           u"가스/용기 현황"_s}) {}
 
 QString GasCatalogue::defaultName() {
   return u"LPG"_s;

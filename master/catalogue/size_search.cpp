@@ -1,6 +1,8 @@
 #include "master/catalogue/size_search.h"
 
+#include <algorithm>
 #include <array>
+#include <span>
 
 #include "store/data_access.h"
 #include "ui/model/column.h"
@@ -9,81 +11,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class Goods { Lpg, Util };
-
-/** One kind of posting line on one side: where its goods come from, its four headings, and the columns that price
- *  and count are read from (two price columns are added up, none is a price of nothing). */
+/** One kind of posting line: its four headings, and the columns that price and count are read from (two price columns
+ *  are added up, none is a price of nothing). */
 struct SizeSearchWay {
   QStringView kind;
-  TradeSide side;
-  Goods goods;
   std::array<QStringView, 4> headings;
   QStringView price, furtherPrice, count;
+
+  /** Materials have a table of their own. */
+  bool isLpg() const { return kind != u"4"; }
 };
 
-constexpr auto Sale = TradeSide::Sale;
-constexpr auto Purchase = TradeSide::Purchase;
-constexpr SizeSearchWay sizeSearchWays[] = {
-    {u"1", Sale, Goods::Lpg, {u"가스명", u"용  량", u"판매단가", u"실병재고"}, u"LPGSelling", {}, u"CANFull"},
-    {u"2",
-     Sale,
-     Goods::Lpg,
-     {u"용기명", u"용  량", u"용기단가", u"공병재고"},
-     u"CANSelling",
-     {},
-     u"CANEmpty"},
-    {u"3",
-     Sale,
-     Goods::Lpg,
-     {u"품  명", u"용  량", u"판매단가", u"실병재고"},
-     u"LPGSelling",
-     u"CANSelling",
-     u"CANFull"},
-    {u"4",
-     Sale,
-     Goods::Util,
-     {u"자재명", u"규  격", u"판매단가", u"현재재고"},
-     u"UtilSelling",
-     {},
-     u"UtilStock"},
-    {u"5", Sale, Goods::Lpg, {u"용기명", u"용  량", u"대여단가", u"공병재고"}, {}, {}, u"CANEmpty"},
-    {u"6", Sale, Goods::Lpg, {u"용기명", u"용  량", u"회수단가", u"공병재고"}, {}, {}, u"CANEmpty"},
-    {u"1",
-     Purchase,
-     Goods::Lpg,
-     {u"가스명", u"용  량", u"구매단가", u"공병재고"},
-     u"LPGPurchase",
-     {},
-     u"CANEmpty"},
-    {u"2",
-     Purchase,
-     Goods::Lpg,
-     {u"용기명", u"용  량", u"용기단가", u"보유용기"},
-     u"CANPurchase",
-     {},
-     u"CANTotalHold"},
-    {u"3",
-     Purchase,
-     Goods::Lpg,
-     {u"품  명", u"용  량", u"단    가", u"보유용기"},
-     u"LPGPurchase",
-     u"CANPurchase",
-     u"CANTotalHold"},
-    {u"4",
-     Purchase,
-     Goods::Util,
-     {u"품  명", u"규  격", u"구매단가", u"현재재고"},
-     u"UtilPurchase",
-     {},
-     u"UtilStock"},
-    {u"5", Purchase, Goods::Lpg, {u"용기명", u"용  량", u"대여단가", u"대여수량"}, {}, {}, u"CANLoan"},
-    {u"6", Purchase, Goods::Lpg, {u"용기명", u"용  량", u"회수단가", u"용 기 수"}, {}, {}, u"CANLoan"},
+constexpr SizeSearchWay saleWays[] = {
+    {u"1", {u"가스명", u"용  량", u"판매단가", u"실병재고"}, u"LPGSelling", {}, u"CANFull"},
+    {u"2", {u"용기명", u"용  량", u"용기단가", u"공병재고"}, u"CANSelling", {}, u"CANEmpty"},
+    {u"3", {u"품  명", u"용  량", u"판매단가", u"실병재고"}, u"LPGSelling", u"CANSelling", u"CANFull"},
+    {u"4", {u"자재명", u"규  격", u"판매단가", u"현재재고"}, u"UtilSelling", {}, u"UtilStock"},
+    {u"5", {u"용기명", u"용  량", u"대여단가", u"공병재고"}, {}, {}, u"CANEmpty"},
+    {u"6", {u"용기명", u"용  량", u"회수단가", u"공병재고"}, {}, {}, u"CANEmpty"},
+};
+
+constexpr SizeSearchWay purchaseWays[] = {
+    {u"1", {u"가스명", u"용  량", u"구매단가", u"공병재고"}, u"LPGPurchase", {}, u"CANEmpty"},
+    {u"2", {u"용기명", u"용  량", u"용기단가", u"보유용기"}, u"CANPurchase", {}, u"CANTotalHold"},
+    {u"3", {u"품  명", u"용  량", u"단    가", u"보유용기"}, u"LPGPurchase", u"CANPurchase", u"CANTotalHold"},
+    {u"4", {u"품  명", u"규  격", u"구매단가", u"현재재고"}, u"UtilPurchase", {}, u"UtilStock"},
+    {u"5", {u"용기명", u"용  량", u"대여단가", u"대여수량"}, {}, {}, u"CANLoan"},
+    {u"6", {u"용기명", u"용  량", u"회수단가", u"용 기 수"}, {}, {}, u"CANLoan"},
 };
 
 const SizeSearchWay* sizeSearchWay(const QString& kind, TradeSide side) {
-  for (const SizeSearchWay& way : sizeSearchWays)
-    if (way.kind == kind && way.side == side) return &way;
-  return nullptr;
+  const std::span<const SizeSearchWay> ways = side == TradeSide::Sale ? std::span(saleWays) : purchaseWays;
+  const auto way = std::ranges::find(ways, QStringView(kind), &SizeSearchWay::kind);
+  return way == ways.end() ? nullptr : &*way;
 }
 
 double figure(const jet::Recordset& rs, QStringView column) {
@@ -111,7 +71,7 @@ bool SizeSearch::load(SpreadModel& list) const {
   if (!way) return true;
   list.setColumns(sizeSearchColumns(*way));
 
-  const bool lpg = way->goods == Goods::Lpg;
+  const bool lpg = way->isLpg();
   jet::Recordset rs;
   if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs,
                     lpg ? u"Select * From LPG Order By Code"_s : u"Select * From Util Order By Code"_s))

@@ -17,16 +17,15 @@ QString utilStockWorth(const RegisterFields& record) {
 }  // namespace
 
 UtilCatalogue::UtilCatalogue(Session& session)
-    : RegisterRules(session, {u"Util"_s}, utilTitle,
-                    {u"Select * From Util Order By Code"_s,
-                     {{u"Name"_s, column::text(u"품명"_s, 24)},
-                      {u"Size"_s, column::text(u"규격"_s, 14)},
-                      {u"UtilPurchase"_s, column::money(u"구입단가"_s)},
-                      {u"UtilSelling"_s, column::money(u"판매단가"_s)},
-                      {u"UtilStock"_s, column::money(u"재고량"_s, 10)},
-                      {{}, column::money(u"재고액"_s, 14), utilStockWorth},
-                      {u"Code"_s, column::integer(u"코드"_s, 7)}},
-                     u"시설/자재 현황"_s}) {}
+    : RegisterRules(
+          session, {u"Util"_s}, utilTitle,
+          {u"Select * From Util Order By Code"_s,
+           {field::text(u"Name"_s, u"품명"_s, 24), field::text(u"Size"_s, u"규격"_s, 14),
+            field::money(u"UtilPurchase"_s, u"구입단가"_s), field::money(u"UtilSelling"_s, u"판매단가"_s),
+            field::money(u"UtilStock"_s, u"재고량"_s, 10),
+            computes(column::money(u"재고액"_s, 14), utilStockWorth),
+            field::integer(u"Code"_s, u"코드"_s, 7)},
+           u"시설/자재 현황"_s}) {}
 
 RegisterRules::Outcome UtilCatalogue::checkRequired(const RegisterFields& boxes) {
   if (boxes[u"Name"_s].isEmpty())

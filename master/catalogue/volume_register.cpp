@@ -13,10 +13,8 @@ const QString volumeTitle = u"체적 관리자"_s;
 VolumeRegister::VolumeRegister(Session& session)
     : RegisterRules(session, {u"Volume"_s}, volumeTitle,
                     {u"Select Size, Name, Unit, Code From Volume Order By Code"_s,
-                     {{u"Size"_s, column::text(u"규격"_s, 16)},
-                      {u"Name"_s, column::text(u"명칭"_s, 24)},
-                      {u"Unit"_s, column::money(u"단가"_s)},
-                      {u"Code"_s, column::hidden(u"코드"_s)}}}) {}
+                     {field::text(u"Size"_s, u"규격"_s, 16), field::text(u"Name"_s, u"명칭"_s, 24),
+                      field::money(u"Unit"_s, u"단가"_s), field::hidden(u"Code"_s, u"코드"_s)}}) {}
 
 void VolumeRegister::dressList() {
   for (int row = 1; row <= list_.MaxRows(); ++row)

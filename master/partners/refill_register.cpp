@@ -11,16 +11,13 @@ const QString companyMissing = u"상호는 필수입력사항입니다!"_s;
 }  // namespace
 
 RefillRegister::RefillRegister(Session& session)
-    : RegisterRules(session, {u"RefillState"_s, u"Code"_s, true}, refillTitle,
-                    {u"Select * From RefillState Order By Code"_s,
-                     {{u"Company"_s, column::text(u"상호"_s, 18)},
-                      {u"User"_s, column::text(u"대표자"_s, 8)},
-                      {u"BusCode"_s, column::centred(u"사업자번호"_s, 13)},
-                      {u"Tel"_s, column::centred(u"전화번호"_s, 13)},
-                      {u"Fax"_s, column::centred(u"팩스"_s, 13)},
-                      {u"GasInit"_s, column::money(u"가스미불"_s, 11)},
-                      {u"UtilInit"_s, column::money(u"자재미불"_s, 11)},
-                      {u"Address"_s, column::text(u"주소"_s, 24)}}}) {}
+    : RegisterRules(
+          session, {u"RefillState"_s, u"Code"_s, true}, refillTitle,
+          {u"Select * From RefillState Order By Code"_s,
+           {field::text(u"Company"_s, u"상호"_s, 18), field::text(u"User"_s, u"대표자"_s, 8),
+            field::centred(u"BusCode"_s, u"사업자번호"_s, 13), field::centred(u"Tel"_s, u"전화번호"_s, 13),
+            field::centred(u"Fax"_s, u"팩스"_s, 13), field::money(u"GasInit"_s, u"가스미불"_s, 11),
+            field::money(u"UtilInit"_s, u"자재미불"_s, 11), field::text(u"Address"_s, u"주소"_s, 24)}}) {}
 
 bool RefillRegister::nameAccepted(const QString& company, const QString& ownCode) {
   const QString others = ownCode.isEmpty() ? QString() : u" And Code <> '"_s + plainText(ownCode) + u"'"_s;

@@ -10,15 +10,13 @@ const QString responseTitle = u"배달 관리자"_s;
 }
 
 ResponseRegister::ResponseRegister(Session& session)
-    : RegisterRules(session, {u"Response"_s}, responseTitle,
-                    {u"Select * From Response"_s,
-                     {{u"Name"_s, column::text(u"담당자"_s, 10)},
-                      {u"Tel"_s, column::centred(u"전화번호"_s, 13)},
-                      {u"HP"_s, column::centred(u"휴대폰"_s, 13)},
-                      {u"AppDate"_s, column::centred(u"입사일자"_s, 11)},
-                      {u"IdentyNo"_s, column::centred(u"주민등록번호"_s, 14)},
-                      {u"Address"_s, column::text(u"주소"_s, 28)},
-                      {u"Memo"_s, column::text(u"메모사항"_s, 16)}}}) {}
+    : RegisterRules(
+          session, {u"Response"_s}, responseTitle,
+          {u"Select * From Response"_s,
+           {field::text(u"Name"_s, u"담당자"_s, 10), field::centred(u"Tel"_s, u"전화번호"_s, 13),
+            field::centred(u"HP"_s, u"휴대폰"_s, 13), field::centred(u"AppDate"_s, u"입사일자"_s, 11),
+            field::centred(u"IdentyNo"_s, u"주민등록번호"_s, 14), field::text(u"Address"_s, u"주소"_s, 28),
+            field::text(u"Memo"_s, u"메모사항"_s, 16)}}) {}
 
 RegisterFields ResponseRegister::blank() const {
   return {{u"AppDate"_s, session_.pc.clock.dateText()}};

@@ -9,9 +9,8 @@ RegisterSearch RegisterSearch::volumes() {
           u"압력조정기 조회"_s,
           "SpVolume",
           {u"Select * From Volume Order By Code"_s,
-           {{u"Size"_s, column::text(u"규격"_s, 14)},
-            {u"Name"_s, column::text(u"명칭"_s, 22)},
-            {u"Unit"_s, column::money(u"단가"_s)}}}};
+           {field::text(u"Size"_s, u"규격"_s, 14), field::text(u"Name"_s, u"명칭"_s, 22),
+            field::money(u"Unit"_s, u"단가"_s)}}};
 }
 
 RegisterSearch RegisterSearch::responses() {
@@ -19,9 +18,8 @@ RegisterSearch RegisterSearch::responses() {
           u"담당자 조회"_s,
           "SpResponse",
           {u"Select * From Response"_s,
-           {{u"Name"_s, column::text(u"담당자"_s, 14)},
-            {u"Tel"_s, column::text(u"전화번호"_s, 16)},
-            {u"HP"_s, column::text(u"휴대폰"_s, 16)}}}};
+           {field::text(u"Name"_s, u"담당자"_s, 14), field::text(u"Tel"_s, u"전화번호"_s, 16),
+            field::text(u"HP"_s, u"휴대폰"_s, 16)}}};
 }
 
 RegisterSearch RegisterSearch::refills() {
@@ -29,11 +27,9 @@ RegisterSearch RegisterSearch::refills() {
           u"거래처 조회"_s,
           "SpRefill",
           {u"Select * From RefillState Order By Code"_s,
-           {{u"Company"_s, column::text(u"상호"_s, 22)},
-            {u"User"_s, column::text(u"대표자"_s, 10)},
-            {u"Tel"_s, column::text(u"전화번호"_s, 15)},
-            {u"GasInit"_s, column::money(u"가스미불"_s)},
-            {u"UtilInit"_s, column::money(u"자재미불"_s)}}}};
+           {field::text(u"Company"_s, u"상호"_s, 22), field::text(u"User"_s, u"대표자"_s, 10),
+            field::text(u"Tel"_s, u"전화번호"_s, 15), field::money(u"GasInit"_s, u"가스미불"_s),
+            field::money(u"UtilInit"_s, u"자재미불"_s)}}};
 }
 
 RegisterSearch RegisterSearch::banks() {
@@ -41,9 +37,8 @@ RegisterSearch RegisterSearch::banks() {
           u"은행 조회"_s,
           "SpBank",
           {u"Select * From Bank"_s,
-           {{u"BName"_s, column::text(u"은행명"_s, 16)},
-            {u"BNumber"_s, column::text(u"계좌번호"_s, 20)},
-            {u"BUser"_s, column::text(u"예금주"_s, 14)}}}};
+           {field::text(u"BName"_s, u"은행명"_s, 16), field::text(u"BNumber"_s, u"계좌번호"_s, 20),
+            field::text(u"BUser"_s, u"예금주"_s, 14)}}};
 }
 
 bool RegisterSearch::load(Session& session, SpreadModel& list) const {

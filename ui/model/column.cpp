@@ -2,44 +2,12 @@
 
 namespace column {
 
-namespace {
-
-SpreadColumn made(const QString& header, double width, CellKind kind, CellAlign align) {
+SpreadColumn Look::operator()(const QString& header, double width) const {
   return {.header = header, .width = width, .kind = kind, .align = align};
 }
 
-}  // namespace
-
-SpreadColumn text(const QString& header, double width) {
-  return made(header, width, CellKind::Text, CellAlign::Left);
-}
-SpreadColumn centred(const QString& header, double width) {
-  return made(header, width, CellKind::Text, CellAlign::Center);
-}
-SpreadColumn right(const QString& header, double width) {
-  return made(header, width, CellKind::Text, CellAlign::Right);
-}
-SpreadColumn money(const QString& header, double width) {
-  return made(header, width, CellKind::Money, CellAlign::Right);
-}
-SpreadColumn integer(const QString& header, double width) {
-  return made(header, width, CellKind::Integer, CellAlign::Right);
-}
-SpreadColumn number(const QString& header, double width) {
-  return made(header, width, CellKind::Number, CellAlign::Right);
-}
-SpreadColumn date(const QString& header, double width) {
-  return made(header, width, CellKind::Date, CellAlign::Center);
-}
-SpreadColumn monthDay(const QString& header, double width) {
-  return made(header, width, CellKind::MonthDay, CellAlign::Center);
-}
-SpreadColumn tick(const QString& header, double width) {
-  return made(header, width, CellKind::CheckBox, CellAlign::Center);
-}
-
 SpreadColumn choice(const QString& header, double width, const QStringList& labels) {
-  SpreadColumn column = made(header, width, CellKind::Combo, CellAlign::Center);
+  SpreadColumn column = Look{CellKind::Combo, CellAlign::Center}(header, width);
   column.combo = labels;
   return column;
 }

@@ -5,15 +5,25 @@
 
 namespace column {
 
-SpreadColumn text(const QString& header, double width);
-SpreadColumn centred(const QString& header, double width);
-SpreadColumn right(const QString& header, double width);       ///< a text at the right
-SpreadColumn money(const QString& header, double width = 12);  ///< won
-SpreadColumn integer(const QString& header, double width);     ///< pieces, at the right
-SpreadColumn number(const QString& header, double width);      ///< with fractions, at the right
-SpreadColumn date(const QString& header, double width = 11);   ///< "yyyy-MM-dd"
-SpreadColumn monthDay(const QString& header, double width = 7);
-SpreadColumn tick(const QString& header, double width = 6);
+/** A look by its heading and width; where no width is named the usual one of such figures. */
+struct Look {
+  CellKind kind;
+  CellAlign align;
+  double usual = 10;
+  SpreadColumn operator()(const QString& header, double width) const;
+  SpreadColumn operator()(const QString& header) const { return (*this)(header, usual); }
+};
+
+inline constexpr Look text{CellKind::Text, CellAlign::Left};
+inline constexpr Look centred{CellKind::Text, CellAlign::Center};
+inline constexpr Look right{CellKind::Text, CellAlign::Right};       ///< a text at the right
+inline constexpr Look money{CellKind::Money, CellAlign::Right, 12};  ///< won
+inline constexpr Look integer{CellKind::Integer, CellAlign::Right};  ///< pieces
+inline constexpr Look number{CellKind::Number, CellAlign::Right};    ///< with fractions
+inline constexpr Look date{CellKind::Date, CellAlign::Center, 11};   ///< "yyyy-MM-dd"
+inline constexpr Look monthDay{CellKind::MonthDay, CellAlign::Center, 7};
+inline constexpr Look tick{CellKind::CheckBox, CellAlign::Center, 6};
+
 SpreadColumn choice(const QString& header, double width, const QStringList& labels);
 /** What the rules know of a row and the operator does not see. */
 SpreadColumn hidden(const QString& header);
