@@ -33,15 +33,12 @@ bool isSameCan(const RegisterFields& one, const RegisterFields& other) {
 }  // namespace
 
 CanBook::CanBook(Session& session)
-    : RegisterRules(session, {u"ResCAN"_s, u"ResName"_s, true, {{u"LPGName"_s, true}, {u"CANSize"_s, false}}},
-                    canTitle,
-                    {u"Select * From ResCAN Order By ResName, LPGName, CANSize"_s,
-                     {{u"ResName"_s, column::text(u"담당자"_s, 14)},
-                      {u"LPGName"_s, column::text(u"용기명"_s, 16)},
-                      {u"CANSize"_s, column::centred(u"용량"_s, 8)},
-                      {u"CANEmpty"_s, column::money(u"빈용기"_s, 11)},
-                      {u"CANFull"_s, column::money(u"실병"_s, 11)},
-                      {u"CANTotal"_s, column::money(u"총용기"_s, 11)}}}) {}
+    : KeyedRegister(
+          session, {u"ResCAN"_s, u"ResName"_s, true, {{u"LPGName"_s, true}, {u"CANSize"_s, false}}}, canTitle,
+          {u"Select * From ResCAN Order By ResName, LPGName, CANSize"_s,
+           {field::text(u"ResName"_s, u"담당자"_s, 14), field::text(u"LPGName"_s, u"용기명"_s, 16),
+            field::centred(u"CANSize"_s, u"용량"_s, 8), field::money(u"CANEmpty"_s, u"빈용기"_s, 11),
+            field::money(u"CANFull"_s, u"실병"_s, 11), field::money(u"CANTotal"_s, u"총용기"_s, 11)}}) {}
 
 RegisterRules::Outcome CanBook::store(const RegisterFields& boxes) {
   for (const CanBox& box : canBoxes)

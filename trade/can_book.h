@@ -3,7 +3,7 @@
 #include "master/registers/register_rules.h"
 
 /** Boxes by column name: ResName, LPGName, CANSize (together the key), CANEmpty, CANFull, CANTotal (pieces). */
-class CanBook : public RegisterRules {
+class CanBook : public KeyedRegister {
  public:
   explicit CanBook(Session& session);
 
@@ -11,12 +11,9 @@ class CanBook : public RegisterRules {
   void print();
 
  protected:
-  Outcome insert(const RegisterFields& boxes) override { return store(boxes); }
-  Outcome change(const RegisterFields& boxes) override { return store(boxes); }
-  Outcome saveWithoutRow(const RegisterFields& boxes) override { return store(boxes); }
   Outcome erase() override;
 
  private:
   /** Person, name and size alone decide whether a row is added or changed, in every state. */
-  Outcome store(const RegisterFields& boxes);
+  Outcome store(const RegisterFields& boxes) override;
 };

@@ -8,8 +8,7 @@ using namespace Qt::StringLiterals;
 
 frmResCAN::frmResCAN(FormContext& context, QWidget* parent)
     : RegisterForm(u"frmResCAN"_s, u"담당자별 용기현황"_s, context.session, parent), cans_(context.session) {
-  RegisterPage* const cans = addPage(cans_, "SpResCAN");
-  cans->setListHelp(u" 담당자별 용기현황을 조회/수정합니다"_s);
+  RegisterPage* const cans = addPage(cans_, "SpResCAN", u" 담당자별 용기현황을 조회/수정합니다"_s);
   Fields fields(cans->boxPanel(), 3);
   QLineEdit* const person = fields.text("TxtResName", u"담당자"_s, 0, 20);
   QLineEdit* const name = fields.text("TxtLPGName", u"용기명"_s, 0, 30);

@@ -40,8 +40,7 @@ void frmHouseStyle::buildPage(BuildingRegister& buildings, Page& page, const cha
   buildings.beginWork = [this](int count) {
     return barTeller(u"세대별 고객을 등록하고 있습니다..."_s, count, this);
   };
-  page.sheet = addPage(buildings, gridName, "TabHouse", title);
-  page.sheet->setListHelp(u"건물자료 삭제 : Delete"_s);
+  page.sheet = addPage(buildings, gridName, u"건물자료 삭제 : Delete"_s, "TabHouse", title);
   page.sheet->boxPanel()->setStyleSheet(u"#PnlBoxes { border: none; margin-top: 0; padding: 0; }"_s);
   auto* const halves = new QHBoxLayout(page.sheet->boxPanel());
   halves->setContentsMargins(0, 0, 0, 0);
@@ -80,22 +79,13 @@ QGroupBox* frmHouseStyle::buildBoxes(Page& page) {
   page.dong = fields.text("TxtDong", u"동"_s, 8, 10);
   sheet->bind(page.dong, u"Dong"_s, u"건물의 동명을 입력합니다. ex) 101"_s);
 
-  auto* const structure = new QWidget(group);
-  auto* const options = new QHBoxLayout(structure);
-  options->setContentsMargins(0, 0, 0, 0);
-  const auto option = [&](const char* name, const QString& caption) {
-    auto* const button = new QRadioButton(caption, structure);
-    button->setObjectName(QString::fromLatin1(name));
-    options->addWidget(button);
-    setHelp(button, u"세대구조를 화살표키로 선택합니다"_s);
-    connect(button, &QRadioButton::toggled, this, [this] { showUnits(); });
-    return button;
-  };
-  QRadioButton* const stair = option("OptStair", u"계단식"_s);
-  option("OptFloor", u"복도식"_s);
-  options->addStretch(1);
-  fields.add(u"세대구조"_s, structure, 2);
-  sheet->bind(stair, u"Structure"_s, u"세대구조를 화살표키로 선택합니다"_s);
+  const QList<QRadioButton*> structure =
+      fields.options(u"세대구조"_s, {{"OptStair", u"계단식"_s}, {"OptFloor", u"복도식"_s}}, 2);
+  for (QRadioButton* const option : structure) {
+    setHelp(option, u"세대구조를 화살표키로 선택합니다"_s);
+    connect(option, &QRadioButton::toggled, this, [this] { showUnits(); });
+  }
+  sheet->bind(structure.front(), u"Structure"_s, u"세대구조를 화살표키로 선택합니다"_s);
 
   page.floors = count("TxtHeight", u"층수"_s, 2, BuildingPlan::Most);
   sheet->bind(page.floors, u"Height"_s, u"건물의 층수를 입력합니다"_s);

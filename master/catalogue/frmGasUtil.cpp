@@ -38,8 +38,7 @@ frmGasUtil::frmGasUtil(FormContext& context, QWidget* parent)
 }
 
 void frmGasUtil::buildGas() {
-  gasPage_ = addPage(gas_, "SpLPG", "TabGasUtil", u"가스/용기(&1)"_s);
-  gasPage_->setListHelp(deleteByKey);
+  gasPage_ = addPage(gas_, "SpLPG", deleteByKey, "TabGasUtil", u"가스/용기(&1)"_s);
   gasPage_->grid()->setFillColumn(1);
   gasPage_->boxPanel()->setStyleSheet(u"#PnlBoxes { border: none; margin-top: 0; padding: 0; }"_s);
   auto* const halves = new QHBoxLayout(gasPage_->boxPanel());
@@ -83,8 +82,7 @@ void frmGasUtil::buildGas() {
 }
 
 void frmGasUtil::buildUtil() {
-  RegisterPage* const page = addPage(util_, "SpUtil", "TabGasUtil", u"시설/자재(&2)"_s);
-  page->setListHelp(deleteByKey);
+  RegisterPage* const page = addPage(util_, "SpUtil", deleteByKey, "TabGasUtil", u"시설/자재(&2)"_s);
   page->grid()->setFillColumn(1);
   Fields fields(page->boxPanel(), 3);
   page->bind(fields.text("TxtName", u"품명"_s, 24, 40), u"Name"_s, u"시설/자재의 품명을 입력합니다"_s);

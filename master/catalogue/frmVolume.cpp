@@ -6,8 +6,8 @@ using namespace Qt::StringLiterals;
 
 frmVolume::frmVolume(FormContext& context, QWidget* parent)
     : RegisterForm(u"frmVolume"_s, u"체적 단가 등록"_s, context.session, parent), volumes_(context.session) {
-  RegisterPage* const regulators = addPage(volumes_, "SpVolume");
-  regulators->setListHelp(u"자료의 삭제는 삭제버튼이나 Delete 키로 합니다"_s);
+  RegisterPage* const regulators =
+      addPage(volumes_, "SpVolume", u"자료의 삭제는 삭제버튼이나 Delete 키로 합니다"_s);
   regulators->grid()->setFillColumn(2);
   Fields fields(regulators->boxPanel(), 3);
   size_ = fields.text("TxtSize", u"규격"_s, 16, 20);

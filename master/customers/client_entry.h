@@ -35,7 +35,7 @@ struct ClientEntry {
   QString postCode, address;
   QString birth, appDate;  ///< "yyyy-MM-dd" or ''
   QString memo;
-  QString gasInit = QStringLiteral("0"), utilInit = QStringLiteral("0");  ///< receivables, won
+  QString gasInit = "0", utilInit = "0";  ///< receivables, won
   PayWay payWay = PayWay::Visit;
   bool volume = false;  ///< billed by meter
   QString pressure;     ///< size of the regulator

@@ -1,7 +1,6 @@
 #include "master/customers/form_client_boxes.h"
 
 #include <QCheckBox>
-#include <QHBoxLayout>
 #include <QRadioButton>
 
 #include "master/customers/tel_format.h"
@@ -165,23 +164,13 @@ void ClientBoxes::addDatesAndMoney(Fields& fields) {
 }
 
 void ClientBoxes::addPayment(Fields& fields) {
-  auto* const row = new QWidget(panel_);
-  auto* const side = new QHBoxLayout(row);
-  side->setContentsMargins(0, 0, 0, 0);
-  const auto add = [&](const char* name, const QString& caption) {
-    auto* const button = new QRadioButton(caption, row);
-    button->setObjectName(QString::fromLatin1(name));
-    help(button, "수금방법을 화살표키로 선택합니다");
-    side->addWidget(button);
-    payWays_ << button;
-    order_ << button;
-  };
-  add("OptCash", "방문");
-  add("OptJiro", "지로");
-  add("OptAutoAC", "자동이체");
-  side->addStretch(1);
+  payWays_ =
+      fields.options("수금방법", {{"OptCash", "방문"}, {"OptJiro", "지로"}, {"OptAutoAC", "자동이체"}});
+  for (QRadioButton* const option : payWays_) {
+    help(option, "수금방법을 화살표키로 선택합니다");
+    order_ << option;
+  }
   payWays_.front()->setChecked(true);
-  fields.add("수금방법", row);
 }
 
 void ClientBoxes::addMeter(Fields& fields, bool checkAlone) {

@@ -9,11 +9,11 @@ const QString bankTitle = u"수납은행 관리자"_s;
 }
 
 BankRegister::BankRegister(Session& session)
-    : RegisterRules(session, {u"Bank"_s, u"BName"_s, true}, bankTitle,
-                    {u"Select * From Bank"_s,
-                     {{u"BName"_s, column::text(u"은행명"_s, 24)},
-                      {u"BNumber"_s, column::centred(u"계좌번호"_s, 26)},
-                      {u"BUser"_s, column::text(u"예금주"_s, 24)}}}) {}
+    : KeyedRegister(
+          session, {u"Bank"_s, u"BName"_s, true}, bankTitle,
+          {u"Select * From Bank"_s,
+           {field::text(u"BName"_s, u"은행명"_s, 24), field::centred(u"BNumber"_s, u"계좌번호"_s, 26),
+            field::text(u"BUser"_s, u"예금주"_s, 24)}}) {}
 
 RegisterRules::Outcome BankRegister::store(const RegisterFields& boxes) {
   const QString name = boxes[u"BName"_s];

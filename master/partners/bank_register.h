@@ -3,18 +3,15 @@
 #include "master/registers/register_rules.h"
 
 /** Boxes by column name: BName (the key), BNumber (account), BUser (holder). */
-class BankRegister : public RegisterRules {
+class BankRegister : public KeyedRegister {
  public:
   explicit BankRegister(Session& session);
 
  protected:
-  Outcome insert(const RegisterFields& boxes) override { return store(boxes); }
-  Outcome change(const RegisterFields& boxes) override { return store(boxes); }
-  Outcome saveWithoutRow(const RegisterFields& boxes) override { return store(boxes); }
   Outcome erase() override;
 
  private:
   /** The bank's name alone decides whether a row is added or changed, in every state; kept: a chosen bank under a new
    *  name becomes a further one. A row that is not the chosen one is written over only after a yes. */
-  Outcome store(const RegisterFields& boxes);
+  Outcome store(const RegisterFields& boxes) override;
 };

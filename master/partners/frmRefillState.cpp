@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 frmRefillState::frmRefillState(FormContext& context, QWidget* parent)
     : RegisterForm(u"frmRefillState"_s, u"충전소 등록"_s, context.session, parent),
       refills_(context.session) {
-  RegisterPage* const stations = addPage(refills_, "SpRefill");
-  stations->setListHelp(u"등록된 거래처의 삭제는 삭제버튼이나 키보드의 Delete키로 가능합니다"_s);
+  RegisterPage* const stations =
+      addPage(refills_, "SpRefill", u"등록된 거래처의 삭제는 삭제버튼이나 키보드의 Delete키로 가능합니다"_s);
   Fields fields(stations->boxPanel(), 3);
   stations->bind(fields.text("TxtCompany", u"상호"_s, 0, 40), u"Company"_s, u"거래처의 상호를 입력합니다"_s);
   stations->bind(fields.text("TxtUser", u"대표자"_s, 16, 20), u"User"_s, u"대표자의 성명을 입력합니다"_s);

@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 frmResponse::frmResponse(FormContext& context, QWidget* parent)
     : RegisterForm(u"frmResponse"_s, u"배달담당 등록"_s, context.session, parent), staff_(context.session) {
-  RegisterPage* const people = addPage(staff_, "SpResponse");
-  people->setListHelp(u"자료의 삭제는 삭제버튼이나 Delete 키로 합니다"_s);
+  RegisterPage* const people =
+      addPage(staff_, "SpResponse", u"자료의 삭제는 삭제버튼이나 Delete 키로 합니다"_s);
   Fields fields(people->boxPanel(), 3);
   people->bind(fields.text("TxtName", u"담당자"_s, 16, 20), u"Name"_s, u"담당자의 성명을 입력합니다"_s);
   people->bind(fields.tel("TxtTel", u"전화번호"_s), u"Tel"_s, u"담당자의 전화번호를 입력합니다"_s);

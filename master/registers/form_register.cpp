@@ -17,9 +17,10 @@ RegisterForm::RegisterForm(const QString& name, const QString& caption, Session&
   onKey(Qt::Key_Escape, [this] { leaveBoxes(); });
 }
 
-RegisterPage* RegisterForm::addPage(RegisterRules& rules, const char* gridName, const char* tabs,
-                                    const QString& title) {
+RegisterPage* RegisterForm::addPage(RegisterRules& rules, const char* gridName, const QString& listHelp,
+                                    const char* tabs, const QString& title) {
   auto* const added = new RegisterPage(*this, rules, gridName);
+  added->setListHelp(listHelp);
   added->stateChanged = [this] { refreshButtons(); };
   added->recordShown = [this] { recordShown(); };
   added->deleteAsked = [this] { page()->deleteRecord(); };

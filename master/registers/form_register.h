@@ -18,8 +18,8 @@ class RegisterForm : public Form {
   bool mayClose() override;
   /** One page for each register of the form; tabs names the control that holds several of them. The rules are members
    *  of the derived form, so pages come in its constructor, then their boxes, then start. */
-  RegisterPage* addPage(RegisterRules& rules, const char* gridName, const char* tabs = nullptr,
-                        const QString& title = {});
+  RegisterPage* addPage(RegisterRules& rules, const char* gridName, const QString& listHelp,
+                        const char* tabs = nullptr, const QString& title = {});
   /** After the last box is bound: Enter goes from one bound box to the next, from the last to BtnSave; the lists are
    *  read and the focus goes to the list, or to BtnNew when it is empty. */
   void start();

@@ -101,3 +101,15 @@ class RegisterRules {
   bool new_ = false;
   int row_ = 0;
 };
+
+/** A register whose key alone decides whether a save adds a row or changes one, in every state. */
+class KeyedRegister : public RegisterRules {
+ protected:
+  using RegisterRules::RegisterRules;
+  virtual Outcome store(const RegisterFields& boxes) = 0;
+
+ private:
+  Outcome insert(const RegisterFields& boxes) final { return store(boxes); }
+  Outcome change(const RegisterFields& boxes) final { return store(boxes); }
+  Outcome saveWithoutRow(const RegisterFields& boxes) final { return store(boxes); }
+};

@@ -3,10 +3,14 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 
 #include "ui/forms/form.h"
+
+using namespace Qt::StringLiterals;
 
 Fields::Fields(QWidget* panel, int pairs) : panel_(panel), grid_(new QGridLayout(panel)), pairs_(pairs) {
   grid_->setContentsMargins(6, 4, 6, 4);
@@ -46,8 +50,8 @@ QLabel* Fields::labelOf(QWidget* box) {
 void Fields::tellRefusedKeys(QLineEdit* box) {
   QObject::connect(box, &QLineEdit::inputRejected, box, [box] {
     const bool full = !box->validator() && box->inputMask().isEmpty();
-    const QString why = full ? QStringLiteral("%1자까지 입력할 수 있습니다").arg(box->maxLength())
-                             : QStringLiteral("이 칸에 넣을 수 없는 글자이거나 자릿수가 넘습니다");
+    const QString why = full ? u"%1자까지 입력할 수 있습니다"_s.arg(box->maxLength())
+                             : u"이 칸에 넣을 수 없는 글자이거나 자릿수가 넘습니다"_s;
     for (QWidget* up = box->parentWidget(); up; up = up->parentWidget())
       if (auto* const form = qobject_cast<Form*>(up)) return form->showHelp(why);
   });
@@ -88,6 +92,22 @@ QComboBox* Fields::combo(const char* name, const QString& label, const QStringLi
 
 QCheckBox* Fields::check(const char* name, const QString& caption) {
   return put(name, QString(), new QCheckBox(caption, panel_), 0, 1);
+}
+
+QList<QRadioButton*> Fields::options(const QString& label, const QList<std::pair<const char*, QString>>& each,
+                                     int span) {
+  auto* const row = new QWidget(panel_);
+  auto* const side = new QHBoxLayout(row);
+  side->setContentsMargins(0, 0, 0, 0);
+  QList<QRadioButton*> made;
+  for (const auto& [name, caption] : each) {
+    made << new QRadioButton(caption, row);
+    made.back()->setObjectName(QString::fromUtf8(name));
+    side->addWidget(made.back());
+  }
+  side->addStretch(1);
+  add(label, row, span);
+  return made;
 }
 
 QPlainTextEdit* Fields::lines(const char* name, const QString& label, int rows, int span) {

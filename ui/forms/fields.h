@@ -1,5 +1,6 @@
 #pragma once
 // Labelled boxes in a dense grid: labels right-aligned before their boxes, several pairs a row.
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -10,6 +11,7 @@ class QComboBox;
 class QGridLayout;
 class QLabel;
 class QPlainTextEdit;
+class QRadioButton;
 class QWidget;
 
 /** Lays its boxes out row after row. Every box carries its name as objectName; widths in half-width characters, 0
@@ -25,6 +27,9 @@ class Fields {
   TelBox* tel(const char* name, const QString& label, int width = 18);
   QComboBox* combo(const char* name, const QString& label, const QStringList& entries, int width = 0);
   QCheckBox* check(const char* name, const QString& caption);
+  /** Options side by side behind one label: name and caption of each. */
+  QList<QRadioButton*> options(const QString& label, const QList<std::pair<const char*, QString>>& each,
+                               int span = 1);
   QPlainTextEdit* lines(const char* name, const QString& label, int rows, int span = 1);
   /** A figure that is only shown. */
   QLabel* value(const char* name, const QString& label, int width = 0, int span = 1);
