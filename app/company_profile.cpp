@@ -8,9 +8,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString quoted(const QString& text) {
-  return u"'"_s + plainText(text) + u"'"_s;
-}
+/** The columns of User that page one shows as they are. */
+struct ProfileText {
+  const char* column;
+  QString CompanyData::*text;
+};
+const ProfileText profileTexts[] = {{"Company", &CompanyData::Company}, {"User", &CompanyData::User},
+                                    {"BusCode", &CompanyData::BusCode}, {"PostCode", &CompanyData::PostCode},
+                                    {"Fax", &CompanyData::Fax},         {"Address", &CompanyData::Address},
+                                    {"Tel", &CompanyData::Tel},         {"BusStyle", &CompanyData::BusStyle},
+                                    {"BusKind", &CompanyData::BusKind}};
+
+/** The percentages and fees of page two. */
+struct RateText {
+  const char* column;
+  QString BillingSettings::*text;
+};
+const RateText rateTexts[] = {{"Rate", &BillingSettings::Rate},
+                              {"AptRate", &BillingSettings::AptRate},
+                              {"ManyRate", &BillingSettings::ManyRate},
+                              {"Security", &BillingSettings::Security},
+                              {"AptSecurity", &BillingSettings::AptSecurity},
+                              {"ManySecurity", &BillingSettings::ManySecurity}};
+
 QString valText(const QString& text) {
   return jet::textOf(jet::val(text));
 }
@@ -43,16 +63,7 @@ CompanyData CompanyProfile::profile() const {
   data.Ocr = session_.pc.settings.read(setting::ApprovalNumber);
   const auto user = row();
   if (!user) return data;
-  const auto text = [&](const QString& name) { return (*user)[name].toText(); };
-  data.Company = text(u"Company"_s);
-  data.User = text(u"User"_s);
-  data.BusCode = text(u"BusCode"_s);
-  data.PostCode = text(u"PostCode"_s);
-  data.Address = text(u"Address"_s);
-  data.BusStyle = text(u"BusStyle"_s);
-  data.BusKind = text(u"BusKind"_s);
-  data.Tel = text(u"Tel"_s);
-  data.Fax = text(u"Fax"_s);
+  for (const auto& [column, text] : profileTexts) data.*text = (*user)[column].toText();
   return data;
 }
 
@@ -62,16 +73,10 @@ BillingSettings CompanyProfile::settings() const {
   page.withoutDelay = session_.pc.settings.read(setting::AfterDueMethod) == "1"_L1;
   const auto user = row();
   if (!user) return page;
-  const auto text = [&](const QString& name) { return (*user)[name].toText(); };
   page.PayState = int((*user)[u"PayState"_s].toLong());
-  page.Rate = text(u"Rate"_s);
-  page.AptRate = text(u"AptRate"_s);
-  page.ManyRate = text(u"ManyRate"_s);
-  page.Security = text(u"Security"_s);
-  page.AptSecurity = text(u"AptSecurity"_s);
-  page.ManySecurity = text(u"ManySecurity"_s);
-  if (!user->isNull(u"Post1"_s)) page.Post1 = text(u"Post1"_s);
-  if (!user->isNull(u"Post2"_s)) page.Post2 = text(u"Post2"_s);
+  for (const auto& [column, text] : rateTexts) page.*text = (*user)[column].toText();
+  if (!user->isNull(u"Post1"_s)) page.Post1 = (*user)[u"Post1"_s].toText();
+  if (!user->isNull(u"Post2"_s)) page.Post2 = (*user)[u"Post2"_s].toText();
   page.Stock = (*user)[u"Stock"_s].toBool();
   return page;
 }
@@ -86,21 +91,17 @@ ProfileSaved CompanyProfile::saveProfile(const CompanyData& data) {
     return ProfileSaved::UserMissing;
   }
   const bool changing = exists();
-  if (changing) {
-    session_.dbBasic.Execute(
-        u"Update User Set Company = '"_s + plainText(data.Company) + u"', User = '"_s + plainText(data.User) +
-        u"', BusCode = '"_s + plainText(data.BusCode) + u"', PostCode = '"_s + plainText(data.PostCode) +
-        u"', fax = '"_s + plainText(data.Fax) + u"', Address = '"_s + plainText(data.Address) +
-        u"', Tel = '"_s + plainText(data.Tel) + u"', BusStyle = '"_s + plainText(data.BusStyle) +
-        u"', BusKind = '"_s + plainText(data.BusKind) + u"'"_s);
-  } else {
-    const QStringList values{quoted(data.Company),  quoted(data.User),     quoted(data.BusCode),
-                             quoted(data.PostCode), quoted(data.Fax),      quoted(data.Address),
-                             quoted(data.Tel),      quoted(data.BusStyle), quoted(data.BusKind)};
-    session_.dbBasic.Execute(
-        u"Insert Into User(Company, User, BusCode, PostCode, Fax, Address, Tel, BusStyle, BusKind) "_s +
-        u"Values("_s + values.join(u", "_s) + u")"_s);
+  QStringList columns, values, changes;
+  for (const auto& [column, text] : profileTexts) {
+    columns << QString::fromUtf8(column);
+    values << u"'"_s + plainText(data.*text) + u"'"_s;
+    changes << columns.back() + u" = "_s + values.back();
   }
+  if (changing)
+    session_.dbBasic.Execute(u"Update User Set "_s + changes.join(u", "_s));
+  else
+    session_.dbBasic.Execute(u"Insert Into User("_s + columns.join(u", "_s) + u") Values("_s +
+                             values.join(u", "_s) + u")"_s);
   session_.pc.settings.write(setting::CompanyName, data.Company);
   session_.pc.settings.write(setting::ApprovalNumber, data.Ocr);
   if (session_.profileChanged) session_.profileChanged();

@@ -86,7 +86,6 @@ QLineEdit* frmUser::numberBox(const QString& name, const QString& help, const ch
 }
 
 QWidget* frmUser::buildProfilePage() {
-  auto* page = new QWidget;
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(5);
@@ -119,12 +118,17 @@ QWidget* frmUser::buildProfilePage() {
   grid->setColumnStretch(3, 1);
 
   cmdSave_ = addButton("CmdSave", u"저장(&S)"_s, [this] { saveProfile(); });
-  auto* leave = addButton("Cmd닫기", u"닫기(&X)"_s, [this] { close(); });
+  return pageOf(grid, cmdSave_, "Cmd닫기");
+}
+
+/** The boxes above, saving and leaving below. */
+QWidget* frmUser::pageOf(QLayout* boxes, QPushButton* save, const char* leaveName) {
+  auto* page = new QWidget;
   auto* rows = new QVBoxLayout(page);
-  rows->setContentsMargins(14, 14, 14, 10);
-  rows->addLayout(grid);
+  rows->setContentsMargins(14, 12, 14, 10);
+  rows->addLayout(boxes);
   rows->addStretch();
-  rows->addWidget(buttonRow({cmdSave_, leave}));
+  rows->addWidget(buttonRow({save, addButton(leaveName, u"닫기(&X)"_s, [this] { close(); })}));
   return page;
 }
 
@@ -171,7 +175,6 @@ QGroupBox* frmUser::buildChoices(const QString& title, const QStringList& captio
 }
 
 QWidget* frmUser::buildSettingsPage() {
-  auto* page = new QWidget;
   auto* grid = new QGridLayout;
   grid->setSpacing(6);
   grid->addWidget(buildRates(), 0, 0, 3, 1);
@@ -218,13 +221,7 @@ QWidget* frmUser::buildSettingsPage() {
   grid->setColumnStretch(1, 1);
 
   btnSave_ = addButton("BtnSave", u"저장(&S)"_s, [this] { saveSettings(); });
-  auto* leave = addButton("BtnExit", u"닫기(&X)"_s, [this] { close(); });
-  auto* rows = new QVBoxLayout(page);
-  rows->setContentsMargins(14, 10, 14, 10);
-  rows->addLayout(grid);
-  rows->addStretch();
-  rows->addWidget(buttonRow({btnSave_, leave}));
-  return page;
+  return pageOf(grid, btnSave_, "BtnExit");
 }
 
 // --- opening ----------------------------------------------------------------------------------------------------
@@ -255,29 +252,30 @@ void frmUser::loadPages() {
   showSettings(readSettings_);
 }
 
+/** The boxes of page one and what each holds. */
+QList<std::pair<QLineEdit*, QString CompanyData::*>> frmUser::profileBoxes() const {
+  return {{txtCompany_, &CompanyData::Company}, {txtUser_, &CompanyData::User},
+          {txtBusCode_, &CompanyData::BusCode}, {txtPostCode_, &CompanyData::PostCode},
+          {txtAddress_, &CompanyData::Address}, {txtBusStyle_, &CompanyData::BusStyle},
+          {txtBusKind_, &CompanyData::BusKind}, {txtTel_, &CompanyData::Tel},
+          {txtFax_, &CompanyData::Fax},         {txtOcr_, &CompanyData::Ocr}};
+}
+
+/** The typed figures of page two. */
+QList<std::pair<QLineEdit*, QString BillingSettings::*>> frmUser::figureBoxes() const {
+  return {{txtRate_, &BillingSettings::Rate},         {txtSecurity_, &BillingSettings::Security},
+          {txtAptRate_, &BillingSettings::AptRate},   {txtAptSecurity_, &BillingSettings::AptSecurity},
+          {txtManyRate_, &BillingSettings::ManyRate}, {txtManySecurity_, &BillingSettings::ManySecurity},
+          {txtPost1_, &BillingSettings::Post1},       {txtPost2_, &BillingSettings::Post2}};
+}
+
 void frmUser::showProfile(const CompanyData& data) {
-  txtCompany_->setText(data.Company);
-  txtUser_->setText(data.User);
-  txtBusCode_->setText(data.BusCode);
-  txtPostCode_->setText(data.PostCode);
-  txtAddress_->setText(data.Address);
-  txtBusStyle_->setText(data.BusStyle);
-  txtBusKind_->setText(data.BusKind);
-  txtTel_->setText(data.Tel);
-  txtFax_->setText(data.Fax);
-  txtOcr_->setText(data.Ocr);
+  for (const auto& [box, text] : profileBoxes()) box->setText(data.*text);
   shownProfile_ = typedProfile();
 }
 
 void frmUser::showSettings(const BillingSettings& page) {
-  txtRate_->setText(page.Rate);
-  txtSecurity_->setText(page.Security);
-  txtAptRate_->setText(page.AptRate);
-  txtAptSecurity_->setText(page.AptSecurity);
-  txtManyRate_->setText(page.ManyRate);
-  txtManySecurity_->setText(page.ManySecurity);
-  txtPost1_->setText(page.Post1);
-  txtPost2_->setText(page.Post2);
+  for (const auto& [box, text] : figureBoxes()) box->setText(page.*text);
   QAbstractButton* rounding = payState_->button(page.PayState);
   (rounding ? rounding : payState_->button(1))->setChecked(true);
   delayCharge_->button(page.oneMonthOnly ? 1 : 2)->setChecked(true);
@@ -306,33 +304,21 @@ void frmUser::turnTo(int page) {
 // --- saving -----------------------------------------------------------------------------------------------------
 
 CompanyData frmUser::typedProfile() const {
-  return {.Company = txtCompany_->text(),
-          .User = txtUser_->text(),
-          .BusCode = txtBusCode_->text(),
-          .PostCode = txtPostCode_->text(),
-          .Address = txtAddress_->text(),
-          .BusStyle = txtBusStyle_->text(),
-          .BusKind = txtBusKind_->text(),
-          .Tel = txtTel_->text(),
-          .Fax = txtFax_->text(),
-          .Ocr = txtOcr_->text()};
+  CompanyData typed;
+  for (const auto& [box, text] : profileBoxes()) typed.*text = box->text();
+  return typed;
 }
 
 BillingSettings frmUser::typedSettings() const {
-  return {.PayState = payState_->checkedId(),
-          .Rate = txtRate_->text(),
-          .AptRate = txtAptRate_->text(),
-          .ManyRate = txtManyRate_->text(),
-          .Security = txtSecurity_->text(),
-          .AptSecurity = txtAptSecurity_->text(),
-          .ManySecurity = txtManySecurity_->text(),
-          .oneMonthOnly = delayCharge_->checkedId() == 1,
-          .withoutDelay = delayType_->checkedId() == 2,
-          .Post1 = txtPost1_->text(),
-          .Post2 = txtPost2_->text(),
-          .Stock = stock_->checkedId() == 1,
-          .password = txtPassword1_->text(),
-          .passwordAgain = txtPassword2_->text()};
+  BillingSettings typed;
+  typed.PayState = payState_->checkedId();
+  typed.oneMonthOnly = delayCharge_->checkedId() == 1;
+  typed.withoutDelay = delayType_->checkedId() == 2;
+  typed.Stock = stock_->checkedId() == 1;
+  typed.password = txtPassword1_->text();
+  typed.passwordAgain = txtPassword2_->text();
+  for (const auto& [box, text] : figureBoxes()) typed.*text = box->text();
+  return typed;
 }
 
 bool frmUser::mayWriteOver() {

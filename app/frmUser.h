@@ -7,7 +7,9 @@
 #include "ui/forms/form.h"
 
 class QButtonGroup;
+class QLayout;
 class QLineEdit;
+class QPushButton;
 class QTabWidget;
 
 class frmUser : public Form {
@@ -21,11 +23,14 @@ class frmUser : public Form {
  private:
   QWidget* buildProfilePage();
   QWidget* buildSettingsPage();
+  QWidget* pageOf(QLayout* boxes, QPushButton* save, const char* leaveName);
   QGroupBox* buildRates();
   QGroupBox* buildChoices(const QString& title, const QStringList& captions, const QStringList& names,
                           QButtonGroup*& group);
   QLineEdit* box(const QString& name, const QString& help, int maxLength = 0);
   QLineEdit* numberBox(const QString& name, const QString& help, const char* pattern);
+  QList<std::pair<QLineEdit*, QString CompanyData::*>> profileBoxes() const;
+  QList<std::pair<QLineEdit*, QString BillingSettings::*>> figureBoxes() const;
   void pass();
   void loadPages();
   void showProfile(const CompanyData& data);

@@ -1,110 +1,56 @@
 #include "app/guide_chapters.h"
 
-#include <algorithm>
-#include <iterator>
-
 using namespace Qt::StringLiterals;
 
 namespace guide_chapters {
 
+/** A heading of the guide and the windows that it is about, parted by blanks. */
 struct Chapter {
-  const char16_t* window;
   const char16_t* heading;
+  const char16_t* windows;
 };
 
-constexpr char16_t first[] = u"처음 시작", settings[] = u"사용자 등록과 환경설정",
-                   folder[] = u"자료 폴더와 네트워크", client[] = u"고객", finding[] = u"고객 찾기",
-                   building[] = u"아파트와 다가구 등록", items[] = u"가스·자재·체적단가",
-                   partners[] = u"충전소·담당자·은행·우편번호", slips[] = u"지로", caller[] = u"발신번호",
-                   reports[] = u"집계와 보고서", fleet[] = u"차량 정비", statements[] = u"거래명세표",
-                   invoices[] = u"세금계산서", saleReports[] = u"판매 보고서";
-
 constexpr Chapter chapters[] = {
-    {u"frmSplash", first},
-    {u"FrmInitMsg", first},
-    {u"FrmFirstSteps", u"처음 시작 안내"},
-    {u"frmMain", first},
-    {u"frmAbout", first},
-    {u"FrmGuide", u"설명서 보기 (F1)"},
-    {u"frmUser", settings},
-    {u"frmSecurity", settings},
-    {u"FrmPath", folder},
-    {u"FrmNetDrive", folder},
-    {u"FrmFolderTrouble", u"자료 폴더를 찾지 못할 때"},
-    {u"frmMsgBackUp", u"백업과 되돌리기"},
-    {u"frmClient", client},
-    {u"FrmPreView", client},
-    {u"frmNewClient", finding},
-    {u"frmSearchClient", finding},
-    {u"frmCalendar", client},
-    {u"frmHouseStyle", building},
-    {u"frmBDName", building},
-    {u"frmAPTAddress", building},
-    {u"frmGasUtil", items},
-    {u"frmVolume", items},
-    {u"frmSearchSize", items},
-    {u"frmSearchVolume", items},
-    {u"frmRefillState", partners},
-    {u"frmResponse", partners},
-    {u"frmBank", partners},
-    {u"frmPostCode", partners},
-    {u"frmSearchRefill", partners},
-    {u"frmSearchResponse", partners},
-    {u"frmSearchBank", partners},
-    {u"frmSale", u"판매 화면"},
-    {u"frmTodaySale", u"금일판매내역 (F5)"},
-    {u"frmBuy", u"구매 화면"},
-    {u"frmHoldBrief", u"재고수불"},
-    {u"frmUtilHoldBrief", u"재고수불"},
-    {u"frmResCAN", u"담당자별 용기"},
-    {u"frmVolumeEstimate", u"예상 배달"},
-    {u"frmEva", u"검침"},
-    {u"frmPrtJiro", slips},
-    {u"frmPrtJiroOCR", slips},
-    {u"frmPrtJiroOrg", slips},
-    {u"frmPrtJiroOrgA4", slips},
-    {u"frmPrtMicr", slips},
-    {u"FrmPaperView", slips},
-    {u"frmPrtChange", slips},
-    {u"FrmSetPrinter", slips},
-    {u"FrmMargin", slips},
-    {u"FrmPrintSection", slips},
-    {u"FrmSukum", u"전자수납"},
-    {u"FrmDealList", statements},
-    {u"FrmMsg", statements},
-    {u"FrmTraderList", statements},
-    {u"FrmPaperView", statements},
-    {u"FrmTax", invoices},
-    {u"FrmNewAcount", invoices},
-    {u"FrmNewTrader", invoices},
-    {u"FrmPost", invoices},
-    {u"frmEvaTotal", reports},
-    {u"frmTrustBrief", saleReports},
-    {u"frmLPGSaleBrief", saleReports},
-    {u"frmResSaleBrief", saleReports},
-    {u"frmResUtilBrief", saleReports},
-    {u"frmUtilTrustBrief", saleReports},
-    {u"frmCANLPGBrief", saleReports},
-    {u"frmCANCompanyBrief", saleReports},
-    {u"frmCANResBrief", saleReports},
-    {u"frmUtilClientBrief", saleReports},
-    {u"frmSaleBrief", saleReports},
-    {u"frmAClientSaleBrief", saleReports},
-    {u"frmPrtSale", saleReports},
-    {u"frmPrtBuy", saleReports},
-    {u"FrmAptBaln_rpt", u"APT 미수 현황"},
-    {u"FrmYearEnd", u"년도 마감"},
-    {u"frmNextYear", u"년도 마감"},
-    {u"frmChangeYear", u"PC년도 변경"},
-    {u"frmReport", reports},
-    {u"FrmSMS", u"문자 보내기"},
-    {u"frmDm", u"DM 발송"},
-    {u"frmPrtSafe", u"안전관리대장"},
-    {u"frmCar", fleet},
-    {u"frmCarRes", fleet},
-    {u"frmCaRepairUnit", fleet},
-    {u"FrmSeeIDOptions", caller},
-    {u"FrmSeeIDStanbyList", caller},
+    {u"처음 시작", u"frmSplash FrmInitMsg frmMain frmAbout"},
+    {u"처음 시작 안내", u"FrmFirstSteps"},
+    {u"설명서 보기 (F1)", u"FrmGuide"},
+    {u"사용자 등록과 환경설정", u"frmUser frmSecurity"},
+    {u"자료 폴더와 네트워크", u"FrmPath FrmNetDrive"},
+    {u"자료 폴더를 찾지 못할 때", u"FrmFolderTrouble"},
+    {u"백업과 되돌리기", u"frmMsgBackUp"},
+    {u"고객", u"frmClient FrmPreView frmCalendar"},
+    {u"고객 찾기", u"frmNewClient frmSearchClient"},
+    {u"아파트와 다가구 등록", u"frmHouseStyle frmBDName frmAPTAddress"},
+    {u"가스·자재·체적단가", u"frmGasUtil frmVolume frmSearchSize frmSearchVolume"},
+    {u"충전소·담당자·은행·우편번호",
+     u"frmRefillState frmResponse frmBank frmPostCode frmSearchRefill frmSearchResponse "
+     u"frmSearchBank"},
+    {u"판매 화면", u"frmSale"},
+    {u"금일판매내역 (F5)", u"frmTodaySale"},
+    {u"구매 화면", u"frmBuy"},
+    {u"재고수불", u"frmHoldBrief frmUtilHoldBrief"},
+    {u"담당자별 용기", u"frmResCAN"},
+    {u"예상 배달", u"frmVolumeEstimate"},
+    {u"검침", u"frmEva"},
+    {u"지로",
+     u"frmPrtJiro frmPrtJiroOCR frmPrtJiroOrg frmPrtJiroOrgA4 frmPrtMicr FrmPaperView frmPrtChange "
+     u"FrmSetPrinter FrmMargin FrmPrintSection"},
+    {u"전자수납", u"FrmSukum"},
+    {u"거래명세표", u"FrmDealList FrmMsg FrmTraderList"},
+    {u"세금계산서", u"FrmTax FrmNewAcount FrmNewTrader FrmPost"},
+    {u"집계와 보고서", u"frmEvaTotal frmReport"},
+    {u"판매 보고서",
+     u"frmTrustBrief frmLPGSaleBrief frmResSaleBrief frmResUtilBrief frmUtilTrustBrief "
+     u"frmCANLPGBrief frmCANCompanyBrief frmCANResBrief frmUtilClientBrief frmSaleBrief "
+     u"frmAClientSaleBrief frmPrtSale frmPrtBuy"},
+    {u"APT 미수 현황", u"FrmAptBaln_rpt"},
+    {u"년도 마감", u"FrmYearEnd frmNextYear"},
+    {u"PC년도 변경", u"frmChangeYear"},
+    {u"문자 보내기", u"FrmSMS"},
+    {u"DM 발송", u"frmDm"},
+    {u"안전관리대장", u"frmPrtSafe"},
+    {u"차량 정비", u"frmCar frmCarRes frmCaRepairUnit"},
+    {u"발신번호", u"FrmSeeIDOptions FrmSeeIDStanbyList"},
 };
 
 /** The text is one of those that the line's first cell names. */
@@ -123,14 +69,16 @@ bool speaksOf(const QString& named, const QString& text) {
 }  // namespace guide_chapters
 
 QString guideChapter(const QString& window) {
-  using guide_chapters::chapters;
-  const auto found = std::ranges::find_if(chapters, [&](const auto& each) { return window == each.window; });
-  return found == std::end(chapters) ? QString() : QString::fromUtf16(found->heading);
+  for (const auto& chapter : guide_chapters::chapters)
+    if (QString::fromUtf16(chapter.windows).split(u' ').contains(window))
+      return QString::fromUtf16(chapter.heading);
+  return {};
 }
 
 QStringList guideWindows() {
   QStringList names;
-  for (const auto& each : guide_chapters::chapters) names << QString::fromUtf16(each.window);
+  for (const auto& chapter : guide_chapters::chapters)
+    names << QString::fromUtf16(chapter.windows).split(u' ');
   return names;
 }
 
