@@ -45,15 +45,12 @@ QString FrmGuide::source() {
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-FrmGuide::FrmGuide(QWidget* parent) : QDialog(parent), chapters_(new QListWidget) {
-  resize(QSize(1060, 760).boundedTo(screen()->availableSize()));
+FrmGuide::FrmGuide(Prompts& prompts, QWidget* parent)
+    : Dialog(u"FrmGuide"_s, u"사용 설명서"_s, prompts, parent), chapters_(new QListWidget) {
+  layout()->setContentsMargins(10, 10, 10, 10);
+  allowResize(QSize(1060, 760).boundedTo(screen()->availableSize()));
   text_ = new GuideText(qMin(widestPicture, width() - listWidth - 100));
-  setObjectName(u"FrmGuide"_s);
-  setWindowTitle(u"사용 설명서"_s);
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(10, 10, 10, 10);
-  rows->setSpacing(8);
-  buildHead(*rows);
+  buildHead();
   chapters_->setObjectName(u"LstChapters"_s);
   chapters_->setFixedWidth(listWidth);
   chapters_->setSpacing(1);
@@ -64,11 +61,11 @@ FrmGuide::FrmGuide(QWidget* parent) : QDialog(parent), chapters_(new QListWidget
   text_->setMarkdown(source());
   dressTables();
   fillChapters();
-  auto* both = new QHBoxLayout;
+  auto* const both = new QHBoxLayout;
   both->setSpacing(8);
   both->addWidget(chapters_);
   both->addWidget(text_, 1);
-  rows->addLayout(both, 1);
+  body()->addLayout(both, 1);
   connect(text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
     for (int row = 0; row < chapters_->count(); ++row)
       if (guideAnchor(chapters_->item(row)->text().trimmed()) == link.fragment(QUrl::FullyDecoded))
@@ -80,32 +77,25 @@ FrmGuide::FrmGuide(QWidget* parent) : QDialog(parent), chapters_(new QListWidget
   text_->setFocus();
 }
 
-void FrmGuide::buildHead(QLayout& rows) {
+void FrmGuide::buildHead() {
   find_ = new QLineEdit;
   find_->setObjectName(u"TxtFind"_s);
   find_->setPlaceholderText(u"찾을 말을 넣고 엔터"_s);
   find_->setClearButtonEnabled(true);
-  auto* label = new QLabel(u"찾기(&F)"_s);
+  auto* const label = new QLabel(u"찾기(&F)"_s);
   label->setBuddy(find_);
   count_ = new QLabel;
   count_->setObjectName(u"LblFound"_s);
   count_->setMinimumWidth(70);
-  auto* line = new QHBoxLayout;
+  auto* const line = new QHBoxLayout;
   line->setSpacing(6);
   line->addWidget(label);
   line->addWidget(find_, 1);
   line->addWidget(count_);
-  const auto button = [&](const QString& caption, const char* name, auto work) {
-    auto* made = new QPushButton(caption);
-    made->setObjectName(QString::fromLatin1(name));
-    made->setAutoDefault(false);
-    connect(made, &QPushButton::clicked, this, work);
-    line->addWidget(made);
-  };
-  button(u"이전(&P)"_s, "BtnBefore", [this] { step(true); });
-  button(u"다음(&N)"_s, "BtnNext", [this] { step(false); });
-  button(u"닫기(&X)"_s, "BtnClose", [this] { close(); });
-  static_cast<QVBoxLayout&>(rows).addLayout(line);
+  line->addWidget(addButton("BtnBefore", u"이전(&P)"_s, [this] { step(true); }));
+  line->addWidget(addButton("BtnNext", u"다음(&N)"_s, [this] { step(false); }));
+  line->addWidget(addLeave("BtnClose", u"닫기(&X)"_s));
+  body()->addLayout(line);
   connect(find_, &QLineEdit::textChanged, this, [this](const QString& words) { markFound(words); });
 }
 
@@ -203,5 +193,5 @@ void FrmGuide::keyPressEvent(QKeyEvent* event) {
     find_->selectAll();
     return;
   }
-  QDialog::keyPressEvent(event);
+  Dialog::keyPressEvent(event);
 }

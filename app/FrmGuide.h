@@ -1,15 +1,15 @@
 #pragma once
 // The operator's guide inside the program: chapters at the left, the text with its pictures, a line to search it.
-#include <QDialog>
+#include "ui/forms/dialog.h"
 
 class QLabel;
 class QLineEdit;
 class QListWidget;
 class QTextBrowser;
 
-class FrmGuide : public QDialog {
+class FrmGuide : public Dialog {
  public:
-  explicit FrmGuide(QWidget* parent = nullptr);
+  explicit FrmGuide(Prompts& prompts, QWidget* parent = nullptr);
 
   /** The guide as it is written, built into the program. */
   static QString source();
@@ -22,7 +22,7 @@ class FrmGuide : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void buildHead(QLayout& rows);
+  void buildHead();
   void fillChapters();
   void dressTables();
   void goTo(int position);

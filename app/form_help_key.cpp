@@ -47,14 +47,14 @@ void HelpKey::show(const QString& chapter, const QString& words, QWidget* over) 
     if (!words.isEmpty()) guide.look(words);
   };
   if (over) {  // a window that keeps all others from the keyboard: the guide stands on it until it is closed
-    FrmGuide guide(over);
+    FrmGuide guide(prompts_, over);
     guide.setModal(true);
     guide.show();
     turn(guide);
     guide.exec();
     return;
   }
-  if (!guide_) guide_ = new FrmGuide;
+  if (!guide_) guide_ = new FrmGuide(prompts_);
   guide_->showNormal();
   turn(*guide_);
   guide_->raise();

@@ -6,13 +6,15 @@
 #include <functional>
 
 class FrmGuide;
+class Prompts;
 class QWidget;
 
 /** Put on the application as an event filter. */
 class HelpKey : public QObject {
  public:
   /** formInFront: the form that stands in front in the main window, or null; asked when a box or the frame is in front. */
-  explicit HelpKey(std::function<QWidget*()> formInFront) : formInFront_(std::move(formInFront)) {}
+  HelpKey(Prompts& prompts, std::function<QWidget*()> formInFront)
+      : prompts_(prompts), formInFront_(std::move(formInFront)) {}
   ~HelpKey() override;
 
   /** For what is in front. */
@@ -25,6 +27,7 @@ class HelpKey : public QObject {
   QString chapterOf(QWidget* window) const;
   void show(const QString& chapter, const QString& words, QWidget* over);
 
+  Prompts& prompts_;
   std::function<QWidget*()> formInFront_;
   QPointer<FrmGuide> guide_;  ///< the one beside the main window
 };

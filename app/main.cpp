@@ -5,6 +5,7 @@
 
 #include "app/FrmFolderTrouble.h"
 #include "app/FrmInitMsg.h"
+#include "app/form_desk.h"
 #include "app/form_help_key.h"
 #include "app/form_pickers.h"
 #include "app/form_tool_icons.h"
@@ -14,14 +15,10 @@
 #include "app/start_up.h"
 #include "pc/program_line.h"
 #include "store/settings_table.h"
-#include "store/support_log.h"
 #include "ui/forms/guard.h"
 #include "ui/forms/korean.h"
-#include "ui/forms/message_boxes.h"
 #include "ui/forms/style.h"
 #include "ui/paper/print_fonts.h"
-#include "ui/paper/printers.h"
-#include "ui/paper/report_viewer.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,24 +52,14 @@ int main(int argc, char** argv) {
   speakKorean(application);
   look::apply(application);
 
-  pc::Pc pc(pc::Paths::defaultRoot());
-  Session* open = nullptr;  // the boxes ask for a title that only the session knows
-  MessageBoxes boxes(
-      [&open] { return open ? open->AppTitle : QString(); },
-      [&pc](const QString& window, const jet::Error& error) { support::noteError(pc, window, error); });
-  Session session(pc, boxes);
-  open = &session;
-  PcPrinters printers(pc);
-  session.printers = &printers;
-  ReportViewer reports(session);
-  session.reports = &reports;
-
+  Desk desk(pc::Paths::defaultRoot());
+  auto& [pc, boxes, session, printers, reports] = desk;
   StartUp startUp(session);
   FormPickers pickers(session);
   frmSplash splash(startUp, session);
   std::unique_ptr<frmMain> mainWindow;
 
-  HelpKey help([&mainWindow] { return mainWindow ? mainWindow->activeForm() : nullptr; });
+  HelpKey help(boxes, [&mainWindow] { return mainWindow ? mainWindow->activeForm() : nullptr; });
   application.installEventFilter(&help);
 
   splash.ended = [] { QApplication::exit(0); };

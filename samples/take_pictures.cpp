@@ -20,6 +20,7 @@
 #include "app/FrmFolderTrouble.h"
 #include "app/FrmGuide.h"
 #include "app/FrmInitMsg.h"
+#include "app/form_desk.h"
 #include "app/form_pickers.h"
 #include "app/form_tool_icons.h"
 #include "app/frmMain.h"
@@ -40,10 +41,9 @@
 #include "pc/program_line.h"
 #include "samples/sample_books.h"
 #include "store/settings_table.h"
-#include "ui/forms/message_boxes.h"
 #include "ui/forms/style.h"
-#include "ui/paper/printers.h"
-#include "ui/paper/report_viewer.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -318,8 +318,8 @@ void small(frmMain& window, Session& session, Photographer& photographer) {
   photographer.take(list, "FrmSeeIDStanbyList");
 }
 
-void guideAndFirstSteps(frmMain& window, Photographer& photographer) {
-  FrmGuide guide;
+void guideAndFirstSteps(frmMain& window, Prompts& prompts, Photographer& photographer) {
+  FrmGuide guide(prompts);
   guide.show();
   guide.showChapter("검침");
   photographer.take(guide, "FrmGuide");
@@ -367,17 +367,10 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   if (application.arguments().size() != 3) return pc::wrongUse(programLine);
-  QApplication::setWindowIcon(toolIcon(QStringLiteral("MnuOutcome")));
+  QApplication::setWindowIcon(toolIcon(u"MnuOutcome"_s));
   look::apply(application);
-  pc::Pc pc(application.arguments().at(1));
-  Session* open = nullptr;
-  MessageBoxes boxes([&open] { return open ? open->AppTitle : QString(); });
-  Session session(pc, boxes);
-  open = &session;
-  PcPrinters printers(pc);
-  session.printers = &printers;
-  ReportViewer reports(session);
-  session.reports = &reports;
+  Desk desk(application.arguments().at(1));
+  Session& session = desk.session;
   StartUp startUp(session);
   FormPickers searches(session);
   Photographer photographer(application.arguments().at(2));
@@ -399,12 +392,12 @@ int main(int argc, char** argv) {
     searches.setContext(window.context());
     mainWindowForms(window, session, photographer);
     meterBook(window, session, photographer);
-    totals(window, reports, photographer);
+    totals(window, desk.reports, photographer);
     documents(window, searches, photographer);
-    tradeReports(window, session, reports, photographer);
+    tradeReports(window, session, desk.reports, photographer);
     pickers(searches, session, photographer);
     small(window, session, photographer);
-    guideAndFirstSteps(window, photographer);
+    guideAndFirstSteps(window, desk.boxes, photographer);
     yearEnd(window, session, photographer);
     window.setSilentClose();
     window.close();

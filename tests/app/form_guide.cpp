@@ -27,7 +27,7 @@ namespace {
 struct GuideWindow : testing::Test, tests::TestPc {
   FormPickers pickers{session};
   std::unique_ptr<frmMain> window;
-  HelpKey help{[this] { return window ? window->activeForm() : nullptr; }};
+  HelpKey help{prompts, [this] { return window ? window->activeForm() : nullptr; }};
 
   GuideWindow() {
     openBooks();
@@ -126,7 +126,7 @@ TEST_F(GuideWindow, ABoxLeadsToTheLineThatExplainsIt) {
 }
 
 TEST_F(GuideWindow, ItIsSearchedByKeysAndItsLinksLead) {
-  FrmGuide own;
+  FrmGuide own(prompts);
   tests::show(own);
   tests::grab(own, "FrmGuide-top");
   auto* text = own.findChild<QTextBrowser*>("TxtGuide");

@@ -9,7 +9,8 @@ class QLabel;
 class QProgressBar;
 class QPushButton;
 
-/** Shown while it lives, over the window that works; other windows take no input meanwhile. */
+/** Shown while it lives, over the window that works; other windows take no input meanwhile. Nothing of it runs by itself,
+ *  so it has no guard of its own: it is drawn by the work, which stands under the guard of who began it. */
 class FrmProgress : public QDialog {
  public:
   /** total: steps of the work; 0 when it is not known. A stop button only when the work may be broken off. */
