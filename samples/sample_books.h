@@ -1,7 +1,13 @@
 #pragma once
 // A made-up LPG retailer in a small town: what ./run sample, the sample day and the pictures are played on.
+#include <functional>
+
 #include "pc/pc.h"
 #include "ui/model/prompts.h"
+
+class QDate;
+struct ReadingSheet;
+struct Session;
 
 namespace samples {
 
@@ -10,6 +16,11 @@ namespace samples {
  *  before the clock's read, billed and mostly paid. The same clock gives the same books, and every balance and stock
  *  figure equals what its lines add up to. Throws jet::Error. */
 void makeBooks(pc::Pc& pc, Prompts& prompts);
+
+/** The three meter books one after another as they show that month, with the clock set to nine on that day: work is given
+ *  every row, a book's rows in one group. */
+void eachReading(Session& session, const QDate& day, int month,
+                 const std::function<void(ReadingSheet& sheet, int row)>& work);
 
 /** What lay in stock of every item before the first line: pieces of each cylinder, pieces of each fitting. */
 inline constexpr qint64 openingFull = 60, openingEmpty = 25, openingFittings = 30;

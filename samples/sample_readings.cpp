@@ -3,7 +3,10 @@
 #include "billing/reading_load.h"
 #include "billing/reading_save.h"
 #include "billing/reading_sheet.h"
+#include "samples/sample_books.h"
 #include "samples/sample_town.h"
+
+using namespace Qt::StringLiterals;
 
 namespace samples {
 namespace {
@@ -16,12 +19,12 @@ class MeterBooks {
   MeterBooks& operator=(const MeterBooks&) = delete;
 
   void write() {
-    each({now_.date().year(), 1, 2}, 0, [this](ReadingSheet& sheet, int row) {
+    eachReading(session_, {now_.date().year(), 1, 2}, 0, [this](ReadingSheet& sheet, int row) {
       sheet.setNumber(row, EvaCol::UseGage, 100 + dice_.roll(800));
       SaveReadingRow(sheet, row);
     });
     for (int month = 1; month < now_.date().month(); ++month) {
-      each({now_.date().year(), month, 26}, month, [this](ReadingSheet& sheet, int row) {
+      eachReading(session_, {now_.date().year(), month, 26}, month, [this](ReadingSheet& sheet, int row) {
         read(sheet, row);
         pay(sheet, row);
       });
@@ -29,30 +32,12 @@ class MeterBooks {
   }
 
  private:
-  /** Every row of the three books, as shown on that day. */
-  template <class Work>
-  void each(const QDate& day, int month, const Work& work) {
-    session_.pc.clock.set(day.startOfDay().addSecs(9 * 3600));
-    for (const HouseStyle book :
-         {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold}) {
-      ReadingSheet sheet(session_);
-      sheet.book = book;
-      sheet.month = month;
-      fillBuildings(sheet);
-      if (!sheet.buildings.isEmpty()) sheet.building = 0;
-      RefreshReadingGrid(sheet);
-      session_.wsMain.Together([&] {
-        for (int row = 1; row <= sheet.grid.MaxRows(); ++row) work(sheet, row);
-      });
-    }
-  }
-
   /** Cubic metres: a household cooks, a shop lives on it. */
   void read(ReadingSheet& sheet, int row) {
     const int used = sheet.book == HouseStyle::Individual ? 60 + dice_.roll(90) : 8 + dice_.roll(15);
     sheet.setNumber(row, EvaCol::UseGage, sheet.number(row, EvaCol::PrevUseGage) + used);
     CalcReadingRow(sheet, row);
-    sheet.grid.setText(row, EvaCol::Prnt, QStringLiteral("1"));
+    sheet.grid.setText(row, EvaCol::Prnt, u"1"_s);
     SaveReadingRow(sheet, row);
   }
 
@@ -76,8 +61,24 @@ class MeterBooks {
 
 }  // namespace
 
+void eachReading(Session& session, const QDate& day, int month,
+                 const std::function<void(ReadingSheet& sheet, int row)>& work) {
+  session.pc.clock.set(day.startOfDay().addSecs(9 * 3600));
+  for (const HouseStyle book : {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold}) {
+    ReadingSheet sheet(session);
+    sheet.book = book;
+    sheet.month = month;
+    fillBuildings(sheet);
+    if (!sheet.buildings.isEmpty()) sheet.building = 0;
+    RefreshReadingGrid(sheet);
+    session.wsMain.Together([&] {
+      for (int row = 1; row <= sheet.grid.MaxRows(); ++row) work(sheet, row);
+    });
+  }
+}
+
 void writeReadings(Town& town) {
-  town.session.DelayCalcFlag = QStringLiteral("0");
+  town.session.DelayCalcFlag = u"0"_s;
   readRateBook(town.session);
   MeterBooks(town.session).write();
 }

@@ -84,19 +84,8 @@ struct TwoYears : testing::Test, tests::TestPc {
   }
 
   void readAndPay(int year, int month) {
-    pc.clock.set(QDateTime(QDate(year, month, 26), QTime(9, 0)));
-    for (const HouseStyle book :
-         {HouseStyle::Individual, HouseStyle::Apartment, HouseStyle::MultiHousehold}) {
-      ReadingSheet sheet(session);
-      sheet.book = book;
-      sheet.month = month;
-      fillBuildings(sheet);
-      if (!sheet.buildings.isEmpty()) sheet.building = 0;
-      RefreshReadingGrid(sheet);
-      session.wsMain.Together([&] {
-        for (int row = 1; row <= sheet.grid.MaxRows(); ++row) work(sheet, row, month);
-      });
-    }
+    samples::eachReading(session, QDate(year, month, 26), month,
+                         [&](ReadingSheet& sheet, int row) { work(sheet, row, month); });
     for (Account& of : accounts) carry(of, month == 12 ? 0 : session.AfterDueMethod);
   }
   void work(ReadingSheet& sheet, int row, int month) {

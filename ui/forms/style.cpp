@@ -9,12 +9,13 @@
 #include <QRadioButton>
 #include <QStyleOption>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString chosenFamily() {
   const QStringList installed = QFontDatabase::families();
-  for (const QString& wanted : {QStringLiteral("NanumGothic"), QStringLiteral("나눔고딕"),
-                                QStringLiteral("Malgun Gothic"), QStringLiteral("Baekmuk Dotum")}) {
+  for (const QString& wanted : {u"NanumGothic"_s, u"나눔고딕"_s, u"Malgun Gothic"_s, u"Baekmuk Dotum"_s}) {
     if (installed.contains(wanted)) return wanted;
   }
   return QApplication::font().family();
@@ -22,19 +23,21 @@ QString chosenFamily() {
 
 QPalette officePalette() {
   QPalette palette;
-  palette.setColor(QPalette::Window, look::desk);
-  palette.setColor(QPalette::WindowText, look::ink);
-  palette.setColor(QPalette::Base, look::paper);
-  palette.setColor(QPalette::AlternateBase, look::stripe);
-  palette.setColor(QPalette::Text, look::ink);
-  palette.setColor(QPalette::Button, look::desk);
-  palette.setColor(QPalette::ButtonText, look::ink);
-  palette.setColor(QPalette::Highlight, look::accent);
-  palette.setColor(QPalette::HighlightedText, look::paper);
-  palette.setColor(QPalette::PlaceholderText, look::disabledInk);
-  palette.setColor(QPalette::ToolTipBase, look::paper);
-  palette.setColor(QPalette::ToolTipText, look::ink);
-  palette.setColor(QPalette::Mid, look::line);
+  using enum QPalette::ColorRole;
+  const std::pair<QPalette::ColorRole, QColor> colours[] = {{Window, look::desk},
+                                                            {WindowText, look::ink},
+                                                            {Base, look::paper},
+                                                            {AlternateBase, look::stripe},
+                                                            {Text, look::ink},
+                                                            {Button, look::desk},
+                                                            {ButtonText, look::ink},
+                                                            {Highlight, look::accent},
+                                                            {HighlightedText, look::paper},
+                                                            {PlaceholderText, look::disabledInk},
+                                                            {Mid, look::line},
+                                                            {ToolTipBase, look::paper},
+                                                            {ToolTipText, look::ink}};
+  for (const auto& [role, colour] : colours) palette.setColor(role, colour);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     palette.setColor(QPalette::Disabled, role, look::disabledInk);
   palette.setColor(QPalette::Disabled, QPalette::Base, look::disabledPaper);
@@ -46,7 +49,7 @@ QPalette officePalette() {
  *  And the focus is framed always: the toolkit shows it faintly, and only after a Tab. */
 class OfficeStyle : public QProxyStyle {
  public:
-  OfficeStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+  OfficeStyle() : QProxyStyle(u"Fusion"_s) {}
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
@@ -136,7 +139,7 @@ QFont look::textFont() {
 QFont look::textFont(int points, bool bold) {
   static const QString family = chosenFamily();
   QFont font(family, points);
-  font.setFamilies({family, QStringLiteral("Baekmuk Dotum")});
+  font.setFamilies({family, u"Baekmuk Dotum"_s});
   font.setBold(bold);
   return font;
 }

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 const QString nothing;
 }
@@ -45,12 +47,7 @@ void SpreadModel::setMaxRows(int rows) {
     rows_[at].id = nextId_++;
   }
   if (all) {
-    formulas_.clear();
-    locks_.clear();
-    colours_.clear();
-    inks_.clear();
-    signs_.clear();
-    offers_.clear();
+    forgetRows();
     tell(What::Reset, 0, 0);
   } else {
     tell(size_t(rows) > before ? What::RowsInserted : What::RowsRemoved, std::min(int(before), rows) + 1, 0);
@@ -83,13 +80,18 @@ int SpreadModel::DataRowCnt() const {
   return 0;
 }
 
-void SpreadModel::setRows(std::vector<std::vector<QString>> rows) {
+/** What stands beside the rows' texts goes with them. */
+void SpreadModel::forgetRows() {
   formulas_.clear();
   locks_.clear();
   colours_.clear();
   inks_.clear();
   signs_.clear();
   offers_.clear();
+}
+
+void SpreadModel::setRows(std::vector<std::vector<QString>> rows) {
+  forgetRows();
   rows_.clear();
   rows_.reserve(rows.size());
   for (auto& cells : rows) {
@@ -203,7 +205,7 @@ qint64 SpreadModel::sum(int col, int fromRow, int toRow) const {
 // --- formulas -----------------------------------------------------------------------------------------------
 
 bool SpreadModel::setFormula(int row, int col, const QString& formula) {
-  static const QRegularExpression sumOf(QStringLiteral("^SUM\\(R(\\d+)C(\\d+):R(\\d+)C(\\d+)\\)$"));
+  static const QRegularExpression sumOf(u"^SUM\\(R(\\d+)C(\\d+):R(\\d+)C(\\d+)\\)$"_s);
   const QRegularExpressionMatch match = sumOf.match(formula);
   if (!match.hasMatch() || match.captured(2) != match.captured(4)) return false;
   const qint64 id = rows_.at(size_t(row - 1)).id;
@@ -219,7 +221,7 @@ QString SpreadModel::formula(int row, int col) const {
   const qint64 id = rows_.at(size_t(row - 1)).id;
   for (const Formula& each : formulas_)
     if (each.id == id && each.col == col)
-      return QStringLiteral("SUM(R%1C%2:R%3C%2)").arg(each.from).arg(each.sumCol).arg(each.to);
+      return u"SUM(R%1C%2:R%3C%2)"_s.arg(each.from).arg(each.sumCol).arg(each.to);
   return {};
 }
 
@@ -252,12 +254,11 @@ void SpreadModel::moveFormulas(int row, int step) {
 void InsertSubTotal(SpreadModel& grid, int row, SubTotal kind, int labelCol,
                     const std::vector<int>& columns) {
   grid.insertRow(row);
-  grid.setText(row, labelCol, kind == SubTotal::Part ? QStringLiteral("[소 계]") : QStringLiteral("[합 계]"));
+  grid.setText(row, labelCol, kind == SubTotal::Part ? u"[소 계]"_s : u"[합 계]"_s);
   for (const int col : columns) {
     const QString column = QString::number(col);
     grid.setFormula(row, col,
-                    QStringLiteral("SUM(R1C") + column + QStringLiteral(":R") + QString::number(row - 1) +
-                        QStringLiteral("C") + column + QStringLiteral(")"));
+                    u"SUM(R1C"_s + column + u":R"_s + QString::number(row - 1) + u"C"_s + column + u")"_s);
   }
   grid.setBold(row, true);
   grid.setBackground(row, 0, 0xE8ECF1);

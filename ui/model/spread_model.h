@@ -112,6 +112,7 @@ class SpreadModel {
     int sumCol, from, to;
   };
   void follow(int row, int col);
+  void forgetRows();
   void moveFormulas(int row, int step);
   int rowOf(qint64 id) const;
 
