@@ -15,7 +15,7 @@ frmAbout::frmAbout(FormContext& context, QWidget* parent)
   addText(u"해온판매"_s)->setFont(look::textFont(15, true));
   addText(u"LP가스 판매관리"_s);
   body()->addSpacing(6);
-  addText(u"버전 "_s + QStringLiteral(HAEON_VERSION), "lblVersion");
+  addText(u"버전 "_s + QString::fromLatin1(HAEON_VERSION), "lblVersion");
   addText(u"라온웨어  "_s + makerAddress());
   addText(u"자료 폴더  "_s + context.session.DbPath + u"\n작업년도  "_s + context.session.WorkYear);
   addDefault("BtnOk", u"확인"_s, [this] { accept(); });

@@ -9,13 +9,15 @@
 
 #include "store/settings_table.h"
 
+using namespace Qt::StringLiterals;
+
 FrmSeeIDStanbyList::FrmSeeIDStanbyList(Session& session, WaitingList& waiting, QWidget* parent)
     : QWidget(parent, Qt::Window), session_(session), waiting_(waiting) {
-  setObjectName(QStringLiteral("FrmSeeIDStanbyList"));
-  setWindowTitle(QStringLiteral("발신번호 처리 대기"));
+  setObjectName(u"FrmSeeIDStanbyList"_s);
+  setWindowTitle(u"발신번호 처리 대기"_s);
 
   List1_ = new QListWidget(this);
-  List1_->setObjectName(QStringLiteral("List1"));
+  List1_->setObjectName(u"List1"_s);
   List1_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   auto button = [this](const char* name, const QString& caption, auto work) {
     auto* made = new QPushButton(caption, this);
@@ -23,9 +25,9 @@ FrmSeeIDStanbyList::FrmSeeIDStanbyList(Session& session, WaitingList& waiting, Q
     connect(made, &QPushButton::clicked, this, work);
     return made;
   };
-  auto* btnDel = button("btnDel", QStringLiteral("삭제(&E)"), [this] { deleteSelected(); });
-  auto* btnAllDel = button("btnAllDel", QStringLiteral("전체삭제(&A)"), [this] { waiting_.clear(); });
-  auto* Command1 = button("Command1", QStringLiteral("test"), [this] { askTestEntry(); });
+  auto* btnDel = button("btnDel", u"삭제(&E)"_s, [this] { deleteSelected(); });
+  auto* btnAllDel = button("btnAllDel", u"전체삭제(&A)"_s, [this] { waiting_.clear(); });
+  auto* Command1 = button("Command1", u"test"_s, [this] { askTestEntry(); });
   Command1->hide();
   connect(new QShortcut(Qt::Key_Delete, this), &QShortcut::activated, btnDel, &QPushButton::click);
 
@@ -34,7 +36,7 @@ FrmSeeIDStanbyList::FrmSeeIDStanbyList(Session& session, WaitingList& waiting, Q
   buttons->addWidget(btnDel);
   buttons->addWidget(btnAllDel);
   auto* all = new QVBoxLayout(this);
-  all->addWidget(new QLabel(QStringLiteral("자동 발신번호 처리 대기 목록"), this));
+  all->addWidget(new QLabel(u"자동 발신번호 처리 대기 목록"_s, this));
   all->addWidget(List1_);
   all->addLayout(buttons);
   resize(320, 280);
@@ -75,7 +77,7 @@ void FrmSeeIDStanbyList::deleteSelected() {
   QList<int> rows;
   for (const QModelIndex& index : List1_->selectionModel()->selectedRows()) rows << index.row();
   if (rows.isEmpty()) {
-    session_.prompts.MsgInfo(QStringLiteral("삭제할 항목을 선택해 주세요."));
+    session_.prompts.MsgInfo(u"삭제할 항목을 선택해 주세요."_s);
     return;
   }
   std::sort(rows.begin(), rows.end(), std::greater<>());
@@ -83,7 +85,6 @@ void FrmSeeIDStanbyList::deleteSelected() {
 }
 
 void FrmSeeIDStanbyList::askTestEntry() {
-  const auto typed = session_.prompts.InputBox(QStringLiteral("string"), QStringLiteral("test"),
-                                               QStringLiteral("0111234567"));
+  const auto typed = session_.prompts.InputBox(u"string"_s, u"test"_s, u"0111234567"_s);
   if (typed && !typed->isEmpty()) waiting_.AddStanbyNumber(*typed);
 }

@@ -3,6 +3,8 @@
 #include "store/jet/value.h"
 #include "store/settings_table.h"
 
+using namespace Qt::StringLiterals;
+
 bool Caller::enabled() const {
   return session_.pc.settings.read(setting::SeeIdUse) == u"1";
 }
@@ -25,20 +27,18 @@ void Caller::OpenSeeID() {
   const auto numbers = ports();
   for (size_t at = 0; at < controls_.size(); ++at) {
     if (controls_[at]->isOpen() || numbers[at] == u"0") continue;
-    const QString port = QStringLiteral("COM") + numbers[at];
+    const QString port = u"COM"_s + numbers[at];
     if (controls_[at]->open(port) > 0)
-      session_.prompts.MsgInfo(QStringLiteral("포트 ") + port +
-                               QStringLiteral("으로 SEE ID OPEN에 실패했습니다."));
+      session_.prompts.MsgInfo(u"포트 "_s + port + u"으로 SEE ID OPEN에 실패했습니다."_s);
   }
 }
 
 void Caller::CloseSeeID() {
   for (size_t at = 0; at < controls_.size(); ++at) {
     if (!controls_[at]->isOpen()) continue;
-    const QString port = QStringLiteral("COM") + QString::number(at + 1);
+    const QString port = u"COM"_s + QString::number(at + 1);
     if (controls_[at]->close(port) > 0)
-      session_.prompts.MsgInfo(QStringLiteral("포트 ") + port +
-                               QStringLiteral("으로 SEE ID CLOSE에 실패했습니다."));
+      session_.prompts.MsgInfo(u"포트 "_s + port + u"으로 SEE ID CLOSE에 실패했습니다."_s);
   }
 }
 

@@ -4,12 +4,14 @@
 #include "samples/sample_books.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
 /** A line just begun: it carries its customer and waits for the rest. */
-const QString emptyLine = QStringLiteral("1\t0\t0\t0\t");
-const QString basicFile = QStringLiteral("Basic.mdb");
+const QString emptyLine = u"1\t0\t0\t0\t"_s;
+const QString basicFile = u"Basic.mdb"_s;
 
 class Day {
  public:
@@ -57,7 +59,7 @@ class Day {
                               "Name = 'LPG' And Size = '20'")
                        .value(0);
     leave(stage_);
-    tell_(QStringLiteral("the program was closed"));
+    tell_(u"the program was closed"_s);
     return report;
   }
 
@@ -90,34 +92,34 @@ class Day {
   }
 
   void openSales() {
-    signIn(stage_, QStringLiteral("day-1-sign-in"));
+    signIn(stage_, u"day-1-sign-in"_s);
     stage_.keys({"alt+l", "s"});
-    tell_(QStringLiteral("signed in and opened the sale screen"));
+    tell_(u"signed in and opened the sale screen"_s);
   }
 
   void call() {
-    stage_.picture(QStringLiteral("day-2-sale-screen"));
+    stage_.picture(u"day-2-sale-screen"_s);
     stage_.callerUnitSends("RING\r\nNMBR=0531234567\r\n");
-    stage_.picture(QStringLiteral("day-3-caller-came-up"));
-    tell_(QStringLiteral("a call came in from 0531234567"));
+    stage_.picture(u"day-3-caller-came-up"_s);
+    tell_(u"a call came in from 0531234567"_s);
   }
 
   void gasLine() {
     stage_.keys({"Return"});  // 가스, as the line stands: it is made
     awaitLine(emptyLine);
     stage_.keys({"F12"});  // Enter would take the item that he had last
-    stage_.awaitWindow(QStringLiteral("판매상품조회"));
-    stage_.picture(QStringLiteral("day-4-item-search"));
+    stage_.awaitWindow(u"판매상품조회"_s);
+    stage_.picture(u"day-4-item-search"_s);
     stage_.keys({"Return"});
-    awaitLine(QStringLiteral("1\t1\t27000\t0\t"));
+    awaitLine(u"1\t1\t27000\t0\t"_s);
     takePerson();
-    awaitLine(QStringLiteral("1\t1\t27000\t0\t") + lastPerson_);
-    tell_(QStringLiteral("a 20 kg gas delivery was posted, 27,000 won paid"));
+    awaitLine(u"1\t1\t27000\t0\t"_s + lastPerson_);
+    tell_(u"a 20 kg gas delivery was posted, 27,000 won paid"_s);
   }
 
   /** From the amount on: the line is right as it stands, with the person it offers. */
   void takePerson() {
-    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_.awaitWindow(u"LP가스 판매관리"_s);
     stage_.keys({"Return"});
   }
 
@@ -130,56 +132,55 @@ class Day {
     findCustomer();
     stage_.keys({"Down", "Down", "Return"});  // the list of kinds: 수금
     awaitLine(emptyLine);
-    stage_.type(QStringLiteral("30000"));
+    stage_.type(u"30000"_s);
     stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("자료수정"));  // the line stands already, so a changed cell asks
+    stage_.awaitWindow(u"자료수정"_s);  // the line stands already, so a changed cell asks
     stage_.keys({"Return"});
-    awaitLine(QStringLiteral("4\t0\t30000\t20000\t"));
+    awaitLine(u"4\t0\t30000\t20000\t"_s);
     stage_.keys({"F12"});  // somebody else than who came last
-    stage_.awaitWindow(QStringLiteral("담당"));
+    stage_.awaitWindow(u"담당"_s);
     stage_.keys({"Down", "Return"});
-    awaitLine(QStringLiteral("4\t0\t30000\t20000\t나대로"));
+    awaitLine(u"4\t0\t30000\t20000\t나대로"_s);
     awaitBalance(callerOwes - 30000);
-    stage_.picture(QStringLiteral("day-5-collection"));
-    tell_(QStringLiteral("30,000 won were collected"));
+    stage_.picture(u"day-5-collection"_s);
+    tell_(u"30,000 won were collected"_s);
   }
 
   void loan() {
-    stage_.awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_.awaitWindow(u"LP가스 판매관리"_s);
     findCustomer();
     stage_.keys({"Down", "Down", "Down", "Return"});  // 용대
     awaitLine(emptyLine);
     stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("판매상품조회"));
+    stage_.awaitWindow(u"판매상품조회"_s);
     stage_.keys({"Return"});
-    awaitLine(QStringLiteral("5\t1\t0\t0\t"));
+    awaitLine(u"5\t1\t0\t0\t"_s);
     takePerson();
-    awaitLine(QStringLiteral("5\t1\t0\t0\t나대로"));
-    tell_(QStringLiteral("a cylinder was lent"));
+    awaitLine(u"5\t1\t0\t0\t나대로"_s);
+    tell_(u"a cylinder was lent"_s);
   }
 
   /** The delivery was not wholly paid after all: 20,000 of 27,000. */
   void change() {
     stage_.keys({"Escape", "Up", "Up", "Up"});
     for (int step = 0; step < 7; ++step) stage_.keys({"Right"});
-    stage_.type(QStringLiteral("20000"));
+    stage_.type(u"20000"_s);
     stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("자료수정"));
-    stage_.picture(QStringLiteral("day-6-change"));
+    stage_.awaitWindow(u"자료수정"_s);
+    stage_.picture(u"day-6-change"_s);
     stage_.keys({"Return"});
     awaitBalance(callerOwes - 30000 + 7000);
-    tell_(QStringLiteral("the delivery was changed: 20,000 won paid, 7,000 on credit"));
+    tell_(u"the delivery was changed: 20,000 won paid, 7,000 on credit"_s);
   }
 
   void deletion() {
     stage_.keys({"Escape", "Up", "Delete"});
-    stage_.awaitWindow(QStringLiteral("자료삭제"));
+    stage_.awaitWindow(u"자료삭제"_s);
     stage_.keys({"alt+y"});  // the question stands on 아니오
-    stage_.awaitRow(yearFile_, "Select Count(SaleID) From Sale Where SaleDate = '" + date_ + "'",
-                    QStringLiteral("2"));
-    tell_(QStringLiteral("the loan was deleted again"));
+    stage_.awaitRow(yearFile_, "Select Count(SaleID) From Sale Where SaleDate = '" + date_ + "'", u"2"_s);
+    tell_(u"the loan was deleted again"_s);
     stage_.keys({"F5"});
-    stage_.picture(QStringLiteral("day-7-figures-of-the-day"));
+    stage_.picture(u"day-7-figures-of-the-day"_s);
     stage_.keys({"Escape"});
   }
 
@@ -192,28 +193,28 @@ class Day {
                       values);
     };
     const QString station =
-        stage_.query(basicFile, QStringLiteral("Select Tel From RefillState Where Code = '0001'")).value(0);
+        stage_.query(basicFile, u"Select Tel From RefillState Where Code = '0001'"_s).value(0);
     stage_.keys({"alt+l", "b"});
     stage_.type(station);
     stage_.keys({"Return", "Return"});  // 가스
-    awaitPurchase(QStringLiteral("1\t0\t0\t0"));
+    awaitPurchase(u"1\t0\t0\t0"_s);
     stage_.keys({"F12"});
-    stage_.awaitWindow(QStringLiteral("구매상품 조회"));
+    stage_.awaitWindow(u"구매상품 조회"_s);
     stage_.keys({"Return"});
-    awaitPurchase(QStringLiteral("1\t1\t18000\t0"));
-    changeCell(QStringLiteral("10"));
-    awaitPurchase(QStringLiteral("1\t10\t180000\t0"));
+    awaitPurchase(u"1\t1\t18000\t0"_s);
+    changeCell(u"10"_s);
+    awaitPurchase(u"1\t10\t180000\t0"_s);
     stage_.keys({"Return"});  // the amount is right
-    changeCell(QStringLiteral("100000"));
-    awaitPurchase(QStringLiteral("1\t10\t100000\t80000"));
-    stage_.picture(QStringLiteral("day-8-purchase"));
-    tell_(QStringLiteral("ten cylinders were filled at the station: 100,000 won paid, 80,000 on credit"));
+    changeCell(u"100000"_s);
+    awaitPurchase(u"1\t10\t100000\t80000"_s);
+    stage_.picture(u"day-8-purchase"_s);
+    tell_(u"ten cylinders were filled at the station: 100,000 won paid, 80,000 on credit"_s);
   }
 
   void changeCell(const QString& text) {
     stage_.type(text);
     stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("자료수정"));
+    stage_.awaitWindow(u"자료수정"_s);
     stage_.keys({"Return"});
   }
 
@@ -221,11 +222,10 @@ class Day {
   void stockInOut() {
     const QString full = QString::number(figures().full);
     stage_.keys({"alt+l", "k", "F5"});
-    stage_.awaitRow(yearFile_,
-                    QStringLiteral("Select LPGStock From TmpLPGCANStock Where Name = 'LPG' And Size = '20'"),
+    stage_.awaitRow(yearFile_, u"Select LPGStock From TmpLPGCANStock Where Name = 'LPG' And Size = '20'"_s,
                     full);
-    stage_.picture(QStringLiteral("day-9-stock-in-out"));
-    tell_(QStringLiteral("the month's stock in and out was shown"));
+    stage_.picture(u"day-9-stock-in-out"_s);
+    tell_(u"the month's stock in and out was shown"_s);
   }
 
   Stage& stage_;

@@ -2,25 +2,27 @@
 
 #include "samples/sample_books.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 
 void signIn(Stage& stage, const QString& pictureName) {
-  stage.awaitWindow(QStringLiteral("로그인"));
+  stage.awaitWindow(u"로그인"_s);
   if (!pictureName.isEmpty()) stage.picture(pictureName);
   stage.type(QString::fromLatin1(password));
   stage.keys({"Return"});
-  stage.awaitWindow(QStringLiteral("공지"));
+  stage.awaitWindow(u"공지"_s);
   stage.keys({"Return"});
-  stage.awaitWindow(QStringLiteral("LP가스 판매관리"));
+  stage.awaitWindow(u"LP가스 판매관리"_s);
 }
 
 void leave(Stage& stage) {
-  stage.awaitWindow(QStringLiteral("LP가스 판매관리"));
+  stage.awaitWindow(u"LP가스 판매관리"_s);
   stage.keys({"alt+F4"});
-  stage.awaitWindow(QStringLiteral("데이터 백업"));
+  stage.awaitWindow(u"데이터 백업"_s);
   stage.keys({"Return"});
   if (const int status = stage.awaitEnd(); status != 0)
-    stage.stop(QStringLiteral("the program ended with status ") + QString::number(status));
+    stage.stop(u"the program ended with status "_s + QString::number(status));
 }
 
 }  // namespace samples

@@ -2,6 +2,8 @@
 
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
@@ -14,13 +16,12 @@ QString meterRows(const QString& columns, int ofMonth, const MeterGroup& group) 
 }  // namespace
 
 MeterGroup sampleBlock() {
-  return {
-      QStringLiteral("Client.BDName = '달빛아파트' And Client.Dong = '101' And isnull(Client.Ho) = False "),
-      QStringLiteral("Code")};
+  return {u"Client.BDName = '달빛아파트' And Client.Dong = '101' And isnull(Client.Ho) = False "_s,
+          u"Code"_s};
 }
 
 MeterGroup sampleShops() {
-  return {QStringLiteral("Client.HouseStyle = 0 "), QStringLiteral("Name")};
+  return {u"Client.HouseStyle = 0 "_s, u"Name"_s};
 }
 
 MeterKeys::MeterKeys(Stage& stage, int year, int month)
@@ -45,7 +46,7 @@ void MeterKeys::enterReadings(const MeterGroup& group, int (*used)(int place)) {
   for (int place = 1; place <= before.size(); ++place) {
     stage_.type(QString::number(before[place - 1].toLongLong() + used(place)));
     stage_.keys({"Return"});
-    stage_.awaitWindow(QStringLiteral("체적 관리자"));  // whether the cell shall be changed
+    stage_.awaitWindow(u"체적 관리자"_s);  // whether the cell shall be changed
     stage_.keys({"Return"});
   }
   stage_.awaitRow(yearFile_,

@@ -10,6 +10,8 @@
 #include "samples/meter_keys.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
@@ -50,14 +52,14 @@ class Month {
     MeterKeys keys(*stage_, year, month);
     keys.openBlock(1, true);
     keys.enterReadings(sampleBlock(), usedByHousehold);
-    stage_->picture(QStringLiteral("month-1-readings"));
-    tell_(QStringLiteral("the readings of 30 households were typed"));
+    stage_->picture(u"month-1-readings"_s);
+    tell_(u"the readings of 30 households were typed"_s);
     recalculate();
-    tell_(QStringLiteral("the block was computed once more"));
+    tell_(u"the block was computed once more"_s);
     keys.openShops();
     keys.enterReadings(sampleShops(), usedByShop);
-    stage_->picture(QStringLiteral("month-2-shops"));
-    tell_(QStringLiteral("the individual book was read"));
+    stage_->picture(u"month-2-shops"_s);
+    tell_(u"the individual book was read"_s);
     report_.block = keys.bills(sampleBlock());
     report_.shops = keys.bills(sampleShops());
     printSlips();
@@ -66,30 +68,30 @@ class Month {
 
   void recalculate() {
     stage_->keys({"Menu", "Down", "Down"});
-    stage_->picture(QStringLiteral("month-3-popup"));
+    stage_->picture(u"month-3-popup"_s);
     stage_->keys({"Return"});
-    stage_->awaitWindow(QStringLiteral("해온판매"));
+    stage_->awaitWindow(u"해온판매"_s);
     stage_->keys({"Return"});
-    stage_->awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_->awaitWindow(u"LP가스 판매관리"_s);
   }
 
   void printSlips() {
     MeterKeys(*stage_, year, month).openBlock(1);
     stage_->keys({"ctrl+2"});
-    stage_->awaitWindow(QStringLiteral("OCR-A4"));
+    stage_->awaitWindow(u"OCR-A4"_s);
     stage_->keys({"alt+g"});
-    stage_->awaitWindow(QStringLiteral("프린터 설정"));
+    stage_->awaitWindow(u"프린터 설정"_s);
     stage_->keys({"End", "space", "alt+s"});  // the PDF writer is the last of the names
-    stage_->awaitWindow(QStringLiteral("해온판매"));
+    stage_->awaitWindow(u"해온판매"_s);
     stage_->keys({"Return", "alt+x"});
-    stage_->awaitWindow(QStringLiteral("OCR-A4"));
-    stage_->picture(QStringLiteral("month-4-slips"));
+    stage_->awaitWindow(u"OCR-A4"_s);
+    stage_->picture(u"month-4-slips"_s);
     // From the due date over month, period and default to the options, and to the last of them.
     stage_->keys({"Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab", "Down", "Down", "Down", "alt+p"});
     stage_->awaitFile(options_(QString()).pdf);
-    stage_->awaitWindow(QStringLiteral("OCR-A4"));
+    stage_->awaitWindow(u"OCR-A4"_s);
     stage_->keys({"alt+x"});
-    tell_(QStringLiteral("30 slips were printed on 15 sheets"));
+    tell_(u"30 slips were printed on 15 sheets"_s);
   }
 
   // ---- April
@@ -108,9 +110,9 @@ class Month {
     }
     lines += QByteArray("33").leftJustified(120) + "\r\n";
     const pc::Paths paths(options_(QString()).pcRoot);
-    QFile file(paths.native(paths.programFolder() + QStringLiteral("\\202603.txt")));
+    QFile file(paths.native(paths.programFolder() + u"\\202603.txt"_s));
     if (!file.open(QIODevice::WriteOnly) || file.write(lines) != lines.size())
-      stage_->stop(QStringLiteral("the bank's file cannot be written"));
+      stage_->stop(u"the bank's file cannot be written"_s);
   }
 
   void collect() {
@@ -119,7 +121,7 @@ class Month {
     signIn(*stage_);
     stage_->keys({"alt+a", "k"});
     stage_->keys({"Return", "Up", "Return"});  // year, then the month before, then the button
-    stage_->picture(QStringLiteral("month-5-bank-file"));
+    stage_->picture(u"month-5-bank-file"_s);
     stage_->keys({"space"});
     for (const MonthBill& bill : report_.block)
       if (bill.paid > 0)
@@ -127,11 +129,10 @@ class Month {
                          "Select Pay, TrustDay, Total From Evaporation Where Mon = 3 And ClientCode = " +
                              QString::number(bill.code),
                          QString::number(bill.paid) + "\t04-06\t0");
-    stage_->picture(QStringLiteral("month-6-collected"));
-    tell_(QString::number(report_.paidSlips) +
-          QStringLiteral(" payments came back from the bank and were posted"));
+    stage_->picture(u"month-6-collected"_s);
+    tell_(QString::number(report_.paidSlips) + u" payments came back from the bank and were posted"_s);
     MeterKeys(*stage_, year, month).openBlock(1);
-    stage_->picture(QStringLiteral("month-7-april"));
+    stage_->picture(u"month-7-april"_s);
     for (MonthBill& bill : report_.block)
       bill.nextArrears =
           stage_
@@ -140,7 +141,7 @@ class Month {
               .value(0)
               .toLongLong();
     leave(*stage_);
-    tell_(QStringLiteral("April opens with what is still owed"));
+    tell_(u"April opens with what is still owed"_s);
   }
 
   // ---- the month's papers
@@ -148,9 +149,9 @@ class Month {
   /** The PDF writer for the kind of document whose form is open; key opens its printers. */
   void choosePdf(const QStringList& keys) {
     stage_->keys(keys);
-    stage_->awaitWindow(QStringLiteral("프린트 드라이버 설정"));
+    stage_->awaitWindow(u"프린트 드라이버 설정"_s);
     stage_->keys({"alt+s", "alt+x"});  // where there is no other printer it is chosen already
-    stage_->awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_->awaitWindow(u"LP가스 판매관리"_s);
   }
 
   /** Answers FrmMsg with the whole sheet and the ink-jet, from its first button. */
@@ -165,14 +166,14 @@ class Month {
     stage_->keys({"alt+l", "d"});
     choosePdf({"alt+t"});
     // From the dates to the list; then the first line of each of three customers.
-    stage_->type(QStringLiteral("20260301"));
+    stage_->type(u"20260301"_s);
     stage_->keys({"Return"});
-    stage_->type(QStringLiteral("20260331"));
+    stage_->type(u"20260331"_s);
     stage_->keys({"Return"});
-    const QStringList clients = stage_->query(
-        yearFile,
-        QStringLiteral("Select ClientCode From Sale Where SaleDate Between '2026-03-01' And '2026-03-31' And "
-                       "DealList = 0 And SaleGubun <> 7 Order By SaleDate, SaleID"));
+    const QStringList clients =
+        stage_->query(yearFile,
+                      u"Select ClientCode From Sale Where SaleDate Between '2026-03-01' And '2026-03-31' And "
+                      u"DealList = 0 And SaleGubun <> 7 Order By SaleDate, SaleID"_s);
     qsizetype line = 0;
     for (int statement = 0; statement < statementsIssued; ++statement) {
       if (statement > 0) {
@@ -184,28 +185,27 @@ class Month {
       }
       stage_->keys({"space"});
     }
-    stage_->picture(QStringLiteral("month-8-statements"));
+    stage_->picture(u"month-8-statements"_s);
     stage_->keys({"alt+p", "Down", "Return"});
-    chooseDrawnForm(QStringLiteral("거래명세표 발행"));
-    stage_->awaitFile(folder + QStringLiteral("/거래명세표.pdf"));
-    stage_->awaitRow(yearFile, QStringLiteral("Select Count(*) From Sale Where DealList = 1"),
+    chooseDrawnForm(u"거래명세표 발행"_s);
+    stage_->awaitFile(folder + u"/거래명세표.pdf"_s);
+    stage_->awaitRow(yearFile, u"Select Count(*) From Sale Where DealList = 1"_s,
                      QString::number(statementsIssued));
-    tell_(QStringLiteral("three statements were issued"));
+    tell_(u"three statements were issued"_s);
     stage_->keys({"Escape", "alt+l", "t"});
-    stage_->awaitWindow(QStringLiteral("세금계산서 집계"));
+    stage_->awaitWindow(u"세금계산서 집계"_s);
     stage_->keys({"Return"});
-    stage_->awaitWindow(QStringLiteral("LP가스 판매관리"));
+    stage_->awaitWindow(u"LP가스 판매관리"_s);
     choosePdf({"alt+i"});
     stage_->keys({"ctrl+Home", "ctrl+shift+End", "space"});
-    stage_->picture(QStringLiteral("month-9-invoices"));
+    stage_->picture(u"month-9-invoices"_s);
     stage_->keys({"alt+p"});
-    chooseDrawnForm(QStringLiteral("세금계산서 발행"));
-    stage_->awaitFile(folder + QStringLiteral("/세금계산서.pdf"));
-    report_.invoices = int(
-        stage_->query(QStringLiteral("dbTax.mdb"), QStringLiteral("Select Serial From TaxAcount")).size());
+    chooseDrawnForm(u"세금계산서 발행"_s);
+    stage_->awaitFile(folder + u"/세금계산서.pdf"_s);
+    report_.invoices = int(stage_->query(u"dbTax.mdb"_s, u"Select Serial From TaxAcount"_s).size());
     stage_->keys({"Escape"});
     leave(*stage_);
-    tell_(QString::number(report_.invoices) + QStringLiteral(" invoices of the month were issued"));
+    tell_(QString::number(report_.invoices) + u" invoices of the month were issued"_s);
   }
 
   const std::function<Stage::Options(const QString&)>& options_;

@@ -9,6 +9,8 @@
 #include "samples/day.h"
 #include "samples/month.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr pc::ProgramLine programLine{
@@ -38,8 +40,7 @@ void playDay(const samples::Stage::Options& options) {
     out() << QString::fromUtf8(what).leftJustified(34) << column(QString::number(before), 12)
           << column(QString::number(after), 12) << '\n';
   };
-  out() << "\n"
-        << QStringLiteral("the customer and the 20 kg gas").leftJustified(34) << "      before       after\n";
+  out() << "\n" << u"the customer and the 20 kg gas"_s.leftJustified(34) << "      before       after\n";
   row("owed for gas (GasInit), won", report.before.gasInit, report.after.gasInit);
   row("owed for materials (UtilInit), won", report.before.utilInit, report.after.utilInit);
   row("gas in stock (LPGStock), kg", report.before.stockKilograms, report.after.stockKilograms);

@@ -1,5 +1,7 @@
 #include "samples/sample_purchases.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
@@ -85,7 +87,7 @@ void Purchases::pay() {
     if (debt <= 0) return;
     const qint64 paid = dice_.chance(60) ? debt : debt / 2000 * 1000;
     if (paid == 0) return;
-    write(station, kind, text(name), QStringLiteral("0"), 0, 0, paid, debt - paid);
+    write(station, kind, text(name), u"0"_s, 0, 0, paid, debt - paid);
     debt -= paid;
   };
   for (size_t at = 0; at < stations.size(); ++at) {

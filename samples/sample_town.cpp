@@ -1,6 +1,8 @@
 #include "samples/sample_town.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 
 QString text(const char* utf8) {
@@ -16,7 +18,7 @@ QString number(qint64 value) {
   return QString::number(value);
 }
 QString yesNo(bool yes) {
-  return yes ? QStringLiteral("True") : QStringLiteral("False");
+  return yes ? u"True"_s : u"False"_s;
 }
 
 Town::Town(Session& of)

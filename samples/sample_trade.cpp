@@ -5,6 +5,8 @@
 #include "samples/sample_purchases.h"
 #include "samples/sample_town.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
@@ -99,7 +101,7 @@ class Trade {
 
   void collect(size_t who, qint64& balance, int kind, const char* name) {
     const qint64 income = town.dice.chance(70) ? balance : (balance / 2000 + 1) * 1000;
-    write(who, kind, text(name), QStringLiteral("0"), 0, 0, income, balance - income);
+    write(who, kind, text(name), u"0"_s, 0, 0, income, balance - income);
     balance -= income;
   }
 

@@ -21,7 +21,7 @@ class Stage {
     QString clock;     ///< "yyyy-MM-dd HH:mm:ss" at start; empty: the real one
     QString pictures;  ///< folder for screenshots; empty: none are taken
     QString pdf;       ///< file that the PDF writer fills; empty: it asks
-    QString size = QStringLiteral("1280x900");
+    QString size = "1280x900";
     double scale = 1;  ///< 1.5 shows the program as on a 144 dpi screen
   };
   explicit Stage(Options options);

@@ -6,6 +6,8 @@
 #include "store/data_files.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace samples {
 namespace {
 
@@ -21,15 +23,15 @@ int carriedRows(Stage& stage) {
 
 void closeBooks(Stage& stage, const QString& newFile) {
   stage.keys({"alt+a", "y"});
-  stage.awaitWindow(QStringLiteral("년도마감 미리보기"));
-  stage.picture(QStringLiteral("year-1-forecast"));
+  stage.awaitWindow(u"년도마감 미리보기"_s);
+  stage.picture(u"year-1-forecast"_s);
   stage.keys({"Return"});
-  stage.awaitWindow(QStringLiteral("자료 관리자"));
-  stage.picture(QStringLiteral("year-2-question"));
+  stage.awaitWindow(u"자료 관리자"_s);
+  stage.picture(u"year-2-question"_s);
   stage.keys({"alt+y"});
   stage.awaitFile(newFile);
-  stage.awaitWindow(QStringLiteral("자료 관리자"));
-  stage.picture(QStringLiteral("year-3-closed"));
+  stage.awaitWindow(u"자료 관리자"_s);
+  stage.picture(u"year-3-closed"_s);
   stage.keys({"Return"});
 }
 
@@ -46,11 +48,11 @@ YearEndReport playYearEnd(const std::function<Stage::Options(const QString& cloc
     keys.openBlock(1, true);
     keys.enterReadings(sampleBlock(), usedByHousehold);
     report.december = keys.bills(sampleBlock());
-    tell(QStringLiteral("December's readings of 30 households were typed"));
+    tell(u"December's readings of 30 households were typed"_s);
     const pc::Paths paths(options(QString()).pcRoot);
     closeBooks(stage, paths.native(installedDataFolder() + yearFileName(QString::number(closedYear + 1))));
     report.carried = carriedRows(stage);
-    tell(QStringLiteral("the year was closed"));
+    tell(u"the year was closed"_s);
     leave(stage);
   }
   Stage stage(options(QString::fromLatin1(newYearClock)));
@@ -58,11 +60,11 @@ YearEndReport playYearEnd(const std::function<Stage::Options(const QString& cloc
   signIn(stage);
   MeterKeys keys(stage, closedYear + 1, 1);
   keys.openBlock(1);
-  stage.picture(QStringLiteral("year-4-january"));
+  stage.picture(u"year-4-january"_s);
   keys.enterReadings(sampleBlock(), usedByHousehold);
   report.january = keys.bills(sampleBlock());
-  stage.picture(QStringLiteral("year-5-read"));
-  tell(QStringLiteral("January bills carry what December left"));
+  stage.picture(u"year-5-read"_s);
+  tell(u"January bills carry what December left"_s);
   leave(stage);
   return report;
 }

@@ -9,6 +9,8 @@
 #include "store/jet/sql.h"
 #include "store/long_work.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto registerOfBuildings = "건물관리자";
@@ -151,14 +153,14 @@ void changeBuilding(const Session& session, const Building& b, const QString& co
         "Update APT Set Dong = '" + plainText(b.dong) + "', " + "Structure = " + yesNo(b.staircase) + ", " +
         (b.metered ? "Evaporation = True, Pressure = '" + plainText(b.pressure) + "', " +
                          "Eva = " + typedNumber(b.unitPrice) + ", "
-                   : QString("EVaporation = False, ")) +
+                   : u"EVaporation = False, "_s) +
         "delaypay = " + typedNumber(b.lateRate) + ", " + "Address = '" + plainText(b.address) +
         "', PostCode = '" + plainText(b.postCode) + "' " + "Where Code = " + plainNumber(code));
     session.dbBasic.Execute("Update Client Set Dong = '" + plainText(b.dong) + "', " + "PostCode = '" +
                             plainText(b.postCode) + "', Address = '" + plainText(b.address) + "', " +
                             (b.metered ? "VolumeYesNo = True, Volume = '" + plainText(b.pressure) + "', " +
                                              "VolumeUnit = " + typedNumber(b.unitPrice) + " "
-                                       : QString("VolumeYesNo = False, Volume = '', VolumeUnit = 0 ")) +
+                                       : u"VolumeYesNo = False, Volume = '', VolumeUnit = 0 "_s) +
                             ofBlock(b.name, oldDong));
     if (!b.metered || wasMetered) return;
     // A household that becomes a meter's needs its rows, or no book would list it; the head row has no meter.

@@ -5,6 +5,8 @@
 #include "store/data_access.h"
 #include "store/jet/text_rules.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double largestMoney = 999999999;
@@ -18,7 +20,7 @@ Lookup lookUpClient(const Session& session, const QString& sql, jet::Recordset& 
 }
 
 bool isDateOrEmpty(const QString& text) {
-  return text.isEmpty() || QDate::fromString(text, QStringLiteral("yyyy-MM-dd")).isValid();
+  return text.isEmpty() || QDate::fromString(text, u"yyyy-MM-dd"_s).isValid();
 }
 
 bool isMoney(const QString& text) {

@@ -1,5 +1,7 @@
 #include "master/customers/tel_format.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int tailDigits = 4;
@@ -13,7 +15,7 @@ QString digitsOf(const QString& text) {
 }
 
 int areaCodeLength(const QString& digits) {
-  if (digits.startsWith(QStringLiteral("02"))) return 2;
+  if (digits.startsWith(u"02"_s)) return 2;
   return digits.startsWith(u'0') && digits.size() >= 9 ? 3 : 0;
 }
 

@@ -64,8 +64,8 @@ RegisterPage::RegisterPage(Form& form, RegisterRules& rules, const char* gridNam
     return true;
   };
   panel_ = form.addGroup({});
-  panel_->setObjectName(QStringLiteral("PnlBoxes"));
-  panel_->setStyleSheet(QStringLiteral("#PnlBoxes { margin-top: 0; }"));  // room for a title it does not have
+  panel_->setObjectName(u"PnlBoxes"_s);
+  panel_->setStyleSheet(u"#PnlBoxes { margin-top: 0; }"_s);  // room for a title it does not have
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(5);

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString withSeparators(qint64 value) {
@@ -24,8 +26,7 @@ void MoneyBox::setRange(qint64 least, qint64 most) {
   most_ = most;
   // A digit too many is not taken: held to the range afterwards it would become another amount.
   const auto digits = QString::number(std::max(qAbs(least), qAbs(most))).size();
-  const QRegularExpression amount(
-      QStringLiteral("%1(,?[0-9]){0,%2},?").arg(least < 0 ? "-?" : "").arg(digits));
+  const QRegularExpression amount(u"%1(,?[0-9]){0,%2},?"_s.arg(least < 0 ? "-?" : "").arg(digits));
   delete validator();
   setValidator(new QRegularExpressionValidator(amount, this));
 }
@@ -54,7 +55,7 @@ void MoneyBox::focusOutEvent(QFocusEvent* event) {
 }
 
 DateBox::DateBox(Mask mask, QWidget* parent) : QLineEdit(parent) {
-  setInputMask(mask == Mask::YearMonthDay ? QStringLiteral("0000\\-00\\-00") : QStringLiteral("00\\-00"));
+  setInputMask(mask == Mask::YearMonthDay ? u"0000\\-00\\-00"_s : u"00\\-00"_s);
   setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
 }
 
@@ -76,6 +77,6 @@ void DateBox::mousePressEvent(QMouseEvent* event) {
 }
 
 TelBox::TelBox(QWidget* parent) : QLineEdit(parent) {
-  static const QRegularExpression number(QStringLiteral("[-0-9 ()]{0,30}"));
+  static const QRegularExpression number(u"[-0-9 ()]{0,30}"_s);
   setValidator(new QRegularExpressionValidator(number, this));
 }

@@ -19,6 +19,8 @@
 #include "ui/forms/push_button.h"
 #include "ui/grid/grid_menu.h"
 
+using namespace Qt::StringLiterals;
+
 Form::Form(const QString& name, const QString& caption, Session& session, QWidget* parent)
     : QWidget(parent), session_(session) {
   setObjectName(name);
@@ -34,10 +36,10 @@ Form::Form(const QString& name, const QString& caption, Session& session, QWidge
   auto* const foot = new QHBoxLayout;
   foot->setSpacing(0);
   help_ = new QLabel(this);
-  help_->setObjectName(QStringLiteral("PnlHelp"));
+  help_->setObjectName(u"PnlHelp"_s);
   foot->addWidget(help_, 1);
   bottom_ = new QLabel(this);
-  bottom_->setObjectName(QStringLiteral("LblBottom"));
+  bottom_->setObjectName(u"LblBottom"_s);
   bottom_->hide();
   foot->addWidget(bottom_);
   whole->addLayout(foot);
@@ -53,9 +55,8 @@ bool Form::guard(const std::function<void()>& work) {
 bool Form::trap(const QString& procedure, const std::function<void()>& work) {
   return guardedBy(work, [&](const jet::Error& error) {
     session_.prompts.noted(error);
-    session_.prompts.MsgWarn(
-        QStringLiteral("Error %1 (%2) in procedure %3 of Form %4")
-            .arg(QString::number(error.number()), error.description(), procedure, objectName()));
+    session_.prompts.MsgWarn(u"Error %1 (%2) in procedure %3 of Form %4"_s.arg(
+        QString::number(error.number()), error.description(), procedure, objectName()));
   });
 }
 

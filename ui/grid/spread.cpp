@@ -10,19 +10,21 @@
 
 #include "ui/forms/style.h"
 
+using namespace Qt::StringLiterals;
+
 Spread::Spread(SpreadModel& model, QWidget* parent)
     : QAbstractScrollArea(parent), model_(model), line_(new QLineEdit(viewport())) {
-  setObjectName(QStringLiteral("Spread"));
+  setObjectName(u"Spread"_s);
   setFrameShape(QFrame::StyledPanel);
   setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(line_);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
-  line_->setObjectName(QStringLiteral("SpreadLine"));
+  line_->setObjectName(u"SpreadLine"_s);
   line_->setFrame(false);
   line_->setContextMenuPolicy(Qt::NoContextMenu);
-  line_->setStyleSheet(QStringLiteral("border: none; padding: 0 2px; min-height: 0; background: #FFFFFF;"));
+  line_->setStyleSheet(u"border: none; padding: 0 2px; min-height: 0; background: #FFFFFF;"_s);
   line_->setAcceptDrops(false);  // a resting cell is not written by a slip of the mouse
   line_->installEventFilter(this);
   connect(line_, &QLineEdit::textEdited, this, [this](const QString& text) {

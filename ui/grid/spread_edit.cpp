@@ -11,6 +11,8 @@
 
 #include "ui/grid/spread.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** More would not fit into the files' whole numbers, and no one would notice what became of it. */
@@ -26,9 +28,9 @@ QString bareText(CellKind kind, QString text) {
 }
 
 QString patternOf(CellKind kind) {
-  const QString whole = QStringLiteral("-?(,*[0-9]){0,%1},*").arg(mostDigits);
+  const QString whole = u"-?(,*[0-9]){0,%1},*"_s.arg(mostDigits);
   if (kind == CellKind::Integer) return whole;
-  return isAmount(kind) ? whole + QStringLiteral("(\\.[0-9]*)?") : QString();
+  return isAmount(kind) ? whole + u"(\\.[0-9]*)?"_s : QString();
 }
 
 bool hasDigit(const QString& text) {
@@ -36,8 +38,8 @@ bool hasDigit(const QString& text) {
 }
 
 QString maskOf(CellKind kind) {
-  if (kind == CellKind::Date) return QStringLiteral("0000-00-00");
-  if (kind == CellKind::MonthDay) return QStringLiteral("00-00");
+  if (kind == CellKind::Date) return u"0000-00-00"_s;
+  if (kind == CellKind::MonthDay) return u"00-00"_s;
   return {};
 }
 
@@ -226,7 +228,7 @@ bool Spread::lineInput(QInputMethodEvent* event) {
 void Spread::toggleCheck() {
   if (!canEdit()) return;
   const bool on = model_.text(activeRow_, activeCol_) == u'1';
-  finish(activeRow_, activeCol_, on ? QStringLiteral("0") : QStringLiteral("1"));
+  finish(activeRow_, activeCol_, on ? u"0"_s : u"1"_s);
 }
 
 // --- the combo's list ---------------------------------------------------------------------------------------
@@ -239,7 +241,7 @@ void Spread::openList(const QString& typed) {
   }
   if (!list_) {
     list_ = new QListWidget(this);
-    list_->setObjectName(QStringLiteral("SpreadList"));
+    list_->setObjectName(u"SpreadList"_s);
     list_->setWindowFlags(Qt::Popup);
     list_->setFrameShape(QFrame::Box);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -12,6 +12,8 @@
 #include "ui/forms/style.h"
 #include "ui/paper/painted_job.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int around = 14;  ///< pixels of desk around the page
@@ -20,7 +22,7 @@ constexpr double zoomSteps[] = {0.25, 0.33, 0.5, 0.67, 0.75, 0.9, 1, 1.1, 1.25, 
 }  // namespace
 
 PageView::PageView(const pc::Pages& pages, QWidget* parent) : QAbstractScrollArea(parent), pages_(pages) {
-  setObjectName(QStringLiteral("PageView"));
+  setObjectName(u"PageView"_s);
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
