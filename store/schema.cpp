@@ -112,9 +112,11 @@ std::vector<jet::TableDef> yearTables() {
       make("TmpLPGCAN", {date("SaleDate"), whole("ClientCode"), text("Response", 20), text("SaleName", 40),
                          text("SaleThing", 30), whole("SaleUnit"), whole("SaleNum"), whole("SaleGubun"),
                          yesNo("Gubun"), whole("Income"), whole("Trust"), whole("DC")}),
-      make("TmpLPGCANStock", {text("Name", 40), text("Size", 30), whole("LPGStock"), whole("CANStock"),
-                              whole("LPGPreStock"), whole("LPGBuy"), whole("LPGSale"), whole("CANPreStock"),
-                              whole("CANBuy"), whole("CANLent"), whole("CANReturn"), whole("CANSale")}),
+      make("TmpLPGCANStock",
+           {text("Name", 40), text("Size", 30), whole("LPGStock"), whole("CANStock"), whole("LPGPreStock"),
+            whole("LPGBuy"), whole("LPGSale"), whole("CANPreStock"), whole("CANBuy"), whole("CANLent"),
+            whole("CANReturn"), whole("CANSale")},
+           {index("Item", {"Name", "Size"})}),
   };
 }
 

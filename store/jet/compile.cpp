@@ -15,6 +15,8 @@ Compiled compile(const QString& sql, Catalogue& catalogue, Keys keys) {
   made.sql = writer.write(statement, keys);
   if (made.kind == Compiled::Kind::Select) made.columns = std::move(statement.select.columns);
   made.keys = writer.keys();
+  made.ties = writer.ties();
+  if (!made.ties.empty()) made.top = statement.select.top;
   made.target = std::move(statement.target);
   made.definition = std::move(statement.definition);
   return made;

@@ -76,7 +76,11 @@ struct Compiled {
   /** Select with Keys::With: one more SQLite column behind `columns` for each of these, the rowid in that table of
    *  the row's part; empty when a row is no longer a table's row (groups, DISTINCT, UNION). */
   std::vector<TableInfo> keys;
-  TableInfo target;  ///< the table written, for the checks before the write (and for DDL)
+  /** Select with TOP and an order: the rows come ordered, and who reads them stops behind the top ones and those that
+   *  tie with the last of these. 0: all that come are wanted. */
+  int top = 0;
+  std::vector<int> ties;  ///< the SQLite columns, from 0, in which rows that tie are equal
+  TableInfo target;       ///< the table written, for the checks before the write (and for DDL)
   TableDef
       definition;  ///< CreateTable: the table; AddColumn, AlterColumn: its one field; indexes: the index. No sql for these
 };

@@ -5,6 +5,7 @@
 #include "store/jet/error_texts.h"
 #include "store/jet/recordset_data.h"
 #include "store/jet/shape.h"
+#include "store/jet/top_rows.h"
 #include "store/jet/workspace_data.h"
 
 using namespace Qt::StringLiterals;
@@ -166,7 +167,9 @@ Recordset Database::read(QStringView sql, RecordsetType type) const {
   const auto read = [&](Connection&) {
     if (rows.rows() > 0) rows = RowStore(columns);  // a second reading
     bindLiterals(prepared.statement, shape);
-    while (prepared.statement.step(prepared.about)) rows.appendRow(prepared.statement.raw());
+    TopRows top(compiled);
+    while (prepared.statement.step(prepared.about) && top.takes(prepared.statement.raw()))
+      rows.appendRow(prepared.statement.raw());
     prepared.statement.reset();
   };
   workspace.run(prepared, std::ref(read));

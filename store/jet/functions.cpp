@@ -327,6 +327,7 @@ void truncated(const Call& call) {
 
 void putLong(const Call& call) {
   if (call.isNull(0)) return call.give();
+  if (call.isWhole(0) && call.whole(0) == qint32(call.whole(0))) return call.giveSame(0);
   const double whole = roundHalfEven(operand(call, 0));
   if (!(whole >= std::numeric_limits<qint32>::min() && whole <= std::numeric_limits<qint32>::max())) fail(6);
   call.give(qint64(whole));

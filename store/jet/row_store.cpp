@@ -179,12 +179,12 @@ void PackedColumn::append(const Value& value) {
   put(rows_ - 1, value);
 }
 
-void PackedColumn::append(sqlite3_stmt* statement, int column) {
-  switch (sqlite3_column_type(statement, column)) {
+void PackedColumn::append(sqlite3_value* shown) {
+  switch (sqlite3_value_type(shown)) {
     case SQLITE_NULL:
       return append(Value());
     case SQLITE_INTEGER: {
-      const qint64 number = sqlite3_column_int64(statement, column);
+      const qint64 number = sqlite3_value_int64(shown);
       if (rows_ == 0 && fitsNarrow(number)) kind_ = Kind::Narrow;
       if (kind_ != Kind::Narrow || !nulls_.empty() || !fitsNarrow(number)) return append(Value(number));
       narrow_.push_back(qint32(number));
@@ -192,12 +192,12 @@ void PackedColumn::append(sqlite3_stmt* statement, int column) {
       return;
     }
     case SQLITE_FLOAT:
-      return append(Value(sqlite3_column_double(statement, column)));
+      return append(Value(sqlite3_value_double(shown)));
     default:
       break;
   }
-  const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-  const std::string_view utf8(text, size_t(sqlite3_column_bytes(statement, column)));
+  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(shown));
+  const std::string_view utf8(text, size_t(sqlite3_value_bytes(shown)));
   if (rows_ == 0) kind_ = Kind::Text;
   if (kind_ == Kind::Text) {  // straight into the pool, without a QString between
     text_.push_back(texts_.add(utf8) + 1);
@@ -244,7 +244,9 @@ size_t PackedColumn::bytes() const {
 }
 
 void RowStore::appendRow(sqlite3_stmt* statement) {
-  for (size_t column = 0; column < columns_.size(); ++column) columns_[column].append(statement, int(column));
+  // A connection is one thread's: its values need no lock.
+  for (size_t column = 0; column < columns_.size(); ++column)
+    columns_[column].append(sqlite3_column_value(statement, int(column)));
   ++rows_;
 }
 

@@ -7,6 +7,7 @@
 #include "store/jet/value.h"
 
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 namespace jet {
 
@@ -33,7 +34,7 @@ class TextPool {
 /** One field's values. Begins narrow and widens when a value does not fit. */
 class PackedColumn {
  public:
-  void append(sqlite3_stmt* statement, int column);
+  void append(sqlite3_value* shown);
   void append(const Value& value);
   void set(int row, const Value& value);
   Value at(int row) const;

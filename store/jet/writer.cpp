@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "store/jet/resolver.h"
+
 namespace jet {
 
 using namespace Qt::StringLiterals;
@@ -28,6 +30,25 @@ std::vector<const From*> tablesWithRowids(const Select& select) {
   return tables;
 }
 
+/** Whatever the one column holds may stand in the other as it is. */
+bool isTakenAsItIs(const Field& from, const Field& to) {
+  if (from.type != to.type || to.required) return false;
+  if (to.type == Type::Boolean) return false;  // without a row of a join it is Null
+  if (to.type != Type::Text && to.type != Type::Memo) return true;
+  const auto room = [](const Field& field) { return field.size > 0 ? field.size : 255; };
+  if (to.type == Type::Text && room(from) > room(to)) return false;
+  return to.allowZeroLength || !from.allowZeroLength;
+}
+
+/** The column that an item of a query shows of a table. */
+const Field* shownColumn(const Select& select, const Expr& item) {
+  if (item.kind != Expr::Kind::Column || !select.unions.empty()) return nullptr;
+  for (const From* source : sourcesAsWritten(select.from))
+    if (source->alias == item.source && source->kind == From::Kind::Table)
+      return findField(source->info.fields, item.column);
+  return nullptr;
+}
+
 }  // namespace
 
 QByteArray Writer::write(const Statement& statement, Keys keys) {
@@ -35,7 +56,10 @@ QByteArray Writer::write(const Statement& statement, Keys keys) {
   switch (statement.kind) {
     case Compiled::Kind::Select:
       if (keys == Keys::With) collectKeys(statement.select);
-      writeQuery(statement.select, false);
+      if (statement.select.top > 0 && !statement.select.orderBy.empty() && statement.select.unions.empty())
+        writeOrdered(statement.select);
+      else
+        writeQuery(statement.select, false);
       break;
     case Compiled::Kind::Insert:
       writeInsert(statement);
@@ -72,7 +96,11 @@ void Writer::writeInsert(const Statement& statement) {
     made.source = u"rows"_s;
     made.column = u"c"_s + QString::number(i + 1);
     made.holds = statement.select.items[i].expr.holds;
-    writePut(statement.assigns[i].field, made);
+    const Field* const shown = shownColumn(statement.select, statement.select.items[i].expr);
+    if (shown && isTakenAsItIs(*shown, statement.assigns[i].field))
+      writeValue(made);
+    else
+      writePut(statement.assigns[i].field, made);
   });
   *this << " FROM (";
   writeQuery(statement.select, true);
@@ -147,6 +175,10 @@ void Writer::writeQuery(const Select& select, bool named) {
     if (select.distinct && select.unions.empty()) writeItemOrder(select);
     return;
   }
+  writeOrderOf(select);
+}
+
+void Writer::writeOrderOf(const Select& select) {
   *this << " ORDER BY ";
   around_.push_back(&select);
   writeOrder(select.orderBy);
@@ -158,7 +190,17 @@ void Writer::writeQuery(const Select& select, bool named) {
   around_.pop_back();
 }
 
-/** TOP keeps all rows that tie with the last one, so rows are ranked by the order and cut at the rank. */
+/** TOP of a whole statement: rows in their order with what they are ordered by behind them. Along an index SQLite then
+ *  reads no more of them than are wanted. */
+void Writer::writeOrdered(const Select& select) {
+  writeCore(select, false);
+  const int behind = int(select.columns.size() + keyCount());
+  for (size_t i = 0; i < select.orderBy.size(); ++i)
+    ties_.push_back(select.distinct ? select.orderBy[i].position - 1 : behind + int(i));
+  writeOrderOf(select);
+}
+
+/** TOP keeps all rows that tie with the last one. Within a statement rows are ranked by the order and cut at the rank. */
 void Writer::writeTop(const Select& select, bool named) {
   if (select.orderBy.empty()) {
     writeBody(select, named);
@@ -247,7 +289,7 @@ void Writer::writeItems(const Select& select, bool named) {
     writeValue(select.orderBy[i].expr);
     *this << " AS \"o" << int(i + 1) << "\"";
   }
-  if (!breaksTies(select)) return;
+  if (!named || !breaksTies(select)) return;
   *this << ", ";
   writeEntryOrder(select);
   *this << " AS \"entry\"";

@@ -14,6 +14,8 @@ class Writer {
   /** The tables whose rowids stand behind the columns of the select just written: those it can reach, which leaves
    *  out the tables of a join in brackets on the right. */
   const std::vector<TableInfo>& keys() const { return keys_; }
+  /** Compiled::ties of the select just written. */
+  const std::vector<int>& ties() const { return ties_; }
 
  private:
   void writeInsert(const Statement& statement);
@@ -24,11 +26,13 @@ class Writer {
   size_t keyCount() const { return around_.empty() ? keySources_.size() : 0; }
   /** The whole of a query; named gives its columns the names c1, c2, ... for a statement around it. */
   void writeQuery(const Select& select, bool named);
+  void writeOrdered(const Select& select);
   void writeTop(const Select& select, bool named);
   void writeBody(const Select& select, bool named);
   void writeUnionPart(const Select& select, bool named);
   void writeCore(const Select& select, bool named);
   void writeItems(const Select& select, bool named);
+  void writeOrderOf(const Select& select);
   void writeOrder(const std::vector<OrderItem>& order);
   void writeItemOrder(const Select& select);
   /** What rows are ordered or grouped by. */
@@ -74,6 +78,7 @@ class Writer {
   std::vector<const Select*>
       around_;  ///< the query being written, innermost last: its first table orders First
   std::vector<TableInfo> keys_;
+  std::vector<int> ties_;
   std::vector<QString> keySources_;
 };
 
