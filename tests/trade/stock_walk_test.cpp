@@ -1,6 +1,8 @@
 // The walk back, worked by hand: a period from 10 to 20 February with lines before, in and after it, of every kind.
 #include "trade/stock_walk.h"
 
+#include <random>
+
 #include "store/year_file.h"
 #include "tests/trade/buy_desk.h"
 
@@ -131,6 +133,105 @@ TEST(StockWalk, AFailureIsToldAndLeavesNoHalfFigures) {
   walk.pc.prompts.expect("계산오류");
   EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20"), "told");
   EXPECT_EQ(walk.rows("Select * From TmpLPGCANStock") + walk.rows("Select * From TmpLPGCAN"), "");
+}
+
+/** The same figures by a statement an item, its lines grouped by day and kind. */
+QString walkedItemByItem(Walk& walk, StockWalkOf what, const QString& start, const QString& end) {
+  const bool gas = what == StockWalkOf::Gas;
+  walk.run("Delete * From TmpLPGCAN");
+  walk.run("Delete * From TmpLPGCANStock");
+  walk.run(
+      "Insert Into TmpLPGCAN(SaleDate, ClientCode, Response, SaleName, SaleThing, SaleUnit, SaleNum, "
+      "SaleGubun, Gubun, Income, Trust, DC) Select SaleDate, ClientCode, Response, SaleName, SaleThing, "
+      "SaleUnit, SaleNum, SaleGubun, True, Income, Trust, DC From Sale Where Sale.SaleDate >= '" +
+      start + (gas ? "' And Not SaleGubun In (4, 7, 8)" : "' And SaleGubun = 7"));
+  walk.run(
+      "Insert Into TmpLPGCAN(SaleDate, Response, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, Gubun, "
+      "Income, Trust, DC) Select BuyDate, Response, BuyName, BuyThing, PurchaseUnit, PurchaseNum, "
+      "PurchaseGubun, False, Pay, Trust, DC From Buy Where Buy.BuyDate >= '" +
+      start + (gas ? "' And Not PurchaseGubun In (4, 7, 8)" : "' And PurchaseGubun = 4"));
+  walk.run(gas ? "Insert Into TmpLPGCANStock(Name, Size, LPGStock, CANStock) SELECT DISTINCT LPG.LPGName, "
+                 "LPG.Size, LPG.CANFull, (LPG.CANFull + LPG.CANEmpty) AS CANTotal FROM TmpLPGCAN RIGHT JOIN "
+                 "LPG ON (TmpLPGCAN.SaleThing = LPG.Size) AND (TmpLPGCAN.SaleName = LPG.LPGName)"
+               : "Insert Into TmpLPGCANStock(Name, Size, LPGStock, CANBuy) SELECT DISTINCT Util.Name, "
+                 "Util.Size, Util.UtilStock, 0 FROM TmpLPGCAN RIGHT JOIN Util ON (TmpLPGCAN.SaleThing = "
+                 "Util.Size) AND (TmpLPGCAN.SaleName = Util.Name)");
+  const jet::Database& year = walk.pc.session.dbYear;
+  for (auto item = year.OpenRecordset("Select Name, Size From TmpLPGCANStock"); !item.atEnd();
+       item.MoveNext()) {
+    const QString name = item[0].toText(), size = item[1].toText();
+    // Bought, sold, cylinders bought, sold, lent, returned: within the period, and since its first day.
+    qint64 within[6] = {}, since[6] = {};
+    auto group = year.OpenRecordset(
+        "SELECT SaleDate, Sum(SaleNum) AS Pieces, SaleGubun, Gubun From TmpLPGCAN Where SaleName = '" + name +
+        "' And SaleThing = '" + size + "' And SaleDate >= '" + start +
+        "' GROUP BY SaleDate, SaleName, SaleThing, SaleGubun, Gubun ORDER BY SaleDate");
+    for (; !group.atEnd(); group.MoveNext()) {
+      static const std::map<std::pair<bool, int>, std::vector<int>> counters{
+          {{true, 1}, {1}},  {{true, 3}, {1, 3}}, {{true, 2}, {3}},  {{true, 5}, {4}},
+          {{true, 6}, {5}},  {{true, 7}, {1}},    {{false, 1}, {0}}, {{false, 3}, {0, 2}},
+          {{false, 2}, {2}}, {{false, 5}, {4}},   {{false, 6}, {5}}, {{false, 4}, {0}}};
+      for (const int at : counters.at({group["Gubun"].toBool(), int(group["SaleGubun"].toLong())})) {
+        since[at] += group["Pieces"].toLong();
+        if (group["SaleDate"].toText() <= end) within[at] += group["Pieces"].toLong();
+      }
+    }
+    const QString where = " Where Name = '" + name + "' And Size = '" + size + "'";
+    walk.run(QString("Update TmpLPGCANStock Set LPGBuy = %1, LPGSale = %2, CANBuy = %3, CANSale = %4, "
+                     "CANLent = %5, CANReturn = %6")
+                 .arg(within[0])
+                 .arg(within[1])
+                 .arg(within[2])
+                 .arg(within[3])
+                 .arg(within[4])
+                 .arg(within[5]) +
+             where);
+    walk.run(QString("Update TmpLPGCANStock Set LPGPreStock = LPGStock + %1, CANPreStock = CANStock + %2")
+                 .arg(since[1] - since[0])
+                 .arg(since[3] - since[2] + since[4] - since[5]) +
+             where);
+  }
+  walk.run(gas ? "Update TmpLPGCANStock Set LPGStock = LPGPreStock + lpgbuy - lpgsale , "
+                 "CANStock = CANPreStock + canbuy - cansale + CANReturn - CANLent "
+               : "Update TmpLPGCANStock Set LPGStock = LPGPreStock + lpgbuy - lpgsale ");
+  return walk.rows("Select * From TmpLPGCANStock");
+}
+
+TEST(StockWalk, OnePassGivesTheRowsOfAStatementAnItem) {
+  Walk walk;
+  std::mt19937 random(20260305);
+  const auto upTo = [&](int most) { return int(random() % unsigned(most)); };
+  const char* const names[] = {"LPG", "lpg ", "부탄", "밸브", "호스", "없는 품목"};
+  const char* const sizes[] = {"20", "50", "15A", "13"};
+  walk.run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('부탄', '13', 7, 2)");
+  walk.run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('부탄', '13', 9, 0)");  // entered twice
+  walk.run("Insert Into Util(Name, Size, UtilStock) Values('호스', '15A', -4)");
+  walk.run("Insert Into Util(Name, Size, UtilStock) Values('밸브', '20', 0)");
+  const auto enter = [&] {
+    for (int line = 0; line < 120; ++line) {
+      const QString day = QDate(2026, 1, 1).addDays(upTo(80)).toString(Qt::ISODate);
+      const char* const name = names[upTo(int(std::size(names)))];
+      const char* const size = sizes[upTo(int(std::size(sizes)))];
+      const int kind = 1 + upTo(8), pieces = upTo(40) - 5;
+      if (upTo(2))
+        walk.sale(day, kind, pieces, name, size);
+      else
+        walk.buy(day, kind, pieces, name, size);
+    }
+  };
+  for (int turn = 0; turn < 6; ++turn) {
+    walk.pc.session.wsMain.Together(enter);
+    const QDate first = QDate(2026, 1, 1).addDays(upTo(60));
+    const QString start = first.toString(Qt::ISODate), end = first.addDays(upTo(30)).toString(Qt::ISODate);
+    for (const StockWalkOf what : {StockWalkOf::Gas, StockWalkOf::Materials}) {
+      ASSERT_TRUE(walkStock(walk.pc.session, what, start, end));
+      const QString rows = walk.rows("Select * From TmpLPGCANStock");
+      EXPECT_EQ(rows.count(u';'), what == StockWalkOf::Gas ? 3 : 2);
+      QString other;
+      walk.pc.session.wsMain.Together([&] { other = walkedItemByItem(walk, what, start, end); });
+      EXPECT_EQ(rows, other) << start.toStdString() << " " << end.toStdString();
+    }
+  }
 }
 
 TEST(StockWalk, RunsWithStockManagementOff) {
