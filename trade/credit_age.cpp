@@ -5,6 +5,7 @@
 #include "briefs/brief_run.h"
 #include "store/data_access.h"
 #include "store/session.h"
+#include "trade/line_kinds.h"
 
 namespace {
 
@@ -33,9 +34,9 @@ bool readCreditDays(Session& session, CreditKind kind, QHash<qint64, std::vector
   const QString sql =
       "Select ClientCode, SaleDate, Sum(Trust) As Trust From Sale Where SaleDate >= '" +
       plainText(first.toString("yyyy-MM-dd")) + "' " + "And Trust > 0 And " +
-      (kind == CreditKind::Material ? "SaleGubun = 7 "
-                                    : "Not (SaleGubun = 4 Or SaleGubun = 7 Or SaleGubun = 8) ") +
-      "Group By ClientCode, SaleDate Order By ClientCode, SaleDate";
+      (kind == CreditKind::Material ? saleKindIs("SaleGubun", LineBalance::Material, KindPart::Sold)
+                                    : saleIsGasGoods("SaleGubun")) +
+      " Group By ClientCode, SaleDate Order By ClientCode, SaleDate";
   bool read = true;
   QStringList missing;
   walkBriefYears(session, first.year(), today.year(), missing, [&](const jet::Database& file) {

@@ -79,6 +79,20 @@ const LineKinds& saleKinds(SaleSheet sheet) {
   return sheet == SaleSheet::Material ? materialSales() : gasSales();
 }
 
+QString saleKindIs(const QString& column, LineBalance balance, KindPart part) {
+  QStringList codes;
+  for (const LineKinds* kinds : {&gasSales(), &materialSales()})
+    for (const LineKind& kind : *kinds)
+      if (kind.balance == balance && (part == KindPart::All || kind.isPayment() == (part == KindPart::Paid)))
+        codes << column + u" = "_s + QString::number(kind.code);
+  return u'(' + codes.join(u" Or "_s) + u')';
+}
+
+QString saleIsGasGoods(const QString& column) {
+  return u"Not ("_s + saleKindIs(column, LineBalance::Gas, KindPart::Paid) + u" Or "_s +
+         saleKindIs(column, LineBalance::Material) + u')';
+}
+
 QStringList labelsOf(const LineKinds& kinds) {
   QStringList labels;
   for (const LineKind& kind : kinds) labels << kind.label;

@@ -76,6 +76,13 @@ using LineKinds = std::vector<LineKind>;
 const LineKinds& saleKinds(SaleSheet sheet);
 const LineKinds& buyKinds();
 
+/** Which kinds of a balance a statement speaks of. */
+enum class KindPart { All, Sold, Paid };
+/** A condition on the column that holds a sale's kind: "(Sale.SaleGubun = 7 Or Sale.SaleGubun = 8)". */
+QString saleKindIs(const QString& column, LineBalance balance, KindPart part = KindPart::All);
+/** Neither materials nor a payment; a code outside the table is gas goods too. */
+QString saleIsGasGoods(const QString& column);
+
 QStringList labelsOf(const LineKinds& kinds);
 /** Position to kind; a place outside the list (an untouched cell) is the first kind. */
 const LineKind& kindAt(const LineKinds& kinds, int position);

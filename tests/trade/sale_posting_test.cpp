@@ -66,6 +66,9 @@ TEST(SaleKinds, PositionsAndCodes) {
   QStringList kinds;
   for (int code = 1; code <= 9; ++code) kinds << saleKind(code).label + saleKind(code).searchCode;
   EXPECT_EQ(kinds, QStringList({"가스1", "용판2", "실병3", "수금", "용대5", "용회6", "자판4", "자수", ""}));
+  EXPECT_EQ(saleKindIs("K", LineBalance::Material), "(K = 7 Or K = 8)");
+  EXPECT_EQ(saleKindIs("K", LineBalance::Gas, KindPart::Sold), "(K = 1 Or K = 5 Or K = 6 Or K = 2 Or K = 3)");
+  EXPECT_EQ(saleIsGasGoods("K"), "Not ((K = 4) Or (K = 7 Or K = 8))");
 }
 
 TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {

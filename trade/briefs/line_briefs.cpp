@@ -134,7 +134,8 @@ Brief utilClientBrief() {
                         "Client.BDName, Client.Dong, Client.Ho, Sale.SaleName, Sale.SaleThing, "
                         "Sum(Sale.SaleNum) AS SaleNum, Sum(Sale.Income) AS Income, Sum(Sale.DC) AS DC, "
                         "Sum(Sale.Trust) AS Trust FROM Sale LEFT JOIN Client ON Sale.ClientCode = "
-                        "Client.Code Where Sale.SaleGubun = 7 And " +
+                        "Client.Code Where " +
+                        saleKindIs("Sale.SaleGubun", LineBalance::Material, KindPart::Sold) + " And " +
                         briefDays("Sale.SaleDate", ask, briefPeriod) + "And Client.Name Like '*" +
                         plainText(ask.text("TxtName")) +
                         "*' GROUP BY Sale.ClientCode, Client.Name, Client.Tel, Client.HouseStyle, "

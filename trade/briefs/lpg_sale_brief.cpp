@@ -1,12 +1,13 @@
 // Gas sales by month, by day and by customer.
 #include "store/data_access.h"
+#include "store/date_text.h"
 #include "trade/briefs/brief_parts.h"
 #include "trade/briefs/trade_briefs.h"
+#include "trade/line_kinds.h"
 
 namespace {
 
-/** The gas side's lines without collections. */
-const QString gasSales = "not (Sale.SaleGubun = 7 or Sale.SaleGubun = 8 or Sale.SaleGubun = 4)";
+const QString gasSales = saleIsGasGoods("Sale.SaleGubun");
 
 /** A line just begun has no size yet; Val of nothing would be nothing. It is looked for first: a report that is only
  *  read must not wait for another PC's group. */
@@ -93,7 +94,7 @@ BriefPage monthPage() {
             return briefAddress("frmLPGSaleBrief", "day",
                                 {{"CboYear", ask.text("CboYear")}, {"CboMonth", cells[0].left(2)}});
           }};
-  for (int month = 1; month <= 12; ++month) page.slots_ << QString("%1월").arg(month, 2, 10, QChar(u'0'));
+  for (int month = 1; month <= 12; ++month) page.slots_ << twoDigits(month) + "월";
   return page;
 }
 

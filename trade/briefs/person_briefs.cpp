@@ -2,16 +2,17 @@
 #include "store/data_access.h"
 #include "trade/briefs/brief_parts.h"
 #include "trade/briefs/trade_briefs.h"
+#include "trade/line_kinds.h"
 
 namespace {
 
 /** What the two forms differ in. */
 struct PersonBook {
   QString form, caption;
-  QString kinds;                 ///< the lines that count
-  int collection = 4;            ///< the kind that is money in
-  QString what;                  ///< in the messages
-  QString lines, person, total;  ///< reports
+  QString kinds;                    ///< the lines that count
+  int collection = SaleCollection;  ///< the kind that is money in
+  QString what;                     ///< in the messages
+  QString lines, person, total;     ///< reports
 };
 
 /** A collection's amount and credit are the balance of that moment: they count for nothing here, and its money stands
@@ -129,7 +130,7 @@ Brief resSaleBrief() {
   return personBrief({.form = "frmResSaleBrief",
                       .caption = "담당별 판매 현황",
                       .kinds = "(Sale.SaleGubun = 1 or Sale.SaleGubun = 3 or Sale.SaleGubun = 4)",
-                      .collection = 4,
+                      .collection = SaleCollection,
                       .what = "가스판매",
                       .lines = "가스내역.rpt",
                       .person = "담당내역.rpt",
@@ -139,8 +140,8 @@ Brief resSaleBrief() {
 Brief resUtilBrief() {
   return personBrief({.form = "frmResUtilBrief",
                       .caption = "판매담당별 현황",
-                      .kinds = "(Sale.SaleGubun = 7 or Sale.SaleGubun = 8)",
-                      .collection = 8,
+                      .kinds = saleKindIs("Sale.SaleGubun", LineBalance::Material),
+                      .collection = SaleMaterialCollection,
                       .what = "시설/자재판매",
                       .lines = "시설자재내역.rpt",
                       .person = "자재담당내역.rpt",

@@ -4,6 +4,7 @@
 #include "trade/briefs/brief_parts.h"
 #include "trade/briefs/trade_briefs.h"
 #include "trade/credit_age.h"
+#include "trade/line_kinds.h"
 
 #include "briefs/brief_run.h"
 
@@ -20,13 +21,14 @@ QString firstDay(const Session& session) {
 
 bool readMoved(Session& session, CreditKind kind, QHash<qint64, YearMoved>& moved) {
   const bool gas = kind == CreditKind::Gas;
-  const QString collection = gas ? "SaleGubun = 4" : "SaleGubun = 8";
+  const QString material = saleKindIs("SaleGubun", LineBalance::Material);
+  const QString collection =
+      saleKindIs("SaleGubun", gas ? LineBalance::Gas : LineBalance::Material, KindPart::Paid);
   const QString sql = "Select ClientCode, Sum(IIf(" + collection +
                       ", 0, Income + Trust)) As Amount, Sum(DC) As Discount, " + "Sum(IIf(" + collection +
                       ", 0, Income)) As Paid, Sum(IIf(" + collection + ", Income, 0)) As Collected " +
                       "From Sale Where SaleDate >= '" + plainText(firstDay(session)) + "' And " +
-                      (gas ? "Not (SaleGubun = 7 Or SaleGubun = 8) " : "(SaleGubun = 7 Or SaleGubun = 8) ") +
-                      "Group By ClientCode";
+                      (gas ? "Not " + material : material) + " Group By ClientCode";
   bool read = true;
   QStringList missing;
   walkBriefYears(session, session.WorkYear.toInt(), session.pc.clock.today().year(), missing,
