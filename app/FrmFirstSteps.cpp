@@ -104,7 +104,7 @@ void FrmFirstSteps::refresh() {
 }
 
 QSize FrmFirstSteps::sizeHint() const {
-  return QWidget::sizeHint().expandedTo({620, 0});
+  return Form::sizeHint().expandedTo({620, 0});
 }
 
 /** Up and down between the steps, as in a list. */

@@ -29,7 +29,7 @@ const QString mappedSection = u"drives"_s;
 
 }  // namespace
 
-Paths::Paths(QString root) : root_(QDir::cleanPath(root)), mapped_(root_ + u"/drives.ini"_s) {}
+Paths::Paths(const QString& root) : root_(QDir::cleanPath(root)), mapped_(root_ + u"/drives.ini"_s) {}
 
 QString Paths::defaultRoot() {
   const QString named = qEnvironmentVariable("HAEON_PC");
@@ -44,7 +44,7 @@ QString Paths::driveFolder(QChar letter) const {
 
 QString Paths::native(const QString& written) const {
   if (hasDriveLetters || !startsWithDrive(written)) return written;
-  if (const QString known = found_.value(written); !known.isEmpty() && QFileInfo::exists(known)) return known;
+  if (QString known = found_.value(written); !known.isEmpty() && QFileInfo::exists(known)) return known;
   const QString drive = driveFolder(written[0]);
   QString path = drive;
   QString rest = written.sliced(2);

@@ -13,7 +13,7 @@ namespace pc {
 class Paths {
  public:
   /** root holds one folder a drive ("c", "d", ...) and drives.ini with mapped network drives. */
-  explicit Paths(QString root);
+  explicit Paths(const QString& root);
   /** The root named by HAEON_PC, else a folder in the user's data folder. */
   static QString defaultRoot();
 

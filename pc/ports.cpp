@@ -7,10 +7,9 @@ using namespace Qt::StringLiterals;
 namespace pc {
 
 QString serialDevice(const Paths& paths, const QString& port) {
-  const QString named = qEnvironmentVariable(("HAEON_" + port).toLatin1().constData());
+  QString named = qEnvironmentVariable(("HAEON_" + port).toLatin1().constData());
   if (!named.isEmpty()) return named;
-  const QString mapped =
-      QSettings(paths.root() + u"/ports.ini"_s, QSettings::IniFormat).value(port).toString();
+  QString mapped = QSettings(paths.root() + u"/ports.ini"_s, QSettings::IniFormat).value(port).toString();
   if (!mapped.isEmpty()) return mapped;
 #ifdef Q_OS_WIN
   return port;

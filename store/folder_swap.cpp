@@ -108,7 +108,8 @@ QString swapIn(const pc::Paths& paths, const QString& folder, const QDateTime& n
     flushFolder(above);
     return {};
   }
-  const QString kept = keptName(paths, folder, now), nativeKept = paths.native(kept);
+  QString kept = keptName(paths, folder, now);
+  const QString nativeKept = paths.native(kept);
   if (exchange(prepared, place)) {
     flushFolder(above);
     // What stood there is safe under either name.

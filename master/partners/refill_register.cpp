@@ -60,7 +60,7 @@ RegisterRules::Outcome RefillRegister::change(const RegisterFields& boxes) {
   if (company.isEmpty()) return refuse(companyMissing, refillTitle, u"Company"_s);
   if (!nameAccepted(company, code)) return {false, u"Company"_s};
   QString renamed;  // the name that its lines of purchase hold so far
-  const Outcome outcome = changeChosen(
+  Outcome outcome = changeChosen(
       boxes, refillTitle,
       [&](const RowChange& change, const RegisterFields& row, const RegisterFields& stored) {
         session_.dbBasic.Execute(

@@ -37,7 +37,7 @@ RegisterRules::Outcome ResponseRegister::check(RegisterFields& boxes) {
 
 RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& typed) {
   RegisterFields boxes = typed;
-  if (const Outcome checked = check(boxes); !checked.done) return checked;
+  if (Outcome checked = check(boxes); !checked.done) return checked;
   session_.dbBasic.Execute(
       u"Insert Into Response(Name, Tel, AppDate, IdentyNo, HP, PostCode, Address, Memo)  Values('"_s +
       plainText(boxes[u"Name"_s]) + u"', '"_s + plainText(boxes[u"Tel"_s]) + u"', '"_s +
@@ -49,7 +49,7 @@ RegisterRules::Outcome ResponseRegister::insert(const RegisterFields& typed) {
 
 RegisterRules::Outcome ResponseRegister::change(const RegisterFields& typed) {
   RegisterFields boxes = typed;
-  if (const Outcome checked = check(boxes); !checked.done) return checked;
+  if (Outcome checked = check(boxes); !checked.done) return checked;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, responseTitle)) return {};
   return changeChosen(
       boxes, responseTitle, [&](const RowChange&, const RegisterFields& row, const RegisterFields&) {

@@ -71,7 +71,7 @@ RegisterRules::Outcome RegisterRules::save(const RegisterFields& boxes, const Re
   shown_ = row_ ? record() : RegisterFields();
   shown_.insert(shown);
   if (const auto refused = impossible(boxes)) return *refused;
-  const Outcome outcome = new_ ? insert(boxes) : row_ ? change(boxes) : saveWithoutRow(boxes);
+  Outcome outcome = new_ ? insert(boxes) : row_ ? change(boxes) : saveWithoutRow(boxes);
   if (outcome.end == RowEnd::Gone) load();
   if (!outcome.done) return outcome;
   new_ = false;
@@ -84,7 +84,7 @@ RegisterRules::Outcome RegisterRules::saveWithoutRow(const RegisterFields&) {
 }
 
 RegisterRules::Outcome RegisterRules::remove() {
-  const Outcome outcome = erase();
+  Outcome outcome = erase();
   if (outcome.done) new_ = false;
   if (outcome.done || outcome.end != RowEnd::Done) load();
   return outcome;

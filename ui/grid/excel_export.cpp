@@ -107,7 +107,7 @@ QString ExportToExcelFile(Session& session, const SpreadModel& grid, const QStri
   const QString folder = paths.programFolder() + u"\\ExpExcel"_s;
   const bool ready = QDir().mkpath(paths.native(folder));
   const QString name = folder + u"\\Exp"_s + session.pc.clock.now().toString(u"yyMMdd_HHmmss"_s);
-  const QString written = name + u".xlsx"_s;
+  QString written = name + u".xlsx"_s;
   const bool done = ready && writeGrid(paths.native(written), grid, title, keepHeaders);
   writeLog(paths.native(name + u"LOG.TXT"_s),
            u"%1\t%2\t%3행\t%4\r\n"_s.arg(session.pc.clock.now().toString(u"yyyy-MM-dd HH:mm:ss"_s), title,

@@ -28,7 +28,7 @@ QString bareText(CellKind kind, QString text) {
 }
 
 QString patternOf(CellKind kind) {
-  const QString whole = u"-?(,*[0-9]){0,%1},*"_s.arg(mostDigits);
+  QString whole = u"-?(,*[0-9]){0,%1},*"_s.arg(mostDigits);
   if (kind == CellKind::Integer) return whole;
   return isAmount(kind) ? whole + u"(\\.[0-9]*)?"_s : QString();
 }

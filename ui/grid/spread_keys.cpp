@@ -133,8 +133,7 @@ bool Spread::restingKey(QKeyEvent* event) {
   if (event->key() == Qt::Key_F2 && !isCommand(*event)) return kind != CellKind::CheckBox && beginEdit();
   if (!isTyping(*event)) return false;
   if (event->key() == Qt::Key_Space && spacePressed) {
-    const auto [from, to] = markedRows();
-    run([&] { spacePressed(from, to); });
+    run([&, rows = markedRows()] { spacePressed(rows.first, rows.second); });
     return true;
   }
   switch (kind) {

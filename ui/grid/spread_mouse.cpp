@@ -69,10 +69,8 @@ void Spread::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Spread::mouseReleaseEvent(QMouseEvent*) {
-  if (marking_ && blockMarked && anchorRow_ != activeRow_) {
-    const auto [from, to] = markedRows();
-    run([&] { blockMarked(from, to); });
-  }
+  if (marking_ && blockMarked && anchorRow_ != activeRow_)
+    run([&, rows = markedRows()] { blockMarked(rows.first, rows.second); });
   marking_ = false;
   if (resizing_ == 0) return;
   const int col = resizing_;

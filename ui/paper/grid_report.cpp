@@ -78,6 +78,7 @@ std::unique_ptr<pc::Report> gridReport(const SpreadModel& grid, const QString& t
   for (const pc::ReportColumn& column : layout.columns) table.fields << column.field;
   for (int row = 1; row <= grid.DataRowCnt(); ++row) {
     std::vector<pc::ReportValue> values;
+    values.reserve(shown.size());
     for (const int col : shown) values.push_back(printedValue(grid.column(col), grid.text(row, col)));
     if (grid.bold(row)) table.boldRows.insert(int(table.rows.size()));
     table.rows.push_back(std::move(values));

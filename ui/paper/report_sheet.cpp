@@ -26,6 +26,7 @@ SpreadModel reportSheet(const pc::Report& report) {
   const pc::ReportLayout& layout = report.layout();
   const int rows = int(report.table().rows.size());
   std::vector<SpreadColumn> columns;
+  columns.reserve(layout.columns.size());
   for (int at = 0; at < int(layout.columns.size()); ++at) columns.push_back(sheetColumn(layout, at));
 
   std::vector<std::vector<QString>> cells;
