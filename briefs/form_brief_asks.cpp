@@ -13,6 +13,7 @@
 #include "master/customers/client_entry.h"
 #include "master/registers/form_lookups.h"
 #include "store/data_access.h"
+#include "store/date_text.h"
 #include "store/year_file.h"
 
 using namespace Qt::StringLiterals;
@@ -146,7 +147,7 @@ QWidget* BriefAsks::dayBox(const QString& name, const QDate& day, bool monthDay,
 QWidget* BriefAsks::monthBox(const QString& name, QWidget* panel) {
   auto* const box = new QComboBox(panel);
   box->setObjectName(name);
-  for (int each = 1; each <= 12; ++each) box->addItem(u"%1월"_s.arg(each, 2, 10, QChar(u'0')));
+  for (int each = 1; each <= 12; ++each) box->addItem(twoDigits(each) + u"월"_s);
   box->setCurrentIndex(context_.session.pc.clock.today().month() - 1);
   box->setMaxVisibleItems(12);
   return box;

@@ -14,6 +14,7 @@
 
 #include <memory>
 
+#include "store/date_text.h"
 #include "ui/forms/FrmProgress.h"
 
 using namespace Qt::StringLiterals;
@@ -57,7 +58,7 @@ QComboBox* frmVolumeEstimate::dayPart(const QString& name, int most, QWidget* pa
   auto* const box = new QComboBox(parent);
   box->setObjectName(name);
   box->setEditable(true);
-  for (int each = 1; each <= most; ++each) box->addItem(u"%1"_s.arg(each, 2, 10, QChar(u'0')));
+  for (int each = 1; each <= most; ++each) box->addItem(twoDigits(each));
   box->setCurrentIndex(-1);
   box->setMaxVisibleItems(most);
   box->lineEdit()->setMaxLength(2);

@@ -21,11 +21,8 @@ std::optional<ItemChoice> frmSearchSize(FormContext& context, const QString& kin
   dialog.grid()->setFillColumn(1);
   dialog.mayTake = [&](int row) { return SizeSearch::choice(list, row).has_value(); };
 
-  auto* const toCatalogue = new QPushButton(u"신규등록(&N)"_s, &dialog);
-  toCatalogue->setObjectName(u"btnNew"_s);
-  toCatalogue->setAutoDefault(false);
   // The catalogue is a window of its own: it opens once this one and the handler that asked for it have ended.
-  QObject::connect(toCatalogue, &QPushButton::clicked, &dialog, [&] {
+  QPushButton* const toCatalogue = dialog.addButton("btnNew", u"신규등록(&N)"_s, [&] {
     dialog.reject();
     QTimer::singleShot(0, qApp, [&commands = context.commands] { commands.openForm(u"frmGasUtil"_s); });
   });

@@ -26,15 +26,8 @@ std::vector<SpreadColumn> householdColumns(const QString& building) {
 }
 
 QString pageStatement(HouseStyle page) {
-  switch (page) {
-    case HouseStyle::Apartment:
-      return "Select * From Client Where HouseStyle = 1 Order By BDname, code";
-    case HouseStyle::MultiHousehold:
-      return "Select * From Client Where HouseStyle = 2 Order By BDName, code";
-    case HouseStyle::Individual:
-      break;
-  }
-  return "Select * From Client Where HouseStyle = 0 Order By Name";
+  return "Select * From Client Where HouseStyle = " + QString::number(int(page)) +
+         (page == HouseStyle::Individual ? " Order By Name" : " Order By BDName, Code");
 }
 
 /** The fields behind a list's columns, in their order. */

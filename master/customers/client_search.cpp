@@ -47,29 +47,12 @@ QString byText(const QString& text, ClientSearchMode mode, bool wholeNumber) {
   return byAnyText(text, mode == ClientSearchMode::Volume);
 }
 
-QString everyone(ClientSearchMode mode) {
-  switch (mode) {
-    case ClientSearchMode::General:
-      return "Select * From client Where VolumeYesNo = False";
-    case ClientSearchMode::Volume:
-      return "Select * From client Where (((HouseStyle = 1 Or HouseStyle = 2) ) Or HouseStyle = 0) And "
-             "VolumeYesNo = True";
-    case ClientSearchMode::All:
-      break;
-  }
-  return "Select * From Client";
-}
-
-QString modeClause(ClientSearchMode mode) {
-  switch (mode) {
-    case ClientSearchMode::General:
-      return " And VolumeYesNo = False";
-    case ClientSearchMode::Volume:
-      return " And (((HouseStyle = 1 Or HouseStyle = 2) ) Or HouseStyle = 0) And VolumeYesNo = True";
-    case ClientSearchMode::All:
-      break;
-  }
-  return {};
+/** Behind a Where or an And; '' for everybody. */
+QString modeCondition(ClientSearchMode mode) {
+  if (mode == ClientSearchMode::All) return {};
+  return mode == ClientSearchMode::General
+             ? "VolumeYesNo = False"
+             : "(((HouseStyle = 1 Or HouseStyle = 2) ) Or HouseStyle = 0) And VolumeYesNo = True";
 }
 
 std::vector<SpreadColumn> searchColumns() {
@@ -107,15 +90,16 @@ std::vector<std::vector<QString>> foundRows(jet::Recordset& found, const QString
 }  // namespace
 
 ClientSearch::ClientSearch(Session& session) : session_(session) {
-  std::vector<SpreadColumn> columns = searchColumns();
-  for (SpreadColumn& column : columns) column.locked = true;
-  list_.setColumns(std::move(columns));
+  list_.setColumns(column::shown(searchColumns()));
 }
 
 QString ClientSearch::statement(const QString& text, ClientSearchMode mode, bool wholeNumber) {
   const QString wanted = text.trimmed();
-  if (wanted.isEmpty()) return everyone(mode) + " Order By Name";
-  return byText(wanted, mode, wholeNumber) + modeClause(mode);
+  const QString condition = modeCondition(mode);
+  if (wanted.isEmpty())
+    return "Select * From Client" + (condition.isEmpty() ? condition : " Where " + condition) +
+           " Order By Name";
+  return byText(wanted, mode, wholeNumber) + (condition.isEmpty() ? condition : " And " + condition);
 }
 
 ClientSearch::Found ClientSearch::find(const QString& text, ClientSearchMode mode, bool wholeNumber) {

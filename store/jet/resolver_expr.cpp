@@ -54,32 +54,22 @@ void checkComparable(Holds left, Holds right) {
   if ((left == Holds::Text && holdsNumber(right)) || (right == Holds::Text && holdsNumber(left))) fail(3464);
 }
 
+/** What a column of a type holds; any other is text. */
+constexpr std::pair<Type, Holds> columnTypes[] = {
+    {Type::Boolean, Holds::YesNo}, {Type::Long, Holds::Whole}, {Type::Double, Holds::Floating}};
+
 }  // namespace
 
 Holds holdsOf(Type type) {
-  switch (type) {
-    case Type::Boolean:
-      return Holds::YesNo;
-    case Type::Long:
-      return Holds::Whole;
-    case Type::Double:
-      return Holds::Floating;
-    default:
-      return Holds::Text;
-  }
+  for (const auto& [of, holds] : columnTypes)
+    if (of == type) return holds;
+  return Holds::Text;
 }
 
 Type typeOf(Holds holds) {
-  switch (holds) {
-    case Holds::YesNo:
-      return Type::Boolean;
-    case Holds::Whole:
-      return Type::Long;
-    case Holds::Floating:
-      return Type::Double;
-    default:
-      return Type::Text;
-  }
+  for (const auto& [type, of] : columnTypes)
+    if (of == holds) return type;
+  return Type::Text;
 }
 
 bool sameExpr(const Expr& left, const Expr& right) {

@@ -4,10 +4,11 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <memory>
+
+#include "ui/forms/push_button.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,8 +30,7 @@ FrmProgress::FrmProgress(const QString& caption, int total, bool mayStop, QWidge
   bar_->setRange(0, total);
   whole->addWidget(bar_);
   if (mayStop) {
-    stop_ = new QPushButton(u"중지(&S)"_s, this);
-    stop_->setObjectName(u"BtnStop"_s);
+    stop_ = new PushButton("BtnStop", u"중지(&S)"_s, this);
     // The Enter that began the work, held a moment too long, must not stop it.
     stop_->setAutoDefault(false);
     connect(stop_, &QPushButton::clicked, this, [this] { reject(); });
