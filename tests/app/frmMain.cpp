@@ -37,7 +37,7 @@ struct MainWindow : testing::Test, tests::TestPc {
     return action;
   }
   qsizetype children() const {
-    QTest::qWait(0);  // a form that closed itself leaves one turn later
+    QApplication::processEvents();  // a form that closed itself leaves one turn later
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return window->findChild<QMdiArea*>()->subWindowList().size();
   }

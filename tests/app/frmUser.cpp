@@ -26,7 +26,7 @@ struct UserForm : testing::Test, tests::TestPc {
   }
   void open(frmUser& form) {
     tests::show(form);
-    QTest::qWait(0);
+    QApplication::processEvents();
   }
   void enter(const QString& text) {
     tests::type(text);

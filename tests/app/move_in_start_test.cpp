@@ -1,24 +1,17 @@
 // The ways to the program that brings old books in.
 #include "app/move_in_start.h"
 
+#include "tests/companion.h"
 #include "tests/moving/jet_writer.h"
-#include "tests/support.h"
 
 namespace {
 
 using namespace tests;
 
-struct MoveInStart : testing::Test, TestPc {
-  QStringList started;
+struct MoveInStart : testing::Test, StartingPc {
   void SetUp() override {
-    session.AppTitle = u"해온판매"_s;
     ASSERT_TRUE(pc.paths.makeFolder(installedDataFolder()));
-    QFile importer(pc.paths.native(u"C:\\RWGas"_s) + u"/haeon-import"_s);
-    ASSERT_TRUE(importer.open(QIODevice::WriteOnly));
-    pc.process.setStarter([this](const QString& program, const QStringList& arguments, const QString&) {
-      started = QStringList(QFileInfo(program).fileName()) + arguments;
-      return true;
-    });
+    install(u"haeon-import"_s);
   }
 };
 

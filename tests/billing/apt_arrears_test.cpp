@@ -3,9 +3,9 @@
 
 #include "billing/apt_baln.h"
 #include "briefs/brief_run.h"
-#include "pc/reports.h"
 #include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
+#include "tests/shown_reports.h"
 
 namespace {
 
@@ -87,18 +87,13 @@ TEST(AptArrears, AMonthsOwnBillIsRoundedAsTheBillIs) {
   EXPECT_EQ(spreadPayments(months, {0, 3}).months[1].billed, 8890);
 }
 
-struct ShownAptPaper : pc::Reports {
-  pc::ReportRequest last;
-  void show(const pc::ReportRequest& request) override { last = request; }
-};
-
 struct AptBaln : testing::Test, tests::MeterDesk {
-  ShownAptPaper report;
+  tests::ShownReports reports;
   BriefRun list{session, aptBalnBrief()};
   int own = 0, general = 0;  ///< households: of a building with its own rate of 3 percent, and of one without
 
   AptBaln() : MeterDesk({2026, 3, 20}) {
-    session.reports = &report;
+    session.reports = &reports;
     basic("Insert Into APT(Name, Dong, Gubun, Evaporation, delaypay) Values('달빛', '101', True, True, 3)");
     basic("Insert Into APT(Name, Dong, Gubun, Evaporation) Values('한빛', '201', True, True)");
     general = customer("나", 2450, 1, "한빛", "201", "11");
@@ -231,9 +226,9 @@ TEST_F(AptBaln, ThePaperNamesTheBuildingAndWhatIsPaidTooMuchIsTold) {
   set(general, 3, "Pay = 60000, Total = -11820");
   EXPECT_EQ(lines({{"CboBDName", "한빛"}}, {AptCol::Open, AptCol::Note}).last(), "-11820|과납");
   list.print(0);
-  EXPECT_EQ(report.last.file, "아파트미수현황.rpt");
-  EXPECT_TRUE(report.last.formulas.contains("아파트= '( 아파트명: 한빛 )    '"));
-  EXPECT_TRUE(report.last.formulas.contains("미수= '-11,820'"));
+  EXPECT_EQ(reports.asked.back().file, "아파트미수현황.rpt");
+  EXPECT_TRUE(reports.asked.back().formulas.contains("아파트= '( 아파트명: 한빛 )    '"));
+  EXPECT_TRUE(reports.asked.back().formulas.contains("미수= '-11,820'"));
 }
 
 TEST_F(AptBaln, AFileThatCannotBeWrittenIsToldAndTheListStaysEmpty) {

@@ -1,15 +1,10 @@
 #include "billing/eva_total.h"
 
 #include "briefs/brief_run.h"
-#include "pc/reports.h"
 #include "tests/billing/meter_desk.h"
+#include "tests/shown_reports.h"
 
 namespace {
-
-struct ShownReports : pc::Reports {
-  std::vector<pc::ReportRequest> asked;
-  void show(const pc::ReportRequest& request) override { asked.push_back(request); }
-};
 
 /** The boxes of the form as a test fills them. */
 struct EvaTotalAsk {
@@ -80,7 +75,7 @@ struct EvaTotalTest : testing::Test, tests::MeterDesk {
     return texts;
   }
 
-  ShownReports reports;
+  tests::ShownReports reports;
   EvaTotal total{session};
 };
 
@@ -204,17 +199,7 @@ TEST_F(EvaTotalTest, ThePrintStagesTheLinesWithoutTheSum) {
       total.refresh({.book = HouseStyle::Apartment, .fromMonth = 3, .toMonth = 3, .building = "한빛"}));
   total.print();
   const auto staged = [this] {
-    const jet::Database print = session.wsMain.OpenDatabase("C:\\RWGas\\Dbs\\Print.mdb");
-    QStringList rows;
-    for (jet::Recordset rs =
-             print.OpenRecordset("Select Str01, Lng01, Lng02, Str02, Str03, Lng03, Lng04, Str04, "
-                                 "Lng05, Lng06 From Print");
-         !rs.atEnd(); rs.MoveNext()) {
-      QStringList fields;
-      for (int at = 0; at < 10; ++at) fields << rs[at].toText();
-      rows << fields.join('|');
-    }
-    return rows;
+    return tests::stagedRows(session, "Str01, Lng01, Lng02, Str02, Str03, Lng03, Lng04, Str04, Lng05, Lng06");
   };
   EXPECT_EQ(staged(), QStringList({"101동 201호|5000|20000|한빛|03|100|1000|03/10|6000|20100"}));
   ASSERT_EQ(reports.asked.size(), 1u);

@@ -34,7 +34,7 @@ struct Screen {
 
   explicit Screen(tests::MeterDesk& of) : desk(of) {
     tests::show(form);
-    QTest::qWait(1);
+    QApplication::processEvents();
   }
   template <class Control>
   Control* control(const char* name) {

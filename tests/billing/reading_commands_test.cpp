@@ -3,9 +3,9 @@
 
 #include "billing/reading_list.h"
 #include "billing/reading_panel.h"
-#include "pc/reports.h"
 #include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
+#include "tests/shown_reports.h"
 
 namespace {
 
@@ -129,6 +129,14 @@ TEST(ReadingCommands, JanuaryIsRecalculatedOnLastYearsGas) {
   EXPECT_EQ(desk.rows("Select Delay, Total From Evaporation Where Mon = 1"), "20|16020;40|16040");
 }
 
+/** No to the command's question leaves all as it is; then the question comes again. */
+void askedTwice(MeterDesk& desk, const QString& question,
+                bool (*command)(ReadingSheet&, const ReadingProgress&)) {
+  desk.pc.prompts.expect(question, false);
+  EXPECT_FALSE(command(desk.sheet, {}));
+  desk.pc.prompts.expect(question);
+}
+
 TEST(ReadingCommands, ClearingTheUseCountsTheRows) {
   MeterDesk desk;
   desk.customer("가", 1000);
@@ -136,10 +144,7 @@ TEST(ReadingCommands, ClearingTheUseCountsTheRows) {
   desk.customer("다", 1000, 1, "한빛", "101", "1");
   desk.run("Update Evaporation Set UseMuch = 5, UsePay = 9");
   desk.show(HouseStyle::Individual, 3);
-  const QString question = "현재 화면내 모든고객에 대해 당월 사용량을 클리어 하시겠습니까?";
-  desk.pc.prompts.expect(question, false);
-  EXPECT_FALSE(clearUse(desk.sheet, {}));
-  desk.pc.prompts.expect(question);
+  askedTwice(desk, "현재 화면내 모든고객에 대해 당월 사용량을 클리어 하시겠습니까?", clearUse);
   desk.pc.prompts.expect("2건의 자료를 수정하였습니다.");
   EXPECT_TRUE(clearUse(desk.sheet, {}));
   EXPECT_EQ(desk.rows("Select ClientCode, Mon From Evaporation Where UseMuch = 0"), "1|3;2|3");
@@ -157,10 +162,7 @@ TEST(ReadingCommands, AMonthWithoutReadingsRunsOverTheWholeBook) {
   }
   desk.show(HouseStyle::Apartment, 3, 2);
   ASSERT_EQ(desk.sheet.buildingEntry().toStdString(), "한빛");
-  const QString question = "03월 체적아파트 고객 한빛의 검침을 미실시로 처리하시겠습니까?";
-  desk.pc.prompts.expect(question, false);
-  EXPECT_FALSE(skipReadings(desk.sheet, {}));
-  desk.pc.prompts.expect(question);
+  askedTwice(desk, "03월 체적아파트 고객 한빛의 검침을 미실시로 처리하시겠습니까?", skipReadings);
   desk.pc.prompts.expect("03월의 체적검침을 미실시로 처리완료했습니다");
   EXPECT_TRUE(skipReadings(desk.sheet, {}));
   EXPECT_EQ(
@@ -182,15 +184,11 @@ TEST(ReadingCommands, AMonthWithoutReadingsRunsOverTheWholeBook) {
   }
 }
 
-struct ShownReport : pc::Reports {
-  pc::ReportRequest request;
-  void show(const pc::ReportRequest& shown) override { request = shown; }
-};
-
 TEST(ReadingList, IsStagedAsItStandsOnTheScreen) {
   MeterDesk desk;
-  ShownReport report;
-  desk.session.reports = &report;
+  tests::ShownReports reports;
+  desk.session.reports = &reports;
+  const auto formulas = [&] { return reports.asked.back().formulas; };
   for (const char* room : {"1", "2"}) desk.customer("가", 1000, 1, "한빛", "101", room);
   desk.set(1, 3,
            "UseGage = 10.5, UseMuch = 2.25, UsePay = 2250, Trust = 5, Delay = 4, Manage = 3, Total = 2260, "
@@ -199,38 +197,31 @@ TEST(ReadingList, IsStagedAsItStandsOnTheScreen) {
   desk.show(HouseStyle::Apartment, 3, 1);
   desk.sheet.grid.setText(2, EvaCol::UsePay, "77");  // not stored
   printReadingList(desk.sheet);
-  const jet::Database print = desk.session.wsMain.OpenDatabase("C:\\RWGas\\Dbs\\Print.mdb");
   const auto staged = [&] {
-    QStringList lines;
-    for (jet::Recordset rs =
-             print.OpenRecordset("Select Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, "
-                                 "Lng05, Lng06, Str02, Str03, Str04 From Print");
-         !rs.atEnd(); rs.MoveNext()) {
-      QStringList fields;
-      for (int at = 0; at < 13; ++at) fields << rs[at].toText();
-      lines << fields.join('|');
-    }
-    return lines.join(';');
+    return tests::stagedRows(desk.session,
+                             "Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06, Str02, "
+                             "Str03, Str04")
+        .join(';');
   };
   EXPECT_EQ(staged(),
             "101동 1호|8.25|10.5|2.25|2250|5|4|3|2260|2|O|03/02|한빛;101동 2호|0|0|0|77|0|0|0|0|0|X||한빛");
-  EXPECT_EQ(report.request.file, "체적검침현황.rpt");
-  EXPECT_EQ(report.request.formulas, QStringList({"월= '03월)'", "건물명= '한빛'"}));
+  EXPECT_EQ(reports.asked.back().file, "체적검침현황.rpt");
+  EXPECT_EQ(formulas(), QStringList({"월= '03월)'", "건물명= '한빛'"}));
 
   desk.pc.pc.settings.SaveSetting(desk.session.AppTitle, "Config", "체적검침동별보기", "1");
   desk.show(HouseStyle::Apartment, 3, 1);
   printReadingList(desk.sheet);
-  EXPECT_EQ(report.request.formulas.last(), "건물명= '한빛'") << "without its block";
+  EXPECT_EQ(formulas().last(), "건물명= '한빛'") << "without its block";
   desk.show(HouseStyle::Apartment, 3, 0);
   printReadingList(desk.sheet);
-  EXPECT_EQ(report.request.formulas.last(), "건물명= '아파'") << "the same four characters go";
+  EXPECT_EQ(formulas().last(), "건물명= '아파'") << "the same four characters go";
 
   desk.sheet.grid.setText(1, EvaCol::Name, "");
   printReadingList(desk.sheet);
   EXPECT_EQ(staged(), "") << "a row without a name ends the list";
   desk.show(HouseStyle::Individual, 3);
   printReadingList(desk.sheet);
-  EXPECT_EQ(report.request.formulas.last(), "건물명= '일반주택/식당'");
+  EXPECT_EQ(formulas().last(), "건물명= '일반주택/식당'");
 }
 
 }  // namespace

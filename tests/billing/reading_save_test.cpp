@@ -14,11 +14,15 @@ void total(MeterDesk& desk, double amount, double late, double sum) {
   SaveReadingRow(desk.sheet, 1);
 }
 
-TEST(ReadingSave, TheWholeRowIsWrittenAndItsTotalGoesOneMonthOn) {
+/** One customer, shown in March. */
+struct ReadingSaveInMarch : testing::Test {
   MeterDesk desk;
   const int code = desk.customer("산골식당", 1500);
+  void SetUp() override { desk.show(HouseStyle::Individual, 3); }
+};
+
+TEST_F(ReadingSaveInMarch, TheWholeRowIsWrittenAndItsTotalGoesOneMonthOn) {
   desk.set(code, 4, "Total = 77, Trust = 5");
-  desk.show(HouseStyle::Individual, 3);
   for (int col = EvaCol::UseGage; col <= EvaCol::Pay; ++col) desk.sheet.setNumber(1, col, col * 10 + 0.5);
   desk.sheet.grid.setText(1, EvaCol::Prnt, "1");
   desk.sheet.grid.setText(1, EvaCol::PayDelayed, "1");
@@ -33,10 +37,7 @@ TEST(ReadingSave, TheWholeRowIsWrittenAndItsTotalGoesOneMonthOn) {
       << "the next month's arrears, nothing further";
 }
 
-TEST(ReadingSave, CarryWithAndWithoutTheMonthsLateCharge) {
-  MeterDesk desk;
-  const int code = desk.customer("산골식당", 1500);
-  desk.show(HouseStyle::Individual, 3);
+TEST_F(ReadingSaveInMarch, CarryWithAndWithoutTheMonthsLateCharge) {
   total(desk, 10000, 300, 12300);
   EXPECT_EQ(desk.field("Trust", code, 4), "12300");
   desk.session.AfterDueMethod = 1;
@@ -81,10 +82,7 @@ TEST(ReadingSave, TheOpeningRowFillsTheMonthsBeforeThisOneAndCarriesIntoIt) {
       << "in January the opening row alone";
 }
 
-TEST(ReadingSave, ARefusedStatementWritesNeither) {
-  MeterDesk desk;
-  const int code = desk.customer("산골식당", 1500);
-  desk.show(HouseStyle::Individual, 3);
+TEST_F(ReadingSaveInMarch, ARefusedStatementWritesNeither) {
   desk.sheet.setNumber(1, EvaCol::Total, 900);
   desk.sheet.readingDay = "3'4 5";
   EXPECT_THROW(SaveReadingRow(desk.sheet, 1), jet::Error);

@@ -2,18 +2,11 @@
 // Books for the tests of report forms: sale lines written bare, answers as the boxes give them, rows and staged rows as
 // texts.
 #include "briefs/brief_run.h"
-#include "pc/reports.h"
-#include "store/report_staging.h"
 #include "store/year_file.h"
-#include "tests/answers.h"
+#include "tests/shown_reports.h"
 #include "tests/support.h"
 
 namespace tests {
-
-struct ShownReports : pc::Reports {
-  std::vector<pc::ReportRequest> asked;
-  void show(const pc::ReportRequest& request) override { asked.push_back(request); }
-};
 
 /** 31 March 2026; customers 1 김하나 (plain), 2 한빛 101-202 (apartment), 3 박셋 (metered). */
 struct BriefDesk {
@@ -78,9 +71,12 @@ struct BriefDesk {
     return rows;
   }
   /** Fields of Print: "Str01, Lng01". */
-  QStringList staged(const QString& fields) {
-    const jet::Database print = session.wsMain.OpenDatabase(printFile());
-    return linesOf(print, "Select " + fields + " From Print");
+  QStringList staged(const QString& fields) { return stagedRows(session, fields); }
+  /** Prints a page: the report's file and one of the rows staged for it; -1 is the last. */
+  QString printed(BriefRun& run, int page, const QString& fields, qsizetype row = 0) {
+    run.print(page);
+    const QStringList rows = staged(fields);
+    return reports.asked.back().file + ' ' + rows.value(row < 0 ? rows.size() + row : row);
   }
 };
 

@@ -16,17 +16,6 @@
 
 namespace {
 
-struct ChoosingPickers : tests::IdlePickers {
-  std::optional<ClientChoice> client;
-  std::optional<QString> person;
-  QStringList asked;
-  std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode, bool) override {
-    asked << text;
-    return client;
-  }
-  std::optional<QString> searchResponse() override { return person; }
-};
-
 struct BriefWindow : testing::Test, tests::BriefDesk {
   BriefWindow() {
     for (int day = 1; day <= 20; ++day)
@@ -49,7 +38,7 @@ struct BriefWindow : testing::Test, tests::BriefDesk {
     return form.findChild<T*>(name);
   }
 
-  ChoosingPickers pickers;
+  tests::IdlePickers pickers;
   tests::IdleCommands commands;
   tests::IdleCalls calls;
   FormContext context{session, pickers, commands, calls};

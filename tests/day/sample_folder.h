@@ -8,6 +8,7 @@ namespace tests {
 
 struct SampleFolder {
   QTemporaryDir root;
+  QString pdf;  ///< what the PDF writer fills
 
   /** clock: the moment that the books are made at and the program starts at. */
   explicit SampleFolder(const char* clock = samples::dayClock) : clock_(clock) {
@@ -22,7 +23,16 @@ struct SampleFolder {
     options.pcRoot = root.path();
     options.clock = clock_;
     options.pictures = qEnvironmentVariable("HAEON_PICTURES");
+    options.pdf = pdf;
     return options;
+  }
+  /** The same at another moment, for a play of several starts. */
+  auto startedAt() const {
+    return [this](const QString& clock) {
+      samples::Stage::Options options = this->options();
+      options.clock = clock;
+      return options;
+    };
   }
 
  private:

@@ -150,25 +150,30 @@ TEST(TextRules, PartsOfATextCountCharacters) {
 }
 
 TEST(FormatRules, Numbers) {
-  EXPECT_EQ(jet::formatNumber(1234567, u"#,###,###"), u"1,234,567"_s);
-  EXPECT_EQ(jet::formatNumber(12345678901.0, u"#,###"), u"12,345,678,901"_s);
-  EXPECT_EQ(jet::formatNumber(0, u"#,###"), u""_s);
-  EXPECT_EQ(jet::formatNumber(0, u"#,##0"), u"0"_s);
-  EXPECT_EQ(jet::formatNumber(-1234, u"#,###"), u"-1,234"_s);
-  EXPECT_EQ(jet::formatNumber(1234.5, u"###,###,###.##"), u"1,234.5"_s);
-  EXPECT_EQ(jet::formatNumber(5, u"#.##"), u"5."_s);
-  EXPECT_EQ(jet::formatNumber(7, u"0000"), u"0007"_s);
-  EXPECT_EQ(jet::formatNumber(7, u"000,000"), u"000,007"_s);
-  EXPECT_EQ(jet::formatNumber(2.5, u"0"), u"3"_s);
-  EXPECT_EQ(jet::formatNumber(9.995, u"0.00"), u"10.00"_s);
-  EXPECT_EQ(jet::formatNumber(0.05, u"0.0"), u"0.1"_s);
-  EXPECT_EQ(jet::formatNumber(0.004, u"0.00"), u"0.00"_s);
-  EXPECT_EQ(jet::formatNumber(0.256, u"0.0%"), u"25.6%"_s);
-  EXPECT_EQ(jet::formatNumber(20261124, u"0000-00-00"), u"2026-11-24"_s);
-  EXPECT_EQ(jet::formatNumber(1234567, u"#,##0,"), u"1,235"_s);
-  EXPECT_EQ(jet::formatNumber(-5, u"0;(0);\"없음\""), u"(5)"_s);
-  EXPECT_EQ(jet::formatNumber(0, u"0;(0);\"없음\""), u"없음"_s);
-  EXPECT_EQ(jet::formatNumber(3, u"0\\원"), u"3원"_s);
+  const struct {
+    double number;
+    const char16_t *picture, *text;
+  } cases[] = {{1234567, u"#,###,###", u"1,234,567"},
+               {12345678901.0, u"#,###", u"12,345,678,901"},
+               {0, u"#,###", u""},
+               {0, u"#,##0", u"0"},
+               {-1234, u"#,###", u"-1,234"},
+               {1234.5, u"###,###,###.##", u"1,234.5"},
+               {5, u"#.##", u"5."},
+               {7, u"0000", u"0007"},
+               {7, u"000,000", u"000,007"},
+               {2.5, u"0", u"3"},
+               {9.995, u"0.00", u"10.00"},
+               {0.05, u"0.0", u"0.1"},
+               {0.004, u"0.00", u"0.00"},
+               {0.256, u"0.0%", u"25.6%"},
+               {20261124, u"0000-00-00", u"2026-11-24"},
+               {1234567, u"#,##0,", u"1,235"},
+               {-5, u"0;(0);\"없음\"", u"(5)"},
+               {0, u"0;(0);\"없음\"", u"없음"},
+               {3, u"0\\원", u"3원"}};
+  for (const auto& [number, picture, text] : cases)
+    EXPECT_EQ(jet::formatNumber(number, picture), QString::fromUtf16(text)) << number;
 }
 
 TEST(FormatRules, Dates) {

@@ -12,9 +12,9 @@
 #include "links/frmCar.h"
 #include "links/frmDm.h"
 #include "links/frmPrtSafe.h"
-#include "pc/reports.h"
 #include "tests/idle_context.h"
 #include "tests/recorded_print.h"
+#include "tests/shown_reports.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
 #include "tests/ui/modal.h"
@@ -24,14 +24,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct KeptReports : pc::Reports {
-  std::vector<pc::ReportRequest> shown;
-  void show(const pc::ReportRequest& request) override { shown.push_back(request); }
-};
-
 struct SideJobs : testing::Test, tests::TestPc {
   tests::IdleContext idle{session};
-  KeptReports reports;
+  tests::ShownReports reports;
 
   SideJobs() {
     openBooks(QDate(2026, 3, 16));
@@ -172,8 +167,8 @@ TEST_F(SideJobs, TheSafetyRegisterSelectsItsDays) {
   for (int step = 0; step < 3; ++step) tests::key(Qt::Key_Return);
   EXPECT_EQ(QApplication::focusWidget()->objectName(), u"BtnPrint"_s);
   tests::key(Qt::Key_Return);
-  ASSERT_EQ(reports.shown.size(), 1u);
-  const pc::ReportRequest& request = reports.shown.front();
+  ASSERT_EQ(reports.asked.size(), 1u);
+  const pc::ReportRequest& request = reports.asked.front();
   EXPECT_EQ(request.file, u"safenote.rpt"_s);
   EXPECT_EQ(request.selection, u"{Sale.SaleDate} >= '2026-03-01'  and {Sale.SaleDate} <= '2026-03-16'"_s);
   EXPECT_EQ(request.formulas, (QStringList{u"DDay= '2026-03-01 ~ 2026-03-16'"_s, u"DMon= '3'"_s}));
@@ -186,7 +181,7 @@ TEST_F(SideJobs, TheSafetyRegisterSelectsItsDays) {
   from->setText(u"2019-01-01"_s);
   prompts.expect(u"2019년의 자료 파일이 없습니다!"_s);
   form.findChild<QPushButton*>(u"BtnPrint"_s)->click();
-  EXPECT_EQ(reports.shown.size(), 1u);
+  EXPECT_EQ(reports.asked.size(), 1u);
 }
 
 TEST_F(SideJobs, LabelsGoToTheChosenPrinter) {

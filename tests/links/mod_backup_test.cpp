@@ -1,31 +1,21 @@
 // What the main program does for a backup: the question, the forms, the compressor's arguments, and its own end.
 #include "links/modBackUp.h"
 
-#include "tests/support.h"
+#include "tests/companion.h"
 
 namespace {
 
 using namespace tests;
 using namespace Qt::StringLiterals;
 
-struct ModBackUp : testing::Test, TestPc {
-  QStringList started;  ///< program, then its arguments
-  bool starts = true, closes = true;
+struct ModBackUp : testing::Test, StartingPc {
+  bool closes = true;
   int closed = 0;
   CloseForms closeForms = [this] {
     ++closed;
     return closes;
   };
-  void SetUp() override {
-    session.AppTitle = u"해온판매"_s;
-    ASSERT_TRUE(pc.paths.makeFolder(u"C:\\RWGas"_s));
-    QFile compressor(pc.paths.native(u"C:\\RWGas"_s) + u"/데이터압축.EXE"_s);
-    ASSERT_TRUE(compressor.open(QIODevice::WriteOnly));
-    pc.process.setStarter([this](const QString& program, const QStringList& arguments, const QString&) {
-      started = QStringList(QFileInfo(program).fileName()) + arguments;
-      return starts;
-    });
-  }
+  void SetUp() override { install(u"데이터압축.EXE"_s); }
 };
 
 TEST_F(ModBackUp, EveryKindHasItsQuestionAndItsArgument) {

@@ -25,16 +25,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct CataloguePickers : tests::IdlePickers {
-  QStringList asked;
-  std::optional<PostCodeChoice> searchPostCode(const QString& text) override {
-    asked << text;
-    return PostCodeChoice{u"403-010"_s, u"인천 부평구 부평동"_s, u"1~99"_s};
-  }
-};
-
 struct CatalogueForms : testing::Test {
   void SetUp() override {
+    pickers.place = PostCodeChoice{u"403-010"_s, u"인천 부평구 부평동"_s, u"1~99"_s};
     pc.openBooks();
     for (const QString& row : {u"'LPG', '20', 30000, 38000, 25000, 28000, 2100, 130, 20, 80, 30"_s,
                                u"'LPG', '50', 72000, 90000, 45000, 50000, 3500, 75, 5, 40, 30"_s,
@@ -67,7 +60,7 @@ struct CatalogueForms : testing::Test {
     return form.findChild<QLineEdit*>(QString::fromUtf8(name));
   }
   tests::TestPc pc;
-  CataloguePickers pickers;
+  tests::IdlePickers pickers;
   FormPickers windows{pc.session};
   tests::IdleCommands commands;
   tests::IdleCalls calls;

@@ -16,30 +16,12 @@
 
 namespace {
 
-/** Answers every search with what the test put here; nothing stands for an operator who leaves. */
-struct ClientPickers : tests::IdlePickers {
-  std::optional<PostCodeChoice> place;
-  std::optional<VolumeChoice> regulator;
-  std::optional<BuildingChoice> building;
-  std::optional<ClientChoice> client;
-  QStringList asked;
-
-  std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode, bool) override {
-    asked << text;
-    return client;
-  }
-  std::optional<PostCodeChoice> searchPostCode(const QString& text) override {
-    asked << text;
-    return place;
-  }
-  std::optional<VolumeChoice> searchVolume() override { return regulator; }
-  std::optional<BuildingChoice> searchBuilding(HouseStyle) override { return building; }
-  std::optional<QString> pickDate(const QString&) override { return QStringLiteral("2026-03-01"); }
-};
-
 class ClientForms : public ::testing::Test {
  protected:
-  void SetUp() override { pc.openBooks(QDate(2026, 11, 24)); }
+  void SetUp() override {
+    pc.openBooks(QDate(2026, 11, 24));
+    pickers.day = QStringLiteral("2026-03-01");
+  }
 
   void addPlain(const QString& name, const QString& tel, const QString& address = {}, int gas = 0,
                 const QString& memo = {}) {
@@ -89,7 +71,7 @@ class ClientForms : public ::testing::Test {
   jet::Recordset ask(const QString& sql) { return pc.session.dbBasic.OpenRecordset(sql); }
 
   tests::TestPc pc;
-  ClientPickers pickers;
+  tests::IdlePickers pickers;
   tests::IdleCommands commands;
   tests::IdleCalls calls;
   FormContext context{pc.session, pickers, commands, calls};

@@ -19,15 +19,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct HousePickers : tests::IdlePickers {
-  std::optional<VolumeChoice> searchVolume() override { return VolumeChoice{u"4"_s, 2450}; }
-  std::optional<PostCodeChoice> searchPostCode(const QString&) override {
-    return PostCodeChoice{u"712-010"_s, u"경북 달빛시 장터동"_s, {}};
+  HousePickers() {
+    regulator = VolumeChoice{u"4"_s, 2450};
+    place = PostCodeChoice{u"712-010"_s, u"경북 달빛시 장터동"_s, {}};
+    building = BuildingChoice{u"달빛아파트"_s, u"101"_s, u"712-010"_s, u"경북 달빛시 장터동 7"_s};
   }
-  std::optional<BuildingChoice> searchBuilding(HouseStyle style) override {
-    asked = int(style);
-    return BuildingChoice{u"달빛아파트"_s, u"101"_s, u"712-010"_s, u"경북 달빛시 장터동 7"_s};
-  }
-  int asked = -1;
 };
 
 class HouseStyleForm : public ::testing::Test {
@@ -90,7 +86,7 @@ class HouseStyleForm : public ::testing::Test {
 
 TEST_F(HouseStyleForm, ABlockIsRegisteredByKeysWithACorrectedUnit) {
   enterBlock();
-  EXPECT_EQ(pickers.asked, 1);
+  EXPECT_EQ(pickers.asked.last(), u"1"_s);
   auto* const units = box<Spread>("SpBDAddress");
   ASSERT_EQ(units->model().text(1, 4), u"203"_s);
   units->setFocus();
@@ -176,7 +172,7 @@ TEST_F(HouseStyleForm, AStoredBlockIsChangedAndDeletedByKeys) {
   box<QPushButton>("BtnNew")->setFocus();
   tests::key(Qt::Key_Space);
   tests::key(Qt::Key_F12);
-  EXPECT_EQ(pickers.asked, 2) << "the second page is the multi-family houses'";
+  EXPECT_EQ(pickers.asked.last(), u"2"_s) << "the second page is the multi-family houses'";
 }
 
 }  // namespace

@@ -149,39 +149,37 @@ TEST_F(GasCatalogueTest, EachKindOfLinePicksWithItsOwnHeadingsPriceAndCount) {
       u"CANTotalHold, "
       u"CANLoan, CANFull, CANEmpty) Values('LPG', '20', 1, 20, 300, 4000, 99, 14, 3, 5, 6)"_s);
   run(u"Insert into Util(Name, Size, SizeSize, UtilPurchase, UtilSelling, UtilStock) Values('밸브', '15A', '개', 70, 80, 9)"_s);
-  struct Case {
-    QString kind;
-    TradeSide side;
-    QString headings;
+  struct List {
+    const char16_t* headings;
     double price, stock;
   };
-  const Case cases[] = {
-      {u"1"_s, TradeSide::Sale, u"가스명|용  량|판매단가|실병재고"_s, 20, 5},
-      {u"2"_s, TradeSide::Sale, u"용기명|용  량|용기단가|공병재고"_s, 4000, 6},
-      {u"3"_s, TradeSide::Sale, u"품  명|용  량|판매단가|실병재고"_s, 4020, 5},
-      {u"4"_s, TradeSide::Sale, u"자재명|규  격|판매단가|현재재고"_s, 80, 9},
-      {u"5"_s, TradeSide::Sale, u"용기명|용  량|대여단가|공병재고"_s, 0, 6},
-      {u"6"_s, TradeSide::Sale, u"용기명|용  량|회수단가|공병재고"_s, 0, 6},
-      {u"1"_s, TradeSide::Purchase, u"가스명|용  량|구매단가|공병재고"_s, 1, 6},
-      {u"2"_s, TradeSide::Purchase, u"용기명|용  량|용기단가|보유용기"_s, 300, 14},
-      {u"3"_s, TradeSide::Purchase, u"품  명|용  량|단    가|보유용기"_s, 301, 14},
-      {u"4"_s, TradeSide::Purchase, u"품  명|규  격|구매단가|현재재고"_s, 70, 9},
-      {u"5"_s, TradeSide::Purchase, u"용기명|용  량|대여단가|대여수량"_s, 0, 3},
-      {u"6"_s, TradeSide::Purchase, u"용기명|용  량|회수단가|용 기 수"_s, 0, 3},
+  const struct {
+    const char16_t* kind;
+    List sale, purchase;
+  } cases[] = {
+      {u"1", {u"가스명|용  량|판매단가|실병재고", 20, 5}, {u"가스명|용  량|구매단가|공병재고", 1, 6}},
+      {u"2", {u"용기명|용  량|용기단가|공병재고", 4000, 6}, {u"용기명|용  량|용기단가|보유용기", 300, 14}},
+      {u"3", {u"품  명|용  량|판매단가|실병재고", 4020, 5}, {u"품  명|용  량|단    가|보유용기", 301, 14}},
+      {u"4", {u"자재명|규  격|판매단가|현재재고", 80, 9}, {u"품  명|규  격|구매단가|현재재고", 70, 9}},
+      {u"5", {u"용기명|용  량|대여단가|공병재고", 0, 6}, {u"용기명|용  량|대여단가|대여수량", 0, 3}},
+      {u"6", {u"용기명|용  량|회수단가|공병재고", 0, 6}, {u"용기명|용  량|회수단가|용 기 수", 0, 3}},
   };
-  for (const Case& is : cases) {
-    SCOPED_TRACE((is.kind + is.headings).toStdString());
+  const auto holds = [&](const QString& kind, TradeSide side, const List& is) {
     SpreadModel list;
-    ASSERT_TRUE(SizeSearch(pc.session, is.kind, is.side).load(list));
+    ASSERT_TRUE(SizeSearch(pc.session, kind, side).load(list));
     QStringList headings;
     for (int col = 1; col <= list.MaxCols(); ++col) headings << list.column(col).header;
-    EXPECT_EQ(headings.join(u'|'), is.headings);
+    EXPECT_EQ(headings.join(u'|'), QString::fromUtf16(is.headings));
     const auto chosen = SizeSearch::choice(list, 1);
     ASSERT_TRUE(chosen);
-    EXPECT_EQ(chosen->name + chosen->size, is.kind == u"4" ? u"밸브15A"_s : u"LPG20"_s);
-    EXPECT_EQ(chosen->price, is.price);
-    EXPECT_EQ(chosen->stock, is.stock);
+    EXPECT_EQ(chosen->name + chosen->size, kind == u"4" ? u"밸브15A"_s : u"LPG20"_s);
+    EXPECT_EQ(chosen->price, is.price) << kind.toStdString();
+    EXPECT_EQ(chosen->stock, is.stock) << kind.toStdString();
     EXPECT_FALSE(SizeSearch::choice(list, 2));
+  };
+  for (const auto& is : cases) {
+    holds(QString::fromUtf16(is.kind), TradeSide::Sale, is.sale);
+    holds(QString::fromUtf16(is.kind), TradeSide::Purchase, is.purchase);
   }
   SpreadModel list;
   EXPECT_TRUE(SizeSearch(pc.session, u"9"_s, TradeSide::Sale).load(list));

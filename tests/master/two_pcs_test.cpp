@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 struct RegistersOnTwoPcs : testing::Test {
-  void SetUp() override {
+  RegistersOnTwoPcs() {
     here.openBooks(QDate(2026, 6, 15));
     there = std::make_unique<tests::OtherPc>(here);
     run(u"Insert Into LPG(LPGName, Size, LPGPurchase, LPGSelling, LPGStock, CANTotalHold, CANLoan, CANFull, "
@@ -93,49 +93,60 @@ RegisterFields boxesOf(RegisterFields record) {
   return record;
 }
 
-TEST_F(RegistersOnTwoPcs, AFigureThatWasLeftAloneFollowsThePostingsElsewhere) {
-  for (const Register& is : registers()) {
-    if (is.figure.isEmpty()) continue;
-    SCOPED_TRACE(is.table.toStdString());
-    const auto rules = is.make(here.session);
-    rules->load();
-    RegisterFields boxes = boxesOf(rules->select(1));
-    const int before = stored(is.figure + u" From "_s + is.table).toInt();
-    there->run(u"Update "_s + is.table + u" Set "_s + is.figure + u" = "_s + is.figure + u" - 7"_s);
-    boxes[is.column] = is.typed;
+/** The registers one after the other, the first row on the screen. */
+struct EachRegister : RegistersOnTwoPcs {
+  using Work = std::function<void(const Register& is, RegisterRules& rules, RegisterFields& boxes)>;
+  void each(const Work& work) {
+    for (const Register& is : registers()) {
+      SCOPED_TRACE(is.table.toStdString());
+      const auto rules = is.make(here.session);
+      rules->load();
+      RegisterFields boxes = boxesOf(rules->select(1));
+      work(is, *rules, boxes);
+    }
+  }
+  /** Those with a running figure, of which 7 are taken off elsewhere; figure: as it was on the screen. */
+  void eachPosted(const std::function<void(const Register& is, RegisterFields& boxes, int figure)>& typed,
+                  int moved) {
+    each([&](const Register& is, RegisterRules& rules, RegisterFields& boxes) {
+      if (is.figure.isEmpty()) return;
+      const QString figure = is.figure + u" From "_s + is.table;
+      const int before = stored(figure).toInt();
+      there->run(u"Update "_s + is.table + u" Set "_s + is.figure + u" = "_s + is.figure + u" - 7"_s);
+      asks(is);
+      typed(is, boxes, before);
+      EXPECT_TRUE(rules.save(boxes).done);
+      EXPECT_EQ(stored(figure).toInt(), before - 7 + moved);
+    });
+  }
+  void asks(const Register& is) {
     if (!is.question.isEmpty()) here.prompts.expect(is.question);
-    EXPECT_TRUE(rules->save(boxes).done);
-    EXPECT_EQ(stored(is.figure + u" From "_s + is.table).toInt(), before - 7);
-    EXPECT_EQ(stored(is.column + u" From "_s + is.table), is.typed);
+  }
+};
+
+TEST_F(EachRegister, AFigureThatWasLeftAloneFollowsThePostingsElsewhere) {
+  eachPosted([](const Register& is, RegisterFields& boxes, int) { boxes[is.column] = is.typed; }, 0);
+  for (const Register& is : registers()) {
+    if (!is.figure.isEmpty()) {
+      EXPECT_EQ(stored(is.column + u" From "_s + is.table), is.typed);
+    }
   }
 }
 
-TEST_F(RegistersOnTwoPcs, ACorrectedFigureIsMovedByTheDifferenceAndTold) {
-  for (const Register& is : registers()) {
-    if (is.figure.isEmpty()) continue;
-    SCOPED_TRACE(is.table.toStdString());
-    const auto rules = is.make(here.session);
-    rules->load();
-    RegisterFields boxes = boxesOf(rules->select(1));
-    const int before = stored(is.figure + u" From "_s + is.table).toInt();
-    there->run(u"Update "_s + is.table + u" Set "_s + is.figure + u" = "_s + is.figure + u" - 7"_s);
-    boxes[is.figure] = QString::number(before + 2);
-    if (!is.question.isEmpty()) here.prompts.expect(is.question);
-    here.prompts.expect(u"고친 차이 +2만 더하여"_s);
-    EXPECT_TRUE(rules->save(boxes).done);
-    EXPECT_EQ(stored(is.figure + u" From "_s + is.table).toInt(), before - 5);
-  }
+TEST_F(EachRegister, ACorrectedFigureIsMovedByTheDifferenceAndTold) {
+  eachPosted(
+      [this](const Register& is, RegisterFields& boxes, int figure) {
+        boxes[is.figure] = QString::number(figure + 2);
+        here.prompts.expect(u"고친 차이 +2만 더하여"_s);
+      },
+      2);
   // 10 empty, 25 full after all, 5 lent.
   EXPECT_EQ(stored(u"CANTotalHold From LPG"_s), u"40"_s);
   EXPECT_EQ(stored(u"LPGStock From LPG"_s), u"600"_s);
 }
 
-TEST_F(RegistersOnTwoPcs, WhatAnotherPcWroteIsKeptOrAskedAbout) {
-  for (const Register& is : registers()) {
-    SCOPED_TRACE(is.table.toStdString());
-    const auto rules = is.make(here.session);
-    rules->load();
-    const RegisterFields shown = boxesOf(rules->select(1));
+TEST_F(EachRegister, WhatAnotherPcWroteIsKeptOrAskedAbout) {
+  each([this](const Register& is, RegisterRules& rules, RegisterFields& boxes) {
     const QString clause =
         u" From "_s + is.table + (is.table == u"Volume" ? u" Where Code = 1"_s : QString());
     const QString update =
@@ -143,28 +154,28 @@ TEST_F(RegistersOnTwoPcs, WhatAnotherPcWroteIsKeptOrAskedAbout) {
     there->run(is.table == u"Volume" ? update + u" Where Code = 1"_s : update);
 
     // Left alone here: what the other wrote stays.
-    if (!is.question.isEmpty()) here.prompts.expect(is.question);
+    asks(is);
     here.prompts.expect(u"바뀐 대로 두고 저장했습니다"_s);
-    EXPECT_TRUE(rules->save(shown).done);
+    EXPECT_TRUE(rules.save(boxes).done);
     EXPECT_EQ(stored(is.column + clause), is.elsewhere);
 
     // Changed here too: asked, and no is no.
-    RegisterFields boxes = boxesOf(rules->select(1));
+    boxes = boxesOf(rules.select(1));
     boxes[is.column] = is.typed;
     const QString third = is.table == u"LPG" ? u"41000"_s : u"third"_s;
     there->run(QString(update).replace(is.elsewhere, third) +
                (is.table == u"Volume" ? u" Where Code = 1"_s : QString()));
-    if (!is.question.isEmpty()) here.prompts.expect(is.question);
+    asks(is);
     here.prompts.expect(u"같은 칸을 먼저 바꾸었습니다"_s, false);
-    const auto refused = rules->save(boxes);
+    const auto refused = rules.save(boxes);
     EXPECT_FALSE(refused.done);
     EXPECT_EQ(refused.focus, is.column);
     EXPECT_EQ(stored(is.column + clause), third);
-    if (!is.question.isEmpty()) here.prompts.expect(is.question);
+    asks(is);
     here.prompts.expect(u"같은 칸을 먼저 바꾸었습니다"_s);
-    EXPECT_TRUE(rules->save(boxes).done);
+    EXPECT_TRUE(rules.save(boxes).done);
     EXPECT_EQ(stored(is.column + clause), is.typed);
-  }
+  });
 }
 
 TEST_F(RegistersOnTwoPcs, ADeletionLooksAgainAtARowThatMovedAndARowThatIsGoneIsTold) {
@@ -199,20 +210,16 @@ TEST_F(RegistersOnTwoPcs, ADeletionLooksAgainAtARowThatMovedAndARowThatIsGoneIsT
   }
 }
 
-TEST_F(RegistersOnTwoPcs, ASaveOfADeletedRowWritesNothingAndSaysSo) {
-  for (const Register& is : registers()) {
-    SCOPED_TRACE(is.table.toStdString());
-    const auto rules = is.make(here.session);
-    rules->load();
-    RegisterFields boxes = boxesOf(rules->select(1));
+TEST_F(EachRegister, ASaveOfADeletedRowWritesNothingAndSaysSo) {
+  each([this](const Register& is, RegisterRules& rules, RegisterFields& boxes) {
     there->run(u"Delete * From "_s + is.table);
     boxes[is.column] = is.typed;
-    if (!is.question.isEmpty()) here.prompts.expect(is.question);
+    asks(is);
     here.prompts.expect(u"입력한 내용은 칸에 남아 있습니다."_s);
-    EXPECT_EQ(rules->save(boxes).end, RowEnd::Gone);
-    EXPECT_EQ(rules->list().MaxRows(), 0);
+    EXPECT_EQ(rules.save(boxes).end, RowEnd::Gone);
+    EXPECT_EQ(rules.list().MaxRows(), 0);
     EXPECT_EQ(stored(u"Count(*) From "_s + is.table), u"0"_s);
-  }
+  });
 }
 
 TEST_F(RegistersOnTwoPcs, TheChosenRowStaysChosenWhenTheListGrowsBeforeIt) {
@@ -292,10 +299,17 @@ TEST_F(RegistersOnTwoPcs, WhatHappensWhileTheOperatorIsAskedCountsToo) {
 
 // --- customers ------------------------------------------------------------------------------------------------
 
-TEST_F(RegistersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
-  ClientRegister clients(here.session);
-  clients.loadPage(HouseStyle::Individual);
-  ClientEntry boxes = clients.selectRow(1);
+struct CustomersOnTwoPcs : RegistersOnTwoPcs {
+  ClientRegister clients{here.session};
+  ClientEntry boxes;
+
+  CustomersOnTwoPcs() {
+    clients.loadPage(HouseStyle::Individual);
+    boxes = clients.selectRow(1);
+  }
+};
+
+TEST_F(CustomersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
   there->run(u"Update Client Set GasInit = GasInit + 38000, LastDate = '2026-06-15', Address = '중앙로 9'"_s);
   boxes.memo = u"계단"_s;
   here.prompts.expect(u"위와 같이"_s);
@@ -320,10 +334,7 @@ TEST_F(RegistersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
   EXPECT_EQ(clients.save(boxes).focus, ClientBox::GasInit);
 }
 
-TEST_F(RegistersOnTwoPcs, ACustomerDeletedElsewhereBecomesANewEntryAndAMovedOneIsNotDeleted) {
-  ClientRegister clients(here.session);
-  clients.loadPage(HouseStyle::Individual);
-  ClientEntry boxes = clients.selectRow(1);
+TEST_F(CustomersOnTwoPcs, ACustomerDeletedElsewhereBecomesANewEntryAndAMovedOneIsNotDeleted) {
   there->run(u"Update Client Set GasInit = GasInit + 38000"_s);
   here.prompts.expect(u"선택된 고객자료를 삭제하시겠습니까?"_s);
   here.prompts.expect(u"바뀐 자료이므로 삭제하지 않았습니다!"_s);

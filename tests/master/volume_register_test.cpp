@@ -74,22 +74,25 @@ TEST_F(VolumeRegisterTest, PriceGoesToCustomersOnTheOldPriceOrToAllOfThem) {
   client(u"특별"_s, u"R8"_s, 1300);
   client(u"다른조정기"_s, u"R9"_s, 1500);
 
-  RegisterFields boxes = volume.select(8);
-  boxes[u"Unit"_s] = u"1,600"_s;
-  pc.prompts.expect(u"동일한 조정기를 사용 하지만, 단가가 다른 고객도 같이 변경할까요?"_s, false);
-  pc.prompts.expect(u"고객 1 명의 체적단가가 변경되었습니다!"_s);
-  ASSERT_TRUE(volume.save(boxes).done);
+  const auto changed = [this](const RegisterFields& typed, const QString& question, bool answer,
+                              const QString& told) {
+    RegisterFields boxes = volume.select(8);
+    boxes.insert(typed);
+    pc.prompts.expect(question, answer);
+    pc.prompts.expect(told);
+    return volume.save(boxes).done;
+  };
+  ASSERT_TRUE(changed({{u"Unit"_s, u"1,600"_s}},
+                      u"동일한 조정기를 사용 하지만, 단가가 다른 고객도 같이 변경할까요?"_s, false,
+                      u"고객 1 명의 체적단가가 변경되었습니다!"_s));
   EXPECT_EQ(unitOf(u"보통"_s), 1600);
   EXPECT_EQ(unitOf(u"특별"_s), 1300);
   EXPECT_EQ(unitOf(u"다른조정기"_s), 1500);
 
   // With a new size too, customers are found by the size they carry.
-  boxes = volume.select(8);
-  boxes[u"Size"_s] = u"R8B"_s;
-  boxes[u"Unit"_s] = u"1700"_s;
-  pc.prompts.expect(u"[아니오]선택시 동일한 단가를 사용하는 고객만 변경합니다."_s, true);
-  pc.prompts.expect(u"고객 2 명의 체적단가가 변경되었습니다!"_s);
-  ASSERT_TRUE(volume.save(boxes).done);
+  ASSERT_TRUE(changed({{u"Size"_s, u"R8B"_s}, {u"Unit"_s, u"1700"_s}},
+                      u"[아니오]선택시 동일한 단가를 사용하는 고객만 변경합니다."_s, true,
+                      u"고객 2 명의 체적단가가 변경되었습니다!"_s));
   EXPECT_EQ(unitOf(u"특별"_s), 1700);
   EXPECT_EQ(unitOf(u"다른조정기"_s), 1500);
 }

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/pc/layout_refusal.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -9,6 +11,7 @@ namespace {
 using Kind = pc::ReportBand::Kind;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using tests::refusalOf;
 
 TEST(ExactSumTest, WholeNumbersAndFractionsDoNotDrift) {
   pc::ExactSum won;
@@ -39,15 +42,6 @@ TEST(ExactSumTest, WhatItCannotHoldShowsAsSuch) {
   pc::ExactSum odd;
   odd.add(std::numeric_limits<double>::quiet_NaN());
   EXPECT_EQ(odd.text(), "###");
-}
-
-QString refusalOf(const QString& layout) {
-  try {
-    pc::parseReportLayout(layout);
-  } catch (const pc::ReportError& error) {
-    return error.text;
-  }
-  return {};
 }
 
 TEST(ReportLayoutTest, ReadsPaperBandsAndColumns) {

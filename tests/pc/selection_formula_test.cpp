@@ -4,6 +4,7 @@
 #include "store/report_source.h"
 #include "store/report_staging.h"
 #include "store/year_file.h"
+#include "tests/pc/layout_refusal.h"
 #include "tests/support.h"
 
 namespace {
@@ -82,14 +83,6 @@ struct LiveReport : testing::Test, tests::TestPc {
                          .selection = selection,
                          .liveFiles = files.isEmpty() ? QStringList{session.dbYear.path()} : files});
   }
-  QString refused(const QString& layout) {
-    try {
-      pc::parseReportLayout(layout);
-    } catch (const pc::ReportError& error) {
-      return error.text;
-    }
-    return {};
-  }
   const QString layout =
       "table Sale\njoin Client Sale.ClientCode Client.Code\norder Sale.SaleDate\nvalue 금액 Sale.Income "
       "Sale.Trust\nlabel Sale.SaleGubun 1 \"가스\"\ncolumn no \"번호\" 5\ncolumn Sale.SaleDate \"일자\" 10\n"
@@ -125,7 +118,7 @@ TEST_F(LiveReport, RowsComeFromTheTablesTheLayoutNames) {
 }
 
 TEST_F(LiveReport, ALayoutNamesWhatItReads) {
-  EXPECT_EQ(refused(layout), "");
+  EXPECT_EQ(tests::refusalOf(layout), "");
   const struct {
     const char *line, *why;
   } wrong[] = {{"join Client Sale.ClientCode Client.Code\n", "table이 앞에 없습니다"},
@@ -140,7 +133,8 @@ TEST_F(LiveReport, ALayoutNamesWhatItReads) {
                {"table Sale\nlabel Sale.SaleGubun 1 가스\n", "따옴표 안의 글이 빠졌습니다"},
                {"column Sale.SaleDate \"일자\" 10\n", "칸은 없습니다"}};
   for (const auto& each : wrong)
-    EXPECT_TRUE(refused(each.line).contains(each.why)) << each.line << refused(each.line).toStdString();
+    EXPECT_TRUE(tests::refusalOf(each.line).contains(each.why))
+        << each.line << tests::refusalOf(each.line).toStdString();
 }
 
 }  // namespace

@@ -69,9 +69,17 @@ void enterOwnMounts() {
 
 /** A small file system of its own; gone with the test. */
 struct SmallDisk {
+  static constexpr qint64 roomy = 64 << 20;
   QTemporaryDir folder;
   bool mounted = false;
 
+  /** Roomy, with books on it. */
+  bool begin() {
+    if (geteuid() != 0) enterOwnMounts();
+    if (!resize(roomy)) return false;
+    Pc(folder.path()).makeBooks();
+    return true;
+  }
   bool resize(qint64 bytes) {
     const QByteArray size = "size=" + QByteArray::number(bytes);
     mounted = ::mount("none", folder.path().toLocal8Bit().constData(), "tmpfs", mounted ? MS_REMOUNT : 0,
@@ -85,17 +93,15 @@ struct SmallDisk {
 
 TEST(Disk, AFullDiskIsToldAndWhatWasPostedBeforeStays) {
   SmallDisk disk;
-  if (geteuid() != 0) enterOwnMounts();
-  ASSERT_TRUE(disk.resize(64 << 20)) << "a small file system needs root or user name spaces";
+  ASSERT_TRUE(disk.begin()) << "a small file system needs root or user name spaces";
   const QString root = disk.folder.path();
-  Pc(root).makeBooks();
   ASSERT_TRUE(disk.resize(bytesBelow(root) + (40 << 10)));
   Child child({u"--pc"_s, u"post"_s, root, u"7"_s, QString::number(postings)});
   EXPECT_TRUE(child.finish(120000)) << "the program is alive at the end";
   const Told told = Told::of(child.lines());
   expectTold(told, {3026});
   EXPECT_GT(told.lines.size(), 5);
-  ASSERT_TRUE(disk.resize(64 << 20));
+  ASSERT_TRUE(disk.resize(SmallDisk::roomy));
   expectWhole(root, told);
   std::printf("full disk: %d lines posted, then %d statements refused\n", int(told.lines.size()),
               int(told.failures.size()));
@@ -118,10 +124,8 @@ void buildInVain(Pc& here, int block, int floors, int width) {
 
 TEST(Disk, ABuildingThatDoesNotFitLeavesNothingAndIsMadeWhenThereIsRoom) {
   SmallDisk disk;
-  if (geteuid() != 0) enterOwnMounts();
-  ASSERT_TRUE(disk.resize(64 << 20)) << "a small file system needs root or user name spaces";
+  ASSERT_TRUE(disk.begin()) << "a small file system needs root or user name spaces";
   const QString root = disk.folder.path();
-  Pc(root).makeBooks();
   Pc here(root);
   here.open();
   Builder(here).make(1, 2, 3);
@@ -132,7 +136,7 @@ TEST(Disk, ABuildingThatDoesNotFitLeavesNothingAndIsMadeWhenThereIsRoom) {
     buildInVain(here, block++, 20, 50);
     EXPECT_EQ(buildingRows(here.session), before) << kilobytes << " kB free";
     EXPECT_EQ(Builder(here).list(), (QMap<int, int>{{1, 6}})) << kilobytes << " kB free";
-    ASSERT_TRUE(disk.resize(64 << 20));
+    ASSERT_TRUE(disk.resize(SmallDisk::roomy));
     EXPECT_EQ(faultsOf(root).join(u'\n').toStdString(), "");
     ++refused;
   }

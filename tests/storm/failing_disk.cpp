@@ -100,31 +100,20 @@ __attribute__((visibility("default"))) long failing_disk_rest() {
   return state.count;
 }
 
-#define OPEN(name)                                                        \
-  int name(const char* path, int flags, ...) {                            \
+#define OPEN(name, parameters, arguments)                                 \
+  int name parameters {                                                   \
     NEXT(name);                                                           \
     va_list rest;                                                         \
     va_start(rest, flags);                                                \
     const mode_t mode = va_arg(rest, mode_t);                             \
     va_end(rest);                                                         \
     if (below(path) && meets(openKind(flags), __func__, path)) return -1; \
-    return opened(real(path, flags, mode), path);                         \
+    return opened(real arguments, path);                                  \
   }
-OPEN(open)
-OPEN(open64)
-
-#define OPENAT(name)                                                      \
-  int name(int folder, const char* path, int flags, ...) {                \
-    NEXT(name);                                                           \
-    va_list rest;                                                         \
-    va_start(rest, flags);                                                \
-    const mode_t mode = va_arg(rest, mode_t);                             \
-    va_end(rest);                                                         \
-    if (below(path) && meets(openKind(flags), __func__, path)) return -1; \
-    return opened(real(folder, path, flags, mode), path);                 \
-  }
-OPENAT(openat)
-OPENAT(openat64)
+OPEN(open, (const char* path, int flags, ...), (path, flags, mode))
+OPEN(open64, (const char* path, int flags, ...), (path, flags, mode))
+OPEN(openat, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
+OPEN(openat64, (int folder, const char* path, int flags, ...), (folder, path, flags, mode))
 
 int close(int file) {
   NEXT(close);

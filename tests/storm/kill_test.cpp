@@ -33,8 +33,20 @@ struct Kill : testing::Test {
     EXPECT_EQ(told.failureTexts.join(u'\n').toStdString(), "");
     caught += told.open.has_value();
     // Whoever opens the folder next finds it whole.
-    EXPECT_EQ(faultsOf(folder.path()).join(u'\n').toStdString(), "") << "round " << round;
+    EXPECT_EQ(faultsOf(folder.path()).join(u'\n').toStdString(), "");
     return told;
+  }
+  /** Over and over: what the child had told, and a PC that opens the books after it. */
+  template <class Check>
+  void killedOften(int rounds, const QString& work, const Check& check, const QStringList& more = {u"0"_s},
+                   int latest = 200) {
+    for (int round = 0; round < rounds && !HasFailure(); ++round) {
+      SCOPED_TRACE(round);
+      const Told told = killed(work, round, more, latest);
+      Pc here(folder.path());
+      here.open();
+      check(told, here);
+    }
   }
 };
 
@@ -42,18 +54,14 @@ TEST_F(Kill, EveryToldLineIsThereAndEveryGroupIsWhole) {
   const int rounds = measure(15, 500);
   Lines known;
   int lines = 0;
-  for (int round = 0; round < rounds && !HasFailure(); ++round) {
-    const Told told = killed(u"post"_s, round);
+  killedOften(rounds, u"post"_s, [&](const Told& told, Pc& here) {
     for (auto at = told.lines.begin(); at != told.lines.end(); ++at) known[at.key()] = *at;
     for (const qint64 key : told.gone) known.remove(key);
     lines += int(told.lines.size() + told.gone.size());
-    Pc here(folder.path());
-    here.open();
     const Lines stored = storedLines(here.session);
-    EXPECT_EQ(differences(stored, known, told.gone, told.open).join(u'\n').toStdString(), "")
-        << "round " << round;
+    EXPECT_EQ(differences(stored, known, told.gone, told.open).join(u'\n').toStdString(), "");
     known = stored;
-  }
+  });
   std::printf("sales: killed %d times, %d of them within a posting; %d lines told, %d in the book\n", rounds,
               caught, lines, int(known.size()));
   EXPECT_GT(caught, 0);
@@ -64,19 +72,16 @@ TEST_F(Kill, EveryToldReadingIsThereWithItsCarry) {
   const int rounds = measure(8, 300);
   Readings known;
   int told = 0;
-  for (int round = 0; round < rounds && !HasFailure(); ++round) {
-    const Told one = killed(u"read"_s, round);
+  killedOften(rounds, u"read"_s, [&](const Told& one, Pc& here) {
     told += int(one.readings.size());
     known.insert(one.readings);
-    Pc here(folder.path());
-    here.open();
     const Readings stored = storedReadings(here.session);
     for (auto at = known.begin(); at != known.end(); ++at) {
       if (one.open == at.key()) continue;
-      EXPECT_EQ(stored[at.key()], *at) << "customer " << at.key() << " in round " << round;
+      EXPECT_EQ(stored[at.key()], *at) << "customer " << at.key();
     }
     known = stored;
-  }
+  });
   std::printf("readings: killed %d times, %d of them within a saving; at the last kills %d customers told\n",
               rounds, caught, told);
   EXPECT_GT(caught, 0);
@@ -86,23 +91,18 @@ TEST_F(Kill, EveryToldReadingIsThereWithItsCarry) {
 TEST_F(Kill, ABuildingIsThereWithAllItsHouseholdsOrNotAtAll) {
   const int rounds = measure(8, 300), floors = 10, width = 6, units = floors * width;
   int stood = 0;
-  for (int round = 0; round < rounds && !HasFailure(); ++round) {
-    const Told told = killed(u"build"_s, round, {QString::number(floors), QString::number(width)});
-    Pc here(folder.path());
-    here.open();
+  const auto check = [&](const Told& told, Pc& here) {
     Builder builder(here);
     const QList<int> stored = builder.list().keys();
-    for (const int block : told.blocks)
-      EXPECT_TRUE(stored.contains(block) || told.open == block) << "round " << round;
-    for (const int block : stored)
-      EXPECT_TRUE(told.blocks.contains(block) || told.open == block) << "round " << round;
+    for (const int block : told.blocks) EXPECT_TRUE(stored.contains(block) || told.open == block);
+    for (const int block : stored) EXPECT_TRUE(told.blocks.contains(block) || told.open == block);
     const int blocks = int(stored.size());
-    EXPECT_EQ(buildingRows(here.session), (BuildingRows{blocks, blocks * units, blocks * units * 13}))
-        << "round " << round;
+    EXPECT_EQ(buildingRows(here.session), (BuildingRows{blocks, blocks * units, blocks * units * 13}));
     for (const int block : stored) EXPECT_TRUE(builder.remove(block));
     EXPECT_EQ(buildingRows(here.session), BuildingRows());
     stood += blocks;
-  }
+  };
+  killedOften(rounds, u"build"_s, check, {QString::number(floors), QString::number(width)});
   std::printf("buildings: killed %d times, %d of them while one was made or deleted; %d stood, all whole\n",
               rounds, caught, stood);
   EXPECT_GT(caught, 0);
@@ -111,10 +111,7 @@ TEST_F(Kill, ABuildingIsThereWithAllItsHouseholdsOrNotAtAll) {
 TEST_F(Kill, APartOfAVeryBigBuildingShowsInTheListAndCanBeDeleted) {
   const int rounds = measure(3, 60), floors = 50, width = 50, units = floors * width;
   int parts = 0;
-  for (int round = 0; round < rounds && !HasFailure(); ++round) {
-    killed(u"build"_s, round, {QString::number(floors), QString::number(width), u"stay"_s}, 500);
-    Pc here(folder.path());
-    here.open();
+  const auto check = [&](const Told&, Pc& here) {
     Builder builder(here);
     const QMap<int, int> shown = builder.list();
     int households = 0;
@@ -122,14 +119,14 @@ TEST_F(Kill, APartOfAVeryBigBuildingShowsInTheListAndCanBeDeleted) {
       households += count;
       parts += count < units;
     }
-    EXPECT_EQ(buildingRows(here.session), (BuildingRows{int(shown.size()), households, households * 13}))
-        << "round " << round;
+    EXPECT_EQ(buildingRows(here.session), (BuildingRows{int(shown.size()), households, households * 13}));
     for (const int block : shown.keys()) {
       EXPECT_TRUE(builder.remove(block));
       EXPECT_FALSE(builder.list().contains(block));
     }
     EXPECT_EQ(buildingRows(here.session), BuildingRows()) << "nothing is left of it";
-  }
+  };
+  killedOften(rounds, u"build"_s, check, {QString::number(floors), QString::number(width), u"stay"_s}, 500);
   Pc here(folder.path());
   here.open();
   Builder builder(here);

@@ -157,7 +157,7 @@ TEST_F(ManyPcs, TheGreatestWholeBuildingLetsTheOthersIn) {
 TEST_F(ManyPcs, AHeldLockIsToldAndTheWorkGoesOnAfterwards) {
   Pc here(folder.path());
   here.open();
-  Child holder({u"--pc"_s, u"hold"_s, folder.path(), u"5500"_s});
+  Child holder({u"--pc"_s, u"hold"_s, folder.path()});
   ASSERT_TRUE(holder.waitFor(QLatin1String(word::ready), 30000));
   QElapsedTimer since;
   since.start();
@@ -170,11 +170,10 @@ TEST_F(ManyPcs, AHeldLockIsToldAndTheWorkGoesOnAfterwards) {
         << error.description().toStdString();
   }
   EXPECT_GT(since.elapsed(), 3000);
-  EXPECT_LT(since.elapsed(), 6000);
   EXPECT_EQ(here.session.dbYear.OpenRecordset(u"Select GasInit From Client Where Code = 2"_s)[0].toLong(),
             startBalance)
       << "reading goes on meanwhile";
-  ASSERT_TRUE(holder.finish(30000));
+  stop(holder);
   EXPECT_EQ(here.session.dbYear.Execute(u"Update Client Set GasInit = GasInit + 1 Where Code = 2"_s), 1);
   EXPECT_EQ(here.session.dbYear.OpenRecordset(u"Select Memo From Client Where Code = 1"_s)[0].toText(),
             u"held"_s);

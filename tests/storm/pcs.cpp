@@ -32,7 +32,7 @@ void tellDone(int steps) {
   report(u"%1 %2 0"_s.arg(QLatin1String(word::done)).arg(steps));
 }
 
-/** ROOT MILLISECONDS: one group that writes to both files and is held open so long. */
+/** ROOT: one group that writes to both files and is held open until there is a file "stop". */
 int holdLock(const QStringList& arguments) {
   Pc here(arguments.at(0));
   here.open();
@@ -40,7 +40,7 @@ int holdLock(const QStringList& arguments) {
     here.session.dbYear.Execute(u"Update Client Set Memo = 'held' Where Code = 1"_s);
     here.session.dbYear.Execute(u"Update Sale Set Response = '' Where SaleID = 0"_s);
     report(QLatin1String(word::ready));
-    QThread::msleep(arguments.at(1).toULong());
+    while (!toldToStop(arguments.at(0))) QThread::msleep(5);
   });
   return 0;
 }

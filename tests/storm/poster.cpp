@@ -117,7 +117,7 @@ class Poster {
   Pc& here_;
   QRandomGenerator random_;
   ChosenPickers pickers_;
-  NobodyCalls calls_;
+  tests::IdleCalls calls_;
   SaleBook posting_{here_.session};
   SaleEntry entry_{posting_, pickers_, calls_};
   bool failed_ = false;

@@ -3,8 +3,7 @@
 // standard output, so that the one who watches knows what must be in the books when it dies.
 #include <QStringList>
 
-#include "master/customers/calls.h"
-#include "master/registers/pickers.h"
+#include "tests/idle_context.h"
 
 namespace storm {
 
@@ -30,26 +29,9 @@ inline const char* const told = "told";
 inline const char* const done = "done";
 }  // namespace word
 
-/** Hands out what has been chosen. */
-struct ChosenPickers : Pickers {
-  ClientChoice client;
-  ItemChoice item;
-
-  std::optional<ClientChoice> searchClient(const QString&, ClientSearchMode, bool) override { return client; }
-  std::optional<ItemChoice> searchSize(const QString&, TradeSide) override { return item; }
-  std::optional<VolumeChoice> searchVolume() override { return {}; }
-  std::optional<QString> searchResponse() override { return "홍길동"; }
-  std::optional<QString> searchRefill() override { return {}; }
-  std::optional<BankChoice> searchBank() override { return {}; }
-  std::optional<PostCodeChoice> searchPostCode(const QString&) override { return {}; }
-  std::optional<BuildingChoice> searchBuilding(HouseStyle) override { return {}; }
-  std::optional<QString> pickDate(const QString&) override { return {}; }
-  bool checkPassword() override { return true; }
-};
-
-struct NobodyCalls : WaitingCalls {
-  QString OldestStanbyNumber() const override { return {}; }
-  QString TakeStanbyNumber() override { return {}; }
+/** 홍길동 delivers everything. */
+struct ChosenPickers : tests::IdlePickers {
+  ChosenPickers() { person = "홍길동"; }
 };
 
 struct Pc;

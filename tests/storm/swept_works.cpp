@@ -40,7 +40,7 @@ struct Posting : Work {
     if (const int chosen = entry.enterKey(last, LineCol::Partner, u"손님"_s).row) row = chosen;
   }
   ChosenPickers pickers;
-  NobodyCalls calls;
+  tests::IdleCalls calls;
   SaleBook posting;
   SaleEntry entry{posting, pickers, calls};
   int row = 0;
@@ -108,23 +108,25 @@ struct Closing : Work {
   Pc& here;
 };
 
+void bill(ClientEntry& boxes) {
+  boxes.volume = true;
+  boxes.pressure = u"10"_s;
+  boxes.volumeUnit = u"2000"_s;
+}
+
 struct Registering : Work {
   explicit Registering(Pc& here) : clients(here.session) {
     clients.loadPage(HouseStyle::Individual);
     steps_ = {[this] {
                 ClientEntry boxes = clients.beginNew();
                 boxes.name = u"국밥집"_s;
-                boxes.volume = true;
-                boxes.pressure = u"10"_s;
-                boxes.volumeUnit = u"2000"_s;
+                bill(boxes);
                 clients.save(boxes);
               },
               [this] {
                 ClientEntry boxes = clients.select(3);
                 boxes.memo = u"단골"_s;
-                boxes.volume = true;
-                boxes.pressure = u"10"_s;
-                boxes.volumeUnit = u"2000"_s;
+                bill(boxes);
                 clients.save(boxes);
               },
               [this] {

@@ -84,9 +84,7 @@ TEST(Forecast, LastYearsFileIsReadAndItsDatesSetOff) {
   Estimate of;
   makeYearFile(of.pc.session, "2025");
   for (const char* const day : {"2024-12-31", "2025-12-01", "2025-12-21"})
-    openYear(of.pc.session, "2025")
-        .Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('%1', 1, 1, False)")
-                     .arg(day));
+    of.sold(QString("'%1', 1, 1, False").arg(day), openYear(of.pc.session, "2025"));
   of.delivered(1, {"01-10"});
   ASSERT_TRUE(of.extract());
   EXPECT_EQ(of.shown(1), "산골식당|053-123-4567|12-01|12-21|01-10||||||01-10|01-30|20||1")

@@ -4,25 +4,16 @@
 #include <QLabel>
 #include <QTest>
 
-#include "app/form_pickers.h"
 #include "tests/trade/buy_desk.h"
-#include "tests/ui/grab.h"
+#include "tests/trade/key_screen.h"
 #include "ui/forms/boxes.h"
 
 namespace {
 
-struct BuyScreen : tests::BuyDesk {
-  tests::IdleCommands commands;
-  FormPickers search{pc.session};
-  FormContext context{pc.session, search, commands, calls};
-  std::optional<frmBuy> form;
-
+struct BuyScreen : tests::KeyScreen<tests::BuyDesk, frmBuy> {
   BuyScreen() {
-    search.setContext(context);
-    pc.session.dbBasic.Execute(QStringLiteral("Insert Into Response(Name) Values('홍길동')"));
     run("Update LPG Set LPGPurchase = 21000");
-    form.emplace(context);
-    tests::show(*form);
+    open();
     grid()->setFocus();
   }
   Spread* grid() { return form->findChild<Spread*>("SpBuy"); }
@@ -30,8 +21,15 @@ struct BuyScreen : tests::BuyDesk {
   QString place() {
     return QString::number(grid()->activeRow()) + ':' + QString::number(grid()->activeCol());
   }
-  void enter(int times = 1) {
-    while (times-- > 0) tests::key(Qt::Key_Return);
+  /** Types, enters and is where the hand goes next; a cell of a stored line asks before. */
+  void step(const QString& typed, const char* then) {
+    tests::type(typed);
+    tests::key(Qt::Key_Return);
+    EXPECT_EQ(place(), then);
+  }
+  void change(const QString& typed, const char* then) {
+    pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+    step(typed, then);
   }
 };
 
@@ -39,26 +37,14 @@ TEST(FrmBuy, APurchaseByKeys) {
   BuyScreen screen;
   EXPECT_EQ(screen.place(), "1:2");
   EXPECT_EQ(screen.form->windowTitle(), "구매등록");
-  tests::type("111-2222");  // the station's telephone
-  screen.enter();
-  EXPECT_EQ(screen.place(), "1:3");
+  screen.step("111-2222", "1:3");  // the station's telephone
   EXPECT_EQ(screen.label("LblAddr"), "(100-200) 강변로 7");
   EXPECT_EQ(screen.label("LblGasTrust"), "200,000");
-  screen.enter();  // the kind that stands there
-  EXPECT_EQ(screen.place(), "1:4");
-  tests::type("20");  // the size
-  screen.enter();
-  EXPECT_EQ(screen.place(), "1:5");
-  screen.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
-  tests::type("10");
-  screen.enter();
-  EXPECT_EQ(screen.place(), "1:8");
-  screen.enter();
-  EXPECT_EQ(screen.place(), "1:9");
-  screen.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
-  tests::type("110000");
-  screen.enter();
-  EXPECT_EQ(screen.place(), "1:11");
+  screen.step("", "1:4");    // the kind that stands there
+  screen.step("20", "1:5");  // the size
+  screen.change("10", "1:8");
+  screen.step("", "1:9");
+  screen.change("110000", "1:11");
   EXPECT_EQ(screen.label("LblGasTrust"), "300,000") << "100,000 more on credit";
   EXPECT_EQ(screen.stock(), "1200|100|10|30|60");
   EXPECT_EQ(screen.line(), "한강|1|LPG|20|10|21000|0|110000|100000|");
@@ -76,8 +62,7 @@ TEST(FrmBuy, EscShowsAllAndF10TheLedger) {
   screen.run(
       "Insert Into Buy(BuyDate, BuyCompany, PurchaseGubun, BuyName, BuyThing) "
       "Values('2026-01-02', '낙동', 1, 'LPG', '20')");
-  tests::type("111-2222");
-  screen.enter();
+  screen.step("111-2222", "1:3");
   EXPECT_EQ(screen.grid()->model().MaxRows(), 1);
   tests::key(Qt::Key_Escape);
   EXPECT_EQ(screen.place(), "2:2");
@@ -94,18 +79,16 @@ TEST(FrmBuy, ATypedDayIsTheNextLines) {
   BuyScreen screen;
   screen.form->findChild<DateBox*>("txtDate")->setFocus();
   tests::type("0301");
-  screen.enter();
+  tests::key(Qt::Key_Return);
   QApplication::processEvents();  // the day is taken once the focus has gone
-  tests::type("111-2222");
-  screen.enter();
+  screen.step("111-2222", "1:3");
   EXPECT_EQ(screen.grid()->model().text(1, LineCol::Date), "03-01");
 }
 
 TEST(FrmBuy, TheMenusPageDecidesTheKindOfNewLines) {
   BuyScreen screen;
   screen.form->showPage("material");
-  tests::type("111-2222");
-  screen.enter();
+  screen.step("111-2222", "1:3");
   EXPECT_EQ(screen.grid()->model().text(1, LineCol::Kind), "자재");
 }
 

@@ -171,9 +171,7 @@ TEST(FrmSale, AnOpenCellThatIsRefusedKeepsItsSheet) {
 
 TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
   SaleScreen sale;
-  sale.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing) "
-      "Values('2026-03-02', 1, 1, False, 'LPG', '20')");
+  sale.sold("'2026-03-02', 1, 1, False, 'LPG', '20'");
   auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
   EXPECT_EQ(date->text(), "03-05");
   const auto setDay = [&](const char* typed) {
@@ -199,9 +197,7 @@ TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
 
 TEST(FrmSale, ACustomerOfAnotherSheetLeavesNoCellOpenOnTheOldOne) {
   SaleScreen sale;
-  sale.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum) "
-      "Values('2026-03-05', 3, 1, True, 'LPG', '20', 1)");
+  sale.sold("'2026-03-05', 3, 1, True, 'LPG', '20', 1");
   Spread* const old = sale.grid();
   sale.customer("bd", SaleScreen::Metered, "별빛 3동");
   EXPECT_EQ(sale.tabs()->currentIndex(), 1);
@@ -372,9 +368,7 @@ TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
   sale.press(Qt::Key_F10);
   EXPECT_FALSE(sale.pc.session.SaleLedgerGas);
   EXPECT_EQ(sale.commands.asked, QStringList({"frmTodaySale:2026-03-05", "frmPrtSale"}));
-  sale.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, Trust) "
-      "Values('2026-03-05', 1, 1, False, 2, 5000, 700)");
+  sale.sold("'2026-03-05', 1, 1, False, 'LPG', '20', 2, 0, 0, 5000, 700");
   frmTodaySale today(sale.context);
   EXPECT_EQ(today.findChild<QLabel*>("LblTitle")->text(), "03/05일의 판매현황");
   EXPECT_EQ(today.findChild<Spread*>("SpToday")->model().text(1, 5), "700");
@@ -383,16 +377,11 @@ TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
 TEST(FrmSale, FortyLinesAreOnScreen) {
   SaleScreen sale;
   for (int line = 0; line < 40; ++line)
-    sale.run(
-        QString(
-            "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, "
-            "SaleUnit, DC, "
-            "Income, Trust, Response) Values('2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, "
-            "'홍길동')")
-            .arg(QString::number(1 + line % 2), QString::number(1 + line % 6),
-                 line % 6 == 3 ? "가스수금" : "LPG", line % 6 == 3 ? "0" : "20",
-                 QString::number(1 + line % 3), QString::number(line % 5 * 500),
-                 QString::number(43000 * (line % 3)), QString::number(line % 4 * 21500)));
+    sale.sold(QString("'2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, '홍길동'")
+                  .arg(QString::number(1 + line % 2), QString::number(1 + line % 6),
+                       line % 6 == 3 ? "가스수금" : "LPG", line % 6 == 3 ? "0" : "20",
+                       QString::number(1 + line % 3), QString::number(line % 5 * 500),
+                       QString::number(43000 * (line % 3)), QString::number(line % 4 * 21500)));
   sale.press(Qt::Key_Escape);
   EXPECT_EQ(sale.at(), "41,2");
   EXPECT_GE(sale.grid()->rowsOnPage(), 20);

@@ -4,31 +4,20 @@
 #include <QTabWidget>
 #include <QTest>
 
-#include "app/form_pickers.h"
 #include "store/year_file.h"
-#include "tests/trade/sale_desk.h"
-#include "tests/ui/grab.h"
+#include "tests/trade/key_screen.h"
 #include "trade/frmSale.h"
 
 namespace {
 
 /** A customer who got LPG / 20 from 홍길동 at 27,000 won two weeks ago, and a size of 50 beside it. */
-struct RepeatDesk : tests::SaleDesk {
-  tests::IdleCommands commands;
-  FormPickers search{pc.session};
-  FormContext context{pc.session, search, commands, calls};
-  std::optional<frmSale> form;
+struct RepeatDesk : tests::KeyScreen<tests::SaleDesk, frmSale> {
   int keys = 0;
 
   RepeatDesk() {
-    search.setContext(context);
-    pc.session.dbBasic.Execute(QStringLiteral("Insert Into Response(Name) Values('홍길동')"));
     run("Update LPG Set LPGSelling = 28000");
-    run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, "
-        "Income, DC, "
-        "Trust, Response) Values('2026-02-19', 1, 1, False, 'LPG', '20', 1, 27000, 27000, 0, 0, '홍길동')");
-    form.emplace(context);
-    tests::show(*form);
+    sold("'2026-02-19', 1, 1, False, 'LPG', '20', 1, 27000, 0, 27000, 0, '홍길동'");
+    open();
     grid()->setFocus();
   }
   Spread* grid() { return static_cast<Spread*>(form->findChild<QTabWidget*>("TabSale")->currentWidget()); }
@@ -133,9 +122,7 @@ TEST(FrmSaleKeys, OfferedIsOnlyWhatStillStandsInTheRegisters) {
 
 TEST(FrmSaleKeys, EveryKindIsOfferedItsOwnLastLine) {
   RepeatDesk desk;
-  desk.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit) "
-      "Values('2026-02-10', 1, 5, False, 'LPG', '50', 1, 0)");
+  desk.sold("'2026-02-10', 1, 5, False, 'LPG', '50', 1, 0");
   desk.type("4567");
   desk.enter(1);
   desk.press(Qt::Key_Down);
@@ -173,13 +160,11 @@ TEST(FrmSaleKeys, InJanuaryTheYearBeforeIsAskedToo) {
 TEST(FrmSaleKeys, TheLastFiveLinesAndTheBalanceStandBeside) {
   RepeatDesk desk;
   for (int day = 1; day <= 4; ++day)
-    desk.run(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, "
-                     "SaleUnit, Income, DC, Trust) "
-                     "Values('2026-03-0%1', 1, %2, False, '%3', '20', %1, 27000, %4, 0, %5)")
-                 .arg(QString::number(day), day == 2 ? "4" : "1", day == 2 ? "가스수금" : "LPG",
-                      QString::number(day * 10000), QString::number(day * 1000)));
-  desk.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('2026-03-05', 2, 1, False)");
-  desk.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('2026-02-18', 1, 1, False)");
+    desk.sold(QString("'2026-03-0%1', 1, %2, False, '%3', '20', %1, 27000, 0, %4, %5")
+                  .arg(QString::number(day), day == 2 ? "4" : "1", day == 2 ? "가스수금" : "LPG",
+                       QString::number(day * 10000), QString::number(day * 1000)));
+  desk.sold("'2026-03-05', 2, 1, False");
+  desk.sold("'2026-02-18', 1, 1, False");
   desk.type("4567");
   desk.enter(1);
   QStringList shown;

@@ -24,8 +24,7 @@ struct EstimateScreen : tests::SaleDesk {
   EstimateScreen() {
     pc.session.reports = &reports;
     for (const char* const day : {"2026-02-01", "2026-02-17", "2026-02-09"})
-      run(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('%1', 1, 1, False)")
-              .arg(day));
+      sold(QString("'%1', 1, 1, False").arg(day));
     form.emplace(context);
     tests::show(*form);
   }

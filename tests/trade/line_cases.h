@@ -36,6 +36,19 @@ inline std::vector<LineCase> lineCases(const QString& name) {
   return cases;
 }
 
+/** Plays each case of a table of so many columns, at least so many of them, on one desk. */
+template <class Desk, class Play>
+void eachCase(const QString& table, size_t least, qsizetype columns, const Play& play) {
+  const std::vector<LineCase> cases = lineCases(table);
+  ASSERT_GE(cases.size(), least);
+  Desk desk;
+  for (const LineCase& of : cases) {
+    SCOPED_TRACE(of.name());
+    ASSERT_EQ(of.parts.size(), columns);
+    play(desk, of);
+  }
+}
+
 /** One case's hand on the bottom row. */
 class CaseHand {
  public:

@@ -8,42 +8,24 @@ using tests::asks;
 using tests::days;
 
 struct SaleBriefs : testing::Test, tests::BriefDesk {
+  static Line fitting(const char* day, int client, qint64 pieces, qint64 income, qint64 trust = 0,
+                      const char* item = "밸브", const char* size = "15A") {
+    return {day, client, 7, pieces, income, trust, 0, item, size};
+  }
+  /** Money alone; trust: what is open then. */
+  static Line money(const char* day, int client, int kind, qint64 income, qint64 trust, const char* item,
+                    const char* person = "한기사") {
+    return {day, client, kind, 0, income, trust, 0, item, "0", person};
+  }
   /** Gas of two months, a collection, cylinders, materials, a line of another year's file. */
   SaleBriefs() {
     sale({.day = "2026-01-05", .pieces = 2, .income = 60000, .trust = 20000, .discount = 500, .unit = 40000});
-    sale({.day = "2026-01-20",
-          .kind = 3,
-          .pieces = 1,
-          .income = 0,
-          .trust = 90000,
-          .size = "50",
-          .unit = 90000});
+    sale({.day = "2026-01-20", .kind = 3, .trust = 90000, .size = "50", .unit = 90000});
     sale({.day = "2026-03-02", .client = 2, .pieces = 1, .income = 40000, .person = "두기사"});
     sale({.day = "2026-03-02", .client = 3, .pieces = 3, .size = "0.5", .person = "두기사"});
-    sale({.day = "2026-03-09",
-          .kind = 4,
-          .pieces = 0,
-          .income = 50000,
-          .trust = 60000,
-          .item = "가스수금",
-          .size = "0"});
-    sale({.day = "2026-03-10",
-          .client = 2,
-          .kind = 7,
-          .pieces = 2,
-          .income = 5000,
-          .trust = 3000,
-          .item = "밸브",
-          .size = "15A"});
-    sale({.day = "2026-03-11",
-          .client = 2,
-          .kind = 8,
-          .pieces = 0,
-          .income = 1000,
-          .trust = 2000,
-          .item = "자재수금",
-          .size = "0",
-          .person = "두기사"});
+    sale(money("2026-03-09", 1, 4, 50000, 60000, "가스수금"));
+    sale(fitting("2026-03-10", 2, 2, 5000, 3000));
+    sale(money("2026-03-11", 2, 8, 1000, 2000, "자재수금", "두기사"));
     sale({.day = "2026-03-31", .kind = 2, .pieces = 1, .income = 30000, .item = "용기"});
   }
   QStringList load(BriefRun& brief, const BriefAsk& ask) {
@@ -94,9 +76,8 @@ TEST_F(SaleBriefs, GasByDay) {
   BriefAsk ask = asks(1, {{"CboYear", {.text = "2026"}}, {"CboMonth", {.text = "03"}}});
   EXPECT_EQ(load(brief, ask),
             QStringList({"03-02|4|40000|0|40000|0", "03-31|1|30000|0|30000|0", "[합 계]|5|70000|0|70000|0"}));
-  brief.print(1);
-  EXPECT_EQ(staged("Str01, Lng01, Lng02, Lng03, Lng04, Lng05").first(), "03-02|4|40000|0|40000|0");
-  EXPECT_EQ(reports.asked.back().file, "일별판매현황.rpt");
+  EXPECT_EQ(printed(brief, 1, "Str01, Lng01, Lng02, Lng03, Lng04, Lng05"),
+            "일별판매현황.rpt 03-02|4|40000|0|40000|0");
   EXPECT_EQ(reports.asked.back().formulas, QStringList({"조회월= '03'", "판매구분= '월 전체)'"}));
   EXPECT_EQ(brief.page(1).behind(ask, brief.cells(1, 1)),
             "frmSaleBrief:lines?TxtDayFrom=2026-03-02&TxtDayTo=2026-03-02");
@@ -116,10 +97,8 @@ TEST_F(SaleBriefs, GasByCustomer) {
             QStringList({"김하나|053-1|일반/식당|4|200000|500|90000|110000", "박셋|053-3|일반/식당|3|0|0|0|0",
                          "한빛 101동 202호|053-2|아 파 트|1|40000|0|40000|0",
                          "[합 계]|||8|240000|500|130000|110000"}));
-  brief.print(2);
-  EXPECT_EQ(staged("Str01, Str02, Str03, Lng01, Lng02, Lng03, Lng04, Lng05").first(),
-            "김하나|053-1|일반/식당|4|200000|500|90000|110000");
-  EXPECT_EQ(reports.asked.back().file, "고객별판매현황.rpt");
+  EXPECT_EQ(printed(brief, 2, "Str01, Str02, Str03, Lng01, Lng02, Lng03, Lng04, Lng05"),
+            "고객별판매현황.rpt 김하나|053-1|일반/식당|4|200000|500|90000|110000");
   EXPECT_EQ(reports.asked.back().formulas, QStringList({"조회기간= '1월 1일 - 3월 31일'"}));
   ask.answers["TxtName"].text = "셋";
   EXPECT_EQ(load(brief, ask).size(), 2);
@@ -210,10 +189,8 @@ TEST_F(SaleBriefs, GasByPerson) {
                          "2026-03-09|한기사|김하나|가스수금|0|0|0|0|50000|0",
                          "[합 계]||||4|40000|0|40000|50000|0"}))
       << "cylinders sold alone and materials are not gas";
-  brief.print(0);
-  EXPECT_EQ(staged("Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04, Lng05").last(),
-            "2026-03-09|한기사|김하나|가스수금|0|0|0|50000|0");
-  EXPECT_EQ(reports.asked.back().file, "가스내역.rpt");
+  EXPECT_EQ(printed(brief, 0, "Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04, Lng05", -1),
+            "가스내역.rpt 2026-03-09|한기사|김하나|가스수금|0|0|0|50000|0");
 
   BriefAsk one = asks(1, march);
   EXPECT_EQ(load(brief, one).first(), "두기사|2026-03-02|한빛 101동 202호|LPG / 20|1|40000|0|40000|0|0");
@@ -227,9 +204,8 @@ TEST_F(SaleBriefs, GasByPerson) {
   EXPECT_EQ(load(brief, all),
             QStringList({"두기사|4|40000|0|40000|0|0", "한기사|3|170000|500|60000|50000|110000",
                          "[합 계]|7|210000|500|100000|50000|110000"}));
-  brief.print(2);
-  EXPECT_EQ(staged("Str01, Lng01, Lng02, Lng03, Lng04, Lng05").last(), "한기사|3|170000|60000|50000|110000");
-  EXPECT_EQ(reports.asked.back().file, "담당집계.rpt");
+  EXPECT_EQ(printed(brief, 2, "Str01, Lng01, Lng02, Lng03, Lng04, Lng05", -1),
+            "담당집계.rpt 한기사|3|170000|60000|50000|110000");
   EXPECT_EQ(
       brief.page(2).behind(all, {"한기사"}),
       briefAddress("frmResSaleBrief", "person",
@@ -248,28 +224,14 @@ TEST_F(SaleBriefs, MaterialsByPersonAndByCustomer) {
     person.print(page);
     EXPECT_EQ(reports.asked.back().file, file);
   }
-  sale({.day = "2026-03-12",
-        .client = 2,
-        .kind = 7,
-        .pieces = 1,
-        .income = 4000,
-        .item = "밸브",
-        .size = "15a"});
-  sale({.day = "2026-03-12",
-        .client = 1,
-        .kind = 7,
-        .pieces = 5,
-        .income = 700,
-        .item = "호스",
-        .size = "3m"});
+  sale(fitting("2026-03-12", 2, 1, 4000, 0, "밸브", "15a"));
+  sale(fitting("2026-03-12", 1, 5, 700, 0, "호스", "3m"));
   BriefRun client(session, utilClientBrief());
   EXPECT_EQ(load(client, asks(0, march)), QStringList({"김하나|053-1|호스|3m|5|700|0|700|0",
                                                        "한빛 101동 202호|053-2|밸브|15A|3|12000|0|9000|3000",
                                                        "[합 계]||||8|12700|0|9700|3000"}));
-  client.print(0);
-  EXPECT_EQ(staged("Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04, Lng05").last(),
-            "한빛 101동 202호|053-2|밸브|15A|3|12000|0|9000|3000");
-  EXPECT_EQ(reports.asked.back().file, "고객별자재판매현황.rpt");
+  EXPECT_EQ(printed(client, 0, "Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04, Lng05", -1),
+            "고객별자재판매현황.rpt 한빛 101동 202호|053-2|밸브|15A|3|12000|0|9000|3000");
 }
 
 TEST_F(SaleBriefs, LinesOfAPeriodAndOfACustomer) {
@@ -280,10 +242,8 @@ TEST_F(SaleBriefs, LinesOfAPeriodAndOfACustomer) {
   EXPECT_EQ(rows[2], "2026-03-09|김하나|수금|가스수금|||||50000||한기사") << "a collection is money alone";
   EXPECT_EQ(rows[3], "2026-03-10|한빛 101동 202호|자판|밸브 / 15A|2|0|0|8000|5000|3000|한기사");
   EXPECT_EQ(rows[6], "[합 계]||||7||0|78000|126000|3000|");
-  all.print(0);
-  EXPECT_EQ(staged("Str01, Str02, Str03, Str04, Str05, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06")[2],
-            "2026-03-09|김하나|수금|가스수금|한기사|||||50000|");
-  EXPECT_EQ(reports.asked.back().file, "전체판매현황.rpt");
+  EXPECT_EQ(printed(all, 0, "Str01, Str02, Str03, Str04, Str05, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06", 2),
+            "전체판매현황.rpt 2026-03-09|김하나|수금|가스수금|한기사|||||50000|");
   EXPECT_EQ(load(all, asks(0, {{"TxtDay", march["TxtDay"]}, {"TxtName", {.text = "둘"}}})).size(), 4);
 
   BriefRun one(session, clientSaleBrief());
@@ -343,9 +303,8 @@ TEST_F(Cylinders, WhatIsOutByItem) {
   // Kim: 5 last year, 1 back, 3 out and 2 back in March.
   EXPECT_EQ(load(brief),
             QStringList({"LPG|20|김하나|4|3|2|5", "LPG|50|한빛 101동 202호|0|4|0|4", "[합 계]|||4|7|2|9"}));
-  brief.print(0);
-  EXPECT_EQ(staged("Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04").first(), "LPG|20|김하나|4|3|2|5");
-  EXPECT_EQ(reports.asked.back().file, "용기대여현황02.rpt");
+  EXPECT_EQ(printed(brief, 0, "Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04"),
+            "용기대여현황02.rpt LPG|20|김하나|4|3|2|5");
   EXPECT_EQ(reports.asked.back().formulas, QStringList({"조회기간= '3월 1일 - 3월 31일'"}));
   pc.prompts.expect("조회기간의 용기 대여/회수 자료가 없습니다!");
   EXPECT_FALSE(
@@ -356,10 +315,8 @@ TEST_F(Cylinders, WhatIsOutAtStationsAndCustomers) {
   BriefRun brief(session, canCompanyBrief());
   EXPECT_EQ(load(brief), QStringList({"고객|김하나|LPG|20|4|3|2|5", "고객|한빛 101동 202호|LPG|50|0|4|0|4",
                                       "충전소|대구충전소|LPG|20|10|0|4|6", "[합 계]||||14|7|6|15"}));
-  brief.print(0);
-  EXPECT_EQ(staged("Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04")[2],
-            "충전소|대구충전소|LPG|20|10|0|4|6");
-  EXPECT_EQ(reports.asked.back().file, "용기대여현황01.rpt");
+  EXPECT_EQ(printed(brief, 0, "Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04", 2),
+            "용기대여현황01.rpt 충전소|대구충전소|LPG|20|10|0|4|6");
   EXPECT_EQ(load(brief, {{"OptWhere", {.place = 1}}}).size(), 2);
   EXPECT_EQ(load(brief, {{"OptWhere", {.place = 2}}, {"TxtName", {.text = "하나"}}}).size(), 2);
   EXPECT_EQ(brief.page(0).behind(brief.ask(0), brief.cells(0, 1)).section('?', 0, 0),
@@ -372,10 +329,8 @@ TEST_F(Cylinders, WhatIsOutByPerson) {
   EXPECT_EQ(load(brief),
             QStringList({"두기사||김하나|LPG|20|0|0|2|-2", "한기사|010-1|김하나|LPG|20|4|3|0|7",
                          "한기사|010-1|한빛 101동 202호|LPG|50|0|4|0|4", "[합 계]|||||4|7|2|9"}));
-  brief.print(0);
-  EXPECT_EQ(staged("Str01, Str02, Str03, Str04, Str05, Lng01, Lng02, Lng03, Lng04")[1],
-            "한기사|010-1|김하나|LPG|20|4|3|0|7");
-  EXPECT_EQ(reports.asked.back().file, "용기대여현황03.rpt");
+  EXPECT_EQ(printed(brief, 0, "Str01, Str02, Str03, Str04, Str05, Lng01, Lng02, Lng03, Lng04", 1),
+            "용기대여현황03.rpt 한기사|010-1|김하나|LPG|20|4|3|0|7");
   EXPECT_EQ(load(brief, {{"TxtResponse", {.text = "두기사"}}}).size(), 2);
 }
 

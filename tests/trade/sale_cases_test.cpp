@@ -3,8 +3,6 @@
 
 namespace {
 
-using tests::CaseHand;
-using tests::LineCase;
 using tests::SaleDesk;
 
 /** Stock and balances as the desk begins with them, and no line. */
@@ -19,12 +17,7 @@ void clearBooks(SaleDesk& desk) {
 }
 
 TEST(SaleCases, EndAsWritten) {
-  const std::vector<LineCase> cases = tests::lineCases("sale_cases.txt");
-  ASSERT_GT(cases.size(), 60u);
-  SaleDesk desk;
-  for (const LineCase& of : cases) {
-    SCOPED_TRACE(of.name());
-    ASSERT_EQ(of.parts.size(), 11);
+  tests::eachCase<SaleDesk>("sale_cases.txt", 60, 11, [](SaleDesk& desk, const tests::LineCase& of) {
     clearBooks(desk);
     const bool volume = of.part(0) == "volume";
     const QStringList steps = of.steps(2, desk.pc.session);
@@ -36,21 +29,19 @@ TEST(SaleCases, EndAsWritten) {
                       true);
     desk.pickers.clients.push_back(volume ? ClientChoice{SaleDesk::Metered, "별빛 3동"}
                                           : ClientChoice{SaleDesk::Plain, "산골식당"});
-    CaseHand hand(desk, book, entry);
+    tests::CaseHand hand(desk, book, entry);
     hand.begin(of.part(1));
     hand.play(steps);
     const QString client = volume ? "3" : "1";
-    EXPECT_EQ(hand.cursor(), of.part(3));
-    EXPECT_EQ(hand.figures(), of.part(4));
-    EXPECT_EQ(desk.rows("Select SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, Income, Trust, "
-                        "Response From Sale"),
-              of.part(5));
-    EXPECT_EQ(desk.balance(client.toInt()), of.part(6));
-    EXPECT_EQ(desk.rows("Select LastDate From Client Where Code = " + client), of.part(7));
-    EXPECT_EQ(desk.stock("20"), of.part(8));
-    EXPECT_EQ(desk.stock("50"), of.part(9));
-    EXPECT_EQ(desk.rows("Select UtilStock From Util"), of.part(10));
-  }
+    EXPECT_EQ(
+        QStringList({hand.cursor(), hand.figures(),
+                     desk.rows("Select SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, Income, "
+                               "Trust, Response From Sale"),
+                     desk.balance(client.toInt()),
+                     desk.rows("Select LastDate From Client Where Code = " + client), desk.stock("20"),
+                     desk.stock("50"), desk.rows("Select UtilStock From Util")}),
+        of.parts.mid(3));
+  });
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // A retailer's desk for the sale tests: books of their own, scripted searches, a queue of calls.
 #include <deque>
 
+#include "tests/answers.h"
 #include "tests/idle_context.h"
 #include "tests/master/other_pc.h"
 #include "tests/support.h"
@@ -9,13 +10,13 @@
 
 namespace tests {
 
-/** Answers the searches from a queue and notes what was asked. */
+/** Answers the searches from a queue and notes in asked: "client TEXT mode whole", "item KIND" or "purchase KIND",
+ *  "person", "station". */
 class TradePickers : public IdlePickers {
  public:
   std::deque<std::optional<ClientChoice>> clients;
   std::deque<std::optional<ItemChoice>> items;
   std::deque<std::optional<QString>> persons, refills;
-  QStringList asked;  ///< "client TEXT mode whole", "item KIND" or "purchase KIND", "person", "station"
   std::function<void()> during;
 
   std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode mode, bool whole) override {
@@ -78,16 +79,16 @@ struct SaleDesk {
   }
 
   void run(const QString& sql) { pc.session.dbYear.Execute(sql); }
-  /** Rows as texts, cells with "|" and rows with ";" between them. */
-  QString rows(const QString& sql) {
-    QStringList lines;
-    for (auto rs = pc.session.dbYear.OpenRecordset(sql); !rs.atEnd(); rs.MoveNext()) {
-      QStringList cells;
-      for (int at = 0; at < rs.fieldNames().size(); ++at) cells << rs[at].toText();
-      lines << cells.join(u'|');
-    }
-    return lines.join(u';');
+  /** A sale line of these values, in the order of the columns; what is left out is as in a new row. */
+  void sold(const QString& values) { sold(values, pc.session.dbYear); }
+  static void sold(const QString& values, const jet::Database& file) {
+    static const QStringList columns{"SaleDate", "ClientCode", "SaleGubun", "Gubun",  "SaleName", "SaleThing",
+                                     "SaleNum",  "SaleUnit",   "DC",        "Income", "Trust",    "Response"};
+    file.Execute("Insert Into Sale(" + columns.first(values.count(',') + 1).join(", ") + ") Values(" +
+                 values + ")");
   }
+  /** Rows as texts, cells with "|" and rows with ";" between them. */
+  QString rows(const QString& sql) { return rowsOf(pc.session.dbYear, sql); }
   /** Kilograms, held, lent, empty, full. */
   QString stock(const QString& size = "20") {
     return rows("Select LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull From LPG Where Size = '" + size +

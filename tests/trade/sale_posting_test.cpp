@@ -71,102 +71,24 @@ TEST(SaleKinds, PositionsAndCodes) {
   EXPECT_EQ(saleIsGasGoods("K"), "Not ((K = 4) Or (K = 7 Or K = 8))");
 }
 
-TEST(SalePosting, AGasLineBeginsAsASkeletonAndMovesByDifference) {
+TEST(SalePosting, EachKindAsksForItsItemsAndAPaymentForNone) {
   Sale sale;
-  const int row = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.enterKey(row, LineCol::Kind, "가스");
-  EXPECT_EQ(sale.line(1), "2026-03-05|1||0|0|0|0|0|0");
-  EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "")
-      << "the skeleton is all the first post writes";
-
-  sale.item(row, "LPG", "20", 40000);
-  EXPECT_EQ(sale.pickers.asked.last(), "item 1");
-  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|0|40000|0");
-  EXPECT_EQ(sale.change(row, LineCol::Number, "2").col, LineCol::Unit);
-  EXPECT_EQ(sale.figures(row), "2|40000|0|80000|80000|0");
-  EXPECT_EQ(sale.stock(), "960|100|10|42|48");
-  EXPECT_EQ(sale.balance(), "100000|5000") << "paid in cash";
-  EXPECT_EQ(sale.rows("Select LastDate From Client Where Code = 1"), "2026-03-05");
-
-  EXPECT_EQ(sale.change(row, LineCol::Paid, "30000").col, LineCol::Person);
-  EXPECT_EQ(sale.figures(row), "2|40000|0|80000|30000|50000");
-  EXPECT_EQ(sale.balance(), "150000|5000");
-  sale.change(row, LineCol::Paid, "60000");
-  EXPECT_EQ(sale.balance(), "120000|5000");
-  sale.change(row, LineCol::Number, "3");
-  EXPECT_EQ(sale.stock(), "940|100|10|43|47");
-  EXPECT_EQ(sale.balance(), "100000|5000");
-
-  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
-  EXPECT_TRUE(sale.posting.deleteRow(row));
-  EXPECT_EQ(sale.stock(), "1000|100|10|40|50");
-  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "0");
-}
-
-TEST(SalePosting, ACollectionOpensWithTheBalanceAndTakesItDown) {
-  Sale sale;
-  const int row = sale.newRow(Sale::Plain, "산골식당");
-  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Kind, "수금").col, LineCol::Paid);
-  EXPECT_EQ(sale.cell(row, LineCol::Item), "가스수금");
-  EXPECT_EQ(sale.figures(row), "0|0|0|100000|0|100000");
-  sale.change(row, LineCol::Paid, "10000");
-  EXPECT_EQ(sale.line(1), "2026-03-05|4|가스수금|0|0|0|0|10000|90000");
-  EXPECT_EQ(sale.balance(), "90000|5000");
-  sale.change(row, LineCol::Paid, "15000");
-  EXPECT_EQ(sale.balance(), "85000|5000");
-
+  sale.item(sale.ofKind("실병"), "LPG", "20", 40000);
+  EXPECT_EQ(sale.pickers.asked.last(), "item 3");
+  const int collection = sale.ofKind("수금");
+  sale.change(collection, LineCol::Paid, "10000");
   sale.posting.refill();
-  EXPECT_EQ(sale.figures(1), "|||100000|15000|85000") << "a collection shows no quantity, price or discount";
-  EXPECT_TRUE(sale.cells().locked(1, LineCol::Number));
-  EXPECT_EQ(sale.entry.missingField(1), 0);
-  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
-  sale.posting.deleteRow(1);
-  EXPECT_EQ(sale.balance(), "100000|5000");
-}
-
-TEST(SalePosting, MaterialLinesBookOnUtilInitButAreDeletedOffGasInit) {
-  Sale sale;
+  EXPECT_TRUE(sale.cells().locked(collection, LineCol::Number));
+  EXPECT_EQ(sale.entry.missingField(collection), 0);
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
-  const int row = sale.newRow(Sale::Plain, "산골식당");
-  EXPECT_EQ(sale.cell(row, LineCol::Kind), "자판");
-  sale.entry.enterKey(row, LineCol::Kind, "자판");
-  sale.item(row, "밸브", "15A", 30000);
+  sale.item(sale.ofKind("자판"), "밸브", "15A", 30000);
   EXPECT_EQ(sale.pickers.asked.last(), "item 4");
-  sale.change(row, LineCol::Paid, "10000");
-  EXPECT_EQ(sale.balance(), "100000|25000");
-  EXPECT_EQ(sale.rows("Select UtilStock From Util"), "29");
-  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
-  sale.posting.deleteRow(row);
-  EXPECT_EQ(sale.balance(), "80000|25000");
-  EXPECT_EQ(sale.rows("Select UtilStock From Util"), "30");
-
-  const int collection = sale.newRow(Sale::Plain, "산골식당");
-  sale.entry.finishCell(collection, LineCol::Kind, "자수");
-  EXPECT_EQ(sale.figures(collection), "0|0|0|25000|0|25000");
-  sale.change(collection, LineCol::Paid, "5000");
-  EXPECT_EQ(sale.balance(), "80000|20000");
-  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
-  sale.posting.deleteRow(collection);
-  EXPECT_EQ(sale.balance(), "80000|25000");
 }
 
-TEST(SalePosting, OnTheVolumeSheetAmountAndCreditStayZero) {
+TEST(SalePosting, AMeterCustomerFoundOnTheGeneralSheetMovesOver) {
   Sale sale;
   const int row = sale.newRow(Sale::Metered, "별빛 3동");
-  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume)
-      << "a meter customer found on the general sheet moves over";
-  sale.entry.enterKey(row, LineCol::Kind, "가스");
-  sale.item(row, "LPG", "50", 90000);
-  sale.change(row, LineCol::Number, "4");
-  EXPECT_EQ(sale.figures(row), "4|90000|0|0|0|0");
-  EXPECT_EQ(sale.rows("Select Gubun, SaleNum, Income, Trust From Sale"), "-1|4|0|0");
-  EXPECT_EQ(sale.balance(Sale::Metered), "0|0");
-  EXPECT_EQ(sale.stock("50"), "800|100|10|44|46");
-  sale.change(row, LineCol::Amount, "7000");
-  EXPECT_EQ(sale.figures(row), "4|90000|0|7000|7000|0");
-  sale.change(row, LineCol::Paid, "2000");
-  EXPECT_EQ(sale.figures(row), "4|90000|0|7000|2000|5000");
-  EXPECT_EQ(sale.balance(Sale::Metered), "5000|0");
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
   EXPECT_EQ(sale.entry.enterKey(row, LineCol::Unit, {}).row, 0) << "Enter stays on the volume sheet";
 }
 
@@ -187,22 +109,12 @@ TEST(SalePosting, TheDayViewTakesTheWorkingYear) {
   EXPECT_EQ(sale.cell(1, LineCol::Item), "LPG / 20");
 }
 
-TEST(SalePosting, TheAmountIsOnlyLoweredAndTheIncomeNeverAboveIt) {
+TEST(SalePosting, MoreThanTheAmountIsToldInWords) {
   Sale sale;
   const int row = sale.gasLine();
   sale.pc.prompts.expect("선택된 자료를");
   sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
   EXPECT_EQ(sale.entry.finishCell(row, LineCol::Amount, "40001").end, LineStep::PutBack);
-  EXPECT_EQ(sale.figures(row), "1|40000|0|40000|40000|0");
-  sale.change(row, LineCol::Amount, "38000");
-  sale.change(row, LineCol::Amount, "37000");
-  EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|1|40000|3000|37000|0");
-  sale.pc.prompts.expect("선택된 자료를");
-  sale.pc.prompts.expect("입력제한");
-  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Paid, "37001").end, LineStep::PutBack);
-  EXPECT_EQ(sale.cell(row, LineCol::Paid), "37000");
-  sale.pc.prompts.expect("입력제한");
-  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Unit, "1000000000").end, LineStep::Refused);
 }
 
 TEST(SalePosting, AStoredLineAsksBeforeItChangesAndKeepsItsKind) {
@@ -264,15 +176,12 @@ TEST(SalePosting, WithoutAnItemOnlyTheBalanceMoves) {
 
 TEST(SalePosting, SheetsShowTheirLinesOfADayOrOfACustomer) {
   Sale sale;
-  const QString insert =
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, "
-      "Income, "
-      "Trust) Values(";
-  sale.run(insert + "'2026-03-05', 2, 1, False, 'LPG', '20', 2, 40000, 1000, 50000, 29000)");
-  sale.run(insert + "'2026-03-04', 2, 9, False, 'LPG', '20', 1, 1, 0, 0, 0)");
-  sale.run(insert + "'2026-03-05', 3, 1, True, 'LPG', '50', 1, 90000, 0, 0, 0)");
-  sale.run(insert + "'2026-03-05', 1, 8, False, '자재수금', '0', 0, 0, 0, 3000, 2000)");
-  sale.run(insert + "'2024-12-31', 2, 1, False, 'LPG', '20', 1, 1, 0, 0, 0)");
+  for (const char* const line : {"'2026-03-05', 2, 1, False, 'LPG', '20', 2, 40000, 1000, 50000, 29000",
+                                 "'2026-03-04', 2, 9, False, 'LPG', '20', 1, 1, 0, 0, 0",
+                                 "'2026-03-05', 3, 1, True, 'LPG', '50', 1, 90000, 0, 0, 0",
+                                 "'2026-03-05', 1, 8, False, '자재수금', '0', 0, 0, 0, 3000, 2000",
+                                 "'2024-12-31', 2, 1, False, 'LPG', '20', 1, 1, 0, 0, 0"})
+    sale.sold(line);
 
   sale.posting.FillSaleGrid(SaleSheet::General, true);
   ASSERT_EQ(sale.cells().MaxRows(), 2) << "one line and the spare row";
@@ -441,6 +350,20 @@ TEST(SaleEntry, ABalanceBeyondALinesLimitIsCollectedAllTheSame) {
   hand.play({"9=1000"});
   EXPECT_EQ(hand.figures(), "0|0|0|2000000000|1000|1999999000");
   EXPECT_EQ(desk.balance(), "1999999000|5000");
+}
+
+TEST(SaleEntry, AFigureIsAWholeNumberOfNineDigitsAtMost) {
+  const std::pair<const char*, bool> texts[] = {{"999,999,999", true}, {"-999999999", true},
+                                                {"1000000000", false}, {"-1000000000", false},
+                                                {"27000.5", false},    {"천원", false}};
+  Sale sale;
+  const int row = sale.gasLine();
+  for (const auto& [typed, taken] : texts) {
+    sale.pc.prompts.expect(taken ? "선택된 자료를" : "999,999,999 이하의 정수로 입력하세요!");
+    EXPECT_EQ(sale.entry.finishCell(row, LineCol::Unit, typed).end,
+              taken ? LineStep::Done : LineStep::Refused)
+        << typed;
+  }
 }
 
 TEST(SaleEntry, ALineTooLargeForTheBookIsToldBeforeAnythingIsWritten) {

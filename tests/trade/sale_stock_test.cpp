@@ -2,115 +2,91 @@
 
 namespace {
 
-using tests::SaleDesk;
+const char* const untouched = "1000|100|10|40|50";
 
-/** A stored line of two pieces, changed to three, then deleted. Stock: kilograms|held|lent|empty|full. */
+/** Line 1 as it is stored, and what a row that shows other pieces does to the stock. */
+struct StoredLine : tests::SaleDesk {
+  /** A skeleton, or pieces of a size. */
+  explicit StoredLine(SaleKind of, int pieces = 0, const QString& size = "20") {
+    kind = of;
+    sold("'2026-03-05', 1, 1, False, 'LPG', '0'");
+    if (pieces > 0) store(pieces, size);
+  }
+  void store(int pieces, const QString& size = "20") {
+    run("Update Sale Set SaleNum = " + QString::number(pieces) + ", SaleThing = '" + size + "'");
+  }
+  void shows(int pieces, const ItemText& item = {"LPG", "20"}, StockMode mode = StockMode::Change) {
+    TradeLine line;
+    line.kind = &saleKind(kind);
+    line.item = item;
+    line.key = "1";
+    line.number = pieces;
+    SaleBook(pc.session).applyStock(line, mode);
+  }
+  void deleted(int shown, const ItemText& item = {"LPG", "20"}) { shows(shown, item, StockMode::Delete); }
+
+  SaleKind kind;
+};
+
+/** Two pieces, changed to three, then deleted; five stored and deleted by a row that shows three. Stock:
+ *  kilograms|held|lent|empty|full. */
 struct StockCase {
   SaleKind kind;
-  const char* ofTwo;
-  const char* ofThree;
+  const char *ofTwo, *ofThree, *givenBack;
 };
 
 class SaleStockOf : public testing::TestWithParam<StockCase> {};
 
 TEST_P(SaleStockOf, FollowsNewChangedAndDeletedLine) {
   const StockCase& of = GetParam();
-  SaleDesk desk;
-  desk.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing) Values('2026-03-05', 1, 1, False, "
-      "'0')");
-  TradeLine line;
-  line.kind = &saleKind(of.kind);
-  line.item = {"LPG", "20"};
-  line.key = "1";
-
-  line.number = 2;
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
-  EXPECT_EQ(desk.stock(), of.ofTwo);
-  desk.run("Update Sale Set SaleNum = 2, SaleThing = '20'");
-  line.number = 3;
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
-  EXPECT_EQ(desk.stock(), of.ofThree);
-  desk.run("Update Sale Set SaleNum = 3");
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
-  EXPECT_EQ(desk.stock(), "1000|100|10|40|50");
-  EXPECT_EQ(desk.stock("50"), "1000|100|10|40|50");
+  StoredLine line(of.kind);
+  line.shows(2);
+  EXPECT_EQ(line.stock(), of.ofTwo);
+  line.store(2);
+  line.shows(3);
+  EXPECT_EQ(line.stock(), of.ofThree);
+  line.store(3);
+  line.deleted(3);
+  EXPECT_EQ(line.stock(), untouched);
+  EXPECT_EQ(line.stock("50"), untouched);
 }
 
-INSTANTIATE_TEST_SUITE_P(Kinds, SaleStockOf,
-                         testing::Values(StockCase{SaleGas, "960|100|10|42|48", "940|100|10|43|47"},
-                                         StockCase{SaleCylinder, "1000|98|10|38|50", "1000|97|10|37|50"},
-                                         StockCase{SaleFullCylinder, "960|98|10|40|48", "940|97|10|40|47"},
-                                         StockCase{SaleCollection, "1000|100|10|40|50", "1000|100|10|40|50"},
-                                         StockCase{SaleLoan, "1000|100|12|38|50", "1000|100|13|37|50"},
-                                         StockCase{SaleReturn, "1000|100|8|42|50", "1000|100|7|43|50"}));
+TEST_P(SaleStockOf, ADeletionGivesBackStoredKilogramsAndOfGasAndLoansTheShownPieces) {
+  StoredLine line(GetParam().kind, 5);
+  line.deleted(3);
+  EXPECT_EQ(line.stock(), GetParam().givenBack);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, SaleStockOf,
+    testing::Values(StockCase{SaleGas, "960|100|10|42|48", "940|100|10|43|47", "1100|100|10|37|53"},
+                    StockCase{SaleCylinder, "1000|98|10|38|50", "1000|97|10|37|50", "1000|105|10|45|50"},
+                    StockCase{SaleFullCylinder, "960|98|10|40|48", "940|97|10|40|47", "1100|105|10|40|55"},
+                    StockCase{SaleCollection, untouched, untouched, untouched},
+                    StockCase{SaleLoan, "1000|100|12|38|50", "1000|100|13|37|50", "1000|100|7|43|50"},
+                    StockCase{SaleReturn, "1000|100|8|42|50", "1000|100|7|43|50", "1000|100|15|35|50"}));
 
 TEST(SaleStock, MaterialMovesByNameAndSpecification) {
-  SaleDesk desk;
-  desk.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
-      "Values('2026-03-05', 1, 7, False, '15A', 4)");
-  TradeLine line;
-  line.kind = &saleKind(SaleMaterial);
-  line.item = {"밸브", "15A"};
-  line.key = "1";
-  line.number = 6;
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
-  EXPECT_EQ(desk.rows("Select UtilStock From Util"), "28");
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
-  EXPECT_EQ(desk.rows("Select UtilStock From Util"), "32") << "a deletion gives back what is stored";
-}
-
-TEST(SaleStock, ADeletionGivesBackStoredKilogramsAndOfGasAndLoansTheShownPieces) {
-  const std::pair<SaleKind, const char*> ofFiveStoredThreeShown[] = {{SaleGas, "1100|100|10|37|53"},
-                                                                     {SaleLoan, "1000|100|7|43|50"},
-                                                                     {SaleReturn, "1000|100|15|35|50"},
-                                                                     {SaleCylinder, "1000|105|10|45|50"},
-                                                                     {SaleFullCylinder, "1100|105|10|40|55"}};
-  for (const auto& [kind, stock] : ofFiveStoredThreeShown) {
-    SaleDesk desk;
-    desk.run(
-        "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
-        "Values('2026-03-05', 1, 1, False, '20', 5)");
-    TradeLine line;
-    line.kind = &saleKind(kind);
-    line.item = {"LPG", "20"};
-    line.key = "1";
-    line.number = 3;
-    SaleBook(desk.pc.session).applyStock(line, StockMode::Delete);
-    EXPECT_EQ(desk.stock(), stock) << kind;
-  }
+  StoredLine line(SaleMaterial, 4, "15A");
+  line.shows(6, {"밸브", "15A"});
+  EXPECT_EQ(line.rows("Select UtilStock From Util"), "28");
+  line.deleted(6, {"밸브", "15A"});
+  EXPECT_EQ(line.rows("Select UtilStock From Util"), "32") << "a deletion gives back what is stored";
 }
 
 TEST(SaleStock, AChangedItemIsNotGivenItsStockBack) {
-  SaleDesk desk;
-  desk.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing, SaleNum) "
-      "Values('2026-03-05', 1, 1, False, '20', 2)");
-  TradeLine line;
-  line.kind = &saleKind(SaleGas);
-  line.item = {"LPG", "50"};
-  line.key = "1";
-  line.number = 2;
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
-  EXPECT_EQ(desk.stock("20"), "1000|100|10|40|50");
-  EXPECT_EQ(desk.stock("50"), "940|100|10|40|50") << "20 x 2 back and 50 x 2 out, both on the item named now";
+  StoredLine line(SaleGas, 2);
+  line.shows(2, {"LPG", "50"});
+  EXPECT_EQ(line.stock("20"), untouched);
+  EXPECT_EQ(line.stock("50"), "940|100|10|40|50") << "20 x 2 back and 50 x 2 out, both on the item named now";
 }
 
 TEST(SaleStock, NothingMovesWithoutManagementOrItem) {
-  SaleDesk desk;
-  desk.run(
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleThing) Values('2026-03-05', 1, 1, False, "
-      "'0')");
-  TradeLine line;
-  line.kind = &saleKind(SaleGas);
-  line.key = "1";
-  line.number = 2;
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
-  desk.pc.session.StockEnabled = false;
-  line.item = {"LPG", "20"};
-  SaleBook(desk.pc.session).applyStock(line, StockMode::Change);
-  EXPECT_EQ(desk.stock(), "1000|100|10|40|50");
+  StoredLine line(SaleGas);
+  line.shows(2, {});
+  line.pc.session.StockEnabled = false;
+  line.shows(2);
+  EXPECT_EQ(line.stock(), untouched);
 }
 
 }  // namespace

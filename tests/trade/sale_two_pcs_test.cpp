@@ -12,9 +12,7 @@ struct SaleOnTwoPcs : SaleDesk, testing::Test {
 
   /** A stored line of two pieces at 40,000 won, 30,000 of it on credit, open on both screens. */
   SaleOnTwoPcs() {
-    run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, "
-        "Income, DC, Trust, Response) "
-        "Values('2026-03-05', 1, 1, False, 'LPG', '20', 2, 40000, 50000, 0, 30000, '홍길동')");
+    sold("'2026-03-05', 1, 1, False, 'LPG', '20', 2, 40000, 0, 50000, 30000, '홍길동'");
     posting.FillSaleGrid(SaleSheet::General, true);
     other.emplace(*this);
   }

@@ -11,9 +11,7 @@ namespace {
 struct Walk : tests::BuyDesk {
   void sale(const QString& day, int kind, int pieces, const QString& name = "LPG",
             const QString& size = "20") {
-    run("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleNum, SaleGubun, Gubun) Values('" +
-        day + "', 1, '" + name + "', '" + size + "', " + QString::number(pieces) + ", " +
-        QString::number(kind) + ", False)");
+    sold(QString("'%1', 1, %2, False, '%3', '%4', %5").arg(day).arg(kind).arg(name, size).arg(pieces));
   }
   void buy(const QString& day, int kind, int pieces, const QString& name = "LPG",
            const QString& size = "20") {
@@ -116,13 +114,19 @@ TEST(StockWalk, APeriodThatBeganLastYearTakesThatYearsFileAlong) {
              walk.walked(StockWalkOf::Gas, "20", "2025-12-01", "2026-01-31")),
             "told");
   makeYearFile(walk.pc.session, "2025");
-  openYear(walk.pc.session, "2025")
-      .Execute(
-          "Insert Into Sale(SaleDate, SaleName, SaleThing, SaleNum, SaleGubun, Gubun) "
-          "Values('2025-12-30', 'LPG', '20', 6, 1, False)");
+  Walk::sold("'2025-12-30', 1, 1, False, 'LPG', '20', 6", openYear(walk.pc.session, "2025"));
   walk.sale("2026-01-02", 1, 4);
   EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20", "2025-12-01", "2026-01-31").section(' ', 0, 3), "60 0 10 50");
   EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20", "2026-01-01", "2026-01-31").section(' ', 0, 3), "54 0 4 50");
+}
+
+TEST(StockWalk, TheStockOfTodayIsWalkedBackOverTheYearsSinceTheOpenOne) {
+  Walk walk;
+  walk.pc.pc.clock.set(QDateTime(QDate(2027, 1, 10), QTime(9, 0)));
+  makeYearFile(walk.pc.session, "2027");
+  Walk::sold("'2027-01-04', 1, 1, False, 'LPG', '20', 6", openYear(walk.pc.session, "2027"));
+  walk.sale("2026-02-12", 1, 4);
+  EXPECT_EQ(walk.walked(StockWalkOf::Gas, "20").section(' ', 0, 3), "60 0 4 56");
 }
 
 TEST(StockWalk, AFailureIsToldAndLeavesNoHalfFigures) {

@@ -4,13 +4,12 @@
 
 TEST(TodaySale, SumsEachSheetOfTheDay) {
   tests::SaleDesk desk;
-  const QString insert =
-      "Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, DC, Trust) Values('2026-03-";
-  desk.run(insert + "05', 1, 1, False, 2, 50000, 1000, 29000)");
-  desk.run(insert + "05', 1, 4, False, 0, 7000, 0, 93000)");
-  desk.run(insert + "05', 3, 1, True, 4, 0, 0, 0)");
-  desk.run(insert + "05', 1, 7, False, 3, 900, 0, 100)");
-  desk.run(insert + "04', 1, 1, False, 99, 99, 99, 99)");
+  for (const char* const line : {"'2026-03-05', 1, 1, False, 'LPG', '20', 2, 0, 1000, 50000, 29000",
+                                 "'2026-03-05', 1, 4, False, '가스수금', '0', 0, 0, 0, 7000, 93000",
+                                 "'2026-03-05', 3, 1, True, 'LPG', '20', 4, 0, 0, 0, 0",
+                                 "'2026-03-05', 1, 7, False, '밸브', '15A', 3, 0, 0, 900, 100",
+                                 "'2026-03-04', 1, 1, False, 'LPG', '20', 99, 99, 99, 99, 99"})
+    desk.sold(line);
   desk.pc.session.SaleDay = "2026-03-05";
   TodaySale today(desk.pc.session);
   ASSERT_TRUE(today.load());
