@@ -136,6 +136,10 @@ TEST_F(CollectionImportTest, BareLineFeedsAreOneLineOfTheList) {
 }
 
 TEST_F(CollectionImportTest, DecemberCarriesNothingAndAnotherYearIsItsOwnFile) {
+  session.dbYear.Execute("Update Evaporation Set UsePay = 900, Total = 900 Where Mon = 11");
+  give(payment("1130", 2, "350"), "202611.txt");
+  EXPECT_EQ(run("2026", "11"), "1/350");
+  EXPECT_EQ(posted(2, 11), "350 11-30 550 550") << "November still carries";
   give(payment("1231", 1, "350"), "202612.txt");
   EXPECT_EQ(run("2026", "12"), "1/350");
   EXPECT_EQ(posted(1, 12), "350 12-31 18000 -");

@@ -183,6 +183,25 @@ TEST_F(Taxes, WhatMovedSinceItWasGatheredIsNotIssued) {
   EXPECT_EQ(cells(here, 1, {Client, Total}), "한라식당|61000");
 }
 
+TEST_F(Taxes, NeitherTheCountNorTheSumOfTheLinesMayHaveChanged) {
+  sale("2026-03-02", 1, 30'000, 2);
+  const std::function<void()> changes[] = {[this] {  // two lines of the one's sum
+                                             session.dbYear.Execute("Update Sale Set SaleNum = 1");
+                                             sale("2026-03-31", 1, 30'000, 1);
+                                           },
+                                           [this] { session.dbYear.Execute("Update Sale Set DC = 250"); }};
+  for (const auto& change : changes) {
+    TaxDesk desk(session);
+    desk.gather(month());
+    desk.ticks().setAll(true);
+    change();
+    QString serial = "2603001";
+    pc.prompts.expect("1건은 발행하지 않았습니다.");
+    EXPECT_EQ(desk.issue(month(), serial, {}).documents, 0);
+    EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale"), "0");
+  }
+}
+
 TEST_F(Taxes, OfTwoStationsOneGetsTheLinesAndNoNumberIsGivenTwice) {
   sale("2026-03-02", 1, 30'000, 2);
   sale("2026-03-02", 2, 1'100, 1);

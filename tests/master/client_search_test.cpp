@@ -66,6 +66,8 @@ TEST_F(ClientSearching, aCallersNumberEndsTheStoredOneWithOrWithoutItsAreaCode) 
   EXPECT_EQ(names("053-123-1234", ClientSearchMode::All, true), QStringList{"김철수"});
   EXPECT_EQ(names("1231234", ClientSearchMode::All, true), QStringList{"김철수"});
   EXPECT_EQ(names("12312", ClientSearchMode::All, true), QStringList{}) << "must end it";
+  EXPECT_EQ(names("22233", ClientSearchMode::All, true), QStringList{})
+      << "five digits are a number, no text";
   EXPECT_EQ(names("0531231234", ClientSearchMode::All), QStringList{"김철수"}) << "typed without dashes";
   EXPECT_EQ(names("1112223334", ClientSearchMode::All), QStringList{"행복식당"}) << "a business number";
 }

@@ -151,7 +151,7 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
                         {{u"가스"_s, 0.3f, u"반올림"_s}}},
                        {u"Bank"_s,
                         {{u"BName"_s}, {u"BNumber"_s}, {u"BUser"_s}},
-                        {{u"농협"_s, u"1-2"_s, u"가"_s}, {u"농협"_s, u"1-2 "_s, u"나"_s}}}});
+                        {{u"Bank"_s, u"1-2"_s, u"가"_s}, {u"BANK"_s, u"1-2 "_s, u"나"_s}}}});
   put(u"dbDetail.mdb"_s,
       {{u"DealList"_s,
         {{u"DealDate"_s}, {u"CCode"_s}, {u"SaleSeq"_s}, {u"UnitCost"_s, JetType::Double}},

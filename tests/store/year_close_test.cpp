@@ -149,6 +149,20 @@ TEST_F(YearClose, WhatDiffersIsToldAndTheOldFileCanBePutBack) {
   EXPECT_EQ(shown->kept, QStringList(keptThen)) << "and the next closing names it";
 }
 
+TEST_F(YearClose, TheComparisonLooksAtThoseWithoutADecemberToo) {
+  closeWell();
+  run("Delete * From Evaporation Where Mon = 12 And ClientCode = " + QString::number(paid));
+  EXPECT_TRUE(checkCarry(session.dbYear, year(2027)).differing.empty()) << "January has nothing of nothing";
+  year(2027).Execute("Update Evaporation Set Trust = 700 Where Mon = 1 And ClientCode = " +
+                     QString::number(paid));
+  const CarryCheck check = checkCarry(session.dbYear, year(2027));
+  EXPECT_EQ(check.customers, 3);
+  ASSERT_EQ(check.differing.size(), 1U);
+  EXPECT_EQ(check.differing[0].name, "가람상회");
+  EXPECT_EQ(check.differing[0].january, 700);
+  EXPECT_FALSE(check.differing[0].december);
+}
+
 TEST_F(YearClose, AFileThatIsOpenElsewhereStaysAndTheErrorIsTold) {
   closeWell();
   workInNextYear();

@@ -72,12 +72,14 @@ TEST_F(CreditTest, CreditOfLastYearKeepsItsAge) {
   pc.pc.clock.set(QDate(2026, 1, 20).startOfDay());
   run("Update Client Set GasInit = 30000 Where Code = 1");
   const jet::Database last = year("2025");
-  sale(last, {.day = "2025-11-20", .trust = 4000});   // 61 days
+  sale(last, {.day = "2025-10-21", .trust = 900});    // 91 days
+  sale(last, {.day = "2025-10-22", .trust = 2000});   // 90
+  sale(last, {.day = "2025-11-20", .trust = 4000});   // 61
   sale(last, {.day = "2025-12-31", .trust = 20000});  // 20
   sale({.day = "2026-01-05", .trust = 1000});
   BriefRun run(session, trustBrief());
   ASSERT_TRUE(run.load(asks(0)));
-  EXPECT_EQ(shown(run)[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|4000|5000");
+  EXPECT_EQ(shown(run)[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|6000|3000");
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "ui/model/row_backup.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -37,6 +39,25 @@ TEST_F(SubTotals, SumFollowsChangedInsertedAndDeletedRows) {
   grid.setMaxRows(3);
   grid.setText(1, 2, u"7"_s);
   EXPECT_EQ(grid.formula(3, 2), QString());
+}
+
+TEST_F(SubTotals, ARowBackupPutsBackEveryCellUnlessTheStepWasStored) {
+  const auto row = [this](int at) { return grid.text(at, 1) + grid.text(at, 2); };
+  for (const bool stored : {true, false}) {
+    RowBackup backup(grid, 2);
+    grid.setText(2, 1, u"실병"_s);
+    grid.setText(2, 2, u"3000"_s);
+    if (stored) backup.stored();
+    backup.putBack();
+    EXPECT_EQ(row(2), stored ? u"실병3000"_s : u"용기2000"_s);
+    grid.setRows({{u"가스"_s, u"1,000"_s}, {u"용기"_s, u"2000"_s}, {u"자재"_s, u"-500"_s}});
+  }
+  {
+    RowBackup first(grid, 1, 1);
+    grid.setText(1, 1, u"산소"_s);
+    grid.setText(1, 2, u"7"_s);
+  }
+  EXPECT_EQ(row(1), u"가스7"_s) << "of the columns named alone, at the end of its life";
 }
 
 TEST_F(SubTotals, OtherFormulasAreRefused) {
