@@ -18,7 +18,7 @@ struct StartingPc : TestPc {
   /** An empty file in the program's folder. */
   void install(const QString& program) {
     EXPECT_TRUE(pc.paths.makeFolder(QStringLiteral("C:\\RWGas")));
-    QFile file(pc.paths.native(QStringLiteral("C:\\RWGas\\")) + program);
+    QFile file(pc.paths.native(QStringLiteral("C:\\RWGas")) + u'/' + program);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
   }
 };

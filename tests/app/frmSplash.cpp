@@ -27,10 +27,7 @@ struct StartWindow : testing::Test, tests::TestPc {
     startUp.shutDown();
   }
   QLineEdit* box() const { return window->findChild<QLineEdit*>("txtPassword"); }
-  void enter(const QString& text) {
-    tests::type(text);
-    tests::key(Qt::Key_Return);
-  }
+  void enter(const QString& text) { tests::enter(text); }
 };
 
 TEST_F(StartWindow, OnAnEmptyPcEnterGoesOnAfterAWordAboutTheCompany) {

@@ -28,10 +28,7 @@ struct UserForm : testing::Test, tests::TestPc {
     tests::show(form);
     QApplication::processEvents();
   }
-  void enter(const QString& text) {
-    tests::type(text);
-    tests::key(Qt::Key_Return);
-  }
+  void enter(const QString& text) { tests::enter(text); }
 };
 
 TEST_F(UserForm, ANewCompanyIsTypedFieldByFieldThenItsSettings) {

@@ -2,6 +2,7 @@
 
 #include "briefs/brief_run.h"
 #include "tests/billing/meter_desk.h"
+#include "tests/cells.h"
 #include "tests/shown_reports.h"
 
 namespace {
@@ -60,19 +61,11 @@ struct EvaTotalTest : testing::Test, tests::MeterDesk {
             .arg(QString::fromLatin1(day))
             .arg(use + trust + late + fee - pay));
   }
-  QStringList lines() {
-    QStringList texts;
-    for (int row = 1; row <= total.grid().MaxRows(); ++row) {
-      QStringList cells;
-      for (int col = 1; col <= TotalCol::Last; ++col) cells << total.grid().text(row, col);
-      texts << cells.join('|');
-    }
-    return texts;
-  }
+  QStringList lines() { return tests::rowsOf(total.grid()); }
+  /** Without the sum. */
   QStringList names() {
-    QStringList texts;
-    for (int row = 1; row < total.grid().MaxRows(); ++row) texts << total.grid().text(row, TotalCol::Name);
-    return texts;
+    const QStringList all = tests::columnOf(total.grid(), TotalCol::Name);
+    return all.first(qMax<qsizetype>(0, all.size() - 1));
   }
 
   tests::ShownReports reports;

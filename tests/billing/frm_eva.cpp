@@ -55,8 +55,7 @@ struct Screen {
   /** A text typed into the current cell, Enter, and Yes to the question. */
   void enter(const char* text) {
     expectQuestion();
-    tests::type(text);
-    tests::key(Qt::Key_Return);
+    tests::enter(text);
   }
   /** The popup of the right button: so many steps down, then Enter. */
   void popup(int steps) {
@@ -134,16 +133,14 @@ TEST(FrmEva, EscNoAndRefusedMonthsKeepTheOldText) {
   tests::key(Qt::Key_Escape);
   EXPECT_EQ(screen.at() + ' ' + screen.cell(1, EvaCol::UseGage), "1,3 0");
   screen.expectQuestion(false);
-  tests::type("77");
-  tests::key(Qt::Key_Return);
+  tests::enter("77");
   EXPECT_EQ(screen.at() + ' ' + screen.cell(1, EvaCol::UseGage), "1,3 0");
   EXPECT_FALSE(screen.grid()->isEditing());
 
   screen.choose("CboMon", 1);
   screen.go(1, EvaCol::Pay);
   desk.pc.prompts.expect("당월수금액에 대한 수정은 최근 1개월까지만 가능합니다");
-  tests::type("5");
-  tests::key(Qt::Key_Return);
+  tests::enter("5");
   EXPECT_EQ(screen.at() + ' ' + screen.cell(1, EvaCol::Pay), "1,10 0");
   screen.go(1, EvaCol::Total);
   tests::type("5");
@@ -283,8 +280,7 @@ TEST(FrmEva, PeopleTickAndDaysAreStoredFromTheGrid) {
   EXPECT_EQ(screen.label("PnlHelp"), "검침일자를 입력/수정합니다");
   EXPECT_EQ(screen.label("PnlMan"), "") << "leaving the grid clears its panels";
   day->selectAll();
-  tests::type("3.9");
-  tests::key(Qt::Key_Return);
+  tests::enter("3.9");
   QApplication::processEvents();
   EXPECT_EQ(screen.day(), "03/09");
   EXPECT_EQ(screen.label("PnlMan"), "체적단가 : 1,500원  검침원 : 홍길동  수금원 : 미입력");

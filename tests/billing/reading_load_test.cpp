@@ -4,6 +4,7 @@
 #include "billing/reading_months.h"
 #include "billing/reading_panel.h"
 #include "tests/billing/meter_desk.h"
+#include "tests/cells.h"
 
 namespace {
 
@@ -11,9 +12,7 @@ using tests::MeterDesk;
 
 /** Column 1 of every row. */
 QString names(const MeterDesk& desk) {
-  QStringList texts;
-  for (int row = 1; row <= desk.sheet.grid.MaxRows(); ++row) texts << desk.sheet.grid.text(row, EvaCol::Name);
-  return texts.join(' ');
+  return tests::columnOf(desk.sheet.grid, EvaCol::Name).join(' ');
 }
 
 void setting(MeterDesk& desk, const char* key, const char* value) {

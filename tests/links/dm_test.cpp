@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "links/dm_list.h"
+#include "tests/cells.h"
 #include "tests/recorded_print.h"
 #include "tests/support.h"
 
@@ -59,9 +60,7 @@ TEST_F(DmTest, TheOptionChoosesTheCustomers) {
   DmList list(session);
   const auto names = [&](DmKind kind) {
     EXPECT_TRUE(list.load(kind));
-    QString all;
-    for (int row = 1; row <= list.list().MaxRows(); ++row) all += list.list().text(row, DmCol::Name);
-    return all;
+    return tests::columnOf(list.list(), DmCol::Name).join(QString());
   };
   EXPECT_EQ(names(DmKind::General), u"가람"_s);
   EXPECT_EQ(names(DmKind::All), u"가람나래"_s);

@@ -3,6 +3,8 @@
 
 #include "links/fleet_log.h"
 #include "links/short_list.h"
+#include "tests/answers.h"
+#include "tests/cells.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -17,21 +19,11 @@ struct FleetTest : testing::Test, tests::TestPc {
             .arg(QString::fromUtf8(day), QString::fromUtf8(what), QString::fromUtf8(car),
                  QString::fromUtf8(person), QString::number(money)));
   }
-  static QString line(const SpreadModel& grid, int row) {
-    QStringList cells;
-    for (int col = 1; col <= grid.MaxCols(); ++col) cells << grid.text(row, col);
-    return cells.join(u'|');
-  }
+  static QString line(const SpreadModel& grid, int row) { return tests::cellsOf(grid, row).join(u'|'); }
   /** The table's rows in the order they were stored. */
   QString table(
       const QString& of = u"Select RDate, RCarNo, RContent, RMoney, RResName From Car Order By RCode"_s) {
-    QStringList rows;
-    for (jet::Recordset rs = session.dbBasic.OpenRecordset(of); !rs.atEnd(); rs.MoveNext()) {
-      QStringList cells;
-      for (int at = 0; at < rs.fieldNames().size(); ++at) cells << rs[at].toText();
-      rows << cells.join(u'|');
-    }
-    return rows.join(u'\n');
+    return tests::linesOf(session.dbBasic, of).join(u'\n');
   }
 };
 
@@ -72,9 +64,8 @@ TEST_F(FleetTest, DaysAndVehicleNarrowTheLinesAndTheirSum) {
   FleetLog log(session);
   const auto asked = [&](const CarAsk& ask) {
     EXPECT_TRUE(log.showAsked(ask));
-    QString contents;
-    for (int row = 1; row <= log.grid().MaxRows(); ++row) contents += log.grid().text(row, CarCol::Content);
-    return contents + u' ' + log.summary().section(u' ', -1);
+    return tests::columnOf(log.grid(), CarCol::Content).join(QString()) + u' ' +
+           log.summary().section(u' ', -1);
   };
   EXPECT_EQ(asked({u"2026-03-01"_s, {}, {}}), u"bdc 4,320,000원"_s) << "a first day alone: from that day on";
   EXPECT_EQ(asked({u"2026-02-28"_s, u"2026-03-02"_s, {}}), u"abd 4,021,000원"_s) << "both ends count";

@@ -69,8 +69,7 @@ TEST_F(SideJobs, ALineIsEnteredWithTheListsBehindF12) {
   tests::key(Qt::Key_F12);
   tests::show(form);
   EXPECT_EQ(grid.model().text(2, CarCol::Content), u"엔진오일 교환"_s);
-  tests::type(u"65000"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"65000"_s);
   EXPECT_EQ(answer(u"Select RMoney From Car Where RCarNo = '5678' And RDate = '2026-03-16'"_s), u"65000"_s);
   EXPECT_EQ(grid.activeRow(), 3);
   EXPECT_EQ(grid.activeCol(), CarCol::CarNo);
@@ -82,8 +81,7 @@ TEST_F(SideJobs, AHalfLineIsHeldGivenUpOrAskedAbout) {
   frmCar form(idle.context);
   tests::show(form);
   Spread& grid = gridOf(form);
-  tests::type(u"1234"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"1234"_s);
   prompts.expect(u"정비내역/부품을 입력하십시오"_s);
   tests::key(Qt::Key_Up);
   EXPECT_EQ(grid.activeRow(), 2) << "a line that was begun is not left half";
@@ -116,8 +114,7 @@ TEST_F(SideJobs, TheLogIsLookedThroughByDaysAndCorrectedThere) {
   EXPECT_EQ(form.findChild<QLabel*>(u"PnlHelp"_s)->text(), u"차량정비 내용을 기간별/차량별로 조회합니다"_s);
   grid.setActiveCell(1, CarCol::Money);
   prompts.expect(u"선택된 자료의 변경사항을 저장하시겠습니까?"_s);
-  tests::type(u"99000"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"99000"_s);
   EXPECT_EQ(form.findChild<QLabel*>(u"pnl"_s)->text(), u"건수  1건     금액  99,000원"_s);
   prompts.expect(u"선택된 자료를 삭제하시겠습니까?"_s);
   tests::key(Qt::Key_Delete);

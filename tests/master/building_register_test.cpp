@@ -1,10 +1,9 @@
 // Blocks and their households: numbers, what a save makes of them, what changes and goes with a block.
 #include "master/buildings/building_register.h"
 
-#include <QElapsedTimer>
-
 #include "store/jet/error.h"
 #include "tests/answers.h"
+#include "tests/cpu_clock.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -65,11 +64,7 @@ struct BuildingRegisterTest : testing::Test {
   }
   QString rows(const QString& sql) { return tests::rowsOf(pc.session.dbYear, sql); }
   QString blocks() {
-    QStringList all;
-    for (auto rs = pc.session.dbBasic.OpenRecordset(u"Select * From APT Order By Code"_s); !rs.atEnd();
-         rs.MoveNext())
-      all << rs[u"Name"_s].toText() + u' ' + rs[u"Dong"_s].toText();
-    return all.join(u';');
+    return tests::rowsOf(pc.session.dbBasic, u"Select Name & ' ' & Dong As Block From APT Order By Code"_s);
   }
   void save(const RegisterFields& boxes) {
     buildings.beginNew();
@@ -260,15 +255,14 @@ TEST_F(BuildingRegisterTest, AThousandHouseholdsAreMadeWithinSeconds) {
       return false;  // it may not be stopped half way
     };
   };
-  QElapsedTimer since;
-  since.start();
+  tests::CpuClock since;
   save(block);
   EXPECT_LT(since.elapsed(), 15000);
   EXPECT_EQ(of, 1000);
   EXPECT_EQ(told, 1000);
   EXPECT_EQ(groups, 1) << "a power cut leaves all of it or nothing";
   EXPECT_EQ(rows(u"Select Count(Mon) As C From Evaporation"_s), u"13000"_s);
-  since.start();
+  since.restart();
   buildings.select(1);
   pc.prompts.expect(u"모두 지우시겠습니까?"_s);
   pc.prompts.expect(u"삭제하시겠습니까?"_s);

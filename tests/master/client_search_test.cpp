@@ -1,5 +1,6 @@
 #include "master/customers/client_search.h"
 
+#include "tests/cells.h"
 #include "tests/support.h"
 
 namespace {
@@ -26,10 +27,7 @@ class ClientSearching : public ::testing::Test {
   }
   QStringList names(const QString& text, ClientSearchMode mode, bool wholeNumber = false) {
     search.find(text, mode, wholeNumber);
-    QStringList found;
-    for (int row = 1; row <= search.list().MaxRows(); ++row)
-      found << search.list().text(row, ClientSearch::NameCol);
-    return found;
+    return tests::columnOf(search.list(), ClientSearch::NameCol);
   }
 
   tests::TestPc pc;

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <memory>
 
+#include "tests/answers.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
@@ -29,14 +30,9 @@ class BankForm : public ::testing::Test {
   }
   QLineEdit* box(const char* name) { return form->findChild<QLineEdit*>(QString::fromLatin1(name)); }
   QPushButton* button(const char* name) { return form->findChild<QPushButton*>(QString::fromLatin1(name)); }
-  /** "name number user;" for every row of the table. */
+  /** "name|number|user;" for every row of the table. */
   QString stored() {
-    QString all;
-    auto rs = at.session.dbBasic.OpenRecordset(u"Select * From Bank Order By BName"_s);
-    for (; !rs.atEnd(); rs.MoveNext())
-      all +=
-          rs[u"BName"_s].toText() + u' ' + rs[u"BNumber"_s].toText() + u' ' + rs[u"BUser"_s].toText() + u';';
-    return all;
+    return tests::rowsOf(at.session.dbBasic, u"Select BName, BNumber, BUser From Bank Order By BName"_s);
   }
 
   tests::TestPc at;
@@ -57,11 +53,10 @@ TEST_F(BankForm, NewAccountIsEnteredByKeysAlone) {
   at.prompts.expect(u"계좌번호를 입력하십시오"_s);
   tests::key(Qt::Key_Return);
   EXPECT_TRUE(box("TxtBNumber")->hasFocus());
-  tests::type(u"003-03"_s);
+  tests::enter(u"003-03"_s);
   tests::key(Qt::Key_Return);
   tests::key(Qt::Key_Return);
-  tests::key(Qt::Key_Return);
-  EXPECT_EQ(stored(), u"국민은행 001-01 김해온;농협 002-02 이해온;신한 003-03 ;"_s);
+  EXPECT_EQ(stored(), u"국민은행|001-01|김해온;농협|002-02|이해온;신한|003-03|"_s);
   EXPECT_EQ(form->grid()->activeRow(), 3);
   tests::grab(*form, u"frmBank"_s);
 }
@@ -70,10 +65,10 @@ TEST_F(BankForm, NameDecidesBetweenChangingAndAdding) {
   EXPECT_EQ(box("TxtBName")->text(), u"국민은행"_s) << "the first line is shown";
   box("TxtBNumber")->setText(u"001-99"_s);
   button("BtnSave")->click();
-  EXPECT_EQ(stored(), u"국민은행 001-99 김해온;농협 002-02 이해온;"_s);
+  EXPECT_EQ(stored(), u"국민은행|001-99|김해온;농협|002-02|이해온"_s);
   box("TxtBName")->setText(u"국민"_s);
   button("BtnSave")->click();
-  EXPECT_EQ(stored(), u"국민 001-99 김해온;국민은행 001-99 김해온;농협 002-02 이해온;"_s);
+  EXPECT_EQ(stored(), u"국민|001-99|김해온;국민은행|001-99|김해온;농협|002-02|이해온"_s);
   box("TxtBName")->clear();
   at.prompts.expect(u"은행명을 입력하십시오"_s);
   button("BtnSave")->click();
@@ -86,7 +81,7 @@ TEST_F(BankForm, DeleteAsksFirst) {
   tests::key(Qt::Key_Delete);
   at.prompts.expect(u"선택한 자료를 삭제하시겠습니까?"_s);
   tests::key(Qt::Key_Delete);
-  EXPECT_EQ(stored(), u"국민은행 001-01 김해온;"_s);
+  EXPECT_EQ(stored(), u"국민은행|001-01|김해온"_s);
   EXPECT_EQ(box("TxtBName")->text(), u"국민은행"_s);
   at.prompts.expect(u"선택한 자료를 삭제하시겠습니까?"_s);
   button("BtnDel")->click();
@@ -99,7 +94,7 @@ TEST_F(BankForm, ApostropheIsToldAndTheFormStaysUp) {
   at.prompts.expect(QString());
   button("BtnSave")->click();
   EXPECT_EQ(box("TxtBName")->text(), u"O'Bank"_s);
-  EXPECT_EQ(stored(), u"국민은행 001-01 김해온;농협 002-02 이해온;"_s);
+  EXPECT_EQ(stored(), u"국민은행|001-01|김해온;농협|002-02|이해온"_s);
 }
 
 }  // namespace

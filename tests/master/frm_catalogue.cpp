@@ -86,12 +86,10 @@ TEST_F(CatalogueForms, NewGasIsEnteredByKeysAlone) {
   EXPECT_EQ(box(form, "TxtLPGSize")->text(), u"10"_s);
   for (const QString& figure :
        {u""_s, u"15000"_s, u"19000"_s, u"18000"_s, u"20000"_s, u"6"_s, u"3"_s, u"1"_s}) {
-    tests::type(figure);
-    tests::key(Qt::Key_Return);
+    tests::enter(figure);
   }
   EXPECT_EQ(form.findChild<QLabel*>(u"LblCANTotalHold"_s)->text(), u"10"_s);
-  tests::type(u"60"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"60"_s);
   EXPECT_EQ(QApplication::focusWidget()->objectName(), u"BtnSave"_s);
   tests::key(Qt::Key_Return);
   EXPECT_EQ(answer(u"Select CANTotalHold From LPG Where Size = '10' And LPGName = 'LPG'"_s), u"10"_s);

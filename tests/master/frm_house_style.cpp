@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <memory>
 
+#include "tests/answers.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
@@ -42,12 +43,7 @@ class HouseStyleForm : public ::testing::Test {
     return nullptr;
   }
   QString households() {
-    QStringList all;
-    for (auto rs = at.session.dbBasic.OpenRecordset(
-             u"Select Name From Client Where Ho Is Not Null Order By Code"_s);
-         !rs.atEnd(); rs.MoveNext())
-      all << rs[0].toText();
-    return all.join(u';');
+    return tests::rowsOf(at.session.dbBasic, u"Select Name From Client Where Ho Is Not Null Order By Code"_s);
   }
   /** Everything of a new block of two floors with three units each, by keys; the focus ends on BtnSave. */
   void enterBlock() {
@@ -56,12 +52,10 @@ class HouseStyleForm : public ::testing::Test {
     ASSERT_TRUE(box("TxtBDName")->hasFocus());
     tests::key(Qt::Key_F12);
     ASSERT_TRUE(box("TxtDong")->hasFocus());
-    tests::type(u"103"_s);
-    tests::key(Qt::Key_Return);
+    tests::enter(u"103"_s);
     ASSERT_TRUE(box<QRadioButton>("OptStair")->hasFocus());
     tests::key(Qt::Key_Return);
-    tests::type(u"2"_s);
-    tests::key(Qt::Key_Return);
+    tests::enter(u"2"_s);
     tests::type(u"3"_s);
     for (int next = 0; next < 5; ++next) tests::key(Qt::Key_Return);  // both ticks, postcode, address
     ASSERT_TRUE(box<QCheckBox>("ChkEvaporation")->hasFocus());
@@ -71,8 +65,7 @@ class HouseStyleForm : public ::testing::Test {
     tests::key(Qt::Key_Return);  // the regulators
     ASSERT_TRUE(box("TxtEva")->hasFocus());
     tests::key(Qt::Key_Return);
-    tests::type(u"1.5"_s);
-    tests::key(Qt::Key_Return);
+    tests::enter(u"1.5"_s);
     ASSERT_TRUE(box<QPushButton>("BtnSave")->hasFocus());
   }
 
@@ -91,8 +84,7 @@ TEST_F(HouseStyleForm, ABlockIsRegisteredByKeysWithACorrectedUnit) {
   ASSERT_EQ(units->model().text(1, 4), u"203"_s);
   units->setFocus();
   units->setActiveCell(1, 4);
-  tests::type(u"201"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"201"_s);
   EXPECT_NE(units->model().background(1, 2), -1) << "the number stands twice now";
   units->setActiveCell(1, 4);
   tests::type(u"209"_s);

@@ -7,6 +7,7 @@
 #include "master/partners/response_register.h"
 #include "master/registers/register_search.h"
 #include "store/year_file.h"
+#include "tests/cells.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -37,10 +38,8 @@ struct PostCodeTest : PartnerRegistersTest {
                                to + u")"_s);
   }
   QString found(const QString& text) {
-    QStringList codes;
-    if (search.find(list, text, PostCodeSearch::Asked::ByButton))
-      for (int row = 1; row <= list.MaxRows(); ++row) codes << list.text(row, 1);
-    return codes.join(u' ');
+    const bool any = search.find(list, text, PostCodeSearch::Asked::ByButton);
+    return any ? tests::columnOf(list, 1).join(u' ') : QString();
   }
   SpreadModel list;
   PostCodeSearch search{pc.session};

@@ -307,14 +307,17 @@ struct CustomersOnTwoPcs : RegistersOnTwoPcs {
     clients.loadPage(HouseStyle::Individual);
     boxes = clients.selectRow(1);
   }
+  void saved(const QString& told) {
+    here.prompts.expect(u"위와 같이"_s);
+    here.prompts.expect(told);
+    EXPECT_TRUE(clients.save(boxes).done);
+  }
 };
 
 TEST_F(CustomersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
   there->run(u"Update Client Set GasInit = GasInit + 38000, LastDate = '2026-06-15', Address = '중앙로 9'"_s);
   boxes.memo = u"계단"_s;
-  here.prompts.expect(u"위와 같이"_s);
-  here.prompts.expect(u"바뀐 대로 두고 저장했습니다.\n주소"_s);
-  EXPECT_TRUE(clients.save(boxes).done);
+  saved(u"바뀐 대로 두고 저장했습니다.\n주소"_s);
   EXPECT_EQ(stored(u"GasInit From Client"_s), u"50500"_s);
   EXPECT_EQ(stored(u"Address From Client"_s), u"중앙로 9"_s);
   EXPECT_EQ(stored(u"Memo From Client"_s), u"계단"_s);
@@ -323,9 +326,7 @@ TEST_F(CustomersOnTwoPcs, ABalancePostedMeanwhileSurvivesTheSaveOfACustomer) {
   boxes = clients.selectRow(1);
   there->run(u"Update Client Set GasInit = GasInit - 500"_s);
   boxes.gasInit = u"50,000"_s;
-  here.prompts.expect(u"위와 같이"_s);
-  here.prompts.expect(u"고친 차이 -500만 더하여 49,500(으)로 저장했습니다."_s);
-  EXPECT_TRUE(clients.save(boxes).done);
+  saved(u"고친 차이 -500만 더하여 49,500(으)로 저장했습니다."_s);
   EXPECT_EQ(stored(u"GasInit From Client"_s), u"49500"_s);
 
   boxes = clients.selectRow(1);

@@ -1,6 +1,7 @@
 // Cylinders by delivery person: person, item and size are the key, and counts are kept by hand.
 #include "trade/can_book.h"
 
+#include "tests/cells.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -17,15 +18,7 @@ struct CanBookTest : testing::Test {
               .arg(row));
     ASSERT_TRUE(book.load());
   }
-  QString rows() {
-    QStringList lines;
-    for (int row = 1; row <= book.list().MaxRows(); ++row) {
-      QStringList cells;
-      for (int col = 1; col <= 6; ++col) cells << book.list().text(row, col);
-      lines << cells.join(u' ');
-    }
-    return lines.join(u';');
-  }
+  QString rows() { return tests::rowsOf(book.list(), u" "_s).join(u';'); }
   RegisterFields counted(const QString& person, const QString& size, int empty, int full) {
     return {{u"ResName"_s, person},
             {u"LPGName"_s, u"LPG"_s},

@@ -2,6 +2,7 @@
 #include "trade/forecast.h"
 
 #include "store/year_file.h"
+#include "tests/cells.h"
 #include "tests/trade/sale_desk.h"
 
 namespace {
@@ -12,15 +13,11 @@ struct Estimate : tests::SaleDesk {
   /** Lines of gas of one customer on these days of 2026. */
   void delivered(int client, const QStringList& days, int kind = 1, bool volume = false) {
     for (const QString& day : days)
-      run("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleNum, SaleGubun, Gubun) Values('" +
-          (day.size() == 5 ? "2026-" + day : day) + "', " + QString::number(client) + ", 'LPG', '20', 1, " +
-          QString::number(kind) + (volume ? ", True)" : ", False)"));
+      sold(QString("'%1', %2, %3, %4, 'LPG', '20', 1")
+               .arg(day.size() == 5 ? "2026-" + day : day, QString::number(client), QString::number(kind),
+                    volume ? "True" : "False"));
   }
-  QString shown(int row) {
-    QStringList cells;
-    for (int col = 1; col <= ForecastCol::Code; ++col) cells << forecast.grid().text(row, col);
-    return cells.join('|');
-  }
+  QString shown(int row) { return tests::cellsOf(forecast.grid(), row, 1, ForecastCol::Code).join('|'); }
   bool extract(ForecastOf which = ForecastOf::All, const std::optional<QString>& day = {}) {
     return forecast.ExtractForecast(which, "2026", day);
   }
@@ -65,9 +62,7 @@ TEST(Forecast, WhichCustomers) {
   of.delivered(2, {"02-01"}, 1, true);  // not billed by the meter, but once on the volume sheet
   const auto names = [&](ForecastOf which) {
     EXPECT_TRUE(of.extract(which));
-    QString all;
-    for (int row = 1; row <= of.forecast.grid().MaxRows(); ++row) all += of.forecast.grid().text(row, 1);
-    return all;
+    return tests::columnOf(of.forecast.grid(), ForecastCol::Name).join("");
   };
   EXPECT_EQ(names(ForecastOf::General), "산골식당");
   EXPECT_EQ(names(ForecastOf::Volume), "박");

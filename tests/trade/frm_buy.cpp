@@ -23,8 +23,7 @@ struct BuyScreen : tests::KeyScreen<tests::BuyDesk, frmBuy> {
   }
   /** Types, enters and is where the hand goes next; a cell of a stored line asks before. */
   void step(const QString& typed, const char* then) {
-    tests::type(typed);
-    tests::key(Qt::Key_Return);
+    tests::enter(typed);
     EXPECT_EQ(place(), then);
   }
   void change(const QString& typed, const char* then) {
@@ -78,8 +77,7 @@ TEST(FrmBuy, EscShowsAllAndF10TheLedger) {
 TEST(FrmBuy, ATypedDayIsTheNextLines) {
   BuyScreen screen;
   screen.form->findChild<DateBox*>("txtDate")->setFocus();
-  tests::type("0301");
-  tests::key(Qt::Key_Return);
+  tests::enter("0301");
   QApplication::processEvents();  // the day is taken once the focus has gone
   screen.step("111-2222", "1:3");
   EXPECT_EQ(screen.grid()->model().text(1, LineCol::Date), "03-01");

@@ -48,8 +48,7 @@ struct SaleScreen : tests::SaleDesk {
   }
   void customer(const char* typed, int code, const QString& name) {
     pickers.clients.push_back(ClientChoice{code, name});
-    type(typed);
-    press(Qt::Key_Return);
+    tests::enter(typed);
   }
   void item(const QString& size, double price) {
     pickers.items.push_back(ItemChoice{"LPG", size, price, 0});
@@ -74,8 +73,7 @@ TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.at(), "1,9") << "Enter on an unchanged cell goes on by one";
   sale.asked();
-  sale.type("30000");
-  sale.press(Qt::Key_Return);
+  tests::enter("30000");
   EXPECT_EQ(sale.at(), "1,11");
   EXPECT_EQ(sale.label("LblGasTrust"), "110,000");
   sale.pickers.persons = {QString("홍길동")};
@@ -89,8 +87,7 @@ TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
   EXPECT_EQ(sale.at(), "2,9");
   EXPECT_EQ(sale.cell(2, LineCol::Amount), "110000");
   sale.asked();
-  sale.type("10000");
-  sale.press(Qt::Key_Return);
+  tests::enter("10000");
   EXPECT_EQ(sale.label("LblGasTrust"), "100,000");
   EXPECT_EQ(sale.label("LblEndDay"), "2026-03-05");
 
@@ -102,8 +99,7 @@ TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
   EXPECT_EQ(sale.stock(), "980|100|11|40|49") << "an empty back for the full one, then an empty lent";
   sale.grid()->setActiveCell(3, LineCol::Number);
   sale.asked();
-  sale.type("3");
-  sale.press(Qt::Key_Return);
+  tests::enter("3");
   EXPECT_EQ(sale.stock(), "980|100|13|38|49");
   sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?", false);
   sale.press(Qt::Key_Delete);
@@ -123,8 +119,7 @@ TEST(FrmSale, RefusedTextsPutTheCellBackAndKeepTheCursor) {
   sale.item("20", 40000);
   sale.asked();
   sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
-  sale.type("50000");
-  sale.press(Qt::Key_Return);
+  tests::enter("50000");
   EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Amount), "1,8 40000");
   EXPECT_FALSE(sale.grid()->isEditing());
 

@@ -47,8 +47,7 @@ TEST(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
   tests::grab(*screen.form, "frmVolumeEstimate");
 
   screen.grid()->setActiveCell(1, ForecastCol::Reserved);
-  tests::type("03-07");
-  tests::key(Qt::Key_Return);
+  tests::enter("03-07");
   EXPECT_EQ(screen.rows("Select EstimateDate From Client Where Code = 1"), "03-07");
   screen.form->findChild<QComboBox*>("CboMonS")->setCurrentText("3");
   auto* const day = screen.form->findChild<QComboBox*>("CboDayS");
@@ -95,8 +94,7 @@ TEST(FrmResCan, PersonAndItemComeFromTheirSearches) {
   ASSERT_TRUE(form.findChild<QLineEdit*>("TxtLPGName")->hasFocus());
   tests::key(Qt::Key_F12);
   EXPECT_EQ(text("TxtLPGName") + text("TxtCANSize"), "LPG20");
-  tests::type("3");
-  tests::key(Qt::Key_Return);
+  tests::enter("3");
   tests::type("12");
   EXPECT_EQ(text("TxtCANTotal"), "15");
   form.findChild<QPushButton*>("BtnSave")->click();

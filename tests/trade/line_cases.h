@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QTextStream>
 
+#include "tests/cells.h"
 #include "tests/trade/sale_desk.h"
 
 namespace tests {
@@ -94,11 +95,8 @@ class CaseHand {
     return (last.row > row ? "+" : "") + QString::number(last.col);
   }
   QString figures() {
-    QStringList texts;
-    const bool stored = !book.grid().text(row, LineCol::Key).isEmpty();
-    for (int col = LineCol::Number; col <= LineCol::Trust && stored; ++col)
-      texts << book.grid().text(row, col);
-    return texts.join(u'|');
+    if (book.grid().text(row, LineCol::Key).isEmpty()) return {};
+    return cellsOf(book.grid(), row, LineCol::Number, LineCol::Trust).join(u'|');
   }
 
  private:

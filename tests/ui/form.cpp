@@ -188,8 +188,7 @@ TEST_F(FormTest, ErrorsEndInABox) {
   at.prompts.expect(u"3022"_s);
   form.grid->setFocus();
   form.grid->setActiveCell(2, 1);
-  tests::type(u"error"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"error"_s);
   EXPECT_EQ(form.grid->editingText(), u"error"_s);
   EXPECT_EQ(form.rows.text(2, 1), u"부탄"_s);
   form.grid->cancelEdit();

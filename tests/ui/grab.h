@@ -38,6 +38,12 @@ inline void type(const QString& text) {
   for (const QChar letter : text) QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
 }
 
+/** The same, and Enter. */
+inline void enter(const QString& text) {
+  type(text);
+  key(Qt::Key_Return);
+}
+
 /** The syllables an input method composes: every step as preedit, then the commit. */
 inline void compose(const QStringList& preedits, const QString& commit) {
   for (const QString& preedit : preedits) {

@@ -3,13 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "tests/cpu_clock.h"
 #include "tests/ui/grab.h"
 
 using namespace Qt::StringLiterals;
@@ -74,8 +74,7 @@ TEST_F(SpreadTest, TypingReplacesAndF2KeepsTheText) {
   EXPECT_EQ(model.text(1, 2), u"한강식당"_s);
 
   tests::key(Qt::Key_F2);
-  tests::type(u"2"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"2"_s);
   EXPECT_EQ(model.text(1, 2), u"한강식당2"_s);
   EXPECT_EQ(finished, QStringList{u"1,2:한강식당>한강식당2"_s});
   EXPECT_EQ(grid->activeCol(), 3) << "Enter goes on to the next open cell";
@@ -85,14 +84,12 @@ TEST_F(SpreadTest, UnchangedCellWritesNothing) {
   tests::key(Qt::Key_F2);
   tests::key(Qt::Key_Return);
   grid->setActiveCell(1, 5);
-  tests::type(u"36000"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"36000"_s);
   EXPECT_EQ(finished, QStringList());
 }
 
 TEST_F(SpreadTest, RefusedTextStaysInTheOpenEditorAndCancelsWhoeverAsked) {
-  tests::type(u"no"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"no"_s);
   EXPECT_TRUE(grid->isEditing());
   EXPECT_EQ(grid->editingText(), u"no"_s);
   EXPECT_EQ(grid->activeCol(), 2);
@@ -115,8 +112,7 @@ TEST_F(SpreadTest, RuleThatPutsTheOldTextBackKeepsTheFocusThere) {
     grid->cancelEdit();
     return false;
   };
-  tests::type(u"zz"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"zz"_s);
   EXPECT_FALSE(grid->isEditing());
   EXPECT_EQ(grid->activeCol(), 2);
   EXPECT_EQ(model.text(1, 2), u"한강식당"_s);
@@ -171,13 +167,11 @@ TEST_F(SpreadTest, LockedHiddenAndNumberCells) {
   EXPECT_EQ(grid->activeCol(), 8) << "the hidden column is passed over";
 
   grid->setActiveCell(1, 4);
-  tests::type(u"1,x2"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"1,x2"_s);
   EXPECT_EQ(model.text(1, 4), u"12"_s) << "offered without separators";
 
   grid->setActiveCell(1, 1);
-  tests::type(u"0615"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"0615"_s);
   EXPECT_EQ(model.text(1, 1), u"06-15"_s) << "the mask writes the dash";
 }
 
@@ -323,8 +317,7 @@ TEST_F(SpreadTest, APageThatIsLeftKeepsNoOpenEditor) {
     pages.setCurrentIndex(1);
     return false;
   };
-  tests::type(u"x"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"x"_s);
   EXPECT_FALSE(grid->isEditing());
   EXPECT_TRUE(second->hasFocus());
 
@@ -363,8 +356,7 @@ TEST_F(SpreadTest, RuleMovesTheCursorAndEnterDoesNotMoveItAgain) {
     grid->setActiveCell(row, 8);
     return true;
   };
-  tests::type(u"x"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"x"_s);
   EXPECT_EQ(grid->activeCol(), 8);
   EXPECT_EQ(enters, 0);
   EXPECT_FALSE(grid->isEditing());
@@ -429,8 +421,7 @@ TEST_F(SpreadTest, RowsComeAndGoUnderTheOpenEditor) {
   EXPECT_TRUE(grid->commitEdit());
   model.clear();
   EXPECT_EQ(grid->activeRow(), 0);
-  tests::type(u"x"_s);
-  tests::key(Qt::Key_Return);
+  tests::enter(u"x"_s);
   EXPECT_FALSE(grid->isEditing());
 }
 
@@ -503,13 +494,12 @@ TEST_F(SpreadTest, PageAndEditAreFastWithManyRows) {
   model.setRows(std::move(rows));
   grid->setActiveCell(1, 2);
   window.grab();
-  QElapsedTimer clock;
-  clock.start();
+  const tests::CpuClock clock;
   for (int page = 0; page < 20; ++page) {
     tests::key(Qt::Key_PageDown);
     window.grab();
   }
-  // One page with its drawing; generous, for a build with sanitizers on a busy machine.
+  // One page with its drawing; generous, for a build with sanitizers.
   EXPECT_LT(clock.elapsed() / 20, 150);
   EXPECT_EQ(grid->activeRow(), 1 + 20 * grid->rowsOnPage());
   tests::key(Qt::Key_End, Qt::ControlModifier);
