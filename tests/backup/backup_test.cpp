@@ -138,6 +138,8 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
   const auto listed = backup::archivesOf(pc.paths, settings);
   ASSERT_EQ(listed.size(), 3);
   EXPECT_EQ(listed.first().path, second.archive);
+  backup::keepNewest(pc.paths, settings.folder, Series::Books, 0);
+  EXPECT_EQ(shelf(), (QStringList{made[4], support, u"해온판매-내것.zip"_s})) << "the newest never goes";
 }
 
 TEST_F(BackupTest, WhatAKilledRunLeftLocksNobodyOutAndGoes) {

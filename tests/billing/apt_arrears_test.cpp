@@ -77,6 +77,12 @@ TEST(AptArrears, WhatNoListedMonthWasBilledIsOlder) {
   EXPECT_TRUE(spreadPayments({}, {}).months.empty());
 }
 
+TEST(AptArrears, AMonthBilledBelowNothingIsNotOpenAndHandsTheRestOn) {
+  std::vector<AptMonth> months = threeMonths(0);
+  months[1].usePay = -20000;
+  EXPECT_EQ(openOf(months), "16270 0 20800 +11110");
+}
+
 TEST(AptArrears, AMonthsOwnBillIsRoundedAsTheBillIs) {
   // 3.3 m3 x 2,450 = 8,085; + 800 = 8,885: cut, up, half up.
   const std::vector<AptMonth> months{

@@ -148,6 +148,12 @@ TEST_F(BriefRunTest, WhatIsShownIsStaged) {
   EXPECT_EQ(staged("Str01").size(), 2) << "nothing is staged before it is printed";
 }
 
+TEST_F(BriefRunTest, ATextLongerThanItsColumnIsCut) {
+  printBriefRows(session, {{.header = "글", .staged = "Str01"}}, {{QString(300, u'가')}},
+                 {.report = "글.rpt"});
+  EXPECT_EQ(staged("Str01").first().size(), 255);
+}
+
 TEST_F(BriefRunTest, AnAddressCarriesItsAnswers) {
   const QString address =
       briefAddress("frmX", "lines", {{"TxtName", "김&이=:?"}, {"TxtDayFrom", "2026-01-01"}});

@@ -114,9 +114,15 @@ TEST_F(ClientRegistering, refusalsSendTheFocusAndWriteNothing) {
   EXPECT_EQ(clients.save(boxes).focus, ClientBox::Birth);
 
   boxes = plain("김철수");
-  boxes.gasInit = "1,000,000,000";
-  pc.prompts.expect("미수금은 -999,999,999원부터");
-  EXPECT_EQ(clients.save(boxes).focus, ClientBox::GasInit);
+  for (const char* const most : {"1,000,000,000", "-1000000000", "많이"}) {
+    boxes.gasInit = most;
+    boxes.utilInit = "999,999,999";
+    pc.prompts.expect("미수금은 -999,999,999원부터");
+    EXPECT_EQ(clients.save(boxes).focus, ClientBox::GasInit) << most;
+    std::swap(boxes.gasInit, boxes.utilInit);
+    pc.prompts.expect("미수금은 -999,999,999원부터");
+    EXPECT_EQ(clients.save(boxes).focus, ClientBox::UtilInit) << most;
+  }
   EXPECT_EQ(count(pc.session.dbBasic, "Client"), 0);
   EXPECT_TRUE(clients.isNew()) << "the boxes stay open for mending";
 }

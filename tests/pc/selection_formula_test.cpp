@@ -66,7 +66,7 @@ TEST(SelectionFormula, AnythingElseIsRefused) {
                               "()",
                               "{Sale.A} = '1' 'x'",
                               "{Buy.A} = 1",
-                              "{Sale.A} = 1 Andy {Sale.A} = 2"})
+                              "{Sale.A} = 1 Andnot {Sale.A} = 2"})
     EXPECT_TRUE(condition(formula).startsWith("!선택 조건"))
         << formula << " -> " << condition(formula).toStdString();
   const QString deep = QString("(").repeated(30) + "{Sale.A} = 1" + QString(")").repeated(30);

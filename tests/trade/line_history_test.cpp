@@ -22,8 +22,8 @@ struct LastOffer : testing::Test {
                                                                          QString::number(unit), person));
   }
   /** Item, price and person on a new gas line of the general sheet. */
-  QString offered() {
-    book.FillSaleGrid(SaleSheet::General, true);
+  QString offered(SaleSheet sheet = SaleSheet::General) {
+    book.FillSaleGrid(sheet, true);
     const int row = book.grid().MaxRows();
     book.grid().setText(row, LineCol::Code, "1");
     book.grid().setComboPosition(row, LineCol::Kind, 0);
@@ -38,6 +38,7 @@ TEST_F(LastOffer, IsTheNewestLineOfTheSheetWithItsPriceAndPerson) {
   EXPECT_EQ(offered(), "LPG/20 39000 홍길동");
   sold("2026-03-03", "True", "50", 0, "홍길동");
   EXPECT_EQ(offered(), "LPG/20 39000 홍길동") << "the meter's lines are another matter";
+  EXPECT_EQ(offered(SaleSheet::Volume), "LPG/50 90000 홍길동");
 }
 
 TEST_F(LastOffer, ALineWithoutAPriceIsOfferedAtTheCatalogues) {

@@ -70,6 +70,12 @@ TEST(SaleKinds, PositionsAndCodes) {
   EXPECT_EQ(saleIsGasGoods("K"), "Not ((K = 4) Or (K = 7 Or K = 8))");
 }
 
+TEST(TradeLine, FiguresOfACellAreWholeAsTheStoreRounds) {
+  const std::pair<const char*, qint64> cells[] = {
+      {"1,234", 1234}, {"2.5", 2}, {"3.5", 4}, {"-2.6", -3}, {"", 0}};
+  for (const auto& [text, whole] : cells) EXPECT_EQ(lineWhole(text), whole) << text;
+}
+
 TEST(SalePosting, EachKindAsksForItsItemsAndAPaymentForNone) {
   Sale sale;
   sale.item(sale.ofKind("실병"), "LPG", "20", 40000);
@@ -141,6 +147,8 @@ TEST(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
   EXPECT_EQ(sale.cell(row, LineCol::Date) + sale.posting.date(), "");
   EXPECT_EQ(sale.rows("Select SaleDate From Sale"), "2026-02-10") << "a wrong day is never written";
   sale.pc.prompts.expect("날짜를 입력하세요");
+  EXPECT_EQ(sale.entry.finishCell(row, LineCol::Number, "3").col, LineCol::Date) << "nor a cell without one";
+  sale.pc.prompts.expect("날짜를 입력하세요");
   EXPECT_EQ(sale.entry.missingField(row), LineCol::Date);
   EXPECT_TRUE(sale.posting.setDate("3.5"));
   EXPECT_EQ(sale.posting.date(), "03-05");
@@ -179,7 +187,9 @@ TEST(SalePosting, SheetsShowTheirLinesOfADayOrOfACustomer) {
                                  "'2026-03-04', 2, 9, False, 'LPG', '20', 1, 1, 0, 0, 0",
                                  "'2026-03-05', 3, 1, True, 'LPG', '50', 1, 90000, 0, 0, 0",
                                  "'2026-03-05', 1, 8, False, '자재수금', '0', 0, 0, 0, 3000, 2000",
-                                 "'2024-12-31', 2, 1, False, 'LPG', '20', 1, 1, 0, 0, 0"})
+                                 "'2024-12-31', 2, 1, False, 'LPG', '20', 1, 1, 0, 0, 0",
+                                 "'2026-03-05', 3, 7, True, '밸브', '15A', 1, 100, 0, 100, 0",
+                                 "'2026-03-05', 3, 8, True, '자재수금', '0', 0, 0, 0, 100, 0"})
     sale.sold(line);
 
   sale.posting.FillSaleGrid(SaleSheet::General, true);
@@ -192,14 +202,15 @@ TEST(SalePosting, SheetsShowTheirLinesOfADayOrOfACustomer) {
   ASSERT_EQ(sale.cells().MaxRows(), 3) << "this year's and last year's lines";
   EXPECT_EQ(sale.cell(1, LineCol::Kind), "실병") << "a kind outside the table stands at the last position";
   sale.posting.FillSaleGrid(SaleSheet::Volume, true);
-  EXPECT_EQ(sale.cell(1, LineCol::Partner), "별빛 3동");
+  EXPECT_EQ(tests::columnOf(sale.cells(), LineCol::Partner), QStringList({"별빛 3동", ""}))
+      << "fittings stand on their own sheet alone";
   sale.posting.FillSaleGrid(SaleSheet::Material, true);
   EXPECT_EQ(sale.cell(1, LineCol::Item) + sale.figures(1), "자재수금|||5000|3000|2000");
 
   const SaleClientPanel panel = sale.posting.panel(1);
   EXPECT_EQ(panel.address + panel.gasTrust + panel.utilTrust, "(706-010) 대구 수성구 1100,0005,000");
   EXPECT_EQ(panel.map, "약도없슴");
-  EXPECT_EQ(sale.posting.panel(2).address, "");
+  EXPECT_EQ(sale.posting.panel(4).address, "");
 }
 
 TEST(SaleEntry, ChoosingACustomerOnAStoredLineOpensTheBottomRow) {
@@ -216,6 +227,25 @@ TEST(SaleEntry, ChoosingACustomerOnAStoredLineOpensTheBottomRow) {
   EXPECT_EQ(sale.cell(1, LineCol::Partner) + sale.cell(1, LineCol::Code) + sale.cell(1, LineCol::Date),
             "한빛 101동 202호203-05");
   EXPECT_EQ(sale.rows("Select ClientCode From Sale"), "1");
+  sale.posting.refill();
+  sale.pickers.asked.clear();
+  EXPECT_EQ(sale.entry.enterKey(1, LineCol::Partner, {}).col, LineCol::Kind) << "Enter only passes it";
+  EXPECT_TRUE(sale.pickers.asked.isEmpty());
+}
+
+TEST(SaleEntry, CreditAsksUnlessTheLineWasBegunHereAndNotYetLeft) {
+  Sale sale;
+  const int row = sale.gasLine();
+  EXPECT_EQ(sale.entry.onCredit(row).col, LineCol::Person);
+  EXPECT_EQ(sale.balance(), "140000|5000");
+  sale.entry.makeRoomBelow(row);
+  sale.entry.enteredRow(row + 1);
+  sale.change(row, LineCol::Paid, "40000");
+  for (const bool yes : {false, true}) {
+    sale.pc.prompts.expect("선택된 자료를 변경하시겠습니까?", yes);
+    sale.entry.onCredit(row);
+    EXPECT_EQ(sale.balance(), yes ? "140000|5000" : "100000|5000");
+  }
 }
 
 TEST(SaleEntry, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
@@ -306,6 +336,7 @@ TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
 TEST(SaleEntry, AnItemTypedInItsCellIsOneOfTheCatalogueOrNothing) {
   Sale sale;
   sale.run("Update LPG Set LPGSelling = 27000 Where Size = '50'");
+  sale.run("Insert Into LPG(LPGName, Size, LPGSelling) Values('50', '13', 1)");  // a size goes before a name
   const int row = sale.newRow(Sale::Plain, "산골식당");
   sale.entry.enterKey(row, LineCol::Kind, "가스");
   EXPECT_EQ(sale.entry.enterKey(row, LineCol::Item, "50").col, LineCol::Amount) << "a size is enough";
