@@ -2,7 +2,6 @@
 
 #include <QButtonGroup>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QIntValidator>
@@ -21,7 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 shortWork = 200;  ///< milliseconds, done without a bar
+constexpr int fewCustomers = 500;  ///< done before an eye has read a bar
 
 /** "5" is the fifth. */
 void fillWithZero(QComboBox* box) {
@@ -136,17 +135,22 @@ void frmVolumeEstimate::findOfDay() {
 void frmVolumeEstimate::extract(const std::optional<QString>& day) {
   const BusyPointer busy;
   std::unique_ptr<FrmProgress> bar;
-  QElapsedTimer since;
-  since.start();
+  QString stoppedAt;
   const auto tell = [&](int done, int all) {
-    if (!bar && since.elapsed() < shortWork) return true;
+    if (all < fewCustomers) return true;
     if (!bar) bar = std::make_unique<FrmProgress>(u"배달 예상일자를 추출하고 있습니다..."_s, all, true, this);
-    return bar->step(done, u"%1 / %2"_s.arg(done).arg(all));
+    const QString reached = u"%1 / %2"_s.arg(done).arg(all);
+    if (bar->step(done, reached)) return true;
+    stoppedAt = reached;
+    return false;
   };
   const auto which = ForecastOf(std::max(0, which_->checkedId()));
   const bool found = forecast_.ExtractForecast(which, year_->text(), day, tell);
   bar.reset();
   if (!found) return;
-  if (day && forecast_.grid().MaxRows() == 0) showHelp(*day + u" 에 배달이 예상되는 고객이 없습니다"_s);
   focusGrid();
+  if (!stoppedAt.isEmpty())
+    showHelp(u" 중지하였습니다. 고객 "_s + stoppedAt + u" 까지만 추출되었습니다"_s);
+  else if (day && forecast_.grid().MaxRows() == 0)
+    showHelp(*day + u" 에 배달이 예상되는 고객이 없습니다"_s);
 }

@@ -2,10 +2,13 @@
 #include "trade/frmVolumeEstimate.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 
 #include "store/report_staging.h"
 #include "tests/briefs/brief_desk.h"
@@ -76,6 +79,40 @@ TEST(FrmVolumeEstimate, ADayMustBeNamed) {
   screen.form->findChild<QLineEdit*>("TxtYear")->setText("2019");
   screen.pc.prompts.expect("2019년의 배달자료가 없습니다!");
   screen.click("BtnFind");
+}
+
+TEST(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
+  constexpr int customers = 3000;
+  EstimateScreen screen;
+  screen.pc.session.wsMain.Together([&] {
+    for (int client = 4; client < 4 + customers; ++client) {
+      const QString code = QString::number(client);
+      screen.run("Insert Into Client(Code, Name, VolumeYesNo) Values(" + code + ", '고객', False)");
+      screen.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('2026-02-01', " + code +
+                 ", 1, False)");
+    }
+  });
+  screen.click("SSOption1(2)");
+  bool seen = false;
+  QTimer watch;
+  QObject::connect(&watch, &QTimer::timeout, &*screen.form, [&] {
+    auto* const bar = screen.form->findChild<QProgressBar*>("ProgressBar");
+    if (!bar || bar->value() <= 0 || seen) return;
+    seen = true;
+    screen.form->findChild<QPushButton*>("BtnStop")->click();
+  });
+  watch.start(0);
+  screen.click("BtnFind");
+  EXPECT_TRUE(seen) << "a bar with a way to stop";
+  EXPECT_FALSE(screen.form->findChild<QWidget*>("FrmProgress"));
+  const int reached = screen.grid()->model().MaxRows();
+  EXPECT_GT(reached, 0);
+  EXPECT_LT(reached, customers);
+  EXPECT_EQ(screen.form->findChild<QLabel*>("PnlHelp")->text(),
+            QString(" 중지하였습니다. 고객 %1 / %2 까지만 추출되었습니다").arg(reached).arg(customers + 1));
+  watch.stop();
+  screen.click("BtnFind");
+  EXPECT_EQ(screen.grid()->model().MaxRows(), customers + 1) << "the next search is whole";
 }
 
 TEST(FrmResCan, PersonAndItemComeFromTheirSearches) {
