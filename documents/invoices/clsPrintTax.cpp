@@ -6,6 +6,7 @@
 
 #include "documents/ledger/softly.h"
 #include "store/data_access.h"
+#include "store/jet/sql.h"
 
 namespace {
 
@@ -52,15 +53,16 @@ void clsPrintTax::Empty() const {
 
 bool clsPrintTax::Insert() const {
   return softly([&] {
-    tax_.Execute(
-        "INSERT INTO NewAcount(TaxCode, CCode, CName, PCode, PName, PNorm, Quantity, UnitCost, TradeKum, "
-        "VatKum, SumKum, DealDate, IssueDate, Item, Code, Station) VALUES('" +
-        plainText(line.TaxCode) + "', '" + plainText(line.CCode) + "', '" + copiedText(line.CName) + "', '" +
-        plainText(line.PCode) + "', '" + copiedText(line.PName) + "', '" + copiedText(line.PNorm) + "', " +
-        number(line.Quantity) + ", " + number(line.UnitCost) + ", " + QString::number(line.TradeKum) + ", " +
-        QString::number(line.VatKum) + ", " + QString::number(line.SumKum) + ", '" +
-        plainText(line.DealDate) + "', '" + plainText(line.IssueDate) + "', " + QString::number(line.Item) +
-        ", '" + plainText(line.Code) + "', '" + plainText(station_) + "');");
+    tax_.Execute(jet::Sql()
+                 << u"INSERT INTO NewAcount(TaxCode, CCode, CName, PCode, PName, PNorm, Quantity, UnitCost, "
+                    u"TradeKum, VatKum, SumKum, DealDate, IssueDate, Item, Code, Station) VALUES('"
+                 << plainText(line.TaxCode) << u"', '" << plainText(line.CCode) << u"', '"
+                 << copiedText(line.CName) << u"', '" << plainText(line.PCode) << u"', '"
+                 << copiedText(line.PName) << u"', '" << copiedText(line.PNorm) << u"', " << line.Quantity
+                 << u", " << line.UnitCost << u", " << line.TradeKum << u", " << line.VatKum << u", "
+                 << line.SumKum << u", '" << plainText(line.DealDate) << u"', '" << plainText(line.IssueDate)
+                 << u"', " << line.Item << u", '" << plainText(line.Code) << u"', '" << plainText(station_)
+                 << u"');");
   });
 }
 

@@ -25,17 +25,20 @@ bool clsTrade::Delete() const {
          gone > 0;
 }
 
+/** Added up by code first and named then: sorted by code a month's lines compare as numbers, by name as texts. */
 jet::Recordset clsTrade::TaxQuery(const QString& from, const QString& to, TaxGathering kind) const {
   const bool daily = kind == TaxGathering::Daily;
   const QString day = daily ? "Sale.saledate" : "Left$(Sale.saleDate, 7)";
   return db_.OpenRecordset(
-      "SELECT " + day +
-      " AS SDealDate, client.Name AS CName, Sum(Sale.saleunit * sale.salenum) AS SumKum, "
+      "SELECT Sums.SDealDate, client.Name AS CName, Sums.SumKum, Sums.CSPCode, Sums.SumVat, Sums.SPName, "
+      "Sums.SumQuantity, Sums.FUnitCost, Sums.SCCode, Sums.SPNorm, Sums.SumDC FROM (SELECT " +
+      day +
+      " AS SDealDate, Sum(Sale.saleunit * sale.salenum) AS SumKum, "
       "Count(Sale.salename) AS CSPCode,Sum(0) AS SumVat, First(Sale.salename) AS SPName, "
       "Sum(Sale.salenum) AS SumQuantity, First(Sale.saleunit) AS FUnitCost, Sale.ClientCode AS SCCode, "
-      "First(Sale.Salething) AS SPNorm, Sum(sale.DC) as SumDC FROM Sale LEFT JOIN Client ON "
-      "Sale.ClientCode = client.Code WHERE Sale.saleDate BETWEEN '" +
+      "First(Sale.Salething) AS SPNorm, Sum(sale.DC) as SumDC FROM Sale WHERE Sale.saleDate BETWEEN '" +
       plainText(from) + "' AND '" + plainText(to) +
-      "' AND Sale.saleunit <> 0 and Sale.SaleList = 0 GROUP BY " + day +
-      ", client.Name, Sale.ClientCode ORDER BY " + (daily ? "Sale.saleDate;" : "Client.Name;"));
+      "' AND Sale.saleunit <> 0 and Sale.SaleList = 0 GROUP BY Sale.ClientCode, " + day +
+      ") AS Sums LEFT JOIN Client ON Sums.SCCode = client.Code ORDER BY " +
+      (daily ? "Sums.SDealDate, Client.Name, Sums.SCCode;" : "Client.Name, Sums.SDealDate, Sums.SCCode;"));
 }
