@@ -2,7 +2,6 @@
 
 #include <QFile>
 
-#include "bench/pairs.h"
 #include "store/data_files.h"
 #include "store/upgrades.h"
 #include "store/year_file.h"
@@ -15,7 +14,7 @@ void NoPrompts::stop(const QString& text) {
   require(false, text.toUtf8().constData());
 }
 
-Books::Books() {
+Books::Books(int clients, int lines) {
   pc.clock.set(QDateTime({2026, 3, 16}, {9, 0}));
   session.AppTitle = u"해온판매"_s;
   session.DbPath = installedDataFolder();
@@ -27,6 +26,7 @@ Books::Books() {
   session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + u"Basic.mdb"_s);
   require(upgrades::relink(session), "links");
   session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
+  session.dbTax = session.wsMain.OpenDatabase(session.DbPath + u"dbTax.mdb"_s);
   session.dbCommon = session.dbBasic;
   session.dbBasic.Execute(
       "Insert Into User(Company, PayState, Rate, Security, AptRate, AptSecurity, ManyRate, "
@@ -34,6 +34,8 @@ Books::Books() {
   session.dbBasic.Execute(
       "Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) "
       "Values('LPG', '20', 1000, 100, 10, 40, 50)");
+  addClients(clients);
+  if (lines > 0) addSales(session.dbYear, lines, clients);
 }
 
 Books::~Books() = default;
@@ -103,6 +105,46 @@ sqlite3_stmt* Plain::prepare(const char* sql) {
 void step(sqlite3_stmt* statement) {
   require(sqlite3_step(statement) == SQLITE_DONE, "a plain statement");
   sqlite3_reset(statement);
+}
+
+QString cell(sqlite3_stmt* statement, int column) {
+  return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(statement, column)),
+                           sqlite3_column_bytes(statement, column));
+}
+
+void bindText(sqlite3_stmt* statement, int parameter, const QString& text) {
+  sqlite3_bind_text(statement, parameter, text.toUtf8().constData(), -1, SQLITE_TRANSIENT);
+}
+
+Rows rowsOf(const jet::Database& db, const QString& sql) {
+  Rows rows;
+  for (jet::Recordset found = db.OpenRecordset(sql); !found.atEnd(); found.MoveNext()) {
+    std::vector<QString>& cells = rows.emplace_back();
+    for (int at = 0; at < int(found.fieldNames().size()); ++at) cells.push_back(found[at].toText());
+  }
+  return rows;
+}
+
+Rows rowsOf(sqlite3_stmt* query) {
+  Rows rows;
+  while (sqlite3_step(query) == SQLITE_ROW) {
+    std::vector<QString>& cells = rows.emplace_back();
+    for (int at = 0; at < sqlite3_column_count(query); ++at)
+      cells.push_back(sqlite3_column_type(query, at) == SQLITE_FLOAT
+                          ? QString::number(sqlite3_column_double(query, at), 'g', 15)
+                          : cell(query, at));
+  }
+  sqlite3_reset(query);
+  return rows;
+}
+
+Rows cellsOf(const SpreadModel& grid, bool closed) {
+  Rows rows;
+  for (int row = 1; row <= grid.MaxRows() - (closed ? 1 : 0); ++row) {
+    std::vector<QString>& cells = rows.emplace_back();
+    for (int col = 1; col <= grid.MaxCols(); ++col) cells.push_back(grid.text(row, col));
+  }
+  return rows;
 }
 
 }  // namespace bench

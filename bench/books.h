@@ -5,8 +5,10 @@
 
 #include <QTemporaryDir>
 
+#include "bench/pairs.h"
 #include "pc/pc.h"
 #include "store/session.h"
+#include "ui/model/spread_model.h"
 
 namespace bench {
 
@@ -25,9 +27,10 @@ struct NoPrompts : Prompts {
 
 /** 2026-03-16, stock management on. */
 struct Books {
-  Books();
+  /** With customers and, when wanted, so many lines of them in the year's file. */
+  explicit Books(int clients = 0, int lines = 0);
   ~Books();
-  /** Customers 1 to count with telephones, a fifth of them metered when wanted. */
+  /** Customers 1 to count with telephones. */
   void addClients(int count);
   /** Lines spread over the days of the year and its customers, in the year's file. */
   void addSales(const jet::Database& year, int lines, int clients, int yearNumber = 2026);
@@ -58,5 +61,13 @@ void knowTextOrder(sqlite3* db);
 
 /** A bound statement that gives no rows, run and reset. */
 void step(sqlite3_stmt* statement);
+/** The field of the row on which a statement stands, as a cell holds it. */
+QString cell(sqlite3_stmt* statement, int column);
+void bindText(sqlite3_stmt* statement, int parameter, const QString& text);
+/** What a query gives, as texts. */
+Rows rowsOf(const jet::Database& db, const QString& sql);
+Rows rowsOf(sqlite3_stmt* query);
+/** Every cell of a grid, without a closing row of sums. */
+Rows cellsOf(const SpreadModel& grid, bool closed = false);
 
 }  // namespace bench

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 
+#include "bench/pairs.h"
 #include "pc/program_line.h"
+#include "store/jet/error.h"
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +27,10 @@ int main(int argc, char** argv) {
   char* flags[] = {program, nullptr};
   int count = 1;
   benchmark::Initialize(&count, flags);
-  bench::runAll(arguments.value(0), quick);
+  try {
+    bench::runAll(arguments.value(0), quick);
+  } catch (const jet::Error& error) {
+    bench::require(false, (error.description() + '\n' + error.statement()).toUtf8().constData());
+  }
   return 0;
 }

@@ -76,6 +76,26 @@ void addTurn(const char* name, const Side& side) {
       ->Iterations(1);
 }
 
+/** A comparison of unlike work says nothing. */
+void holdTogether(const Pair& pair, const Side& ours, const Side& plain) {
+  if (!ours.outcome) return;
+  Rows left = ours.outcome(), right = plain.outcome();
+  std::sort(left.begin(), left.end());
+  std::sort(right.begin(), right.end());
+  if (left == right) return;
+  const auto told = [](const char* side, const Rows& rows, size_t at) {
+    const QString row =
+        at < rows.size() ? QStringList(rows[at].begin(), rows[at].end()).join('|') : QString();
+    std::fprintf(stderr, "%s: %zu rows, the first other one: %s\n", side, rows.size(),
+                 row.toUtf8().constData());
+  };
+  const size_t at =
+      size_t(std::mismatch(left.begin(), left.end(), right.begin(), right.end()).first - left.begin());
+  told("ours", left, at);
+  told("plain", right, at);
+  require(false, pair.work);
+}
+
 void measure(const Pair& pair, int size, Table& table) {
   Side ours, plain;
   pair.make(size, ours, plain);
@@ -83,6 +103,7 @@ void measure(const Pair& pair, int size, Table& table) {
     if (side->setUp) side->setUp();
     side->run();
   }
+  holdTogether(pair, ours, plain);
   // Run as they are added: what disturbs the machine for a while disturbs both sides. Neither is always the first.
   for (int turn = 0; turn < pair.repetitions; ++turn) {
     if (turn % 2 == 0) addTurn("ours", ours);

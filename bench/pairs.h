@@ -11,11 +11,16 @@ struct sqlite3;
 
 namespace bench {
 
+using Rows = std::vector<std::vector<QString>>;
+
 /** What is timed. It prepares itself for one size of work and is then run several times; setUp of each run is not
  *  timed. */
 struct Side {
   std::function<void()> setUp;
   std::function<void()> run;
+  /** What a run came to, its rows in any order: asked after the first run, untimed; both sides' must be equal. Where
+   *  there is none, run itself holds the two together. */
+  std::function<Rows()> outcome;
 };
 
 struct Pair {

@@ -111,24 +111,29 @@ void postByTheRules(SaleBook& posting, int client) {
   posting.postRow(1);
 }
 
-const int deliveries = bench::addPair({"posting sale lines by the rules, every step flushed",
-                                       1.2,
-                                       {100, 1000, 10000},
-                                       [](int size, bench::Side& ours, bench::Side& plain) {
-                                         auto books = std::make_shared<bench::Books>();
-                                         books->addClients(customers);
-                                         auto beside = std::make_shared<bench::Plain>(*books);
-                                         auto posting = std::make_shared<SaleBook>(books->session);
-                                         auto delivery = std::make_shared<PlainDelivery>(*beside);
-                                         ours.run = [books, posting, size] {
-                                           for (int at = 0; at < size; ++at)
-                                             postByTheRules(*posting, 1 + at % customers);
-                                         };
-                                         plain.run = [beside, delivery, size] {
-                                           for (int at = 0; at < size; ++at)
-                                             delivery->post(1 + at % customers);
-                                         };
-                                       },
-                                       3});
+const char* const postedColumns =
+    "SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, Gubun, Income, DC, Trust";
+
+void postingPair(int size, bench::Side& ours, bench::Side& plain) {
+  auto books = std::make_shared<bench::Books>(customers);
+  auto beside = std::make_shared<bench::Plain>(*books);
+  auto posting = std::make_shared<SaleBook>(books->session);
+  auto delivery = std::make_shared<PlainDelivery>(*beside);
+  ours.run = [books, posting, size] {
+    for (int at = 0; at < size; ++at) postByTheRules(*posting, 1 + at % customers);
+  };
+  ours.outcome = [books] {
+    return bench::rowsOf(books->session.dbYear, u"Select "_s + postedColumns + u" From Sale"_s);
+  };
+  plain.run = [beside, delivery, size] {
+    for (int at = 0; at < size; ++at) delivery->post(1 + at % customers);
+  };
+  plain.outcome = [beside] {
+    return bench::rowsOf(beside->prepare((std::string("SELECT ") + postedColumns + " FROM y.Sale").c_str()));
+  };
+}
+
+const int deliveries = bench::addPair(
+    {"posting sale lines by the rules, every step flushed", 1.2, {100, 1000, 10000}, postingPair, 3});
 
 }  // namespace

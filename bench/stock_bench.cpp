@@ -1,10 +1,12 @@
 // The stock in and out of a period, and the forecast of deliveries, over a year's lines.
 #include <QDate>
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
-#include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 #include "bench/books.h"
 #include "bench/pairs.h"
@@ -42,6 +44,19 @@ void addItemLines(bench::Books& books, int lines) {
   });
 }
 
+/** Opening, bought, sold, closing; of cylinders opening, bought, sold, lent, returned, closing. */
+bench::Rows textsOf(const std::vector<StockInOut>& items) {
+  bench::Rows rows;
+  for (const StockInOut& item : items) {
+    std::vector<QString>& row = rows.emplace_back(std::vector{item.name, item.size});
+    for (const qint64 figure :
+         {item.opening, item.bought, item.sold, item.closing, item.canOpening, item.canBought, item.canSold,
+          item.canLent, item.canReturned, item.canClosing})
+      row.push_back(QString::number(figure));
+  }
+  return rows;
+}
+
 /** The same tables filled with the same figures: lines copied, one pass, two statements an item. */
 class PlainWalk {
  public:
@@ -65,6 +80,7 @@ class PlainWalk {
         catalogue_(plain.prepare(
             "INSERT INTO y.TmpLPGCANStock(Name, Size, LPGStock, CANStock) SELECT DISTINCT LPGName, "
             "Size, CANFull, CANFull + CANEmpty FROM LPG")),
+        items_(plain.prepare("SELECT Name, Size FROM y.TmpLPGCANStock")),
         lines_(plain.prepare(
             "SELECT SaleName, SaleThing, SaleGubun, Gubun, SaleNum, SaleDate FROM y.TmpLPGCAN")),
         moved_(
@@ -76,7 +92,8 @@ class PlainWalk {
         closed_(
             plain.prepare("UPDATE y.TmpLPGCANStock SET LPGStock = LPGPreStock + LPGBuy - LPGSale, CANStock = "
                           "CANPreStock + CANBuy - CANSale + CANReturn - CANLent")),
-        rows_(plain.prepare("SELECT * FROM y.TmpLPGCANStock")) {}
+        rows_(plain.prepare("SELECT Name, Size, LPGPreStock, LPGBuy, LPGSale, LPGStock, CANPreStock, CANBuy, "
+                            "CANSale, CANLent, CANReturn, CANStock FROM y.TmpLPGCANStock")) {}
 
   void run() {
     for (sqlite3_stmt* const each : {begin_, noLines_, noItems_, sales_, purchases_, catalogue_})
@@ -84,9 +101,18 @@ class PlainWalk {
     struct Counted {
       sqlite3_int64 in[6] = {}, gone = 0, cansGone = 0;
     };
-    std::map<std::string, Counted> counted;
+    std::unordered_map<std::string, Counted> counted;  // by name and size
+    std::string key;
+    const auto countersOf = [&](sqlite3_stmt* named) -> Counted& {
+      key = reinterpret_cast<const char*>(sqlite3_column_text(named, 0));
+      key += '\n';
+      key += reinterpret_cast<const char*>(sqlite3_column_text(named, 1));
+      return counted[key];
+    };
+    while (sqlite3_step(items_) == SQLITE_ROW) countersOf(items_);
+    sqlite3_reset(items_);
     while (sqlite3_step(lines_) == SQLITE_ROW) {
-      Counted& of = counted[reinterpret_cast<const char*>(sqlite3_column_text(lines_, 0))];
+      Counted& of = countersOf(lines_);
       const int kind = sqlite3_column_int(lines_, 2);
       const bool sale = sqlite3_column_int(lines_, 3) != 0;
       const sqlite3_int64 pieces = sqlite3_column_int64(lines_, 4);
@@ -102,48 +128,55 @@ class PlainWalk {
       if (kind == 6) count(5, of.cansGone, -1);
     }
     sqlite3_reset(lines_);
-    for (const auto& [name, of] : counted) {
-      const auto item = [&](sqlite3_stmt* statement, int at) {
-        sqlite3_bind_text(statement, at, name.c_str(), -1, SQLITE_STATIC);
-        sqlite3_bind_text(statement, at + 1, "20", -1, SQLITE_STATIC);
+    for (const auto& [item, of] : counted) {
+      const size_t end = item.find('\n');
+      const auto named = [&](sqlite3_stmt* statement, int at) {
+        sqlite3_bind_text(statement, at, item.data(), int(end), SQLITE_STATIC);
+        sqlite3_bind_text(statement, at + 1, item.data() + end + 1, -1, SQLITE_STATIC);
       };
       for (int at = 0; at < 6; ++at) sqlite3_bind_int64(moved_, at + 1, of.in[at]);
-      item(moved_, 7);
+      named(moved_, 7);
       bench::step(moved_);
       sqlite3_bind_int64(opened_, 1, of.gone);
       sqlite3_bind_int64(opened_, 2, of.cansGone);
-      item(opened_, 3);
+      named(opened_, 3);
       bench::step(opened_);
     }
     bench::step(closed_);
-    int found = 0;
-    while (sqlite3_step(rows_) == SQLITE_ROW) ++found;
+    items.clear();
+    while (sqlite3_step(rows_) == SQLITE_ROW) {
+      const auto whole = [this](int column) { return sqlite3_column_int64(rows_, column); };
+      items.push_back({bench::cell(rows_, 0), bench::cell(rows_, 1), whole(2), whole(3), whole(4), whole(5),
+                       whole(6), whole(7), whole(8), whole(9), whole(10), whole(11)});
+    }
     sqlite3_reset(rows_);
     bench::step(commit_);
-    bench::require(found >= items, "every item has its row");
   }
 
+  std::vector<StockInOut> items;
+
  private:
-  sqlite3_stmt *begin_, *commit_, *noLines_, *noItems_, *sales_, *purchases_, *catalogue_, *lines_, *moved_,
-      *opened_, *closed_, *rows_;
+  sqlite3_stmt *begin_, *commit_, *noLines_, *noItems_, *sales_, *purchases_, *catalogue_, *items_, *lines_,
+      *moved_, *opened_, *closed_, *rows_;
 };
 
-const int stockInOut =
-    bench::addPair({"stock in and out, 300 items",
-                    1.5,
-                    {1000, 10000, 100000},
-                    [](int size, bench::Side& ours, bench::Side& plain) {
-                      auto books = std::make_shared<bench::Books>();
-                      addItemLines(*books, size);
-                      auto beside = std::make_shared<bench::Plain>(*books);
-                      auto walk = std::make_shared<PlainWalk>(*beside);
-                      ours.run = [books] {
-                        const auto rows =
-                            walkStock(books->session, StockWalkOf::Gas, "2026-01-01", "2026-02-28");
-                        bench::require(rows && rows->size() >= size_t(items), "every item has its row");
-                      };
-                      plain.run = [beside, walk] { walk->run(); };
-                    }});
+void walkPair(int size, bench::Side& ours, bench::Side& plain) {
+  auto books = std::make_shared<bench::Books>();
+  addItemLines(*books, size);
+  auto beside = std::make_shared<bench::Plain>(*books);
+  auto walk = std::make_shared<PlainWalk>(*beside);
+  auto walked = std::make_shared<std::vector<StockInOut>>();
+  ours.run = [books, walked] {
+    auto rows = walkStock(books->session, StockWalkOf::Gas, "2026-01-01", "2026-02-28");
+    bench::require(rows.has_value(), "a walk");
+    *walked = *std::move(rows);
+  };
+  ours.outcome = [walked] { return textsOf(*walked); };
+  plain.run = [beside, walk] { walk->run(); };
+  plain.outcome = [walk] { return textsOf(walk->items); };
+}
+
+const int stockInOut = bench::addPair({"stock in and out, 300 items", 1.5, {1000, 10000, 100000}, walkPair});
 
 /** One prepared statement a customer. */
 class PlainForecast {
@@ -161,55 +194,54 @@ class PlainForecast {
     std::vector<sqlite3_int64> codes;
     while (sqlite3_step(clients_) == SQLITE_ROW) codes.push_back(sqlite3_column_int64(clients_, 0));
     sqlite3_reset(clients_);
-    std::vector<std::vector<QString>> rows;
+    std::sort(codes.begin(), codes.end());
+    bench::Rows rows;
     for (const sqlite3_int64 code : codes) {
       sqlite3_bind_int64(last_, 1, code);
       std::vector<QString> cells(15);
       QStringList days;
       while (sqlite3_step(last_) == SQLITE_ROW) {
-        const auto text = [this](int col) {
-          return QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(last_, col)));
-        };
-        if (days.isEmpty()) cells[0] = text(0), cells[1] = text(1), cells[13] = text(2), cells[14] = text(3);
-        days << text(4);
+        if (days.isEmpty())
+          for (const auto& [to, from] : {std::pair{0, 0}, {1, 1}, {13, 2}, {14, 3}})
+            cells[size_t(to)] = bench::cell(last_, from);
+        days << bench::cell(last_, 4);
       }
       sqlite3_reset(last_);
+      if (days.isEmpty()) continue;
       for (qsizetype at = 0; at < days.size(); ++at)
         cells[size_t(2 + at)] = days[days.size() - 1 - at].mid(5);
-      if (days.isEmpty()) continue;
       const QDate newest = QDate::fromString(days.front(), Qt::ISODate),
                   oldest = QDate::fromString(days.back(), Qt::ISODate);
       cells[10] = days.front().mid(5);
       if (const qint64 span = oldest.daysTo(newest); span > 0) {
-        const qint64 gap = (span + (days.size() - 1) / 2) / (days.size() - 1);
+        const auto gap = qint64(std::nearbyint(double(span) / double(days.size() - 1)));
         cells[11] = newest.addDays(gap).toString(u"MM-dd");
         cells[12] = QString::number(gap);
       }
       rows.push_back(std::move(cells));
     }
-    bench::require(rows.size() == codes.size(), "every customer has his row");
+    grid.setRows(std::move(rows));
   }
+
+  SpreadModel grid;
 
  private:
   sqlite3_stmt *clients_, *last_;
 };
 
+void forecastPair(int size, bench::Side& ours, bench::Side& plain) {
+  auto books = std::make_shared<bench::Books>(size, size * 40);
+  auto beside = std::make_shared<bench::Plain>(*books);
+  auto extract = std::make_shared<PlainForecast>(*beside);
+  auto of = std::make_shared<Forecast>(books->session);
+  extract->grid.setColumns(std::vector<SpreadColumn>(size_t(of->grid().MaxCols())));
+  ours.run = [books, of] { bench::require(of->ExtractForecast(ForecastOf::All, "2026", {}), "customers"); };
+  ours.outcome = [of] { return bench::cellsOf(of->grid()); };
+  plain.run = [beside, extract] { extract->run(); };
+  plain.outcome = [extract] { return bench::cellsOf(extract->grid); };
+}
+
 const int forecast =
-    bench::addPair({"forecast of deliveries, 40 lines a customer",
-                    1.5,
-                    {100, 1000, 10000},
-                    [](int size, bench::Side& ours, bench::Side& plain) {
-                      auto books = std::make_shared<bench::Books>();
-                      books->addClients(size);
-                      books->addSales(books->session.dbYear, size * 40, size);
-                      auto beside = std::make_shared<bench::Plain>(*books);
-                      auto extract = std::make_shared<PlainForecast>(*beside);
-                      ours.run = [books, size] {
-                        Forecast of(books->session);
-                        bench::require(of.ExtractForecast(ForecastOf::All, "2026", {}), "customers");
-                        bench::require(of.grid().MaxRows() == size, "every customer has his row");
-                      };
-                      plain.run = [beside, extract] { extract->run(); };
-                    }});
+    bench::addPair({"forecast of deliveries, 40 lines a customer", 1.5, {100, 1000, 10000}, forecastPair});
 
 }  // namespace
