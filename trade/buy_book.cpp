@@ -16,6 +16,7 @@ const LineTable buyTable = {.table = "Buy",
                             .number = "PurchaseNum",
                             .unit = "PurchaseUnit",
                             .paid = "Pay",
+                            .partnerGone = "다른 PC에서 삭제했거나 상호를 바꾼 구매처입니다!",
                             .partnerIsText = true,
                             .kindOf = buyKind};
 

@@ -128,16 +128,22 @@ jet::Recordset LineBook::requireUnmoved(const QString& key) {
   return line;
 }
 
+/** A line of nobody would move no balance, and a customer's would stand on no sheet. */
+void LineBook::requirePartner(const QString& partner) {
+  if (db().OpenRecordset(balanceStatement(LineBalance::Gas, partner)).atEnd())
+    throw LineMoved{LineMoved::PartnerGone};
+}
+
 void LineBook::learn(const QString& key) {
   known_[key] = written(db().OpenRecordset(lineStatement(key)));
 }
 
 void LineBook::tellMoved(const LineMoved& moved) {
-  session_.prompts.MsgWarn(
-      moved.how == LineMoved::Deleted
-          ? "다른 PC에서 이미 삭제한 자료입니다!\n화면을 다시 읽습니다."
-          : "다른 PC에서 먼저 변경한 자료입니다!\n화면을 다시 읽습니다. 확인 후 다시 입력하세요.",
-      "자료수정");
+  const QString told[] = {
+      "다른 PC에서 이미 삭제한 자료입니다!\n화면을 다시 읽습니다.",
+      "다른 PC에서 먼저 변경한 자료입니다!\n화면을 다시 읽습니다. 확인 후 다시 입력하세요.",
+      table_.partnerGone + "\n화면을 다시 읽습니다. 다시 검색하세요."};
+  session_.prompts.MsgWarn(told[moved.how], "자료수정");
   refill();
 }
 
@@ -158,6 +164,7 @@ void LineBook::postRow(int row) {
   if (line.partner.isEmpty()) return;
   session_.wsMain.Together([&] {
     if (line.key.isEmpty()) {
+      requirePartner(line.partner);
       const QString key = db().OpenRecordset(insertSkeleton(line))[0].toText();
       grid().setText(row, LineCol::Key, key);
       learn(key);

@@ -17,9 +17,10 @@
 /** The thirteen columns of a sheet under their headers; key and partner code are hidden. */
 std::vector<SpreadColumn> lineColumns(const LineKinds& kinds, const QStringList& headers);
 
-/** Thrown before anything is written: the line is not the one that this screen shows. */
+/** Thrown before anything is written: the line is not the one that this screen shows, or whom a new one is for is no
+ *  longer there under that name. */
 struct LineMoved {
-  enum How { Deleted, Changed } how;
+  enum How { Deleted, Changed, PartnerGone } how;
 };
 
 /** A figure that a running balance is moved by: up or down by the text of an expression ("3000 - 2000"). */
@@ -122,6 +123,7 @@ class LineBook {
   QString keyOf(int row) { return grid().text(row, LineCol::Key); }
   TradeLine lineOf(int row) { return readLine(grid(), row, kinds(), year()); }
   jet::Recordset requireUnmoved(const QString& key);
+  void requirePartner(const QString& partner);
   void learn(const QString& key);
   QString written(const jet::Recordset& line) const;
   void moveByDifference(const TradeLine& line, const QString& storedPartner);

@@ -85,7 +85,8 @@ LineStep LineEntry::wholly(int row, int col, const std::function<LineStep()>& wo
   } catch (const LineMoved& moved) {
     unchanged.putBack();
     book_.tellMoved(moved);
-    return {LineStep::PutBack, std::min(row, grid().MaxRows()), col};
+    const int at = moved.how == LineMoved::PartnerGone ? int(LineCol::Partner) : col;
+    return {LineStep::PutBack, std::min(row, grid().MaxRows()), at};
   } catch (...) {
     unchanged.putBack();
     throw;

@@ -8,6 +8,7 @@
 struct LineTable {
   QString table;
   QString key, date, partner, kind, name, size, number, unit, paid;
+  QString partnerGone;         ///< what is told of a new line whose partner is not in the books any more
   bool partnerIsText = false;  ///< a station goes by its name
   QString sheetColumn = {};    ///< what else a row's own sheet is told by; '' for none
   const LineKind& (*kindOf)(int code) = nullptr;

@@ -17,6 +17,7 @@ const LineTable saleTable = {.table = "Sale",
                              .number = "SaleNum",
                              .unit = "SaleUnit",
                              .paid = "Income",
+                             .partnerGone = "다른 PC에서 삭제한 고객입니다!",
                              .sheetColumn = "Gubun",
                              .kindOf = saleKind};
 
@@ -24,17 +25,10 @@ const QStringList saleHeaders = {
     "일자",   "고객명", "구분",   "품명 / 용량", "수량", "단가",    "D/C",
     "금  액", "입금액", "미수금", "담당자",      "코드", "고개코드"};  // spelt so on purpose
 
-QString sheetFilter(SaleSheet sheet) {
-  switch (sheet) {
-    case SaleSheet::Volume:
-      return " AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = true ";
-    case SaleSheet::Material:
-      return " AND (Sale.SaleGubun = 7 Or Sale.SaleGubun = 8) ";
-    case SaleSheet::General:
-      break;
-  }
-  return " AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = False ";
-}
+/** Of the lines, by sheet. */
+const QString sheetFilters[] = {" AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = False ",
+                                " AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = true ",
+                                " AND (Sale.SaleGubun = 7 Or Sale.SaleGubun = 8) "};
 
 }  // namespace
 
@@ -52,7 +46,8 @@ QString SaleBook::sheetStatement(SaleSheet sheet, bool showDay) const {
   const QString lastYear = QString::number(year() - 1);
   return "Select Sale.*, Client.* From Sale Right Join Client On Sale.ClientCode = Client.Code "
          "Where Sale.SaleDate Between '" +
-         plainText(lastYear) + "-01-01" + "' and '" + plainText(thisYear) + "-12-31' " + sheetFilter(sheet) +
+         plainText(lastYear) + "-01-01" + "' and '" + plainText(thisYear) + "-12-31' " +
+         sheetFilters[size_t(sheet)] +
          (showDay ? " And Sale.SaleDate = '" + plainText(session_.WorkYear) + "-" + plainText(date()) + "' "
                   : " And Sale.ClientCode = " + QString::number(client_) + " ") +
          "Order By Sale.SaleDate, Sale.SaleID ";

@@ -122,18 +122,47 @@ TEST(BuyEntry, RowsOfAMissingOrDoubledStationStandOnce) {
 
 TEST(BuyEntry, MissingCellsAreToldInOrder) {
   Buy buy;
-  buy.pickers.refills.push_back("한강");
-  const int row = buy.entry.enterKey(1, LineCol::Partner, {}).row;
-  buy.entry.enteredRow(row);
-  buy.cells().setText(row, LineCol::Kind, {});
-  buy.pc.prompts.expect("판매구분을 검색하세요");
-  EXPECT_EQ(buy.entry.missingField(row), LineCol::Kind);
-  buy.cells().setComboPosition(row, LineCol::Kind, 0);
-  buy.pc.prompts.expect("품명을 검색하세요");
-  EXPECT_EQ(buy.entry.missingField(row), LineCol::Item);
-  buy.cells().setText(row, LineCol::Date, {});
-  buy.pc.prompts.expect("날짜를 입력하세요");
-  EXPECT_EQ(buy.entry.missingField(row), LineCol::Date);
+  const int row = buy.bought("한강", 2, 30000);
+  const std::pair<int, const char*> order[] = {
+      {LineCol::Date, "날짜를 입력하세요"},        {LineCol::Partner, "구매처를 검색하세요"},
+      {LineCol::Kind, "판매구분을 검색하세요"},    {LineCol::Item, "품명을 검색하세요"},
+      {LineCol::Number, "수량을 입력하세요"},      {LineCol::Unit, "단가를 입력하세요"},
+      {LineCol::Discount, "D/C금액을 입력하세요"}, {LineCol::Paid, "입금액을 입력하세요"}};
+  QStringList texts;
+  for (const auto& [col, told] : order) texts << buy.cell(row, col);
+  for (const auto& [col, told] : order) buy.cells().setText(row, col, {});
+  for (const auto& [col, told] : order) {
+    buy.pc.prompts.expect(told);
+    EXPECT_EQ(buy.entry.missingField(row), col);
+    EXPECT_TRUE(buy.pc.prompts.seen.last().startsWith("필수입력|"));
+    buy.cells().setText(row, col, texts.takeFirst());
+  }
+  EXPECT_EQ(buy.entry.missingField(row), 0);
+  buy.cells().setText(row, LineCol::Kind, "자외");
+  for (const int col : {LineCol::Number, LineCol::Unit, LineCol::Discount}) buy.cells().setText(row, col, {});
+  EXPECT_EQ(buy.entry.missingField(row), 0) << "a payment has none of them";
+}
+
+TEST(BuyEntry, TheScreensWords) {
+  Buy buy;
+  EXPECT_EQ(labelsOf(buyKinds()).join(' '), "가스 용기 보관 회수 실병 가외 자재 자외");
+  QStringList headers;
+  for (int col = LineCol::Date; col <= LineCol::Key; ++col) headers << buy.cells().column(col).header;
+  EXPECT_EQ(headers.join('|'),
+            "일자|구매처|구분|품명/용량|수량|단가|D/C|구매금액|지불금액|외상금액|담당자|코드");
+  EXPECT_TRUE(buy.cells().column(LineCol::Key).hidden);
+  const QStringList help{"날짜를 변경합니다",
+                         "전화, 번지, 상호로 구매처를 검색하세요",
+                         "엔터로 구매구분을 선택하세요",
+                         "상품선택 : 엔터  /  ↓키 : 아래로 이동",
+                         "구매수량을 입력합니다",
+                         "상품의 단가를 입력합니다",
+                         "D/C금액을 입력합니다",
+                         "구매금액을 입력합니다",
+                         "지급액을 입력합니다",
+                         "미지급액을 나타내며 수정이 불가능합니다",
+                         "엔터로 담당자를 선택하세요"};
+  for (int col = LineCol::Date; col <= LineCol::Person; ++col) EXPECT_EQ(buy.entry.help(col), help[col - 1]);
 }
 
 TEST(BuyEntry, AStoredLineKeepsItsKind) {
@@ -177,6 +206,21 @@ TEST(BuyOnTwoPcs, ALineChangedThereIsNotWrittenOver) {
   other.at.prompts.expect("다른 PC에서 먼저 변경한 자료입니다!");
   other.entry.finishCell(1, LineCol::Paid, "0");
   EXPECT_EQ(buy.owed(), "200000|7000;50000|0");
+}
+
+TEST(BuyOnTwoPcs, ANewLineOfAStationThatIsNotThereAnyMoreIsNotBegun) {
+  Buy buy;
+  buy.pickers.refills.push_back("한강");
+  const int row = buy.entry.enterKey(1, LineCol::Partner, {}).row;
+  OtherBuyer other(buy);
+  other.at.session.dbBasic.Execute(
+      QString("Update RefillState Set Company = '한강둘' Where Company = '한강'"));
+  buy.pc.prompts.expect("삭제했거나 상호를 바꾼 구매처입니다!");
+  const LineStep step = buy.entry.enterKey(row, LineCol::Kind, "가스");
+  EXPECT_EQ(step.end, LineStep::PutBack);
+  EXPECT_EQ(step.col, LineCol::Partner);
+  EXPECT_EQ(buy.rows("Select Count(*) From Buy"), "0") << "its debt would be nobody's";
+  EXPECT_EQ(buy.cell(1, LineCol::Code), "");
 }
 
 TEST(BuyOnTwoPcs, ADoubleDeletionTakesTheLineOffOnce) {

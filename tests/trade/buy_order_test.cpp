@@ -1,9 +1,10 @@
-// Purchases entered, changed, moved and deleted on two PCs in any order: what is owed and what lies in stock is at every
-// moment what the lines add up to.
+// Purchases entered, changed, moved and deleted on two PCs in any order, while stations get other names: what is owed and
+// what lies in stock is at every moment what the lines add up to.
 #include <QHash>
 
 #include <random>
 
+#include "master/partners/refill_register.h"
 #include "tests/trade/buy_desk.h"
 
 namespace {
@@ -53,7 +54,7 @@ class AnyOrder : public testing::Test {
 
   void begin(Buyer& of) {
     of.read();
-    of.pickers.refills.push_back(roll(2) ? "한강" : "낙동");
+    of.pickers.refills.push_back(names_[roll(2)]);
     const int row = of.entry.enterKey(of.cells().MaxRows(), LineCol::Partner, {}).row;
     of.entry.enteredRow(row);
     const LineKind& kind = buyKinds()[size_t(roll(int(buyKinds().size())))];
@@ -84,7 +85,7 @@ class AnyOrder : public testing::Test {
       of.prompts.expect("선택한 자료를 삭제하시겠습니까?");
     } else if (what == 1) {
       of.prompts.expect("선택된 구매처를 수정하시겠습니까?");
-      of.pickers.refills.push_back(of.cells().text(row, LineCol::Code) == "한강" ? "낙동" : "한강");
+      of.pickers.refills.push_back(names_[of.cells().text(row, LineCol::Code) == names_[0] ? 1 : 0]);
     } else {
       of.prompts.expect("선택된 자료를 변경하시겠습니까?");
     }
@@ -105,13 +106,23 @@ class AnyOrder : public testing::Test {
       of.learn(key);
   }
 
+  void rename(Buyer& of) {
+    const int station = roll(2);
+    RefillRegister stations(of.session);
+    ASSERT_TRUE(stations.load());
+    RegisterFields boxes = stations.select(station + 1);
+    names_[station] = QString("%1 %2").arg(station ? "낙동" : "한강").arg(++renamed_);
+    boxes["Company"] = names_[station];
+    ASSERT_TRUE(stations.save(boxes).done);
+  }
+
   QString sum(const QString& what, const QString& where) {
     return QString::number(desk_.rows("Select Sum(" + what + ") From Buy Where " + where).toLongLong());
   }
   void expectEverythingRight() {
     QStringList owed;
     for (const auto& [station, gas, fittings] :
-         {std::tuple("한강", 200000, 7000), std::tuple("낙동", 0, 0)}) {
+         {std::tuple(names_[0], 200000, 7000), std::tuple(names_[1], 0, 0)}) {
       const QString of = QString("BuyCompany = '%1' And ").arg(station);
       const qint64 onGas = sum("Trust", of + "PurchaseGubun In (1, 2, 3, 5, 6)").toLongLong() -
                            sum("Pay", of + "PurchaseGubun = 7").toLongLong();
@@ -139,6 +150,8 @@ class AnyOrder : public testing::Test {
   BuyDesk desk_;
   tests::OtherPc there_;
   Buyer here, there;
+  QString names_[2] = {"한강", "낙동"};
+  int renamed_ = 0;
   std::mt19937 dice_{20260305};
 };
 
@@ -147,10 +160,14 @@ TEST_F(AnyOrder, OfPurchasesOnTwoPcs) {
     SCOPED_TRACE("step " + std::to_string(step));
     Buyer& of = roll(2) ? here : there;
     if (roll(3) == 0) of.read();
-    roll(4) == 0 ? begin(of) : change(of);
+    if (roll(10) == 0)
+      rename(of);
+    else
+      roll(4) == 0 ? begin(of) : change(of);
     expectEverythingRight();
   }
   EXPECT_GT(desk_.rows("Select Count(*) From Buy").toInt(), 5);
+  EXPECT_GT(renamed_, 10);
 }
 
 }  // namespace

@@ -85,6 +85,15 @@ TEST_F(SaleOnTwoPcs, ADeletedLineIsNeitherChangedNorDeletedAgain) {
   EXPECT_EQ(books(), after);
 }
 
+TEST_F(SaleOnTwoPcs, ANewLineOfACustomerWhoIsGoneIsNotBegun) {
+  pickers.clients.push_back(ClientChoice{2, "한빛 101동 202호"});
+  const int row = entry.enterKey(posting.grid().MaxRows(), LineCol::Partner, {}).row;
+  other->at.session.dbBasic.Execute(QString("Delete * From Client Where Code = 2"));
+  pc.prompts.expect("다른 PC에서 삭제한 고객입니다!");
+  EXPECT_EQ(entry.enterKey(row, LineCol::Kind, "가스").end, LineStep::PutBack);
+  EXPECT_EQ(rows("Select Count(*) From Sale"), "1") << "no sheet would ever show it";
+}
+
 TEST_F(SaleOnTwoPcs, ADoubleDeletionTakesTheLineOffOnce) {
   pc.prompts.expect("삭제하시겠습니까?");
   posting.deleteRow(1);
