@@ -1,8 +1,10 @@
 #include "trade/form_line.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -41,22 +43,45 @@ void LineForm::showEvent(QShowEvent* event) {
 
 // --- building ------------------------------------------------------------------------------------------------
 
-DateBox* LineForm::addDate(Fields& fields) {
+void LineForm::addHead(int columns, const std::function<void(Fields&)>& partner, const QString& gasOwed,
+                       const QString& utilOwed, const QList<QPushButton*>& buttons) {
+  auto* const row = new QHBoxLayout;
+  row->setSpacing(5);
+  auto* const panel = new QWidget(this);
+  panel->setObjectName("PnlClient");
+  Fields fields(panel, columns);
+  addDate(fields);
+  partner(fields);
+  row->addWidget(panel, 1);
+  row->addWidget(owedPanel(gasOwed, utilOwed));
+  row->addWidget(lastLines_);
+  auto* const column = new QVBoxLayout;
+  column->setSpacing(3);
+  for (QPushButton* const button : buttons) column->addWidget(button);
+  column->addStretch(1);
+  row->addLayout(column);
+  body()->addLayout(row);
+}
+
+void LineForm::keepRoom(QLabel* label, const QString& widest) {
+  label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest) + 18);
+}
+
+void LineForm::addDate(Fields& fields) {
   date_ = fields.date("txtDate", "일자(&D)", DateBox::Mask::MonthDay);
   setHelp(date_, "일자확인 후 엔터치세요!");
   date_->installEventFilter(this);
-  return date_;
 }
 
-QWidget* LineForm::owedPanel(const char* gasName, const QString& gasCaption, const char* utilName,
-                             const QString& utilCaption) {
+/** Two big figures, one above the other: what is owed is what the operator tells on the telephone. */
+QWidget* LineForm::owedPanel(const QString& gasCaption, const QString& utilCaption) {
   auto* const owed = new QWidget(this);
   owed->setObjectName("PnlTrust");
   auto* const figures = new QVBoxLayout(owed);
   figures->setContentsMargins(8, 3, 8, 3);
   figures->setSpacing(0);
-  gasOwed_ = bigFigure(gasName, gasCaption, owed);
-  utilOwed_ = bigFigure(utilName, utilCaption, owed);
+  gasOwed_ = bigFigure("LblGasTrust", gasCaption, owed);
+  utilOwed_ = bigFigure("LblUtilTrust", utilCaption, owed);
   return owed;
 }
 

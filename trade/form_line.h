@@ -9,6 +9,7 @@ class DateBox;
 class Fields;
 class LastLines;
 class QLabel;
+class QPushButton;
 
 class LineForm : public Form {
  public:
@@ -21,11 +22,12 @@ class LineForm : public Form {
 
   /** A grid of lines under its keys and rules. */
   Spread* addLines(const char* name, SpreadModel& model);
-  /** The box of the screen's day. */
-  DateBox* addDate(Fields& fields);
-  /** Two big figures, one above the other: what is owed is what the operator tells on the telephone. */
-  QWidget* owedPanel(const char* gasName, const QString& gasCaption, const char* utilName,
-                     const QString& utilCaption);
+  /** Above the grids: the day and what the screen shows of a partner, in so many columns; what is owed under its two
+   *  captions; his last lines; the buttons. */
+  void addHead(int columns, const std::function<void(Fields&)>& partner, const QString& gasOwed,
+               const QString& utilOwed, const QList<QPushButton*>& buttons);
+  /** A value's label that does not grow and shrink with its rows. */
+  static void keepRoom(QLabel* label, const QString& widest);
   void showOwed(const QString& gas, const QString& util);
 
   /** The grid of the current sheet. */
@@ -55,6 +57,8 @@ class LineForm : public Form {
   LastLines* lastLines_;
 
  private:
+  void addDate(Fields& fields);
+  QWidget* owedPanel(const QString& gasCaption, const QString& utilCaption);
   QLabel* bigFigure(const char* name, const QString& caption, QWidget* panel);
   bool gridKey(int row, int col, int key, Qt::KeyboardModifiers modifiers);
   bool cellFinished(Spread* of, int row, int col, const QString& typed);

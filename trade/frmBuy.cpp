@@ -1,8 +1,6 @@
 #include "trade/frmBuy.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "trade/form_last_lines.h"
@@ -25,27 +23,18 @@ frmBuy::frmBuy(FormContext& context, QWidget* parent)
 }
 
 void frmBuy::buildPanel() {
-  auto* const row = new QHBoxLayout;
-  row->setSpacing(5);
-  auto* const panel = new QWidget(this);
-  panel->setObjectName("PnlClient");
-  Fields fields(panel, 2);
-  addDate(fields);
-  tel_ = fields.value("LblTel", "전화번호");
-  address_ = fields.value("LblAddr", "주소", 0, 2);
-  owner_ = fields.value("LblUser", "대표자");
-  fax_ = fields.value("LblFax", "팩스");
-  tel_->setMinimumWidth(fontMetrics().horizontalAdvance("0000-0000-0000") + 18);
-  row->addWidget(panel, 1);
-  row->addWidget(owedPanel("LblGasTrust", "가스미불 :", "LblUtilTrust", "자재미불 :"));
+  addHead(2,
+          [this](Fields& fields) {
+            tel_ = fields.value("LblTel", "전화번호");
+            address_ = fields.value("LblAddr", "주소", 0, 2);
+            owner_ = fields.value("LblUser", "대표자");
+            fax_ = fields.value("LblFax", "팩스");
+            keepRoom(tel_, "0000-0000-0000");
+          },
+          "가스미불 :", "자재미불 :", {addButton("btnPrint", "인쇄(&P)", [this] {
+            PrintGrid(session(), grid_->model(), "구매관리", this);
+          })});
   lastLines_->setOwedHeader("외상금액");
-  row->addWidget(lastLines_);
-  auto* const buttons = new QVBoxLayout;
-  buttons->addWidget(
-      addButton("btnPrint", "인쇄(&P)", [this] { PrintGrid(session(), grid_->model(), "구매관리", this); }));
-  buttons->addStretch(1);
-  row->addLayout(buttons);
-  body()->addLayout(row);
 }
 
 void frmBuy::showAll() {

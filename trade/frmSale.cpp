@@ -1,7 +1,6 @@
 #include "trade/frmSale.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -45,36 +44,22 @@ frmSale::frmSale(FormContext& context, QWidget* parent)
 }
 
 void frmSale::buildPanel() {
-  auto* const row = new QHBoxLayout;
-  row->setSpacing(5);
-  auto* const panel = new QWidget(this);
-  panel->setObjectName("PnlClient");
-  Fields fields(panel, 3);
-  addDate(fields);
-  tel_ = fields.value("LblTel", "전화번호");
-  endDay_ = fields.value("LblEndDay", "최종거래일");
-  address_ = fields.value("LblAddr", "주소", 0, 2);
-  mapState_ = fields.value("LblMap", "약도");
-  memo_ = fields.value("LblMemo", "메모", 0, 3);
-  const auto roomFor = [this](QLabel* label, const char* widest) {
-    label->setMinimumWidth(fontMetrics().horizontalAdvance(widest) + 18);
-  };
-  roomFor(tel_, "0000-0000-0000");
-  roomFor(endDay_, "0000-00-00");
-  row->addWidget(panel, 1);
-  row->addWidget(owedPanel("LblGasTrust", "가스미수", "LblUtilTrust", "자재미수"));
-  row->addWidget(lastLines_);
-
-  auto* const buttons = new QVBoxLayout;
-  buttons->setSpacing(3);
   mapButton_ = addButton("BtnMap", "약도(&M)", [this] { startMap(); });
-  buttons->addWidget(mapButton_);
-  buttons->addWidget(
-      addButton("CmdCIDList", "수신전화 목록", [this] { context_.commands.openForm("FrmSeeIDStanbyList"); }));
-  buttons->addWidget(addButton("btnPrint", "인쇄(&P)", [this] { print(); }));
-  buttons->addStretch(1);
-  row->addLayout(buttons);
-  body()->addLayout(row);
+  addHead(
+      3,
+      [this](Fields& fields) {
+        tel_ = fields.value("LblTel", "전화번호");
+        endDay_ = fields.value("LblEndDay", "최종거래일");
+        address_ = fields.value("LblAddr", "주소", 0, 2);
+        mapState_ = fields.value("LblMap", "약도");
+        memo_ = fields.value("LblMemo", "메모", 0, 3);
+        keepRoom(tel_, "0000-0000-0000");
+        keepRoom(endDay_, "0000-00-00");
+      },
+      "가스미수", "자재미수",
+      {mapButton_,
+       addButton("CmdCIDList", "수신전화 목록", [this] { context_.commands.openForm("FrmSeeIDStanbyList"); }),
+       addButton("btnPrint", "인쇄(&P)", [this] { print(); })});
 
   mapTimer_ = new QTimer(this);
   mapTimer_->setInterval(mapLookMilliseconds);

@@ -6,17 +6,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString daySumFilter(SaleSheet sheet) {
-  switch (sheet) {
-    case SaleSheet::Volume:
-      return u" And Gubun = True"_s;
-    case SaleSheet::Material:
-      return u" And (SaleGubun = 7 or SaleGubun = 8)"_s;
-    case SaleSheet::General:
-      break;
-  }
-  return u" And Gubun = False And SaleGubun <> 7 And SaleGubun <> 8"_s;
-}
+/** Of the day's lines, by sheet. */
+const QString daySumFilters[] = {u" And Gubun = False And SaleGubun <> 7 And SaleGubun <> 8"_s,
+                                 u" And Gubun = True"_s, u" And (SaleGubun = 7 or SaleGubun = 8)"_s};
 
 }  // namespace
 
@@ -30,7 +22,7 @@ bool TodaySale::load() {
     if (!OpenSnapshot(session_.prompts, session_.dbYear, rows,
                       u"SELECT Sum(Sale.SaleNum) AS SaleNum, Sum(Sale.Income) AS Income, Sum(Sale.DC) AS DC, "
                       u"Sum(Sale.Trust) AS Trust FROM Sale Where SaleDate = '"_s +
-                          plainText(session_.SaleDay) + u"'"_s + daySumFilter(sheet)))
+                          plainText(session_.SaleDay) + u"'"_s + daySumFilters[size_t(sheet)]))
       return false;
     sums_[size_t(sheet)] = {rows[u"SaleNum"_s].toLong(), rows[u"Income"_s].toLong(), rows[u"DC"_s].toLong(),
                             rows[u"Trust"_s].toLong()};
