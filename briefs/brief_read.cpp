@@ -143,6 +143,12 @@ void walkBriefYears(Session& session, int first, int last, QStringList& missing,
   }
 }
 
+QString missingYearsNote(const QStringList& missing) {
+  if (missing.isEmpty()) return {};
+  return missing.mid(0, yearsTold).join(u", "_s) + (missing.size() > yearsTold ? u"년 등은"_s : u"년은"_s) +
+         u" 자료 파일이 없어 빠졌습니다."_s;
+}
+
 BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask) {
   BriefRows result;
   const QString sql = page.statement(ask);
@@ -171,9 +177,6 @@ BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk&
   if (!result.read) return {.read = false};
   if (!any) result.rows.clear();
   if (files > 1 && page.slots_.isEmpty()) orderRows(page.order, result.rows);
-  if (!missing.isEmpty())
-    result.note = missing.mid(0, yearsTold).join(u", "_s) +
-                  (missing.size() > yearsTold ? u"년 등은"_s : u"년은"_s) +
-                  u" 자료 파일이 없어 빠졌습니다."_s;
+  result.note = missingYearsNote(missing);
   return result;
 }

@@ -120,7 +120,7 @@ bool BriefRun::load(BriefAsk ask, const BriefTeller& tell) {
   BriefRows rows = page.statement ? readBriefRows(session_, page, ask) : BriefRows();
   if (rows.read && page.complete)
     page.complete(
-        session_, ask, tell ? tell : [](int, int) { return true; }, rows);
+        session_, ask, tell ? tell : [](int, int) {}, rows);
   if (!rows.read) return false;
   if (rows.rows.empty()) {
     session_.prompts.MsgInfo(page.emptyText(ask), page.emptyTitle.isEmpty() ? briefManager : page.emptyTitle);
@@ -145,6 +145,7 @@ bool BriefRun::printLive(BriefAsk ask) {
                    files << file.path();
                    return true;
                  });
+  shown_.at(size_t(ask.page)).rows.note = missingYearsNote(missing);
   session_.reports->show({.file = page.report,
                           .formulas = page.formulas ? page.formulas(ask, {}) : QStringList(),
                           .selection = page.selection(session_, ask),

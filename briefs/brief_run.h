@@ -30,7 +30,8 @@ class BriefRun {
   /** Checks and shows. False after telling why nothing is there; the grid is then empty. */
   bool load(BriefAsk ask, const BriefTeller& tell = {});
   void clear(int page);
-  /** Checks and shows the report of a page without a grid. False after telling what is wrong. */
+  /** Checks and shows the report of a page without a grid; the note of its rows says what years are left out. False
+   *  after telling what is wrong. */
   bool printLive(BriefAsk ask);
   /** Stages the page and shows its report; chart: a picture below the rows. Throws jet::Error. */
   void print(int page, const QByteArray& chart = {});
@@ -51,6 +52,9 @@ class BriefRun {
  *  end the walk. missing: the asked years without a file. */
 void walkBriefYears(Session& session, int first, int last, QStringList& missing,
                     const std::function<bool(const jet::Database&)>& work);
+
+/** What the operator is told of years without a file; '' for none. */
+QString missingYearsNote(const QStringList& missing);
 
 /** Runs a page's statement over the files it reaches and folds what comes. */
 BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask);

@@ -202,10 +202,23 @@ void readJoin(LayoutReader& words, ReportLayout& layout) {
 }
 
 void readValue(LayoutReader& words, ReportLayout& layout) {
-  QStringList& sum = layout.tables.values[liveName(words.word(u"값의 이름이"))];
+  ReportTables::Value& value = layout.tables.values[liveName(words.word(u"값의 이름이"))];
+  value = {};
   do {
-    sum << liveField(words.word(u"더할 칸이"), layout);
+    const QString field = words.word(u"더할 칸이");
+    if (field == "except"_L1 && !value.fields.isEmpty()) {
+      value.exceptField = liveField(words.word(u"가릴 칸이"), layout);
+      break;
+    }
+    value.fields << liveField(field, layout);
   } while (!words.atEnd());
+  while (!value.exceptField.isEmpty() && (value.codes.isEmpty() || !words.atEnd())) {
+    const QString code = words.word(u"가릴 값이");
+    bool whole = false;
+    code.toInt(&whole);
+    if (!whole) throw ReportError{u"'"_s + code + u"' 값은 정수가 아닙니다"_s};
+    value.codes << code;
+  }
 }
 
 void readLabels(LayoutReader& words, ReportLayout& layout) {

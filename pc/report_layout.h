@@ -58,10 +58,16 @@ struct ReportTables {
   struct Join {
     QString table, left, right;  ///< "Client", "Sale.ClientCode", "Client.Code"
   };
+  /** Fields added up; nothing at all in a row whose other field holds one of the codes. */
+  struct Value {
+    QStringList fields = {};
+    QString exceptField = {};  ///< '' for every row
+    QStringList codes = {};    ///< whole numbers
+  };
   QString first;  ///< '' for a staged report
   std::vector<Join> joins = {};
   QStringList order = {};                                     ///< "Sale.SaleDate"
-  std::map<QString, QStringList> values = {};                 ///< a name for a sum of fields
+  std::map<QString, Value> values = {};                       ///< by the name that columns go by
   std::map<QString, std::map<QString, QString>> labels = {};  ///< a field's codes in words
 
   bool has(const QString& table) const;

@@ -54,8 +54,15 @@ QString fromClause(const pc::ReportTables& tables) {
 }
 
 QString columnOf(const QString& field, const pc::ReportTables& tables) {
-  const auto value = tables.values.find(field);
-  return value == tables.values.end() ? plainPath(field) : plainPath(value->second.join(u" + "_s));
+  const auto found = tables.values.find(field);
+  if (found == tables.values.end()) return plainPath(field);
+  const auto& [fields, exceptField, codes] = found->second;
+  const QString sum = plainPath(fields.join(u" + "_s));
+  if (exceptField.isEmpty()) return sum;
+  QStringList numbers;
+  for (const QString& code : codes) numbers << plainNumber(code);
+  return u"IIf("_s + plainPath(exceptField) + u" In ("_s + numbers.join(u", "_s) + u"), Null, "_s + sum +
+         u')';
 }
 
 pc::ReportValue liveValue(const jet::Value& value, const std::map<QString, QString>* labels) {

@@ -49,6 +49,9 @@ pc::ReportTable readStagedRows(const Session& session, const QString& dataFile, 
 
 std::unique_ptr<pc::Report> makeReport(const Session& session, const pc::ReportRequest& request) {
   pc::ReportLayout layout = findReportLayout(session, request.file);
+  if (layout.tables.first.isEmpty() && request.dataFile.isEmpty())
+    throw pc::ReportError{u"보고서 양식 "_s + layoutName(request.file) +
+                          u"에 자료를 읽을 table 줄이 없습니다!"_s};
   pc::ReportTable rows = layout.tables.first.isEmpty()
                              ? readStagedRows(session, request.dataFile, layout.fields())
                              : readLiveRows(session, layout, request);

@@ -109,6 +109,10 @@ TEST_F(LiveReport, RowsComeFromTheTablesTheLayoutNames) {
             QStringList({"2026-03-01|김하나|7|5", "2026-03-02|김하나|가스|120", "2026-03-03||2|2"}));
   EXPECT_EQ(texts(read(layout, "{Client.HouseStyle} = 0 And Not ({Sale.SaleGubun} = 7)")),
             QStringList({"2026-03-02|김하나|가스|120"}));
+  const QString except = QString(layout).replace("Sale.Trust\n", "Sale.Trust except Sale.SaleGubun 2 7\n");
+  EXPECT_EQ(texts(read(except, {})),
+            QStringList({"2026-03-01|김하나|7|", "2026-03-02|김하나|가스|120", "2026-03-03||2|"}))
+      << "nothing where a kind is left out";
   EXPECT_THROW(read(layout, "{Sale.Nothing} = 1"), jet::Error);
   EXPECT_THROW(read(layout, "{Sale.SaleDate} = 1"), jet::Error) << "a text against a number";
   makeYearFile(session, "2025");
@@ -130,6 +134,10 @@ TEST_F(LiveReport, ALayoutNamesWhatItReads) {
                {"table Sale\ncolumn Str01 \"이름\" 10\n", "쓸 수 없는 이름"},
                {"table Sale\ncolumn Client.Name \"이름\" 10\n", "'Client' 테이블이 앞에 없습니다"},
                {"table Sale\nvalue 합\n", "더할 칸이 빠졌습니다"},
+               {"table Sale\nvalue 합 except Sale.SaleGubun 4\n", "쓸 수 없는 이름"},
+               {"table Sale\nvalue 합 Sale.DC except\n", "가릴 칸이 빠졌습니다"},
+               {"table Sale\nvalue 합 Sale.DC except Sale.SaleGubun\n", "가릴 값이 빠졌습니다"},
+               {"table Sale\nvalue 합 Sale.DC except Sale.SaleGubun 4 x\n", "정수가 아닙니다"},
                {"table Sale\nlabel Sale.SaleGubun 1 가스\n", "따옴표 안의 글이 빠졌습니다"},
                {"column Sale.SaleDate \"일자\" 10\n", "칸은 없습니다"}};
   for (const auto& each : wrong)
