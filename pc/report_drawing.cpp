@@ -208,17 +208,27 @@ class PageDrawing {
     job_.fill(edges_.front(), band.top, edges_.back() - edges_.front(), band.height, sumGrey);
     addToTable(band);
     setFont(layout_.font.points, true);
-    bool labelled = false;  // in the first column of texts
+    const QString text = report_.filled(label, page_);
+    const size_t labelled = labelColumn(text);
     for (size_t col = 0; col < layout_.columns.size(); ++col) {
       const ReportColumn& column = layout_.columns[col];
       const Box box = cellBox(col, band.top, band.height, col);
-      if (column.sum) {
+      if (column.sum)
         putFigure(box, report_.figure(sums[col].text(), column), column.align, true);
-      } else if (!labelled && column.isText()) {
-        putText(box, report_.filled(label, page_), ReportAlign::Center);
-        labelled = true;
-      }
+      else if (col == labelled)
+        putText(box, text, ReportAlign::Center);
     }
+  }
+  /** The first column of texts that takes the whole label, else the widest; beyond the columns where there is none. */
+  size_t labelColumn(const QString& label) {
+    size_t widest = layout_.columns.size();
+    const auto room = [this](size_t col) { return cellBox(col, 0, 0, col).width; };
+    for (size_t col = 0; col < layout_.columns.size(); ++col) {
+      if (!layout_.columns[col].isText() || layout_.columns[col].sum) continue;
+      if (job_.textWidth(label) <= room(col)) return col;
+      if (widest == layout_.columns.size() || room(col) > room(widest)) widest = col;
+    }
+    return widest;
   }
 
   PrintJob& job_;

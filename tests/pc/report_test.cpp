@@ -122,6 +122,23 @@ TEST_F(ReportTest, ManyPagesCarryOnAndTheTotalIsRightToTheWon) {
   EXPECT_EQ(rows, 5000);
 }
 
+TEST_F(ReportTest, TheTotalsLabelStandsWhereItHasRoom) {
+  const QString narrow = QString(layoutText)
+                             .replace("column Str01 \"이름\" 4",
+                                      "column Str02 \"일자\" 0.5\n"
+                                      "column Str01 \"이름\" 3.5");
+  layout = pc::parseReportLayout(narrow);
+  for (int i = 0; i < 10; ++i) add("김하나", 1, 1);
+  const auto job = print();
+  EXPECT_GT(find(*job, "[합 계] 10건", job->pages)->x, find(*job, "김하나")->x);
+  layout = pc::parseReportLayout(
+      QString(narrow).replace("[합 계]", "모두 더하면 더할 나위 없이 많은 이 달의 합 계"));
+  const QStringList texts = print()->texts();
+  EXPECT_TRUE(std::ranges::any_of(texts, [](const QString& text) {
+    return text.startsWith("모두 더하면 더할");
+  })) << "cut in the widest one";
+}
+
 TEST_F(ReportTest, TextsAreCutFiguresAreSetSmaller) {
   layout.columns[1].width = 1;
   layout.columns[2].width = 1;
