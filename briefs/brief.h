@@ -88,14 +88,14 @@ using BriefCells = std::vector<QString>;
 
 /** What a page shows: rows of as many cells as there are columns; figures as plain numbers. */
 struct BriefRows {
-  bool read = true;  ///< false: it failed and that was told, or the operator stopped it
+  bool read = true;  ///< false: it failed and that was told
   std::vector<BriefCells> rows = {};
   QStringList figures = {};  ///< of the page's panels, in their order
   QString note = {};         ///< for the help line: what the operator should know of these rows
 };
 
-/** Told how far long work is; False stops it. */
-using BriefTeller = std::function<bool(int done, int total)>;
+/** Told how far long work is. */
+using BriefTeller = std::function<void(int done, int total)>;
 
 /** Which year files a page's statement runs over: the open one always, the others in the order of their years. */
 enum class BriefReach {

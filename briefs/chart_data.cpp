@@ -66,3 +66,46 @@ ChartData chartData(const BriefChart& chart, const std::vector<BriefColumn>& col
   setUnit(data, columns[size_t(chart.series.front() - 1)].look);
   return data;
 }
+
+ChartScale chartScale(double least, double greatest, int most) {
+  least = std::min(least, 0.0);
+  greatest = std::max(greatest, 0.0);
+  const int gaps = std::max(most, 3) - 1;
+  for (double unit =
+           std::pow(10, std::max(0.0, std::floor(std::log10(std::max(1.0, (greatest - least) / gaps)))));
+       ; unit *= 10)
+    for (const double step : {unit, 2 * unit, 5 * unit}) {
+      const double from = std::floor(least / step), to = std::max(std::ceil(greatest / step), from + 1);
+      if (to - from <= gaps) return {from * step, to * step, int(to - from) + 1};
+    }
+}
+
+namespace {
+
+QString cutLabel(const QString& label, double room, const std::function<double(const QString&)>& width) {
+  if (width(label) <= room) return label;
+  QString cut = label;
+  while (cut.size() > 1 && width(cut + u'…') > room) cut.chop(1);
+  return cut + u'…';
+}
+
+}  // namespace
+
+QStringList chartLabels(const QStringList& labels, double room,
+                        const std::function<double(const QString&)>& width) {
+  const bool numbers = std::ranges::all_of(labels, [](const QString& label) {
+    bool whole = false;
+    label.toInt(&whole);
+    return whole;
+  });
+  double widest = 1;
+  for (const QString& label : labels) widest = std::max(widest, width(label));
+  const int every = numbers ? std::max(1, int(std::ceil(widest / std::max(1.0, room)))) : 1;
+  QStringList shown;
+  for (qsizetype at = 0; at < labels.size(); ++at) {
+    QString label = at % every == 0 ? cutLabel(labels[at], numbers ? widest : room, width) : QString();
+    while (shown.contains(label) || label.isEmpty()) label += u' ';
+    shown << label;
+  }
+  return shown;
+}

@@ -62,6 +62,7 @@ QWidget* BriefForm::gridAndChart() {
   split->addWidget(grids_);
   split->addWidget(chart_);
   split->setStretchFactor(0, 1);
+  connect(split, &QSplitter::splitterMoved, this, [this] { sharedByHand_ = true; });
   split_ = split;
   return split;
 }
@@ -146,19 +147,23 @@ void BriefForm::showEvent(QShowEvent* event) {
   Form::showEvent(event);
   if (!first) return;
   begun_ = true;
-  if (split_) shareWidth();
+  shareWidth();
   if (!run_.rows(page()).rows.empty())
     focusGrid();
   else if (QWidget* const box = asks_->firstAsked())
     focus(box);
 }
 
-/** The grid is given what its columns need, the picture the rest, within reason. */
+void BriefForm::resizeEvent(QResizeEvent* event) {
+  Form::resizeEvent(event);
+  shareWidth();
+}
+
+/** The page's grid is given what its columns need, the picture the rest, within reason; what the operator drew stays. */
 void BriefForm::shareWidth() {
-  constexpr int least = 300, most = 560;
-  int needed = 0;
-  for (const Spread* const each : findChildren<Spread*>()) needed = std::max(needed, each->fullWidth());
-  const int picture = std::clamp(split_->width() - needed - 24, least, most);
+  if (!split_ || !begun_ || sharedByHand_) return;
+  constexpr int least = 320, most = 720;
+  const int picture = std::clamp(split_->width() - grid()->fullWidth() - 24, least, most);
   split_->setSizes({split_->width() - picture, picture});
 }
 
@@ -180,6 +185,7 @@ void BriefForm::turnTo(int at, bool keepsTrail) {
   asks_->turn(at, true);
   showPanels();
   showChart();
+  shareWidth();
 }
 
 void BriefForm::showPage(const QString& text) {
@@ -207,13 +213,17 @@ bool BriefForm::load() {
   }
   asks_->put(ask);
   const BusyPointer busy;
-  if (live) return run_.printLive(ask);
+  if (live) {
+    const bool printed = run_.printLive(ask);
+    showHelp(run_.rows(page()).note);
+    return printed;
+  }
   const BriefPage& shown = run_.page(page());
   std::unique_ptr<FrmProgress> bar;
   const auto tell = [&](int done, int total) {
-    if (!shown.working) return true;
-    if (!bar && done < total) bar = std::make_unique<FrmProgress>(shown.working(ask), total, true, this);
-    return !bar || bar->step(done);
+    if (!bar && shown.working && done < total)
+      bar = std::make_unique<FrmProgress>(shown.working(ask), total, false, this);
+    if (bar) bar->step(done);
   };
   const bool found = run_.load(ask, tell);
   bar.reset();

@@ -20,6 +20,7 @@ class BriefForm : public Form {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void build();
@@ -59,5 +60,6 @@ class BriefForm : public Form {
     int row, col;
   };
   std::vector<Step> trail_;
-  bool begun_ = false;  ///< it has been shown
+  bool begun_ = false;         ///< it has been shown
+  bool sharedByHand_ = false;  ///< the operator drew the border between grid and picture
 };

@@ -10,6 +10,7 @@
 #include <QGraphicsLayout>
 #include <QHorizontalBarSeries>
 #include <QLineSeries>
+#include <QLocale>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QVBoxLayout>
@@ -27,20 +28,21 @@ namespace {
 
 constexpr QSize paperSize{1120, 380};  ///< of the picture on paper, in pixels of the screen
 constexpr int paperScale = 3;
-constexpr int longestLabel = 12;  ///< characters
-constexpr int mostLabels = 16;    ///< of a lying axis
+constexpr int labelGap = 8;         ///< pixels between two labels of an axis
+constexpr double nameShare = 0.36;  ///< of the width, for names beside lying bars
+constexpr double plotShare = 0.82;  ///< of the width, above labels side by side
 
 QColor seriesColour(size_t at) {
   const QColor colours[] = {look::accent, look::warning, look::faintInk};
   return colours[at % std::size(colours)];
 }
 
-/** Months and days by their number, long names cut. */
+/** Months and days by their number. */
 QString shortLabel(const QString& label) {
   static const QRegularExpression month(u"^0?(\\d+)월$"_s), day(u"^\\d\\d-0?(\\d+)$"_s);
   for (const QRegularExpression* const each : {&month, &day})
     if (const auto number = each->match(label); number.hasMatch()) return number.captured(1);
-  return label.size() > longestLabel ? label.left(longestLabel - 1) + u'…' : label;
+  return label;
 }
 
 /** Customers are told by name: their bars lie, the greatest on top. */
@@ -48,8 +50,16 @@ bool isRanking(const BriefChart& chart) {
   return chart.most > 0;
 }
 
+QFont axisFont() {
+  return look::textFont(8);
+}
+
+double labelWidth(const QString& label) {
+  return QFontMetricsF(axisFont()).horizontalAdvance(label) + labelGap;
+}
+
 void style(QAbstractAxis* axis) {
-  axis->setLabelsFont(look::textFont(8));
+  axis->setLabelsFont(axisFont());
   axis->setLabelsColor(look::ink);
   axis->setGridLineColor(look::gridLine);
   axis->setLinePenColor(look::line);
@@ -82,34 +92,46 @@ void addLines(QChart& made, const ChartData& data) {
   }
 }
 
-void addAxes(QChart& made, const BriefChart& chart, const ChartData& data) {
+QValueAxis* figureAxis(const BriefChart& chart, const ChartData& data, int width) {
   double least = 0, greatest = 0;
   for (const std::vector<double>& values : data.series)
     for (const double value : values) {
       least = std::min(least, value);
       greatest = std::max(greatest, value);
     }
+  constexpr int standing = 6;  // marks one above the other
+  const QString longest = QLocale(QLocale::Korean).toString(qint64(std::max(greatest, -least)));
+  const int lying = int((1 - nameShare) * width / (labelWidth(longest) + labelGap));
+  const ChartScale scale =
+      chartScale(least, greatest, isRanking(chart) ? std::min(lying, standing) : standing);
   auto* const figures = new QValueAxis;
-  figures->setRange(least, greatest > least ? greatest : least + 1);
-  figures->applyNiceNumbers();
+  figures->setRange(scale.least, scale.greatest);
+  figures->setTickCount(scale.marks);
   figures->setLabelFormat(u"%.0f"_s);
   figures->setTitleText(u"단위 : "_s + data.unit);
-  figures->setTitleFont(look::textFont(8));
+  figures->setTitleFont(axisFont());
   figures->setTitleBrush(look::faintInk);
-  auto* const labels = new QBarCategoryAxis;
+  return figures;
+}
+
+QBarCategoryAxis* labelAxis(const BriefChart& chart, const ChartData& data, int width) {
   QStringList texts;
-  const qsizetype each = isRanking(chart) ? 1 : (data.labels.size() + mostLabels - 1) / mostLabels;
-  for (qsizetype at = 0; at < data.labels.size(); ++at)
-    texts << (at % each ? u""_s : shortLabel(data.labels[at]));  // a month's days: every other one is named
-  // Two labels of one text would be one place of the axis.
-  for (qsizetype at = 0; at < texts.size(); ++at)
-    while (texts.indexOf(texts[at]) < at) texts[at] += u' ';
+  for (const QString& label : data.labels) texts << shortLabel(label);
+  const double room = isRanking(chart) ? nameShare * width : plotShare * width / double(texts.size());
+  texts = chartLabels(texts, room, labelWidth);
   if (isRanking(chart)) std::ranges::reverse(texts);
+  auto* const labels = new QBarCategoryAxis;
   labels->append(texts);
+  labels->setTruncateLabels(false);
+  return labels;
+}
+
+void addAxes(QChart& made, const BriefChart& chart, const ChartData& data, int width) {
+  QValueAxis* const figures = figureAxis(chart, data, width);
+  QBarCategoryAxis* const labels = labelAxis(chart, data, width);
   style(figures);
   style(labels);
   labels->setGridLineVisible(false);
-  labels->setTruncateLabels(false);  // two figures in a narrow place are figures, not dots
   made.addAxis(labels, isRanking(chart) ? Qt::AlignLeft : Qt::AlignBottom);
   made.addAxis(figures, isRanking(chart) ? Qt::AlignBottom : Qt::AlignLeft);
   for (QAbstractSeries* const series : made.series()) {
@@ -118,8 +140,11 @@ void addAxes(QChart& made, const BriefChart& chart, const ChartData& data) {
   }
 }
 
-std::unique_ptr<QChart> makeChart(const BriefChart& chart, const ChartData& data) {
+/** As wide as that many pixels: what an axis has room for depends on it. */
+std::unique_ptr<QChart> makeChart(const BriefChart& chart, const ChartData& data, int width) {
   auto made = std::make_unique<QChart>();
+  made->setLocale(QLocale(QLocale::Korean));
+  made->setLocalizeNumbers(true);
   made->setBackgroundRoundness(0);
   made->setBackgroundBrush(look::paper);
   made->setMargins({6, 2, 6, 2});
@@ -135,7 +160,7 @@ std::unique_ptr<QChart> makeChart(const BriefChart& chart, const ChartData& data
     addLines(*made, data);
   else
     made->addSeries(bars(chart, data));
-  addAxes(*made, chart, data);
+  addAxes(*made, chart, data, width);
   return made;
 }
 
@@ -179,15 +204,24 @@ void BriefChartPane::setRows(const BriefChart& chart, const std::vector<BriefCol
                              const std::vector<BriefCells>& rows) {
   chart_ = chart;
   data_ = chartData(chart, columns, rows);
+  draw();
+}
+
+void BriefChartPane::draw() {
   const std::unique_ptr<QChart> before(view_->chart());
-  view_->setChart(makeChart(chart_, data_).release());
+  view_->setChart(makeChart(chart_, data_, view_->width()).release());
+}
+
+void BriefChartPane::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (!data_.labels.isEmpty()) draw();
 }
 
 QByteArray BriefChartPane::picture() const {
   if (!printed_->isChecked() || !isWanted() || data_.labels.isEmpty()) return {};
   QChartView paper;
   const std::unique_ptr<QChart> empty(paper.chart());
-  paper.setChart(makeChart(chart_, data_).release());
+  paper.setChart(makeChart(chart_, data_, paperSize.width()).release());
   paper.setFrameShape(QFrame::NoFrame);
   paper.setRenderHint(QPainter::Antialiasing);
   paper.resize(paperSize);

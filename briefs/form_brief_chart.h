@@ -23,7 +23,12 @@ class BriefChartPane : public QWidget {
   QByteArray picture() const;
   QSize sizeHint() const override;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void draw();
+
   Session& session_;
   const QString form_;
   BriefChart chart_;

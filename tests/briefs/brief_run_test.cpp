@@ -192,4 +192,34 @@ TEST(ChartData, TakesItsFiguresFromTheRows) {
   EXPECT_TRUE(chartData({BriefChart::Kind::Bars, "", 1, {2}, false, 5}, columns, {}).labels.isEmpty());
 }
 
+TEST(ChartData, MarksAreRoundAndWhole) {
+  const struct {
+    double least, greatest;
+    int most;
+    double from, to;
+    int marks;
+  } cases[] = {{0, 718, 6, 0, 800, 5},        {0, 718, 3, 0, 1000, 3}, {0, 800000, 6, 0, 800000, 5},
+               {0, 800001, 6, 0, 1000000, 6}, {0, 1, 6, 0, 1, 2},      {0, 0, 6, 0, 1, 2},
+               {-30, 100, 6, -50, 100, 4},    {-5, 0, 2, -5, 0, 2},    {0, 3, 6, 0, 3, 4},
+               {-1, 1, 2, -1, 1, 3},          {-20, -10, 6, -20, 0, 5}};
+  for (const auto& each : cases) {
+    SCOPED_TRACE(std::to_string(each.least) + " to " + std::to_string(each.greatest));
+    const ChartScale scale = chartScale(each.least, each.greatest, each.most);
+    EXPECT_EQ(scale.least, each.from);
+    EXPECT_EQ(scale.greatest, each.to);
+    EXPECT_EQ(scale.marks, each.marks);
+  }
+}
+
+TEST(ChartData, LabelsHaveRoom) {
+  const auto width = [](const QString& text) { return 10.0 * double(text.size()); };
+  EXPECT_EQ(chartLabels({"1", "2", "10"}, 20, width), QStringList({"1", "2", "10"}));
+  EXPECT_EQ(chartLabels({"1", "2", "3", "10"}, 9, width), QStringList({"1", " ", "  ", "10"}))
+      << "every third number";
+  EXPECT_EQ(chartLabels({"가나다라", "가나다마", "가"}, 30, width), QStringList({"가나…", "가나… ", "가"}))
+      << "two customers cut to one text have a bar each";
+  EXPECT_EQ(chartLabels({"가나", ""}, 5, width), QStringList({"가…", " "}));
+  EXPECT_TRUE(chartLabels({}, 5, width).isEmpty());
+}
+
 }  // namespace

@@ -38,11 +38,10 @@ std::vector<BriefColumn> materialColumns() {
   return columns;
 }
 
-/** The walk's rows; columns: how many of its figures the page shows. */
+/** The walk's rows. */
 void walked(Session& session, StockWalkOf what, const BriefAsk& ask, const BriefTeller& tell,
             BriefRows& rows) {
-  const auto items = walkStock(session, what, ask.from(briefPeriod), ask.to(briefPeriod),
-                               [&tell](int done, int all) { tell(done, all); });
+  const auto items = walkStock(session, what, ask.from(briefPeriod), ask.to(briefPeriod), tell);
   rows.read = items.has_value();
   if (!items) return;
   for (const StockInOut& item : *items) {

@@ -112,7 +112,8 @@ void Spread::measure() {
     const int width = model_.column(col).hidden ? 0 : int(colWidth(col) * digit) + 8;
     edges_[size_t(col)] = edges_[size_t(col - 1)] + width;
   }
-  const int spare = viewport()->width() - edges_.back();
+  needed_ = edges_.back();
+  const int spare = viewport()->width() - needed_;
   if (fillColumn_ > 0 && fillColumn_ <= cols && !model_.column(fillColumn_).hidden && spare > 0)
     for (int col = fillColumn_; col <= cols; ++col) edges_[size_t(col)] += spare;
 
@@ -179,7 +180,7 @@ int Spread::stillColumns() const {
 }
 
 int Spread::fullWidth() const {
-  return edges_.back() + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  return needed_ + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
 }
 
 int Spread::rowsOnPage() const {

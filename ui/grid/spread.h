@@ -100,7 +100,7 @@ class Spread : public QAbstractScrollArea {
   /** So many columns at the left, one at first, stand still while the others are scrolled: the names stay in view.
    *  Where they would take more than half of the width they are scrolled too. */
   void setFrozenCols(int count);
-  /** Width in pixels at which every column shows. */
+  /** Width in pixels at which every column shows, none of them stretched. */
   int fullWidth() const;
   int rowsOnPage() const;
   void setRedraw(bool on) { setUpdatesEnabled(on); }
@@ -185,6 +185,7 @@ class Spread : public QAbstractScrollArea {
 
   std::vector<double> widths_;  ///< the operator's own; 0 takes the column's
   std::vector<int> edges_;      ///< left edges in pixels, one more than columns
+  int needed_ = 0;              ///< pixels of all columns as they are wide
   int rowPoints_ = 0;
   int rowPixels_ = 20, headerRow_ = 20, headerHeight_ = 20;
   int fillColumn_ = 0, frozenCols_ = 1;
