@@ -200,7 +200,8 @@ void Forecast::colour(int row, const Deliveries& of) {
 bool Forecast::setReserved(int row, const QString& typed) {
   QString text = typed.trimmed();
   if (text.size() == 4 || text.size() == 5) {
-    const QString day = checkedMonthDay(text, shownYear_, session_.pc.clock);
+    const QString& year = shownYear_.size() == 4 ? shownYear_ : session_.WorkYear;
+    const QString day = checkedMonthDay(text, year, session_.pc.clock);
     if (day.isEmpty()) {
       session_.prompts.MsgWarn(u"날짜 입력이 올바르지 않습니다!"_s, forecastTitle);
       return false;

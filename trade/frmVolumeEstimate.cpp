@@ -15,6 +15,7 @@
 
 #include "store/date_text.h"
 #include "ui/forms/FrmProgress.h"
+#include "ui/grid/excel_export.h"
 
 using namespace Qt::StringLiterals;
 
@@ -112,6 +113,8 @@ QWidget* frmVolumeEstimate::questionRow() {
   row->addWidget(new QLabel(u"일"_s, panel));
   row->addWidget(addButton("BtnEstimatedClient", u"예상고객(&E)"_s, [this] { findOfDay(); }));
   row->addWidget(addButton("BtnPrt", u"인쇄(&P)"_s, [this] { forecast_.print(); }));
+  row->addWidget(addButton("BtnExcel", u"엑셀(&X)"_s,
+                           [this] { ExportToExcelFile(session(), forecast_.grid(), windowTitle()); }));
   return panel;
 }
 

@@ -121,8 +121,13 @@ TEST(Forecast, TheReservedDayIsWrittenAtOnce) {
   of.pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
   EXPECT_FALSE(of.forecast.setReserved(1, "02-30"));
   EXPECT_EQ(stored(), "02-03");
+  EXPECT_TRUE(of.forecast.setReserved(1, "2026-03-05"));
+  EXPECT_EQ(stored(), "2026-03-05") << "what is no day of four or five characters stands as it was typed";
   EXPECT_TRUE(of.forecast.setReserved(1, ""));
   EXPECT_EQ(stored(), "");
+  of.forecast.ExtractForecast(ForecastOf::All, "", {});
+  EXPECT_TRUE(of.forecast.setReserved(1, "02-03")) << "with the box of the year empty";
+  EXPECT_EQ(stored(), "02-03");
 }
 
 TEST(Forecast, StopsWhereItIsToldTo) {
