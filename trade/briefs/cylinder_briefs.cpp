@@ -90,8 +90,8 @@ QString clientsStatement(const BriefAsk& ask) {
 
 Brief canLpgBrief() {
   BriefPage page = loanPage("SpCANLPG",
-                            {keyText("용기명", "SaleName", "Str02", 18),
-                             keyText("용량", "SaleThing", "Str03", 8), clientColumn("Str04")},
+                            {keyText("용기명", "SaleName", "Str02", 14),
+                             keyText("용량", "SaleThing", "Str03", 6), clientColumn("Str04")},
                             "용기대여현황02.rpt");
   page.fill = 3;
   page.order = {1, 2, 3};
@@ -117,7 +117,7 @@ Brief canCompanyBrief() {
   name.header = "상호 / 고객명";
   BriefPage page = loanPage("SpCANCompany",
                             {keyText("구분", "Kind", "Str01", 10), name,
-                             keyText("용기명", "Item", "Str03", 18), keyText("용량", "Thing", "Str04", 8)},
+                             keyText("용기명", "Item", "Str03", 14), keyText("용량", "Thing", "Str04", 6)},
                             "용기대여현황01.rpt");
   page.fill = 2;
   page.order = {1, 2, 3, 4};
@@ -147,9 +147,9 @@ Brief canCompanyBrief() {
 Brief canResBrief() {
   BriefPage page =
       loanPage("SpCANRes",
-               {keyText("담당자", "Response", "Str01", 12), textColumn("휴대전화", "HP", "Str02", 14),
-                clientColumn("Str03"), keyText("용기명", "SaleName", "Str04", 18),
-                keyText("용량", "SaleThing", "Str05", 8)},
+               {keyText("담당자", "Response", "Str01", 10), textColumn("휴대전화", "HP", "Str02", 14),
+                clientColumn("Str03"), keyText("용기명", "SaleName", "Str04", 14),
+                keyText("용량", "SaleThing", "Str05", 6)},
                "용기대여현황03.rpt");
   page.fill = 3;
   page.order = {1, 3, 4, 5};
@@ -165,7 +165,7 @@ Brief canResBrief() {
            "FROM (Sale LEFT JOIN Client ON Sale.ClientCode = Client.Code) LEFT JOIN Response ON "
            "Sale.Response = Response.Name Where " +
            loanLines(saleLoans, ask) +
-           (person.isEmpty() ? QString() : "And Sale.Response = '" + plainText(person) + "' ") +
+           (person.isEmpty() ? QString() : "And Sale.Response = '" + copiedText(person) + "' ") +
            "GROUP BY Sale.Response, Response.HP, Sale.SaleName, Sale.SaleThing, Sale.ClientCode, " +
            clientNames + " Order By Sale.Response, Client.Name, Sale.SaleName";
   };

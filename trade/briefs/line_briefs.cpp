@@ -26,8 +26,12 @@ BriefColumn ofSales(BriefColumn column) {
 
 /** Columns of a line, with or without its customer. */
 std::vector<BriefColumn> lineColumns(bool withClient) {
-  BriefColumn unit = ofSales(wonColumn("단가", "SaleUnit", "Lng02"));
+  BriefColumn unit = ofSales(wonColumn("단가", "SaleUnit", "Lng02")),
+              number = piecesColumn("수량", "SaleNum", "Lng01"), discount = wonColumn("D/C", "DC", "Lng03");
   unit.sum = false;
+  unit.width = 10;
+  number.width = 6;
+  discount.width = 9;
   std::vector<BriefColumn> columns{
       textColumn("일자", "SaleDate", "Str01", 11),
       {.header = "구분",
@@ -36,13 +40,13 @@ std::vector<BriefColumn> lineColumns(bool withClient) {
        .staged = "Str03",
        .cell = [](const jet::Recordset& rs) { return saleKind(int(rs["SaleGubun"].toLong())).label; }},
       itemColumn("Str04"),
-      ofSales(piecesColumn("수량", "SaleNum", "Lng01")),
+      ofSales(number),
       unit,
-      ofSales(wonColumn("D/C", "DC", "Lng03")),
+      ofSales(discount),
       ofSales(wonColumn("금액", {}, "Lng04")),
       wonColumn("입금액", "Income", "Lng05"),
       ofSales(wonColumn("미수금", "Trust", "Lng06")),
-      textColumn("담당자", "Response", "Str05", 12),
+      textColumn("담당자", "Response", "Str05", 10),
       hiddenColumn("ClientCode")};
   if (withClient) columns.insert(columns.begin() + 1, clientColumn("Str02"));
   return columns;

@@ -35,7 +35,7 @@ QString linesStatement(const PersonBook& book, const BriefAsk& ask, const QStrin
          "Client.HouseStyle, Client.BDName, Client.Dong, Client.Ho, " +
          figures(book, {}, {}) + "FROM Sale LEFT JOIN Client ON Sale.ClientCode = Client.Code Where " +
          book.kinds + " And " + briefDays("Sale.SaleDate", ask, briefPeriod) +
-         (person.isEmpty() ? QString() : "And Sale.Response = '" + plainText(person) + "' ") + "Order By " +
+         (person.isEmpty() ? QString() : "And Sale.Response = '" + copiedText(person) + "' ") + "Order By " +
          order + "Sale.SaleDate, Sale.SaleID";
 }
 
