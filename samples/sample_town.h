@@ -36,7 +36,7 @@ struct Customer {
   bool volumetric = false;
   int payWay = 1;
   qint64 gasInit = 0, utilInit = 0;  // won
-  int lent = 0;                      // pieces
+  std::array<int, 2> lent = {};      // pieces of the first two gases
   QString lastDate;
 };
 

@@ -43,7 +43,7 @@ class Trade {
     if (dealt < 16 && customer.gasInit > 0) return collect(who, customer.gasInit, 4, "가스수금");
     if (dealt < 18 && customer.utilInit > 0) return collect(who, customer.utilInit, 8, "자재수금");
     if (dealt < 24) return material(who);
-    if (dealt < 60 && customer.lent > 0) return cylinder(who, 6);
+    if (dealt < 60 && customer.lent[0] + customer.lent[1] > 0) return cylinder(who, 6);
     if (dealt < 36) return cylinder(who, 5);
     if (dealt < 39) return cylinder(who, 2);
     gas(who, dealt < 42 ? 3 : 1);
@@ -71,9 +71,10 @@ class Trade {
 
   /** 2 sold, 5 lent, 6 taken back. */
   void cylinder(size_t who, int kind) {
-    const size_t item = size_t(town.dice.roll(2));
-    GasStock& stock = town.stocks[item];
     Customer& customer = town.customers[who];
+    size_t item = size_t(town.dice.roll(int(customer.lent.size())));
+    if (kind == 6 && customer.lent[item] == 0) item = 1 - item;  // he brings back what he has
+    GasStock& stock = town.stocks[item];
     if (kind != 6 && stock.empty < 3) return;
     if (kind == 2) {
       const qint64 price = customer.volumetric ? 0 : gases[item].canSelling;
@@ -86,7 +87,7 @@ class Trade {
     const int moved = kind == 5 ? 1 : -1;
     stock.empty -= moved;
     stock.loan += moved;
-    customer.lent += moved;
+    customer.lent[item] += moved;
   }
 
   void material(size_t who) {

@@ -114,9 +114,9 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
   window.resize(1280, 860);
   photographer.take(window, "frmMain");
   session.SaleDay = session.pc.clock.dateText();  // the day whose figures F5 shows
-  for (const char* name : {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank",
-                           "frmHouseStyle", "frmEva", "FrmSukum", "FrmSMS", "frmDm", "frmCar", "frmSale",
-                           "frmTodaySale", "frmBuy", "frmResCAN", "frmVolumeEstimate"}) {
+  for (const char* name :
+       {"frmClient", "frmGasUtil", "frmVolume", "frmRefillState", "frmResponse", "frmBank", "frmHouseStyle",
+        "frmEva", "FrmSukum", "FrmSMS", "frmDm", "frmCar", "frmSale", "frmTodaySale", "frmBuy"}) {
     if (name[3] != 'T') closeForm(window);
     window.openForm(QString::fromLatin1(name));
     auto* const form = window.findChild<QWidget*>(QString::fromLatin1(name));
@@ -125,10 +125,6 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
     if (shown == "frmSale" || shown == "frmBuy") {  // on a line, so that its customer or station is shown
       QCoreApplication::processEvents();
       if (QWidget* const hand = form->focusWidget()) QTest::keyClick(hand, Qt::Key_Up);
-    }
-    if (shown == "frmVolumeEstimate") {
-      form->findChild<QRadioButton*>("SSOption1(2)")->click();
-      form->findChild<QPushButton*>("BtnFind")->click();
     }
     photographer.take(*form, name);
   }
@@ -219,6 +215,11 @@ void documents(frmMain& window, FormPickers& pickers, Photographer& photographer
   photographer.takeModal("FrmPost", [&] { pickers.searchPost("장터"); });
 }
 
+void forecastOfAll(QWidget& form) {
+  form.findChild<QRadioButton*>("SSOption1(2)")->click();
+  form.findChild<QPushButton*>("BtnFind")->click();
+}
+
 /** Every report of the trade side over the year so far, each with the first page of its paper. */
 void tradeReports(frmMain& window, Session& session, ReportViewer& reports, Photographer& photographer) {
   const QString year = session.WorkYear, month = session.pc.clock.today().addMonths(-1).toString("MM");
@@ -239,13 +240,18 @@ void tradeReports(frmMain& window, Session& session, ReportViewer& reports, Phot
       {"frmUtilClientBrief:clients" + days, ""},
       {"frmSaleBrief:lines" + days, ""},
       {"frmAClientSaleBrief:lines" + days + "&TxtClient=1", ""},
+      {"frmHoldBrief:stock" + days, ""},
+      {"frmUtilHoldBrief:stock" + days, ""},
       {"frmPrtSale:ledger", ""},
-      {"frmPrtBuy:ledger", ""}};
+      {"frmPrtBuy:ledger", ""},
+      {"frmResCAN", ""},
+      {"frmVolumeEstimate", ""}};
   for (const auto& [address, behind] : shown) {
     closeForm(window);
     if (!window.openForm(address)) continue;
     const QString name = address.section(':', 0, 0);
     auto* const form = window.findChild<QWidget*>(name);
+    if (name == "frmVolumeEstimate") forecastOfAll(*form);
     photographer.take(*form, name + behind);
     if (auto* const tick = form->findChild<QCheckBox*>("ChkChart"); tick && behind == "-month")
       tick->setChecked(true);
