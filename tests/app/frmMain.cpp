@@ -16,6 +16,7 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
+#include "ui/grid/spread.h"
 
 namespace {
 
@@ -142,6 +143,41 @@ TEST_F(MainWindow, AnotherBooksEntryTurnsTheOpenReadingScreen) {
   EXPECT_EQ(status->property("role"), "status");
   window->activeForm()->close();
   EXPECT_EQ(status->text() + status->property("role").toString(), "") << "colour and text go with the form";
+}
+
+TEST_F(MainWindow, EscOnTheLinesBehindAReportLeadsBackToItsLine) {
+  const auto run = [this](const char* sql) { session.dbYear.Execute(QString::fromUtf8(sql)); };
+  run("Insert Into Client(Code, Name, GasInit) Values(1, '가람', 5000)");
+  run("Insert Into Client(Code, Name, GasInit) Values(2, '나래', 7000)");
+  const QString year = session.WorkYear;
+  session.dbYear.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Trust) Values('" +
+                         year + "-01-01', 2, 1, False, 1, 7000)");
+  pc.clock.set(QDate(year.toInt(), 12, 31).startOfDay());
+  const auto front = [this] {
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return window->activeForm() ? window->activeForm()->objectName() : QString();
+  };
+  const auto lines = [this] { return window->activeForm()->findChild<Spread*>(); };
+  // Whatever else stands open, and in whatever order it was opened.
+  for (const char* const form :
+       {"frmAClientSaleBrief", "frmBank", "frmTrustBrief", "frmUser", "frmTrustBrief"})
+    ASSERT_TRUE(window->openForm(QString::fromUtf8(form)) && front() == form) << form;
+  tests::key(Qt::Key_F5);
+  lines()->setActiveCell(2, 3);
+  for (const bool doubleClick : {false, true}) {
+    if (doubleClick)
+      lines()->doubleClicked(2, 3);
+    else
+      tests::key(Qt::Key_Return);
+    ASSERT_EQ(front(), "frmAClientSaleBrief");
+    EXPECT_EQ(lines()->model().MaxRows(), 2) << "the line and its sum";
+    EXPECT_TRUE(lines()->isAncestorOf(QApplication::focusWidget()));
+    tests::key(Qt::Key_Escape);
+    ASSERT_EQ(front(), "frmTrustBrief");
+    EXPECT_EQ(lines()->activeRow(), 2);
+    EXPECT_TRUE(lines()->isAncestorOf(QApplication::focusWidget()));
+  }
 }
 
 TEST_F(MainWindow, AFormThatClosesItselfTakesItsFrameAlong) {
