@@ -4,6 +4,8 @@
 #include "store/jet/sql.h"
 #include "store/text_width.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const LineTable buyTable = {.table = "Buy",
@@ -80,7 +82,7 @@ QStringList BuyBook::stationsNamed(const QString& typed) {
   const QString text = typed.trimmed();
   jet::Recordset station;
   if (text.isEmpty() || !OpenSnapshot(session_.prompts, db(), station,
-                                      QString("Select Company, Tel, Address From RefillState Order By Code")))
+                                      u"Select Company, Tel, Address From RefillState Order By Code"_s))
     return {};
   QStringList holding;
   for (; !station.atEnd(); station.MoveNext()) {

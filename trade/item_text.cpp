@@ -1,5 +1,7 @@
 #include "trade/item_text.h"
 
+using namespace Qt::StringLiterals;
+
 ItemText splitItem(const QString& text) {
   const qsizetype slash = text.indexOf(u'/');
   if (slash < 0) return {text.trimmed(), {}};
@@ -8,5 +10,5 @@ ItemText splitItem(const QString& text) {
 
 QString joinItem(const ItemText& item) {
   if (item.name.isEmpty() && (item.size.isEmpty() || item.size == u'0')) return {};
-  return item.name + QStringLiteral(" / ") + item.size;
+  return item.name + u" / "_s + item.size;
 }

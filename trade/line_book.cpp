@@ -7,6 +7,8 @@
 #include "store/text_width.h"
 #include "ui/model/column.h"
 
+using namespace Qt::StringLiterals;
+
 std::vector<SpreadColumn> lineColumns(const LineKinds& kinds, const QStringList& headers) {
   constexpr int digits = 12;  // of an amount
   const auto header = [&headers](int col) { return headers.value(col - 1); };
@@ -183,7 +185,7 @@ void LineBook::moveByDifference(const TradeLine& line, const QString& storedPart
   const jet::Recordset stored = db().OpenRecordset(moneyStatement(line.key));
   const bool payment = line.kind->isPayment();
   const qint64 now = jet::Value(payment ? line.paid : line.trust).toLong();
-  const qint64 before = stored[payment ? table_.paid : QString("Trust")].toLong();
+  const qint64 before = stored[payment ? table_.paid : u"Trust"_s].toLong();
   const auto move = [&](const QString& partner, qint64 to, qint64 from) {
     jet::Sql by;
     by << to << (payment ? u" + " : u" - ") << from;

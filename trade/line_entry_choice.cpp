@@ -2,6 +2,8 @@
 #include "trade/line_entry.h"
 #include "trade/line_items.h"
 
+using namespace Qt::StringLiterals;
+
 bool LineEntry::mayChangePartner() {
   return session().prompts.MsgAsk(hand_.question, hand_.questionTitle);
 }
@@ -103,7 +105,7 @@ LineStep LineEntry::onCredit(int row) {
   if (book_.metered() || kindOf(row).isPayment() || cells.text(row, LineCol::Key).isEmpty() ||
       cells.text(row, LineCol::Item).isEmpty())
     return {};
-  const QString paid = cells.text(row, LineCol::Paid), none = QStringLiteral("0");
+  const QString paid = cells.text(row, LineCol::Paid), none = u"0"_s;
   if (lineFigure(paid) == 0) return {LineStep::Done, row, LineCol::Person};
   if (cells.text(row, LineCol::Key) != begun_) return finishCell(row, LineCol::Paid, none);
   return wholly(row, LineCol::Paid, [&] { return applyCell(row, LineCol::Paid, paid, none); });

@@ -68,6 +68,21 @@ const LineKind* find(const LineKinds& kinds, int code) {
   return found == kinds.end() ? nullptr : &*found;
 }
 
+QString kindIs(std::initializer_list<const LineKinds*> tables, const QString& column, LineBalance balance,
+               KindPart part) {
+  QStringList codes;
+  for (const LineKinds* const kinds : tables)
+    for (const LineKind& kind : *kinds)
+      if (kind.balance == balance && (part == KindPart::All || kind.isPayment() == (part == KindPart::Paid)))
+        codes << column + u" = "_s + QString::number(kind.code);
+  return u'(' + codes.join(u" Or "_s) + u')';
+}
+
+QString isGasGoods(QString (*is)(const QString&, LineBalance, KindPart), const QString& column) {
+  return u"Not ("_s + is(column, LineBalance::Gas, KindPart::Paid) + u" Or "_s +
+         is(column, LineBalance::Material, KindPart::All) + u')';
+}
+
 const LineKind& noKind() {
   static const LineKind none{};
   return none;
@@ -80,17 +95,19 @@ const LineKinds& saleKinds(SaleSheet sheet) {
 }
 
 QString saleKindIs(const QString& column, LineBalance balance, KindPart part) {
-  QStringList codes;
-  for (const LineKinds* kinds : {&gasSales(), &materialSales()})
-    for (const LineKind& kind : *kinds)
-      if (kind.balance == balance && (part == KindPart::All || kind.isPayment() == (part == KindPart::Paid)))
-        codes << column + u" = "_s + QString::number(kind.code);
-  return u'(' + codes.join(u" Or "_s) + u')';
+  return kindIs({&gasSales(), &materialSales()}, column, balance, part);
+}
+
+QString buyKindIs(const QString& column, LineBalance balance, KindPart part) {
+  return kindIs({&purchases()}, column, balance, part);
 }
 
 QString saleIsGasGoods(const QString& column) {
-  return u"Not ("_s + saleKindIs(column, LineBalance::Gas, KindPart::Paid) + u" Or "_s +
-         saleKindIs(column, LineBalance::Material) + u')';
+  return isGasGoods(saleKindIs, column);
+}
+
+QString buyIsGasGoods(const QString& column) {
+  return isGasGoods(buyKindIs, column);
 }
 
 QStringList labelsOf(const LineKinds& kinds) {

@@ -78,10 +78,12 @@ const LineKinds& buyKinds();
 
 /** Which kinds of a balance a statement speaks of. */
 enum class KindPart { All, Sold, Paid };
-/** A condition on the column that holds a sale's kind: "(Sale.SaleGubun = 7 Or Sale.SaleGubun = 8)". */
+/** A condition on the column that holds a line's kind: "(Sale.SaleGubun = 7 Or Sale.SaleGubun = 8)". */
 QString saleKindIs(const QString& column, LineBalance balance, KindPart part = KindPart::All);
+QString buyKindIs(const QString& column, LineBalance balance, KindPart part = KindPart::All);
 /** Neither materials nor a payment; a code outside the table is gas goods too. */
 QString saleIsGasGoods(const QString& column);
+QString buyIsGasGoods(const QString& column);
 
 QStringList labelsOf(const LineKinds& kinds);
 /** Position to kind; a place outside the list (an untouched cell) is the first kind. */

@@ -15,17 +15,7 @@ struct LineTable {
 
   /** All that a screen writes of a line. */
   QStringList written() const {
-    QStringList columns = {date,
-                           partner,
-                           kind,
-                           name,
-                           size,
-                           number,
-                           unit,
-                           QStringLiteral("DC"),
-                           paid,
-                           QStringLiteral("Trust"),
-                           QStringLiteral("Response")};
+    QStringList columns = {date, partner, kind, name, size, number, unit, "DC", paid, "Trust", "Response"};
     if (!sheetColumn.isEmpty()) columns << sheetColumn;
     return columns;
   }

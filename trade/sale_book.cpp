@@ -26,9 +26,10 @@ const QStringList saleHeaders = {
     "금  액", "입금액", "미수금", "담당자",      "코드", "고개코드"};  // spelt so on purpose
 
 /** Of the lines, by sheet. */
-const QString sheetFilters[] = {" AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = False ",
-                                " AND Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8 And Sale.Gubun = true ",
-                                " AND (Sale.SaleGubun = 7 Or Sale.SaleGubun = 8) "};
+const QString materialLines = saleKindIs("Sale.SaleGubun", LineBalance::Material);
+const QString sheetFilters[] = {" AND Not " + materialLines + " And Sale.Gubun = False ",
+                                " AND Not " + materialLines + " And Sale.Gubun = true ",
+                                " AND " + materialLines + " "};
 
 }  // namespace
 

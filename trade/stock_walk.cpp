@@ -85,16 +85,16 @@ class StockWalk {
         u"Insert Into TmpLPGCAN(SaleDate, ClientCode, Response, SaleName, SaleThing, SaleUnit, SaleNum, "
         u"SaleGubun, Gubun, Income, Trust, DC) Select SaleDate, ClientCode, Response, "
         u"SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, True, Income, Trust, DC From "_s +
-        from + u"Sale Where Sale.SaleDate >= '"_s + plainText(start_) + u"' "_s +
-        (gas() ? u"And Sale.SaleGubun <> 4 And Sale.SaleGubun <> 7 And Sale.SaleGubun <> 8"_s
-               : u"And Sale.SaleGubun = 7"_s));
+        from + u"Sale Where Sale.SaleDate >= '"_s + plainText(start_) + u"' "_s + u"And "_s +
+        (gas() ? saleIsGasGoods(u"Sale.SaleGubun"_s)
+               : saleKindIs(u"Sale.SaleGubun"_s, LineBalance::Material, KindPart::Sold)));
     db().Execute(
         u"Insert Into TmpLPGCAN(SaleDate, Response, SaleName, SaleThing, SaleUnit, SaleNum, "
         u"SaleGubun, Gubun, Income, Trust, DC) Select BuyDate, Response, "
         u"BuyName, BuyThing, PurchaseUnit, PurchaseNum, PurchaseGubun, False, Pay, Trust, DC From "_s +
-        from + u"Buy Where Buy.BuyDate >= '"_s + plainText(start_) + u"' "_s +
-        (gas() ? u"And Buy.PurchaseGubun <> 4 And Buy.PurchaseGubun <> 7 And Buy.PurchaseGubun <> 8"_s
-               : u"And Buy.PurchaseGubun = 4"_s));
+        from + u"Buy Where Buy.BuyDate >= '"_s + plainText(start_) + u"' "_s + u"And "_s +
+        (gas() ? buyIsGasGoods(u"Buy.PurchaseGubun"_s)
+               : buyKindIs(u"Buy.PurchaseGubun"_s, LineBalance::Material, KindPart::Sold)));
   }
 
   /** Every item has a row, with lines or without. */

@@ -7,8 +7,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /** Of the day's lines, by sheet. */
-const QString daySumFilters[] = {u" And Gubun = False And SaleGubun <> 7 And SaleGubun <> 8"_s,
-                                 u" And Gubun = True"_s, u" And (SaleGubun = 7 or SaleGubun = 8)"_s};
+const QString daySumMaterial = saleKindIs(u"SaleGubun"_s, LineBalance::Material);
+const QString daySumFilters[] = {u" And Gubun = False And Not "_s + daySumMaterial, u" And Gubun = True"_s,
+                                 u" And "_s + daySumMaterial};
 
 }  // namespace
 

@@ -68,6 +68,8 @@ TEST(SaleKinds, PositionsAndCodes) {
   EXPECT_EQ(saleKindIs("K", LineBalance::Material), "(K = 7 Or K = 8)");
   EXPECT_EQ(saleKindIs("K", LineBalance::Gas, KindPart::Sold), "(K = 1 Or K = 5 Or K = 6 Or K = 2 Or K = 3)");
   EXPECT_EQ(saleIsGasGoods("K"), "Not ((K = 4) Or (K = 7 Or K = 8))");
+  EXPECT_EQ(buyKindIs("K", LineBalance::Material, KindPart::Sold), "(K = 4)");
+  EXPECT_EQ(buyIsGasGoods("K"), "Not ((K = 7) Or (K = 4 Or K = 8))");
 }
 
 TEST(TradeLine, FiguresOfACellAreWholeAsTheStoreRounds) {

@@ -3,7 +3,7 @@
 #include "briefs/brief.h"
 
 /** The period's question and the boxes' name. */
-inline const QString briefPeriod = QStringLiteral("TxtDay");
+inline const QString briefPeriod = "TxtDay";
 BriefQuestion askPeriod(std::vector<int> pages = {});
 BriefQuestion askName(std::vector<int> pages = {});
 

@@ -6,6 +6,8 @@
 #include "trade/briefs/brief_parts.h"
 #include "trade/briefs/trade_briefs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** Columns of a table of lines; kinds 5 (out) and 6 (back) mean the same in both. */
@@ -44,7 +46,7 @@ BriefColumn keyText(const QString& header, const QString& field, const QString& 
 void dropSettled(Session&, const BriefAsk&, const BriefTeller&, BriefRows& rows) {
   std::erase_if(rows.rows, [](const BriefCells& row) {
     const auto figures = row.end() - 5;  // the hidden customer stands behind them
-    return std::all_of(figures, figures + 4, [](const QString& cell) { return cell == QStringLiteral("0"); });
+    return std::all_of(figures, figures + 4, [](const QString& cell) { return cell == u"0"_s; });
   });
 }
 
@@ -64,7 +66,7 @@ BriefPage loanPage(const QString& grid, std::vector<BriefColumn> columns, const 
           .period = briefPeriod,
           .reach = BriefReach::UpTo,
           .complete = dropSettled,
-          .emptyText = [](const BriefAsk&) { return QString("조회기간의 용기 대여/회수 자료가 없습니다!"); },
+          .emptyText = [](const BriefAsk&) { return u"조회기간의 용기 대여/회수 자료가 없습니다!"_s; },
           .report = report,
           .formulas = [](const BriefAsk& ask, const BriefRows&) { return QStringList{periodFormula(ask)}; },
           .behind = clientBehind};

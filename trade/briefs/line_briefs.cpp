@@ -4,6 +4,8 @@
 #include "trade/briefs/trade_briefs.h"
 #include "trade/line_kinds.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString lineStatement(const QString& condition) {
@@ -73,7 +75,7 @@ Brief saleBrief() {
                      .period = briefPeriod,
                      .reach = BriefReach::Asked,
                      .order = {1},
-                     .emptyText = [](const BriefAsk&) { return QString("조회기간의 판매 자료가 없습니다!"); },
+                     .emptyText = [](const BriefAsk&) { return u"조회기간의 판매 자료가 없습니다!"_s; },
                      .report = "전체판매현황.rpt",
                      .formulas = [](const BriefAsk& ask,
                                     const BriefRows&) { return QStringList{periodFormula(ask)}; },
@@ -108,7 +110,7 @@ Brief clientSaleBrief() {
                      [](const BriefAsk& ask) {
                        return ask["TxtClient"].code > 0
                                   ? ask.text("TxtClient") + " 고객의 조회기간 판매 자료가 없습니다!"
-                                  : QString("조회할 고객을 먼저 검색하십시오!");
+                                  : u"조회할 고객을 먼저 검색하십시오!"_s;
                      },
                  .printTitle =
                      [](const BriefAsk& ask) {
@@ -149,8 +151,7 @@ Brief utilClientBrief() {
            .period = briefPeriod,
            .reach = BriefReach::Asked,
            .order = {1, 3, 4},
-           .emptyText =
-               [](const BriefAsk&) { return QString("조회기간 및 조회고객명의 자재판매가 없습니다!"); },
+           .emptyText = [](const BriefAsk&) { return u"조회기간 및 조회고객명의 자재판매가 없습니다!"_s; },
            .report = "고객별자재판매현황.rpt",
            .formulas = [](const BriefAsk& ask, const BriefRows&) { return QStringList{periodFormula(ask)}; },
            .chart = {.kind = BriefChart::Kind::Bars,

@@ -5,6 +5,8 @@
 #include "trade/briefs/trade_briefs.h"
 #include "trade/line_kinds.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString gasSales = saleIsGasGoods("Sale.SaleGubun");
@@ -140,24 +142,23 @@ BriefPage clientPage() {
   columns[3].field = "Size";
   columns.push_back(hiddenColumn("ClientCode"));
   columns.back().key = true;
-  return {
-      .key = "client",
-      .tab = "고객별 판매현황",
-      .grid = "SpClient",
-      .columns = std::move(columns),
-      .statement = clientStatement,
-      .period = briefPeriod,
-      .reach = BriefReach::Asked,
-      .order = {1},
-      .emptyText = [](const BriefAsk&) { return QString("조회기간 및 조회고객명의 LPG판매가 없습니다!"); },
-      .report = "고객별판매현황.rpt",
-      .formulas = [](const BriefAsk& ask, const BriefRows&) { return QStringList{periodFormula(ask)}; },
-      .chart = {.kind = BriefChart::Kind::Bars,
-                .title = "판매금액이 많은 고객",
-                .label = 1,
-                .series = {5},
-                .most = 12},
-      .behind = clientBehind};
+  return {.key = "client",
+          .tab = "고객별 판매현황",
+          .grid = "SpClient",
+          .columns = std::move(columns),
+          .statement = clientStatement,
+          .period = briefPeriod,
+          .reach = BriefReach::Asked,
+          .order = {1},
+          .emptyText = [](const BriefAsk&) { return u"조회기간 및 조회고객명의 LPG판매가 없습니다!"_s; },
+          .report = "고객별판매현황.rpt",
+          .formulas = [](const BriefAsk& ask, const BriefRows&) { return QStringList{periodFormula(ask)}; },
+          .chart = {.kind = BriefChart::Kind::Bars,
+                    .title = "판매금액이 많은 고객",
+                    .label = 1,
+                    .series = {5},
+                    .most = 12},
+          .behind = clientBehind};
 }
 
 }  // namespace
