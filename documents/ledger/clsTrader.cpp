@@ -7,37 +7,26 @@
 
 namespace {
 
-struct Written {
-  const char* column;
-  QString value;  ///< as it stands in a statement
-};
-
 QString quoted(const QString& text) {
   return "'" + plainText(text) + "'";
 }
 
-std::vector<Written> written(const TraderFields& of) {
-  return {{"C_Name", quoted(of.C_Name)},
-          {"U_Name", quoted(of.U_Name)},
-          {"Serial", quoted(of.Serial)},
-          {"Phone", quoted(of.Phone)},
-          {"Fax", quoted(of.Fax)},
-          {"DDD", quoted(of.DDD)},
-          {"Charge", quoted(of.Charge)},
-          {"VAT", QString::number(of.VAT)},
-          {"Addr1", quoted(of.Addr1)},
-          {"Addr2", quoted(of.Addr2)},
-          {"Post", quoted(of.Post)},
-          {"Status", quoted(of.Status)},
-          {"Item", quoted(of.Item)},
-          {"OpenDate", quoted(of.OpenDate)},
-          {"CloseDate", quoted(of.CloseDate)},
-          {"EnterDate", quoted(of.EnterDate)},
-          {"Section", quoted(of.Section)},
-          {"TotNoPay", QString::number(of.TotNoPay)},
-          {"Bigo", quoted(of.Bigo)},
-          {"bDeled", of.bDeled ? "True" : "False"},
-          {"HPhone", quoted(of.HPhone)}};
+/** The columns behind Code, each with its value as it stands in a statement. */
+std::vector<std::pair<QString, QString>> written(const TraderFields& of) {
+  static const QStringList columns{"C_Name",   "U_Name",    "Serial",    "Phone",   "Fax",    "DDD",
+                                   "Charge",   "Addr1",     "Addr2",     "Post",    "Status", "Item",
+                                   "OpenDate", "CloseDate", "EnterDate", "Section", "Bigo",   "HPhone"};
+  const QString* const texts[] = {&of.C_Name,  &of.U_Name, &of.Serial,   &of.Phone,     &of.Fax,
+                                  &of.DDD,     &of.Charge, &of.Addr1,    &of.Addr2,     &of.Post,
+                                  &of.Status,  &of.Item,   &of.OpenDate, &of.CloseDate, &of.EnterDate,
+                                  &of.Section, &of.Bigo,   &of.HPhone};
+  std::vector<std::pair<QString, QString>> pairs;
+  for (qsizetype place = 0; place < columns.size(); ++place)
+    pairs.emplace_back(columns[place], quoted(*texts[place]));
+  pairs.emplace_back("VAT", QString::number(of.VAT));
+  pairs.emplace_back("TotNoPay", QString::number(of.TotNoPay));
+  pairs.emplace_back("bDeled", of.bDeled ? "True" : "False");
+  return pairs;
 }
 
 }  // namespace
@@ -73,16 +62,16 @@ std::optional<jet::Recordset> clsTrader::FindClient(const QString& code, const Q
 
 bool clsTrader::Insert() const {
   QString columns = "Code", values = quoted(fields.Code);
-  for (const Written& each : written(fields)) {
-    columns += QString(", ") + each.column;
-    values += ", " + each.value;
+  for (const auto& [column, value] : written(fields)) {
+    columns += ", " + column;
+    values += ", " + value;
   }
   return softly([&] { db_.Execute("INSERT INTO Trader(" + columns + ") VALUES(" + values + ")"); });
 }
 
 bool clsTrader::Update() const {
   QStringList pairs;
-  for (const Written& each : written(fields)) pairs << QString(each.column) + " = " + each.value;
+  for (const auto& [column, value] : written(fields)) pairs << column + " = " + value;
   return softly([&] {
     db_.Execute("UPDATE Trader SET " + pairs.join(", ") + " WHERE Code = '" + plainText(fields.Code) + "'");
   });

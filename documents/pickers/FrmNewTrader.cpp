@@ -17,43 +17,33 @@ FrmNewTrader::FrmNewTrader(Session& session, Pickers& pickers, bool customer, QW
       pickers_(pickers),
       customer_(customer) {
   Fields fields(addPanel(), 2);
-  name_ = fields.text("txtName", "상호명", 30, 60);
-  person_ = fields.text("txtUser", "성명", 20, 30);
-  phone_ = fields.tel("txtPhone", "전화번호");
-  fax_ = fields.tel("txtFax", "팩스번호");
+  const auto helped = [this](auto* box, const char* text) {
+    helps_[box] = text;
+    box->installEventFilter(this);
+    return box;
+  };
+  name_ = helped(fields.text("txtName", "상호명", 30, 60), "상호명을 입력하세요.");
+  person_ = helped(fields.text("txtUser", "성명", 20, 30), "성명을 입력하세요.");
+  phone_ = helped(fields.tel("txtPhone", "전화번호"), "전화번호를 입력하세요.");
+  fax_ = helped(fields.tel("txtFax", "팩스번호"), "팩스번호를 입력하세요.");
   QStringList codes;
   for (int code = 0; code < 3; ++code) codes << QString::number(code) + " " + vatCaptions()[code];
-  vat_ = fields.combo("cboVAT", "부가세", codes);
-  charge_ = fields.text("txtCharge", "담당자", 14, 6);
-  serial_ = fields.text("txtSerial", "사업/주민번호", 18, 14);
-  status_ = fields.text("txtStatus", "업태", 20, 30);
-  item_ = fields.text("txtItem", "종목", 20, 30);
+  vat_ =
+      helped(fields.combo("cboVAT", "부가세", codes), "부가세 계산방법. 0:계산안함  1:단가/1.1  2:단가*0.1");
+  charge_ = helped(fields.text("txtCharge", "담당자", 14, 6), "코드나 이름으로 담당자를 검색하세요.");
+  serial_ = helped(fields.text("txtSerial", "사업/주민번호", 18, 14), "사업/주민번호를 입력하세요.");
+  status_ = helped(fields.text("txtStatus", "업태", 20, 30), "업태를 입력하세요.");
+  item_ = helped(fields.text("txtItem", "종목", 20, 30), "종목을 입력하세요.");
   fields.newRow();
-  address_ = fields.text("txtAddr1", "주소", 0, 100, 2);
-  lot_ = fields.text("txtAddr2", "번지", 0, 100, 2);
-  remark_ = fields.text("txtBigo", "기타", 0, 255, 2);
-  balance_ = fields.money("txtTotNoPay", customer ? "미 수 금" : "미 불 금");
+  address_ = helped(fields.text("txtAddr1", "주소", 0, 100, 2),
+                    "읍/면/동 입력 후 Enter로 검색. [전체검색 : PageDown]");
+  lot_ = helped(fields.text("txtAddr2", "번지", 0, 100, 2), "번지를 입력하세요.");
+  remark_ = helped(fields.text("txtBigo", "기타", 0, 255, 2), "기타 사항을 입력하세요.");
+  balance_ = helped(fields.money("txtTotNoPay", customer ? "미 수 금" : "미 불 금"),
+                    customer ? "초기 미수금을 입력하세요" : "초기 미불금을 입력하세요.");
   fields.newRow();
-  DateBox* const opened = fields.date("txtOpenDate", "개업일자");
-  DateBox* const closed = fields.date("txtCloseDate", "폐업일자");
-  open_ = opened;
-  close_ = closed;
-
-  help(name_, "상호명을 입력하세요.");
-  help(person_, "성명을 입력하세요.");
-  help(phone_, "전화번호를 입력하세요.");
-  help(fax_, "팩스번호를 입력하세요.");
-  help(vat_, "부가세 계산방법. 0:계산안함  1:단가/1.1  2:단가*0.1");
-  help(charge_, "코드나 이름으로 담당자를 검색하세요.");
-  help(serial_, "사업/주민번호를 입력하세요.");
-  help(status_, "업태를 입력하세요.");
-  help(item_, "종목을 입력하세요.");
-  help(address_, "읍/면/동 입력 후 Enter로 검색. [전체검색 : PageDown]");
-  help(lot_, "번지를 입력하세요.");
-  help(remark_, "기타 사항을 입력하세요.");
-  help(balance_, customer ? "초기 미수금을 입력하세요" : "초기 미불금을 입력하세요.");
-  help(open_, "개업일자를 입력하세요.");
-  help(close_, "폐업일자를 입력하세요.");
+  open_ = helped(fields.date("txtOpenDate", "개업일자"), "개업일자를 입력하세요.");
+  close_ = helped(fields.date("txtCloseDate", "폐업일자"), "폐업일자를 입력하세요.");
   help_ = addText(helps_.value(name_), "PnlHelp");
   auto* const post = addButton("btnPost", "우편번호(&P)", [this] { searchPost({}); });
   post->setFocusPolicy(Qt::NoFocus);
@@ -61,14 +51,7 @@ FrmNewTrader::FrmNewTrader(Session& session, Pickers& pickers, bool customer, QW
   addLeave("btnQuit", "종료(&X)");
   enterOrder({name_, person_, phone_, fax_, vat_, charge_, serial_, status_, item_, address_, lot_, remark_,
               balance_, open_, close_, save});
-  address_->installEventFilter(this);
-  charge_->installEventFilter(this);
   name_->setFocus();
-}
-
-void FrmNewTrader::help(QWidget* box, const QString& text) {
-  helps_[box] = text;
-  box->installEventFilter(this);
 }
 
 bool FrmNewTrader::enter() {
@@ -89,14 +72,22 @@ bool FrmNewTrader::eventFilter(QObject* watched, QEvent* event) {
       guard([this] { searchPost(address_->text()); });
       return true;
     }
-    if (watched == charge_ && key == Qt::Key_F12) {
-      guard([this] {
-        if (const auto person = pickers_.searchResponse()) charge_->setText(*person);
-      });
+    if (watched == charge_ && (key == Qt::Key_F12 || (enter && !charge_->text().trimmed().isEmpty()))) {
+      guard([this, enter] { searchCharge(enter); });
       return true;
     }
   }
   return Dialog::eventFilter(watched, event);
+}
+
+/** typed: what stands in the box first tells a person by code or name; the list comes where it tells none. */
+void FrmNewTrader::searchCharge(bool typed) {
+  std::optional<QString> person;
+  if (typed) person = responseNamed(session_, charge_->text());
+  if (!person) person = pickers_.searchResponse();
+  if (!person) return;
+  charge_->setText(*person);
+  serial_->setFocus();
 }
 
 void FrmNewTrader::searchPost(const QString& text) {
@@ -111,9 +102,7 @@ void FrmNewTrader::searchPost(const QString& text) {
 }
 
 TraderFields FrmNewTrader::typed() const {
-  const auto day = [&](QLineEdit* box) {
-    return checkedDate(static_cast<DateBox*>(box)->dateText(), session_.pc.clock);
-  };
+  const auto day = [&](const DateBox* box) { return checkedDate(box->dateText(), session_.pc.clock); };
   return {.C_Name = name_->text().trimmed(),
           .U_Name = person_->text(),
           .Serial = serial_->text(),
@@ -140,8 +129,8 @@ bool FrmNewTrader::mayLeave() {
 }
 
 void FrmNewTrader::save() {
-  for (QLineEdit* box : {open_, close_}) {
-    const QString date = static_cast<DateBox*>(box)->dateText();
+  for (DateBox* const box : {open_, close_}) {
+    const QString date = box->dateText();
     if (date.isEmpty() || !checkedDate(date, session_.pc.clock).isEmpty()) continue;
     prompts().MsgWarn("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
     box->setFocus();

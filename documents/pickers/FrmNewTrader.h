@@ -23,9 +23,9 @@ class FrmNewTrader : public Dialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void help(QWidget* box, const QString& text);
   TraderFields typed() const;
   void save();
+  void searchCharge(bool typed);
   void searchPost(const QString& text);
 
   Session& session_;
@@ -33,7 +33,8 @@ class FrmNewTrader : public Dialog {
   const bool customer_;
   bool stored_ = false;
   QLineEdit *name_, *person_, *phone_, *fax_, *charge_, *serial_, *status_, *item_, *address_, *lot_,
-      *remark_, *open_, *close_;
+      *remark_;
+  DateBox *open_, *close_;
   QString post_;
   QComboBox* vat_;
   MoneyBox* balance_;

@@ -1,6 +1,7 @@
 #include "documents/pickers/FrmPost.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTimer>
 
 #include "documents/pickers/post_list.h"
@@ -15,18 +16,19 @@ std::optional<PostCodeChoice> FrmPost(Session& session, const QString& text, QWi
     if (!posts.search(typed)) session.prompts.MsgInfo(QString("'%1' 가 없습니다.").arg(typed));
     dialog.showFound();
   };
-  QLineEdit* const box =
-      dialog.addFind("txtFind", "읍/면/동", [&](const QString& typed) { search(typed.trimmed()); });
+  // On a loaded list the hand goes to the village or postcode that is typed whole; else it is searched.
+  const auto find = [&](const QString& text) {
+    const QString typed = text.trimmed();
+    const int row = typed.isEmpty() ? 0 : posts.find(typed);
+    if (row == 0) return search(typed);
+    dialog.grid()->setActiveCell(row, 1);
+    dialog.grid()->setFocus();
+  };
+  QLineEdit* const box = dialog.addFind("txtFind", "읍/면/동", find);
+  auto* const button = dialog.findChild<QPushButton*>("BtnFind");
+  button->setObjectName("btnFind");
+  button->setText("검색(&F)");
   dialog.showHelp("읍/면/동으로 검색하세요. [전체검색 : 빈칸]");
-  dialog.addButton("btnFind", "검색(&F)", [&] {
-    const QString typed = box->text().trimmed();
-    if (const int row = posts.find(typed)) {
-      dialog.grid()->setActiveCell(row, 1);
-      dialog.grid()->setFocus();
-    } else {
-      search(typed);
-    }
-  });
   dialog.addLeave("btnQuit", "닫기(&Q)");
   if (!text.isEmpty()) {
     box->setText(text);

@@ -1,5 +1,7 @@
 #include "documents/pickers/new_trader.h"
 
+#include "store/data_access.h"
+
 TraderSaved saveNewTrader(Session& session, const TraderFields& fields) {
   Prompts& prompts = session.prompts;
   if (fields.C_Name.isEmpty() && fields.Phone.isEmpty() && fields.Addr1.isEmpty()) {
@@ -36,4 +38,15 @@ TraderSaved saveNewTrader(Session& session, const TraderFields& fields) {
   if (stored) return TraderSaved::Stored;
   prompts.MsgWarn("거래처를 등록하는 중 오류가 발생했습니다.");
   return TraderSaved::BackToName;
+}
+
+std::optional<QString> responseNamed(Session& session, const QString& typed) {
+  const QString text = typed.trimmed();
+  bool isCode = false;
+  const int code = text.toInt(&isCode);
+  const jet::Recordset found = session.dbBasic.OpenRecordset(
+      "Select Name From Response Where " +
+      (isCode ? "Code = " + QString::number(code) : "Name = '" + copiedText(text) + "'"));
+  if (found.atEnd()) return {};
+  return found[0].toText();
 }

@@ -14,3 +14,6 @@ enum class TraderSaved {
 /** Stores a new trader and the row of his book with the opening balance (fields.TotNoPay, in won). fields.Section: "1" a
  *  customer, else a supplier. The questions are asked here. */
 TraderSaved saveNewTrader(Session& session, const TraderFields& fields);
+
+/** The name of the delivery person with this code or name; nothing when there is none. */
+std::optional<QString> responseNamed(Session& session, const QString& typed);
