@@ -202,7 +202,7 @@ void statementPair(int size, bench::Side& ours, bench::Side& plain) {
   auto desk = std::make_shared<DealDesk>(books->session);
   desk->search({.from = QDate(2026, 3, 1), .to = QDate(2026, 3, 31)});
   desk->ticks().setAll(true);
-  const DocumentRun run = desk->papers({.layout = DealLayout::FullA4});
+  const DocumentRun run = desk->papers({.layout = DocumentLayout::FullA4});
   bench::require(run.documents == size, "statements");
   pairOf(books, run, ours, plain);
 }

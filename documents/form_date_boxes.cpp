@@ -1,5 +1,8 @@
 #include "documents/form_date_boxes.h"
 
+#include <QHBoxLayout>
+#include <QLabel>
+
 DateRangeBoxes::DateRangeBoxes(Form& form, QWidget* parent, const QString& fromHelp, const QString& toHelp)
     : form_(form) {
   for (int end = 0; end < 2; ++end) {
@@ -9,6 +12,15 @@ DateRangeBoxes::DateRangeBoxes(Form& form, QWidget* parent, const QString& fromH
     form.setHelp(boxes_[end], end == 0 ? fromHelp : toHelp);
     form.whenLeft(boxes_[end], [this, end] { check(end); });
   }
+}
+
+void DateRangeBoxes::addTo(QHBoxLayout* row, const char* caption) {
+  QWidget* const panel = row->parentWidget();
+  row->addWidget(new QLabel(caption, panel));
+  row->addWidget(boxes_[0]);
+  row->addWidget(new QLabel("~", panel));
+  row->addWidget(boxes_[1]);
+  row->addSpacing(10);
 }
 
 void DateRangeBoxes::set(const QString& from, const QString& to, const QDate& emptyFrom,
@@ -29,6 +41,5 @@ bool DateRangeBoxes::check(int end) {
   }
   taken_[end] = date;
   boxes_[end]->setDateText(date);
-  if (changed) changed();
   return true;
 }

@@ -2,17 +2,20 @@
 // The from and to of the document forms: txtDate(0) and txtDate(1), and the range they stand for.
 #include <QDate>
 
-#include <functional>
 #include <optional>
 
 #include "documents/document_date.h"
 #include "ui/forms/fields.h"
 #include "ui/forms/form.h"
 
+class QHBoxLayout;
+
 class DateRangeBoxes {
  public:
   DateRangeBoxes(Form& form, QWidget* parent, const QString& fromHelp, const QString& toHelp);
 
+  /** Both boxes behind their caption. */
+  void addTo(QHBoxLayout* row, const char* caption);
   DateBox* box(int end) const { return boxes_[end]; }
   /** An empty date takes the one given for it. */
   void set(const QString& from, const QString& to, const QDate& emptyFrom, const QDate& emptyTo);
@@ -20,8 +23,6 @@ class DateRangeBoxes {
   bool take() { return check(0) && check(1); }
   QDate from() const { return dayOf(0); }
   QDate to() const { return dayOf(1); }
-  /** Told after a box took another date. */
-  std::function<void()> changed;
 
  private:
   QDate dayOf(int end) const { return QDate::fromString(taken_[end], Qt::ISODate); }

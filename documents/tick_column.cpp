@@ -14,3 +14,14 @@ std::vector<int> TickColumn::ticked() const {
     if (isTicked(row) && !list_.text(row, codeCol_).isEmpty()) rows.push_back(row);
   return rows;
 }
+
+QSet<QString> TickColumn::codes() const {
+  QSet<QString> found;
+  for (const int row : ticked()) found << list_.text(row, codeCol_);
+  return found;
+}
+
+void TickColumn::tick(const QSet<QString>& codes) {
+  for (int row = 1; row <= list_.MaxRows(); ++row)
+    if (codes.contains(list_.text(row, codeCol_))) set(row, true);
+}

@@ -1,5 +1,7 @@
 #pragma once
 // The ticks of a list whose ticked lines become papers. A line without a code is no line and is never ticked.
+#include <QSet>
+
 #include <vector>
 
 #include "ui/model/spread_model.h"
@@ -16,6 +18,9 @@ class TickColumn {
   void setAll(bool on) { setBlock(1, list_.MaxRows(), on); }
   void setBlock(int from, int to, bool on);
   std::vector<int> ticked() const;
+  /** The codes of what is ticked, and the ticks put back by them on a list that was filled anew. */
+  QSet<QString> codes() const;
+  void tick(const QSet<QString>& codes);
 
  private:
   SpreadModel& list_;

@@ -125,7 +125,8 @@ std::vector<jet::TableDef> taxTables() {
       make(
           "TaxAcount",
           {text("Serial", 20), text("CCode", 6), date("DealDate"), text("DealYY", 7), date("IssueDate"),
-           real("TradeKum"), real("VatKum"), whole("Blank"), text("List", 100), text("Section", 1)},
+           real("TradeKum"), real("VatKum"), whole("Blank"), text("List", 100), text("Section", 1),
+           text("CName", 60)},  // as issued: the customer may be deleted since
           {primary("PK", {"Serial"}), index("Client", {"CCode", "DealYY"}), index("DealDate", {"DealDate"})}),
       make("NewAcount",
            {text("TaxCode", 20), text("CCode", 6), text("CName", 60), text("PCode", 10), text("PName", 60),

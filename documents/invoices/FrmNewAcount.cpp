@@ -32,7 +32,7 @@ FrmNewAcount::FrmNewAcount(FormContext& context, QWidget* parent)
   showPage(today + ',' + today);
   allowResize({grid_->fullWidth() + 40, 26 * fontMetrics().height()});
   rememberPlace(context.session.pc.paths);
-  showSums();
+  sums_.show(entry_.sums());
   client_->setFocus();
 }
 
@@ -60,18 +60,9 @@ QWidget* FrmNewAcount::headPanel() {
 
 QWidget* FrmNewAcount::sumPanel() {
   auto* const panel = new QWidget(this);
-  auto* const row = new QHBoxLayout(panel);
-  row->setContentsMargins(0, 0, 0, 0);
+  auto* const row = panelRow(panel, 0, 6);
   row->addStretch(1);
-  int place = 0;
-  for (const char* caption : {"공급가액", "부가세", "합계액"}) {
-    row->addWidget(new QLabel(caption, panel));
-    QLabel*& shown = sums_[place];
-    shown = shownValue(qPrintable(QString("pnlSum(%1)").arg(place++)));
-    shown->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    shown->setMinimumWidth(16 * fontMetrics().horizontalAdvance('0'));
-    row->addWidget(shown);
-  }
+  sums_.addTo(row, panel);
   return panel;
 }
 
@@ -91,7 +82,7 @@ void FrmNewAcount::connectGrid() {
   };
   grid_->cellFinished = [this](int row, int col, const QString&, const QString& text) {
     const bool taken = entry_.finishCell(row, col, text);
-    showSums();
+    sums_.show(entry_.sums());
     return taken;
   };
   grid_->enterPressed = [this](int row, int col) {
@@ -168,21 +159,15 @@ void FrmNewAcount::searchItem(int row) {
   const auto item = context_.pickers.searchSize("1", TradeSide::Sale);
   if (!item) return;
   entry_.takeItem(row, item->name, item->size, item->price);
-  showSums();
+  sums_.show(entry_.sums());
   grid_->setActiveCell(row, AcountCol::Quantity);
-}
-
-void FrmNewAcount::showSums() {
-  const VatSplit sums = entry_.sums();
-  int place = 0;
-  for (const qint64 won : {sums.supply, sums.tax, sums.total}) sums_[place++]->setText(wonOrBlank(won));
 }
 
 void FrmNewAcount::save() {
   if (!grid_->commitEdit()) return;
   takeDates();
   if (!entry_.isUnsaved() || !entry_.save()) return;
-  showSums();
+  sums_.show(entry_.sums());
   grid_->setActiveCell(1, AcountCol::Name);
   client_->setFocus();
   client_->selectAll();
@@ -191,7 +176,7 @@ void FrmNewAcount::save() {
 void FrmNewAcount::deleteLine() {
   if (!grid_->commitEdit()) return;
   entry_.deleteLine(grid_->activeRow());
-  showSums();
+  sums_.show(entry_.sums());
 }
 
 bool FrmNewAcount::mayLeave() {

@@ -1,5 +1,6 @@
 #pragma once
 // "세금계산서 등록": an invoice typed by hand.
+#include "documents/form_parts.h"
 #include "documents/invoices/new_acount.h"
 #include "master/registers/form_context.h"
 #include "ui/forms/dialog.h"
@@ -28,7 +29,6 @@ class FrmNewAcount : public Dialog {
   void help(QWidget* box, const QString& text);
   void chooseClient();
   void takeDates();
-  void showSums();
   void searchItem(int row);
   void save();
   void deleteLine();
@@ -39,7 +39,8 @@ class FrmNewAcount : public Dialog {
   DateBox *issue_, *deal_;
   QLineEdit* client_;
   Spread* grid_;
-  QLabel *help_, *sums_[3];
+  QLabel* help_;
+  SplitSums sums_;
   QHash<QObject*, QString> helps_;
   QString issueDate_, dealDate_;
 };

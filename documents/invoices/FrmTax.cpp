@@ -9,10 +9,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
-#include "documents/form_sections.h"
 #include "documents/invoices/tax_bulk.h"
-#include "papers/form_document_run.h"
-#include "papers/paper_printer.h"
 #include "ui/grid/excel_export.h"
 
 namespace {
@@ -24,27 +21,30 @@ constexpr auto keysFirst = "[종료:Esc]  [일자변경:Insert]  [여백설정:F
 constexpr auto keysAfterEntry =
     "[종료:Esc]  [일자변경:Insert]  [여백설정:F1]  [신규등록:F2]  [부분발행:F4]  [수정:Sapce]";
 
-QWidget* tightRow(QWidget* parent, QHBoxLayout*& row) {
-  auto* const box = new QWidget(parent);
-  row = new QHBoxLayout(box);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(8);
-  return box;
+/** Radio buttons of one choice, which a panel of their own keeps together; name(0), name(1), ... */
+template <size_t Count>
+QWidget* choiceOf(QRadioButton* (&buttons)[Count], const char* name, const char* const (&captions)[Count],
+                  QWidget* parent) {
+  auto* const panel = new QWidget(parent);
+  auto* const row = panelRow(panel, 0, 8);
+  for (size_t place = 0; place < Count; ++place) {
+    buttons[place] = new QRadioButton(captions[place], panel);
+    buttons[place]->setObjectName(QString("%1(%2)").arg(name).arg(place));
+    row->addWidget(buttons[place]);
+  }
+  return panel;
 }
 
 }  // namespace
 
 FrmTax::FrmTax(FormContext& context, QWidget* parent)
-    : Form("FrmTax", "세금계산서 발행", context.session, parent), context_(context), desk_(context.session) {
-  tabs_ = sectionTabs(this);
+    : DocumentForm("FrmTax", kind, context, parent), desk_(context.session) {
   grid_ = addSpread("grdList", desk_.grid());
   grid_->setFillColumn(TaxCol::Item);
-  body()->addLayout(sectionHead({tabs_, questionRow(), choiceRow()}));
-  body()->addWidget(grid_, 1);
-  body()->addWidget(sumRow());
+  lay({tabs_, questionRow(), choiceRow()}, sumRow());
   setBottomLine(keysFirst);
   enterOrder({dates_->box(0), dates_->box(1)}, [this] {
-    closeDates();
+    focusGrid();
     gather();
   });
   connectGrid();
@@ -56,7 +56,9 @@ FrmTax::FrmTax(FormContext& context, QWidget* parent)
 void FrmTax::showPage(const QString& mode) {
   // What was typed on the open form and is not issued yet stays.
   if (isTyped() && mode == "1") return;
-  guard([&] { Open(mode == "1" ? 1 : 0, {}, {}); });
+  guard([&] {
+    if (mayDropTyped()) Open(mode == "1" ? 1 : 0, {}, {});
+  });
 }
 
 void FrmTax::Open(int mode, const QString& fromDate, const QString& toDate) {
@@ -71,100 +73,79 @@ void FrmTax::Open(int mode, const QString& fromDate, const QString& toDate) {
   gather();
 }
 
+/** What is gathered is gathered anew, what was typed would be lost. */
+bool FrmTax::mayDropTyped() {
+  return !isTyped() || !desk_.hasPrepared() ||
+         session().prompts.MsgAsk("입력한 계산서를 발행하지 않았습니다!\n발행하지 않고 버리시겠습니까?", kind,
+                                  false);
+}
+
 bool FrmTax::mayClose() {
-  return guard([this] { desk_.empty(); }) || true;
+  bool stays = false;
+  guard([&] {
+    stays = !mayDropTyped();
+    if (!stays) desk_.empty();
+  });
+  return !stays;
 }
 
 QWidget* FrmTax::questionRow() {
-  datePanel_ = addGroup({});
-  datePanel_->setObjectName("pnlDate");
-  auto* const row = new QHBoxLayout(datePanel_);
-  row->setContentsMargins(6, 4, 6, 4);
-  row->setSpacing(5);
-  dates_ = std::make_unique<DateRangeBoxes>(*this, datePanel_, " 집계 시작일자를 입력하세요.",
+  auto* const panel = addGroup({});
+  panel->setObjectName("pnlDate");
+  auto* const row = panelRow(panel, 4, 5);
+  dates_ = std::make_unique<DateRangeBoxes>(*this, panel, " 집계 시작일자를 입력하세요.",
                                             " 집계 마지막일자를 입력하세요.");
-  row->addWidget(new QLabel("집계일자", datePanel_));
-  row->addWidget(dates_->box(0));
-  row->addWidget(new QLabel("~", datePanel_));
-  row->addWidget(dates_->box(1));
-  row->addSpacing(10);
-  int place = 0;
-  for (const char* caption : {"월별", "일자별", "기간별"}) {
-    auto* const made = new QRadioButton(caption, datePanel_);
-    made->setObjectName(QString("OptGubun(%1)").arg(place));
-    connect(made, &QRadioButton::clicked, this, [this] { command([this] { gather(); }); });
-    row->addWidget(made);
-    gathering_[place++] = made;
-  }
+  dates_->addTo(row, "집계일자");
+  row->addWidget(choiceOf(gathering_, "OptGubun", {"월별", "일자별", "기간별"}, panel));
+  for (QRadioButton* each : gathering_)
+    connect(each, &QRadioButton::clicked, this, [this] { command([this] { gather(); }); });
   gathering_[0]->setChecked(true);
   row->addWidget(gatherButton_ = addButton("Cmd모으기", "집계(&G)", [this] { gather(); }));
   row->addStretch(1);
-  row->addWidget(new QLabel("일련번호", datePanel_));
+  row->addWidget(new QLabel("일련번호", panel));
   for (auto [box, name, digits] :
        {std::tuple{&serialMonth_, "Txt일련번호1", 4}, {&serialNumber_, "Txt일련번호2", 5}}) {
-    *box = new QLineEdit(datePanel_);
+    *box = new QLineEdit(panel);
     (*box)->setObjectName(name);
     (*box)->setMaxLength(digits);
-    (*box)->setInputMask({});
     (*box)->setFixedWidth((digits + 2) * fontMetrics().horizontalAdvance('0') + 12);
     row->addWidget(*box);
   }
-  row->insertWidget(row->indexOf(serialNumber_), new QLabel("-", datePanel_));
+  row->insertWidget(row->indexOf(serialNumber_), new QLabel("-", panel));
   row->addSpacing(10);
-  auto* const setPrinter = addButton("btnPrinter", "프린터(&P)", [this] {
-    context_.commands.openForm(QString("FrmSetPrinter:") + kind);
-    showPrinter();
-  });
+  auto* const setPrinter = addButton("btnPrinter", "프린터(&P)", [this] { askPrinter(); });
   // Alt+P issues: two buttons of one letter would only pass the focus to and fro.
   setPrinter->setShortcut(QKeySequence("Alt+I"));
   setPrinter->setToolTip("Alt+I");
   row->addWidget(setPrinter);
-  return datePanel_;
+  return panel;
 }
 
 QWidget* FrmTax::choiceRow() {
   auto* const panel = addGroup({});
-  auto* const row = new QHBoxLayout(panel);
-  row->setContentsMargins(6, 2, 6, 2);
-  row->setSpacing(14);
-  const auto check = [&](const char* name, const QString& caption) {
-    auto* const made = new QCheckBox(caption, panel);
-    made->setObjectName(name);
-    row->addWidget(made);
-    return made;
-  };
-  all_ = check("Chk선택", "전체 선택");
-  form_ = check("chkForm", "양식 출력");
+  auto* const row = panelRow(panel, 2, 14);
+  all_ = addCheck(panel, "Chk선택", "전체 선택");
+  form_ = addCheck(panel, "chkForm", "양식 출력");
   form_->setChecked(true);
-  QHBoxLayout* vats = nullptr;
-  row->addWidget(tightRow(panel, vats));
-  int place = 0;
-  for (const char* caption : {"Vat포함", "Vat별도", "Vat없음"}) {
-    auto* const made = new QRadioButton(caption, panel);
-    made->setObjectName(QString("OptVat(%1)").arg(place));
-    connect(made, &QRadioButton::toggled, this, [this](bool on) {
+  row->addWidget(choiceOf(vat_, "OptVat", {"Vat포함", "Vat별도", "Vat없음"}, panel));
+  vat_[0]->setChecked(true);
+  freeOfTax_ = addCheck(panel, "ChkVat", "면세적용");
+  for (QRadioButton* each : vat_)
+    connect(each, &QRadioButton::toggled, this, [this](bool on) {
       if (!on) return;
       freeOfTax_->setChecked(vat() == Vat::None);
+      const QSet<QString> ticked = desk_.ticks().codes();
       guard([this] { list(); });
+      desk_.ticks().tick(ticked);
     });
-    vats->addWidget(made);
-    vat_[place++] = made;
-  }
-  freeOfTax_ = check("ChkVat", "면세적용");
-  {
-    const QSignalBlocker quiet(vat_[0]);
-    vat_[0]->setChecked(true);
-  }
   connect(freeOfTax_, &QCheckBox::clicked, this, [this](bool on) { vat_[on ? 2 : 0]->setChecked(true); });
   connect(all_, &QCheckBox::clicked, this, [this](bool on) { desk_.ticks().setAll(on); });
-  QHBoxLayout* words = nullptr;
-  row->addWidget(tightRow(panel, words));
-  for (auto [button, name, caption] :
-       {std::tuple{&receipt_, "Opt영수", "영수"}, {&charge_, "Opt청구", "청구"}}) {
-    *button = new QRadioButton(caption, panel);
-    (*button)->setObjectName(name);
-    words->addWidget(*button);
-  }
+  QRadioButton* words[2];
+  row->addWidget(choiceOf(words, "", {"영수", "청구"}, panel));
+  receipt_ = words[0];
+  charge_ = words[1];
+  receipt_->setObjectName("Opt영수");
+  charge_->setObjectName("Opt청구");
   charge_->setChecked(true);
   row->addStretch(1);
   return panel;
@@ -174,26 +155,16 @@ QWidget* FrmTax::sumRow() {
   auto* const panel = new QWidget(this);
   auto* const rows = new QVBoxLayout(panel);
   rows->setContentsMargins(0, 0, 0, 0);
-  QHBoxLayout* row = nullptr;
-  rows->addWidget(tightRow(panel, row));
-  caption_ = new QLabel(panel);
+  auto* const sums = new QWidget(panel);
+  auto* const row = panelRow(sums, 0, 8);
+  caption_ = new QLabel(sums);
   caption_->setObjectName("pnlCaption");
   row->addWidget(caption_, 1);
-  int place = 0;
-  for (const char* caption : {"공급가액", "부가세", "합계액"}) {
-    row->addWidget(new QLabel(caption, panel));
-    auto* const shown = new QLabel(panel);
-    shown->setObjectName(QString("pnlSum(%1)").arg(place));
-    shown->setProperty("role", "value");
-    shown->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    shown->setFixedWidth(17 * fontMetrics().horizontalAdvance('0'));
-    row->addWidget(shown);
-    sums_[place++] = shown;
-  }
-  rows->addWidget(buttonRow({addButton("btnPreview", "미리보기(&W)", [this] { preview(); }),
-                             addButton("btnPdf", "PDF저장(&D)", [this] { savePdf(); }),
+  sums_.addTo(row, sums);
+  rows->addWidget(sums);
+  rows->addWidget(buttonRow({addPreviewButton(), addPdfButton(),
                              addButton("btnExcel", "홈택스 엑셀(&E)", [this] { exportIssued(); }), nullptr,
-                             addButton("Cmd인쇄", "발행(&P)", [this] { issue(true); }),
+                             addButton("Cmd인쇄", "발행(&P)", [this] { print(); }),
                              addButton("Cmd닫기", "닫기(&X)", [this] { close(); })}));
   return panel;
 }
@@ -205,12 +176,10 @@ void FrmTax::connectGrid() {
   };
   // The tick's own cell is turned by the grid itself; a date of issue is clicked to be changed.
   grid_->clicked = [this](int row, int col) {
-    if (col != TaxCol::Tick && (col != TaxCol::IssueDate || tab() == TaxTab::Issued))
-      desk_.ticks().toggle(row);
+    if (col != TaxCol::Tick && (col != TaxCol::IssueDate || !isPendingTab())) desk_.ticks().toggle(row);
   };
   grid_->editStarting = [this](int row, int col) {
-    return !desk_.grid().text(row, TaxCol::TaxCode).isEmpty() &&
-           (col != TaxCol::IssueDate || tab() == TaxTab::Pending);
+    return !desk_.grid().text(row, TaxCol::TaxCode).isEmpty() && (col != TaxCol::IssueDate || isPendingTab());
   };
   grid_->cellFinished = [this](int row, int col, const QString&, const QString& text) {
     return finishCell(row, col, text);
@@ -220,22 +189,23 @@ void FrmTax::connectGrid() {
 
 void FrmTax::connectKeys() {
   onKey(Qt::Key_Escape, [this] {
-    if (dates_->box(0)->hasFocus() || dates_->box(1)->hasFocus()) return closeDates();
+    if (dates_->box(0)->hasFocus() || dates_->box(1)->hasFocus()) return focusGrid();
     close();
   });
-  onKey(Qt::Key_Insert, [this] { openDates(); });
-  onKey(Qt::Key_F1, [this] { context_.commands.openForm(QString("FrmMargin:") + kind); });
+  onKey(Qt::Key_Insert, [this] { focus(dates_->box(0)); });
+  onKey(Qt::Key_F1, [this] { askMargin(); });
   onKey(Qt::Key_F2, [this] { typeInvoice(); });
+  // A part of the list: what is not ticked stays as it stands.
   onKey(Qt::Key_F4, [this] {
-    if (tab() == TaxTab::Pending) issue(false);
+    if (isPendingTab()) issue([this] { list(); });
   });
   onKey(Qt::Key_F5, [this] {
-    if (tab() != TaxTab::Pending || grid_->activeRow() == 0) return;
+    if (!isPendingTab() || grid_->activeRow() == 0) return;
     grid_->setFocus();
     if (grid_->setActiveCell(grid_->activeRow(), TaxCol::IssueDate)) grid_->beginEdit();
   });
   onKey(Qt::Key_Delete, [this] {
-    if (tab() == TaxTab::Issued) deleteIssued();
+    if (!isPendingTab() && grid_->hasFocus()) deleteIssued();
   });
 }
 
@@ -249,10 +219,6 @@ bool FrmTax::finishCell(int row, int col, const QString& text) {
   return false;
 }
 
-TaxTab FrmTax::tab() const {
-  return tabs_->currentIndex() == 0 ? TaxTab::Pending : TaxTab::Issued;
-}
-
 Vat FrmTax::vat() const {
   return vat_[2]->isChecked() ? Vat::None : vat_[1]->isChecked() ? Vat::OnTop : Vat::Included;
 }
@@ -261,7 +227,11 @@ TaxAsk FrmTax::ask() const {
   std::optional<TaxGathering> gathering;
   for (int place = 0; place < 3; ++place)
     if (!isTyped() && gathering_[place]->isChecked()) gathering = TaxGathering(place);
-  return {.from = dates_->from(), .to = dates_->to(), .gathering = gathering, .vat = vat(), .tab = tab()};
+  return {.from = dates_->from(),
+          .to = dates_->to(),
+          .gathering = gathering,
+          .vat = vat(),
+          .tab = isPendingTab() ? TaxTab::Pending : TaxTab::Issued};
 }
 
 void FrmTax::gather() {
@@ -278,9 +248,7 @@ void FrmTax::list() {
 
 void FrmTax::showSums() {
   all_->setChecked(false);
-  const VatSplit& sums = desk_.sheet().sums();
-  int place = 0;
-  for (const qint64 won : {sums.supply, sums.tax, sums.total}) sums_[place++]->setText(wonOrBlank(won));
+  sums_.show(desk_.sheet().sums());
   caption_->setText(desk_.sheet().isEmpty() ? emptyHelp : listHelp);
 }
 
@@ -299,64 +267,36 @@ QString FrmTax::serial() const {
                                                                     : desk_.nextSerial(dates_->to());
 }
 
-QString FrmTax::printer() const {
-  return documentPrinterOrDefault(session(), kind);
-}
-
-void FrmTax::showPrinter() {
-  setWindowTitle("세금계산서 발행 - 현재 설정된 프린터 : " + printer());
-}
-
 std::optional<TaxPaperChoice> FrmTax::askPaper() {
   const auto method = context_.pickers.askPrintMethod({.title = "세금계산서 발행",
                                                        .prompt = "세금계산서 발행 방법을 선택하세요.",
                                                        .inkjet = "잉크젯(레이저) 발행",
                                                        .dot = "도트프린터 발행"});
   if (!method) return {};
-  return TaxPaperChoice{TaxDesk::layoutOf(*method), form_->isChecked(), vat() == Vat::None,
-                        receipt_->isChecked()};
+  return TaxPaperChoice{layoutOf(*method), form_->isChecked(), vat() == Vat::None, receipt_->isChecked()};
 }
 
-/** The lines and the number are taken before the paper comes: what then fails stands in the register and is printed
- *  from there. */
-void FrmTax::issue(bool gatherAgain) {
-  if (!desk_.mayPrint(printer())) return;
+std::optional<DocumentRun> FrmTax::papers(bool issuing) {
   const auto choice = askPaper();
-  if (!choice) return;
-  QString next = serial(), failure;
-  const DocumentRun run = desk_.issue(ask(), next, *choice);
+  if (!choice) return {};
+  if (!issuing) return desk_.papers(ask(), serial(), *choice);
+  QString next = serial();
+  DocumentRun run = desk_.issue(ask(), next, *choice);
   showSerial(next);
-  int done = run.documents;
-  try {
-    done = printRun(session(), this, run, printer());
-  } catch (const pc::PrintError& error) {
-    failure = error.text;
-    done = 0;
-  }
-  if (gatherAgain && tab() == TaxTab::Pending)
-    gather();
-  else
-    list();
-  if (done < run.documents)
-    session().prompts.MsgWarn((failure.isEmpty() ? QString() : failure + "\n\n") +
-                                  "세금계산서를 모두 인쇄하지 못했습니다.\n발행한 내역에서 다시 인쇄하세요.",
-                              kind);
+  return run;
 }
 
-void FrmTax::preview() {
-  if (!desk_.mayPrint(printer())) return;
-  if (const auto choice = askPaper())
-    previewRun(session(), this, desk_.papers(ask(), serial(), *choice),
-               [this] { guard([this] { issue(true); }); });
-}
-
-void FrmTax::savePdf() {
-  if (!desk_.mayPrint(printer())) return;
-  if (const auto choice = askPaper()) saveRun(session(), this, desk_.papers(ask(), serial(), *choice));
+void FrmTax::print() {
+  issue([this] {
+    if (isPendingTab())
+      gather();
+    else
+      list();
+  });
 }
 
 void FrmTax::exportIssued() {
-  if (tab() == TaxTab::Pending) {
+  if (isPendingTab()) {
     session().prompts.MsgInfo("발행한 내역에서 엑셀로 보낼 수 있습니다.", kind);
     return;
   }
@@ -379,12 +319,4 @@ void FrmTax::typeInvoice() {
   setBottomLine(keysAfterEntry);
   tabs_->setCurrentIndex(0);
   list();
-}
-
-void FrmTax::openDates() {
-  focus(dates_->box(0));
-}
-
-void FrmTax::closeDates() {
-  focusGrid();
 }

@@ -3,165 +3,80 @@
 
 namespace tax_form {
 
-using pc::PaperItem;
-
-constexpr double edge = 1.5 / documentRows;
+using namespace layout;
+using namespace tax_paper;
 
 enum Fonts { small, title, fine };
-constexpr pc::PaperFont fonts[] = {{u"돋움체", 8}, {u"돋움체", 15, true}, {u"돋움체", 6.5}};
+constexpr pc::PaperFont fonts[] = {{u"돋움체", formPoints}, {u"돋움체", 15, true}, {u"돋움체", 6.5}};
+constexpr Drawn form{top / documentRows};
 
-constexpr PaperItem label(double x, double y, QStringView text) {
-  return pc::inches(x, edge + y, text);
-}
-constexpr PaperItem across(double y, double from = 0.68, double to = 7.5, double points = 0.5) {
-  return pc::rule(from, edge + y, to, edge + y, points);
-}
-constexpr PaperItem upright(double x, double from, double to, double points = 0.5) {
-  return pc::rule(x, edge + from, x, edge + to, points);
-}
-/** The line left of a cell of the digits. */
-constexpr PaperItem cellLine(int cell, double points = 0.25) {
-  return upright(1.79 + cell * 8.0 / 72, 2.58, 3.05, points);
+constexpr auto words = joined(
+    std::array{form.label(0.68, 0.10, u"(별지 제11호 서식)"),
+               form.label(1.50, 0.49, u"세  금  계  산  서").in(title),
+               pc::inches(3.94, form.edge + 0.53, TaxFormText::CopyLabel), form.label(6.48, 0.42, u"권"),
+               form.label(7.21, 0.42, u"호"), form.label(5.30, 0.43, u"책 번 호"),
+               form.label(5.30, 0.66, u"일련번호").in(fine)},
+    form.stack(0.71, {1.02, 1.58, 2.14}, {u"공", u"급", u"자"}),
+    form.stack(0.91, {0.94, 1.14, 1.34}, {u"등록", u"번호", u"상호"}),
+    form.stack(0.88, {1.53, 1.71, 1.88}, {u"(법인명)", u"사업장", u"주  소"}),
+    std::array{form.label(0.91, 2.14, u"업태")}, form.stack(2.63, {1.32, 1.51}, {u"성", u"명"}),
+    form.stack(2.60, {2.05, 2.25}, {u"종", u"목"}),
+    form.stack(3.93, {1.02, 1.24, 1.68, 1.90, 2.12}, {u"공", u"급", u"받", u"는", u"자"}),
+    form.stack(4.15, {0.94, 1.14, 1.34}, {u"등록", u"번호", u"상호"}),
+    form.stack(4.12, {1.53, 1.71, 1.88}, {u"(법인명)", u"사업장", u"주  소"}),
+    std::array{form.label(4.15, 2.14, u"업태")}, form.stack(6.07, {1.32, 1.51}, {u"성", u"명"}),
+    std::array{form.label(6.02, 2.05, u"종").in(fine), form.label(6.02, 2.25, u"목").in(fine)},
+    form.beside(2.60, {0.86, 1.26, 1.56}, {u"년", u"월", u"일"}),
+    std::array{form.label(firstCell, 2.62, u"공란수백십억천백십만천백십일십억천백십만천백십일")},
+    form.beside(2.42, {0.95, 1.95, 3.38, 4.90},
+                {u"작    성", u"공  급  가  액", u"세    액", u"비              고"}),
+    form.beside(3.12, {0.78, 1.65, 3.60, 4.28, 4.98, 6.15, 7.02},
+                {u"월  일", u"품    목   -   규    격", u"수   량", u"단   가", u"공 급  가 액", u"세    액",
+                 u"비  고"}),
+    std::array{form.label(1.05, 4.56, u"합  계   금  액")},
+    form.beside(4.57, {2.51, 3.43, 4.33, 5.12}, {u"현     금", u"수     표", u"어     음", u"외상미수금"}),
+    std::array{form.label(6.20, 4.72, u"이 금액을        함")});
+
+constexpr double leftBox = 0.86, leftEnd = 3.90, rightBox = 4.09, days = 2.58, digitsEnd = 3.05,
+                 itemsEnd = 4.50;
+constexpr double cellsEnd = firstCell + (3 + supplyCells + taxCells) * cell;
+
+/** Below a row of both parties' boxes. */
+constexpr auto underParties(double y) {
+  return std::array{form.across(y, leftBox, leftEnd), form.across(y, rightBox)};
 }
 
-constexpr PaperItem places[] = {
-    label(0.68, 0.10, u"(별지 제11호 서식)"),
-    label(1.50, 0.49, u"세  금  계  산  서").in(title),
-    pc::inches(3.94, edge + 0.53, TaxFormText::CopyLabel),
-    label(6.48, 0.42, u"권"),
-    label(7.21, 0.42, u"호"),
-    label(5.30, 0.43, u"책 번 호"),
-    label(5.30, 0.66, u"일련번호").in(fine),
-    label(0.71, 1.02, u"공"),
-    label(0.71, 1.58, u"급"),
-    label(0.71, 2.14, u"자"),
-    label(0.91, 0.94, u"등록"),
-    label(0.91, 1.14, u"번호"),
-    label(0.91, 1.34, u"상호"),
-    label(0.88, 1.53, u"(법인명)"),
-    label(0.88, 1.71, u"사업장"),
-    label(0.88, 1.88, u"주  소"),
-    label(0.91, 2.14, u"업태"),
-    label(2.63, 1.32, u"성"),
-    label(2.63, 1.51, u"명"),
-    label(2.60, 2.05, u"종"),
-    label(2.60, 2.25, u"목"),
-    label(3.93, 1.02, u"공"),
-    label(3.93, 1.24, u"급"),
-    label(3.93, 1.68, u"받"),
-    label(3.93, 1.90, u"는"),
-    label(3.93, 2.12, u"자"),
-    label(4.15, 0.94, u"등록"),
-    label(4.15, 1.14, u"번호"),
-    label(4.15, 1.34, u"상호"),
-    label(4.12, 1.53, u"(법인명)"),
-    label(4.12, 1.71, u"사업장"),
-    label(4.12, 1.88, u"주  소"),
-    label(4.15, 2.14, u"업태"),
-    label(6.07, 1.32, u"성"),
-    label(6.07, 1.51, u"명"),
-    label(6.02, 2.05, u"종").in(fine),
-    label(6.02, 2.25, u"목").in(fine),
-    label(0.86, 2.60, u"년"),
-    label(1.26, 2.60, u"월"),
-    label(1.56, 2.60, u"일"),
-    label(0.95, 2.42, u"작    성"),
-    label(1.79, 2.62, u"공란수백십억천백십만천백십일십억천백십만천백십일"),
-    label(1.95, 2.42, u"공  급  가  액"),
-    label(3.38, 2.42, u"세    액"),
-    label(4.90, 2.42, u"비              고"),
-    label(0.78, 3.12, u"월  일"),
-    label(1.65, 3.12, u"품    목   -   규    격"),
-    label(3.60, 3.12, u"수   량"),
-    label(4.28, 3.12, u"단   가"),
-    label(4.98, 3.12, u"공 급  가 액"),
-    label(6.15, 3.12, u"세    액"),
-    label(7.02, 3.12, u"비  고"),
-    label(1.05, 4.56, u"합  계   금  액"),
-    label(2.51, 4.57, u"현     금"),
-    label(3.43, 4.57, u"수     표"),
-    label(4.33, 4.57, u"어     음"),
-    label(5.12, 4.57, u"외상미수금"),
-    label(6.20, 4.72, u"이 금액을        함"),
-    // the head's boxes
-    pc::box(0.68, edge + 0.85, 7.5, edge + 5.0, 1),
-    upright(5.25, 0.36, 0.85),
-    upright(5.67, 0.36, 0.85),
-    upright(7.5, 0.36, 0.85),
-    across(0.36, 5.25, 7.5),
-    across(0.60, 5.25, 7.5),
+/** Left of each cell; the amounts begin with a line through their headings. */
+constexpr auto cellLines = each<size_t(1 + supplyCells + taxCells)>([](int digit) {
+  const bool begins = digit == supplyCells || digit == supplyCells + taxCells;
+  return form.upright(firstCell + (3 + digit) * cell, begins ? 2.38 : days, digitsEnd,
+                      begins || digit == 0 ? 0.5 : 0.25);
+});
+
+constexpr auto lines = joined(
+    std::array{form.frame(0.85, 5.0)}, form.uprights(0.36, 0.85, {5.25, 5.67, Drawn::right}),
+    std::array{form.across(0.36, 5.25), form.across(0.60, 5.25)},
     // the two parties
-    across(1.28, 0.86, 3.90),
-    across(1.28, 4.09, 7.5),
-    across(1.68, 0.86, 3.90),
-    across(1.68, 4.09, 7.5),
-    across(2.03, 0.86, 3.90),
-    across(2.03, 4.09, 7.5),
-    upright(0.86, 0.85, 2.38),
-    upright(3.90, 0.85, 2.38, 1),
-    upright(4.09, 0.85, 2.38),
-    upright(2.57, 1.28, 1.68),
-    upright(2.54, 2.03, 2.38),
-    upright(6.03, 1.28, 1.68),
-    upright(5.97, 2.03, 2.38),
+    underParties(1.28), underParties(1.68), underParties(2.03),
+    form.uprights(0.85, 2.38, {leftBox, rightBox}), std::array{form.upright(leftEnd, 0.85, 2.38, 1)},
+    form.uprights(1.28, 1.68, {2.57, 6.03}), form.uprights(2.03, 2.38, {2.54, 5.97}),
     // the day and the digits
-    across(2.38, 0.68, 7.5, 1),
-    across(2.58, 0.68, 4.457),
-    across(2.77, 0.68, 4.457, 0.25),
-    upright(1.18, 2.58, 3.05, 0.25),
-    upright(1.47, 2.58, 3.05, 0.25),
-    upright(1.79, 2.38, 3.05),
-    cellLine(3, 0.5),
-    cellLine(4),
-    cellLine(5),
-    cellLine(6),
-    cellLine(7),
-    cellLine(8),
-    cellLine(9),
-    cellLine(10),
-    cellLine(11),
-    cellLine(12),
-    cellLine(13),
-    upright(1.79 + 14 * 8.0 / 72, 2.38, 3.05),
-    cellLine(15),
-    cellLine(16),
-    cellLine(17),
-    cellLine(18),
-    cellLine(19),
-    cellLine(20),
-    cellLine(21),
-    cellLine(22),
-    cellLine(23),
-    upright(1.79 + 24 * 8.0 / 72, 2.38, 3.05),
+    std::array{form.thick(2.38), form.across(days, Drawn::left, cellsEnd),
+               form.across(2.77, Drawn::left, cellsEnd, 0.25), form.upright(1.18, days, digitsEnd, 0.25),
+               form.upright(1.47, days, digitsEnd, 0.25), form.upright(firstCell, 2.38, digitsEnd)},
+    cellLines,
     // the items
-    across(3.05, 0.68, 7.5, 1),
-    across(3.30),
-    across(3.60, 0.68, 7.5, 0.25),
-    across(3.90, 0.68, 7.5, 0.25),
-    across(4.20, 0.68, 7.5, 0.25),
-    across(4.50, 0.68, 7.5, 1),
-    upright(1.115, 3.30, 4.50, 0.25),
-    upright(1.30, 3.05, 4.50),
-    upright(3.50, 3.05, 4.50),
-    upright(4.15, 3.05, 4.50),
-    upright(4.96, 3.05, 4.50),
-    upright(6.08, 3.05, 4.50),
-    upright(6.95, 3.05, 4.50),
+    std::array{form.thick(digitsEnd), form.across(3.30)}, each<taxLinesOnSheet - 1>([](int item) {
+      return form.across(3.60 + 0.30 * item, Drawn::left, Drawn::right, 0.25);
+    }),
+    std::array{form.thick(itemsEnd), form.upright(1.115, 3.30, itemsEnd, 0.25)},
+    form.uprights(digitsEnd, itemsEnd, {1.30, 3.50, 4.15, 4.96, 6.08, 6.95}),
     // the total
-    across(4.72, 0.68, 6.10),
-    upright(2.27, 4.50, 5.0),
-    upright(3.20, 4.50, 5.0),
-    upright(4.10, 4.50, 5.0),
-    upright(5.02, 4.50, 5.0),
-    upright(6.10, 4.50, 5.0),
-};
+    std::array{form.across(4.72, Drawn::left, 6.10)},
+    form.uprights(itemsEnd, 5.0, {2.27, 3.20, 4.10, 5.02, 6.10}));
+
+constexpr auto places = joined(words, lines);
 
 }  // namespace tax_form
 
-const pc::PaperForm taxForm{.paper = {},
-                            .rowsPerInch = documentRows,
-                            .columnsPerInch = documentColumns,
-                            .fonts = tax_form::fonts,
-                            .items = tax_form::places,
-                            .copies = 2,
-                            .copyRows = 35.07};
+const pc::PaperForm taxForm = layout::paper(tax_form::places, tax_paper::copyRows, {}, {}, tax_form::fonts);

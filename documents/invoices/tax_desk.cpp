@@ -2,7 +2,6 @@
 
 #include "documents/document_date.h"
 #include "documents/invoices/tax_bulk.h"
-#include "papers/paper_printer.h"
 
 namespace {
 
@@ -67,22 +66,8 @@ void TaxDesk::fillBulk(SpreadModel& sheet, bool receipt) {
                 receipt);
 }
 
-TaxLayout TaxDesk::layoutOf(const PrintMethodChoice& choice) {
-  if (choice.dot) return TaxLayout::Dot;
-  return choice.paper == 1 ? TaxLayout::FullA4 : choice.paper == 2 ? TaxLayout::HalfA4B : TaxLayout::HalfA4;
-}
-
-bool TaxDesk::mayPrint(const QString& printer) {
-  if (!readSupplier(session_)) {
-    session_.prompts.MsgWarn("사용자등록부터 하셔야 합니다");
-    return false;
-  }
-  if (ticks_.ticked().empty()) {
-    session_.prompts.MsgInfo("발행할 거래내역을 선택하세요.", kind);
-    return false;
-  }
-  onPrinter(session_, printer);  // throws before anything is issued
-  return true;
+bool TaxDesk::hasPapers() {
+  return hasDocuments(session_, ticks_, kind);
 }
 
 DocumentRun TaxDesk::papers(const TaxAsk& ask, const QString& serial, const TaxPaperChoice& choice) {
@@ -101,21 +86,9 @@ DocumentRun TaxDesk::issue(const TaxAsk& ask, QString& serial, const TaxPaperCho
 }
 
 DocumentRun TaxDesk::runOf(std::vector<TaxInvoice> invoices, const TaxPaperChoice& choice) {
-  const DocumentMargins margins = documentMargins(session_, kind);
-  pc::PaperShift shift = margins.shift();
-  if (choice.layout == TaxLayout::FullA4 && margins.left.isEmpty()) shift.columns = drawnFormColumns;
-  const auto paper =
-      std::make_shared<const TaxPaper>(choice, readSupplier(session_).value_or(DocumentParty{}), shift);
-  const auto all = std::make_shared<const std::vector<TaxInvoice>>(std::move(invoices));
-  return {.title = kind,
-          .paper = paper->paper(),
-          .placesOnSheet = paper->copies(),
-          .documents = int(all->size()),
-          .put = [paper, all](pc::PrintJob& job, pc::PaperPlaces& places,
-                              int document) { paper->put(job, places, (*all)[size_t(document)]); },
-          .name =
-              [all](int document) {
-                const TaxInvoice& invoice = (*all)[size_t(document)];
-                return documentName(invoice.issueDate, invoice.clientName, kind + (' ' + invoice.serial));
-              }};
+  TaxPaper paper(choice, readSupplier(session_).value_or(DocumentParty{}),
+                 documentShift(session_, kind, choice.layout));
+  return documentRun(kind, std::move(paper), std::move(invoices), [](const TaxInvoice& invoice) {
+    return documentName(invoice.issueDate, invoice.clientName, kind + (' ' + invoice.serial));
+  });
 }

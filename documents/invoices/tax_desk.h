@@ -1,9 +1,7 @@
 #pragma once
 // The rules of FrmTax around its list.
+#include "documents/document_papers.h"
 #include "documents/invoices/tax_issue.h"
-#include "documents/tick_column.h"
-#include "master/registers/pickers.h"
-#include "papers/document_run.h"
 
 /** What the form's boxes ask for. */
 struct TaxAsk {
@@ -23,6 +21,8 @@ class TaxDesk {
 
   /** Empties what this station prepares. */
   void empty() { invoices_.Empty(); }
+  /** Whether it prepares any. */
+  bool hasPrepared() const { return !invoices_.List().atEnd(); }
   /** On the pending list anew from the sale lines; False after telling that the dates are no range. */
   bool gather(const TaxAsk& ask);
   void list(const TaxAsk& ask);
@@ -34,8 +34,8 @@ class TaxDesk {
   /** The listed invoices as rows of the tax office's bulk form. receipt: they were paid for. */
   void fillBulk(SpreadModel& sheet, bool receipt);
 
-  static TaxLayout layoutOf(const PrintMethodChoice& choice);
-  bool mayPrint(const QString& printer);
+  /** Whether there is anything to print and a company; what is missing is told. */
+  bool hasPapers();
   /** Papers of what is ticked: pending ones with their next numbers and nothing issued, or those of the register. */
   DocumentRun papers(const TaxAsk& ask, const QString& serial, const TaxPaperChoice& choice);
   /** Issues what is ticked and gives the papers of what was issued. serial: the number offered, then the one behind. */

@@ -6,6 +6,24 @@
 #include "store/data_access.h"
 #include "store/year_file.h"
 
+namespace {
+
+/** A typed invoice's lines by the form's choice; the last one takes what rounding leaves of the invoice's sums. */
+void splitLines(TaxInvoice& invoice, Vat vat) {
+  VatSplit rest = invoice.sums;
+  for (TaxLine& line : invoice.lines) {
+    const VatSplit split = splitAmount(line.SumKum, vat);
+    line.TradeKum = split.supply;
+    line.VatKum = split.tax;
+    rest.supply -= split.supply;
+    rest.tax -= split.tax;
+  }
+  invoice.lines.back().TradeKum += rest.supply;
+  invoice.lines.back().VatKum += rest.tax;
+}
+
+}  // namespace
+
 TaxInvoice TaxIssuer::pendingOf(const TaxSheet& sheet, int row, const TaxIssueAsk& ask) const {
   const SpreadModel& grid = sheet.grid();
   const auto won = [&](int col) { return grid.text(row, col).toLongLong(); };
@@ -17,8 +35,10 @@ TaxInvoice TaxIssuer::pendingOf(const TaxSheet& sheet, int row, const TaxIssueAs
                      .list = grid.text(row, TaxCol::Item)};
   if (invoice.lines.empty()) return invoice;
   invoice.dealDate = invoice.lines.front().DealDate;
-  // A gathered invoice has one line, which shows what the form's choice makes of its amount.
-  if (ask.gathering) {
+  if (!ask.gathering) {
+    if (ask.vat != Vat::Included) splitLines(invoice, ask.vat);
+  } else {
+    // A gathered invoice has one line, which shows what the form's choice makes of its amount.
     TaxLine& line = invoice.lines.front();
     line.TradeKum = invoice.sums.supply;
     line.VatKum = invoice.sums.tax;
@@ -31,9 +51,7 @@ TaxInvoice TaxIssuer::pendingOf(const TaxSheet& sheet, int row, const TaxIssueAs
 }
 
 void TaxIssuer::readBuyer(TaxInvoice& invoice) const {
-  DealStatement found{.clientCode = invoice.clientCode, .clientName = invoice.clientName};
-  ::readBuyer(session_, found);
-  invoice.buyer = found.buyer;
+  invoice.buyer = ::readBuyer(session_, invoice.clientCode, invoice.clientName).party;
 }
 
 QString TaxIssuer::freeSerial(const QString& wanted) const {
@@ -46,13 +64,14 @@ bool TaxIssuer::fileInvoice(const TaxInvoice& invoice, const QString& section) {
   const bool filed = softly([&] {
     invoices_.tax().Execute(
         "INSERT INTO TaxAcount(Serial, CCode, DealDate, DealYY, IssueDate, TradeKum, VatKum, Blank, List, "
-        "Section) VALUES('" +
+        "Section, CName) VALUES('" +
         plainText(invoice.serial) + "', '" + plainText(invoice.clientCode) + "', '" +
         plainText(invoice.dealDate) + "', '" + plainText(invoice.dealDate.left(7)) + "', '" +
         plainText(invoice.issueDate) + "', " + QString::number(invoice.sums.supply) + ", " +
         QString::number(invoice.sums.tax) + ", " +
         QString::number(blankCells(invoice.sums.supply, supplyCells)) + ", '" +
-        copiedText(invoice.list.left(100)) + "', '" + plainText(section) + "')");
+        copiedText(invoice.list.left(100)) + "', '" + plainText(section) + "', '" +
+        copiedText(invoice.clientName.left(60)) + "')");
     int number = 0;
     for (const TaxLine& line : invoice.lines)
       invoices_.tax().Execute(
@@ -85,8 +104,10 @@ TaxIssuer::Claim TaxIssuer::claim(const jet::Database& year, const TaxInvoice& i
                                   const QString& section) {
   const TaxPart part = gatherer_.partOf(invoice.dealDate);
   const TaxLine& line = invoice.lines.front();
-  const QString own = "Clientcode = " + plainNumber(invoice.clientCode) + " and  saleDate BETWEEN '" +
-                      plainText(part.from) + "' AND '" + plainText(part.to) + "'",
+  const QString whose = invoice.clientCode.isEmpty() ? QString("Clientcode Is Null")
+                                                     : "Clientcode = " + plainNumber(invoice.clientCode);
+  const QString own = whose + " and  saleDate BETWEEN '" + plainText(part.from) + "' AND '" +
+                      plainText(part.to) + "'",
                 free = own + " And saleunit <> 0 And SaleList = 0";
   const jet::Recordset now = year.OpenRecordset(
       "SELECT Sum(saleunit * salenum) AS SSum, Sum(DC) AS SumDC, Count(salename) AS SItem FROM Sale WHERE " +

@@ -1,24 +1,11 @@
 #pragma once
-// What stands where on the papers of a tax invoice, in the statements' grid. All of them carry both copies.
-#include "documents/statements/deal_layouts.h"
+// The papers of a tax invoice. All of them carry both copies.
+#include "documents/document_layout.h"
 
-enum class TaxLayout { HalfA4, FullA4, HalfA4B, Dot };
-
+/** The texts of an invoice behind its parties. */
 enum class TaxText {
-  Serial,  ///< "####-###"
-  SupplierSerial,
-  SupplierName,
-  SupplierPerson,
-  SupplierAddress,
-  SupplierStatus,
-  SupplierItem,
-  BuyerSerial,
-  BuyerName,
-  BuyerPerson,
-  BuyerAddress,
-  BuyerStatus,
-  BuyerItem,
-  Year,  ///< of issue
+  Serial = int(PartyText::Count),  ///< "####-###"
+  Year,                            ///< of issue
   Month,
   Day,
   Blank,         ///< cells of the supply without a digit
@@ -54,3 +41,12 @@ extern const pc::PaperForm printTaxCells;
 /** The drawn form with its one text. */
 extern const pc::PaperForm taxForm;
 enum class TaxFormText { CopyLabel };
+
+// --- what the drawn form and its texts agree on -----------------------------------------------------------------
+
+namespace tax_paper {
+inline constexpr double top = 1.5;         // a copy's upper edge, in rows
+inline constexpr double copyRows = 35.07;  // half of the sheet
+/** A cell of the digits is as wide as a letter of the row of their names, which begins at this inch. */
+inline constexpr double formPoints = 8, cell = formPoints / 72, firstCell = 1.79;
+}  // namespace tax_paper

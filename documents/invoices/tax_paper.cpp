@@ -8,17 +8,11 @@
 namespace {
 
 const pc::PaperForm& formOf(const TaxPaperChoice& choice) {
-  switch (choice.layout) {
-    case TaxLayout::HalfA4:
-      return printTaxHalf;
-    case TaxLayout::HalfA4B:
-      return printTaxHalfB;
-    case TaxLayout::Dot:
-      return printTaxDot;
-    case TaxLayout::FullA4:
-      break;
-  }
-  return choice.drawnForm ? printTaxDrawn : printTaxHalfB;
+  // In the order of DocumentLayout. The whole sheet without its form is printed on the other half sheets.
+  static constexpr const pc::PaperForm* forms[] = {&printTaxHalf, &printTaxDrawn, &printTaxHalfB,
+                                                   &printTaxDot};
+  const bool bare = choice.layout == DocumentLayout::FullA4 && !choice.drawnForm;
+  return bare ? printTaxHalfB : *forms[size_t(choice.layout)];
 }
 
 /** Two columns a cell, the empty ones in front. */
@@ -46,12 +40,12 @@ QString businessNumberText(const QString& serial) {
 }
 
 TaxPaper::TaxPaper(TaxPaperChoice choice, DocumentParty supplier, pc::PaperShift margin)
-    : choice_(choice), supplier_(std::move(supplier)), margin_(margin), form_(formOf(choice)) {}
+    : DocumentPaper(formOf(choice), std::move(supplier), margin), choice_(choice) {}
 
 void TaxPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const TaxInvoice& invoice) const {
   static const std::array<QString, 2> labels{"(공급자 보관용)", "(공급받는자 보관용)"};
   static constexpr std::array<pc::PrintInk, 2> inks{pc::PrintInk{0, 0, 200}, pc::PrintInk{200, 0, 0}};
-  const bool drawn = choice_.layout == TaxLayout::FullA4 && choice_.drawnForm;
+  const bool drawn = choice_.layout == DocumentLayout::FullA4 && choice_.drawnForm;
   const std::vector<QString> shown = texts(invoice);
   places.newSheet();
   for (const pc::PaperSheet& sheet : pc::sheetsOf(qsizetype(invoice.lines.size()), form_.lines)) {
@@ -78,16 +72,11 @@ void TaxPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const TaxInvoice&
 }
 
 std::vector<QString> TaxPaper::texts(const TaxInvoice& invoice) const {
-  std::vector<QString> made{size_t(TaxText::Count)};
+  DocumentParty supplier = supplier_;
+  supplier.serial = businessNumberText(supplier.serial);
+  std::vector<QString> made = partyTexts(int(TaxText::Count), supplier, invoice.buyer);
   const auto set = [&](TaxText what, const QString& text) { made[size_t(what)] = text; };
   set(TaxText::Serial, tax_serial::shown(invoice.serial));
-  const auto party = [&](TaxText from, const DocumentParty& who, const QString& serial) {
-    int place = int(from);
-    for (const QString& text : {serial, who.company, who.person, who.address, who.status, who.item})
-      made[size_t(place++)] = text;
-  };
-  party(TaxText::SupplierSerial, supplier_, businessNumberText(supplier_.serial));
-  party(TaxText::BuyerSerial, invoice.buyer, invoice.buyer.serial);
   set(TaxText::Year, invoice.issueDate.left(4));
   set(TaxText::Month, invoice.issueDate.mid(5, 2));
   set(TaxText::Day, invoice.issueDate.mid(8, 2));

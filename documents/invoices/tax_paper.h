@@ -1,8 +1,9 @@
 #pragma once
 // A tax invoice on paper.
+#include "documents/document_party.h"
 #include "documents/invoices/clsPrintTax.h"
 #include "documents/invoices/tax_layouts.h"
-#include "documents/statements/deal_statement.h"
+#include "documents/vat_split.h"
 
 /** An invoice as it is printed and registered. */
 struct TaxInvoice {
@@ -15,18 +16,16 @@ struct TaxInvoice {
 };
 
 struct TaxPaperChoice {
-  TaxLayout layout = TaxLayout::FullA4;
+  DocumentLayout layout = DocumentLayout::FullA4;
   bool drawnForm = true;    ///< FullA4: the form under the texts
   bool withoutTax = false;  ///< ChkVat: nothing stands where the tax would
   bool receipt = false;     ///< "영수", else "청구"
 };
 
-class TaxPaper {
+class TaxPaper : public DocumentPaper {
  public:
   TaxPaper(TaxPaperChoice choice, DocumentParty supplier, pc::PaperShift margin);
 
-  pc::PaperSize paper() const { return form_.paper; }
-  int copies() const { return form_.copies; }
   /** Both copies, on a further sheet where the items are more than four. */
   void put(pc::PrintJob& job, pc::PaperPlaces& places, const TaxInvoice& invoice) const;
 
@@ -35,9 +34,6 @@ class TaxPaper {
   QStringList lineTexts(const TaxLine& line) const;
 
   const TaxPaperChoice choice_;
-  const DocumentParty supplier_;
-  const pc::PaperShift margin_;
-  const pc::PaperForm& form_;
 };
 
 /** Digits of an amount, a minus in front of them; how many of so many cells stay empty. */

@@ -40,8 +40,9 @@ void TaxSheet::listPending(const clsPrintTax& invoices, Vat vat, std::optional<T
     const qint64 amount = found["SSum"].toLong();
     if (amount == 0) continue;
     // A typed invoice was split when it was typed, line by line.
-    const VatSplit split = gathering ? splitAmount(amount, vat)
-                                     : VatSplit{found["STrade"].toLong(), found["SVat"].toLong(), amount};
+    const bool asTyped = !gathering && vat == Vat::Included;
+    const VatSplit split = asTyped ? VatSplit{found["STrade"].toLong(), found["SVat"].toLong(), amount}
+                                   : splitAmount(amount, vat);
     const QString date = found["DDate"].toText(), item = found["FPName"].toText();
     const bool more = found["SItem"].toLong() > 1;
     sums_ = {sums_.supply + split.supply, sums_.tax + split.tax, sums_.total + split.total};
@@ -55,7 +56,7 @@ void TaxSheet::listPending(const clsPrintTax& invoices, Vat vat, std::optional<T
 
 void TaxSheet::listIssued(const jet::Database& tax, const jet::Database& basic, const QString& from,
                           const QString& to, std::optional<TaxGathering> gathering) {
-  QHash<QString, QString> names;  // of customers; one deleted meanwhile has none
+  QHash<QString, QString> names;  // of customers; one deleted meanwhile keeps the register's
   for (auto client = basic.OpenRecordset("Select Code, Name From Client"); !client.atEnd(); client.MoveNext())
     names[client[0].toText()] = client[1].toText();
   std::vector<std::vector<QString>> rows;
@@ -69,11 +70,12 @@ void TaxSheet::listIssued(const jet::Database& tax, const jet::Database& basic, 
                                       plainText(sectionOf(gathering)) + "' ORDER BY Serial;");
        !found.atEnd(); found.MoveNext()) {
     const qint64 supply = found["TradeKum"].toLong(), vat = found["VatKum"].toLong();
+    const QString code = found["CCode"].toText();
     sums_ = {sums_.supply + supply, sums_.tax + vat, sums_.total + supply + vat};
     rows.push_back({found["IssueDate"].toText(), found["DealDate"].toText(),
-                    names.value(found["CCode"].toText()), QString::number(supply), QString::number(vat),
+                    names.value(code, found["CName"].toText()), QString::number(supply), QString::number(vat),
                     QString::number(supply + vat), found["List"].toText(), QString(),
-                    found["Serial"].toText(), found["CCode"].toText()});
+                    found["Serial"].toText(), code});
   }
   show(std::move(rows));
 }

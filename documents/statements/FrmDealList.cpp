@@ -3,42 +3,26 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
-#include <QVBoxLayout>
 
-#include "documents/form_sections.h"
-#include "papers/form_document_run.h"
-#include "papers/paper_printer.h"
+#include "documents/form_parts.h"
 
 namespace {
 
-constexpr auto kind = "거래명세표";
 constexpr auto gridHelp = "  발행할 거래내역을 선택하세요. [선택:Space 또는 더블클릭]";
-
-template <class Button>
-Button* option(const char* name, const QString& caption, QHBoxLayout* row, QWidget* parent) {
-  auto* const made = new Button(caption, parent);
-  made->setObjectName(name);
-  row->addWidget(made);
-  return made;
-}
 
 }  // namespace
 
 FrmDealList::FrmDealList(FormContext& context, QWidget* parent)
-    : Form("FrmDealList", "거래명세표 발행", context.session, parent),
-      context_(context),
-      desk_(context.session) {
-  tabs_ = sectionTabs(this);
+    : DocumentForm("FrmDealList", "거래명세표", context, parent), desk_(context.session) {
   grid_ = addSpread("grdList", desk_.grid());
   grid_->setFillColumn(DealCol::Item);
-  body()->addLayout(sectionHead({tabs_, questionRow(), choiceRow()}));
-  body()->addWidget(grid_, 1);
-  body()->addWidget(sumRow());
+  lay({tabs_, questionRow(), choiceRow()}, sumRow());
   connectGrid();
   setHelp(grid_, gridHelp);
   setHelp(client_, "  매출처를 선택하여 주십시요. [검색:Enter]");
@@ -51,7 +35,7 @@ FrmDealList::FrmDealList(FormContext& context, QWidget* parent)
   onKey(Qt::Key_Escape, [this] { close(); });
   onKey(Qt::Key_Insert, [this] { focus(client_); });
   onKey(Qt::Key_Delete, [this] {
-    if (desk_.deleteTicked()) search();
+    if (grid_->hasFocus() && desk_.deleteTicked()) list();
   });
   connect(tabs_, &QTabBar::currentChanged, this, [this] { guard([this] { turnTab(); }); });
   connect(facility_, &QCheckBox::clicked, this, [this] { command([this] { search(); }); });
@@ -74,16 +58,10 @@ void FrmDealList::Open(const QString& fromDate, const QString& toDate) {
 
 QWidget* FrmDealList::questionRow() {
   auto* const panel = addGroup({});
-  auto* const row = new QHBoxLayout(panel);
-  row->setContentsMargins(6, 4, 6, 4);
-  row->setSpacing(5);
+  auto* const row = panelRow(panel, 4, 5);
   dates_ = std::make_unique<DateRangeBoxes>(*this, panel, "  검색 시작일을 입력하세요.",
                                             "  검색 마지막일을 입력하세요.");
-  row->addWidget(new QLabel("매출일자", panel));
-  row->addWidget(dates_->box(0));
-  row->addWidget(new QLabel("~", panel));
-  row->addWidget(dates_->box(1));
-  row->addSpacing(10);
+  dates_->addTo(row, "매출일자");
   row->addWidget(new QLabel("매출처", panel));
   client_ = new QLineEdit(panel);
   client_->setObjectName("txtinput");
@@ -94,31 +72,33 @@ QWidget* FrmDealList::questionRow() {
   clientCode_->setObjectName("txtCCode");
   clientCode_->hide();
   connect(client_, &QLineEdit::returnPressed, this, [this] { guard([this] { chooseClient(); }); });
+  // A name that is typed over is nobody's until it is looked up.
+  connect(client_, &QLineEdit::textEdited, clientCode_, &QLineEdit::clear);
   row->addWidget(addButton("btnSearch", "검색(&F)", [this] { search(); }));
   row->addStretch(1);
-  row->addWidget(addButton("btnSet", "여백설정(&S)",
-                           [this] { context_.commands.openForm(QString("FrmMargin:") + kind); }));
-  row->addWidget(addButton("btnPrinterSet", "프린터설정(&T)", [this] {
-    context_.commands.openForm(QString("FrmSetPrinter:") + kind);
-    showPrinter();
-  }));
+  row->addWidget(addButton("btnSet", "여백설정(&S)", [this] { askMargin(); }));
+  row->addWidget(addButton("btnPrinterSet", "프린터설정(&T)", [this] { askPrinter(); }));
   return panel;
 }
 
 QWidget* FrmDealList::choiceRow() {
   auto* const panel = addGroup({});
-  auto* const row = new QHBoxLayout(panel);
-  row->setContentsMargins(6, 2, 6, 2);
-  row->setSpacing(12);
-  all_ = option<QCheckBox>("ChkAll", "전체선택", row, panel);
-  facility_ = option<QCheckBox>("sisul_option", "시설자재포함", row, panel);
-  form_ = option<QCheckBox>("chkForm", "양식 출력", row, panel);
+  auto* const row = panelRow(panel, 2, 12);
+  const auto choice = [&](const char* name, const QString& caption) {
+    auto* const made = new QRadioButton(caption, panel);
+    made->setObjectName(name);
+    row->addWidget(made);
+    return made;
+  };
+  all_ = addCheck(panel, "ChkAll", "전체선택");
+  facility_ = addCheck(panel, "sisul_option", "시설자재포함");
+  form_ = addCheck(panel, "chkForm", "양식 출력");
   form_->setChecked(true);
   row->addSpacing(16);
-  included_ = option<QRadioButton>("OptGubun(2)", "부가세포함", row, panel);
-  onTop_ = option<QRadioButton>("OptGubun(3)", "부과세별도", row, panel);
-  freeOfTax_ = option<QCheckBox>("ChkVat", "면세", row, panel);
+  included_ = choice("OptGubun(2)", "부가세포함");
+  onTop_ = choice("OptGubun(3)", "부과세별도");
   included_->setChecked(true);
+  freeOfTax_ = addCheck(panel, "ChkVat", "면세");
   row->addStretch(1);
   auto* const hint = new QLabel("※ 블럭 설정 : 마우스 드래그", panel);
   hint->setObjectName("lblHint");
@@ -128,21 +108,14 @@ QWidget* FrmDealList::choiceRow() {
 
 QWidget* FrmDealList::sumRow() {
   auto* const panel = new QWidget(this);
-  auto* const row = new QHBoxLayout(panel);
-  row->setContentsMargins(0, 0, 0, 0);
+  auto* const row = panelRow(panel, 0, 6);
   row->addWidget(new QLabel("< 총   합   계 >", panel));
-  sum_ = new QLabel(panel);
-  sum_->setObjectName("pnlSum");
-  sum_->setProperty("role", "value");
-  sum_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  sum_->setFixedWidth(18 * fontMetrics().horizontalAdvance('0'));
-  row->addWidget(sum_);
+  row->addWidget(sum_ = figure(panel, "pnlSum", 18));
   row->addSpacing(10);
   caption_ = new QLabel(gridHelp, panel);
   caption_->setObjectName("pnlCaption");
   row->addWidget(caption_, 1);
-  row->addWidget(buttonRow({addButton("btnPreview", "미리보기(&W)", [this] { preview(); }),
-                            addButton("btnPdf", "PDF저장(&D)", [this] { savePdf(); }), nullptr,
+  row->addWidget(buttonRow({addPreviewButton(), addPdfButton(), nullptr,
                             addButton("btnPrint", "발행(&P)", [this] { print(); }),
                             addButton("btnExit", "닫기(&X)", [this] { close(); })}));
   return panel;
@@ -150,12 +123,12 @@ QWidget* FrmDealList::sumRow() {
 
 void FrmDealList::connectGrid() {
   grid_->spacePressed = [this](int from, int to) {
-    if (tab() == DealTab::Issued) to = from = grid_->activeRow();
+    if (!isPendingTab()) to = from = grid_->activeRow();
     const bool on = !desk_.ticks().isTicked(grid_->activeRow());
     desk_.ticks().setBlock(from, to, on);
   };
   grid_->blockMarked = [this](int from, int to) {
-    if (tab() == DealTab::Pending) desk_.ticks().setBlock(from, to, true);
+    if (isPendingTab()) desk_.ticks().setBlock(from, to, true);
   };
   // The tick's own cell was turned by the click already.
   grid_->doubleClicked = [this](int row, int col) {
@@ -177,8 +150,12 @@ bool FrmDealList::finishCell(int row, int col, const QString& text) {
   return false;
 }
 
-DealTab FrmDealList::tab() const {
-  return tabs_->currentIndex() == 0 ? DealTab::Pending : DealTab::Issued;
+bool FrmDealList::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == client_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Up || key == Qt::Key_Down) return focusNextPrevChild(key == Qt::Key_Down);
+  }
+  return DocumentForm::eventFilter(watched, event);
 }
 
 DealAsk FrmDealList::ask() const {
@@ -186,11 +163,15 @@ DealAsk FrmDealList::ask() const {
           .to = dates_->to(),
           .clientCode = client_->text().isEmpty() ? QString() : clientCode_->text(),
           .facility = facility_->isChecked(),
-          .tab = tab()};
+          .tab = isPendingTab() ? DealTab::Pending : DealTab::Issued};
 }
 
 void FrmDealList::search() {
-  if (!dates_->take()) return;
+  const bool isUnknown = !client_->text().trimmed().isEmpty() && clientCode_->text().isEmpty();
+  if (dates_->take() && (!isUnknown || findClient())) list();
+}
+
+void FrmDealList::list() {
   const BusyPointer busy;
   all_->setChecked(false);
   const bool found = desk_.search(ask());
@@ -203,28 +184,29 @@ void FrmDealList::turnTab() {
   search();
 }
 
-void FrmDealList::chooseClient() {
+/** False after telling that the name in the box is nobody's, or when the operator leaves the choice. */
+bool FrmDealList::findClient() {
   const QString text = client_->text().trimmed();
   const TraderFound found = context_.pickers.searchTrader(text);
   if (!found.any)
     session().prompts.MsgInfo(text.isEmpty() ? "등록된 거래처가 없습니다." : "검색된 거래처가 없습니다.");
-  if (!found.trader) return focus(client_);
+  if (!found.trader) {
+    focus(client_);
+    return false;
+  }
   clientCode_->setText(QString::number(found.trader->code));
   client_->setText(found.trader->name);
+  return true;
+}
+
+void FrmDealList::chooseClient() {
+  if (!findClient()) return;
   search();
   focusGrid();
 }
 
 void FrmDealList::clientLeft() {
   if (client_->text().isEmpty()) clientCode_->clear();
-}
-
-QString FrmDealList::printer() const {
-  return documentPrinterOrDefault(session(), kind);
-}
-
-void FrmDealList::showPrinter() {
-  setWindowTitle("거래명세표 발행 - 현재 설정된 프린터 : " + printer());
 }
 
 std::optional<DealPrint> FrmDealList::askPrint() {
@@ -240,49 +222,25 @@ std::optional<DealPrint> FrmDealList::askPrint() {
     vat = Vat::Included;
   else if (onTop_->isChecked())
     vat = Vat::OnTop;
-  return DealPrint{DealDesk::layoutOf(*method), vat, form_->isChecked()};
+  return DealPrint{layoutOf(*method), vat, form_->isChecked()};
+}
+
+std::optional<DocumentRun> FrmDealList::papers(bool issuing) {
+  const auto how = askPrint();
+  if (!how) return {};
+  return issuing ? desk_.issue(*how) : desk_.papers(*how);
 }
 
 void FrmDealList::print() {
-  if (tab() == DealTab::Issued) return issue();
+  const auto listAnew = [this] {
+    list();
+    form_->setEnabled(true);
+  };
+  if (!isPendingTab()) return issue(listAnew);
   QMenu menu(this);
   menu.setObjectName("mnuPrint");
   const QAction* const go = menu.addAction(" 명 세 표 출 력 ");
   menu.addSeparator();
   menu.addAction(" 취          소 ");
-  if (menu.exec(QCursor::pos()) == go) issue();
-}
-
-/** The lines are marked before the paper comes: what then fails leaves them on the issued list, from where they are
- *  printed again. */
-void FrmDealList::issue() {
-  if (!desk_.mayPrint(printer())) return;
-  const auto how = askPrint();
-  if (!how) return;
-  const DocumentRun run = desk_.issue(*how);
-  QString failure;
-  int done = run.documents;
-  try {
-    done = printRun(session(), this, run, printer());
-  } catch (const pc::PrintError& error) {
-    failure = error.text;
-    done = 0;
-  }
-  search();
-  form_->setEnabled(true);
-  if (done < run.documents)
-    session().prompts.MsgWarn((failure.isEmpty() ? QString() : failure + "\n\n") +
-                                  "거래명세표를 모두 인쇄하지 못했습니다.\n발행한 내역에서 다시 인쇄하세요.",
-                              kind);
-}
-
-void FrmDealList::preview() {
-  if (!desk_.mayPrint(printer())) return;
-  if (const auto how = askPrint())
-    previewRun(session(), this, desk_.papers(*how), [this] { guard([this] { print(); }); });
-}
-
-void FrmDealList::savePdf() {
-  if (!desk_.mayPrint(printer())) return;
-  if (const auto how = askPrint()) saveRun(session(), this, desk_.papers(*how));
+  if (menu.exec(QCursor::pos()) == go) issue(listAnew);
 }

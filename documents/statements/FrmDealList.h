@@ -1,14 +1,11 @@
 #pragma once
 // "거래명세표 발행": statements of the sale lines that are ticked.
-#include "documents/form_date_boxes.h"
+#include "documents/form_document.h"
 #include "documents/statements/deal_desk.h"
-#include "master/registers/form_context.h"
 
-class QCheckBox;
 class QRadioButton;
-class QTabBar;
 
-class FrmDealList : public Form {
+class FrmDealList : public DocumentForm {
  public:
   explicit FrmDealList(FormContext& context, QWidget* parent = nullptr);
 
@@ -18,34 +15,31 @@ class FrmDealList : public Form {
   /** The newest month's opening balance, "yyyy-mm-00". */
   const QString& openingKey() const { return openingKey_; }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  bool hasPapers() override { return desk_.hasPapers(); }
+  std::optional<DocumentRun> papers(bool issuing) override;
+  void print() override;
+
  private:
   QWidget* questionRow();
   QWidget* choiceRow();
   QWidget* sumRow();
   void connectGrid();
-  DealTab tab() const;
   DealAsk ask() const;
   void search();
+  void list();
   void turnTab();
+  bool findClient();
   void chooseClient();
   void clientLeft();
-  void showPrinter();
-  QString printer() const;
   std::optional<DealPrint> askPrint();
-  void print();
-  void issue();
-  void preview();
-  void savePdf();
   bool finishCell(int row, int col, const QString& text);
 
-  FormContext& context_;
   DealDesk desk_;
-  std::unique_ptr<DateRangeBoxes> dates_;
-  QTabBar* tabs_;
   QLineEdit *client_, *clientCode_;
   QCheckBox *all_, *form_, *facility_, *freeOfTax_;
   QRadioButton *included_, *onTop_;
   QLabel *sum_, *caption_;
-  Spread* grid_;
   QString openingKey_;
 };

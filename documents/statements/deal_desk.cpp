@@ -3,7 +3,6 @@
 #include "documents/ledger/deal_ledger.h"
 #include "documents/ledger/softly.h"
 #include "documents/statements/deal_issue.h"
-#include "papers/paper_printer.h"
 #include "store/data_access.h"
 #include "store/year_file.h"
 
@@ -75,32 +74,17 @@ bool DealDesk::deleteRow(int row) {
   });
 }
 
-DealLayout DealDesk::layoutOf(const PrintMethodChoice& choice) {
-  if (choice.dot) return DealLayout::Dot;
-  return choice.paper == 1   ? DealLayout::FullA4
-         : choice.paper == 2 ? DealLayout::HalfA4B
-                             : DealLayout::HalfA4;
-}
-
-bool DealDesk::mayPrint(const QString& printer) {
-  if (ticks_.ticked().empty()) {
-    session_.prompts.MsgInfo("발행할 거래내역을 선택하세요.", kind);
-    return false;
-  }
-  if (!readSupplier(session_)) {
-    session_.prompts.MsgWarn("사용자등록부터 하셔야 합니다");
-    return false;
-  }
-  onPrinter(session_, printer);  // throws before anything is marked
-  return true;
+bool DealDesk::hasPapers() {
+  return hasDocuments(session_, ticks_, kind);
 }
 
 std::vector<DealStatement> DealDesk::statementsOfRows(const std::vector<int>& rows, const DealPrint& print) {
   std::vector<DealStatement> statements = statementsOf(grid(), rows);
   for (DealStatement& statement : statements) {
-    readBuyer(session_, statement);
-    if (asked_.tab == DealTab::Issued) statement.before = 0;
-    if (print.layout != DealLayout::Dot) continue;
+    const DocumentBuyer buyer = readBuyer(session_, statement.clientCode, statement.clientName);
+    statement.buyer = buyer.party;
+    if (asked_.tab == DealTab::Pending) statement.before = buyer.owed;
+    if (print.layout != DocumentLayout::Dot) continue;
     const jet::Database year = openYear(session_, statement.firstDate.left(4));
     if (!year.isOpen()) continue;
     const auto balance = clsTradeBook(year, LedgerSide::Sale)
@@ -118,7 +102,7 @@ DocumentRun DealDesk::issue(const DealPrint& print) {
   const std::vector<int> rows = ticks_.ticked();
   if (asked_.tab == DealTab::Issued) return papers(print);
   const std::vector<int> got = claimDeals(
-      session_, grid(), rows, print.layout == DealLayout::Dot ? DealMark::LedgerCode : DealMark::SaleId);
+      session_, grid(), rows, print.layout == DocumentLayout::Dot ? DealMark::LedgerCode : DealMark::SaleId);
   std::vector<DealStatement> statements = statementsOfRows(got, print);
   writeDealHistory(session_, history_, statements);
   if (got.size() < rows.size())
@@ -130,21 +114,10 @@ DocumentRun DealDesk::issue(const DealPrint& print) {
 
 DocumentRun DealDesk::runOf(std::vector<DealStatement> statements, const DealPrint& print) {
   const QDate today = session_.pc.clock.today();
-  const DocumentMargins margins = documentMargins(session_, kind);
-  pc::PaperShift shift = margins.shift();
-  if (print.layout == DealLayout::FullA4 && margins.left.isEmpty()) shift.columns = drawnFormColumns;
-  const auto paper = std::make_shared<const DealPaper>(
-      DealPaperChoice{print.layout, print.vat, print.drawnForm, asked_.from != asked_.to, today},
-      readSupplier(session_).value_or(DocumentParty{}), shift);
-  const auto all = std::make_shared<const std::vector<DealStatement>>(std::move(statements));
-  return {.title = kind,
-          .paper = paper->paper(),
-          .placesOnSheet = paper->copies(),
-          .documents = int(all->size()),
-          .put = [paper, all](pc::PrintJob& job, pc::PaperPlaces& places,
-                              int document) { paper->put(job, places, (*all)[size_t(document)]); },
-          .name =
-              [all, today](int document) {
-                return documentName(today.toString(Qt::ISODate), (*all)[size_t(document)].clientName, kind);
-              }};
+  DealPaper paper({print.layout, print.vat, print.drawnForm, asked_.from != asked_.to, today},
+                  readSupplier(session_).value_or(DocumentParty{}),
+                  documentShift(session_, kind, print.layout));
+  return documentRun(kind, std::move(paper), std::move(statements), [today](const DealStatement& statement) {
+    return documentName(today.toString(Qt::ISODate), statement.clientName, kind);
+  });
 }

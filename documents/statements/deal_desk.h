@@ -1,14 +1,12 @@
 #pragma once
 // The rules of FrmDealList around its list: ticks, a changed quantity, deleting, and the papers of what is ticked.
+#include "documents/document_papers.h"
 #include "documents/statements/deal_paper.h"
 #include "documents/statements/deal_search.h"
-#include "documents/tick_column.h"
-#include "master/registers/pickers.h"
-#include "papers/document_run.h"
 
 /** What the form's boxes say when something is printed. */
 struct DealPrint {
-  DealLayout layout = DealLayout::HalfA4;
+  DocumentLayout layout = DocumentLayout::HalfA4;
   std::optional<Vat> vat = Vat::Included;
   bool drawnForm = true;
 };
@@ -30,10 +28,8 @@ class DealDesk {
   /** Deletes what is ticked after a question; True when the list is to be read anew. */
   bool deleteTicked();
 
-  /** The layouts of FrmMsg's choices. */
-  static DealLayout layoutOf(const PrintMethodChoice& choice);
-  /** Whether there is anything to print, a company and, unless it goes nowhere, a printer; what is missing is told. */
-  bool mayPrint(const QString& printer);
+  /** Whether there is anything to print and a company; what is missing is told. */
+  bool hasPapers();
   /** The papers of what is ticked, nothing issued. */
   DocumentRun papers(const DealPrint& print);
   /** On the pending list the lines become issued, each once whatever other PCs do, and only those that did are on the

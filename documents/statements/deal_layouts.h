@@ -1,34 +1,13 @@
 #pragma once
-// What stands where on the four papers of a statement, in rows of 1/6 inch and columns of one half-width character.
-#include "pc/paper_form.h"
+// The four papers of a statement.
+#include "documents/document_layout.h"
 
-/** The statement forms' grid: six rows to the inch, a column as wide as a half-width character of the letters. */
-inline constexpr double documentPoints = 9.75, documentRows = 6, documentColumns = 144 / documentPoints;
-
-/** Columns that the texts of a drawn form stand to the right where the operator has set no margin: there they clear the
- *  form's words. */
-inline constexpr double drawnFormColumns = 2;
-
-enum class DealLayout { HalfA4, FullA4, HalfA4B, Dot };
-
-/** The texts of a statement's sheet. */
+/** The texts of a statement's sheet behind its parties. */
 enum class DealText {
-  IssueDate,  ///< in one piece, as the paper wants it
+  IssueDate = int(PartyText::Count),  ///< in one piece, as the paper wants it
   IssueYear,
   IssueMonth,
   IssueDay,
-  SupplierSerial,
-  SupplierName,
-  SupplierPerson,
-  SupplierAddress,
-  SupplierStatus,
-  SupplierItem,
-  BuyerSerial,
-  BuyerName,
-  BuyerPerson,
-  BuyerAddress,
-  BuyerStatus,
-  BuyerItem,
   Supply,  ///< sums of the sheets so far, in won
   Tax,
   Total,

@@ -4,32 +4,19 @@
 
 namespace {
 
-const pc::PaperForm& formOf(DealLayout layout) {
-  switch (layout) {
-    case DealLayout::FullA4:
-      return printFullA4;
-    case DealLayout::HalfA4B:
-      return printHalfA4B;
-    case DealLayout::Dot:
-      return printDot;
-    case DealLayout::HalfA4:
-      break;
-  }
-  return printHalfA4;
-}
+/** In the order of DocumentLayout. */
+constexpr const pc::PaperForm* forms[] = {&printHalfA4, &printFullA4, &printHalfA4B, &printDot};
 
-pc::PaperShift shiftOf(DealLayout layout, pc::PaperShift margin) {
-  if (layout == DealLayout::HalfA4) margin.columns += 2;
+pc::PaperShift shiftOf(DocumentLayout layout, pc::PaperShift margin) {
+  if (layout == DocumentLayout::HalfA4) margin.columns += 2;
   return margin;
 }
 
 }  // namespace
 
 DealPaper::DealPaper(DealPaperChoice choice, DocumentParty supplier, pc::PaperShift margin)
-    : choice_(std::move(choice)),
-      supplier_(std::move(supplier)),
-      margin_(shiftOf(choice_.layout, margin)),
-      form_(formOf(choice_.layout)) {}
+    : DocumentPaper(*forms[size_t(choice.layout)], std::move(supplier), shiftOf(choice.layout, margin)),
+      choice_(std::move(choice)) {}
 
 void DealPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const DealStatement& statement) const {
   static const std::array<QString, 2> labels{"  (공급자 보관용)", "(공급받는자 보관용)"};
@@ -53,7 +40,7 @@ void DealPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const DealStatem
     const std::vector<QString> shown = texts(statement, sheet, sums);
     for (int copy = 0; copy < form_.copies; ++copy) {
       const int place = places.next();
-      if (choice_.layout == DealLayout::FullA4 && choice_.drawnForm)
+      if (choice_.layout == DocumentLayout::FullA4 && choice_.drawnForm)
         pc::drawPaper(job, statementForm, {margin_.rows, 0}, place, {&labels[size_t(copy)], 1});
       pc::drawPaper(job, form_, margin_, place, shown, lines);
     }
@@ -62,20 +49,13 @@ void DealPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const DealStatem
 
 std::vector<QString> DealPaper::texts(const DealStatement& statement, const pc::PaperSheet& sheet,
                                       const Sums& sums) const {
-  std::vector<QString> made{size_t(DealText::Count)};
+  std::vector<QString> made = partyTexts(int(DealText::Count), supplier_, statement.buyer);
   const auto set = [&](DealText what, const QString& text) { made[size_t(what)] = text; };
-  const bool dot = choice_.layout == DealLayout::Dot;
+  const bool dot = choice_.layout == DocumentLayout::Dot;
   set(DealText::IssueDate, choice_.issued.toString(dot ? "yyyy-MM-dd" : "yyyy년 MM월 dd일"));
   set(DealText::IssueYear, choice_.issued.toString("yyyy"));
   set(DealText::IssueMonth, choice_.issued.toString("MM"));
   set(DealText::IssueDay, choice_.issued.toString("dd"));
-  const auto party = [&](DealText from, const DocumentParty& who) {
-    int place = int(from);
-    for (const QString* text : {&who.serial, &who.company, &who.person, &who.address, &who.status, &who.item})
-      made[size_t(place++)] = *text;
-  };
-  party(DealText::SupplierSerial, supplier_);
-  party(DealText::BuyerSerial, statement.buyer);
   set(DealText::Supply, wonOrBlank(sums.supply));
   set(DealText::Tax, wonOrBlank(sums.tax));
   set(DealText::Before, wonOrBlank(statement.before));
@@ -94,7 +74,7 @@ QStringList DealPaper::lineTexts(const DealLine& line, const std::optional<VatSp
   QStringList made(qsizetype(DealLineText::Count));
   const auto set = [&](DealLineText what, const QString& text) { made[qsizetype(what)] = text; };
   const QString item = line.item + " (" + line.norm + ")";
-  const bool short_ = choice_.layout == DealLayout::FullA4 || choice_.layout == DealLayout::Dot;
+  const bool short_ = choice_.layout == DocumentLayout::FullA4 || choice_.layout == DocumentLayout::Dot;
   const QString date = short_ ? line.date.mid(5) : line.date;
   if (choice_.dated) {
     set(DealLineText::Date, date);

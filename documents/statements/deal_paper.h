@@ -4,20 +4,18 @@
 #include "documents/statements/deal_statement.h"
 
 struct DealPaperChoice {
-  DealLayout layout = DealLayout::HalfA4;
+  DocumentLayout layout = DocumentLayout::HalfA4;
   std::optional<Vat> vat = Vat::Included;  ///< nothing: supply and tax are not worked out
   bool drawnForm = true;                   ///< FullA4: the form under the texts
   bool dated = true;                       ///< lines tell their date: the range is more than one day
   QDate issued = {};
 };
 
-class DealPaper {
+class DealPaper : public DocumentPaper {
  public:
   /** margin: the operator's correction; HalfA4 moves two columns more to the right. */
   DealPaper(DealPaperChoice choice, DocumentParty supplier, pc::PaperShift margin);
 
-  pc::PaperSize paper() const { return form_.paper; }
-  int copies() const { return form_.copies; }
   /** All sheets of one statement, each with both copies; it begins on a sheet of its own. */
   void put(pc::PrintJob& job, pc::PaperPlaces& places, const DealStatement& statement) const;
 
@@ -30,7 +28,4 @@ class DealPaper {
   QStringList lineTexts(const DealLine& line, const std::optional<VatSplit>& split) const;
 
   const DealPaperChoice choice_;
-  const DocumentParty supplier_;
-  const pc::PaperShift margin_;
-  const pc::PaperForm& form_;
 };

@@ -3,51 +3,28 @@
 
 namespace half_a4 {
 
+using namespace layout;
 using enum DealText;
-using pc::at, pc::PaperItem;
 using Line = DealLineText;
 
 constexpr double top = 3;  // row 0 of the upper copy
-constexpr pc::PaperFont letters[] = {{u"굴림체", documentPoints}};
+constexpr double sums = top + 30;
 
-constexpr PaperItem places[] = {
-    {top + 0, 16, IssueDate},
-    {top + 5, 20, SupplierSerial},
-    {top + 5, 63, BuyerSerial},
-    at(top + 7, 16, SupplierName).cut(29),
-    at(top + 7, 46, SupplierPerson).cut(17),
-    at(top + 7, 64, BuyerName).cut(29),
-    at(top + 7, 94, BuyerPerson).cut(24),
-    at(top + 9, 16, SupplierAddress).cut(47),
-    at(top + 9, 64, BuyerAddress).cut(54),
-    at(top + 11, 16, SupplierStatus).cut(19),
-    at(top + 11, 36, SupplierItem).cut(27),
-    at(top + 11, 64, BuyerStatus).cut(20),
-    at(top + 11, 85, BuyerItem).cut(33),
-    at(top + 30, 14, Supply),
-    at(top + 30, 32, Tax),
-    at(top + 30, 49, Total),
-    at(top + 30, 65, MoreBehind),
-};
+constexpr auto places = joined(
+    numbers(top + 5, 20, 63), names(top + 7, {{16, 29}, {46, 17}, {64, 29}, {94, 24}}),
+    addresses(top + 9, {{16, 47}, {64, 54}}), kinds(top + 11, {{16, 19}, {36, 27}, {64, 20}, {85, 33}}),
+    std::array{at(top, 16, IssueDate), at(sums, 14, Supply), at(sums, 32, Tax), at(sums, 49, Total),
+               at(sums, 65, MoreBehind)});
 
-constexpr PaperItem line[] = {
-    {top + 15, 9, Line::Date},
-    at(top + 15, 23, Line::Item).cut(34),
-    at(top + 15, 9, Line::ItemAlone).cut(48),
-    at(top + 15, 58, Line::Quantity).padded(11),
-    at(top + 15, 70, Line::Price).padded(11),
-    at(top + 15, 84, Line::Supply).padded(12),
-    at(top + 15, 98, Line::Tax).padded(12),
-};
+constexpr double first = top + 15;
+constexpr std::array line{at(first, 9, Line::Date),
+                          at(first, 23, Line::Item).cut(34),
+                          at(first, 9, Line::ItemAlone).cut(48),
+                          at(first, 58, Line::Quantity).padded(11),
+                          at(first, 70, Line::Price).padded(11),
+                          at(first, 84, Line::Supply).padded(12),
+                          at(first, 98, Line::Tax).padded(12)};
 
 }  // namespace half_a4
 
-const pc::PaperForm printHalfA4{.paper = {},
-                                .rowsPerInch = documentRows,
-                                .columnsPerInch = documentColumns,
-                                .fonts = half_a4::letters,
-                                .items = half_a4::places,
-                                .copies = 2,
-                                .copyRows = 35,
-                                .line = half_a4::line,
-                                .lines = dealLinesOnSheet};
+const pc::PaperForm printHalfA4 = layout::paper(half_a4::places, 35, {half_a4::line, dealLinesOnSheet});

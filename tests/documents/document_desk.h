@@ -7,6 +7,18 @@
 
 namespace tests {
 
+/** A text at a row and column of the papers' grid. */
+struct Put {
+  double row, column;
+  QString text;
+};
+
+/** Words of a drawn form, parted by "|", at one x and their ys or the other way round. */
+struct Words {
+  const char* words;
+  std::vector<double> xs, ys;
+};
+
 struct DocumentDesk : testing::Test {
   DocumentDesk() {
     pc.openBooks(QDate(2026, 3, 31));
@@ -31,6 +43,46 @@ struct DocumentDesk : testing::Test {
   QString at(const RecordedJob& job, int page, double y, double x) {
     const auto* item = job.at(page, x * column, y * row);
     return item ? item->text : "-";
+  }
+  /** Each text at its row and column, counted from a place of the sheet; "-" nothing. */
+  void expectTexts(const RecordedJob& job, int page, double top, double left, const std::vector<Put>& texts) {
+    for (const Put& each : texts)
+      EXPECT_EQ(at(job, page, top + each.row, left + each.column), each.text)
+          << "row " << each.row << ", column " << each.column;
+  }
+  /** The words at their inches below each copy's edge; besides them the form has a mark on each copy and no other. */
+  void expectWords(const RecordedJob& job, const std::vector<double>& edges,
+                   const std::vector<Words>& table) {
+    int words = int(edges.size());
+    for (const double edge : edges)
+      for (const Words& each : table) {
+        const QStringList list = QString(each.words).split('|');
+        for (int place = 0; place < list.size(); ++place, ++words) {
+          const double x = each.xs[size_t(place) % each.xs.size()],
+                       y = each.ys[size_t(place) % each.ys.size()];
+          const auto* item = job.at(1, x, edge + y);
+          EXPECT_EQ(item ? item->text : "-", list[place]) << x << ", " << y;
+        }
+      }
+    EXPECT_EQ(std::ranges::count_if(job.items,
+                                    [](const auto& item) {
+                                      return item.kind == PrintedItem::Text && item.font.family == "돋움체";
+                                    }),
+              words);
+  }
+  static bool hasLine(const RecordedJob& job, double x, double y, double x2, double y2) {
+    return std::ranges::any_of(job.items, [&](const auto& item) {
+      return item.kind == PrintedItem::Line && qAbs(item.x - x) < 0.001 && qAbs(item.y - y) < 0.001 &&
+             qAbs(item.x2 - x2) < 0.001 && qAbs(item.y2 - y2) < 0.001;
+    });
+  }
+  /** All lines of a box, below an edge. */
+  static bool hasBox(const RecordedJob& job, double edge, double x, double y, double x2, double y2) {
+    return hasLine(job, x, edge + y, x2, edge + y) && hasLine(job, x, edge + y2, x2, edge + y2) &&
+           hasLine(job, x, edge + y, x, edge + y2) && hasLine(job, x2, edge + y, x2, edge + y2);
+  }
+  static bool isTextAlone(const RecordedJob& job) {
+    return std::ranges::all_of(job.items, [](const auto& item) { return item.kind == PrintedItem::Text; });
   }
 
   TestPc pc;

@@ -12,6 +12,7 @@
 #include "documents/invoices/FrmTax.h"
 #include "documents/pickers/FrmMsg.h"
 #include "documents/pickers/FrmNewTrader.h"
+#include "documents/pickers/FrmPost.h"
 #include "documents/pickers/FrmTraderList.h"
 #include "documents/statements/FrmDealList.h"
 #include "papers/form_document_run.h"
@@ -41,6 +42,7 @@ struct DocumentPickers : tests::IdlePickers {
   TraderFound found;
   std::optional<PrintMethodChoice> method = PrintMethodChoice{};
   PrintMethodQuestion asked;
+  std::optional<QString> searchResponse() override { return "김배달"; }
   TraderFound searchTrader(const QString&) override { return found; }
   std::optional<PrintMethodChoice> askPrintMethod(const PrintMethodQuestion& question) override {
     asked = question;
@@ -168,6 +170,69 @@ TEST_F(DealForm, TheCustomerIsChosenAndForgotten) {
   EXPECT_EQ(form.findChild<QLineEdit*>("txtCCode")->text(), "");
 }
 
+TEST_F(DealForm, ATypedNameIsLookedUpBeforeItsLinesAreAndTheArrowsLeaveTheBox) {
+  auto* const client = form.findChild<QLineEdit*>("txtinput");
+  auto* const code = form.findChild<QLineEdit*>("txtCCode");
+  tests::key(Qt::Key_Insert);
+  pickers.found = {.any = true, .trader = ClientChoice{2, "바다식당"}};
+  tests::key(Qt::Key_Return);
+  tests::key(Qt::Key_Insert);
+  client->selectAll();
+  tests::type("x");
+  EXPECT_EQ(code->text(), "") << "it is no longer the customer chosen before";
+  pickers.found = {.any = true, .trader = ClientChoice{1, "한라식당"}};
+  press(form, "btnSearch");
+  EXPECT_EQ(client->text(), "한라식당");
+  EXPECT_EQ(grid->model().text(1, DealCol::ClientName), "한라식당");
+  EXPECT_EQ(grid->model().MaxRows(), 8);
+  client->setFocus();
+  tests::key(Qt::Key_Delete);
+  tests::key(Qt::Key_Up);
+  EXPECT_TRUE(form.findChild<QLineEdit*>("txtDate(1)")->hasFocus());
+  client->setFocus();
+  tests::key(Qt::Key_Down);
+  EXPECT_TRUE(form.findChild<QPushButton*>("btnSearch")->hasFocus());
+  tests::key(Qt::Key_Delete);  // lines are deleted from the list alone
+}
+
+TEST_F(DealForm, APrinterThatFailsInTheMiddleLeavesAllOfThemAmongTheIssued) {
+  form.findChild<QCheckBox*>("ChkAll")->click();
+  printers.refusesFromPage = 3;
+  whenMenu([](QMenu& menu) {
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+  });
+  pc.prompts.expect("거래명세표를 모두 인쇄하지 못했습니다.\n발행한 내역에서 다시 인쇄하세요.");
+  press(form, "btnPrint");
+  EXPECT_TRUE(printers.jobs.back()->abandoned);
+  EXPECT_EQ(pending(), "0");
+  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  EXPECT_EQ(grid->model().MaxRows(), 16);
+}
+
+TEST_F(DealForm, WithoutItsPrinterNothingIsIssuedButThePapersAreLookedAtAndSaved) {
+  setDocumentPrinter(session, "거래명세표", "없는 프린터");
+  grid->setFocus();
+  grid->setActiveCell(1, DealCol::Item);
+  tests::key(Qt::Key_Space);
+  whenMenu([](QMenu& menu) {
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+  });
+  pc.prompts.expect("없는 프린터");
+  press(form, "btnPrint");
+  EXPECT_EQ(pending(), "16");
+  press(form, "btnPdf");
+  ASSERT_EQ(printers.jobs.size(), 1u);
+  EXPECT_EQ(printers.jobs[0]->title, "2026-03-31 한라식당 거래명세표");
+  press(form, "btnPreview");
+  bool isShown = false;
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->objectName() == "FrmPaperView") isShown = window->close() || isShown;
+  EXPECT_TRUE(isShown);
+  EXPECT_EQ(pending(), "16");
+}
+
 TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
   auto* const from = form.findChild<DateBox*>("txtDate(0)");
   from->setFocus();
@@ -274,8 +339,11 @@ TEST_F(TaxForm, GathersTheMonthAndShowsItsSums) {
   EXPECT_EQ(label("pnlCaption"), " 발행할 거래내역을 선택하세요. [선택:Space 또는 Click]");
   form.resize(form.sizeHint());
   tests::grab(form, "FrmTax");
+  click(*grid, 2, TaxCol::Client);
   form.findChild<QCheckBox*>("ChkVat")->click();
   EXPECT_EQ(label("pnlSum(1)"), "");
+  EXPECT_EQ(grid->model().text(1, TaxCol::Tick) + grid->model().text(2, TaxCol::Tick), "1")
+      << "another choice of tax keeps the ticks";
   form.findChild<QRadioButton*>("OptVat(1)")->click();
   EXPECT_FALSE(form.findChild<QCheckBox*>("ChkVat")->isChecked());
   EXPECT_EQ(label("pnlSum(2)"), "1,518,000");
@@ -355,12 +423,33 @@ TEST_F(DocumentForms, TypingAnInvoiceByKeys) {
   press(form, "btnQuit");
   EXPECT_FALSE(form.isVisible());
   FrmTax tax(context);
+  auto* const list = tax.findChild<Spread*>("grdList");
   // The form empties what was left behind when it opens for typed invoices; what is typed while it is open stays.
   tax.showPage("1");
-  EXPECT_EQ(tax.findChild<Spread*>("grdList")->model().text(1, TaxCol::TaxCode), "");
+  tests::show(tax);
+  EXPECT_EQ(list->model().text(1, TaxCol::TaxCode), "");
+  clsPrintTax typed(session.dbTax, taxStation(QDate(2026, 3, 31)));
+  typed.line = {.TaxCode = "2603001",
+                .CCode = "1",
+                .CName = "a",
+                .TradeKum = 10,
+                .SumKum = 10,
+                .DealDate = "2026-03-31",
+                .IssueDate = "2026-03-31",
+                .Code = "000001"};
+  ASSERT_TRUE(typed.Insert());
+  pc.prompts.expect("입력한 계산서를 발행하지 않았습니다!", false);
+  tax.showPage("0");
+  EXPECT_FALSE(tax.findChild<QPushButton*>("Cmd모으기")->isEnabled()) << "still the typed ones";
+  pc.prompts.expect("입력한 계산서를 발행하지 않았습니다!", false);
+  EXPECT_FALSE(tax.close());
+  pc.prompts.expect("입력한 계산서를 발행하지 않았습니다!", true);
+  EXPECT_TRUE(tax.close());
+  EXPECT_TRUE(typed.List().atEnd());
 }
 
 TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
+  session.dbBasic.Execute("Insert Into Response(Name) Values('홍길동')");
   tests::whenModal([](QWidget& dialog) {
     tests::grab(dialog, "FrmMsg");
     dialog.findChild<QRadioButton*>("optPaper(2)")->click();
@@ -390,6 +479,15 @@ TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
   tests::whenModal([&](QWidget& dialog) {
     tests::grab(dialog, "FrmNewTrader");
     dialog.findChild<QLineEdit*>("txtName")->setText("새 거래처");
+    auto* const charge = dialog.findChild<QLineEdit*>("txtCharge");
+    for (const char* typed : {"1", "홍길동", "없음"}) {
+      charge->setFocus();
+      charge->setText(typed);
+      QTest::keyClick(charge, Qt::Key_Return);
+      EXPECT_EQ(charge->text(), QString(typed) == "없음" ? "김배달" : "홍길동")
+          << "by code, by name, from the list";
+    }
+    EXPECT_TRUE(dialog.findChild<QLineEdit*>("txtSerial")->hasFocus());
     dialog.findChild<QLineEdit*>("txtSerial")->setText("123-45-67890");
     pc.prompts.expect("검증번호가 맞지 않습니다.");
     pc.prompts.expect("거래처를 등록하는 중 오류가 발생했습니다.");
@@ -399,6 +497,37 @@ TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
     QTest::keyClick(&dialog, Qt::Key_Escape);
   });
   EXPECT_FALSE(FrmNewTrader(session, pickers, true).enter());
+}
+
+TEST_F(DocumentForms, APostcodeIsSearchedAndFoundInWhatIsLoaded) {
+  const auto post = session.wsMain.OpenDatabase(session.DbPath + "dbPost.mdb");
+  for (const char* row : {"'135080', '역삼동'", "'135081', '역삼1동'", "'700010', '동인동'"})
+    post.Execute(QString("Insert Into Post(SIDO, GUGUN, ZIPCODE, DONG) Values('서울', '강남', %1)").arg(row));
+  tests::whenModal([this](QWidget& dialog) {
+    tests::grab(dialog, "FrmPost");
+    auto* const grid = dialog.findChild<Spread*>("SpPost");
+    auto* const box = dialog.findChild<QLineEdit*>("txtFind");
+    const auto find = [&](const char* typed) {
+      box->setText(typed);
+      QTest::mouseClick(dialog.findChild<QPushButton*>("btnFind"), Qt::LeftButton);
+    };
+    find("");
+    EXPECT_EQ(grid->model().MaxRows(), 3);
+    find("동인동");
+    EXPECT_EQ(grid->activeRow(), 3);
+    EXPECT_EQ(grid->model().MaxRows(), 3) << "it is in the list";
+    find("역삼");
+    EXPECT_EQ(grid->model().MaxRows(), 2);
+    pc.prompts.expect("'없는동' 가 없습니다.");
+    find("없는동");
+    find("70001");
+    EXPECT_EQ(grid->model().text(1, 1), "700-010");
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_Return);
+  });
+  const auto chosen = FrmPost(session, {}, nullptr);
+  ASSERT_TRUE(chosen);
+  EXPECT_EQ(chosen->zipCode, "700-010");
 }
 
 }  // namespace

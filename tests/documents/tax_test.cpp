@@ -1,4 +1,6 @@
 // Tax invoices: gathering, numbers, issuing, the register, the papers, the tax office's sheet.
+#include <QRegularExpression>
+
 #include <random>
 
 #include "documents/invoices/new_acount.h"
@@ -39,6 +41,12 @@ struct Taxes : tests::DocumentDesk {
   }
   TaxAsk month(TaxTab tab = TaxTab::Pending, std::optional<TaxGathering> gathering = TaxGathering::Monthly) {
     return {.from = QDate(2026, 3, 1), .to = QDate(2026, 3, 31), .gathering = gathering, .tab = tab};
+  }
+  /** The first row's cell below a header. */
+  static QString cellOf(const SpreadModel& sheet, const QString& header) {
+    for (int col = 1; col <= sheet.MaxCols(); ++col)
+      if (sheet.column(col).header.startsWith(header)) return sheet.text(1, col);
+    return "-";
   }
   void issueAll(TaxDesk& desk, const TaxAsk& ask, QString& serial, const TaxPaperChoice& choice = {}) {
     desk.gather(ask);
@@ -178,6 +186,13 @@ TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
   desk.list(month(TaxTab::Issued));
   EXPECT_EQ(cells(desk, 1, {TaxCode, Client, Supply, Tax, Total, Item}),
             "2603005|한라식당|63636|6364|70000|LPG 외");
+  SpreadModel sheet;
+  desk.fillBulk(sheet, false);
+  EXPECT_EQ(
+      cellOf(sheet, "품목1") + cellOf(sheet, "수량1") + cellOf(sheet, "단가1") + cellOf(sheet, "공급가액1"),
+      "LPG 외63636")
+      << "several lines have no one quantity";
+  EXPECT_EQ(cellOf(sheet, "영수(01)"), "02");
   desk.list(month(TaxTab::Issued, TaxGathering::Period));
   EXPECT_TRUE(desk.sheet().isEmpty()) << "each way of gathering has its own section";
 
@@ -195,6 +210,7 @@ TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
 
 TEST_F(Taxes, APeriodsInvoicesAreFoundAgainInTheRegister) {
   sale("2026-03-09", 2, 1'100, 1);
+  sale("2026-03-08", 2, 2'200, 1);  // before the period
   TaxDesk desk(session);
   TaxAsk ask = month(TaxTab::Pending, TaxGathering::Period);
   ask.from = QDate(2026, 3, 9);
@@ -204,6 +220,24 @@ TEST_F(Taxes, APeriodsInvoicesAreFoundAgainInTheRegister) {
   ask.tab = TaxTab::Issued;
   desk.list(ask);
   EXPECT_EQ(cells(desk, 1, {TaxCode, DealDate, Total}), "2603001|2026-03|1100");
+  EXPECT_EQ(first(session.dbYear, "Select SaleDate From Sale Where SaleList = 0"), "2026-03-08");
+}
+
+TEST_F(Taxes, ACustomerDeletedMeanwhileKeepsHisNameAndALineOfNobodyIsIssuedToo) {
+  sale("2026-03-02", 2, 1'100, 1);
+  session.dbYear.Execute(
+      "Insert Into Sale(SaleDate, SaleName, SaleUnit, SaleNum, ClientCode) Values('2026-03-03', 'LPG', 2200, "
+      "1, "
+      "Null)");
+  TaxDesk desk(session);
+  QString serial = "2603001";
+  issueAll(desk, month(), serial);
+  EXPECT_EQ(serial, "2603003");
+  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale"), "2");
+  session.dbBasic.Execute("Delete From Client Where Code = 2");
+  desk.list(month(TaxTab::Issued));
+  desk.ticks().setAll(true);
+  EXPECT_TRUE(print(desk.issue(month(TaxTab::Issued), serial, {})).texts(2).contains("바다식당"));
 }
 
 TEST_F(Taxes, WhatMovedSinceItWasGatheredIsNotIssued) {
@@ -415,11 +449,7 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
   SpreadModel sheet;
   desk.fillBulk(sheet, true);
   ASSERT_EQ(sheet.MaxRows(), 1);
-  const auto cell = [&](const QString& header) {
-    for (int col = 1; col <= sheet.MaxCols(); ++col)
-      if (sheet.column(col).header.startsWith(header)) return sheet.text(1, col);
-    return QString("-");
-  };
+  const auto cell = [&](const QString& header) { return cellOf(sheet, header); };
   EXPECT_EQ(cell("작성일자"), "20260330");
   EXPECT_EQ(cell("공급자 등록번호"), "1234567891");
   EXPECT_EQ(cell("공급받는자 등록번호"), "2208162517");
@@ -436,6 +466,37 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
   EXPECT_EQ(sheet.MaxCols(), 22 + 4 * 8 + 5);
 }
 
+TEST_F(Taxes, TheFormsChoiceOverATypedInvoiceIsKeptLineByLine) {
+  clsPrintTax tax(session.dbTax, taxStation(QDate(2026, 3, 31)));
+  NewAcountEntry entry(session, tax);
+  entry.setDates("2026-03-30", "2026-03-15");
+  entry.setClient("1", "한라식당");
+  for (int line = 1; line <= 3; ++line) {
+    entry.finishCell(line, AcountCol::Name, "품목");
+    entry.finishCell(line, AcountCol::Supply, "14");  // 1 of tax, 15 together
+    entry.nextCell(line, AcountCol::Total);
+  }
+  pc.prompts.expect("[닫기]버튼을");
+  entry.save();
+  TaxDesk desk(session);
+  const auto issuedBy = [&](Vat vat) {
+    TaxAsk ask = month(TaxTab::Pending, {});
+    ask.vat = vat;
+    desk.list(ask);
+    desk.ticks().setAll(true);
+    return cells(desk, 1, {Supply, Tax, Total}) + ' ' +
+           print(desk.papers(ask, "2603001", {.layout = DocumentLayout::HalfA4}))
+               .texts()
+               .filter(QRegularExpression("^ +[0-9]+$"))
+               .join("")
+               .simplified();
+  };
+  EXPECT_EQ(issuedBy(Vat::Included), "42|3|45 14 1 14 1 14 1 14 1 14 1 14 1") << "as typed";
+  // A tenth of 45 is 4.5, to the even 4; each line's 1.5 goes to 2, and the last gives back what is too much.
+  EXPECT_EQ(issuedBy(Vat::OnTop), "45|4|49 15 2 15 2 15 15 2 15 2 15");
+  EXPECT_EQ(issuedBy(Vat::None), "45|0|45 15 15 15 15 15 15");
+}
+
 // --- the papers -------------------------------------------------------------------------------------------------
 
 TEST_F(Taxes, HalfA4TextByText) {
@@ -445,43 +506,40 @@ TEST_F(Taxes, HalfA4TextByText) {
   desk.gather(month());
   desk.ticks().setAll(true);
   QString serial = "2603007";
-  const auto& job = print(desk.issue(month(), serial, {.layout = TaxLayout::HalfA4, .receipt = true}));
+  const auto& job = print(desk.issue(month(), serial, {.layout = DocumentLayout::HalfA4, .receipt = true}));
   EXPECT_EQ(job.pages, 1);
-  for (const double top : {1 + 1.5, 1 + 1.5 + 35.07}) {
-    const auto text = [&](double y, double x) { return at(job, 1, top + y, 2 + x); };
-    EXPECT_EQ(text(3.9, 86), "2603-007");
-    EXPECT_EQ(text(6.3, 30), "123-45-67891");
-    EXPECT_EQ(text(6.3, 67), "220-81-62517");
-    EXPECT_EQ(text(8.2, 25), "해온가스");
-    EXPECT_EQ(text(8.2, 48), "홍길동");
-    EXPECT_EQ(text(8.2, 72), "한라식당");
-    EXPECT_EQ(text(8.2, 96), "김하나");
-    EXPECT_EQ(text(10.8, 25), "서울 중구 1");
-    EXPECT_EQ(text(10.8, 72), "서울 강남 2");
-    EXPECT_EQ(text(12.9, 25), "소매");
-    EXPECT_EQ(text(12.9, 42), "가스");
-    EXPECT_EQ(text(12.9, 72), "음식");
-    EXPECT_EQ(text(12.9, 90), "한식");
-    EXPECT_EQ(text(16.9, 11), "2026");
-    EXPECT_EQ(text(16.9, 17), "03");
-    EXPECT_EQ(text(16.9, 21), "31");
-    EXPECT_EQ(text(16.9, 26), "6");
-    EXPECT_EQ(text(16.9, 30), "            5 4 5 4 5 ");  // eleven cells of two columns
-    EXPECT_EQ(text(16.9, 53), "            5 4 5 5 ");    // ten
-    EXPECT_EQ(text(20.3, 12), "03");
-    EXPECT_EQ(text(20.3, 15), "-") << "a month has no day";
-    EXPECT_EQ(text(20.3, 20), "LPG (20)");
-    EXPECT_EQ(text(20.3, 52), "      2");
-    EXPECT_EQ(text(20.3, 62), "   30,000");
-    EXPECT_EQ(text(20.3, 73), "        54,545");
-    EXPECT_EQ(text(20.3, 88), "       5,455");
-    EXPECT_EQ(text(22.1, 22), "=== 이하 여백 ===");
-    EXPECT_EQ(text(28.6, 12), "*********60,000");
-    EXPECT_EQ(text(28.6, 100), "영수");
-  }
-  EXPECT_EQ(std::ranges::count_if(job.items,
-                                  [](const auto& item) { return item.kind != tests::PrintedItem::Text; }),
-            0);
+  for (const double top : {1 + 1.5, 1 + 1.5 + 35.07})
+    expectTexts(job, 1, top, 2,
+                {{3.9, 86, "2603-007"},
+                 {6.3, 30, "123-45-67891"},
+                 {6.3, 67, "220-81-62517"},
+                 {8.2, 25, "해온가스"},
+                 {8.2, 48, "홍길동"},
+                 {8.2, 72, "한라식당"},
+                 {8.2, 96, "김하나"},
+                 {10.8, 25, "서울 중구 1"},
+                 {10.8, 72, "서울 강남 2"},
+                 {12.9, 25, "소매"},
+                 {12.9, 42, "가스"},
+                 {12.9, 72, "음식"},
+                 {12.9, 90, "한식"},
+                 {16.9, 11, "2026"},
+                 {16.9, 17, "03"},
+                 {16.9, 21, "31"},
+                 {16.9, 26, "6"},
+                 {16.9, 30, "            5 4 5 4 5 "},  // eleven cells of two columns
+                 {16.9, 53, "            5 4 5 5 "},    // ten
+                 {20.3, 12, "03"},
+                 {20.3, 15, "-"},  // a month has no day
+                 {20.3, 20, "LPG (20)"},
+                 {20.3, 52, "      2"},
+                 {20.3, 62, "   30,000"},
+                 {20.3, 73, "        54,545"},
+                 {20.3, 88, "       5,455"},
+                 {22.1, 22, "=== 이하 여백 ==="},
+                 {28.6, 12, "*********60,000"},
+                 {28.6, 100, "영수"}});
+  EXPECT_TRUE(isTextAlone(job));
 }
 
 TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
@@ -492,43 +550,75 @@ TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
   desk.ticks().setAll(true);
   const auto& job = print(desk.papers(ask, "2603001", {}));
   EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0") << "looked at, nothing issued";
+  const double upper = 1.5 * row, lower = (1.5 + 35.07) * row;
+  expectWords(job, {upper, lower},
+              {{"(별지 제11호 서식)", {0.68}, {0.10}},
+               {"세  금  계  산  서", {1.50}, {0.49}},
+               {"권|호", {6.48, 7.21}, {0.42}},
+               {"책 번 호|일련번호", {5.30}, {0.43, 0.66}},
+               {"공|급|자", {0.71}, {1.02, 1.58, 2.14}},
+               {"등록|번호|상호", {0.91}, {0.94, 1.14, 1.34}},
+               {"(법인명)|사업장|주  소", {0.88}, {1.53, 1.71, 1.88}},
+               {"업태", {0.91}, {2.14}},
+               {"성|명", {2.63}, {1.32, 1.51}},
+               {"종|목", {2.60}, {2.05, 2.25}},
+               {"공|급|받|는|자", {3.93}, {1.02, 1.24, 1.68, 1.90, 2.12}},
+               {"등록|번호|상호", {4.15}, {0.94, 1.14, 1.34}},
+               {"(법인명)|사업장|주  소", {4.12}, {1.53, 1.71, 1.88}},
+               {"업태", {4.15}, {2.14}},
+               {"성|명", {6.07}, {1.32, 1.51}},
+               {"종|목", {6.02}, {2.05, 2.25}},
+               {"년|월|일", {0.86, 1.26, 1.56}, {2.60}},
+               {"작    성", {0.95}, {2.42}},
+               {"공란수백십억천백십만천백십일십억천백십만천백십일", {1.79}, {2.62}},
+               {"공  급  가  액|세    액|비              고", {1.95, 3.38, 4.90}, {2.42}},
+               {"월  일|품    목   -   규    격|수   량|단   가|공 급  가 액|세    액|비  고",
+                {0.78, 1.65, 3.60, 4.28, 4.98, 6.15, 7.02},
+                {3.12}},
+               {"합  계   금  액", {1.05}, {4.56}},
+               {"현     금|수     표|어     음|외상미수금", {2.51, 3.43, 4.33, 5.12}, {4.57}},
+               {"이 금액을        함", {6.20}, {4.72}}});
+  EXPECT_EQ(job.at(1, 3.94, upper + 0.53)->text, "(공급자 보관용)");
+  EXPECT_EQ(job.at(1, 3.94, lower + 0.53)->text, "(공급받는자 보관용)");
   constexpr double cell = 8.0 / 72, indent = (cell - column) / 2;
-  const QStringList marks{"(공급자 보관용)", "(공급받는자 보관용)"};
-  for (int copy = 0; copy < 2; ++copy) {
-    const double edge = (1.5 + 35.07 * copy) * row;
-    const auto label = [&](double x, double y) {
-      const auto* item = job.at(1, x, edge + y);
-      return item ? item->text : "-";
+  for (const double edge : {upper, lower}) {
+    const auto inCell = [&](int number, double inset) {
+      const auto* item = job.at(1, 1.79 + number * cell + inset, edge + 16.9 * row);
+      return item ? item->text : " ";
     };
-    EXPECT_EQ(label(0.68, 0.10), "(별지 제11호 서식)");
-    EXPECT_EQ(label(1.50, 0.49), "세  금  계  산  서");
-    EXPECT_EQ(label(3.94, 0.53), marks[copy]);
-    EXPECT_EQ(label(5.30, 0.66), "일련번호");
-    EXPECT_EQ(label(0.71, 2.14), "자");
-    EXPECT_EQ(label(0.88, 1.53), "(법인명)");
-    EXPECT_EQ(label(3.93, 1.68), "받");
-    EXPECT_EQ(label(6.02, 2.25), "목");
-    EXPECT_EQ(label(1.79, 2.62), "공란수백십억천백십만천백십일십억천백십만천백십일");
-    EXPECT_EQ(label(3.38, 2.42), "세    액");
-    EXPECT_EQ(label(1.65, 3.12), "품    목   -   규    격");
-    EXPECT_EQ(label(5.12, 4.57), "외상미수금");
-    EXPECT_EQ(label(6.20, 4.72), "이 금액을        함");
-    const double y = 16.9 * row;
-    EXPECT_EQ(label(1.79 + cell, y), "6");
-    for (int digit = 0; digit < 5; ++digit)
-      EXPECT_EQ(label(1.79 + (3 + 6 + digit) * cell + indent, y), QString("54545").mid(digit, 1));
-    EXPECT_EQ(label(1.79 + (3 + 5) * cell + indent, y), "-") << "an empty cell";
-    EXPECT_EQ(label(1.79 + 23 * cell + indent, y), "5") << "the tax's last digit";
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 2 + 12), "03");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 20.3, 2 + 15), "02");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 8.2, 2 + 19), "해온가스");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 3.9, 2 + 82), "2603-001");
-    EXPECT_EQ(at(job, 1, 1.5 + 35.07 * copy + 28.6, 100), "청구");
+    QString digits = inCell(1, 0);  // of the empty cells
+    for (int number = 3; number < 24; ++number) digits += inCell(number, indent);
+    EXPECT_EQ(digits,
+              "6"
+              "      54545"
+              "      5455");
+    EXPECT_TRUE(hasBox(job, edge, 0.68, 0.85, 7.5, 5.0));
+    for (int number = 3; number <= 24; ++number) {
+      const bool begins = number == 14 || number == 24;
+      const double x = 1.79 + number * cell;
+      EXPECT_TRUE(hasLine(job, x, edge + (begins ? 2.38 : 2.58), x, edge + 3.05)) << "cell " << number;
+    }
+    expectTexts(job, 1, edge / row, 2,
+                {{3.9, 82, "2603-001"},
+                 {6.3, 30, "123-45-67891"},
+                 {6.3, 67, "220-81-62517"},
+                 {8.2, 19, "해온가스"},
+                 {8.2, 48, "홍길동"},
+                 {8.2, 72, "한라식당"},
+                 {8.2, 96, "김하나"},
+                 {10.8, 19, "서울 중구 1"},
+                 {12.9, 19, "소매"},
+                 {16.9, 11, "2026"},
+                 {16.9, 17, "03"},
+                 {16.9, 22, "31"},
+                 {20.3, 12, "03"},
+                 {20.3, 15, "02"},
+                 {28.6, 12, "*********60,000"},
+                 {28.6, 98, "청구"}});  // in the form's sentence, whatever the margin
     const auto* title = job.at(1, 1.50, edge + 0.49);
-    ASSERT_TRUE(title);
-    EXPECT_EQ(title->font.family, "돋움체");
-    EXPECT_EQ(title->ink.blue, copy == 0 ? 200 : 0);
-    EXPECT_EQ(job.at(1, 21 * column, (1.5 + 35.07 * copy + 8.2) * row)->ink.blue, 0) << "texts are black";
+    EXPECT_EQ(title->ink.blue, edge == upper ? 200 : 0);
+    EXPECT_EQ(title->ink.red, edge == upper ? 0 : 200);
+    EXPECT_EQ(job.at(1, 21 * column, edge + 8.2 * row)->ink.blue, 0) << "texts are black";
   }
   const auto half = std::ranges::find_if(job.items, [](const auto& item) { return item.dashed; });
   ASSERT_NE(half, job.items.end());
@@ -543,19 +633,33 @@ TEST_F(Taxes, WithoutTaxNothingStandsWhereItWouldAndTheDotPrinterDrawsNothing) {
   ask.vat = Vat::None;
   desk.gather(ask);
   desk.ticks().setAll(true);
-  const auto& job = print(desk.papers(ask, "2603001", {.layout = TaxLayout::HalfA4, .withoutTax = true}));
+  const auto& job =
+      print(desk.papers(ask, "2603001", {.layout = DocumentLayout::HalfA4, .withoutTax = true}));
   EXPECT_EQ(at(job, 1, 1.5 + 16.9, 53), "-");
   EXPECT_EQ(at(job, 1, 1.5 + 20.3, 88), "-");
   EXPECT_EQ(at(job, 1, 1.5 + 20.3, 20), "LPG 외");
   EXPECT_EQ(at(job, 1, 1.5 + 20.3, 52), "-") << "several lines have no one quantity";
-  const auto& dot = print(desk.papers(ask, "2603001", {.layout = TaxLayout::Dot}));
-  EXPECT_EQ(dot.paper.height, 11);
-  EXPECT_EQ(at(dot, 1, 1.5 + 3.9, 82), "2603-001");
-  EXPECT_EQ(at(dot, 1, 1.5 + 8.2, 19), "해온가스");
-  EXPECT_EQ(at(dot, 1, 1.5 + 33 + 22.1, 22), "=== 이하 여백 ===");
-  EXPECT_EQ(std::ranges::count_if(dot.items,
-                                  [](const auto& item) { return item.kind != tests::PrintedItem::Text; }),
-            0);
+  for (const DocumentLayout layout : {DocumentLayout::HalfA4B, DocumentLayout::Dot}) {
+    const bool dot = layout == DocumentLayout::Dot;
+    const auto& other = print(desk.papers(ask, "2603001", {.layout = layout}));
+    EXPECT_EQ(other.paper.height, dot ? 11 : 11.69);
+    EXPECT_TRUE(isTextAlone(other));
+    for (const double top : {1.5, 1.5 + (dot ? 33 : 35.07)})
+      expectTexts(other, 1, top, 0,
+                  {{3.9, 82, "2603-001"},
+                   {6.3, 67, "220-81-62517"},
+                   {8.2, 19, "해온가스"},
+                   {8.2, 72, "한라식당"},
+                   {10.8, 19, "서울 중구 1"},
+                   {12.9, 19, "소매"},
+                   {16.9, 26, "6"},
+                   {22.1, 22, "=== 이하 여백 ==="},
+                   {28.6, 12, "*********61,000"},
+                   {28.6, 100, "청구"}});
+  }
+  const auto& bare = print(desk.papers(ask, "2603001", {.drawnForm = false}));
+  EXPECT_TRUE(isTextAlone(bare));
+  EXPECT_EQ(at(bare, 1, 1.5 + 3.9, 2 + 82), "2603-001") << "the whole sheet without its form";
 }
 
 TEST_F(Taxes, NothingIsIssuedWithoutACompanyAndARefusalStandsInTheRegister) {
@@ -563,12 +667,12 @@ TEST_F(Taxes, NothingIsIssuedWithoutACompanyAndARefusalStandsInTheRegister) {
   TaxDesk desk(session);
   desk.gather(month());
   pc.prompts.expect("발행할 거래내역을 선택하세요.");
-  EXPECT_FALSE(desk.mayPrint(printers.defaultName()));
+  EXPECT_FALSE(desk.hasPapers());
   desk.ticks().setAll(true);
-  EXPECT_TRUE(desk.mayPrint(printers.defaultName()));
+  EXPECT_TRUE(desk.hasPapers());
   session.dbBasic.Execute("Delete From User");
   pc.prompts.expect("사용자등록부터 하셔야 합니다");
-  EXPECT_FALSE(desk.mayPrint(printers.defaultName()));
+  EXPECT_FALSE(desk.hasPapers());
   printers.refusal = "용지 없음";
   QString serial = "2603001";
   const DocumentRun run = desk.issue(month(), serial, {});
