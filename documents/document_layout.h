@@ -60,7 +60,7 @@ struct Room {
 template <size_t Count>
 constexpr auto rowOf(double row, const Room (&rooms)[Count], const PartyText (&texts)[Count]) {
   return each<Count>(
-      [&](int place) { return at(row, rooms[place].column, texts[place]).cut(rooms[place].width); });
+      [&](int place) { return at(row, rooms[place].column, texts[place]).squeezed(rooms[place].width); });
 }
 
 /** The business numbers' row: columns of the supplier's and the buyer's. */

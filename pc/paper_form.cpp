@@ -1,5 +1,7 @@
 #include "pc/paper_form.h"
 
+#include <algorithm>
+
 #include "pc/text_width.h"
 
 namespace pc {
@@ -64,6 +66,8 @@ class Pen {
     }
     const double room = item.width * fonts_[item.font].points / 144;
     switch (item.fit) {
+      case Squeezed:
+        return putSqueezed(item, text, left, top);
       case Padded:
         return job_.text(left, top, QString(qMax(0, item.width - widthOf(text)), u' ') + text);
       case Right:
@@ -73,6 +77,19 @@ class Pen {
       default:
         return job_.text(left, top, item.width > 0 ? CutByWidth(text, item.width) : text);
     }
+  }
+
+  void putSqueezed(const PaperItem& item, const QString& text, double left, double top) {
+    constexpr double smallest = 2 / 3.0, baseline = 0.8;  // of the letters' height
+    const int wide = widthOf(text);
+    if (wide <= item.width) return job_.text(left, top, text);
+    const double share = std::max(double(item.width) / wide, smallest);
+    PrintFont font = fonts_[item.font];
+    const double lost = font.points * (1 - share);
+    font.points -= lost;
+    job_.setFont(font);
+    // The smaller letters stand on the line of the others.
+    job_.text(left, top + lost / 72 * baseline, CutByWidth(text, int(item.width / share + 0.001)));
   }
 
   PrintJob& job_;

@@ -25,7 +25,7 @@ struct PaperFont {
  *  what: a member of the enumeration of the paper's texts, or a label. A text that is empty is not put. */
 struct PaperItem {
   enum class Kind : quint8 { Text, Rule, DashedRule, Box };
-  enum class Fit : quint8 { AsItIs, Padded, Right, Centred, Cells };
+  enum class Fit : quint8 { AsItIs, Padded, Right, Centred, Cells, Squeezed };
 
   template <class What>
   requires std::is_enum_v<What>
@@ -42,6 +42,8 @@ struct PaperItem {
   }
   /** No more than so many half-width characters. */
   constexpr PaperItem cut(int characters) const { return fitted(Fit::AsItIs, characters); }
+  /** The same for what must not lose its end: a longer one is written smaller, down to two thirds, before it is cut. */
+  constexpr PaperItem squeezed(int characters) const { return fitted(Fit::Squeezed, characters); }
   /** Blanks in front fill it up to so many half-width characters; for fonts of one width. */
   constexpr PaperItem padded(int characters) const { return fitted(Fit::Padded, characters); }
   /** Its right edge stands so many half-width characters of its font behind the place, whatever the font. */

@@ -45,7 +45,7 @@ constexpr std::array cells{
 
 constexpr std::array line{at(itemRow, 12, Line::Month),
                           at(itemRow, 15, Line::Day),
-                          at(itemRow, 20, Line::Item).cut(29),
+                          at(itemRow, 20, Line::Item).squeezed(29),
                           at(itemRow, 22, Line::Rest),
                           at(itemRow, 52, Line::Quantity).padded(7),
                           at(itemRow, 62, Line::Price).padded(9),

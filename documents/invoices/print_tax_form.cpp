@@ -14,7 +14,7 @@ constexpr auto words = joined(
     std::array{form.label(0.68, 0.10, u"(별지 제11호 서식)"),
                form.label(1.50, 0.49, u"세  금  계  산  서").in(title),
                pc::inches(3.94, form.edge + 0.53, TaxFormText::CopyLabel), form.label(6.48, 0.42, u"권"),
-               form.label(7.21, 0.42, u"호"), form.label(5.30, 0.43, u"책 번 호"),
+               form.label(7.21, 0.42, u"호"), form.label(5.30, 0.43, u"책 번 호").in(fine),
                form.label(5.30, 0.66, u"일련번호").in(fine)},
     form.stack(0.71, {1.02, 1.58, 2.14}, {u"공", u"급", u"자"}),
     form.stack(0.91, {0.94, 1.14, 1.34}, {u"등록", u"번호", u"상호"}),

@@ -32,9 +32,9 @@ FrmNewTrader::FrmNewTrader(Session& session, Pickers& pickers, bool customer, QW
       helped(fields.combo("cboVAT", "부가세", codes), "부가세 계산방법. 0:계산안함  1:단가/1.1  2:단가*0.1");
   charge_ = helped(fields.text("txtCharge", "담당자", 14, 6), "코드나 이름으로 담당자를 검색하세요.");
   serial_ = helped(fields.text("txtSerial", "사업/주민번호", 18, 14), "사업/주민번호를 입력하세요.");
+  fields.newRow();
   status_ = helped(fields.text("txtStatus", "업태", 20, 30), "업태를 입력하세요.");
   item_ = helped(fields.text("txtItem", "종목", 20, 30), "종목을 입력하세요.");
-  fields.newRow();
   address_ = helped(fields.text("txtAddr1", "주소", 0, 100, 2),
                     "읍/면/동 입력 후 Enter로 검색. [전체검색 : PageDown]");
   lot_ = helped(fields.text("txtAddr2", "번지", 0, 100, 2), "번지를 입력하세요.");

@@ -18,9 +18,9 @@ constexpr auto places =
                       at(top + 24, 88, PageTotal), at(top + 24, 92, Total), at(top + 25, 60, BeforeLabelled),
                       at(top + 25, 80, AfterLabelled)});
 
-constexpr std::array line{at(top + 9, 1, Line::DatedItem).cut(38), at(top + 9, 40, Line::Quantity).padded(9),
-                          at(top + 9, 50, Line::Price).padded(14), at(top + 9, 65, Line::Supply).padded(13),
-                          at(top + 9, 79, Line::Tax).padded(10)};
+constexpr std::array line{at(top + 9, 1, Line::DatedItem).squeezed(38),
+                          at(top + 9, 40, Line::Quantity).padded(9), at(top + 9, 50, Line::Price).padded(14),
+                          at(top + 9, 65, Line::Supply).padded(13), at(top + 9, 79, Line::Tax).padded(10)};
 
 }  // namespace dot
 

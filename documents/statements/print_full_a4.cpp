@@ -20,8 +20,8 @@ constexpr auto places = joined(
                at(owed, 80, Before).padded(18), at(top + 31.3, 65, MoreBehind)});
 
 constexpr std::array line{at(first, 13, Line::Date),
-                          at(first, 24, Line::Item).cut(24),
-                          at(first, 13, Line::ItemAlone).cut(37),
+                          at(first, 24, Line::Item).squeezed(24),
+                          at(first, 13, Line::ItemAlone).squeezed(37),
                           at(first, 59, Line::Quantity).padded(11),
                           at(first, 74, Line::Price).padded(11),
                           at(first, 87, Line::Amount).padded(12)};

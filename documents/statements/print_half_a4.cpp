@@ -18,8 +18,8 @@ constexpr auto places = joined(
 
 constexpr double first = top + 15;
 constexpr std::array line{at(first, 9, Line::Date),
-                          at(first, 23, Line::Item).cut(34),
-                          at(first, 9, Line::ItemAlone).cut(48),
+                          at(first, 23, Line::Item).squeezed(34),
+                          at(first, 9, Line::ItemAlone).squeezed(48),
                           at(first, 58, Line::Quantity).padded(11),
                           at(first, 70, Line::Price).padded(11),
                           at(first, 84, Line::Supply).padded(12),

@@ -18,8 +18,8 @@ constexpr auto places =
 
 constexpr std::array line{
     at(first, 6, Line::Date),
-    at(first, 6, Line::ItemAlone).cut(48),
-    at(first, 24, Line::Item).cut(30),
+    at(first, 6, Line::ItemAlone).squeezed(48),
+    at(first, 24, Line::Item).squeezed(30),
     at(first, 55, Line::Quantity).padded(11),
     at(first, 67, Line::Price).padded(12),
     at(first, 81, Line::Amount).padded(12),

@@ -522,8 +522,7 @@ TEST_F(DocumentForms, APostcodeIsSearchedAndFoundInWhatIsLoaded) {
     find("없는동");
     find("70001");
     EXPECT_EQ(grid->model().text(1, 1), "700-010");
-    grid->setFocus();
-    QTest::keyClick(grid, Qt::Key_Return);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   });
   const auto chosen = FrmPost(session, {}, nullptr);
   ASSERT_TRUE(chosen);

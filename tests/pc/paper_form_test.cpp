@@ -76,6 +76,17 @@ TEST_F(PaperFormTest, ATextFitsItsRoom) {
                                    "175 300 1", "200 300 ,", "225 300 5", "250 300 0", "275 300 0"}));
 }
 
+TEST_F(PaperFormTest, ALongTextIsWrittenSmallerBeforeItIsCut) {
+  constexpr PaperItem items[] = {at(0, 0, Head::Name).squeezed(8), at(1, 0, Head::Name).squeezed(6),
+                                 at(2, 0, Head::Name).squeezed(3)};
+  draw(items);
+  // Eight half-width characters: at three quarters of ten points six have the room, at two thirds four have that of three.
+  EXPECT_EQ(places(), (QStringList{"0 0 가람상사", "0 19 가람상사", "0 37 가람"}));
+  EXPECT_EQ(record().items[0].font.points, 10);
+  EXPECT_EQ(record().items[1].font.points, 7.5);
+  EXPECT_NEAR(record().items[2].font.points, 6.667, 0.001);
+}
+
 TEST_F(PaperFormTest, LinesGoDownAndCopiesAsideAndDown) {
   constexpr PaperItem head[] = {{0, 0, Head::Name}};
   constexpr PaperItem line[] = {{2, 0, Row::Item}, {2, 10, Row::Price}};
