@@ -7,12 +7,6 @@
 
 namespace tests {
 
-/** A text at a row and column of the papers' grid. */
-struct Put {
-  double row, column;
-  QString text;
-};
-
 /** Words of a drawn form, parted by "|", at one x and their ys or the other way round. */
 struct Words {
   const char* words;
@@ -44,11 +38,14 @@ struct DocumentDesk : testing::Test {
     const auto* item = job.at(page, x * column, y * row);
     return item ? item->text : "-";
   }
-  /** Each text at its row and column, counted from a place of the sheet; "-" nothing. */
-  void expectTexts(const RecordedJob& job, int page, double top, double left, const std::vector<Put>& texts) {
-    for (const Put& each : texts)
-      EXPECT_EQ(at(job, page, top + each.row, left + each.column), each.text)
-          << "row " << each.row << ", column " << each.column;
+  /** Texts at their rows and columns, counted from a place of the sheet; "-" nothing. A line a row of the paper:
+   *  "5: 20=123-45-67891|63=2208162517". */
+  void expectTexts(const RecordedJob& job, int page, double top, double left, const QString& table) {
+    for (const QString& line : table.trimmed().split('\n'))
+      for (const QString& each : line.section(':', 1).split('|')) {
+        const double y = line.section(':', 0, 0).toDouble(), x = each.section('=', 0, 0).toDouble();
+        EXPECT_EQ(at(job, page, top + y, left + x), each.section('=', 1)) << "row " << y << ", column " << x;
+      }
   }
   /** The words at their inches below each copy's edge; besides them the form has a mark on each copy and no other. */
   void expectWords(const RecordedJob& job, const std::vector<double>& edges,
