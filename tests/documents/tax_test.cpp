@@ -458,6 +458,9 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
             "20260330|1234567891|2208162517|한라식당|15000|1500|01");
   EXPECT_EQ(rowOf("일자1|품목3|공급가액3|품목4|공급가액4|세액4"), "15|품목3|3000|품목4 외 1건|9000|900");
   EXPECT_EQ(sheet.MaxCols(), 22 + 4 * 8 + 5);
+  int numbers = 0;
+  for (int col = 1; col <= sheet.MaxCols(); ++col) numbers += sheet.column(col).kind == CellKind::Money;
+  EXPECT_EQ(numbers, 2 + 4 * 4 + 4) << "every amount, quantity and price is a number";
 }
 
 TEST_F(Taxes, TheFormsChoiceOverATypedInvoiceIsKeptLineByLine) {
