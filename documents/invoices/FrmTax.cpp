@@ -9,6 +9,8 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 #include "documents/invoices/tax_bulk.h"
 #include "ui/grid/excel_export.h"
 
@@ -54,8 +56,9 @@ FrmTax::FrmTax(FormContext& context, QWidget* parent)
 }
 
 void FrmTax::showPage(const QString& mode) {
+  const bool isJustMade = std::exchange(isJustMade_, false);  // and has gathered
   // What was typed on the open form and is not issued yet stays.
-  if (isTyped() && mode == "1") return;
+  if (mode == "1" ? isTyped() : isJustMade) return;
   guard([&] {
     if (mayDropTyped()) Open(mode == "1" ? 1 : 0, {}, {});
   });

@@ -44,6 +44,7 @@ class FrmTax : public DocumentForm {
 
   TaxDesk desk_;
   int mode_ = 0;
+  bool isJustMade_ = true;
   QRadioButton *gathering_[3], *vat_[3], *receipt_, *charge_;
   QCheckBox *freeOfTax_, *all_, *form_;
   QPushButton* gatherButton_;
