@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include "pc/cp949.h"
 #include "store/jet/error_texts.h"
 
 using namespace Qt::StringLiterals;
@@ -35,8 +36,7 @@ QString singleText(const QString& printed) {
   return numberText(value);
 }
 
-OldValue fieldOf(OldType type, const QByteArray& bytes) {
-  const QString text = QString::fromUtf8(bytes);
+OldValue fieldOf(OldType type, const QString& text) {
   switch (type) {
     case OldType::YesNo:
       return text == "0"_L1 ? u"0"_s : u"-1"_s;
@@ -73,9 +73,10 @@ OldType typeOf(int number) {
       return OldType::Moment;
     case 10:
     case 12:  // memo
+    case 15:  // a replication's number
       return OldType::Text;
     default:
-      return OldType::Other;
+      return OldType::Object;
   }
 }
 
@@ -119,7 +120,9 @@ JetFile::JetFile(const QString& nativePath) : path_(nativePath) {
 QByteArray JetFile::run(const QStringList& arguments) const {
   QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(u"MDB_JET3_CHARSET"_s, u"CP949"_s);  // Jet 4 holds Unicode
+  // Jet 4 holds Unicode. A Jet 3 text is handed over byte by byte: the library's own way through code page 949 makes a
+  // question mark of whatever it does not know, in silence.
+  environment.insert(u"MDB_JET3_CHARSET"_s, u"ISO-8859-1"_s);
   environment.insert(u"MDBICONV"_s, u"UTF-8"_s);
   environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
   process.setProcessEnvironment(environment);
@@ -143,21 +146,33 @@ QByteArray JetFile::run(const QStringList& arguments) const {
   return out;
 }
 
+/** The file's own bytes of a text that the reading program has told as UTF-8. */
+QByteArray JetFile::bytesOf(const QByteArray& told) const {
+  return version_ == 3 ? QString::fromUtf8(told).toLatin1() : told;
+}
+
+QString JetFile::textOf(const QByteArray& told) const {
+  return version_ == 3 ? pc::fromCp949(bytesOf(told)) : QString::fromUtf8(told);
+}
+
 std::vector<OldTable> JetFile::tables() const {
   std::vector<OldTable> tables;
-  for (const QString& line : QString::fromUtf8(run({path_})).split(u'\n', Qt::SkipEmptyParts)) {
-    const QString name = line.section(u'\t', 2);
-    const qint64 number = line.section(u'\t', 1, 1).toLongLong();
-    if (line.startsWith(u'T'))
-      tables.push_back({name, {}, number});
+  for (const QByteArray& line : run({path_}).split('\n')) {
+    const QList<QByteArray> parts = line.split('\t');
+    if (parts.size() < 3) continue;
+    const QByteArray key = line.sliced(parts[0].size() + parts[1].size() + 2);
+    const QString name = textOf(key);
+    const qint64 number = parts[1].toLongLong();
+    if (line.startsWith('T'))
+      tables.push_back({name, {}, number, QString::fromUtf8(key)});
     else if (!tables.empty())
       tables.back().columns.push_back({name, typeOf(int(number))});
   }
   return tables;
 }
 
-std::vector<OldRow> JetFile::rows(const OldTable& table) const {
-  const QByteArray told = run({path_, table.name});
+std::vector<OldRow> JetFile::rows(const OldTable& table, QStringList& broken) const {
+  const QByteArray told = run({path_, table.key});
   std::vector<OldRow> rows;
   OldRow row;
   for (qsizetype at = 0; at < told.size();) {
@@ -167,8 +182,13 @@ std::vector<OldRow> JetFile::rows(const OldTable& table) const {
     const qsizetype size = length.toLongLong();
     at = colon + 1;
     if (at + size > told.size()) failTorn(path_, table.name);
-    row.push_back(length == "-" ? std::nullopt
-                                : fieldOf(table.columns[row.size()].type, told.sliced(at, size)));
+    const OldColumn& column = table.columns[row.size()];
+    const QByteArray field = told.sliced(at, size);
+    const QString text = textOf(field);
+    if (text.contains(QChar::ReplacementCharacter))
+      broken << column.name + u": "_s + text + u" ("_s + QString::fromLatin1(bytesOf(field).toHex(' ')) +
+                    u')';
+    row.push_back(length == "-" ? std::nullopt : fieldOf(column.type, text));
     at += size;
     if (row.size() < table.columns.size()) continue;
     rows.push_back(std::move(row));

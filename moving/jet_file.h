@@ -10,7 +10,15 @@
 
 namespace moving {
 
-enum class OldType { Text, Whole, Single, Real, YesNo, Moment, Other };
+enum class OldType {
+  Text,
+  Whole,
+  Single,
+  Real,
+  YesNo,
+  Moment,
+  Object,  ///< a picture or another program's; a value is only "*"
+};
 
 struct OldColumn {
   QString name;
@@ -20,7 +28,8 @@ struct OldColumn {
 struct OldTable {
   QString name;
   std::vector<OldColumn> columns;
-  qint64 rows = 0;  ///< as the file's own table definition counts them; 0 also where it was not closed well
+  qint64 rows = 0;   ///< as the file's own table definition counts them; 0 also where it was not closed well
+  QString key = {};  ///< by which the reading program knows it
 };
 
 /** A field as text; nothing is Null. Numbers are plain decimals, yes/no is "-1" or "0", a moment "2026-03-16" with its
@@ -41,11 +50,14 @@ class JetFile {
   int version() const { return version_; }  ///< 3 or 4
   /** The file's own tables, without links and the format's own. Throws jet::Error 3049. */
   std::vector<OldTable> tables() const;
-  /** All rows of a table in the file's order. Throws jet::Error 3049 where some cannot be read. */
-  std::vector<OldRow> rows(const OldTable& table) const;
+  /** All rows of a table in the file's order. broken: gets a line for each text that holds bytes of no character, with
+   *  the bytes; U+FFFD stands in the text there. Throws jet::Error 3049 where some rows cannot be read. */
+  std::vector<OldRow> rows(const OldTable& table, QStringList& broken) const;
 
  private:
   QByteArray run(const QStringList& arguments) const;
+  QByteArray bytesOf(const QByteArray& told) const;
+  QString textOf(const QByteArray& told) const;
 
   QString path_;
   int version_ = 0;

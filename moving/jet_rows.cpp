@@ -18,7 +18,8 @@ constexpr pc::ProgramLine programLine{
     "Tells what a data file of the older format (Jet 3 and Jet 4) holds; writes nothing.\n"
     "  FILE alone   its tables: T, rows and name; then C, type and name for every column\n"
     "  TABLE        its rows: every field as its length, a colon and so many bytes of UTF-8; a Null is "
-    "\"-:\"\n"
+    "\"-:\",\n"
+    "               an object, which is not told, \"1:*\"\n"
     "MDB_JET3_CHARSET names the code page of a Jet 3 file."};
 
 constexpr size_t longestField = 1 << 18;  // bytes
@@ -72,8 +73,10 @@ int printRows(MdbTableDef* table) {
       const auto* column = static_cast<MdbColumn*>(g_ptr_array_index(table->columns, i));
       const bool isYesNo = column->col_type == MDB_BOOL;  // never Null; the mark of Null is its value
       const char* text = lengths[i] || isYesNo ? texts[i].c_str() : "";
-      if ((nulls[i] && !isYesNo) || column->col_type == MDB_OLE)
+      if (nulls[i] && !isYesNo)
         std::fputs("-:", stdout);
+      else if (column->col_type == MDB_OLE || column->col_type == MDB_BINARY)
+        std::fputs("1:*", stdout);
       else
         std::printf("%zu:%s", std::strlen(text), text);
     }

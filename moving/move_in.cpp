@@ -1,5 +1,6 @@
 #include "moving/move_in.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -49,6 +50,7 @@ class Run {
 
   void bringFiles() {
     const QStringList names = filesOf(from_);
+    const QList<Stamp> before = stampsOf(names);
     qint64 total = 0, done = 0;
     for (const QString& name : names) total += QFileInfo(from_ + u'/' + name).size();
     for (const QString& name : names) {
@@ -56,6 +58,9 @@ class Run {
       bringFile(name);
       done += QFileInfo(from_ + u'/' + name).size();
     }
+    if (stampsOf(names) != before)
+      throw jet::Error(3197,
+                       u"읽는 동안 이전 자료의 파일이 바뀌었습니다. 이전 프로그램을 끝내고 다시 하십시오."_s);
   }
   /** What a data folder needs besides. */
   void makeMissing() {
@@ -75,6 +80,15 @@ class Run {
   MoveReport report;
 
  private:
+  using Stamp = std::pair<qint64, QDateTime>;
+  QList<Stamp> stampsOf(const QStringList& names) const {
+    QList<Stamp> stamps;
+    for (const QString& name : names) {
+      const QFileInfo file(from_ + u'/' + name);
+      stamps.push_back({file.size(), file.lastModified()});
+    }
+    return stamps;
+  }
   void bringFile(const QString& name) {
     const auto kind = kindOfFile(name);
     if (!kind) {
@@ -111,7 +125,10 @@ class Run {
         continue;
       }
       known << found->name;
-      bringTable(name, file, ours, *found, old.rows(*found));
+      QStringList broken;
+      bringTable(name, file, ours, *found, old.rows(*found, broken));
+      for (const QString& value : broken)
+        report.warnings << u"%1의 표 %2, 글자가 깨진 값 "_s.arg(name, ours.name) + value;
     }
     for (const OldTable& table : tables)
       if (!known.contains(table.name))
@@ -125,7 +142,14 @@ class Run {
     report.tables.push_back({name, ours.name, qint64(rows.size()), fitted.notes});
     for (const QString& column : fitted.unknownColumns)
       report.unknown << u"%1의 표 %2의 칸 %3"_s.arg(name, ours.name, column);
-    if (isSame(name, basicName) && ours.name == u"Client") customers_ = codesOf(fitted, u"Code"_s);
+    for (const QString& row : fitted.renumbered)
+      report.warnings << u"%1의 표 %2, 겹치거나 빈 자동번호를 바꿈: "_s.arg(name, ours.name) + row;
+    if (isSame(name, basicName) && ours.name == u"Client") {
+      customers_ = codesOf(fitted, u"Code"_s);
+      if (!fitted.renumbered.isEmpty())
+        report.warnings
+            << u"번호가 바뀐 고객의 판매와 검침은 그 번호를 먼저 쓴 고객에 붙어 있습니다. 누구의 것인지 확인하십시오."_s;
+    }
     if (ours.name == u"Sale") tellOrphans(name, fitted);
   }
   static QList<qint64> codesOf(const FittedTable& fitted, const QString& field) {
@@ -245,6 +269,12 @@ QString placeOf(const Session& session, const QString& nativeFolder) {
 
 MoveReport moveIn(Session& session, const QString& nativeFolder, const backup::Tell& tell) {
   if (!QFileInfo(nativeFolder).isDir()) throw jet::errorOf(3044, nativeFolder);
+  // Before our own marks of who is in come to lie there.
+  const QStringList marks =
+      QDir(nativeFolder).entryList({u"*.ldb"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase);
+  // One that cannot be looked into would pass for a file of another format, and be left out.
+  for (const QString& name : filesOf(nativeFolder))
+    if (!QFile(nativeFolder + u'/' + name).open(QIODevice::ReadOnly)) throw jet::errorOf(3051, name);
   const QString target = placeOf(session, nativeFolder);
   if (target.isEmpty())
     throw jet::Error(3024, nativeFolder + u"\n이 폴더에는 이전 형식의 Basic.mdb 가 없습니다."_s);
@@ -254,6 +284,9 @@ MoveReport moveIn(Session& session, const QString& nativeFolder, const backup::T
   beginPreparing(paths, target, session.pc.clock.now());
   try {
     Run run(session, QDir::cleanPath(nativeFolder), target, tell);
+    for (const QString& mark : marks)
+      run.report.warnings
+          << mark + u": 이전 프로그램이 켜져 있을 때 생기는 파일. 켜져 있었다면 끝내고 다시 가져오십시오."_s;
     run.bringFiles();
     run.makeMissing();
     run.checkFiles();

@@ -14,7 +14,6 @@ namespace moving {
 namespace {
 
 constexpr int longestText = 255;
-constexpr int shownValues = 20;  // of a column's values that have no place in it
 
 bool isWholeNumber(double value) {
   return value == std::floor(value) && value >= std::numeric_limits<qint32>::min() &&
@@ -31,6 +30,15 @@ std::optional<double> numberOf(const QString& text) {
 bool isTrue(const QString& text) {
   const auto number = numberOf(text);
   return number ? *number != 0 : text.compare(u"true"_s, Qt::CaseInsensitive) == 0;
+}
+
+/** How many values a column holds. */
+QString heldIn(const std::vector<OldRow>& rows, int column) {
+  const auto values = std::ranges::count_if(rows, [column](const OldRow& row) {
+    const OldValue& value = row[size_t(column)];
+    return value && !value->isEmpty();
+  });
+  return u" (값 %1개)"_s.arg(values);
 }
 
 /** A column of ours made wide enough for the old values. */
@@ -88,6 +96,37 @@ QString keyText(const jet::Value& value) {
   return text;
 }
 
+/** The first text of a row, by which the operator knows it. */
+QString nameOf(const FittedTable& fitted, const std::vector<jet::Value>& row) {
+  for (size_t at = 0; at < row.size(); ++at)
+    if (fitted.table.fields[at].type == jet::Type::Text && !row[at].toText().isEmpty())
+      return row[at].toText();
+  return {};
+}
+
+/** A number that the store itself hands out names one row: one that is missing or stood before gets the next free. */
+void renumber(FittedTable& fitted) {
+  for (size_t at = 0; at < fitted.table.fields.size(); ++at) {
+    if (!fitted.table.fields[at].autonumber || fitted.from[at] < 0) continue;
+    QSet<qint64> all, seen;
+    for (const auto& row : fitted.rows) all << row[at].toLong();
+    qint64 next = 1;
+    for (auto& row : fitted.rows) {
+      const jet::Value old = row[at];
+      if (!old.isNull() && !seen.contains(old.toLong())) {
+        seen << old.toLong();
+        continue;
+      }
+      while (all.contains(next)) ++next;
+      all << next;
+      row[at] = jet::Value(next);
+      fitted.renumbered << u"%1 %2 → %3 (%4)"_s.arg(fitted.table.fields[at].name,
+                                                    old.isNull() ? u"없음"_s : old.toText(),
+                                                    QString::number(next), nameOf(fitted, row));
+    }
+  }
+}
+
 /** An old table need not have kept the keys of ours: one that does not fit becomes a plain index. */
 void loosenKeys(FittedTable& fitted) {
   const auto fieldAt = [&](const QString& name) {
@@ -101,7 +140,6 @@ void loosenKeys(FittedTable& fitted) {
     for (const QString& name : index.fields) places.push_back(fieldAt(name));
     QSet<QStringList> seen;
     qint64 twice = 0;
-    QStringList which;
     for (const auto& row : fitted.rows) {
       QStringList key;
       bool isNull = false;
@@ -109,19 +147,10 @@ void loosenKeys(FittedTable& fitted) {
         isNull |= row[place].isNull();
         key << keyText(row[place]);
       }
-      if (seen.contains(key) || (isNull && index.primary)) {
-        ++twice;
-        which = key;
-      }
+      twice += seen.contains(key) || (isNull && index.primary);
       seen.insert(key);
     }
     if (twice == 0) continue;
-    // A number the store itself hands out: which of two rows the other tables mean, nobody can tell.
-    if (fitted.table.fields[places.front()].autonumber)
-      throw jet::Error(
-          3022,
-          u"%1의 자동번호 %2이(가) 겹치거나 비어 있어 가져올 수 없습니다. (%3)\n이전 프로그램에서 그 줄을 "
-          u"바로잡은 뒤 다시 하십시오."_s.arg(fitted.table.name, index.fields.first(), which.join(u", "_s)));
     index.primary = index.unique = false;
     fitted.notes << u"열쇠(%1)가 겹치거나 빈 줄 %2개: 모두 가져왔으나 겹침을 막지 않는 칸이 됨"_s
                         .arg(index.fields.join(u", "_s))
@@ -179,7 +208,7 @@ void compare(const jet::Database& file, const FittedTable& fitted) {
 }  // namespace
 
 FittedTable fit(const jet::TableDef& ours, const OldTable& old, const std::vector<OldRow>& rows) {
-  FittedTable fitted{ours, {}, {}, {}, {}};
+  FittedTable fitted{.table = ours};
   QSet<int> known;
   QStringList missing;
   for (jet::Field& field : fitted.table.fields) {
@@ -192,6 +221,11 @@ FittedTable fit(const jet::TableDef& ours, const OldTable& old, const std::vecto
       continue;
     }
     known << column;
+    if (old.columns[size_t(column)].type == OldType::Object) {
+      fitted.from.back() = -1;
+      fitted.notes << field.name + u": 그림이나 개체의 칸이라 가져오지 않음"_s + heldIn(rows, column);
+      continue;
+    }
     widen(field, rows, column, fitted.notes);
   }
   if (!missing.isEmpty()) fitted.notes << u"이전 파일에 없어 처음 값으로 둔 칸: "_s + missing.join(u", "_s);
@@ -206,16 +240,16 @@ FittedTable fit(const jet::TableDef& ours, const OldTable& old, const std::vecto
   }
   for (size_t at = 0; at < misfits.size(); ++at)
     if (!misfits[at].isEmpty())
-      fitted.notes
-          << u"%1: 숫자가 아니어서 비워 둔 값 %2개 (%3)"_s.arg(fitted.table.fields[at].name)
-                 .arg(misfits[at].size())
-                 .arg(misfits[at].first(std::min<qsizetype>(shownValues, misfits[at].size())).join(u", "_s));
+      fitted.notes << u"%1: 숫자가 아니어서 비워 둔 값 %2개 (%3)"_s.arg(fitted.table.fields[at].name)
+                          .arg(misfits[at].size())
+                          .arg(misfits[at].join(u", "_s));
+  renumber(fitted);
   loosenKeys(fitted);
   for (size_t at = 0; at < old.columns.size(); ++at) {
     if (known.contains(int(at))) continue;
-    qint64 values = 0;
-    for (const OldRow& row : rows) values += row[at] && !row[at]->isEmpty();
-    fitted.unknownColumns << u"%1 (값 %2개)"_s.arg(old.columns[at].name).arg(values);
+    const bool isObject = old.columns[at].type == OldType::Object;
+    fitted.unknownColumns << old.columns[at].name + (isObject ? u", 그림이나 개체"_s : QString()) +
+                                 heldIn(rows, int(at));
   }
   return fitted;
 }

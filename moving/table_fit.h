@@ -9,14 +9,15 @@
 namespace moving {
 
 struct FittedTable {
-  jet::TableDef table;                        ///< ours, wide enough for every value
-  std::vector<int> from;                      ///< by field of ours: the old column, -1 where there was none
-  std::vector<std::vector<jet::Value>> rows;  ///< by field of ours that has an old column
-  QStringList notes;
-  QStringList unknownColumns;  ///< the old table's that we do not know, with how many values they hold
+  jet::TableDef table;         ///< ours, wide enough for every value
+  std::vector<int> from = {};  ///< by field of ours: the old column, -1 where there was none
+  std::vector<std::vector<jet::Value>> rows = {};  ///< by field of ours that has an old column
+  QStringList notes = {};
+  QStringList renumbered =
+      {};  ///< rows whose automatic number was missing or stood before, with their new one
+  QStringList unknownColumns = {};  ///< the old table's that we do not know, with how many values they hold
 };
 
-/** Throws jet::Error 3022 where an automatic number stands twice. */
 FittedTable fit(const jet::TableDef& ours, const OldTable& old, const std::vector<OldRow>& rows);
 
 /** Writes the rows into the new table and compares what is stored with what was read: rows, values that are not Null,

@@ -32,7 +32,7 @@ struct JetColumn {
   int size = 50;  ///< characters of a text
 };
 
-/** Values by column; an invalid one is Null. */
+/** Values by column; an invalid one is Null, a byte array stands for a text as it is. */
 struct JetTable {
   QString name;
   std::vector<JetColumn> columns;
@@ -112,6 +112,8 @@ class JetWriter {
     for (const QChar c : text) bytes += little(c.unicode());
     return bytes;
   }
+  /** Bytes go into the file as they are. */
+  static bool isRaw(const QVariant& value) { return value.typeId() == QMetaType::QByteArray; }
   static bool isVariable(JetType type) { return type == JetType::Text || type == JetType::Ole; }
   static int widthOf(JetType type) {
     switch (type) {
@@ -160,7 +162,9 @@ class JetWriter {
       const bool set = value.isValid() && (type != JetType::YesNo || value.toBool());
       if (set) mask[at / 8] = char(mask[at / 8] | 1 << at % 8);
       if (isVariable(type))
-        variable.push_back(set ? textBytes(value.toString()) : QByteArray());
+        variable.push_back(!set           ? QByteArray()
+                           : isRaw(value) ? value.toByteArray()
+                                          : textBytes(value.toString()));
       else
         row += set ? fixedBytes(type, value) : QByteArray(widthOf(type), '\0');
     }

@@ -2,6 +2,7 @@
 #include "moving/move_in.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include <QDirIterator>
 #include <QRandomGenerator>
@@ -10,6 +11,7 @@
 #include "moving/jet_file.h"
 #include "moving/table_fit.h"
 #include "store/schema_shape.h"
+#include "tests/answers.h"
 #include "tests/moving/jet_writer.h"
 #include "tests/support.h"
 
@@ -94,14 +96,7 @@ struct MoveIn : testing::Test, TestPc {
   /** Rows of one of the new files, fields apart by "|", Null as "-". */
   QString rows(const QString& file, const QString& sql) {
     const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    jet::Recordset rs = workspace.OpenDatabase(session.DbPath + file).OpenRecordset(sql);
-    QStringList all;
-    for (; !rs.atEnd(); rs.MoveNext()) {
-      QStringList row;
-      for (int at = 0; at < rs.fieldNames().size(); ++at) row << (rs[at].isNull() ? u"-"_s : rs[at].toText());
-      all << row.join(u'|');
-    }
-    return all.join(u'\n');
+    return linesOf(workspace.OpenDatabase(session.DbPath + file), sql, u"-"_s).join(u'\n');
   }
 };
 
@@ -169,13 +164,76 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   EXPECT_TRUE(text.contains(u"PayState: 숫자가 아니어서 비워 둔 값 1개 (반올림)"_s)) << text.toStdString();
 }
 
-TEST_F(MoveIn, AnAutomaticNumberThatStandsTwiceIsTold) {
+TEST_F(MoveIn, AnAutomaticNumberThatStandsTwiceOrNowhereGetsTheNextFreeOne) {
   put(u"Basic.mdb"_s, {clients({{5, u"가"_s, 0.0, false, 0, null, null, null},
-                                {5, u"나"_s, 0.0, false, 0, null, null, null}})});
-  const auto [number, text] = failure();
-  EXPECT_EQ(number, 3022);
-  EXPECT_TRUE(text.contains(u"Client의 자동번호 Code이(가) 겹치거나 비어 있어"_s)) << text.toStdString();
+                                {5, u"나"_s, 0.0, false, 0, null, null, null},
+                                {1, u"다"_s, 0.0, false, 0, null, null, null},
+                                {null, u"라"_s, 0.0, false, 0, null, null, null}})});
+  put(u"2026Foundation.mdb"_s, {sales({{9, u"2026-03-02"_s, 5, u"LPG"_s, u"20"_s, 2.0f, 41000, 1, 0.0},
+                                       {9, u"2026-03-03"_s, 5, u"LPG"_s, u"50"_s, 1.0f, 90000, 1, 0.0}})});
+  const moving::MoveReport report = bring();
+  EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select Code, Name From Client Order By Name"_s), "5|가\n2|나\n1|다\n3|라");
+  EXPECT_EQ(rows(u"2026Foundation.mdb"_s, u"Select SaleID, SaleThing From Sale Order By SaleThing"_s),
+            "9|20\n1|50");
+  EXPECT_THAT(
+      report.warnings,
+      testing::UnorderedElementsAre(
+          u"Basic.mdb의 표 Client, 겹치거나 빈 자동번호를 바꿈: Code 5 → 2 (나)"_s,
+          u"Basic.mdb의 표 Client, 겹치거나 빈 자동번호를 바꿈: Code 없음 → 3 (라)"_s,
+          testing::Property(&QString::toStdString, testing::HasSubstr("먼저 쓴 고객에 붙어 있습니다")),
+          u"2026Foundation.mdb의 표 Sale, 겹치거나 빈 자동번호를 바꿈: SaleID 9 → 1 (2026-03-03)"_s));
+}
+
+TEST_F(MoveIn, ObjectsAndBrokenLettersAreNamed) {
+  // 김 is B1 E8; half of it is no letter, FF never is one, and C9 A1 is the user's own area.
+  JetTable table{
+      u"Client"_s,
+      {{u"Code"_s, JetType::Long}, {u"Name"_s}, {u"사진"_s, JetType::Ole}, {u"Tel"_s, JetType::Ole}},
+      {{1, QByteArray("\xB1\xE8\xB1"), QByteArray(12, 'x'), QByteArray(12, 'y')},
+       {2, QByteArray("\xC9\xA1\xFF A"), null, null},
+       {3, u"똠방"_s, QByteArray(12, 'x'), null}}};
+  put(u"Basic.mdb"_s, {table}, 3);
+  const moving::MoveReport report = bring();
+  EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select Code, Name, Tel From Client Order By Code"_s),
+            u"1|김\uFFFD|-\n2|\uE000\uFFFD A|-\n3|똠방|-"_s);
+  EXPECT_THAT(report.warnings,
+              testing::UnorderedElementsAre(
+                  u"Basic.mdb의 표 Client, 글자가 깨진 값 Name: 김\uFFFD (b1 e8 b1)"_s,
+                  u"Basic.mdb의 표 Client, 글자가 깨진 값 Name: \uE000\uFFFD A (c9 a1 ff 20 41)"_s));
+  EXPECT_THAT(report.unknown,
+              testing::Contains(u"Basic.mdb의 표 Client의 칸 사진, 그림이나 개체 (값 2개)"_s));
+  EXPECT_TRUE(report.text().contains(u"Tel: 그림이나 개체의 칸이라 가져오지 않음 (값 1개)"_s));
+}
+
+TEST_F(MoveIn, AFileThatIsClosedToUsOrChangesMeanwhileEndsTheImport) {
+  putUsual();
+  const auto changing = [&](const QString& what, qint64, qint64) {
+    if (what.contains(u"2026Foundation"_s)) put(u"Basic.mdb"_s, {clients({})});
+    return true;
+  };
+  QString told;
+  try {
+    moving::moveIn(session, oldFolder, changing);
+  } catch (const jet::Error& error) {
+    told = error.description();
+  }
+  EXPECT_TRUE(told.startsWith(u"읽는 동안 이전 자료의 파일이 바뀌었습니다."_s)) << told.toStdString();
   EXPECT_FALSE(pc.paths.exists(u"C:\\RWGas\\Dbs"_s));
+
+  putUsual();
+  put(u"Basic.ldb"_s, {});
+  const QString year = oldFolder + u"/2026Foundation.mdb"_s;
+  QFile::setPermissions(year, {});
+  QFile::setPermissions(old.path(), QFile::permissions(old.path()) | QFile::ReadGroup | QFile::ExeGroup);
+  const bool root = ::geteuid() == 0;  // whom no permission stops
+  ASSERT_EQ(root ? ::seteuid(65534) : 0, 0);
+  const auto [number, text] = failure();
+  ASSERT_EQ(root ? ::seteuid(0) : 0, 0);
+  EXPECT_EQ(number, 3051);
+  EXPECT_TRUE(text.contains(u"2026Foundation.mdb"_s)) << text.toStdString();
+  QFile::setPermissions(year, QFile::ReadOwner);
+  EXPECT_THAT(bring().warnings, testing::ElementsAre(testing::Property(&QString::toStdString,
+                                                                       testing::StartsWith("Basic.ldb: "))));
 }
 
 TEST_F(MoveIn, WhatIsStoredIsComparedWithWhatWasRead) {
@@ -186,7 +244,8 @@ TEST_F(MoveIn, WhatIsStoredIsComparedWithWhatWasRead) {
     table.name = u"T"_s;
     table.fields = {std::move(field)};
     try {
-      moving::store(workspace.CreateDatabase(place.path() + u"/x.mdb"_s), {table, {0}, {{value}}, {}, {}});
+      moving::store(workspace.CreateDatabase(place.path() + u"/x.mdb"_s),
+                    {.table = table, .from = {0}, .rows = {{value}}});
     } catch (const jet::Error& error) {
       return error.number();
     }
