@@ -56,9 +56,12 @@ QList<ShelfArchive> archivesOf(const pc::Paths& paths, const Settings& settings)
   return all;
 }
 
-void keepNewest(const pc::Paths& paths, const QString& folder, Series series, int keep) {
-  const QList<ShelfArchive> all = archivesIn(paths, folder, series);
-  for (qsizetype i = std::max(1, keep); i < all.size(); ++i) QFile::remove(paths.native(all[i].path));
+void keepNewest(const pc::Paths& paths, const QString& folder, Series series, int keep, const QString& made) {
+  QList<ShelfArchive> others = archivesIn(paths, folder, series);
+  const qsizetype spared =
+      others.removeIf([&](const ShelfArchive& archive) { return archive.path == folder + made; });
+  for (qsizetype i = std::max(1, keep) - spared; i < others.size(); ++i)
+    QFile::remove(paths.native(others[i].path));
 }
 
 }  // namespace backup

@@ -25,7 +25,9 @@ struct ShelfArchive {
 QString archiveName(Series series, const QDateTime& made);
 /** Ordinary archives of the folder and the server's folder, the newest first. */
 QList<ShelfArchive> archivesOf(const pc::Paths& paths, const Settings& settings);
-/** Deletes all archives of a series but so many newest. Files of other names stay. */
-void keepNewest(const pc::Paths& paths, const QString& folder, Series series, int keep);
+/** Deletes the oldest archives of a series until so many stay. Files of other names stay, and so does the one just made
+ *  (its name): on a PC whose clock has gone back it would be the oldest. */
+void keepNewest(const pc::Paths& paths, const QString& folder, Series series, int keep,
+                const QString& made = {});
 
 }  // namespace backup

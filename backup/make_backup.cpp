@@ -190,14 +190,15 @@ BackupDone makeBackup(const pc::Pc& pc, const QString& dataFolder, const Setting
   flushToDisk(shelf);
   result.facts = facts;
   result.bytes = QFileInfo(paths.native(result.archive)).size();
-  keepNewest(paths, settings.folder, series, settings.keep);
+  keepNewest(paths, settings.folder, series, settings.keep, archiveName(series, facts.made));
   return result;
 }
 
 void sendToServer(const pc::Pc& pc, const QString& archive, const Settings& settings, const Tell& tell) {
   if (!settings.serverFolder.isEmpty()) {
     copyToFolder(pc.paths, archive, settings.serverFolder, tell);
-    keepNewest(pc.paths, settings.serverFolder, Series::Books, settings.keep);
+    keepNewest(pc.paths, settings.serverFolder, Series::Books, settings.keep,
+               QFileInfo(pc.paths.native(archive)).fileName());
   }
   if (!settings.serverCommand.isEmpty()) runCommand(pc.paths, archive, settings.serverCommand, tell);
 }

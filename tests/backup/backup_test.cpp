@@ -138,6 +138,17 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
   const auto listed = backup::archivesOf(pc.paths, settings);
   ASSERT_EQ(listed.size(), 3);
   EXPECT_EQ(listed.first().path, second.archive);
+
+  // The PC's battery is empty: what was just made bears the oldest date, and stays.
+  pc.clock.set(QDateTime(QDate(2002, 1, 1), QTime(0, 5)));
+  settings.serverFolder = u"Z:\\백업\\"_s;
+  QDir().mkpath(native(settings.serverFolder));
+  for (const QString& name : {made[2], made[3], made[4]}) write(settings.serverFolder + name, "older");
+  const backup::BackupDone lost = make();
+  backup::sendToServer(pc, lost.archive, settings, nobody);
+  EXPECT_EQ(shelf(), (QStringList{nameOf(lost), made[3], made[4], support, u"해온판매-내것.zip"_s}));
+  EXPECT_EQ(QDir(native(settings.serverFolder)).entryList(QDir::Files, QDir::Name),
+            (QStringList{nameOf(lost), made[3], made[4]}));
   backup::keepNewest(pc.paths, settings.folder, Series::Books, 0);
   EXPECT_EQ(shelf(), (QStringList{made[4], support, u"해온판매-내것.zip"_s})) << "the newest never goes";
 }

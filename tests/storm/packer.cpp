@@ -10,7 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace storm {
-namespace {
 
 std::unique_ptr<backup::DataFolderAlone> hold(Pc& here) {
   auto held = std::make_unique<backup::DataFolderAlone>(here.pc.paths, here.session.DbPath);
@@ -18,8 +17,6 @@ std::unique_ptr<backup::DataFolderAlone> hold(Pc& here) {
   if (!busy.isEmpty()) report(u"%1 3045 %2"_s.arg(QLatin1String(word::told), busy.join(u' ')));
   return held;
 }
-
-}  // namespace
 
 int runPacker(const QStringList& arguments) {
   Pc here(arguments.at(0));

@@ -115,12 +115,12 @@ class Sweep {
     const auto wrong = [&](const QString& what) { tell(place, done, *here, what); };
     if (told) {
       checkTexts(*here, wrong);
-      const QString state = work->opensAnew() ? QString() : stateOf(root_);
+      const QString found = work->opensAnew() ? QString() : state();
       if (!work->opensAnew() && !work->hasMoreStates()) {
-        if (state == states_.at(done + 1) && state != states_.at(done))
+        if (found == states_.at(done + 1) && found != states_.at(done))
           return;  // what came behind it has failed
-        if (state != states_.at(done))
-          return wrong(u"half of it stands"_s + difference(state, states_.at(done)));
+        if (found != states_.at(done))
+          return wrong(u"half of it stands"_s + difference(found, states_.at(done)));
       }
       for (; done < work->steps().size(); ++done)
         if (!attempt(*here, *work, done)) return wrong(u"it does not go on when the disk is well"_s);
@@ -128,29 +128,31 @@ class Sweep {
     const bool mayBeQuiet = work->opensAnew() && (fault_ == DiskFault::Denied || fault_ == DiskFault::Short);
     work.reset();
     here->close();
-    if (mayBeQuiet && !told && stateOf(root_) != states_.back()) {
+    if (mayBeQuiet && !told && state() != states_.back()) {
       // A start passes over what it may not open, or takes for no data file, without a word; the next one does it.
       Pc next(root_);
       makeWork(name_, next)->steps().front()();
     }
-    if (const QString state = stateOf(root_); state != states_.back())
+    if (const QString end = state(); end != states_.back())
       wrong((told ? u"done again it is not what it should be"_s : u"it is not done, and nobody was told"_s) +
-            difference(state, states_.back()));
+            difference(end, states_.back()));
     if (name_.endsWith(u"start"_s)) return;
     if (const QStringList faults = faultsOf(root_); !faults.isEmpty()) wrong(faults.join(u"; "_s));
   }
+
+  QString state() const { return stateOf(root_) + leftBeside(name_, root_); }
 
   /** The states that there may be: before the first step and behind each. */
   void runClean() {
     folder_.layDown();
     Pc here(root_);
     auto work = makeWork(name_, here);
-    states_ = {stateOf(root_)};
+    states_ = {state()};
     for (const auto& step : work->steps()) {
       disk_.arm(root_.toUtf8().constData(), int(fault_), 0, 0);
       step();
       calls_ += disk_.rest();
-      states_ << stateOf(root_);
+      states_ << state();
     }
     notices_ = here.prompts.told;
     if (!here.prompts.failures.isEmpty())

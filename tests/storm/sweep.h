@@ -6,7 +6,8 @@
 
 namespace storm {
 
-/** What can be swept: "post", "delete", "read", "recalculate", "build", "collect", "client", "close", "start", "first-start". */
+/** What can be swept: "post", "delete", "read", "recalculate", "build", "collect", "client", "close", "start", "first-start",
+ *  "back-up", "restore". */
 const QStringList& sweptWorks();
 
 /** The process's work: ROOT WORK FAULT LASTING PLACES, for a program with the failing disk in front. Tries so many of the

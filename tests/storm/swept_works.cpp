@@ -3,16 +3,21 @@
 #include <QDir>
 
 #include "app/start_up.h"
+#include "backup/data_folder_alone.h"
+#include "backup/make_backup.h"
+#include "backup/restore.h"
 #include "billing/collection_import.h"
 #include "billing/reading_commands.h"
 #include "billing/reading_edit.h"
 #include "billing/reading_load.h"
 #include "billing/reading_sheet.h"
 #include "master/customers/client_register.h"
+#include "store/folder_swap.h"
 #include "store/rate_book.h"
 #include "tests/store/old_books.h"
 #include "tests/storm/builder.h"
 #include "tests/storm/closer.h"
+#include "tests/storm/packer.h"
 #include "tests/storm/poster.h"
 #include "tests/storm/sweep.h"
 #include "trade/sale_entry.h"
@@ -151,6 +156,33 @@ struct Starting : Work {
   StartUp startUp;
 };
 
+/** A backup of the folder, which no form of this PC has open. */
+struct Packing : Work {
+  explicit Packing(Pc& on) : here(on) {
+    steps_ = {[this] {
+      makeBackup(here.pc, here.session.DbPath, backup::readSettings(here.pc), backup::Series::Books,
+                 hold(here), {});
+    }};
+  }
+  Pc& here;
+};
+
+/** An archive of older books put back. */
+struct Restoring : Work {
+  explicit Restoring(Pc& on) : here(on) {
+    steps_ = {[this] {
+      const QString archive = archivesOf(here.pc.paths, backup::readSettings(here.pc)).value(0).path;
+      if (archive.isEmpty()) throw jet::Error(backup::notAnArchive, u"백업이 없음"_s);
+      finishSwap(here.pc.paths, here.session.DbPath);
+      const backup::ArchiveFacts facts = backup::verify(here.pc.paths.native(archive), {});
+      auto held = hold(here);
+      prepareRestore(here.pc, here.session.DbPath, archive, facts, {});
+      finishRestore(here.pc, here.session.DbPath, std::move(held));
+    }};
+  }
+  Pc& here;
+};
+
 QByteArray payment(int client, int won) {
   return "22" + QByteArray(11, '7') + "0316" + QByteArray(32, '5') +
          QByteArray::number(client).rightJustified(19, '0') + '9' +
@@ -166,8 +198,9 @@ void copyFolder(const QString& from, const QString& to) {
 }  // namespace
 
 const QStringList& sweptWorks() {
-  static const QStringList works{u"post"_s,    u"delete"_s, u"read"_s,  u"recalculate"_s, u"build"_s,
-                                 u"collect"_s, u"client"_s, u"close"_s, u"start"_s,       u"first-start"_s};
+  static const QStringList works{u"post"_s,  u"delete"_s,      u"read"_s,    u"recalculate"_s,
+                                 u"build"_s, u"collect"_s,     u"client"_s,  u"close"_s,
+                                 u"start"_s, u"first-start"_s, u"back-up"_s, u"restore"_s};
   return works;
 }
 
@@ -195,13 +228,30 @@ void makeBooksFor(const QString& work, const QString& root) {
     workInNextYear(here, 1);
   }
   here.close();
+  if (work == u"restore") {
+    Packing(here).steps().front()();
+    here.open();
+    postLines(here, 6, 10);
+    here.close();
+  }
   QFile file(here.pc.paths.native(u"C:\\RWGas\\202603.txt"_s));
   if (!file.open(QIODevice::WriteOnly)) return;
   for (const int client : {1, 2, 3}) file.write(payment(clientCount + client, 1000 * client));
 }
 
+QString leftBeside(const QString& work, const QString& root) {
+  QString shelf;
+  if (work != u"back-up") return shelf;
+  const Pc here(root);
+  for (const backup::ShelfArchive& archive : archivesOf(here.pc.paths, backup::readSettings(here.pc)))
+    shelf += QString::number(backup::verify(here.pc.paths.native(archive.path), {}).files.size()) + u'\n';
+  return shelf;
+}
+
 std::unique_ptr<Work> makeWork(const QString& work, Pc& here) {
   if (work.endsWith(u"start"_s)) return std::make_unique<Starting>(here);
+  if (work == u"back-up") return std::make_unique<Packing>(here);
+  if (work == u"restore") return std::make_unique<Restoring>(here);
   here.open();
   if (work == u"post") return std::make_unique<Posting>(here);
   if (work == u"delete") return std::make_unique<Deleting>(here);

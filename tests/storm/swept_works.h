@@ -26,6 +26,8 @@ class Work {
 
 /** The books below root as the work finds them. */
 void makeBooksFor(const QString& work, const QString& root);
+/** What a work leaves beside the data folder: of a backup its whole archives. Throws jet::Error for one that is not. */
+QString leftBeside(const QString& work, const QString& root);
 /** The work at an opened PC, its form loaded. */
 std::unique_ptr<Work> makeWork(const QString& work, Pc& here);
 
