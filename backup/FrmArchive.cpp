@@ -1,15 +1,17 @@
 #include "backup/FrmArchive.h"
 
 #include <QFileDialog>
-#include <QGridLayout>
-#include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "backup/FrmArchiveSettings.h"
 #include "pc/pc.h"
+#include "ui/forms/fields.h"
 #include "ui/grid/spread.h"
+#include "ui/model/column.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,72 +22,46 @@ enum ArchiveCol { Made = 1, Size, Place, Name };
 }
 
 FrmArchive::FrmArchive(pc::Pc& pc, Prompts& prompts, QWidget* parent)
-    : QDialog(parent), pc_(pc), prompts_(prompts), compressor_(pc, prompts) {
-  setObjectName(u"FrmArchive"_s);
-  setWindowTitle(u"데이터 압축"_s);
+    : Dialog(u"FrmArchive"_s, u"데이터 압축"_s, prompts, parent), pc_(pc), compressor_(pc, prompts) {
   compressor_.over = this;
-  rows_.setColumns({{.header = u"백업한 때"_s, .width = 20, .align = CellAlign::Center, .locked = true},
-                    {.header = u"크기"_s, .width = 11, .align = CellAlign::Right, .locked = true},
-                    {.header = u"곳"_s, .width = 9, .align = CellAlign::Center, .locked = true},
-                    {.header = u"파일"_s, .width = 42, .locked = true}});
+  rows_.setColumns(column::shown({column::centred(u"백업한 때"_s, 20), column::right(u"크기"_s, 11),
+                                  column::centred(u"곳"_s, 9), column::text(u"파일"_s, 42)}));
   build();
   showShelf();
 }
 
-QPushButton* FrmArchive::button(const char* name, const QString& caption, std::function<void()> work) {
-  auto* made = new QPushButton(caption);
-  made->setObjectName(QString::fromLatin1(name));
-  made->setAutoDefault(false);
-  connect(made, &QPushButton::clicked, this, std::move(work));
-  return made;
-}
-
 void FrmArchive::build() {
-  auto* places = new QGridLayout;
-  places->setHorizontalSpacing(10);
-  int line = 0;
-  for (const auto& [label, panel, name] : {std::tuple{u"자료 폴더"_s, &pnlData_, "pnlData"},
-                                           std::tuple{u"백업 폴더"_s, &pnlShelf_, "pnlShelf"}}) {
-    *panel = new QLabel;
-    (*panel)->setObjectName(QString::fromLatin1(name));
-    (*panel)->setProperty("role", u"value"_s);
-    (*panel)->setTextFormat(Qt::PlainText);
-    places->addWidget(new QLabel(label), line, 0);
-    places->addWidget(*panel, line++, 1);
-  }
-  places->setColumnStretch(1, 1);
+  Fields places(addPanel(), 1);
+  pnlData_ = places.value("pnlData", u"자료 폴더"_s);
+  pnlShelf_ = places.value("pnlShelf", u"백업 폴더"_s);
 
-  auto* backups = new QHBoxLayout;
+  auto* const backups = new QHBoxLayout;
   backups->setSpacing(8);
-  backups->addWidget(button("btnBackUp", u"이 PC에 백업(&B)"_s, [this] { backUp(Series::Books, false); }));
-  backups->addWidget(button("btnServer", u"서버에 백업(&V)"_s, [this] { backUp(Series::Books, true); }));
-  backups->addWidget(button("btnSupport", u"A/S용 백업(&A)"_s, [this] { backUp(Series::Support, false); }));
+  QPushButton* const first =
+      addButton("btnBackUp", u"이 PC에 백업(&B)"_s, [this] { backUp(Series::Books, false); });
+  backups->addWidget(first);
+  backups->addWidget(addButton("btnServer", u"서버에 백업(&V)"_s, [this] { backUp(Series::Books, true); }));
+  backups->addWidget(
+      addButton("btnSupport", u"A/S용 백업(&A)"_s, [this] { backUp(Series::Support, false); }));
   backups->addStretch();
-  backups->addWidget(button("btnSettings", u"설정(&S)..."_s, [this] { changeSettings(); }));
+  backups->addWidget(addButton("btnSettings", u"설정(&S)..."_s, [this] { changeSettings(); }));
+  body()->addLayout(backups);
 
-  SpArchive_ = new Spread(rows_);
+  SpArchive_ = new Spread(rows_, this);
   SpArchive_->setObjectName(u"SpArchive"_s);
   SpArchive_->setFillColumn(Name);
   SpArchive_->setMinimumSize(720, 260);
+  SpArchive_->guard = [this](const std::function<void()>& work) { return guard(work); };
   SpArchive_->enterPressed = [this](int, int) { restoreChosen(); };
   SpArchive_->doubleClicked = [this](int, int) { restoreChosen(); };
+  body()->addWidget(SpArchive_, 1);
 
-  auto* restores = new QHBoxLayout;
-  restores->setSpacing(8);
-  restores->addWidget(button("btnRestore", u"고른 백업으로 되돌리기(&R)..."_s, [this] { restoreChosen(); }));
-  restores->addWidget(button("btnOther", u"다른 파일에서(&O)..."_s, [this] { restoreOther(); }));
-  restores->addWidget(button("btnFolder", u"백업 폴더 열기(&F)"_s, [this] { openFolder(); }));
-  restores->addStretch();
-  restores->addWidget(button("btnClose", u"닫기(&X)"_s, [this] { accept(); }));
-
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(18, 16, 18, 14);
-  rows->setSpacing(10);
-  rows->addLayout(places);
-  rows->addLayout(backups);
-  rows->addWidget(SpArchive_, 1);
-  rows->addLayout(restores);
-  findChild<QPushButton*>(u"btnBackUp"_s)->setFocus();
+  foot()->addWidget(addButton("btnRestore", u"고른 백업으로 되돌리기(&R)..."_s, [this] { restoreChosen(); }));
+  addButton("btnOther", u"다른 파일에서(&O)..."_s, [this] { restoreOther(); });
+  addButton("btnFolder", u"백업 폴더 열기(&F)"_s, [this] { openFolder(); });
+  addLeave("btnClose", u"닫기(&X)"_s);
+  allowResize();
+  first->setFocus();
 }
 
 void FrmArchive::beginWithRestore() {
@@ -135,13 +111,13 @@ void FrmArchive::backUp(Series series, bool toServer) {
 }
 
 void FrmArchive::changeSettings() {
-  if (FrmArchiveSettings(pc_, prompts_, this).exec() == QDialog::Accepted) showShelf();
+  if (FrmArchiveSettings(pc_, prompts(), this).exec() == QDialog::Accepted) showShelf();
 }
 
 void FrmArchive::openFolder() {
   const QString folder = readSettings(pc_).folder;
   if (!pc_.paths.makeFolder(folder) || !pc_.process.open(folder))
-    prompts_.MsgInfo(u"폴더를 여는 프로그램이 없습니다.\n"_s + pc_.paths.native(folder), windowTitle());
+    prompts().MsgInfo(u"폴더를 여는 프로그램이 없습니다.\n"_s + pc_.paths.native(folder), windowTitle());
 }
 
 }  // namespace backup

@@ -1,17 +1,15 @@
 #pragma once
 // The data compressor's window: backups by one key, and the list of what was kept, to put one back.
-#include <QDialog>
-
 #include "backup/form_compressor.h"
+#include "ui/forms/dialog.h"
 #include "ui/model/spread_model.h"
 
 class QLabel;
-class QPushButton;
 class Spread;
 
 namespace backup {
 
-class FrmArchive : public QDialog {
+class FrmArchive : public Dialog {
  public:
   FrmArchive(pc::Pc& pc, Prompts& prompts, QWidget* parent = nullptr);
 
@@ -22,7 +20,6 @@ class FrmArchive : public QDialog {
 
  private:
   void build();
-  QPushButton* button(const char* name, const QString& caption, std::function<void()> work);
   void showShelf();
   void restoreChosen();
   void restoreOther();
@@ -32,7 +29,6 @@ class FrmArchive : public QDialog {
   void openFolder();
 
   pc::Pc& pc_;
-  Prompts& prompts_;
   Compressor compressor_;
   QList<ShelfArchive> shelf_;
   SpreadModel rows_;

@@ -1,23 +1,21 @@
 #include "backup/FrmArchiveSettings.h"
 
 #include <QCheckBox>
-#include <QFileDialog>
-#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 
 #include "pc/pc.h"
+#include "ui/forms/fields.h"
+#include "ui/forms/folder_box.h"
 
 using namespace Qt::StringLiterals;
 
 namespace backup {
 
 FrmArchiveSettings::FrmArchiveSettings(pc::Pc& pc, Prompts& prompts, QWidget* parent)
-    : QDialog(parent), pc_(pc), prompts_(prompts) {
-  setObjectName(u"FrmArchiveSettings"_s);
-  setWindowTitle(u"백업 설정"_s);
+    : Dialog(u"FrmArchiveSettings"_s, u"백업 설정"_s, prompts, parent), pc_(pc) {
   build();
   const Settings stored = readSettings(pc_);
   txtFolder_->setText(stored.folder);
@@ -28,76 +26,34 @@ FrmArchiveSettings::FrmArchiveSettings(pc::Pc& pc, Prompts& prompts, QWidget* pa
   txtFolder_->setFocus();
 }
 
-QWidget* FrmArchiveSettings::folderBox(QLineEdit*& box, const char* name) {
-  auto* both = new QWidget;
-  auto* row = new QHBoxLayout(both);
-  row->setContentsMargins(0, 0, 0, 0);
-  box = new QLineEdit;
-  box->setObjectName(QString::fromLatin1(name));
-  auto* find = new QPushButton(u"찾기..."_s);
-  find->setAutoDefault(false);
-  connect(find, &QPushButton::clicked, this, [this, box] {
-    const QString chosen =
-        QFileDialog::getExistingDirectory(this, u"폴더 선택"_s, pc_.paths.native(box->text()));
-    if (!chosen.isEmpty()) box->setText(chosen);
-  });
-  row->addWidget(box, 1);
-  row->addWidget(find);
-  return both;
-}
-
 void FrmArchiveSettings::build() {
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(18, 16, 18, 14);
-  grid->setHorizontalSpacing(10);
-  grid->setVerticalSpacing(8);
-  int line = 0;
-  const auto row = [&](const QString& caption, QWidget* box, QWidget* buddy) {
-    auto* label = new QLabel(caption);
-    label->setBuddy(buddy);
-    grid->addWidget(label, line, 0, Qt::AlignRight);
-    grid->addWidget(box, line++, 1);
+  QWidget* const panel = addPanel();
+  panel->setMinimumWidth(580);
+  Fields boxes(panel, 1);
+  const auto folder = [&](const char* name, const QString& label) {
+    auto* const box = new FolderBox(
+        name, [this](const QString& typed) { return pc_.paths.native(typed); }, panel);
+    boxes.add(label, box);
+    return box;
   };
-  const auto hint = [&](const QString& text) {
-    auto* label = new QLabel(text);
-    label->setProperty("role", u"faint"_s);
-    label->setWordWrap(true);
-    grid->addWidget(label, line++, 1);
-  };
-  QWidget* const folder = folderBox(txtFolder_, "txtFolder");
-  row(u"백업 폴더(&F)"_s, folder, txtFolder_);
-  numKeep_ = new QSpinBox;
+  txtFolder_ = folder("txtFolder", u"백업 폴더(&F)"_s);
+  numKeep_ = new QSpinBox(panel);
   numKeep_->setObjectName(u"numKeep"_s);
   numKeep_->setRange(1, mostKept);
   numKeep_->setSuffix(u" 개"_s);
   numKeep_->setFixedWidth(100);
-  row(u"보관할 백업(&K)"_s, numKeep_, numKeep_);
-  QWidget* const server = folderBox(txtServer_, "txtServer");
-  row(u"서버 폴더(&V)"_s, server, txtServer_);
-  txtCommand_ = new QLineEdit;
-  txtCommand_->setObjectName(u"txtCommand"_s);
-  row(u"서버 명령(&C)"_s, txtCommand_, txtCommand_);
-  hint(
-      u"서버 명령은 백업 뒤에 실행합니다. %1 자리에 백업 파일의 경로가 들어갑니다.\n예: scp %1 shop@server:backup/"_s);
-  chkRemind_ = new QCheckBox(u"해온판매를 끝낼 때 백업할지 묻기(&M)"_s);
-  chkRemind_->setObjectName(u"chkRemind"_s);
-  grid->addWidget(chkRemind_, line++, 1);
-
-  auto* ok = new QPushButton(u"저장(&O)"_s);
-  ok->setObjectName(u"btnSave"_s);
-  ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, [this] { save(); });
-  auto* leave = new QPushButton(u"취소(&X)"_s);
-  leave->setAutoDefault(false);
-  connect(leave, &QPushButton::clicked, this, &QDialog::reject);
-  auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(8);
-  buttons->addStretch();
-  buttons->addWidget(ok);
-  buttons->addWidget(leave);
-  grid->addLayout(buttons, line, 0, 1, 2);
-  grid->setColumnStretch(1, 1);
-  setMinimumWidth(600);
+  boxes.add(u"보관할 백업(&K)"_s, numKeep_);
+  txtServer_ = folder("txtServer", u"서버 폴더(&V)"_s);
+  txtCommand_ = boxes.text("txtCommand", u"서버 명령(&C)"_s);
+  auto* const hint = new QLabel(
+      u"서버 명령은 백업 뒤에 실행합니다. %1 자리에 백업 파일의 경로가 들어갑니다.\n예: scp %1 shop@server:backup/"_s,
+      panel);
+  hint->setProperty("role", u"faint"_s);
+  boxes.add({}, hint);
+  chkRemind_ = boxes.check("chkRemind", u"해온판매를 끝낼 때 백업할지 묻기(&M)"_s);
+  addDefault("btnSave", u"저장(&O)"_s, [this] { save(); });
+  addLeave("btnCancel", u"취소(&X)"_s);
+  enterOrder({txtFolder_->line(), numKeep_, txtServer_->line(), txtCommand_, chkRemind_});
 }
 
 Settings FrmArchiveSettings::typed() const {
@@ -111,18 +67,18 @@ Settings FrmArchiveSettings::typed() const {
 void FrmArchiveSettings::save() {
   const Settings settings = typed();
   if (settings.folder.trimmed().isEmpty()) {
-    prompts_.MsgWarn(u"백업 폴더를 입력하십시오."_s, windowTitle());
+    prompts().MsgWarn(u"백업 폴더를 입력하십시오."_s, windowTitle());
     txtFolder_->setFocus();
     return;
   }
   const QString line = settings.serverCommand.trimmed();
   if (!line.isEmpty() && !line.contains(u"%1"_s)) {
-    prompts_.MsgWarn(u"서버 명령에는 백업 파일의 자리 %1 이 있어야 합니다."_s, windowTitle());
+    prompts().MsgWarn(u"서버 명령에는 백업 파일의 자리 %1 이 있어야 합니다."_s, windowTitle());
     txtCommand_->setFocus();
     return;
   }
   if (!writeSettings(pc_, settings)) {
-    prompts_.MsgWarn(u"설정을 저장할 수 없습니다. 디스크와 쓰기 권한을 확인하십시오."_s, windowTitle());
+    prompts().MsgWarn(u"설정을 저장할 수 없습니다. 디스크와 쓰기 권한을 확인하십시오."_s, windowTitle());
     return;
   }
   accept();

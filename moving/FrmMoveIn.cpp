@@ -1,10 +1,6 @@
 #include "moving/FrmMoveIn.h"
 
 #include <QDir>
-#include <QFileDialog>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -12,72 +8,42 @@
 #include "moving/move_in.h"
 #include "store/jet/error.h"
 #include "ui/forms/FrmProgress.h"
+#include "ui/forms/fields.h"
+#include "ui/forms/folder_box.h"
 
 using namespace Qt::StringLiterals;
 
 namespace moving {
 
 FrmMoveIn::FrmMoveIn(Session& session, const QString& nativeFolder, QWidget* parent)
-    : QDialog(parent), session_(session) {
-  setObjectName(u"FrmMoveIn"_s);
-  setWindowTitle(u"이전 자료 가져오기"_s);
+    : Dialog(u"FrmMoveIn"_s, u"이전 자료 가져오기"_s, session.prompts, parent), session_(session) {
   build();
   txtFolder_->setText(nativeFolder);
   txtFolder_->setFocus();
 }
 
 void FrmMoveIn::build() {
-  auto* what = new QLabel(
-      u"이전 형식의 자료 폴더(Basic.mdb 가 있는 폴더)를 고르십시오. 그 폴더의 파일은 읽기만 하고 바꾸지 "
-      u"않습니다.\n"
+  addText(
+      u"이전 형식의 자료 폴더(Basic.mdb 가 있는 폴더)를 고르십시오. 그 폴더의 파일은 읽기만 하고 바꾸지 "_s
+      u"않습니다.\n"_s
       u"가져온 자료는 줄 수와 합계를 견주어 모두 맞을 때에만 자료 폴더의 자리에 놓입니다."_s);
-  auto* label = new QLabel(u"이전 자료 폴더(&F)"_s);
-  txtFolder_ = new QLineEdit;
-  txtFolder_->setObjectName(u"txtFolder"_s);
-  label->setBuddy(txtFolder_);
-  auto* find = new QPushButton(u"찾기..."_s);
-  find->setObjectName(u"btnFind"_s);
-  find->setAutoDefault(false);
-  connect(find, &QPushButton::clicked, this, [this] { chooseFolder(); });
-  auto* line = new QHBoxLayout;
-  line->setSpacing(8);
-  line->addWidget(label);
-  line->addWidget(txtFolder_, 1);
-  line->addWidget(find);
+  QWidget* const panel = addPanel();
+  Fields boxes(panel, 1);
+  txtFolder_ = new FolderBox(
+      "txtFolder", [](const QString& typed) { return typed; }, panel);
+  boxes.add(u"이전 자료 폴더(&F)"_s, txtFolder_);
 
-  txtReport_ = new QPlainTextEdit;
+  txtReport_ = new QPlainTextEdit(this);
   txtReport_->setObjectName(u"txtReport"_s);
   txtReport_->setReadOnly(true);
   txtReport_->setTabChangesFocus(true);
   txtReport_->setMinimumSize(640, 300);
   txtReport_->setPlaceholderText(u"가져온 결과가 여기에 나타납니다."_s);
+  body()->addWidget(txtReport_, 1);
 
-  btnBegin_ = new QPushButton(u"가져오기(&O)"_s);
-  btnBegin_->setObjectName(u"btnBegin"_s);
-  btnBegin_->setDefault(true);
-  connect(btnBegin_, &QPushButton::clicked, this, [this] { begin(); });
-  auto* close = new QPushButton(u"닫기(&X)"_s);
-  close->setObjectName(u"btnClose"_s);
-  close->setAutoDefault(false);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(8);
-  buttons->addStretch();
-  buttons->addWidget(btnBegin_);
-  buttons->addWidget(close);
-
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(18, 16, 18, 14);
-  rows->setSpacing(10);
-  rows->addWidget(what);
-  rows->addLayout(line);
-  rows->addWidget(txtReport_, 1);
-  rows->addLayout(buttons);
-}
-
-void FrmMoveIn::chooseFolder() {
-  const QString chosen = QFileDialog::getExistingDirectory(this, u"이전 자료 폴더"_s, txtFolder_->text());
-  if (!chosen.isEmpty()) txtFolder_->setText(chosen);
+  btnBegin_ = addDefault("btnBegin", u"가져오기(&O)"_s, [this] { begin(); });
+  addLeave("btnClose", u"닫기(&X)"_s);
+  allowResize();
 }
 
 bool FrmMoveIn::mayBegin(const QString& folder) {
@@ -124,7 +90,9 @@ void FrmMoveIn::work(const QString& folder) {
   btnBegin_->setEnabled(false);
   txtReport_->setPlainText(report.text());
   txtReport_->setFocus();
-  session_.prompts.MsgInfo(u"이전 자료를 가져왔습니다.\n보고서: "_s + report.file, windowTitle());
+  session_.prompts.MsgInfo(
+      u"이전 자료를 가져왔습니다."_s + (report.file.isEmpty() ? QString() : u"\n보고서: "_s + report.file),
+      windowTitle());
 }
 
 }  // namespace moving

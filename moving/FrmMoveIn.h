@@ -1,16 +1,15 @@
 #pragma once
 // Brings old books in: asks for their folder, does the work under a bar, shows the report.
-#include <QDialog>
-
 #include "store/session.h"
+#include "ui/forms/dialog.h"
 
-class QLineEdit;
+class FolderBox;
 class QPlainTextEdit;
 class QPushButton;
 
 namespace moving {
 
-class FrmMoveIn : public QDialog {
+class FrmMoveIn : public Dialog {
  public:
   /** nativeFolder: where the old books are, when that is known. */
   FrmMoveIn(Session& session, const QString& nativeFolder, QWidget* parent = nullptr);
@@ -20,13 +19,12 @@ class FrmMoveIn : public QDialog {
 
  private:
   void build();
-  void chooseFolder();
   void begin();
   bool mayBegin(const QString& folder);
   void work(const QString& folder);
 
   Session& session_;
-  QLineEdit* txtFolder_ = nullptr;
+  FolderBox* txtFolder_ = nullptr;
   QPlainTextEdit* txtReport_ = nullptr;
   QPushButton* btnBegin_ = nullptr;
   bool moved_ = false;
