@@ -91,7 +91,7 @@ constexpr CommandEntry commandTable[] = {
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDEnabled", u"사용(&E)", SeeIdEnabled},
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDPort", u"포트설정(&P)", Dialog, u"FrmSeeIDOptions"},
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDTest", u"발신번호 테스트(&T)", SeeIdTest, u"", Ruled},
-    {u"mnu_SeeIDSetUp", u"mnu_SeeIDFormatTelNo", u"전화번호 형식(&F)", Later},
+    {u"mnu_SeeIDSetUp", u"mnu_SeeIDFormatTelNo", u"전화번호 형식(&F)", Form, u"FrmSeeIDFormatTelNo"},
     {u"mnu_SeeIDSetUp", u"mnu_SeeIDStanbyList", u"대기목록(&L)", Form, u"FrmSeeIDStanbyList"},
     {u"MnuHelp", u"mnuHome", u"홈페이지(&H)", Home, u"", Ruled},
     {u"MnuHelp", u"mnu_Teminal", u"원격지원서비스(&R)", RemoteSupport},

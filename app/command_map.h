@@ -7,7 +7,7 @@
 
 #include "store/house_style.h"
 
-/** What choosing an entry does. Later: its work is not part of this program yet, so the entry stays off. */
+/** What choosing an entry does. */
 enum class CommandKind {
   Menu,    ///< opens a menu
   Form,    ///< opens the form named
@@ -28,7 +28,6 @@ enum class CommandKind {
   CashBook,
   Schedule,
   MoveIn,  ///< books of the older format
-  Later,
 };
 
 struct CommandEntry {

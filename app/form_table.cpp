@@ -23,6 +23,7 @@
 #include "giro/frmPrtJiroOrgA4.h"
 #include "giro/frmPrtMicr.h"
 #include "links/FrmSMS.h"
+#include "links/FrmSeeIDFormatTelNo.h"
 #include "links/form_short_list.h"
 #include "links/frmCar.h"
 #include "links/frmDm.h"
@@ -103,6 +104,7 @@ const FormEntry formTable[] = {
     formEntry<frmResponse>(u"frmResponse"),
     formEntry<frmSale>(u"frmSale"),
     formEntry<FrmSMS>(u"FrmSMS"),
+    formEntry<FrmSeeIDFormatTelNo>(u"FrmSeeIDFormatTelNo"),
     formEntry<FrmSukum>(u"FrmSukum"),
     formEntry<frmTodaySale>(u"frmTodaySale"),
     briefEntry(u"frmLPGSaleBrief", lpgSaleBrief),

@@ -175,10 +175,6 @@ void frmMain::showClock() {
 }
 
 QString frmMain::whyOff(const CommandEntry& entry) const {
-  const bool later =
-      entry.kind == CommandKind::Later ||
-      ((entry.kind == CommandKind::Form || entry.kind == CommandKind::Dialog) && !isBuilt(entry.formName()));
-  if (later) return captionOf(entry) + u": 아직 준비되지 않은 메뉴입니다."_s;
   if (entry.flags & CommandEntry::NeedsStock && !session_.StockEnabled)
     return captionOf(entry) +
            u": 재고관리를 하지 않는 동안은 쓸 수 없습니다. [보조관리 - 사용자 등록]의 환경설정에서 \"관리함\"을 고르십시오."_s;
@@ -273,7 +269,6 @@ void frmMain::perform(const CommandEntry& entry) {
         if (startMoveIn(session_, [this] { return closeForms(); })) close();
         break;
       case CommandKind::Menu:
-      case CommandKind::Later:
         break;
     }
   });
@@ -323,10 +318,6 @@ bool frmMain::showOpen(const QString& base, const QString& page) {
     return true;
   }
   return false;
-}
-
-bool frmMain::isBuilt(const QString& form) const {
-  return form == "FrmSeeIDOptions"_L1 || form == "FrmSeeIDStanbyList"_L1 || findForm(form);
 }
 
 bool frmMain::openCallerWindow(const QString& name) {
@@ -398,7 +389,7 @@ bool frmMain::mayLeave() {
   return AskBackupOnExit(
       session_, [this] { return closeForms(); },
       [this] {
-        frmMsgBackUp reminder(this);
+        frmMsgBackUp reminder(session_.prompts, this);
         reminder.exec();
         return reminder.Result();
       });

@@ -57,7 +57,6 @@ class frmMain : public QMainWindow, public Commands {
   QString whyOff(const CommandEntry& entry) const;
   void perform(const CommandEntry& entry);
   void showClock();
-  bool isBuilt(const QString& form) const;
   /** The caller-identification windows, which hang on the window's own devices and list. */
   bool openCallerWindow(const QString& name);
   /** False when a child stays because it holds a cell that it cannot save. */

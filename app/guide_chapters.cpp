@@ -50,7 +50,7 @@ constexpr Chapter chapters[] = {
     {u"DM 발송", u"frmDm"},
     {u"안전관리대장", u"frmPrtSafe"},
     {u"차량 정비", u"frmCar frmCarRes frmCaRepairUnit"},
-    {u"발신번호", u"FrmSeeIDOptions FrmSeeIDStanbyList"},
+    {u"발신번호", u"FrmSeeIDFormatTelNo FrmSeeIDOptions FrmSeeIDStanbyList"},
 };
 
 /** The text is one of those that the line's first cell names. */

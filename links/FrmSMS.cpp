@@ -14,24 +14,16 @@
 using namespace Qt::StringLiterals;
 
 FrmSMS::FrmSMS(FormContext& context, QWidget* parent)
-    : Form(u"FrmSMS"_s, u"문자 전송(SMS)"_s, context.session, parent),
+    : TickedForm(u"FrmSMS"_s, u"문자 전송(SMS)"_s, context.session, parent),
       context_(context),
       rules_(context.session) {
   body()->addWidget(buildFilter());
-  grdList_ = addSpread("grdList", rules_.list());
-  grdList_->setFillColumn(SmsCol::Tel);
-  grdList_->setFrozenCols(SmsCol::Name);
-  grdList_->cellFinished = [this](int row, int col, const QString&, const QString& typed) {
-    rules_.list().setText(row, col, typed);
-    showCount();
-    return true;
-  };
-  grdList_->cellEntered = [this](int, int) { showHelp(u"스페이스나 클릭으로 보낼 거래처를 선택합니다"_s); };
-  body()->addWidget(grdList_, 1);
+  Spread* const grdList =
+      addTickedGrid("grdList", rules_, SmsCol::Tel, u"스페이스나 클릭으로 보낼 거래처를 선택합니다"_s);
   body()->addWidget(buildFoot());
   search();
   if (rules_.list().MaxRows() > 0)
-    grdList_->setFocus();
+    grdList->setFocus();
   else
     txtName_->setFocus();
 }
@@ -84,17 +76,9 @@ QWidget* FrmSMS::buildFoot() {
   auto* const foot = new QWidget(this);
   auto* const row = new QHBoxLayout(foot);
   row->setContentsMargins(0, 0, 0, 0);
-  chkAll_ = new QCheckBox(u"전체 선택"_s, foot);
-  chkAll_->setObjectName(u"ChkAll"_s);
-  connect(chkAll_, &QCheckBox::clicked, this, [this](bool on) {
-    command([&] {
-      rules_.tickAll(on);
-      showCount();
-    });
-  });
   lblCountRec_ = new QLabel(u"0"_s, foot);
   lblCountRec_->setObjectName(u"lblCountRec"_s);
-  row->addWidget(chkAll_);
+  row->addWidget(addTickAll(u"전체 선택"_s, foot));
   row->addSpacing(16);
   row->addWidget(new QLabel(u"선택"_s, foot));
   row->addWidget(lblCountRec_);
@@ -103,9 +87,8 @@ QWidget* FrmSMS::buildFoot() {
   const auto sender = [&](const char* name, int tool, const QString& letter) {
     return addButton(name, senderLabel(tool) + letter, [this, tool] { rules_.send(tool); });
   };
-  row->addWidget(buttonRow(
-      {sender("btnTrans0", TextTool, u"(&S)"_s), sender("btnTrans1", RelayTool, u"(&R)"_s), nullptr,
-       addButton("btnExit", u"닫기(&X)"_s, [this] { (parentWidget() ? parentWidget() : this)->close(); })}));
+  row->addWidget(buttonRow({sender("btnTrans0", TextTool, u"(&S)"_s),
+                            sender("btnTrans1", RelayTool, u"(&R)"_s), nullptr, addExit("btnExit")}));
   return foot;
 }
 
@@ -114,19 +97,16 @@ SmsFilter FrmSMS::filter() const {
 }
 
 void FrmSMS::search() {
-  chkAll_->setChecked(false);
-  lblCountRec_->setText(u"0"_s);
   context_.commands.showStatus(u"자료 검색중..."_s);
-  guard([this] {
+  fill([this] {
     const bool found = rules_.search(filter(), txtName_->text(), txtBalance_->value(), [this](int count) {
       return barTeller(u"자료 검색중..."_s, count, this);
     });
     if (found) showHelp(u"거래처 %1건"_s.arg(rules_.list().MaxRows()));
   });
   context_.commands.showStatus({});
-  if (rules_.list().MaxRows() > 0) grdList_->setActiveCell(1, SmsCol::Tick);
 }
 
-void FrmSMS::showCount() {
+void FrmSMS::showCounts() {
   lblCountRec_->setText(QString::number(rules_.ticked()));
 }

@@ -1,14 +1,13 @@
 #pragma once
 // "문자 전송(SMS)": picks customers and hands their numbers to the sender tool.
+#include "links/form_ticked.h"
 #include "links/sms_search.h"
 #include "master/registers/form_context.h"
-#include "ui/forms/form.h"
 
 class MoneyBox;
-class QCheckBox;
 class QRadioButton;
 
-class FrmSMS : public Form {
+class FrmSMS : public TickedForm {
  public:
   explicit FrmSMS(FormContext& context, QWidget* parent = nullptr);
 
@@ -16,7 +15,7 @@ class FrmSMS : public Form {
   QWidget* buildFilter();
   QWidget* buildFoot();
   void search();
-  void showCount();
+  void showCounts() override;
   SmsFilter filter() const;
 
   FormContext& context_;
@@ -24,7 +23,5 @@ class FrmSMS : public Form {
   QRadioButton* optFilter_[2];
   QLineEdit* txtName_;
   MoneyBox* txtBalance_;
-  QCheckBox* chkAll_;
   QLabel* lblCountRec_;
-  Spread* grdList_;
 };

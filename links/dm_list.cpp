@@ -13,15 +13,9 @@ const QString dmManager = u"DM 발송"_s;
 constexpr int labelWidth = 46, envelopeWidth = 50;  ///< half-width characters of a line
 
 QString dmStatement(DmKind kind) {
-  switch (kind) {
-    case DmKind::General:
-      return u"Select * From Client Where VolumeYesNo = FALSE"_s;
-    case DmKind::Volume:
-      return u"Select * From Client Where VolumeYesNo = TRUE"_s;
-    case DmKind::All:
-      break;
-  }
-  return u"Select * From Client"_s;
+  const QString everyone = u"Select * From Client"_s;
+  if (kind == DmKind::All) return everyone;
+  return everyone + u" Where VolumeYesNo = "_s + (kind == DmKind::Volume ? u"TRUE"_s : u"FALSE"_s);
 }
 
 /** The text in pieces of no more than width, broken at blanks where there are any. */
@@ -44,34 +38,35 @@ QStringList wrapped(const QString& text, int width) {
 
 enum class DmText { Line };
 
+constexpr pc::PaperForm addressForm(double width, double height, std::span<const pc::PaperFont> fonts,
+                                    std::span<const pc::PaperItem> line, int lines, double lineRows) {
+  return {.paper = {width, height},
+          .rowsPerInch = 8,
+          .columnsPerInch = 15,
+          .fonts = fonts,
+          .items = {},
+          .line = line,
+          .lines = lines,
+          .lineRows = lineRows};
+}
+
 // An A4 sheet of sixteen labels, two across: 99.1 by 33.9 mm each, 101.6 mm from label to label across, none between
 // those below each other; the sheet begins 12.9 mm from above and 4.7 mm from the left. Seven lines have room.
 constexpr pc::PaperFont labelFonts[] = {{u"굴림체", 10}};
 constexpr pc::PaperItem labelLine[] = {pc::at(4.7, 6.5, DmText::Line)};
-constexpr pc::PaperForm labelForm{.paper = {8.27, 11.69},
-                                  .rowsPerInch = 8,
-                                  .columnsPerInch = 15,
-                                  .fonts = labelFonts,
-                                  .items = {},
-                                  .copies = 16,
-                                  .copyRows = 10.68,
-                                  .across = 2,
-                                  .copyColumns = 60,
-                                  .line = labelLine,
-                                  .lines = 7,
-                                  .lineRows = 1.35};
+constexpr pc::PaperForm labelForm = [] {
+  pc::PaperForm form = addressForm(8.27, 11.69, labelFonts, labelLine, 7, 1.35);
+  form.copies = 16;
+  form.copyRows = 10.68;
+  form.across = 2;
+  form.copyColumns = 60;
+  return form;
+}();
 
 // An envelope of 220 by 105 mm, lying: the receiver stands in the lower right part.
 constexpr pc::PaperFont envelopeFonts[] = {{u"굴림체", 11}};
 constexpr pc::PaperItem envelopeLine[] = {pc::at(15, 62, DmText::Line)};
-constexpr pc::PaperForm envelopeForm{.paper = {8.66, 4.13},
-                                     .rowsPerInch = 8,
-                                     .columnsPerInch = 15,
-                                     .fonts = envelopeFonts,
-                                     .items = {},
-                                     .line = envelopeLine,
-                                     .lines = 8,
-                                     .lineRows = 2};
+constexpr pc::PaperForm envelopeForm = addressForm(8.66, 4.13, envelopeFonts, envelopeLine, 8, 2);
 
 }  // namespace
 
@@ -95,7 +90,7 @@ std::vector<QStringList> addressLines(const QString& postCode, const QString& ad
   return lines;
 }
 
-void DmList::setColumns() {
+DmList::DmList(Session& session) : session_(session) {
   list_.setColumns({column::tick(u"선택"_s), column::locked(column::text(u"고객명"_s, 24)),
                     column::locked(column::centred(u"우편번호"_s, 10)),
                     column::locked(column::text(u"건물명"_s, 26)),
@@ -116,16 +111,6 @@ bool DmList::load(DmKind kind) {
   return true;
 }
 
-void DmList::tickAll(bool on) {
-  for (int row = 1; row <= list_.MaxRows(); ++row) list_.setText(row, DmCol::Tick, on ? u"1"_s : u"0"_s);
-}
-
-int DmList::ticked() const {
-  int count = 0;
-  for (int row = 1; row <= list_.MaxRows(); ++row) count += list_.text(row, DmCol::Tick) == u'1';
-  return count;
-}
-
 QString DmList::printer() const {
   const QString device = slipPrinter(session_).device;
   if (device.isEmpty())
@@ -139,7 +124,7 @@ std::optional<DocumentRun> DmList::run(DmPaper paper) const {
   std::vector<std::vector<QStringList>> papers;
   QStringList names;
   for (int row = 1; row <= list_.MaxRows(); ++row) {
-    if (list_.text(row, DmCol::Tick) != u'1') continue;
+    if (!isTicked(row)) continue;
     papers.push_back(addressLines(list_.text(row, DmCol::PostCode), list_.text(row, DmCol::Address),
                                   list_.text(row, DmCol::Building), list_.text(row, DmCol::Name),
                                   label ? labelWidth : envelopeWidth));

@@ -2,12 +2,12 @@
 // Whom mail goes to: customers by kind, which of them are ticked, and the lines of an address.
 #include <optional>
 
+#include "links/ticked_list.h"
 #include "papers/document_run.h"
 #include "store/session.h"
-#include "ui/model/spread_model.h"
 
 namespace DmCol {
-enum { Tick = 1, Name, PostCode, Building, Address };
+enum { Tick = TickedList::Tick, Name, PostCode, Building, Address };
 }
 
 enum class DmKind { General, Volume, All };
@@ -22,22 +22,17 @@ std::vector<QStringList> addressLines(const QString& postCode, const QString& ad
 
 const pc::PaperForm& dmForm(DmPaper paper);
 
-class DmList {
+class DmList : public TickedList {
  public:
-  explicit DmList(Session& session) : session_(session) { setColumns(); }
+  explicit DmList(Session& session);
 
-  SpreadModel& list() { return list_; }
   /** No one is ticked afterwards. False after a failed query has been told. */
   bool load(DmKind kind);
-  void tickAll(bool on);
-  int ticked() const;
   /** Where the papers go; '' after telling that no printer was chosen. */
   QString printer() const;
   /** The ticked rows as papers, in the order of the list; nothing after telling that none is ticked. */
   std::optional<DocumentRun> run(DmPaper paper) const;
 
  private:
-  void setColumns();
   Session& session_;
-  SpreadModel list_;
 };

@@ -14,23 +14,16 @@
 using namespace Qt::StringLiterals;
 
 frmDm::frmDm(FormContext& context, QWidget* parent)
-    : Form(u"frmDm"_s, u"DM 발송"_s, context.session, parent), context_(context), rules_(context.session) {
+    : TickedForm(u"frmDm"_s, u"DM 발송"_s, context.session, parent),
+      context_(context),
+      rules_(context.session) {
   body()->addWidget(buildHead());
-  grid_ = addSpread("SpDM", rules_.list());
-  grid_->setFillColumn(DmCol::Address);
-  grid_->setFrozenCols(DmCol::Name);
-  grid_->cellFinished = [this](int row, int col, const QString&, const QString& typed) {
-    rules_.list().setText(row, col, typed);
-    showCounts();
-    return true;
-  };
-  grid_->cellEntered = [this](int, int) { showHelp(u"스페이스나 클릭으로 보낼 고객을 선택합니다"_s); };
-  body()->addWidget(grid_, 1);
+  grid_ = addTickedGrid("SpDM", rules_, DmCol::Address, u"스페이스나 클릭으로 보낼 고객을 선택합니다"_s);
   body()->addWidget(buttonRow(
       {addButton("BtnPrt", u"봉투(&P)"_s, [this] { print(DmPaper::Envelope); }),
        addButton("vaBtn1", u"라벨(&P)"_s, [this] { print(DmPaper::Label); }), nullptr,
        addButton("BtnSet", u"프린터 설정(&P)"_s, [this] { context_.commands.openForm(u"frmPrtChange"_s); }),
-       addButton("BtnExit", u"닫기(&X)"_s, [this] { (parentWidget() ? parentWidget() : this)->close(); })}));
+       addExit("BtnExit")}));
   load(DmKind::General);
 }
 
@@ -48,15 +41,7 @@ QWidget* frmDm::buildHead() {
     row->addWidget(option);
   }
   row->addStretch(1);
-  chkAll_ = new QCheckBox(u"전체선택"_s, group);
-  chkAll_->setObjectName(u"ChkAll"_s);
-  connect(chkAll_, &QCheckBox::clicked, this, [this](bool on) {
-    command([&] {
-      rules_.tickAll(on);
-      showCounts();
-    });
-  });
-  row->addWidget(chkAll_);
+  row->addWidget(addTickAll(u"전체선택"_s, group));
   row->addSpacing(16);
   const auto figure = [&](const char* name) {
     auto* const label = new QLabel(group);
@@ -70,12 +55,8 @@ QWidget* frmDm::buildHead() {
 }
 
 void frmDm::load(DmKind kind) {
-  chkAll_->setChecked(false);
-  guard([&] { rules_.load(kind); });
-  showCounts();
-  if (rules_.list().MaxRows() == 0) return;
-  grid_->setActiveCell(1, DmCol::Tick);
-  grid_->setFocus();
+  fill([&] { rules_.load(kind); });
+  if (rules_.list().MaxRows() > 0) grid_->setFocus();
 }
 
 void frmDm::showCounts() {

@@ -18,7 +18,7 @@ bool showSafeNote(Session& session, const SafeNoteAsk& ask) {
     session.prompts.MsgWarn(from.left(4) + u"년의 자료 파일이 없습니다!"_s, u"출력 관리자"_s);
     return false;
   }
-  const QString days = from == to ? from : from + u" ~ "_s + to;
+  const QString days = QString(from == to ? from : from + u" ~ "_s + to).replace(u'-', u'/');
   session.reports->show({.file = u"safenote.rpt"_s,
                          .formulas = {u"DDay= '%1'"_s.arg(days), u"DMon= '%1'"_s.arg(ask.month)},
                          .selection = u"{Sale.SaleDate} >= '%1'  and {Sale.SaleDate} <= '%2'"_s.arg(from, to),

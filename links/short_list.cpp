@@ -34,9 +34,10 @@ const ShortListKind& repairList() {
 ShortList::ShortList(Session& session, const ShortListKind& kind) : session_(session), kind_(kind) {
   std::vector<SpreadColumn> columns;
   for (const ShortListField& field : kind.fields)
-    columns.push_back(field.staff
-                          ? column::choice(field.header, field.width, {})
-                          : column::limited(field.maxLength, column::text(field.header, field.width)));
+    columns.push_back(field.staff ? column::choice(field.header, field.width, {})
+                                  : column::limited(field.maxLength,
+                                                    field.digits ? column::centred(field.header, field.width)
+                                                                 : column::text(field.header, field.width)));
   grid_.setColumns(std::move(columns));
 }
 

@@ -48,16 +48,6 @@ bool SmsSearch::search(SmsFilter filter, const QString& name, qint64 balance,
   return true;
 }
 
-void SmsSearch::tickAll(bool on) {
-  for (int row = 1; row <= list_.MaxRows(); ++row) list_.setText(row, SmsCol::Tick, on ? u"1"_s : u"0"_s);
-}
-
-int SmsSearch::ticked() const {
-  int count = 0;
-  for (int row = 1; row <= list_.MaxRows(); ++row) count += list_.text(row, SmsCol::Tick) == u'1';
-  return count;
-}
-
 bool SmsSearch::send(int toolIndex) {
   return TransFromSpread(session_, list_, SmsCol::Tick, SmsCol::Name, SmsCol::Tel, toolIndex);
 }

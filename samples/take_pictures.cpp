@@ -352,7 +352,7 @@ void aroundTheBooks(Session& session, Photographer& photographer) {
   photographer.take(archives, "FrmArchive");
   backup::FrmArchiveSettings settings(pc, session.prompts);
   photographer.take(settings, "FrmArchiveSettings");
-  frmMsgBackUp reminder;
+  frmMsgBackUp reminder(session.prompts);
   photographer.take(reminder, "frmMsgBackUp");
   moving::FrmMoveIn import(session, "/mnt/old/RWGas/Dbs");
   photographer.take(import, "FrmMoveIn");

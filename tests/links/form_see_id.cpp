@@ -4,15 +4,20 @@
 #include <unistd.h>
 
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
+#include "links/FrmSeeIDFormatTelNo.h"
 #include "links/FrmSeeIDOptions.h"
 #include "links/FrmSeeIDStanbyList.h"
 #include "links/form_see_id_port.h"
+#include "tests/answers.h"
+#include "tests/idle_context.h"
 #include "tests/support.h"
+#include "tests/ui/grab.h"
 
 namespace {
 
@@ -116,6 +121,33 @@ TEST(SeeIdForms, PortsAreChangedAndTheListSurvivesItsWindow) {
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(at.pc.settings.GetSetting("해온판매", "환경설정", "발신번호대기창x"), "120");
   EXPECT_EQ(waiting.TakeStanbyNumber(), "0532222222");
+}
+
+TEST(SeeIdForms, NumbersOutOfShapeAreTickedAndPutRightByKeys) {
+  tests::TestPc at;
+  at.openBooks();
+  at.session.dbBasic.Execute("Insert Into Client(Name, Tel, Tel1) Values('나래', '0531234567', '1234567')");
+  at.session.dbBasic.Execute("Insert Into Client(Name, Tel) Values('가람', '053-765-4321')");
+  tests::IdleContext idle{at.session};
+  FrmSeeIDFormatTelNo form(idle.context);
+  tests::show(form);
+  auto* const count = form.findChild<QLabel*>("LblCount");
+  EXPECT_EQ(count->text(), "2개 중 2개 선택");
+  tests::grab(form, "FrmSeeIDFormatTelNo");
+  tests::key(Qt::Key_Down);
+  tests::key(Qt::Key_Space);
+  EXPECT_EQ(count->text(), "2개 중 1개 선택");
+  at.prompts.expect("선택한 전화번호 1개를 바꾸시겠습니까?");
+  at.prompts.expect("전화번호 1개를 바꾸었습니다.");
+  tests::key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(tests::rowsOf(at.session.dbBasic, "Select Tel, Tel1 From Client Where Name = '나래'"),
+            "053-123-4567|1234567");
+  EXPECT_EQ(count->text(), "1개 중 1개 선택") << "what was left is offered again";
+  at.prompts.expect("선택한 전화번호 1개를 바꾸시겠습니까?");
+  at.prompts.expect("전화번호 1개를 바꾸었습니다.");
+  tests::key(Qt::Key_S, Qt::AltModifier);
+  EXPECT_FALSE(form.findChild<QPushButton*>("BtnSave")->isEnabled());
+  EXPECT_TRUE(form.findChild<QPushButton*>("BtnExit")->hasFocus());
 }
 
 }  // namespace

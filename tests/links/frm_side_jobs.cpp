@@ -168,7 +168,7 @@ TEST_F(SideJobs, TheSafetyRegisterSelectsItsDays) {
   const pc::ReportRequest& request = reports.asked.front();
   EXPECT_EQ(request.file, u"safenote.rpt"_s);
   EXPECT_EQ(request.selection, u"{Sale.SaleDate} >= '2026-03-01'  and {Sale.SaleDate} <= '2026-03-16'"_s);
-  EXPECT_EQ(request.formulas, (QStringList{u"DDay= '2026-03-01 ~ 2026-03-16'"_s, u"DMon= '3'"_s}));
+  EXPECT_EQ(request.formulas, (QStringList{u"DDay= '2026/03/01 ~ 2026/03/16'"_s, u"DMon= '3'"_s}));
   EXPECT_EQ(request.liveFiles, QStringList{u"C:\\RWGas\\Dbs\\2026Foundation.mdb"_s});
 
   from->setText(u"2026-02-30"_s);

@@ -44,9 +44,10 @@ struct SafeNoteTest : testing::Test, tests::TestPc, pc::Reports {
 
 TEST_F(SafeNoteTest, ListsTheSalesOfItsDaysBothEndsIncluded) {
   ASSERT_TRUE(showSafeNote(session, {u"2026-03-01"_s, u"2026-03-16"_s, u"03"_s}));
+  EXPECT_EQ(shown.back().formulas, (QStringList{u"DDay= '2026/03/01 ~ 2026/03/16'"_s, u"DMon= '03'"_s}));
   EXPECT_EQ(lines(), u"2026-03-01|달빛식당|인천 부평구|가스|2\n2026-03-16|달빛식당|인천 부평구|용회|3"_s);
   ASSERT_TRUE(showSafeNote(session, {u"3.1"_s, u"2026-03-01"_s, {}}));
-  EXPECT_EQ(shown.back().formulas, (QStringList{u"DDay= '2026-03-01'"_s, u"DMon= ''"_s}))
+  EXPECT_EQ(shown.back().formulas, (QStringList{u"DDay= '2026/03/01'"_s, u"DMon= ''"_s}))
       << "one day is told once";
   EXPECT_EQ(lines(), u"2026-03-01|달빛식당|인천 부평구|가스|2"_s);
 }
