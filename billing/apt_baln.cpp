@@ -1,8 +1,10 @@
 #include "billing/apt_baln.h"
 
 #include "billing/apt_gather.h"
+#include "billing/household_questions.h"
 #include "store/data_access.h"
 #include "store/data_files.h"
+#include "store/house_style.h"
 #include "store/session.h"
 #include "store/settings_table.h"
 #include "store/vb.h"
@@ -11,21 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString everyApartment = u"전체"_s;
-
-QStringList apartments(const Session& session, int) {
-  QStringList entries{everyApartment};
-  jet::Recordset rs;
-  if (OpenSnapshot(session.prompts, session.dbYear, rs,
-                   u"Select Distinct BDName From Client Where VolumeYesNo = True And HouseStyle = 1"_s))
-    for (; !rs.atEnd(); rs.MoveNext())
-      if (const QString name = rs[u"BDName"_s].toText(); !name.isEmpty()) entries << name;
-  return entries;
-}
-
-QString askedBuilding(const BriefAsk& ask) {
-  return ask.place(u"CboBDName"_s) > 0 ? ask.text(u"CboBDName"_s) : QString();
-}
+const QString apartment = u"CboBDName"_s;  ///< the question
 
 bool holds(const BriefCells& cells, const QString& part) {
   return std::ranges::any_of(cells,
@@ -67,10 +55,10 @@ void readAptBaln(Session& session, const BriefAsk& ask, const BriefTeller&, Brie
                               {.month = ask.text(u"CboMon"_s).toInt(),
                                .openings = ask.on(u"chkBaseAdd"_s),
                                .lastYear = ask.on(u"chkLastYear"_s),
-                               .building = askedBuilding(ask),
+                               .building = chosenBuilding(ask, apartment),
                                .dong = ask.text(u"txtDong"_s),
                                .ho = ask.text(u"txtHo"_s)},
-                              scratch) &&
+                              scratch, into.note) &&
                 readList(session, ask, scratch, into);
   } catch (const jet::Error& error) {
     session.prompts.ErrorBox(u"데이터를 집계하는 중 오류가 발생했습니다."_s, error.number(),
@@ -79,42 +67,22 @@ void readAptBaln(Session& session, const BriefAsk& ask, const BriefTeller&, Brie
 }
 
 QStringList heading(const BriefAsk& ask, const BriefRows& rows) {
-  const QString building = askedBuilding(ask);
-  return {u"아파트= '( 아파트명: "_s + (building.isEmpty() ? everyApartment : building) + u" )    '"_s,
+  const QString building = chosenBuilding(ask, apartment);
+  return {u"아파트= '( 아파트명: "_s + (building.isEmpty() ? u"전체"_s : building) + u" )    '"_s,
           u"기준월= '"_s + ask.text(u"CboMon"_s) + u"월'"_s,
           u"미수= '"_s + vb::Format(rows.figures.value(0).toDouble(), u"#,##0"_s) + u'\''};
 }
 
 std::vector<BriefQuestion> questions() {
-  return {{.kind = AskKind::Month,
-           .name = u"CboMon"_s,
-           .label = u"기준월"_s,
-           .help = u"이 달까지의 청구와 미수를 조회합니다"_s},
-          {.kind = AskKind::Choice,
-           .name = u"CboBDName"_s,
-           .label = u"아파트명"_s,
-           .help = u"조회할 아파트를 선택합니다"_s,
-           .entries = apartments},
-          {.kind = AskKind::Text,
-           .name = u"txtDong"_s,
-           .label = u"동"_s,
-           .help = u"동을 입력하면 그 동만 조회합니다"_s},
-          {.kind = AskKind::Text,
-           .name = u"txtHo"_s,
-           .label = u"호"_s,
-           .help = u"호를 입력하면 그 호만 조회합니다"_s},
-          {.kind = AskKind::Text,
-           .name = u"txtFilter"_s,
-           .label = u"찾기"_s,
-           .help = u"이 글자가 들어 있는 줄만 보여 줍니다"_s},
-          {.kind = AskKind::Check,
-           .name = u"chkBaseAdd"_s,
-           .label = u"기초포함"_s,
-           .help = u"기초에 입력한 미수도 한 줄로 보여 줍니다"_s},
-          {.kind = AskKind::Check,
-           .name = u"chkLastYear"_s,
-           .label = u"작년포함"_s,
-           .help = u"작년 12월부터 거슬러 올라가 작년의 청구도 보여 줍니다"_s},
+  return {{AskKind::Month, u"CboMon"_s, u"기준월"_s, u"이 달까지의 청구와 미수를 조회합니다"_s},
+          {AskKind::Choice, apartment, u"아파트명"_s, u"조회할 아파트를 선택합니다"_s,
+           [](const Session& session, int) { return buildingsOf(session, int(HouseStyle::Apartment)); }},
+          askDong(),
+          askHo(),
+          {AskKind::Text, u"txtFilter"_s, u"찾기"_s, u"이 글자가 들어 있는 줄만 보여 줍니다"_s},
+          {AskKind::Check, u"chkBaseAdd"_s, u"기초포함"_s, u"기초에 입력한 미수도 한 줄로 보여 줍니다"_s},
+          {AskKind::Check, u"chkLastYear"_s, u"작년포함"_s,
+           u"작년 12월부터 거슬러 올라가 작년의 청구도 보여 줍니다"_s},
           {.kind = AskKind::Check,
            .name = u"chkOnlyOpen"_s,
            .label = u"미수만"_s,
@@ -136,7 +104,7 @@ std::vector<BriefColumn> columns() {
           {.header = u"연체료"_s, .width = 10, .look = Money, .staged = u"Lng03"_s, .sum = true},
           {.header = u"청구액"_s, .width = 12, .look = Money, .staged = u"Lng04"_s, .sum = true},
           {.header = u"미수잔액"_s, .width = 12, .look = Money, .staged = u"Lng05"_s, .sum = true},
-          {.header = u"비고"_s, .width = 26, .staged = u"Str05"_s}};
+          {.header = u"비고"_s, .width = 18, .staged = u"Str05"_s}};
 }
 
 }  // namespace
@@ -148,6 +116,9 @@ QString aptBalnFile() {
 Brief aptBalnBrief() {
   return {.form = u"FrmAptBaln_rpt"_s,
           .caption = u"아파트 미수현황"_s,
+          .searchButton = u"btnSearch"_s,
+          .excelButton = u"btnExcel"_s,
+          .sheet = u"Sheet1"_s,
           .questions = questions(),
           .pages = {{.key = u"list"_s,
                      .grid = u"spList"_s,

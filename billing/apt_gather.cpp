@@ -41,7 +41,7 @@ class Gathering {
         scratch_(scratch),
         year_(session.dbYear.path().section(u'\\', -1).left(4).toInt()) {}
 
-  bool run();
+  bool run(QString& note);
 
  private:
   bool readRows(const jet::Database& book, int year, int month, bool openings);
@@ -164,14 +164,13 @@ void Gathering::write(qint64 code, const std::vector<AptRow>& rows, const LateRa
   }
 }
 
-bool Gathering::run() {
+bool Gathering::run(QString& note) {
   if (!readRateBook(session_)) return false;
+  const jet::Database before = ask_.lastYear ? openYear(session_, year_ - 1) : jet::Database();
+  if (ask_.lastYear && !before.isOpen()) note = u"작년 파일을 읽을 수 없어 올해만 조회했습니다"_s;
   // An opening row holds what the year before left: beside that year's own rows it would stand twice.
-  if (!readRows(session_.dbYear, year_, ask_.month, ask_.openings && !ask_.lastYear)) return false;
-  if (ask_.lastYear) {
-    const jet::Database before = openYear(session_, year_ - 1);
-    if (before.isOpen() && !readRows(before, year_ - 1, 12, ask_.openings)) return false;
-  }
+  if (!readRows(session_.dbYear, year_, ask_.month, ask_.openings && !before.isOpen())) return false;
+  if (before.isOpen() && !readRows(before, year_ - 1, 12, ask_.openings)) return false;
   const LateRates rates(session_, HouseStyle::Apartment, true);
   const AptRules rules{session_.AfterDueMethod, companyPayState(session_)};
   session_.wsMain.Together({scratch_}, [&] {
@@ -184,6 +183,6 @@ bool Gathering::run() {
 
 }  // namespace
 
-bool gatherAptBaln(Session& session, const AptAsk& ask, const jet::Database& scratch) {
-  return Gathering(session, ask, scratch).run();
+bool gatherAptBaln(Session& session, const AptAsk& ask, const jet::Database& scratch, QString& note) {
+  return Gathering(session, ask, scratch).run(note);
 }

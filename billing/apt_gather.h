@@ -13,5 +13,6 @@ struct AptAsk {
   QString building, dong, ho;  ///< '' for all
 };
 
-/** Empties AptBaln and fills it. False after a failed query has been told. Throws jet::Error. */
-bool gatherAptBaln(Session& session, const AptAsk& ask, const jet::Database& scratch);
+/** Empties AptBaln and fills it. note: what the operator should know of these lines, '' for nothing. False after a failed
+ *  query has been told. Throws jet::Error. */
+bool gatherAptBaln(Session& session, const AptAsk& ask, const jet::Database& scratch, QString& note);

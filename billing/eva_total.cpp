@@ -4,6 +4,7 @@
 #include <cmath>
 #include <optional>
 
+#include "billing/household_questions.h"
 #include "billing/reading_name.h"
 #include "billing/reading_sheet.h"
 #include "store/data_access.h"
@@ -18,7 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString totalManager = u"검침 관리자"_s;
-const QString everyBuilding = u"전체"_s;
 
 /** What is asked for, read from the answers. */
 struct EvaTotalAsk {
@@ -36,7 +36,7 @@ struct EvaTotalAsk {
         toMonth(ask.to(u"CboMon"_s).toInt()),
         fromDay(stored(session, ask.from(u"TxtDay"_s))),
         toDay(stored(session, ask.to(u"TxtDay"_s))),
-        building(ask.place(u"CboGubun"_s) > 0 ? ask.text(u"CboGubun"_s) : QString()),
+        building(chosenBuilding(ask, u"CboGubun"_s)),
         dong(ask.text(u"txtDong"_s)),
         ho(ask.text(u"txtHo"_s)) {}
 
@@ -174,22 +174,10 @@ void readEvaTotal(Session& session, const BriefAsk& asked, const BriefTeller&, B
                   QString::number(sums.remain)};
 }
 
-QStringList buildings(const Session& session, int book) {
-  if (HouseStyle(book) == HouseStyle::Individual) return {};
-  QStringList entries{everyBuilding};
-  jet::Recordset rs;
-  if (!OpenSnapshot(session.prompts, session.dbYear, rs,
-                    "Select Distinct BDName From Client Where VolumeYesNo = True And HouseStyle = " +
-                        QString::number(book)))
-    return entries;
-  for (; !rs.atEnd(); rs.MoveNext())
-    if (const QString name = rs[u"BDName"_s].toText(); !name.isEmpty()) entries << name;
-  return entries;
-}
-
 QStringList formulas(const BriefAsk& asked, const BriefRows& rows) {
   const QString all[] = {u"일반주택/식당"_s, u"아파트 전체"_s, u"다가구 전체"_s};
-  const QString what = asked.place(u"CboGubun"_s) > 0 ? asked.text(u"CboGubun"_s) : all[asked.page];
+  const QString building = chosenBuilding(asked, u"CboGubun"_s);
+  const QString what = building.isEmpty() ? all[asked.page] : building;
   const auto won = [&](int figure) { return wonText(rows.figures.value(figure)); };
   return {u"구분= '"_s + what + u'\'',
           u"기간= '"_s + rows.figures.value(0) + u'\'',
@@ -242,20 +230,10 @@ Brief evaTotalBrief() {
                          .name = u"CboGubun"_s,
                          .label = u"건물구분"_s,
                          .help = u"조회할 건물을 선택합니다"_s,
-                         .entries = buildings,
+                         .entries = buildingsOf,
                          .pages = {1, 2}},
-                        {.kind = AskKind::Text,
-                         .name = u"txtDong"_s,
-                         .label = u"동"_s,
-                         .help = u"동을 입력하면 그 동만 조회합니다"_s,
-                         .pages = {1, 2},
-                         .anew = true},
-                        {.kind = AskKind::Text,
-                         .name = u"txtHo"_s,
-                         .label = u"호"_s,
-                         .help = u"호를 입력하면 그 호만 조회합니다"_s,
-                         .pages = {1, 2},
-                         .anew = true},
+                        askDong({1, 2}, true),
+                        askHo({1, 2}, true),
                         {.kind = AskKind::MonthPeriod,
                          .name = u"CboMon"_s,
                          .label = u"조회기간"_s,

@@ -93,7 +93,9 @@ QWidget* BriefForm::questionRow() {
   row->setSpacing(5);
   asks_ = new BriefAsks(*this, context_, run_);
   row->addWidget(asks_, 1);
-  if (!isLedger()) row->addWidget(addButton("BtnRefresh", u"조회"_s, [this] { refresh(); }));
+  if (!isLedger())
+    row->addWidget(
+        addButton(run_.brief().searchButton.toUtf8().constData(), u"조회"_s, [this] { refresh(); }));
   enterOrder(asks_->boxes(), [this] { refresh(); });
   asks_->watchPicks();
   return panel;
@@ -112,8 +114,10 @@ QWidget* BriefForm::footRow() {
   line->addStretch(1);
   if (run_.brief().printButton) line->addWidget(addButton("BtnPrt", u"인쇄"_s, [this] { print(); }));
   if (!isLedger())
-    line->addWidget(addButton("BtnExcel", u"엑셀"_s,
-                              [this] { ExportToExcelFile(session(), run_.grid(page()), windowTitle()); }));
+    line->addWidget(addButton(run_.brief().excelButton.toUtf8().constData(), u"엑셀"_s, [this] {
+      const QString& sheet = run_.brief().sheet;
+      ExportToExcelFile(session(), run_.grid(page()), sheet.isEmpty() ? windowTitle() : sheet);
+    }));
   if (chart_) line->addWidget(addButton("BtnChart", u"그래프"_s, [this] { turnChart(); }));
   line->addWidget(addButton("BtnExit", u"닫기"_s, [this] { close(); }));
   return row;

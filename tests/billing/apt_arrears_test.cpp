@@ -185,6 +185,14 @@ TEST_F(AptBaln, LastYearsMonthsTakeWhatIsOlder) {
   const Answers asked{{"CboBDName", "한빛"}};
   EXPECT_EQ(lines(asked, {AptCol::Month, AptCol::Open, AptCol::Note}),
             (QStringList{"2026-01|28410|이전 미수 7,500 포함", "2026-02|11220|", "2026-03|16390|"}));
+  set(general, 0, "UseMuch = 1, Total = 7500, Trust = 7500");
+  EXPECT_EQ(lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}, {"chkLastYear", "1"}}),
+            lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}}))
+      << "without last year's file this year's opening row stands";
+  EXPECT_TRUE(load({{"chkLastYear", "1"}}));
+  EXPECT_EQ(list.rows(0).note, "작년 파일을 읽을 수 없어 올해만 조회했습니다");
+  EXPECT_TRUE(load({}));
+  EXPECT_EQ(list.rows(0).note, "");
   makeYearFile(session, "2025");
   ASSERT_TRUE(upgrades::relink(session));
   {
@@ -209,7 +217,6 @@ TEST_F(AptBaln, LastYearsMonthsTakeWhatIsOlder) {
   session.DelayCalcFlag = "1";
   EXPECT_EQ(lines(asked, {AptCol::Delay}).first(), "70");
   session.DelayCalcFlag = "0";
-  set(general, 0, "UseMuch = 1, Total = 7500, Trust = 7500");
   EXPECT_EQ(lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}}).first(), "한빛|11|2026-00|7500");
   EXPECT_EQ(lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}, {"chkLastYear", "1"}}),
             (QStringList{"한빛|11|2025-00|0", "한빛|11|2025-11|1800", "한빛|11|2025-12|5700",
