@@ -1,5 +1,5 @@
-// The newcomer's first look where there is no display: plays the sample day and the sample month and tells what
-// happened.
+// The newcomer's first look where there is no display: plays the sample day and month, or the turn of the year, and tells
+// what happened.
 #include <QCoreApplication>
 #include <QDir>
 #include <QTextStream>
@@ -8,14 +8,15 @@
 #include "pc/program_line.h"
 #include "samples/day.h"
 #include "samples/month.h"
+#include "samples/year_end.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr pc::ProgramLine programLine{
-    "play_samples", "PROGRAMS PC OUT",
-    "Plays the sample day and month on a virtual screen and tells what they did.\n"
+    "play_samples", "day|year PROGRAMS PC OUT",
+    "Plays the sample day and month, or the turn of the year, on a virtual screen and tells what they did.\n"
     "  PROGRAMS   folder of haeon and jetsql\n"
     "  PC         folder with the books that make_books has made\n"
     "  OUT        folder for the screenshots and the slips"};
@@ -55,16 +56,35 @@ void playDay(const samples::Stage::Options& options) {
   out() << "full 20 kg cylinders in the month (opening, bought, sold, closing)\n  " << report.stock << '\n';
 }
 
+/** The stage of a play that moves the clock on. */
+std::function<samples::Stage::Options(const QString&)> atClock(const samples::Stage::Options& options) {
+  return [options](const QString& clock) {
+    samples::Stage::Options own = options;
+    own.clock = clock;
+    own.pdf = QDir(options.pictures).absoluteFilePath("slips.pdf");
+    return own;
+  };
+}
+
+void playYearEnd(const samples::Stage::Options& options) {
+  const samples::YearEndReport report = samples::playYearEnd(atClock(options), tell);
+  out() << "\nrows of the new book's January with arrears: " << report.carried
+        << "\nhouseholds of the block: December's bill; January's arrears, late charge and bill, won\n";
+  for (const char* const head : {"room", "December", "arrears", "late", "issued"}) out() << column(head, 12);
+  out() << '\n';
+  for (qsizetype at = 0; at < 6; ++at) {
+    const samples::MonthBill &december = report.december[at], &january = report.january[at];
+    out() << column(december.name.section(u' ', -1).remove(u'호'), 12);
+    for (const qint64 figure : {december.issued, january.arrears, january.late, january.issued})
+      out() << column(QString::number(figure), 12);
+    out() << '\n';
+  }
+  out() << column("...", 12) << '\n';
+}
+
 void playMonth(const samples::Stage::Options& options) {
   out() << "\n";
-  const samples::MonthReport report = samples::playMonth(
-      [&](const QString& clock) {
-        samples::Stage::Options own = options;
-        own.clock = clock;
-        own.pdf = QDir(options.pictures).absoluteFilePath("slips.pdf");
-        return own;
-      },
-      tell);
+  const samples::MonthReport report = samples::playMonth(atClock(options), tell);
   out() << "\nhouseholds of the block, March in won; then what April opens with\n";
   const QStringList heads{"room", "use", "gas", "arrears", "late", "fee", "issued", "paid", "April"};
   for (const QString& head : heads) out() << column(head, 10);
@@ -85,15 +105,20 @@ int main(int argc, char** argv) {
   if (pc::saidOfItself(programLine, argc, argv)) return 0;
   QCoreApplication application(argc, argv);
   const QStringList arguments = application.arguments();
-  if (arguments.size() != 4) return pc::wrongUse(programLine);
+  const QString play = arguments.value(1);
+  if (arguments.size() != 5 || (play != u"day" && play != u"year")) return pc::wrongUse(programLine);
   samples::Stage::Options options;
-  options.programs = arguments[1];
-  options.pcRoot = arguments[2];
+  options.programs = arguments[2];
+  options.pcRoot = arguments[3];
   options.clock = QString::fromLatin1(samples::dayClock);
-  options.pictures = arguments[3];
+  options.pictures = arguments[4];
   try {
-    playDay(options);
-    playMonth(options);
+    if (play == u"year") {
+      playYearEnd(options);
+    } else {
+      playDay(options);
+      playMonth(options);
+    }
   } catch (const std::runtime_error& failure) {
     out() << "the play stopped: " << failure.what() << Qt::endl;
     return 1;
