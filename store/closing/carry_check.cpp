@@ -1,6 +1,7 @@
 #include "store/closing/carry_check.h"
 
 #include <QMap>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,12 @@ QMap<qint64, CarriedBill>& read(QMap<qint64, CarriedBill>& bills, const jet::Dat
   return bills;
 }
 
+/** A statement carries 15 digits of a fraction. */
+bool isSameWon(double one, double other) {
+  constexpr double slack = 0.001;
+  return std::abs(one - other) < slack;
+}
+
 }  // namespace
 
 CarryCheck checkCarry(const jet::Database& year, const jet::Database& next) {
@@ -30,7 +37,7 @@ CarryCheck checkCarry(const jet::Database& year, const jet::Database& next) {
   CarryCheck check;
   for (const CarriedBill& bill : bills) {
     check.customers += bill.december.has_value();
-    const bool carried = bill.december ? bill.january == bill.december : bill.january == 0.0;
+    const bool carried = bill.january && isSameWon(*bill.january, bill.december.value_or(0));
     if (!carried) check.differing.push_back(bill);
   }
   return check;

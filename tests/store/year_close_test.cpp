@@ -73,9 +73,12 @@ TEST_F(YearClose, ABookWithoutDecemberHasItsMonthsAndNoArrears) {
   EXPECT_EQ(shown->customers, 4);
 }
 
-TEST_F(YearClose, ANullOfAnOldBookIsCarriedAsNothing) {
+TEST_F(YearClose, ANullIsCarriedAsNothingAndAFractionMakesNoDifference) {
   set(owes, 12, "Total = Null, UseGage = Null");
+  set(late, 12, "Total = 0.1 + 0.2");  // 0.30000000000000004, of which a statement carries 0.3
   closeWell();
+  EXPECT_FALSE(differed);
+  EXPECT_EQ(opening(late, 1), "0|0.3|0|0|0|0");
   EXPECT_EQ(opening(owes, 0), "0|5000|0|0|0|0");
   EXPECT_EQ(opening(owes, 1), "0|0|0|0|0|0");
 }
