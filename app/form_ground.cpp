@@ -13,7 +13,8 @@ Ground::Ground(Session& session, QWidget* parent)
   setObjectName(u"picHolder"_s);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  setContextMenuPolicy(Qt::NoContextMenu);  // the press itself opens the menu
+  setContextMenuPolicy(Qt::NoContextMenu);     // the press itself opens the menu
+  setActivationOrder(ActivationHistoryOrder);  // a form that closes leads back to where it was opened from
   buildMenu();
   LoadMainBG();
 }
