@@ -12,9 +12,9 @@ double roundToTen(double won, std::optional<int> payState) {
   if (const qsizetype point = text.indexOf(u'.'); point >= 0) text.truncate(point);
   const double whole = vb::CCur(vb::CDbl(text));
   const int digit = text.back().digitValue();
-  if (whole == 0 || digit == 0 || !payState) return whole == 0 ? 0 : whole;
+  if (whole == 0 || digit == 0) return whole == 0 ? 0 : whole;
   // Kept: the digit has no sign, so -123 rounds down to -126 and up to -116.
-  switch (*payState) {
+  switch (payState.value_or(3)) {
     case 1:
       return whole - digit;
     case 2:

@@ -165,7 +165,7 @@ TEST(Options, ANewNameGetsItsRowAndAnApostropheIsTold) {
 TEST(Rounding, ReadsTheCompanysRule) {
   TestPc here;
   here.openBooks();
-  EXPECT_EQ(RoundByPayState(here.session, 1234), 1234) << "no company yet";
+  EXPECT_EQ(RoundByPayState(here.session, 1234), 1230) << "no company yet: half up";
   here.session.dbBasic.Execute(u"Insert Into User(Company, User) Values('가스', '홍')"_s);
   EXPECT_EQ(RoundByPayState(here.session, 1234), 0) << "no rule chosen";
   here.session.dbBasic.Execute(u"Update User Set PayState = 2"_s);

@@ -33,7 +33,8 @@ TEST(Rounding, KeptHabits) {
   EXPECT_EQ(roundToTen(1234, 0), 0);
   EXPECT_EQ(roundToTen(1234, 4), 0);
   EXPECT_EQ(roundToTen(1230, 4), 1230) << "nothing to round, no rule asked";
-  EXPECT_EQ(roundToTen(1234.7, std::nullopt), 1234);
+  EXPECT_EQ(roundToTen(1234.7, std::nullopt), 1230) << "no company row: half up";
+  EXPECT_EQ(roundToTen(1235, std::nullopt), 1240);
   EXPECT_EQ(roundToTen(1239.9999999999998, 1), 1240) << "read to 15 digits before the fraction is dropped";
   EXPECT_THROW(roundToTen(1e15, 1), jet::Error);
 }
