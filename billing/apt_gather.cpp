@@ -154,8 +154,7 @@ void Gathering::write(qint64 code, const std::vector<AptRow>& rows, const LateRa
         u"INSERT INTO AptBaln(ccode, bdname, dong, ho, dealdate, use, PreMuch, UseMuch, fee, manage, total, delay, baln, bigo)"_s +
         u" VALUES ("_s + QString::number(code) + u", "_s + quoted(row.building, 20) + u", "_s +
         quoted(row.dong, 10) + u", "_s + quoted(row.ho, 4) + u", '"_s +
-        QStringLiteral("%1-%2").arg(row.year, 4, 10, QChar(u'0')).arg(row.month, 2, 10, QChar(u'0')) +
-        u"', "_s +
+        u"%1-%2"_s.arg(row.year, 4, 10, QChar(u'0')).arg(row.month, 2, 10, QChar(u'0')) + u"', "_s +
         QStringList{number(row.reading), number(vb::CCur(row.reading - row.use)), number(row.use),
                     number(row.usePay), number(row.manage), number(open.billed), number(late),
                     number(balance)}

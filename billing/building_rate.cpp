@@ -4,13 +4,14 @@
 #include "store/session.h"
 #include "store/settings_table.h"
 
+using namespace Qt::StringLiterals;
+
 double GetBuildingDelayPay(Session& session, qint64 code) {
   jet::Recordset rs;
   const QString sql =
-      QStringLiteral(
-          "SELECT delaypay "
-          "FROM Client LEFT JOIN apt ON (Client.BDName = apt.Name and client.Dong = apt.Dong )"
-          " WHERE client.Code = ") +
+      u"SELECT delaypay "
+      "FROM Client LEFT JOIN apt ON (Client.BDName = apt.Name and client.Dong = apt.Dong )"
+      " WHERE client.Code = "_s +
       QString::number(code);
   if (!OpenSnapshot(session.prompts, session.dbBasic, rs, sql) || rs.atEnd()) return 0;
   return rs[0].toDouble();
@@ -25,9 +26,9 @@ LateRates::LateRates(Session& session, HouseStyle book, bool buildingsToo)
     : ofBook_(session.rates.of(book).rate) {
   if (!buildingsToo || book != HouseStyle::Apartment) return;
   jet::Recordset rs;
-  const QString sql = QStringLiteral(
-      "SELECT Client.Code, delaypay "
-      "FROM apt INNER JOIN Client ON (Client.BDName = apt.Name and client.Dong = apt.Dong )");
+  const QString sql =
+      u"SELECT Client.Code, delaypay "
+      "FROM apt INNER JOIN Client ON (Client.BDName = apt.Name and client.Dong = apt.Dong )"_s;
   if (!OpenSnapshot(session.prompts, session.dbBasic, rs, sql)) return;
   for (; !rs.atEnd(); rs.MoveNext()) {
     const qint64 code = rs[0].toLong();
@@ -41,7 +42,7 @@ double LateRates::of(qint64 code) const {
 }
 
 bool showsBlocks(const Session& session) {
-  return session.pc.settings.read(setting::BlocksShown) != QStringLiteral("0");
+  return session.pc.settings.read(setting::BlocksShown) != "0"_L1;
 }
 
 // Kept: exactly four characters go, also of "아파트 전체" and of a block whose name is not three characters long.

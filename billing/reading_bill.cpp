@@ -13,6 +13,8 @@
 #include "store/vb.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** The month before was paid after its due date without the late charge. */
@@ -37,7 +39,7 @@ std::optional<double> usePayOf(Session& session, const jet::Database& year, cons
 
 std::optional<double> baseOf(const ReadingSheet& sheet, int row) {
   Session& session = sheet.session;
-  const bool oneMonthOnly = session.DelayCalcFlag == QStringLiteral("1");
+  const bool oneMonthOnly = session.DelayCalcFlag == "1"_L1;
   const PastGas past{.lastDecember = [&](double otherwise) -> std::optional<double> {
                        const jet::Database december = openYear(session, session.pc.clock.today().year() - 1);
                        if (!december.isOpen()) return {};

@@ -7,5 +7,5 @@
 /** The name in the individual book, "101동 203호" in the books of buildings. */
 inline QString readingName(HouseStyle book, const QString& name, const QString& dong, const QString& ho) {
   if (book == HouseStyle::Individual) return name;
-  return dong + QStringLiteral("동 ") + ho + QStringLiteral("호");
+  return dong + "동 " + ho + "호";
 }

@@ -5,6 +5,8 @@
 #include "store/vb.h"
 #include "ui/model/column.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int lockedCell = 0xEEF2F6;  // pale sky: not for typing
@@ -60,7 +62,7 @@ ReadingSheet::ReadingSheet(Session& of) : session(of) {
 
 QString ReadingSheet::monthText() const {
   if (month < 0) return {};
-  return isOpening() ? QStringLiteral("기초") : twoDigits(month);
+  return isOpening() ? u"기초"_s : twoDigits(month);
 }
 
 QString ReadingSheet::buildingEntry() const {
@@ -72,7 +74,7 @@ int ReadingSheet::calendarMonth() const {
 }
 
 QString ReadingSheet::today() const {
-  return session.pc.clock.today().toString(QStringLiteral("MM/dd"));
+  return session.pc.clock.today().toString(u"MM/dd"_s);
 }
 
 double ReadingSheet::number(int row, int col) const {
@@ -86,42 +88,42 @@ void ReadingSheet::setNumber(int row, int col, double value) {
 QString bookCaption(HouseStyle book) {
   switch (book) {
     case HouseStyle::Apartment:
-      return QStringLiteral("체적아파트");
+      return u"체적아파트"_s;
     case HouseStyle::MultiHousehold:
-      return QStringLiteral("체적다가구");
+      return u"체적다가구"_s;
     case HouseStyle::Individual:
       break;
   }
-  return QStringLiteral("체적일반");
+  return u"체적일반"_s;
 }
 
 QString readingHelp(int col) {
   switch (col) {
     case EvaCol::Name:
-      return QStringLiteral("거래처명은 수정할 수 없습니다");
+      return u"거래처명은 수정할 수 없습니다"_s;
     case EvaCol::PrevUseGage:
-      return QStringLiteral("전월 검침량은 수정할 수 없습니다");
+      return u"전월 검침량은 수정할 수 없습니다"_s;
     case EvaCol::UseGage:
       // Kept: nothing refuses the reading of another month.
-      return QStringLiteral("현재달 이외의 검침량은 수정할 수 없습니다, 검침원 입력:F5");
+      return u"현재달 이외의 검침량은 수정할 수 없습니다, 검침원 입력:F5"_s;
     case EvaCol::UseMuch:
-      return QStringLiteral("당월의 가스사용량은 나타내며 수정할 수 없습니다");
+      return u"당월의 가스사용량은 나타내며 수정할 수 없습니다"_s;
     case EvaCol::UsePay:
-      return QStringLiteral("당월의 가스사용금액을 나타내며 수정할 수 없습니다");
+      return u"당월의 가스사용금액을 나타내며 수정할 수 없습니다"_s;
     case EvaCol::Trust:
-      return QStringLiteral("전월의 발행금액을 나타내며 수정할 수 없습니다");
+      return u"전월의 발행금액을 나타내며 수정할 수 없습니다"_s;
     case EvaCol::Manage:
-      return QStringLiteral("현재 설정된 안전관리비입니다");
+      return u"현재 설정된 안전관리비입니다"_s;
     case EvaCol::Total:
-      return QStringLiteral("발행금액 = 당월금액 + 미수금 + 연체료 + 안전관리비 - 당월수금");
+      return u"발행금액 = 당월금액 + 미수금 + 연체료 + 안전관리비 - 당월수금"_s;
     case EvaCol::Pay:
-      return QStringLiteral("당월의 수금액을 조회/입력합니다,  수금원 입력:F5");
+      return u"당월의 수금액을 조회/입력합니다,  수금원 입력:F5"_s;
     case EvaCol::Prnt:
-      return QStringLiteral("지로용지 발행여부를 나타냅니다");
+      return u"지로용지 발행여부를 나타냅니다"_s;
     case EvaCol::TrustDay:
-      return QStringLiteral("수금일자를 입력/수정합니다");
+      return u"수금일자를 입력/수정합니다"_s;
     case EvaCol::PayDelayed:
-      return QStringLiteral("납기후에 수금한 경우 체크해 주세요.(단, 수금액에 연체료 미포함시만 해당)");
+      return u"납기후에 수금한 경우 체크해 주세요.(단, 수금액에 연체료 미포함시만 해당)"_s;
     default:
       return {};
   }
