@@ -5,39 +5,34 @@
 #include <QLibrary>
 #include <QStringList>
 
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace pc {
 
+namespace {
+
+constexpr std::pair<int, QStringView> failureTexts[] = {
+    {netAccessDenied, u"접근 불가"},
+    {netAlreadyAssigned, u"이미 연결되어 있는 경로입니다."},
+    {netBadDeviceType, u"장치 유형과 자원 유형이 일치하지 않습니다."},
+    {netBadDevice, u"선택하신 경로가 유효하지 않습니다."},
+    {netBadNetName, u"선택하신 경로가 유효하지 않거나 존재하지 않습니다."},
+    {netBadProfile, u"사용자 프로파일을 열 수 없습니다."},
+    {netCannotOpenProfile, u"사용자 프로파일을 열 수 없습니다."},
+    {netAlreadyRemembered, u"선택하신 경로가 이미 다른 사용자 프로파일에서 사용중입니다."},
+    {netInvalidPassword, u"사용자 암호가 유효하지 않습니다."},
+    {netNoNetOrBadPath, u"네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다."},
+    {netNoNetwork, u"네트워크가 존재하지 않습니다."}};
+
+}  // namespace
+
 QString networkFailureText(int failure) {
-  switch (failure) {
-    case 0:
-      return {};
-    case netAccessDenied:
-      return u"접근 불가"_s;
-    case netAlreadyAssigned:
-      return u"이미 연결되어 있는 경로입니다."_s;
-    case netBadDeviceType:
-      return u"장치 유형과 자원 유형이 일치하지 않습니다."_s;
-    case netBadDevice:
-      return u"선택하신 경로가 유효하지 않습니다."_s;
-    case netBadNetName:
-      return u"선택하신 경로가 유효하지 않거나 존재하지 않습니다."_s;
-    case netBadProfile:
-    case netCannotOpenProfile:
-      return u"사용자 프로파일을 열 수 없습니다."_s;
-    case netAlreadyRemembered:
-      return u"선택하신 경로가 이미 다른 사용자 프로파일에서 사용중입니다."_s;
-    case netInvalidPassword:
-      return u"사용자 암호가 유효하지 않습니다."_s;
-    case netNoNetOrBadPath:
-      return u"네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다."_s;
-    case netNoNetwork:
-      return u"네트워크가 존재하지 않습니다."_s;
-    case netExtendedError:
-    default:
-      return u"네트워크 상에 오류가 발생했습니다."_s;
-  }
+  if (failure == 0) return {};
+  const auto* const known = std::ranges::find(failureTexts, failure, &std::pair<int, QStringView>::first);
+  return known == std::end(failureTexts) ? u"네트워크 상에 오류가 발생했습니다."_s : known->second.toString();
 }
 
 #ifdef Q_OS_WIN

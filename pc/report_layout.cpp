@@ -229,46 +229,54 @@ void readLabels(LayoutReader& words, ReportLayout& layout) {
   } while (!words.atEnd());
 }
 
+using ReadWord = void (*)(LayoutReader& words, ReportLayout& layout);
+
+template <ReportLines ReportLayout::*band>
+void readBandLine(LayoutReader& words, ReportLayout& layout) {
+  (layout.*band).push_back(readLine(words, layout.font.points));
+}
+
+void readOrder(LayoutReader& words, ReportLayout& layout) {
+  layout.tables.order << liveField(words.word(u"칸이"), layout);
+}
+
+void readRowHeight(LayoutReader& words, ReportLayout& layout) {
+  layout.rowPoints = words.number(u"줄의 높이가", 6, 100);
+}
+
+void readSubtotal(LayoutReader& words, ReportLayout& layout) {
+  layout.subtotal = words.quoted(u"소계의 이름이");
+}
+
+void readTotal(LayoutReader& words, ReportLayout& layout) {
+  layout.total = words.quoted(u"합계의 이름이");
+}
+
 void readLayoutLine(const QString& text, ReportLayout& layout) {
+  static const std::map<QString, ReadWord> readers = {{u"title"_s, readBandLine<&ReportLayout::title>},
+                                                      {u"next"_s, readBandLine<&ReportLayout::next>},
+                                                      {u"summary"_s, readBandLine<&ReportLayout::summary>},
+                                                      {u"foot"_s, readBandLine<&ReportLayout::foot>},
+                                                      {u"table"_s, readTable},
+                                                      {u"join"_s, readJoin},
+                                                      {u"order"_s, readOrder},
+                                                      {u"value"_s, readValue},
+                                                      {u"label"_s, readLabels},
+                                                      {u"paper"_s, readPaper},
+                                                      {u"margins"_s, readMargins},
+                                                      {u"font"_s, readFont},
+                                                      {u"row"_s, readRowHeight},
+                                                      {u"column"_s, readColumn},
+                                                      {u"span"_s, readSpan},
+                                                      {u"group"_s, readGroup},
+                                                      {u"subtotal"_s, readSubtotal},
+                                                      {u"total"_s, readTotal}};
   LayoutReader words(wordsOf(text));
   if (words.atEnd()) return;
-  const std::map<QString, ReportLines*> bands = {{u"title"_s, &layout.title},
-                                                 {u"next"_s, &layout.next},
-                                                 {u"summary"_s, &layout.summary},
-                                                 {u"foot"_s, &layout.foot}};
   const QString kind = words.word(u"");
-  if (const auto band = bands.find(kind); band != bands.end())
-    band->second->push_back(readLine(words, layout.font.points));
-  else if (kind == "table"_L1)
-    readTable(words, layout);
-  else if (kind == "join"_L1)
-    readJoin(words, layout);
-  else if (kind == "order"_L1)
-    layout.tables.order << liveField(words.word(u"칸이"), layout);
-  else if (kind == "value"_L1)
-    readValue(words, layout);
-  else if (kind == "label"_L1)
-    readLabels(words, layout);
-  else if (kind == "paper"_L1)
-    readPaper(words, layout);
-  else if (kind == "margins"_L1)
-    readMargins(words, layout);
-  else if (kind == "font"_L1)
-    readFont(words, layout);
-  else if (kind == "row"_L1)
-    layout.rowPoints = words.number(u"줄의 높이가", 6, 100);
-  else if (kind == "column"_L1)
-    readColumn(words, layout);
-  else if (kind == "span"_L1)
-    readSpan(words, layout);
-  else if (kind == "group"_L1)
-    readGroup(words, layout);
-  else if (kind == "subtotal"_L1)
-    layout.subtotal = words.quoted(u"소계의 이름이");
-  else if (kind == "total"_L1)
-    layout.total = words.quoted(u"합계의 이름이");
-  else
-    throw ReportError{u"모르는 낱말 '"_s + kind + u"'이(가) 있습니다"_s};
+  const auto reader = readers.find(kind);
+  if (reader == readers.end()) throw ReportError{u"모르는 낱말 '"_s + kind + u"'이(가) 있습니다"_s};
+  reader->second(words, layout);
   words.finish();
 }
 
