@@ -104,6 +104,8 @@ void drawPaper(PrintJob& job, const PaperForm& form, const PaperShift& shift, in
                std::span<const QString> texts, std::span<const QStringList> lines) {
   const PrintFont before = job.font();
   Pen pen(job, form, shift, place);
+  for (const PaperRow& row : form.rows)
+    for (const PaperItem& item : row.items) pen.put(item, texts, row.row);
   for (const PaperItem& item : form.items) pen.put(item, texts, 0);
   const qsizetype shown = qMin(qsizetype(lines.size()), qsizetype(form.lines));
   for (qsizetype line = 0; line < shown; ++line)

@@ -22,7 +22,8 @@ struct PaperFont {
 
 /** One entry of a table, written as {row, column, what} or by one of the makers below, then fitted by the modifiers:
  *      {9, 10, Amount}   at(7, 118, ScanLine).in(scanned)   inches(0.68, 0.51, u"날 짜 :")
- *  what: a member of the enumeration of the paper's texts, or a label. A text that is empty is not put. */
+ *  or, in a PaperRow, without its row. what: a member of the enumeration of the paper's texts, or a label. A text that
+ *  is empty is not put. */
 struct PaperItem {
   enum class Kind : quint8 { Text, Rule, DashedRule, Box };
   enum class Fit : quint8 { AsItIs, Padded, Right, Centred, Cells, Squeezed };
@@ -32,6 +33,10 @@ struct PaperItem {
   constexpr PaperItem(double row, double column, What what, int cut = 0)
       : y(row), x(column), text(int(what)), width(cut) {}
   constexpr PaperItem(double row, double column, QStringView label) : y(row), x(column), label(label) {}
+  template <class What>
+  requires std::is_enum_v<What>
+  constexpr PaperItem(double column, What what, int cut = 0) : PaperItem(0, column, what, cut) {}
+  constexpr PaperItem() = default;
 
   /** In another of the paper's fonts. */
   template <class Font>
@@ -58,7 +63,7 @@ struct PaperItem {
     return made;
   }
 
-  double y, x;            ///< row and column, or inches
+  double y = 0, x = 0;    ///< row and column, or inches
   double y2 = 0, x2 = 0;  ///< a rule's end, a box's right lower corner
   double pitch = 0;       ///< from cell to cell
   QStringView label;      ///< what stands there when text is -1
@@ -83,6 +88,11 @@ struct PaperItem {
 template <class What>
 constexpr PaperItem at(double row, double column, What what) {
   return {row, column, what};
+}
+/** The same in a PaperRow. */
+template <class What>
+constexpr PaperItem at(double column, What what) {
+  return {column, what};
 }
 /** x and y in inches from the left upper corner; what: as in PaperItem. */
 template <class What>
@@ -115,11 +125,18 @@ constexpr PaperItem box(double x1, double y1, double x2, double y2, double point
   return made;
 }
 
+/** What stands in one row of a paper, from left to right: {3, {{9, Total}, {41, AfterDueAmount}}}. */
+struct PaperRow {
+  double row;
+  PaperItem items[8] = {};
+};
+
 struct PaperForm {
   PaperSize paper;
   double rowsPerInch, columnsPerInch;  ///< the grid
   std::span<const PaperFont> fonts;
-  std::span<const PaperItem> items;
+  std::span<const PaperRow> rows = {};  ///< a paper that is told row by row
+  std::span<const PaperItem> items = {};
   int copies = 1;          ///< places on a sheet: two slips, two copies of a statement, labels
   double copyRows = 0;     ///< from one place to the one below it
   int across = 1;          ///< places side by side, filled before those below

@@ -87,21 +87,26 @@ TEST_F(PaperFormTest, ALongTextIsWrittenSmallerBeforeItIsCut) {
   EXPECT_NEAR(record().items[2].font.points, 6.667, 0.001);
 }
 
+TEST_F(PaperFormTest, ATableRowByRow) {
+  constexpr pc::PaperRow rows[] = {{1.5, {{3, Head::Name, 5}, at(20, Head::Sum).in(small)}},
+                                   {2, {{4, Head::Sum}}}};
+  const pc::PaperForm form{.paper = {}, .rowsPerInch = 5, .columnsPerInch = 10, .fonts = fonts, .rows = rows};
+  pc::drawPaper(*job, form, {.rows = 1, .columns = 2}, 0, texts);
+  EXPECT_EQ(places(), (QStringList{"50 50 가람 ", "220 50 1,500", "60 60 1,500"}));
+  EXPECT_EQ(record().items[1].font.points, 7.2);
+}
+
 TEST_F(PaperFormTest, LinesGoDownAndCopiesAsideAndDown) {
   constexpr PaperItem head[] = {{0, 0, Head::Name}};
   constexpr PaperItem line[] = {{2, 0, Row::Item}, {2, 10, Row::Price}};
-  const pc::PaperForm form{.paper = {},
-                           .rowsPerInch = 1,
-                           .columnsPerInch = 1,
-                           .fonts = fonts,
-                           .items = head,
-                           .copies = 4,
-                           .copyRows = 30,
-                           .across = 2,
-                           .copyColumns = 50,
-                           .line = line,
-                           .lines = 2,
-                           .lineRows = 1.5};
+  pc::PaperForm form{.paper = {}, .rowsPerInch = 1, .columnsPerInch = 1, .fonts = fonts, .items = head};
+  form.copies = 4;
+  form.copyRows = 30;
+  form.across = 2;
+  form.copyColumns = 50;
+  form.line = line;
+  form.lines = 2;
+  form.lineRows = 1.5;
   const std::vector<QStringList> lines{{"하나", "1"}, {"둘"}, {"셋", "3"}};
   pc::drawPaper(*job, form, {}, 3, texts, lines);
   EXPECT_EQ(places(), (QStringList{"5000 3000 가람상사", "5000 3200 하나", "6000 3200 1", "5000 3350 둘"}))
