@@ -25,16 +25,28 @@ GiroForm::GiroForm(FormContext& context, const QString& name, const QString& cap
              [&context] { return dynamic_cast<const ReadingScreen*>(context.commands.activeForm()); }) {
   slips_.setPaper(paper);
   selection_ = new SelectionGroup;
-  auto* const grid = new QGridLayout;
-  grid->setSpacing(8);
-  grid->addWidget(buildDates(period), 0, 0);
-  grid->addWidget(selection_, 1, 0);
-  beside_ = new QVBoxLayout;
-  beside_->setSpacing(8);
-  grid->addLayout(beside_, 0, 1, 2, 1);
-  grid->setColumnStretch(1, 1);
-  grid->setRowStretch(1, 1);
-  body()->addLayout(grid);
+  dates_ = buildDates(period);
+  parts_ = new QGridLayout;
+  parts_->setSpacing(8);
+  parts_->setColumnStretch(1, 1);
+  parts_->setRowStretch(1, 1);
+  body()->addLayout(parts_);
+}
+
+/** Two parts at the right stand in the rows of those at the left, a bank alone beside the dates; the notes and three
+ *  banks take the whole height. */
+void GiroForm::placeParts() {
+  const bool bankAlone = beside_.size() == 1 && !banks_.empty();
+  parts_->addWidget(dates_, 0, 0);
+  parts_->addWidget(selection_, 1, 0, 1, bankAlone ? 2 : 1);
+  if (beside_.size() == 2 || bankAlone) {
+    for (int row = 0; row < beside_.size(); ++row) parts_->addWidget(beside_[row], row, 1);
+    return;
+  }
+  auto* const column = new QVBoxLayout;
+  column->setSpacing(8);
+  for (QWidget* const part : beside_) column->addWidget(part, 1);
+  parts_->addLayout(column, 0, 1, 2, 1);
 }
 
 QWidget* GiroForm::buildDates(Period period) {
@@ -78,10 +90,6 @@ QWidget* GiroForm::buildDates(Period period) {
   return group;
 }
 
-void GiroForm::addBeside(QWidget* part, int stretch) {
-  beside_->addWidget(part, stretch);
-}
-
 QCheckBox* GiroForm::addCheck(const char* name, const QString& caption, bool on) {
   auto* const made = new QCheckBox(caption);
   made->setObjectName(QString::fromUtf8(name));
@@ -97,16 +105,16 @@ void GiroForm::addNote(const QString& text) {
   checks_->addWidget(made);
 }
 
-BankPanel* GiroForm::addBank(int number) {
-  auto* const panel = new BankPanel(number);
+void GiroForm::addBank() {
+  auto* const panel = new BankPanel(int(banks_.size()) + 1);
   addBeside(panel);
   on(panel->search(), &QPushButton::clicked, [this, panel] {
     if (const auto chosen = context_.pickers.searchBank())
       panel->setBank({chosen->name, chosen->number, chosen->user});
   });
-  if (number == 1)
+  if (banks_.empty())
     if (const auto bank = onlyBank(session())) panel->setBank(*bank);
-  return panel;
+  banks_.push_back(panel);
 }
 
 void GiroForm::addAfterDue() {
@@ -130,6 +138,7 @@ void GiroForm::addAfterDue() {
           ->setChecked(true);
     });
   }
+  rows->addStretch();
   addBeside(group);
 }
 
@@ -148,18 +157,19 @@ void GiroForm::buildFoot() {
   })->setToolTip(u"고객마다 한 파일로, 납부마감일과 고객 이름을 파일 이름으로 저장합니다"_s);
   print_ = addButton("BtnJiro", u"지로발행(&P)"_s, [this] { print(); });
   addLeave("BtnExit", u"닫기(&X)"_s);
-  allowResize();
   showPrinter();
+  allowResize();
 }
 
 void GiroForm::begin() {
+  placeParts();
   buildFoot();
   QList<QWidget*> order;
   for (QLineEdit* const box : due_->findChildren<QLineEdit*>()) order << box;
   if (cmbUseMon_) order << cmbUseMon_;
   for (QLineEdit* const box : period_->findChildren<QLineEdit*>()) order << box;
   for (QCheckBox* const box : findChildren<QCheckBox*>()) order << box;
-  for (BankPanel* const panel : findChildren<BankPanel*>())
+  for (BankPanel* const panel : banks_)
     for (QLineEdit* const box : panel->findChildren<QLineEdit*>()) order << box;
   enterOrder(order << print_);
   due_->first()->setFocus();
@@ -178,7 +188,11 @@ void GiroForm::fillUsePeriod() {
 
 void GiroForm::showPrinter() {
   const QString device = slipPrinter(session()).device;
-  lblPrinter_->setText(u"지로프린터 : "_s + (device.isEmpty() ? u"없음"_s : device));
+  const int room = 24 * fontMetrics().horizontalAdvance(u'0');
+  lblPrinter_->setText(u"지로프린터 : "_s + (device.isEmpty()
+                                                 ? u"없음"_s
+                                                 : fontMetrics().elidedText(device, Qt::ElideMiddle, room)));
+  lblPrinter_->setToolTip(device);
 }
 
 void GiroForm::openSetUp(const QString& form) {
@@ -188,8 +202,11 @@ void GiroForm::openSetUp(const QString& form) {
 
 std::optional<DocumentRun> GiroForm::makeRun() {
   GiroInput input{due_->year(), due_->month(), due_->day(), period_->from(), period_->to()};
+  for (const BankPanel* const panel : banks_) input.banks.push_back(panel->bank());
   if (!addInput(input)) return {};
-  return slips_.run(input, selection_->chosen());
+  auto run = slips_.run(input, selection_->chosen());
+  if (!run && !isDay(input)) due_->first()->setFocus();
+  return run;
 }
 
 void GiroForm::print() {

@@ -20,6 +20,7 @@ SelectionGroup::SelectionGroup(QWidget* parent) : QGroupBox(u"발행 대상"_s, 
     options_[i]->setObjectName(u"Opt"_s + QString::number(i + 1));
     rows->addWidget(options_[i]);
   }
+  rows->addStretch();
   options_[0]->setChecked(true);
 }
 
@@ -117,6 +118,7 @@ BankPanel::BankPanel(int number, QWidget* parent) : QGroupBox(u"수납은행선�
   search_->setAutoDefault(false);
   search_->setToolTip(u"등록된 은행에서 고릅니다"_s);
   grid->addWidget(search_, 0, 2);
+  grid->setRowStretch(3, 1);
 }
 
 SlipBank BankPanel::bank() const {

@@ -25,7 +25,9 @@ frmPrtChange::frmPrtChange(FormContext& context, QWidget* parent)
   if (session.printers) lstPrt_->addItems(session.printers->names());
   for (QListWidgetItem* present : lstPrt_->findItems(setup.device, Qt::MatchExactly))
     lstPrt_->setCurrentItem(present);
-  addText(u"지로용지를 출력할 프린터(&R)"_s)->setBuddy(lstPrt_);
+  QLabel* const words = addText(u"지로용지를 출력할 프린터(&R)"_s);
+  words->setBuddy(lstPrt_);
+  words->setMargin(2);  // the key's underline has room
   body()->addWidget(lstPrt_, 1);
 
   Fields boxes(addPanel(), 2);

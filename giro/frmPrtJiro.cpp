@@ -2,13 +2,11 @@
 
 #include <QCheckBox>
 
-#include "giro/form_giro_parts.h"
-
 using namespace Qt::StringLiterals;
 
 frmPrtJiro::frmPrtJiro(FormContext& context, QWidget* parent)
     : GiroForm(context, u"frmPrtJiro"_s, u"MICR"_s, jiroPaper(context.session), Period::LastMonth, parent) {
-  bank_ = addBank(1);
+  addBank();
   addAfterDue();
   auto* const micr =
       addCheck("chkMicr", u"MICR 용지 (모든 PC에 적용)"_s, slips().paper() == GiroPaper::JiroMicr);
@@ -19,7 +17,15 @@ frmPrtJiro::frmPrtJiro(FormContext& context, QWidget* parent)
   begin();
 }
 
-bool frmPrtJiro::addInput(GiroInput& input) {
-  input.banks = {bank_->bank()};
-  return true;
+frmPrtJiroOrg::frmPrtJiroOrg(FormContext& context, QWidget* parent)
+    : GiroForm(context, u"frmPrtJiroOrg"_s, u"일반지로"_s, GiroPaper::JiroOrg, Period::ByMonth, parent) {
+  addBank();
+  begin();
+}
+
+frmPrtMicr::frmPrtMicr(FormContext& context, QWidget* parent)
+    : GiroForm(context, u"frmPrtMicr"_s, u"MICR-A4"_s, GiroPaper::MicrA4, Period::LastMonth, parent) {
+  addBank();
+  addAfterDue();
+  begin();
 }

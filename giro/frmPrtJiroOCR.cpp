@@ -7,22 +7,20 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int noteLinesOffered = 8;
-}
-
 frmPrtJiroOCR::frmPrtJiroOCR(FormContext& context, QWidget* parent)
     : GiroForm(context, u"frmPrtJiroOCR"_s, {}, GiroPaper::OcrContinuous, Period::ByMonth, parent) {
   auto* const group = new QGroupBox(u"알림 글 (여덟 줄까지)"_s);
   notes_.setColumns({{.header = u"알림 글"_s, .width = 46}});
-  notes_.setMaxRows(noteLinesOffered);
+  const QStringList before = ocrNotes(session());
+  notes_.setMaxRows(int(before.size()));
+  for (int row = 1; row <= notes_.MaxRows(); ++row) notes_.setText(row, 1, before[row - 1]);
   txtAnnounce_ = new Spread(notes_);
   txtAnnounce_->setObjectName(u"TxtAnnounce"_s);
   txtAnnounce_->guard = [this](const std::function<void()>& work) { return guard(work); };
   txtAnnounce_->setMinimumWidth(txtAnnounce_->fullWidth());
   txtAnnounce_->setFillColumn(1);
   (new QVBoxLayout(group))->addWidget(txtAnnounce_);
-  addBeside(group, 1);
+  addBeside(group);
   showPage(u"continuous"_s);
   begin();
 }
@@ -36,8 +34,20 @@ void frmPrtJiroOCR::showPage(const QString& page) {
   notes_.setColumns({{.header = u"알림 글"_s, .width = 46, .maxLength = noteWidth(paper) / 2}});
 }
 
+QStringList frmPrtJiroOCR::notes() const {
+  QStringList lines;
+  for (int row = 1; row <= notes_.MaxRows(); ++row) lines << notes_.text(row, 1);
+  return lines;
+}
+
 bool frmPrtJiroOCR::addInput(GiroInput& input) {
   if (!txtAnnounce_->commitEdit()) return false;
-  for (int row = 1; row <= notes_.MaxRows(); ++row) input.notes << notes_.text(row, 1);
+  input.notes = notes();
+  keepOcrNotes(session(), input.notes);
   return true;
+}
+
+void frmPrtJiroOCR::done(int result) {
+  guard([this] { keepOcrNotes(session(), notes()); });
+  GiroForm::done(result);
 }

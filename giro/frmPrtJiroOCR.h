@@ -10,11 +10,14 @@ class frmPrtJiroOCR : public GiroForm {
   explicit frmPrtJiroOCR(FormContext& context, QWidget* parent = nullptr);
   /** "continuous" or "a4". */
   void showPage(const QString& page);
+  void done(int result) override;
 
  protected:
   bool addInput(GiroInput& input) override;
 
  private:
+  QStringList notes() const;
+
   SpreadModel notes_;
   Spread* txtAnnounce_;
 };

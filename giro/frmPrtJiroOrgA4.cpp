@@ -17,7 +17,7 @@ frmPrtJiroOrgA4::frmPrtJiroOrgA4(FormContext& context, QWidget* parent)
     period().set(memory.useFrom, memory.useTo);
     if (!asNow) addNote(u"지난번에 쓴 기간입니다. 사용월을 고르면 새로 채웁니다."_s);
   }
-  for (int number = 1; number <= 3; ++number) banks_[size_t(number - 1)] = addBank(number);
+  for (int bank = 0; bank < 3; ++bank) addBank();
   begin();
 }
 
@@ -33,7 +33,6 @@ void frmPrtJiroOrgA4::done(int result) {
 
 bool frmPrtJiroOrgA4::addInput(GiroInput& input) {
   keep();
-  for (const BankPanel* const panel : banks_) input.banks.push_back(panel->bank());
   input.monthsArrearsOnly = chkNewPaper_->isChecked();
   input.companyPreprinted = chkPaperType_->isChecked();
   return true;

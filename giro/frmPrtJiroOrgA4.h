@@ -1,7 +1,5 @@
 #pragma once
 // Prints the bills on the general giro's A4 paper, with up to three banks. Its boxes are remembered.
-#include <array>
-
 #include "giro/form_giro.h"
 
 class frmPrtJiroOrgA4 : public GiroForm {
@@ -16,5 +14,4 @@ class frmPrtJiroOrgA4 : public GiroForm {
   void keep();
 
   QCheckBox *chkNewPaper_, *chkPaperType_;
-  std::array<BankPanel*, 3> banks_;
 };

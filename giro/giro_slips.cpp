@@ -20,7 +20,18 @@ std::pair<QString, QString> wholeMonth(const QDate& first) {
   return {text(first), text(first.addMonths(1).addDays(-1))};
 }
 
+/** What stands in the boxes is printed as it is, after a yes where it is no day. */
+bool mayBeDue(Prompts& prompts, const GiroInput& input) {
+  return isDay(input) ||
+         prompts.MsgAsk(u"납부마감일이 올바른 날짜가 아닙니다.\n적힌 그대로 발행하시겠습니까?"_s,
+                        u"지로 발행"_s, false);
+}
+
 }  // namespace
+
+bool isDay(const GiroInput& due) {
+  return QDate(due.year.toInt(), due.month.toInt(), due.day.toInt()).isValid();
+}
 
 const pc::Setting& GiroSlips::thisMonth() const {
   return paper_ == GiroPaper::JiroOrgA4 ? setting::OrgA4ThisMonth : setting::OcrThisMonth;
@@ -63,7 +74,7 @@ std::pair<QString, QString> GiroSlips::lastMonth() const {
 std::optional<DocumentRun> GiroSlips::run(const GiroInput& input, GiroSelection selection) {
   const ReadingScreen* screen = screen_();
   const std::vector<int> rows = giroRows(session_, screen, selection);
-  if (rows.empty()) return {};
+  if (rows.empty() || !mayBeDue(session_.prompts, input)) return {};
   const GiroPaperKind& kind = giroPaper(paper_);
   const pc::PaperForm& form = kind.form();
   const auto writer = std::make_shared<SlipWriter>(session_, *screen, kind.rules, input);
@@ -89,6 +100,18 @@ int GiroSlips::print(const GiroInput& input, GiroSelection selection, const Tell
   if (device.isEmpty()) return 0;
   const auto made = run(input, selection);
   return made ? runDocuments(onPrinter(session_, device), *made, tell) : 0;
+}
+
+QStringList ocrNotes(const Session& session) {
+  QStringList notes;
+  for (const pc::Setting& line : setting::OcrNotes) notes << session.pc.settings.read(line);
+  return notes;
+}
+
+void keepOcrNotes(Session& session, const QStringList& notes) {
+  if (notes == ocrNotes(session)) return;
+  for (size_t line = 0; line < std::size(setting::OcrNotes); ++line)
+    session.pc.settings.write(setting::OcrNotes[line], notes.value(qsizetype(line)));
 }
 
 OrgA4Memory orgA4Memory(const Session& session) {

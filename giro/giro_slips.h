@@ -44,6 +44,13 @@ class GiroSlips {
   GiroPaper paper_ = GiroPaper::OcrContinuous;
 };
 
+/** Whether the typed due date is a day of the calendar. */
+bool isDay(const GiroInput& due);
+
+/** The eight lines of notes that the OCR slips had last. */
+QStringList ocrNotes(const Session& session);
+void keepOcrNotes(Session& session, const QStringList& notes);
+
 /** What frmPrtJiroOrgA4 remembers in section "환경설정". */
 struct OrgA4Memory {
   bool newPaper = false;    ///< chkNewPaper

@@ -139,7 +139,8 @@ SlipTexts SlipWriter::texts(int row) const {
     const auto [dong, room] = householdOf(cell(EvaCol::Name));
     const QString building = cell(EvaCol::BDName);
     const QString label = buildingLabel_.value_or(building);
-    put(SlipText::Address, building + u' ' + dong + u"동  "_s + room + u"호"_s);
+    put(SlipText::Address,
+        (rules_.buildingByList ? label : building) + u' ' + dong + u"동  "_s + room + u"호"_s);
     put(SlipText::AddressLine, label + u' ' + dong + u"동 "_s + room + u"호"_s);
   }
   put(SlipText::ScanLine, scanLine(giroNumber_, code, cell(EvaCol::Total)));

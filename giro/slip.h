@@ -33,12 +33,12 @@ enum class SlipText {
   Amount,
   Manage,
   Arrears,
-  Late,     ///< as the slip shows it, not as it stands in the row
-  Code,     ///< seven places
-  Name,     ///< the grid's first column
-  NameSir,  ///< the same with "님"
-  Address,
-  AddressLine,  ///< the receipt's, with the building's label
+  Late,         ///< as the slip shows it, not as it stands in the row
+  Code,         ///< seven places
+  Name,         ///< the grid's first column
+  NameSir,      ///< the same with "님"
+  Address,      ///< of a household in a building its building and room
+  AddressLine,  ///< the receipt's of the OCR papers: the building as the screen's list names it
   ScanLine,
   Bank,
   Account,
@@ -84,6 +84,7 @@ struct SlipRules {
   bool roundsAnew = false;  ///< the company's rounding is read at each figure, not once a run
   bool padsFigures = true;  ///< figures stand in 13 places; else the paper puts them at the right itself
   bool labelsBank = false;  ///< "은행명 : ", "예금주 : "
+  bool buildingByList = false;  ///< the address names the building as the screen's list does, not as the row
   const char16_t* periodBetween = u"-";
   const char16_t* dueDate = u"%1.%2.%3";  ///< year, month, day
 };

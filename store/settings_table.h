@@ -65,6 +65,12 @@ inline constexpr Setting OrgA4NewPaper{program, surroundings, u"A4최신용지�
     OrgA4Preprinted{program, surroundings, u"A4지로용지타입", u"0"};
 inline constexpr Setting OrgA4UseFrom{program, surroundings, u"A4지로_사용기간From"},
     OrgA4UseTo{program, surroundings, u"A4지로_사용기간To"};
+/** The eight lines of notes on the OCR slips. */
+inline constexpr Setting OcrNotes[] = {
+    {program, surroundings, u"OCR지로_알림글1"}, {program, surroundings, u"OCR지로_알림글2"},
+    {program, surroundings, u"OCR지로_알림글3"}, {program, surroundings, u"OCR지로_알림글4"},
+    {program, surroundings, u"OCR지로_알림글5"}, {program, surroundings, u"OCR지로_알림글6"},
+    {program, surroundings, u"OCR지로_알림글7"}, {program, surroundings, u"OCR지로_알림글8"}};
 inline constexpr Setting ReportPrinter{program, printing, u"보고서"};  ///< the one chosen last
 inline constexpr Setting PdfFile{program, printing, u"PDF파일"};       ///< file or folder; empty asks
 inline constexpr Setting PdfFolder{program, printing, u"PDF폴더"};  ///< the one chosen last for several files

@@ -40,11 +40,20 @@ TEST_F(GiroForms, BoxesBeginWithTodayAndTheUseMonth) {
   part<QComboBox>(form, "cmbUseMon")->setCurrentIndex(0);
   EXPECT_EQ(part<QLineEdit>(form, "TxtUse2")->text(), "2026.01.31");
 
-  part<QLineEdit>(form, "TxtYear")->setFocus();
-  for (const char* next : {"TxtMon", "TxtDay", "cmbUseMon"}) {
-    tests::key(Qt::Key_Return);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), next);
-  }
+  const auto way = [&](const char* from, Qt::Key by, int steps) {
+    part<QWidget>(form, from)->setFocus();
+    QStringList names;
+    for (int step = 0; step < steps; ++step) {
+      tests::key(by);
+      names << QApplication::focusWidget()->objectName();
+    }
+    return names.join(' ');
+  };
+  EXPECT_EQ(way("TxtYear", Qt::Key_Return, 7), "TxtMon TxtDay cmbUseMon TxtUse1 TxtUse2 chkThisMon BtnJiro");
+  EXPECT_EQ(way("TxtYear", Qt::Key_Tab, 8),
+            "TxtMon TxtDay cmbUseMon TxtUse1 TxtUse2 chkThisMon Opt1 SpreadLine")
+      << "a note's cell is open";
+  EXPECT_EQ(way("BtnPrtChange", Qt::Key_Tab, 5), "BtnPrinter BtnPreview BtnPdf BtnJiro BtnExit");
   EXPECT_TRUE(form.isVisible()) << "Enter leaves a box, not the window";
   click(form, "BtnPrinter");
   pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "새 프린터");
@@ -71,6 +80,13 @@ TEST_F(GiroForms, TheButtonPrintsWhatIsTyped) {
   EXPECT_EQ(printers.jobs[0]->at(1, 62 / 15.0, 10 / 8.0)->text, "감사합니다");
   EXPECT_EQ(printers.jobs[0]->at(1, 19 / 15.0, 5 / 8.0)->text, "25");
   EXPECT_EQ(printers.jobs[0]->at(1, 7 / 15.0, 16 / 8.0)->text, "0000003") << "the customer chosen";
+  part<QLineEdit>(form, "TxtMon")->setText("2");
+  part<QLineEdit>(form, "TxtDay")->setText("30");
+  prompts.expect("납부마감일이 올바른 날짜가 아닙니다.", false);
+  click(form, "BtnJiro");
+  EXPECT_EQ(form.focusWidget()->objectName(), "TxtYear") << "where it is mended";
+  EXPECT_EQ(printers.jobs.size(), 1u);
+  part<QLineEdit>(form, "TxtDay")->setText("28");
   part<QRadioButton>(form, "Opt3")->click();
   click(form, "BtnJiro");
   EXPECT_EQ(printers.jobs[1]->pages, 2) << "those without a tick";
@@ -79,6 +95,13 @@ TEST_F(GiroForms, TheButtonPrintsWhatIsTyped) {
   prompts.expect("꺼져 있습니다.");
   click(form, "BtnJiro");
   EXPECT_TRUE(form.isVisible());
+
+  part<Spread>(form, "TxtAnnounce")->model().setText(8, 1, "문의 053-700-0000");
+  QTest::keyClick(&form, Qt::Key_Escape);
+  EXPECT_FALSE(form.isVisible());
+  frmPrtJiroOCR again(context);
+  const SpreadModel& kept = part<Spread>(again, "TxtAnnounce")->model();
+  EXPECT_EQ(kept.text(1, 1) + '|' + kept.text(2, 1) + '|' + kept.text(8, 1), "감사합니다||문의 053-700-0000");
 }
 
 TEST_F(GiroForms, TheProgressBarStopsTheRunBetweenSlips) {

@@ -35,19 +35,25 @@ TEST(GiroRoad, TheSlipShowsWhatTheReadingScreenShows) {
   ASSERT_EQ(screen->objectName(), "frmEva");
   auto* const grid = screen->findChild<Spread*>("SpEva");
   ASSERT_TRUE(grid && QTest::qWaitFor([&] { return grid->model().MaxRows() > 0; }));
-  const std::pair<const char*, int> papers[] = {{"BtnOCR", 2},  {"BtnOCR4", 1},    {"BtnMicr", 2},
-                                                {"BtnJiro", 2}, {"BtnOrgJiro", 2}, {"BtnA4", 1}};
+  // The six buttons by their keys, the hand in the grid: what opens, and the sheets of two slips.
+  const std::pair<const char*, int> papers[] = {{"OCR", 2},  {"OCR-A4", 1},   {"MICR-A4", 2},
+                                                {"MICR", 2}, {"일반지로", 2}, {"일반지로(A4) 발행", 1}};
+  int number = 0;
   for (const auto& [paper, pages] : papers) {
     SCOPED_TRACE(paper);
-    tests::whenModal([](QWidget& dialog) {
-      dialog.findChild<QRadioButton*>("Opt4")->click();
-      QTest::mouseClick(dialog.findChild<QPushButton*>("BtnJiro"), Qt::LeftButton);
-      dialog.close();
+    QString opened;
+    tests::whenModal([&](QWidget& dialog) {
+      opened = dialog.windowTitle();
+      dialog.findChild<QRadioButton*>("Opt1")->setFocus();
+      for (int down = 0; down < 3; ++down) tests::key(Qt::Key_Down);
+      QTest::keyClick(&dialog, Qt::Key_P, Qt::AltModifier);
+      QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    auto* button = screen->findChild<QPushButton*>(QString::fromUtf8(paper));
-    ASSERT_TRUE(button && button->isEnabled());
-    QTest::mouseClick(button, Qt::LeftButton);
-    ASSERT_FALSE(printers.jobs.empty());
+    QApplication::setActiveWindow(&window);
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key(Qt::Key_1 + number), Qt::ControlModifier);
+    EXPECT_EQ(opened, paper);
+    ASSERT_EQ(printers.jobs.size(), size_t(++number));
     const auto& job = *printers.jobs.back();
     EXPECT_EQ(job.pages, pages);
     QStringList texts;
@@ -58,7 +64,7 @@ TEST(GiroRoad, TheSlipShowsWhatTheReadingScreenShows) {
          {"1,100", "1,130", "30", "45,000", "1,000", "12,000", "240", "58,240", "1,160", "59,400", "대구"})
       EXPECT_TRUE(texts.contains(QString::fromUtf8(text))) << text;
     // 58240 from the right: 0 + 12 + 2 + 56 + 15 = 85
-    EXPECT_EQ(texts.filter("+582405<").size(), QString(paper).startsWith("BtnOCR") ? 1 : 0)
+    EXPECT_EQ(texts.filter("+582405<").size(), opened.startsWith("OCR") ? 1 : 0)
         << "the total without separators";
   }
   window.setSilentClose();

@@ -7,9 +7,7 @@
 #include <QRadioButton>
 
 #include "giro/frmPrtJiro.h"
-#include "giro/frmPrtJiroOrg.h"
 #include "giro/frmPrtJiroOrgA4.h"
-#include "giro/frmPrtMicr.h"
 #include "papers/form_document_run.h"
 #include "store/options.h"
 #include "tests/giro/giro_windows.h"
@@ -174,7 +172,6 @@ TEST_F(PlainGiroForms, EveryPaperAsPdfReadBack) {
   PcPrinters real(pc);
   session.printers = &real;
   pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", pdfPrinterName());
-  session.dbBasic.Execute("Update User Set Tel = '053-700-0000'");
   session.dbBasic.Execute(
       "Insert Into Bank(BName, BNumber, BUser) Values('가람은행', '123-45-678', '해온가스')");
   front.window.rows.setText(2, EvaCol::PayWay, "3");

@@ -4,10 +4,8 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "tests/giro/reading_rows.h"
+#include "tests/giro/slip_desk.h"
 #include "tests/idle_context.h"
-#include "tests/recorded_print.h"
-#include "tests/support.h"
 #include "tests/ui/grab.h"
 
 namespace tests {
@@ -39,8 +37,8 @@ inline void pictureOf(const QString& file, const QString& name) {
 /** Stands for the window of the meter book. */
 struct ReadingWindow : QWidget, ReadingRows {};
 
-/** A company, its rates and a printer, and the reading screen in front. */
-struct GiroWindows : TestPc {
+/** The reading screen in front of the giro forms. */
+struct GiroWindows : GiroBooks {
   struct Front : IdleCommands {
     ReadingWindow window;
     QWidget* activeForm() const override { return const_cast<ReadingWindow*>(&window); }
@@ -49,19 +47,6 @@ struct GiroWindows : TestPc {
   IdlePickers pickers;
   IdleCalls calls;
   FormContext context{session, pickers, front, calls};
-  RecordedPrinters printers;
-
-  GiroWindows() {
-    openBooks(QDate(2026, 3, 16));
-    session.printers = &printers;
-    session.dbBasic.Execute("Insert Into User(Company, PayState) Values('해온가스', 1)");
-    session.rates.books = {{{2, 0}, {3, 0}, {1, 0}}};
-    pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "지로프린터");
-    pc.settings.SaveSetting("해온판매", "Registration", "Ocr", "1234567");
-  }
-  QString setting(const char* section, const char* key) {
-    return pc.settings.GetSetting("해온판매", QString::fromUtf8(section), QString::fromUtf8(key));
-  }
 };
 
 }  // namespace tests
