@@ -216,6 +216,11 @@ TEST_F(Deals, WithALedgerTheLineAndItsBookMove) {
   const QString figures = "Select TradeKum & '/' & DC & '/' & VatKum & '/' & SumKum From ";
   EXPECT_EQ(first(session.dbYear, figures + "Sale"), "29500/500/2950/32450");
   EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "29500/500/2950/32450");
+  session.dbYear.Execute("Insert Into Product(Code, PTax) Values('P1', 0)");
+  session.dbYear.Execute("Update Sale Set PCode = 'P1'");
+  ASSERT_TRUE(desk.changeQuantity(1, "1"));
+  EXPECT_EQ(first(session.dbYear, figures + "Sale"), "9500/500/0/9500") << "an item free of tax stays so";
+  EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "9500/500/0/9500");
   desk.ticks().toggle(1);
   pc.prompts.expect("선택하신 1개의 내역을 삭제하시겠습니까?");
   EXPECT_TRUE(desk.deleteTicked());
@@ -355,6 +360,18 @@ TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
     expectTexts(job, 1, base, 2, texts);
     expectTexts(bare, 1, base, 2, texts);
   }
+}
+
+TEST_F(Deals, AReprintHasNoBalanceAndASetMarginIsTheWholeOfIt) {
+  sale("2026-03-02", 1, "LPG", 30'000, 2);
+  session.dbYear.Execute("Update Sale Set DealList = 1");
+  setDocumentMargins(session, "거래명세표", {"", "0"});
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  desk.ticks().setAll(true);
+  expectTexts(print(desk.papers({.layout = DocumentLayout::FullA4})), 1, 1, 0, R"(
+7: 19=해온가스
+13.6: 26=            60,000|55=            60,000|80=-)");
 }
 
 TEST_F(Deals, TheOtherHalfSheetAndTheDotPrinter) {

@@ -296,6 +296,8 @@ TEST_F(Taxes, OfTwoStationsOneGetsTheLinesAndNoNumberIsGivenTwice) {
   EXPECT_EQ(second.nextSerial, "2603003");
   b.Empty();
   EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount Where Station = '2026-03-31 a'"), "1");
+  clsPrintTax(session.dbTax, "2026-04-01 c").Empty();
+  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "1") << "it may have run past midnight";
   clsPrintTax later(session.dbTax, "2026-04-02 c");
   later.Empty();
   EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0")
@@ -652,6 +654,13 @@ TEST_F(Taxes, NothingIsIssuedWithoutACompanyAndARefusalStandsInTheRegister) {
   desk.list(month(TaxTab::Issued));
   desk.ticks().setAll(true);
   EXPECT_TRUE(print(desk.issue(month(TaxTab::Issued), serial, {})).texts().contains("2603-001"));
+}
+
+TEST(DocumentLayouts, EveryChoiceOfTheDialogIsALayout) {
+  EXPECT_EQ(layoutOf({false, 0}), DocumentLayout::HalfA4);
+  EXPECT_EQ(layoutOf({false, 1}), DocumentLayout::FullA4);
+  EXPECT_EQ(layoutOf({false, 2}), DocumentLayout::HalfA4B);
+  for (int paper = 0; paper < 3; ++paper) EXPECT_EQ(layoutOf({true, paper}), DocumentLayout::Dot);
 }
 
 TEST(BusinessNumber, TheLastDigitFollowsFromTheNine) {
