@@ -94,7 +94,7 @@ void DealSearch::list(const jet::Database& year, const QString& from, const QStr
 
   for (auto found = year.OpenRecordset(sql); !found.atEnd(); found.MoveNext()) {
     const QString line = found[0].toText(), date = found[1].toText(), client = found[2].toText();
-    if (pending && !written_.isEmpty() && written_.contains(historyKey(date, client, line))) continue;
+    if (!written_.isEmpty() && written_.contains(historyKey(date, client, line))) continue;
     const bool newDate = date != lastDate_, newClient = newDate || client != lastClient_;
     const QString name = found[3].toText();
     const qint64 amount = found[8].toLong();

@@ -45,7 +45,7 @@ class DealSearch {
   std::vector<std::vector<QString>> rows_;
   std::vector<int> dateRows_;  ///< from 1; those that begin a date
   QString lastDate_, lastClient_;
-  QSet<QString> written_;     ///< lines in the history
+  QSet<QString> written_;     ///< lines in the history that the pending list leaves out
   QStringList missingYears_;  ///< of this search
   qint64 sum_ = 0;
 };
