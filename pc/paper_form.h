@@ -22,8 +22,8 @@ struct PaperFont {
 
 /** One entry of a table, written as {row, column, what} or by one of the makers below, then fitted by the modifiers:
  *      {9, 10, Amount}   at(7, 118, ScanLine).in(scanned)   inches(0.68, 0.51, u"날 짜 :")
- *  or, in a PaperRow, without its row. what: a member of the enumeration of the paper's texts, or a label. A text that
- *  is empty is not put. */
+ *  or, in a PaperRow, without its row: {17, Name, 38}, squeezed into so much room. what: a member of the enumeration of
+ *  the paper's texts, or a label. A text that is empty is not put. */
 struct PaperItem {
   enum class Kind : quint8 { Text, Rule, DashedRule, Box };
   enum class Fit : quint8 { AsItIs, Padded, Right, Centred, Cells, Squeezed };
@@ -35,7 +35,9 @@ struct PaperItem {
   constexpr PaperItem(double row, double column, QStringView label) : y(row), x(column), label(label) {}
   template <class What>
   requires std::is_enum_v<What>
-  constexpr PaperItem(double column, What what, int cut = 0) : PaperItem(0, column, what, cut) {}
+  constexpr PaperItem(double column, What what, int room = 0) : PaperItem(0, column, what, room) {
+    if (room > 0) fit = Fit::Squeezed;
+  }
   constexpr PaperItem() = default;
 
   /** In another of the paper's fonts. */

@@ -210,6 +210,14 @@ TEST_F(PlainSlips, NothingMeetsOnAnyPaper) {
   }
 }
 
+TEST_F(PlainSlips, ALongAddressIsWrittenSmallerBeforeItIsCut) {
+  const QString address(33, u'가');  // 66 half-width characters where 50 and 72 have room
+  screen.rows.setText(1, EvaCol::Address, address);
+  print(GiroPaper::Jiro);
+  EXPECT_EQ(job().texts().count(address), 2);
+  EXPECT_EQ(at(13.1, 126), address) << "in letters of the usual size";
+}
+
 TEST_F(PlainSlips, TheChargeAfterTheDueDateGoesByTheCompanysMethod) {
   screen.rows.setText(1, EvaCol::Total, "0");
   screen.rows.setText(1, EvaCol::UsePay, "10000");

@@ -92,7 +92,7 @@ TEST_F(PaperFormTest, ATableRowByRow) {
                                    {2, {{4, Head::Sum}}}};
   const pc::PaperForm form{.paper = {}, .rowsPerInch = 5, .columnsPerInch = 10, .fonts = fonts, .rows = rows};
   pc::drawPaper(*job, form, {.rows = 1, .columns = 2}, 0, texts);
-  EXPECT_EQ(places(), (QStringList{"50 50 가람 ", "220 50 1,500", "60 60 1,500"}));
+  EXPECT_EQ(places(), (QStringList{"50 54 가람상 ", "220 50 1,500", "60 60 1,500"}));
   EXPECT_EQ(record().items[1].font.points, 7.2);
 }
 
