@@ -49,6 +49,7 @@ struct CommandEntry {
   QString menuName() const { return QString::fromUtf16(menu); }
   QString objectName() const { return QString::fromUtf16(name); }
   QString text() const { return QString::fromUtf16(caption); }
+  QString plainCaption() const { return text().section("(&", 0, 0); }  ///< without its Alt letter
   QString formName() const { return QString::fromUtf16(form); }
   QString kindOfBook() const { return book ? pageOfBook(*book) : QString(); }  ///< "1" to "3"; ''
 };

@@ -20,7 +20,7 @@
 #include "app/form_child_window.h"
 #include "app/form_ground.h"
 #include "app/form_table.h"
-#include "app/form_tool_icons.h"
+#include "app/form_tool_button.h"
 #include "app/form_year_end.h"
 #include "app/frame_rules.h"
 #include "app/move_in_start.h"
@@ -74,15 +74,6 @@ void frmMain::start() {
   });
 }
 
-namespace {
-
-// A caption without its Alt letter.
-QString captionOf(const CommandEntry& entry) {
-  return entry.text().section(u"(&"_s, 0, 0);
-}
-
-}  // namespace
-
 // --- menu, tool bar, status line --------------------------------------------------------------------------------
 
 void frmMain::buildMenus() {
@@ -114,29 +105,8 @@ void frmMain::buildToolBar() {
   int place = 0;
   for (const auto& entry : toolButtons()) {
     const QString command = QString::fromUtf16(entry.command);
-    auto* button = new QToolButton;
+    QToolButton* const button = makeToolButton(entry, menus_.value(command), actions_.value(command));
     button->setObjectName(u"TBar"_s + QString::number(++place));
-    button->setText(QString::fromUtf16(entry.caption));
-    button->setIcon(toolIcon(command));
-    button->setIconSize(bar->iconSize());
-    button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::NoFocus);  // a click leaves the cursor in the child's cell
-    button->setMinimumWidth(68);
-    if (QMenu* menu = menus_.value(command)) {
-      button->setMenu(menu);
-      button->setPopupMode(QToolButton::InstantPopup);
-    } else {
-      QAction* action = actions_.value(command);
-      connect(button, &QToolButton::clicked, action, &QAction::trigger);
-      const QString caption = captionOf(*findCommand(command));
-      connect(action, &QAction::changed, button, [button, action, caption] {
-        button->setEnabled(action->isEnabled());
-        button->setStatusTip(action->statusTip());
-        button->setToolTip(action->isEnabled() ? caption : action->statusTip());
-      });
-      button->setToolTip(caption);
-    }
     bar->addWidget(button);
   }
   auto* gap = new QWidget;
@@ -176,7 +146,7 @@ void frmMain::showClock() {
 
 QString frmMain::whyOff(const CommandEntry& entry) const {
   if (entry.flags & CommandEntry::NeedsStock && !session_.StockEnabled)
-    return captionOf(entry) +
+    return entry.plainCaption() +
            u": 재고관리를 하지 않는 동안은 쓸 수 없습니다. [보조관리 - 사용자 등록]의 환경설정에서 \"관리함\"을 고르십시오."_s;
   return {};
 }
