@@ -83,6 +83,11 @@ TEST(SalePosting, EachKindAsksForItsItemsAndAPaymentForNone) {
   sale.item(sale.ofKind("실병"), "LPG", "20", 40000);
   EXPECT_EQ(sale.pickers.asked.last(), "item 3");
   const int collection = sale.ofKind("수금");
+  EXPECT_TRUE(sale.cells().locked(collection, LineCol::Number));
+  const QStringList asked = sale.pickers.asked;
+  EXPECT_EQ(sale.entry.enterKey(collection, LineCol::Item, "가스수금").col, LineCol::Paid);
+  sale.entry.search(collection, LineCol::Item, {});
+  EXPECT_EQ(sale.pickers.asked, asked) << "a payment has no item to look for";
   sale.change(collection, LineCol::Paid, "10000");
   sale.posting.refill();
   EXPECT_TRUE(sale.cells().locked(collection, LineCol::Number));
@@ -97,6 +102,12 @@ TEST(SalePosting, AMeterCustomerFoundOnTheGeneralSheetMovesOver) {
   const int row = sale.newRow(Sale::Metered, "별빛 3동");
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume);
   EXPECT_EQ(sale.entry.enterKey(row, LineCol::Unit, {}).row, 0) << "Enter stays on the volume sheet";
+  sale.newRow(Sale::Metered, "별빛");
+  EXPECT_EQ(sale.pickers.asked.last(), "client 별빛 1 0") << "there only they are looked for";
+  sale.posting.FillSaleGrid(SaleSheet::Material, true);
+  sale.newRow(Sale::Metered, "별빛");
+  EXPECT_EQ(sale.pickers.asked.last(), "client 별빛 2 0");
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Material) << "whom the meter bills buys fittings too";
 }
 
 TEST(SalePosting, TheDeletionNamesItsLine) {
@@ -150,6 +161,10 @@ TEST(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
   EXPECT_EQ(sale.rows("Select SaleDate From Sale"), "2026-02-10") << "a wrong day is never written";
   sale.pc.prompts.expect("날짜를 입력하세요");
   EXPECT_EQ(sale.entry.finishCell(row, LineCol::Number, "3").col, LineCol::Date) << "nor a cell without one";
+  for (const char* const typed : {"LPG / 20", "50"}) {  // the list, and a size that is found without it
+    sale.pc.prompts.expect("날짜를 입력하세요");
+    EXPECT_EQ(sale.entry.enterKey(row, LineCol::Item, typed).col, LineCol::Date);
+  }
   sale.pc.prompts.expect("날짜를 입력하세요");
   EXPECT_EQ(sale.entry.missingField(row), LineCol::Date);
   EXPECT_TRUE(sale.posting.setDate("3.5"));
@@ -353,6 +368,23 @@ TEST(SaleEntry, AnItemTypedInItsCellIsOneOfTheCatalogueOrNothing) {
   sale.change(row, LineCol::Number, "3");
   sale.change(row, LineCol::Item, "lpg / 20");
   EXPECT_EQ(sale.line(1), "2026-03-05|1|LPG|20|3|27000|0|81000|0") << "another whole name keeps the figures";
+  const int first = sale.ofKind("가스");
+  sale.change(first, LineCol::Item, "LPG / 50");
+  EXPECT_EQ(sale.line(2), "2026-03-05|1|LPG|50|1|27000|0|27000|0")
+      << "a line's first item is one piece, paid";
+}
+
+TEST(SaleEntry, APersonTypedGoesBeforeTheOneOffered) {
+  Sale sale;
+  sale.pc.session.dbBasic.Execute(u"Insert Into Response(Name) Values('홍길동')");
+  sale.sold("'2026-03-01', 1, 1, False, 'LPG', '20', 1, 40000, 0, 40000, 0, '홍길동'");
+  const int row = sale.gasLine();
+  ASSERT_EQ(sale.cells().offer(row, LineCol::Person), "홍길동");
+  EXPECT_EQ(sale.entry.enterKey(row, LineCol::Person, "김").col, LineCol::Person);
+  EXPECT_EQ(sale.pickers.asked.last(), "person");
+  EXPECT_EQ(sale.entry.enterKey(row, LineCol::Person, {}).row, row + 1);
+  EXPECT_EQ(sale.rows("Select Response From Sale Where SaleID = 2"), "홍길동");
+  EXPECT_EQ(sale.cells().offer(row, LineCol::Person), "") << "it is taken";
 }
 
 TEST(SalePosting, ANewKindClearsFiguresAndPerson) {

@@ -50,6 +50,17 @@ TEST_F(SaleOnTwoPcs, AChangedLineIsToldAndReadAgainAndNothingMoves) {
       << "moved by the difference of the two PCs' figures, one after the other";
 }
 
+TEST_F(SaleOnTwoPcs, ALineBegunHereIsWatchedFromItsFirstWriting) {
+  pickers.clients = {ClientChoice{Plain, "산골식당"}};
+  const int row = entry.enterKey(posting.grid().MaxRows(), LineCol::Partner, {}).row;
+  entry.enterKey(row, LineCol::Kind, "가스");
+  run("Update Sale Set Response = '남' Where SaleID = 2");
+  pickers.items = {ItemChoice{"LPG", "20", 40000, 0}};
+  pc.prompts.expect(word);
+  EXPECT_EQ(entry.enterKey(row, LineCol::Item, {}).end, LineStep::PutBack);
+  EXPECT_EQ(rows("Select SaleName, Response From Sale Where SaleID = 2"), "|남");
+}
+
 TEST_F(SaleOnTwoPcs, EveryColumnThatTheScreenWritesIsCompared) {
   for (const char* const change : {"SaleDate = '2026-03-04'", "ClientCode = 2", "SaleGubun = 2",
                                    "Gubun = True", "SaleName = 'LP'", "SaleThing = '50'", "SaleNum = 3",
