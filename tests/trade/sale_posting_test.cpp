@@ -244,7 +244,7 @@ TEST(SaleEntry, ChoosingACustomerOnAStoredLineOpensTheBottomRow) {
   EXPECT_EQ(sale.cell(1, LineCol::Partner) + sale.cell(1, LineCol::Code) + sale.cell(1, LineCol::Date),
             "한빛 101동 202호203-05");
   EXPECT_EQ(sale.rows("Select ClientCode From Sale"), "1");
-  sale.posting.refill();
+  sale.posting.FillSaleGrid(SaleSheet::General, true);
   sale.pickers.asked.clear();
   EXPECT_EQ(sale.entry.enterKey(1, LineCol::Partner, {}).col, LineCol::Kind) << "Enter only passes it";
   EXPECT_TRUE(sale.pickers.asked.isEmpty());
