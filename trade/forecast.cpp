@@ -188,12 +188,13 @@ std::vector<QString> Forecast::rowOf(const Deliveries& of) const {
 }
 
 void Forecast::colour(int row, const Deliveries& of) {
-  const auto set = [&](int col, const QString& year) {
+  const auto set = [&](int col, QStringView year) {
     if (year != shownYear_) grid_.setInk(row, col, otherYearsInk);
   };
   const int count = int(of.days.size());
-  for (int at = 0; at < count; ++at) set(ForecastCol::First + at, of.days[count - 1 - at].left(4));
-  set(ForecastCol::Newest, of.days.front().left(4));
+  for (int at = 0; at < count; ++at)
+    set(ForecastCol::First + at, QStringView(of.days[count - 1 - at]).left(4));
+  set(ForecastCol::Newest, QStringView(of.days.front()).left(4));
   if (of.expected.isValid()) set(ForecastCol::Expected, QString::number(of.expected.year()));
 }
 

@@ -99,7 +99,8 @@ Connection::Connection(const QString& nativePath, int busyMilliseconds) : patien
   constexpr int bloomFilter = 0x00080000;
   sqlite3_test_control(SQLITE_TESTCTRL_OPTIMIZATIONS, handle, bloomFilter);
   registerFunctions(*this);
-  exec("PRAGMA temp_store = MEMORY; PRAGMA cell_size_check = ON");
+  // The main file's cache is also the room in which rows are sorted at one go.
+  exec("PRAGMA temp_store = MEMORY; PRAGMA cell_size_check = ON; PRAGMA main.cache_size = -16000");
 }
 
 void Connection::exec(const QByteArray& sql) {

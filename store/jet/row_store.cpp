@@ -11,8 +11,10 @@
 namespace jet {
 namespace {
 
-/** The single row that most statements ask for needs no table to find equal texts by. */
-constexpr size_t kTooFewToShare = 4;
+/** The few rows that most statements ask for need no table to find equal texts by. */
+constexpr size_t kTooFewToShare = 16;
+/** What is made at once for them, and not cut to size afterwards: rows, and bytes of their texts. */
+constexpr size_t kFirstRows = 8, kFirstBytes = 64;
 /** Dates, items, staff: the few texts that stand in row after row are decoded once. */
 constexpr quint32 kKeptDecoded = 1024;
 constexpr qint64 kExactInDouble = 9007199254740992;  // 2^53
@@ -22,6 +24,11 @@ bool fitsNarrow(qint64 number) {
 }
 bool fitsDouble(qint64 number) {
   return number > -kExactInDouble && number < kExactInDouble;
+}
+
+template <typename Vector>
+void cutToSize(Vector& vector, size_t least = kFirstRows) {
+  if (vector.capacity() > least) vector.shrink_to_fit();
 }
 
 size_t slotOf(std::string_view text, size_t slots) {
@@ -55,6 +62,10 @@ void TextPool::growSlots() {
 }
 
 quint32 TextPool::add(std::string_view utf8) {
+  if (ends_.empty()) {
+    ends_.reserve(kFirstRows);
+    text_.reserve(kFirstBytes);
+  }
   size_t slot = 0;
   const bool looksUp = sharing_ && ends_.size() >= kTooFewToShare;
   if (looksUp) {
@@ -79,8 +90,8 @@ quint32 TextPool::add(std::string_view utf8) {
 void TextPool::stopFilling() {
   sharing_ = false;
   slots_ = {};
-  text_.shrink_to_fit();
-  ends_.shrink_to_fit();
+  cutToSize(text_, kFirstBytes);
+  cutToSize(ends_);
 }
 
 template <typename Vector>
@@ -185,7 +196,10 @@ void PackedColumn::append(sqlite3_value* shown) {
       return append(Value());
     case SQLITE_INTEGER: {
       const qint64 number = sqlite3_value_int64(shown);
-      if (rows_ == 0 && fitsNarrow(number)) kind_ = Kind::Narrow;
+      if (rows_ == 0 && fitsNarrow(number)) {
+        kind_ = Kind::Narrow;
+        narrow_.reserve(kFirstRows);
+      }
       if (kind_ != Kind::Narrow || !nulls_.empty() || !fitsNarrow(number)) return append(Value(number));
       narrow_.push_back(qint32(number));
       ++rows_;
@@ -198,7 +212,10 @@ void PackedColumn::append(sqlite3_value* shown) {
   }
   const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(shown));
   const std::string_view utf8(text, size_t(sqlite3_value_bytes(shown)));
-  if (rows_ == 0) kind_ = Kind::Text;
+  if (rows_ == 0) {
+    kind_ = Kind::Text;
+    text_.reserve(kFirstRows);
+  }
   if (kind_ == Kind::Text) {  // straight into the pool, without a QString between
     text_.push_back(texts_.add(utf8) + 1);
     ++rows_;
@@ -231,10 +248,10 @@ Value PackedColumn::at(int row) const {
 
 void PackedColumn::stopFilling() {
   texts_.stopFilling();
-  narrow_.shrink_to_fit();
-  wide_.shrink_to_fit();
-  double_.shrink_to_fit();
-  text_.shrink_to_fit();
+  cutToSize(narrow_);
+  cutToSize(wide_);
+  cutToSize(double_);
+  cutToSize(text_);
   nulls_.shrink_to_fit();
 }
 
