@@ -122,13 +122,14 @@ std::optional<jet::Recordset> clsPrintTax::FindIssued(const QString& client, con
   return rows;
 }
 
+/** Grouped by the code first: it tells the invoices apart, so the other texts are hardly compared. */
 jet::Recordset clsPrintTax::List() const {
   return tax_.OpenRecordset(
       "SELECT DealDate AS DDate, IssueDate, CName, Sum(Tradekum) AS STrade, Sum(VatKum) AS SVat, "
       "Sum(SumKum) AS SSum,Sum(Item) AS SItem, First(PName) AS FPName, TaxCode, CCode FROM NewAcount "
       "WHERE " +
       own() +
-      " GROUP BY CName, TaxCode, CCode, DealDate, IssueDate "
+      " GROUP BY TaxCode, CCode, CName, DealDate, IssueDate "
       "ORDER BY DealDate, CName;");
 }
 

@@ -26,6 +26,7 @@ bool TaxGatherer::gatherPart(const TaxPart& part, TaxGathering kind) {
   const jet::Database year = openYear(session_, part.from.left(4));
   if (!year.isOpen()) return true;
   qint64 line = invoices_.NextLineCode().toLongLong();
+  const QString today = session_.pc.clock.dateText();
   for (auto row = clsTrade(year, LedgerSide::Sale).TaxQuery(part.from, part.to, kind); !row.atEnd();
        row.MoveNext()) {
     const qint64 amount = row["SumKum"].toLong() - row["SumDC"].toLong();
@@ -44,7 +45,7 @@ bool TaxGatherer::gatherPart(const TaxPart& part, TaxGathering kind) {
                       .VatKum = split.tax,
                       .SumKum = split.total,
                       .DealDate = date,
-                      .IssueDate = session_.pc.clock.dateText(),
+                      .IssueDate = today,
                       .Item = row["CSPCode"].toLong(),
                       .Code = QString("%1").arg(line++, 6, 10, QChar('0'))};
     if (!invoices_.Insert()) return false;

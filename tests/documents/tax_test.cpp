@@ -107,12 +107,15 @@ TEST_F(Taxes, SumsByCodeAreThoseOfTheLinesJoinedToTheirCustomers) {
   std::mt19937 random(20260331);
   const auto upTo = [&](int most) { return int(random() % unsigned(most)); };
   session.wsMain.Together([&] {
-    for (int line = 0; line < 200; ++line)  // customers 4 and 5 are nobody's
-      sale(QDate(2026, 3, 1).addDays(upTo(31)).toString(Qt::ISODate), 1 + upTo(5), upTo(4) * 11'000,
+    for (int line = 0; line < 400; ++line)  // customers 4 and 5 are nobody's
+      sale(QDate(2026, 2, 1).addDays(upTo(59)).toString(Qt::ISODate), 1 + upTo(5), upTo(4) * 11'000,
            upTo(9) - 2, upTo(3) * 500, upTo(2) ? "LPG" : "부탄");
     session.dbYear.Execute("Update Sale Set SaleList = 1 Where SaleNum = 6");
   });
-  for (const auto kind : {TaxGathering::Monthly, TaxGathering::Daily}) {
+  const QString to = "2026-03-30";
+  for (const auto& [from, kind] : {std::pair{QString("2026-03-02"), TaxGathering::Monthly},
+                                   {"2026-02-10", TaxGathering::Monthly},
+                                   {"2026-03-02", TaxGathering::Daily}}) {
     const bool daily = kind == TaxGathering::Daily;
     const QString day = daily ? "Sale.saledate" : "Left$(Sale.saleDate, 7)";
     const QStringList joined = tests::linesOf(
@@ -121,12 +124,14 @@ TEST_F(Taxes, SumsByCodeAreThoseOfTheLinesJoinedToTheirCustomers) {
             ", client.Name, Sum(Sale.saleunit * sale.salenum), Count(Sale.salename), Sum(0), "
             "First(Sale.salename), Sum(Sale.salenum), First(Sale.saleunit), Sale.ClientCode, "
             "First(Sale.Salething), Sum(sale.DC) FROM Sale LEFT JOIN Client ON Sale.ClientCode = client.Code "
-            "WHERE Sale.saleDate BETWEEN '2026-03-02' AND '2026-03-30' AND Sale.saleunit <> 0 and "
+            "WHERE Sale.saleDate BETWEEN '" +
+            from + "' AND '" + to +
+            "' AND Sale.saleunit <> 0 and "
             "Sale.SaleList = 0 GROUP BY " +
             day + ", client.Name, Sale.ClientCode ORDER BY " + (daily ? "Sale.saleDate" : "Client.Name"));
     QStringList found;
-    for (auto rows = clsTrade(session.dbYear, LedgerSide::Sale).TaxQuery("2026-03-02", "2026-03-30", kind);
-         !rows.atEnd(); rows.MoveNext()) {
+    for (auto rows = clsTrade(session.dbYear, LedgerSide::Sale).TaxQuery(from, to, kind); !rows.atEnd();
+         rows.MoveNext()) {
       QStringList fields;
       for (int at = 0; at < rows.fieldNames().size(); ++at) fields << rows[at].toText();
       found << fields.join('|');
