@@ -80,9 +80,35 @@ void knowTextOrder(sqlite3* db) {
                            });
 }
 
+namespace {
+
+/** In the bytes' order, so that plain statements find their rows by the same indexes as the program's do. */
+void indexPlainly(const QString& file) {
+  sqlite3* db = nullptr;
+  require(sqlite3_open(file.toUtf8().constData(), &db) == SQLITE_OK, "open");
+  knowTextOrder(db);
+  QList<std::pair<QString, QString>> indexes;
+  const auto read = [](void* into, int, char** row, char**) {
+    static_cast<QList<std::pair<QString, QString>>*>(into)->emplaceBack(row[0], row[1]);
+    return 0;
+  };
+  sqlite3_exec(db, "SELECT name, sql FROM sqlite_schema WHERE type = 'index' AND sql LIKE '%COLLATE%'", read,
+               &indexes, nullptr);
+  require(!indexes.isEmpty(), "indexes in the program's order");
+  for (const auto& [name, sql] : indexes) {
+    exec(db, ("DROP INDEX \"" + name + '"').toUtf8().constData());
+    exec(db, QString(sql).remove(u"COLLATE JET"_s).remove(u"COLLATE \"JET\""_s).toUtf8().constData());
+  }
+  sqlite3_close(db);
+}
+
+}  // namespace
+
 Plain::Plain(const Books& books) {
-  for (const QString& name : {u"Basic.mdb"_s, u"2026Foundation.mdb"_s})
+  for (const QString& name : {u"Basic.mdb"_s, u"2026Foundation.mdb"_s}) {
     require(QFile::copy(books.native(name), folder_.filePath(name)), "copy");
+    indexPlainly(folder_.filePath(name));
+  }
   require(sqlite3_open(folder_.filePath("Basic.mdb").toUtf8().constData(), &db_) == SQLITE_OK, "open");
   knowTextOrder(db_);
   exec(db_, ("ATTACH '" + folder_.filePath("2026Foundation.mdb") + "' AS y").toUtf8().constData());
