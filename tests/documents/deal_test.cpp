@@ -362,6 +362,17 @@ TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
   }
 }
 
+TEST_F(Deals, APageOfTheDotPrinterTellsItsOwnSum) {
+  for (int line = 0; line < 29; ++line) sale("2026-03-02", 1, "LPG", 1'100 + line / 14, 1);
+  DealDesk desk(session);
+  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.ticks().setAll(true);
+  const auto& job = print(desk.papers({.layout = DocumentLayout::Dot}));
+  expectTexts(job, 1, 2, 0, "24: 88=15,400|92=-");
+  expectTexts(job, 2, 2, 0, "24: 88=15,414|92=-");
+  expectTexts(job, 3, 2, 0, "24: 88=-|92=31,916");  // and the last line's 1,102
+}
+
 TEST_F(Deals, AReprintHasNoBalanceAndASetMarginIsTheWholeOfIt) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
   session.dbYear.Execute("Update Sale Set DealList = 1");

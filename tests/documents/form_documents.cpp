@@ -349,6 +349,9 @@ TEST_F(TaxForm, GathersTheMonthAndShowsItsSums) {
   EXPECT_EQ(label("pnlSum(2)"), "1,518,000");
   form.findChild<QRadioButton*>("OptGubun(1)")->click();
   EXPECT_EQ(grid->model().MaxRows(), 16);
+  grid->setFocus();
+  tests::key(Qt::Key_Delete);  // nothing is deleted but from the register
+  EXPECT_EQ(grid->model().MaxRows(), 16);
 }
 
 TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {

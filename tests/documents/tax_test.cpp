@@ -432,7 +432,8 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
   entry.setClient("1", "한라식당");
   for (int line = 1; line <= 5; ++line) {
     entry.finishCell(line, AcountCol::Name, QString("품목%1").arg(line));
-    entry.finishCell(line, AcountCol::Supply, QString::number(1'000 * line));
+    entry.finishCell(line, AcountCol::Quantity, "1");
+    entry.finishCell(line, AcountCol::Price, QString::number(1'000 * line));
     entry.nextCell(line, AcountCol::Total);
   }
   pc.prompts.expect("[닫기]버튼을");
@@ -463,7 +464,8 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
   };
   EXPECT_EQ(rowOf("작성일자|공급자 등록번호|공급받는자 등록번호|공급받는자 상호|공급가액|세액|영수(01)"),
             "20260330|1234567891|2208162517|한라식당|15000|1500|01");
-  EXPECT_EQ(rowOf("일자1|품목3|공급가액3|품목4|공급가액4|세액4"), "15|품목3|3000|품목4 외 1건|9000|900");
+  EXPECT_EQ(rowOf("일자1|품목3|수량3|단가3|공급가액3"), "15|품목3|1|3000|3000");
+  EXPECT_EQ(rowOf("품목4|수량4|단가4|공급가액4|세액4"), "품목4 외 1건|||9000|900") << "and the fifth in it";
   EXPECT_EQ(sheet.MaxCols(), 22 + 4 * 8 + 5);
   int numbers = 0;
   for (int col = 1; col <= sheet.MaxCols(); ++col) numbers += sheet.column(col).kind == CellKind::Money;
