@@ -56,6 +56,7 @@ TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
   EXPECT_TRUE(gridOf(form)->isAncestorOf(QApplication::focusWidget())) << "where the hand works";
   form.resize(1200, 620);
   tests::grab(form, "frmLPGSaleBrief-month");
+  QApplication::processEvents();
   EXPECT_LT(gridOf(form)->width(), gridOf(form)->fullWidth() + 60)
       << "the picture has what the columns leave";
   gridOf(form)->setActiveCell(3, 4);
