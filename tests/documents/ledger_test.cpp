@@ -198,6 +198,8 @@ TEST_F(Ledger, TheFirstCharacterDecidesWhatIsSearched) {
   EXPECT_EQ(search.search("한라["), 0) << "no box, no failure";
   client("가[나", "", "");
   EXPECT_EQ(search.search("[나"), 1);
+  client("Mini Apple Zoo");
+  EXPECT_EQ(search.search("Apple") + search.search("Zoo"), 2) << "beginnings from B to Y alone";
   EXPECT_EQ(search.search("입주"), 1);
   EXPECT_EQ(search.list().text(1, TraderCol::Room), "한빛아파트101동201호");
   EXPECT_EQ(search.list().text(1, TraderCol::Code), "4");
