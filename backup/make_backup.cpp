@@ -177,7 +177,7 @@ BackupDone makeBackup(const pc::Pc& pc, const QString& dataFolder, const Setting
   ArchiveFacts facts;
   facts.made = freeMoment(pc, settings.folder, series);
   facts.folder = dataFolder;
-  facts.program = QStringLiteral(HAEON_VERSION);
+  facts.program = QString::fromLatin1(HAEON_VERSION);
   try {
     facts = pack(copy.path, names, facts, zip, tell);
     verify(zip, tell, facts.bytes());

@@ -161,7 +161,7 @@ struct BriefPage {
 struct Brief {
   QString form = {}, caption = {};
   QString tabs = {};  ///< the tab bar's name
-  QString searchButton = QStringLiteral("BtnRefresh"), excelButton = QStringLiteral("BtnExcel");
+  QString searchButton = "BtnRefresh", excelButton = "BtnExcel";
   QString sheet = {};  ///< name of the spreadsheet; '' for the form's caption
   std::vector<BriefQuestion> questions = {};
   std::vector<BriefPage> pages = {};

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double readable = 100'000, tenThousand = 10'000;  ///< won
@@ -30,13 +32,13 @@ void keepLargest(ChartData& data, size_t most) {
 }
 
 void setUnit(ChartData& data, BriefLook look) {
-  data.unit = look == BriefLook::Money ? QStringLiteral("원") : QStringLiteral("개");
+  data.unit = look == BriefLook::Money ? u"원"_s : u"개"_s;
   if (look != BriefLook::Money) return;
   double greatest = 0;
   for (const std::vector<double>& values : data.series)
     for (const double value : values) greatest = std::max(greatest, std::abs(value));
   if (greatest < readable) return;
-  data.unit = QStringLiteral("만원");
+  data.unit = u"만원"_s;
   for (std::vector<double>& values : data.series)
     for (double& value : values) value /= tenThousand;
 }

@@ -3,11 +3,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 DateRangeBoxes::DateRangeBoxes(Form& form, QWidget* parent, const QString& fromHelp, const QString& toHelp)
     : form_(form) {
   for (int end = 0; end < 2; ++end) {
     boxes_[end] = new DateBox(DateBox::Mask::YearMonthDay, parent);
-    boxes_[end]->setObjectName(QString("txtDate(%1)").arg(end));
+    boxes_[end]->setObjectName(u"txtDate(%1)"_s.arg(end));
     boxes_[end]->setFixedWidth(11 * boxes_[end]->fontMetrics().horizontalAdvance('0') + 18);
     form.setHelp(boxes_[end], end == 0 ? fromHelp : toHelp);
     form.whenLeft(boxes_[end], [this, end] { check(end); });

@@ -5,6 +5,8 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 QTabBar* sectionTabs(QWidget* parent) {
   auto* const tabs = new QTabBar(parent);
   tabs->setObjectName("tabSection");
@@ -43,7 +45,7 @@ void SplitSums::addTo(QHBoxLayout* row, QWidget* parent) {
   static constexpr const char* captions[] = {"공급가액", "부가세", "합계액"};
   for (int place = 0; place < 3; ++place) {
     row->addWidget(new QLabel(captions[place], parent));
-    shown_[place] = figure(parent, qPrintable(QString("pnlSum(%1)").arg(place)), 17);
+    shown_[place] = figure(parent, qPrintable(u"pnlSum(%1)"_s.arg(place)), 17);
     row->addWidget(shown_[place]);
   }
 }

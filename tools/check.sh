@@ -30,6 +30,10 @@ rm -f /tmp/haeon-arrows.$$
 hits=$(grep -nE '\b(Get|Save)Setting\(' $(sources . | grep -vE '^(tests/|pc/settings)') || true)
 [ -z "$hits" ] || { echo "$hits"; say "a setting is read or written past store/settings_table"; }
 
+# One habit for literals (CONTRIBUTING.md).
+hits=$(grep -nE '\bQStringLiteral\(|(^|[^:A-Za-z_])QString\("' $subjects || true)
+[ -z "$hits" ] || { echo "$hits"; say "a literal is u\"...\"_s, or plain where it converts by itself"; }
+
 # Nothing joined into a statement leaves its place.
 tools/plain_texts $(echo "$subjects" | grep -vE '^(store/jet|pc|ui)/') ||
   say "a value could become part of a statement"

@@ -14,6 +14,8 @@
 #include "documents/invoices/tax_bulk.h"
 #include "ui/grid/excel_export.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto kind = "세금계산서";
@@ -31,7 +33,7 @@ QWidget* choiceOf(QRadioButton* (&buttons)[Count], const char* name, const char*
   auto* const row = panelRow(panel, 0, 8);
   for (size_t place = 0; place < Count; ++place) {
     buttons[place] = new QRadioButton(captions[place], panel);
-    buttons[place]->setObjectName(QString("%1(%2)").arg(name).arg(place));
+    buttons[place]->setObjectName(u"%1(%2)"_s.arg(name).arg(place));
     row->addWidget(buttons[place]);
   }
   return panel;

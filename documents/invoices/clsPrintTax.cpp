@@ -8,6 +8,8 @@
 #include "store/data_access.h"
 #include "store/jet/sql.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString number(double value) {
@@ -16,7 +18,7 @@ QString number(double value) {
 
 /** A number of at least three digits behind a month. */
 QString codeOf(const QString& prefix, qint64 running) {
-  return prefix + QString("%1").arg(running, 3, 10, QChar('0'));
+  return prefix + u"%1"_s.arg(running, 3, 10, QChar('0'));
 }
 
 }  // namespace
@@ -87,7 +89,7 @@ bool clsPrintTax::SetIssueDate(const QString& taxCode, const QString& date) cons
 
 QString clsPrintTax::NextLineCode() const {
   const jet::Recordset last = tax_.OpenRecordset("SELECT Max(Code) AS MCode FROM NewAcount;");
-  return QString("%1").arg(last["MCode"].toText().toLongLong() + 1, 6, 10, QChar('0'));
+  return u"%1"_s.arg(last["MCode"].toText().toLongLong() + 1, 6, 10, QChar('0'));
 }
 
 /** By number and not by the text's order, in which 1000 stands before 999. */

@@ -4,6 +4,8 @@
 #include "store/text_width.h"
 #include "store/vb.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto kindsTitle = "품종(목)수가 [0]이 아닙니다.";
@@ -49,7 +51,7 @@ void NewAcountEntry::clear() {
 void NewAcountEntry::setClient(const QString& code, const QString& name) {
   client_ = code;
   clientName_ = name;
-  const auto vat = clsTrader(session_.dbBasic).VatOf(QString("%1").arg(code.toLongLong(), 6, 10, QChar('0')));
+  const auto vat = clsTrader(session_.dbBasic).VatOf(u"%1"_s.arg(code.toLongLong(), 6, 10, QChar('0')));
   vat_ = vat ? vatOf(*vat) : Vat::OnTop;
 }
 
@@ -78,7 +80,7 @@ void NewAcountEntry::beginLine(int row) {
   if (taxCode_.isEmpty()) taxCode_ = invoices_.NextTaxCode(tax_serial::prefixOf(dealDate_));
   lastLine_ = qMax(lastLine_ + 1, invoices_.NextLineCode().toLongLong());
   grid_.setText(row, AcountCol::TaxCode, taxCode_);
-  grid_.setText(row, AcountCol::LineCode, QString("%1").arg(lastLine_, 6, 10, QChar('0')));
+  grid_.setText(row, AcountCol::LineCode, u"%1"_s.arg(lastLine_, 6, 10, QChar('0')));
 }
 
 void NewAcountEntry::fill(int row, const VatSplit& split) {

@@ -1,5 +1,7 @@
 #include "documents/invoices/tax_bulk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString digitsOf(const QString& serial) {
@@ -20,7 +22,7 @@ std::vector<TaxLine> itemsOf(const TaxInvoice& invoice) {
     last.TradeKum += items[place].TradeKum;
     last.VatKum += items[place].VatKum;
   }
-  last.PName += QString(" 외 %1건").arg(more);
+  last.PName += u" 외 %1건"_s.arg(more);
   last.PNorm.clear();
   last.Quantity = last.UnitCost = 0;
   items.resize(bulkItems);

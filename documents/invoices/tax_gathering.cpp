@@ -5,6 +5,8 @@
 #include "store/data_access.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 bool TaxGatherer::gather(const QDate& from, const QDate& to, TaxGathering kind) {
   invoices_.Empty();
   parts_.clear();
@@ -47,7 +49,7 @@ bool TaxGatherer::gatherPart(const TaxPart& part, TaxGathering kind) {
                       .DealDate = date,
                       .IssueDate = today,
                       .Item = row["CSPCode"].toLong(),
-                      .Code = QString("%1").arg(line++, 6, 10, QChar('0'))};
+                      .Code = u"%1"_s.arg(line++, 6, 10, QChar('0'))};
     if (!invoices_.Insert()) return false;
   }
   return true;

@@ -6,6 +6,8 @@
 #include "store/data_access.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** A typed invoice's lines by the form's choice; the last one takes what rounding leaves of the invoice's sums. */
@@ -93,7 +95,7 @@ bool TaxIssuer::removeInvoice(const QString& serial) {
   bool all = true;
   invoices_.tax().Together([&] {
     for (const char* table : {"TaxItem", "TaxAcount"})
-      all &= softly([&] { invoices_.tax().Execute(QString("DELETE * FROM ") + table + where); });
+      all &= softly([&] { invoices_.tax().Execute(u"DELETE * FROM "_s + table + where); });
   });
   return all;
 }
@@ -104,7 +106,7 @@ TaxIssuer::Claim TaxIssuer::claim(const jet::Database& year, const TaxInvoice& i
                                   const QString& section) {
   const TaxPart part = gatherer_.partOf(invoice.dealDate);
   const TaxLine& line = invoice.lines.front();
-  const QString whose = invoice.clientCode.isEmpty() ? QString("Clientcode Is Null")
+  const QString whose = invoice.clientCode.isEmpty() ? u"Clientcode Is Null"_s
                                                      : "Clientcode = " + plainNumber(invoice.clientCode);
   const QString own = whose + " and  saleDate BETWEEN '" + plainText(part.from) + "' AND '" +
                       plainText(part.to) + "'",
@@ -173,11 +175,11 @@ void TaxIssuer::tell(const TaxIssue& issue) {
   if (issue.failed > 0) session_.prompts.MsgWarn("세금계산서 내역을 저장하는 중 오류가 발생했습니다.");
   if (issue.unfit > 0)
     session_.prompts.MsgWarn(
-        QString("금액의 자릿수가 계산서의 칸보다 많은 %1건은 발행하지 않았습니다.").arg(issue.unfit));
+        u"금액의 자릿수가 계산서의 칸보다 많은 %1건은 발행하지 않았습니다."_s.arg(issue.unfit));
   if (issue.moved > 0)
-    session_.prompts.MsgWarn(QString("집계한 뒤에 매출이 바뀌었거나 다른 PC에서 먼저 발행한 %1건은 "
-                                     "발행하지 않았습니다.\n다시 집계한 후 발행하세요.")
-                                 .arg(issue.moved));
+    session_.prompts.MsgWarn(
+        u"집계한 뒤에 매출이 바뀌었거나 다른 PC에서 먼저 발행한 %1건은 "
+        u"발행하지 않았습니다.\n다시 집계한 후 발행하세요."_s.arg(issue.moved));
 }
 
 std::vector<TaxInvoice> TaxIssuer::preview(const TaxSheet& sheet, const std::vector<int>& rows,

@@ -4,8 +4,10 @@
 
 #include "store/data_access.h"
 
+using namespace Qt::StringLiterals;
+
 QString sectionOf(std::optional<TaxGathering> gathering) {
-  return gathering ? QString::number(int(*gathering)) : QString("3");
+  return gathering ? QString::number(int(*gathering)) : u"3"_s;
 }
 
 TaxSheet::TaxSheet() {

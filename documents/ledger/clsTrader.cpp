@@ -5,6 +5,8 @@
 #include "documents/ledger/softly.h"
 #include "store/data_access.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString quoted(const QString& text) {
@@ -88,7 +90,7 @@ std::optional<qint64> clsTrader::VatOf(const QString& code) const {
 std::optional<QString> clsTrader::NextCode() const {
   const auto last = open("SELECT Max(Code) AS MCode FROM Trader;");
   if (!last) return {};
-  return QString("%1").arg((*last)["MCode"].toText().toLongLong() + 1, 6, 10, QChar('0'));
+  return u"%1"_s.arg((*last)["MCode"].toText().toLongLong() + 1, 6, 10, QChar('0'));
 }
 
 std::optional<qint64> clsTrader::TotNoPayOf(const QString& code) const {

@@ -4,6 +4,8 @@
 #include "documents/vat_split.h"
 #include "store/data_access.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 clsTradeBook bookOf(const jet::Database& year, const LedgerLine& line) {
@@ -24,7 +26,7 @@ std::optional<LedgerAmounts> amountsOf(const jet::Database& year, const LedgerLi
 }  // namespace
 
 QString ledgerCode(const QString& client) {
-  return QString("%1").arg(client.toLongLong(), 6, 10, QChar('0'));
+  return u"%1"_s.arg(client.toLongLong(), 6, 10, QChar('0'));
 }
 
 std::optional<qint64> changeLedgerQuantity(const jet::Database& year, const LedgerLine& line, qint64 quantity,

@@ -7,6 +7,8 @@
 
 #include "ui/forms/dialog.h"
 
+using namespace Qt::StringLiterals;
+
 std::optional<PrintMethodChoice> FrmMsg(Session& session, const PrintMethodQuestion& question,
                                         QWidget* parent) {
   Dialog dialog("FrmMsg", question.title, session.prompts, parent);
@@ -16,7 +18,7 @@ std::optional<PrintMethodChoice> FrmMsg(Session& session, const PrintMethodQuest
   std::vector<QRadioButton*> papers;
   for (const char* caption : {"A4 반장 설정", "A4 전체 설정", "A4 반장 설정(B형)"}) {
     papers.push_back(new QRadioButton(caption, group));
-    papers.back()->setObjectName(QString("optPaper(%1)").arg(papers.size() - 1));
+    papers.back()->setObjectName(u"optPaper(%1)"_s.arg(papers.size() - 1));
     rows->addWidget(papers.back());
   }
   papers.front()->setChecked(true);

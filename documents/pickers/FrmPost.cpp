@@ -7,13 +7,15 @@
 #include "documents/pickers/post_list.h"
 #include "ui/forms/picker_dialog.h"
 
+using namespace Qt::StringLiterals;
+
 std::optional<PostCodeChoice> FrmPost(Session& session, const QString& text, QWidget* parent) {
   PostList posts(session);
   if (!posts.open()) return {};
   PickerDialog dialog("FrmPost", "우편번호 검색", session, posts.list(), "SpPost", parent);
   dialog.grid()->setFillColumn(2);
   const auto search = [&](const QString& typed) {
-    if (!posts.search(typed)) session.prompts.MsgInfo(QString("'%1' 가 없습니다.").arg(typed));
+    if (!posts.search(typed)) session.prompts.MsgInfo(u"'%1' 가 없습니다."_s.arg(typed));
     dialog.showFound();
   };
   // On a loaded list the hand goes to the village or postcode that is typed whole; else it is searched.

@@ -6,6 +6,8 @@
 #include "store/data_access.h"
 #include "store/year_file.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr auto kind = "거래명세표";
@@ -51,8 +53,8 @@ bool DealDesk::deleteTicked() {
     session_.prompts.MsgInfo("삭제할 내역을 선택하세요.");
     return false;
   }
-  if (!session_.prompts.MsgAsk(QString("선택하신 %1개의 내역을 삭제하시겠습니까?").arg(rows.size()),
-                               "내역 삭제", false))
+  if (!session_.prompts.MsgAsk(u"선택하신 %1개의 내역을 삭제하시겠습니까?"_s.arg(rows.size()), "내역 삭제",
+                               false))
     return false;
   for (const int row : rows) {
     if (deleteRow(row)) continue;
@@ -107,8 +109,8 @@ DocumentRun DealDesk::issue(const DealPrint& print) {
   writeDealHistory(session_, history_, statements);
   if (got.size() < rows.size())
     session_.prompts.MsgWarn(
-        QString("다른 PC에서 먼저 발행하였거나 삭제한 %1개의 거래내역은 발행하지 않았습니다.")
-            .arg(rows.size() - got.size()));
+        u"다른 PC에서 먼저 발행하였거나 삭제한 %1개의 거래내역은 발행하지 않았습니다."_s.arg(rows.size() -
+                                                                                             got.size()));
   return runOf(std::move(statements), print);
 }
 

@@ -6,6 +6,8 @@
 #include "store/year_file.h"
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** A payment as the institution writes it: other fields are digits. */
@@ -69,13 +71,12 @@ struct CollectionImportTest : testing::Test, tests::TestPc {
     for (int code = 1; code <= 3; ++code)
       for (int month = 0; month <= 12; ++month)
         session.dbYear.Execute(
-            QString("Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)").arg(code).arg(month));
+            u"Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)"_s.arg(code).arg(month));
     // 12,250 for gas, 5,000 brought in, 100 late, 1,000 for safety: 18,350 issued.
     for (int month : {3, 12})
       session.dbYear.Execute(
-          QString("Update Evaporation Set UsePay = 12250, Trust = 5000, Delay = 100, Manage = 1000, "
-                  "Total = 18350, Pay = 77 Where Mon = %1")
-              .arg(month));
+          u"Update Evaporation Set UsePay = 12250, Trust = 5000, Delay = 100, Manage = 1000, "
+          u"Total = 18350, Pay = 77 Where Mon = %1"_s.arg(month));
   }
   QString path(const QString& name) { return pc.paths.native(pc.paths.programFolder()) + '/' + name; }
   void give(const QByteArray& bytes, const QString& name = "202603.txt") {
@@ -91,18 +92,17 @@ struct CollectionImportTest : testing::Test, tests::TestPc {
   QString posted(int code, int month = 3) {
     QStringList all;
     auto rs = session.dbYear.OpenRecordset(
-        QString("Select Pay, TrustDay, Total From Evaporation Where ClientCode = %1 And Mon = %2")
-            .arg(code)
-            .arg(month));
+        u"Select Pay, TrustDay, Total From Evaporation Where ClientCode = %1 And Mon = %2"_s.arg(code).arg(
+            month));
     all << rs[0].toText() << rs[1].toText() << rs[2].toText();
     rs = session.dbYear.OpenRecordset(
-        QString("Select Trust From Evaporation Where ClientCode = %1 And Mon = %2").arg(code).arg(month + 1));
+        u"Select Trust From Evaporation Where ClientCode = %1 And Mon = %2"_s.arg(code).arg(month + 1));
     return (all << (rs.atEnd() ? "-" : rs[0].toText())).join(' ');
   }
   /** "payments/won", or "-" for a run that ended early. */
   QString run(const QString& year = "2026", const QString& month = "03") {
     const auto collected = import.run(year, month);
-    return collected ? QString("%1/%2").arg(collected->count).arg(collected->sum) : "-";
+    return collected ? u"%1/%2"_s.arg(collected->count).arg(collected->sum) : "-";
   }
   CollectionImport import{session};
 };

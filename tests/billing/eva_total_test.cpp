@@ -5,6 +5,8 @@
 #include "tests/cells.h"
 #include "tests/shown_reports.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** The boxes of the form as a test fills them. */
@@ -52,7 +54,7 @@ struct EvaTotalTest : testing::Test, tests::MeterDesk {
   void bill(int code, int month, double trust, double use, double late, double fee, double pay,
             const char* day = "") {
     set(code, month,
-        QString("Trust = %1, UsePay = %2, Delay = %3, Manage = %4, Pay = %5, TrustDay = '%6', Total = %7")
+        u"Trust = %1, UsePay = %2, Delay = %3, Manage = %4, Pay = %5, TrustDay = '%6', Total = %7"_s
             .arg(trust)
             .arg(use)
             .arg(late)

@@ -16,6 +16,8 @@
 #include "tests/idle_context.h"
 #include "tests/ui/grab.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** The status line is remembered. */
@@ -42,7 +44,7 @@ struct Screen {
   }
   Spread* grid() { return control<Spread>("SpEva"); }
   QString cell(int row, int col) { return form.readings().text(row, col); }
-  QString at() { return QString("%1,%2").arg(grid()->activeRow()).arg(grid()->activeCol()); }
+  QString at() { return u"%1,%2"_s.arg(grid()->activeRow()).arg(grid()->activeCol()); }
   QString label(const char* name) { return control<QLabel>(name)->text(); }
   QString day() { return control<QLineEdit>("TxtDay")->text(); }
   void click(const char* name) { control<QPushButton>(name)->click(); }
@@ -78,8 +80,8 @@ void fillEstate(tests::MeterDesk& desk) {
     for (const char* building : {"한빛", "별빛"})
       for (const char* room : {"101", "9", "201"}) {
         const int code =
-            desk.customer(QString("%1 %2동 %3호").arg(building, dong, room), 2000, 1, building, dong, room);
-        desk.set(code, 2, QString("UseGage = %1, Total = 10000").arg(code * 100));
+            desk.customer(u"%1 %2동 %3호"_s.arg(building, dong, room), 2000, 1, building, dong, room);
+        desk.set(code, 2, u"UseGage = %1, Total = 10000"_s.arg(code * 100));
         desk.set(code, 3, "Trust = 10000");
       }
 }
@@ -88,7 +90,7 @@ TEST(FrmEva, AMonthOfReadingsIsOneNumberAndEnterAfterTheOther) {
   tests::MeterDesk desk;
   for (const char* name : {"가람식당", "나루분식", "다솜세탁"}) {
     const int code = desk.customer(name, 1500);
-    desk.set(code, 2, QString("UseGage = %1").arg(code * 100));
+    desk.set(code, 2, u"UseGage = %1"_s.arg(code * 100));
   }
   desk.set(1, 3, "Trust = 10000");
   Screen screen(desk);

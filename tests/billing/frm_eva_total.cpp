@@ -14,6 +14,8 @@
 #include "ui/paper/printers.h"
 #include "ui/paper/report_viewer.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct EvaTotalForm : testing::Test, tests::MeterDesk {
@@ -35,7 +37,7 @@ struct EvaTotalForm : testing::Test, tests::MeterDesk {
                    QString::number(101 + each / 20), QString::number(each % 20 / 4 * 100 + each % 4 + 101));
       set(code, 4, "Total = 40000");
       set(code, 5,
-          QString("Trust = 40000, UsePay = %1, Delay = 800, Manage = 800, Pay = %2, TrustDay = '%3'")
+          u"Trust = 40000, UsePay = %1, Delay = 800, Manage = 800, Pay = %2, TrustDay = '%3'"_s
               .arg(2160 * (10 + each % 9))
               .arg(each % 3 == 0 ? 40000 : 0)
               .arg(each % 3 == 0 ? "05/12" : ""));

@@ -7,6 +7,8 @@
 #include "tests/billing/meter_desk.h"
 #include "tests/shown_reports.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::MeterDesk;
@@ -119,9 +121,8 @@ TEST(ReadingCommands, JanuaryIsRecalculatedOnLastYearsGas) {
     const int code = desk.customer(name, 1000);
     desk.set(code, 1, "UseGage = 5, Trust = 10000");
     desk.session.wsMain.OpenDatabase(yearFile(desk.session, "2025"))
-        .Execute(QString("Insert Into Evaporation(ClientCode, Mon, UsePay) Values(%1, 12, %2)")
-                     .arg(code)
-                     .arg(code * 1000));
+        .Execute(u"Insert Into Evaporation(ClientCode, Mon, UsePay) Values(%1, 12, %2)"_s.arg(code).arg(
+            code * 1000));
   }
   desk.show(HouseStyle::Individual, 1);
   desk.pc.prompts.expect("미수금및 연체료를 재계산 하시겠습니까?");
@@ -157,7 +158,7 @@ TEST(ReadingCommands, AMonthWithoutReadingsRunsOverTheWholeBook) {
   const int b = desk.customer("나", 1000, 1, "별빛", "101", "1");
   const int c = desk.customer("다", 1000);
   for (const int code : {a, b, c}) {
-    desk.set(code, 2, QString("UseGage = %1, Total = %2").arg(code * 10).arg(code * 1000));
+    desk.set(code, 2, u"UseGage = %1, Total = %2"_s.arg(code * 10).arg(code * 1000));
     desk.set(code, 3, "UseGage = 999, UseMuch = 9, UsePay = 8, Delay = 7, Manage = 6, Total = 5");
   }
   desk.show(HouseStyle::Apartment, 3, 2);

@@ -3,6 +3,8 @@
 
 #include "tests/billing/meter_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::MeterDesk;
@@ -23,13 +25,13 @@ struct EditDesk : MeterDesk {
   QString take(int col, const char* typed, int row = 1) {
     const ReadingEdit edit = finishReadingCell(sheet, row, col, typed);
     if (edit.end == ReadingEdit::PutBack) return "back";
-    return QString("%1,%2").arg(edit.next.row).arg(edit.next.col);
+    return u"%1,%2"_s.arg(edit.next.row).arg(edit.next.col);
   }
   QString stored(int month = 3) {
-    return rows(QString("Select UseGage, UseMuch, UsePay, Delay, Manage, Total, Pay From Evaporation "
-                        "Where ClientCode = %1 And Mon = %2")
-                    .arg(code)
-                    .arg(month));
+    return rows(
+        u"Select UseGage, UseMuch, UsePay, Delay, Manage, Total, Pay From Evaporation "
+        u"Where ClientCode = %1 And Mon = %2"_s.arg(code)
+            .arg(month));
   }
 };
 

@@ -5,6 +5,8 @@
 #include "store/year_file.h"
 #include "tests/billing/meter_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using From = UsualUse::From;
@@ -66,10 +68,9 @@ struct Watched : testing::Test, tests::MeterDesk {
       last = session.wsMain.OpenDatabase(yearFile(session, "2025"));
       upgrades::relink(session);
     }
-    last.Execute(QString("Insert Into Evaporation(ClientCode, Mon, UseMuch) Values(%1, %2, %3)")
-                     .arg(code)
-                     .arg(month)
-                     .arg(use));
+    last.Execute(
+        u"Insert Into Evaporation(ClientCode, Mon, UseMuch) Values(%1, %2, %3)"_s.arg(code).arg(month).arg(
+            use));
   }
   QString watched(int row) { return cells(row, {EvaCol::Judgement, EvaCol::LastUse, EvaCol::UsualUse}); }
   jet::Database last;

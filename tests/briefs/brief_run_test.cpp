@@ -2,6 +2,8 @@
 #include "briefs/chart_data.h"
 #include "tests/briefs/brief_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::asks;
@@ -28,7 +30,7 @@ Brief madeUp() {
       .period = "TxtDay",
       .reach = BriefReach::Asked,
       .order = {1},
-      .emptyText = [](const BriefAsk&) { return QString("없습니다!"); },
+      .emptyText = [](const BriefAsk&) { return u"없습니다!"_s; },
       .report = "시험.rpt",
       .formulas =
           [](const BriefAsk& ask, const BriefRows& rows) {
@@ -43,10 +45,10 @@ Brief madeUp() {
                   {.header = "수량", .field = "Num", .look = Pieces, .sum = true}},
       .statement =
           [](const BriefAsk&) {
-            return QString("Select SaleDate, Sum(SaleNum) As Num From Sale Group By SaleDate");
+            return u"Select SaleDate, Sum(SaleNum) As Num From Sale Group By SaleDate"_s;
           },
       .slots_ = {"01", "02", "03"},
-      .emptyText = [](const BriefAsk&) { return QString("달이 없습니다!"); },
+      .emptyText = [](const BriefAsk&) { return u"달이 없습니다!"_s; },
       .emptyTitle = "시험 관리자"};
   return {.form = "frmMadeUp",
           .questions = {{.kind = AskKind::Period, .name = "TxtDay", .pages = {0}},

@@ -14,12 +14,14 @@
 #include "tests/ui/grab.h"
 #include "trade/briefs/trade_briefs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct BriefWindow : testing::Test, tests::BriefDesk {
   BriefWindow() {
     for (int day = 1; day <= 20; ++day)
-      sale({.day = qPrintable(QString("2026-03-%1").arg(day, 2, 10, QChar('0'))),
+      sale({.day = qPrintable(u"2026-03-%1"_s.arg(day, 2, 10, QChar('0'))),
             .client = 1 + day % 2,
             .pieces = day % 4 + 1,
             .income = 40000 * day,
@@ -203,7 +205,7 @@ TEST_F(BriefWindow, EveryReportOpensAsksAndPrintsByKeys) {
   for (const char* const item :
        {"LPG(LPGName, Size) Values('LPG', '20')", "LPG(LPGName, Size) Values('LPG', '50')",
         "Util(Name, Size) Values('밸브', '15A')", "Util(Name, Size) Values('밸브', '20A')"})
-    run(QString("Insert Into ") + item);
+    run(u"Insert Into "_s + item);
   for (const auto brief :
        {lpgSaleBrief, resSaleBrief, resUtilBrief, trustBrief, utilTrustBrief, canLpgBrief, canCompanyBrief,
         canResBrief, utilClientBrief, saleBrief, holdBrief, utilHoldBrief}) {

@@ -4,6 +4,8 @@
 #include "store/year_file.h"
 #include "tests/documents/document_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::column, tests::row;
@@ -22,14 +24,14 @@ struct Deals : tests::DocumentDesk {
   }
   void sale(const jet::Database& year, const QString& date, int client, const QString& name, qint64 unit,
             qint64 number, int gubun = 1, const QString& thing = "20") {
-    year.Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
-                         "SaleGubun) Values('%1', %2, '%3', '%4', %5, %6, %7)")
-                     .arg(date)
-                     .arg(client)
-                     .arg(name, thing)
-                     .arg(unit)
-                     .arg(number)
-                     .arg(gubun));
+    year.Execute(
+        u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
+        u"SaleGubun) Values('%1', %2, '%3', '%4', %5, %6, %7)"_s.arg(date)
+            .arg(client)
+            .arg(name, thing)
+            .arg(unit)
+            .arg(number)
+            .arg(gubun));
   }
   void sale(const QString& date, int client, const QString& name, qint64 unit, qint64 number, int gubun = 1) {
     sale(session.dbYear, date, client, name, unit, number, gubun);
@@ -199,7 +201,7 @@ TEST_F(Deals, WithALedgerTheLineAndItsBookMove) {
     session.dbYear.createTable(schema::table(schema::File::Ledger, name));
   for (const char* field : {"Code Text(10)", "CCode Text(6)", "PCode Text(10)", "Quantity Long",
                             "TradeKum Long", "VatKum Long", "SumKum Long"})
-    session.dbYear.Execute(QString("Alter Table Sale Add Column ") + field);
+    session.dbYear.Execute(u"Alter Table Sale Add Column "_s + field);
   sale("2026-03-02", 1, "LPG", 10'000, 2);
   session.dbYear.Execute(
       "Update Sale Set Code = '1', CCode = '000001', TradeKum = 20000, VatKum = 2000, SumKum = "

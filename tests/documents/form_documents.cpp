@@ -23,6 +23,8 @@
 #include "tests/ui/grab.h"
 #include "tests/ui/modal.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** Runs act in the menu that opens next. */
@@ -64,9 +66,8 @@ struct DocumentForms : testing::Test {
     session.dbBasic.Execute("Insert Into Client(Name, Tel) Values('바다식당', '555-9999')");
     for (int line = 0; line < 16; ++line)
       session.dbYear.Execute(
-          QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun) "
-                  "Values('2026-03-%1', %2, 'LPG', '20', 34500, %3, 1)")
-              .arg(20 + line / 2, 2, 10, QChar('0'))
+          u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun) "
+          u"Values('2026-03-%1', %2, 'LPG', '20', 34500, %3, 1)"_s.arg(20 + line / 2, 2, 10, QChar('0'))
               .arg(1 + line % 2)
               .arg(line % 4 + 1));
   }
@@ -505,7 +506,7 @@ TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
 TEST_F(DocumentForms, APostcodeIsSearchedAndFoundInWhatIsLoaded) {
   const auto post = session.wsMain.OpenDatabase(session.DbPath + "dbPost.mdb");
   for (const char* row : {"'135080', '역삼동'", "'135081', '역삼1동'", "'700010', '동인동'"})
-    post.Execute(QString("Insert Into Post(SIDO, GUGUN, ZIPCODE, DONG) Values('서울', '강남', %1)").arg(row));
+    post.Execute(u"Insert Into Post(SIDO, GUGUN, ZIPCODE, DONG) Values('서울', '강남', %1)"_s.arg(row));
   tests::whenModal([this](QWidget& dialog) {
     tests::grab(dialog, "FrmPost");
     auto* const grid = dialog.findChild<Spread*>("SpPost");

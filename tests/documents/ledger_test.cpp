@@ -7,6 +7,8 @@
 #include "store/schema.h"
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Ledger : testing::Test {
@@ -19,9 +21,8 @@ struct Ledger : testing::Test {
   }
   void book(const QString& code, const QString& day, qint64 trade, qint64 sum, qint64 paid) {
     session.dbYear.Execute(
-        QString("Insert Into SaleBook(CCode, CName, DealDate, TradeKum, SumKum, InOutKum) Values('%1', 'a', "
-                "'%2', %3, %4, %5)")
-            .arg(code, day)
+        u"Insert Into SaleBook(CCode, CName, DealDate, TradeKum, SumKum, InOutKum) Values('%1', 'a', "
+        u"'%2', %3, %4, %5)"_s.arg(code, day)
             .arg(trade)
             .arg(sum)
             .arg(paid));

@@ -13,6 +13,8 @@
 #include "tests/answers.h"
 #include "tests/documents/document_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::column, tests::row;
@@ -30,14 +32,14 @@ struct Taxes : tests::DocumentDesk {
   void sale(const QString& date, int client, qint64 unit, qint64 number, qint64 discount = 0,
             const QString& name = "LPG", const jet::Database* year = nullptr) {
     (year ? *year : session.dbYear)
-        .Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
-                         "SaleGubun, DC) Values('%1', %2, '%3', '20', %4, %5, 1, %6)")
-                     .arg(date)
-                     .arg(client)
-                     .arg(name)
-                     .arg(unit)
-                     .arg(number)
-                     .arg(discount));
+        .Execute(
+            u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
+            u"SaleGubun, DC) Values('%1', %2, '%3', '20', %4, %5, 1, %6)"_s.arg(date)
+                .arg(client)
+                .arg(name)
+                .arg(unit)
+                .arg(number)
+                .arg(discount));
   }
   TaxAsk month(TaxTab tab = TaxTab::Pending, std::optional<TaxGathering> gathering = TaxGathering::Monthly) {
     return {.from = QDate(2026, 3, 1), .to = QDate(2026, 3, 31), .gathering = gathering, .tab = tab};
@@ -64,7 +66,7 @@ TEST_F(Taxes, NumbersGoOnBehind999AndNeverTwice) {
   EXPECT_EQ(tax_serial::inc("2603999"), "26031000");
   EXPECT_EQ(tax_serial::inc("26031000"), "26031001");
   for (const char* serial : {"2602777", "2603998", "2603999"})
-    session.dbTax.Execute(QString("Insert Into TaxAcount(Serial) Values('%1')").arg(serial));
+    session.dbTax.Execute(u"Insert Into TaxAcount(Serial) Values('%1')"_s.arg(serial));
   EXPECT_EQ(tax.NextSerial("2603"), "26031000");
   session.dbTax.Execute("Insert Into TaxAcount(Serial) Values('26031000')");
   EXPECT_EQ(tax.NextSerial("2603"), "26031001") << "by number: as texts 999 stands behind 1000";
@@ -113,7 +115,7 @@ TEST_F(Taxes, SumsByCodeAreThoseOfTheLinesJoinedToTheirCustomers) {
     session.dbYear.Execute("Update Sale Set SaleList = 1 Where SaleNum = 6");
   });
   const QString to = "2026-03-30";
-  for (const auto& [from, kind] : {std::pair{QString("2026-03-02"), TaxGathering::Monthly},
+  for (const auto& [from, kind] : {std::pair{u"2026-03-02"_s, TaxGathering::Monthly},
                                    {"2026-02-10", TaxGathering::Monthly},
                                    {"2026-03-02", TaxGathering::Daily}}) {
     const bool daily = kind == TaxGathering::Daily;
@@ -431,7 +433,7 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
   entry.setDates("2026-03-30", "2026-03-15");
   entry.setClient("1", "한라식당");
   for (int line = 1; line <= 5; ++line) {
-    entry.finishCell(line, AcountCol::Name, QString("품목%1").arg(line));
+    entry.finishCell(line, AcountCol::Name, u"품목%1"_s.arg(line));
     entry.finishCell(line, AcountCol::Quantity, "1");
     entry.finishCell(line, AcountCol::Price, QString::number(1'000 * line));
     entry.nextCell(line, AcountCol::Total);

@@ -15,6 +15,8 @@
 #include "tests/ui/grab.h"
 #include "ui/forms/form.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct RegisterWindow {
@@ -46,13 +48,13 @@ struct Registers : testing::TestWithParam<RegisterWindow>, tests::TestPc {
           "2', 2, 2, False)",
           "APT(Name, Dong, PostCode, Address, Height, Width, Gubun) Values('달빛', '2', '700-010', '동인동 "
           "2', 2, 2, False)"})
-      session.dbBasic.Execute(QString("Insert Into ") + row);
+      session.dbBasic.Execute(u"Insert Into "_s + row);
     for (int style = 0; style < 3; ++style)
       for (int i = 1; i < 3; ++i)
-        session.dbBasic.Execute(QString("Insert Into Client(Name, BDName, Dong, Ho, HouseStyle, PayWay, Tel) "
-                                        "Values('고객%2', '한빛', '101', '10%2', %1, 2, '0531234%1%2')")
-                                    .arg(style)
-                                    .arg(i));
+        session.dbBasic.Execute(
+            u"Insert Into Client(Name, BDName, Dong, Ho, HouseStyle, PayWay, Tel) "
+            u"Values('고객%2', '한빛', '101', '10%2', %1, 2, '0531234%1%2')"_s.arg(style)
+                .arg(i));
     window = std::make_unique<frmMain>(session, pickers);
     window->resize(1280, 860);
     tests::show(*window);

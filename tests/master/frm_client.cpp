@@ -14,13 +14,15 @@
 #include "tests/ui/grab.h"
 #include "tests/ui/modal.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ClientForms : public ::testing::Test {
  protected:
   void SetUp() override {
     pc.openBooks(QDate(2026, 11, 24));
-    pickers.day = QStringLiteral("2026-03-01");
+    pickers.day = u"2026-03-01"_s;
   }
 
   void addPlain(const QString& name, const QString& tel, const QString& address = {}, int gas = 0,
@@ -37,7 +39,7 @@ class ClientForms : public ::testing::Test {
                            "한우마을", "박민수", "중앙분식", "최지은"};
     for (int i = 0; i < 40; ++i) {
       addPlain(QString::fromUtf8(names[i % 8]) + (i < 8 ? QString() : QString::number(i / 8 + 1)),
-               QString("053-%1-%2").arg(200 + i * 17).arg(1000 + i * 137),
+               u"053-%1-%2"_s.arg(200 + i * 17).arg(1000 + i * 137),
                QString::fromUtf8(streets[i % 4]) + QString::number(11 + i * 3), i % 3 ? i * 12500 : 0,
                i % 5 ? QString() : "뒷문으로 배달, 개 조심");
     }
@@ -51,11 +53,10 @@ class ClientForms : public ::testing::Test {
         "'대구 중구 동인동 2', 15, True)");
     for (int i = 0; i < 24; ++i)
       pc.session.dbBasic.Execute(
-          QString("Insert into Client(Name, Tel, BDName, Dong, Ho, HouseStyle, PayWay, "
-                  "VolumeYesNo, Volume, VolumeUnit, PostCode, Address, GasInit) Values("
-                  "'한빛아파트 101동 %1호', '053-421-%2', '한빛아파트', '101', '%1', 1, 2, "
-                  "True, '4', 1500, '700-010', '대구 중구 동인동 1', 0)")
-              .arg(101 + i / 4 * 100 + i % 4)
+          u"Insert into Client(Name, Tel, BDName, Dong, Ho, HouseStyle, PayWay, "
+          u"VolumeYesNo, Volume, VolumeUnit, PostCode, Address, GasInit) Values("
+          u"'한빛아파트 101동 %1호', '053-421-%2', '한빛아파트', '101', '%1', 1, 2, "
+          u"True, '4', 1500, '700-010', '대구 중구 동인동 1', 0)"_s.arg(101 + i / 4 * 100 + i % 4)
               .arg(3000 + i));
   }
   static QWidget* sheet(const frmClient& form) {

@@ -7,6 +7,8 @@
 #include "tests/pc/layout_refusal.h"
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 pc::ReportTables saleTables() {
@@ -69,10 +71,10 @@ TEST(SelectionFormula, AnythingElseIsRefused) {
                               "{Sale.A} = 1 Andnot {Sale.A} = 2"})
     EXPECT_TRUE(condition(formula).startsWith("!선택 조건"))
         << formula << " -> " << condition(formula).toStdString();
-  const QString deep = QString("(").repeated(30) + "{Sale.A} = 1" + QString(")").repeated(30);
+  const QString deep = u"("_s.repeated(30) + "{Sale.A} = 1" + u")"_s.repeated(30);
   EXPECT_EQ(condition(deep), "!선택 조건이 잘못되었습니다: 괄호가 너무 깊습니다");
-  EXPECT_TRUE(condition(QString("(").repeated(1000000)).startsWith("!"));
-  EXPECT_TRUE(condition(QString("Not ").repeated(1000000)).startsWith("!"));
+  EXPECT_TRUE(condition(u"("_s.repeated(1000000)).startsWith("!"));
+  EXPECT_TRUE(condition(u"Not "_s.repeated(1000000)).startsWith("!"));
 }
 
 struct LiveReport : testing::Test, tests::TestPc {

@@ -1,5 +1,7 @@
 #include "tests/store/closing_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Recarry : testing::Test, tests::ClosingDesk {
@@ -14,10 +16,10 @@ struct Recarry : testing::Test, tests::ClosingDesk {
     recarry(session, screen().progress);
   }
   QString opening(int code, int month) {
-    return rowsIn(2027, QString("Select Trust, UseGage, UseMuch, Total, paydelayed From Evaporation Where "
-                                "ClientCode = %1 And Mon = %2")
-                            .arg(code)
-                            .arg(month));
+    return rowsIn(2027,
+                  u"Select Trust, UseGage, UseMuch, Total, paydelayed From Evaporation Where "
+                  u"ClientCode = %1 And Mon = %2"_s.arg(code)
+                      .arg(month));
   }
 };
 

@@ -5,6 +5,8 @@
 #include "store/jet/presence.h"
 #include "tests/store/old_books.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::ClosingDesk;
@@ -13,10 +15,10 @@ using tests::dumpOf;
 struct YearClose : testing::Test, ClosingDesk {
   /** What the book of the new year opens with: reading, arrears, issued, use and pay of a month. */
   QString opening(int code, int month) {
-    return rowsIn(2027, QString("Select UseGage, Trust, Total, UseMuch, UsePay, Pay From Evaporation Where "
-                                "ClientCode = %1 And Mon = %2")
-                            .arg(code)
-                            .arg(month));
+    return rowsIn(2027,
+                  u"Select UseGage, Trust, Total, UseMuch, UsePay, Pay From Evaporation Where "
+                  u"ClientCode = %1 And Mon = %2"_s.arg(code)
+                      .arg(month));
   }
   void workInNextYear() {
     const jet::Database next = year(2027);

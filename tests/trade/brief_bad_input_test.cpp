@@ -5,6 +5,8 @@
 #include "tests/briefs/brief_desk.h"
 #include "trade/briefs/trade_briefs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::days;
@@ -46,10 +48,9 @@ struct BadInput : testing::Test, tests::BriefDesk {
     run("Insert Into Util(Name, Size, UtilStock) Values('LP''G', '20', 5)");
     for (int kind = 1; kind <= 8; ++kind) {
       sale({.day = "2026-03-02", .kind = kind, .pieces = 2, .income = 900, .trust = 100});
-      run(QString("Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseNum, "
-                  "PurchaseGubun, Pay, "
-                  "Trust) Values('2026-03-02', 'D''or', 'O''Hara', 'LP''G', '20', 2, %1, 900, 100)")
-              .arg(kind));
+      run(u"Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseNum, "
+          u"PurchaseGubun, Pay, "
+          u"Trust) Values('2026-03-02', 'D''or', 'O''Hara', 'LP''G', '20', 2, %1, 900, 100)"_s.arg(kind));
     }
     run("Update Sale Set SaleName = 'LP''G', Response = 'O''Hara'");
   }
@@ -80,7 +81,7 @@ struct BadInput : testing::Test, tests::BriefDesk {
     return run.page(ask.page).selection ? run.printLive(ask) : run.load(ask);
   }
   void mark() {
-    stageReport(session, 1, [](int) { return QString("Insert Into Print(Str01) Values('before')"); });
+    stageReport(session, 1, [](int) { return u"Insert Into Print(Str01) Values('before')"_s; });
   }
   void ownLayout(const QString& report, const QByteArray& text) {
     pc.pc.paths.makeFolder(session.RptPath);

@@ -1,6 +1,8 @@
 // Stations, lists and two PCs on the purchase screen; the figures are in buy_cases.txt.
 #include "tests/trade/buy_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Buy : tests::BuyDesk {
@@ -76,7 +78,7 @@ TEST(BuyEntry, AChosenStationShowsItsLinesAndEscShowsAll) {
 
 TEST(BuyEntry, ANewLineOffersTheStationsLastItemOfTheKind) {
   Buy buy;
-  buy.pc.session.dbBasic.Execute(QString("Insert Into Response(Name) Values('홍길동')"));
+  buy.pc.session.dbBasic.Execute(u"Insert Into Response(Name) Values('홍길동')"_s);
   buy.bought("한강", 2, 30000);
   buy.run("Update Buy Set Response = '홍길동'");
   buy.pickers.refills.push_back("한강");
@@ -213,8 +215,7 @@ TEST(BuyOnTwoPcs, ANewLineOfAStationThatIsNotThereAnyMoreIsNotBegun) {
   buy.pickers.refills.push_back("한강");
   const int row = buy.entry.enterKey(1, LineCol::Partner, {}).row;
   OtherBuyer other(buy);
-  other.at.session.dbBasic.Execute(
-      QString("Update RefillState Set Company = '한강둘' Where Company = '한강'"));
+  other.at.session.dbBasic.Execute(u"Update RefillState Set Company = '한강둘' Where Company = '한강'"_s);
   buy.pc.prompts.expect("삭제했거나 상호를 바꾼 구매처입니다!");
   const LineStep step = buy.entry.enterKey(row, LineCol::Kind, "가스");
   EXPECT_EQ(step.end, LineStep::PutBack);

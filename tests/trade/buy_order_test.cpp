@@ -7,6 +7,8 @@
 #include "master/partners/refill_register.h"
 #include "tests/trade/buy_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::BuyDesk;
@@ -111,7 +113,7 @@ class AnyOrder : public testing::Test {
     RefillRegister stations(of.session);
     ASSERT_TRUE(stations.load());
     RegisterFields boxes = stations.select(station + 1);
-    names_[station] = QString("%1 %2").arg(station ? "낙동" : "한강").arg(++renamed_);
+    names_[station] = u"%1 %2"_s.arg(station ? "낙동" : "한강").arg(++renamed_);
     boxes["Company"] = names_[station];
     ASSERT_TRUE(stations.save(boxes).done);
   }
@@ -123,7 +125,7 @@ class AnyOrder : public testing::Test {
     QStringList owed;
     for (const auto& [station, gas, fittings] :
          {std::tuple(names_[0], 200000, 7000), std::tuple(names_[1], 0, 0)}) {
-      const QString of = QString("BuyCompany = '%1' And ").arg(station);
+      const QString of = u"BuyCompany = '%1' And "_s.arg(station);
       const qint64 onGas = sum("Trust", of + "PurchaseGubun In (1, 2, 3, 5, 6)").toLongLong() -
                            sum("Pay", of + "PurchaseGubun = 7").toLongLong();
       const qint64 onFittings = sum("Trust", of + "PurchaseGubun = 4").toLongLong() -
@@ -133,7 +135,7 @@ class AnyOrder : public testing::Test {
     EXPECT_EQ(desk_.owed(), owed.join(';'));
     for (const char* const size : {"20", "50"}) {
       const auto pieces = [&](int kind) {
-        return sum("PurchaseNum", QString("BuyThing = '%1' And PurchaseGubun = %2").arg(size).arg(kind))
+        return sum("PurchaseNum", u"BuyThing = '%1' And PurchaseGubun = %2"_s.arg(size).arg(kind))
             .toLongLong();
       };
       const qint64 gas = pieces(1), empty = pieces(2), full = pieces(3), left = pieces(5), back = pieces(6);

@@ -14,8 +14,8 @@ struct CanBookTest : testing::Test {
     for (const char* const row :
          {"'홍길동', 'LPG', 20, 5, 3, 8", "'홍길동', 'LPG', 50, 1, 1, 2", "'김배달', 'LPG', 20, 2, 2, 4"})
       pc.session.dbBasic.Execute(
-          QString("Insert Into ResCAN(ResName, LPGName, CANSize, CANFull, CANEmpty, CANTotal) Values(%1)")
-              .arg(row));
+          u"Insert Into ResCAN(ResName, LPGName, CANSize, CANFull, CANEmpty, CANTotal) Values(%1)"_s.arg(
+              row));
     ASSERT_TRUE(book.load());
   }
   QString rows() { return tests::rowsOf(book.list(), u" "_s).join(u';'); }

@@ -5,6 +5,8 @@
 #include "tests/cells.h"
 #include "tests/trade/sale_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Estimate : tests::SaleDesk {
@@ -13,9 +15,9 @@ struct Estimate : tests::SaleDesk {
   /** Lines of gas of one customer on these days of 2026. */
   void delivered(int client, const QStringList& days, int kind = 1, bool volume = false) {
     for (const QString& day : days)
-      sold(QString("'%1', %2, %3, %4, 'LPG', '20', 1")
-               .arg(day.size() == 5 ? "2026-" + day : day, QString::number(client), QString::number(kind),
-                    volume ? "True" : "False"));
+      sold(u"'%1', %2, %3, %4, 'LPG', '20', 1"_s.arg(day.size() == 5 ? "2026-" + day : day,
+                                                     QString::number(client), QString::number(kind),
+                                                     volume ? "True" : "False"));
   }
   QString shown(int row) { return tests::cellsOf(forecast.grid(), row, 1, ForecastCol::Code).join('|'); }
   bool extract(ForecastOf which = ForecastOf::All, const std::optional<QString>& day = {}) {
@@ -79,7 +81,7 @@ TEST(Forecast, LastYearsFileIsReadAndItsDatesSetOff) {
   Estimate of;
   makeYearFile(of.pc.session, "2025");
   for (const char* const day : {"2024-12-31", "2025-12-01", "2025-12-21"})
-    of.sold(QString("'%1', 1, 1, False").arg(day), openYear(of.pc.session, "2025"));
+    of.sold(u"'%1', 1, 1, False"_s.arg(day), openYear(of.pc.session, "2025"));
   of.delivered(1, {"01-10"});
   ASSERT_TRUE(of.extract());
   EXPECT_EQ(of.shown(1), "산골식당|053-123-4567|12-01|12-21|01-10||||||01-10|01-30|20||1")

@@ -17,6 +17,8 @@
 #include "tests/ui/grab.h"
 #include "trade/frmTodaySale.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct SaleScreen : tests::SaleDesk {
@@ -76,7 +78,7 @@ TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
   tests::enter("30000");
   EXPECT_EQ(sale.at(), "1,11");
   EXPECT_EQ(sale.label("LblGasTrust"), "110,000");
-  sale.pickers.persons = {QString("홍길동")};
+  sale.pickers.persons = {u"홍길동"_s};
   sale.press(Qt::Key_Return);
   EXPECT_EQ(sale.at(), "2,2");
   EXPECT_EQ(sale.label("LblTel"), "") << "the next row has no customer yet";
@@ -372,11 +374,10 @@ TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
 TEST(FrmSale, FortyLinesAreOnScreen) {
   SaleScreen sale;
   for (int line = 0; line < 40; ++line)
-    sale.sold(QString("'2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, '홍길동'")
-                  .arg(QString::number(1 + line % 2), QString::number(1 + line % 6),
-                       line % 6 == 3 ? "가스수금" : "LPG", line % 6 == 3 ? "0" : "20",
-                       QString::number(1 + line % 3), QString::number(line % 5 * 500),
-                       QString::number(43000 * (line % 3)), QString::number(line % 4 * 21500)));
+    sale.sold(u"'2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, '홍길동'"_s.arg(
+        QString::number(1 + line % 2), QString::number(1 + line % 6), line % 6 == 3 ? "가스수금" : "LPG",
+        line % 6 == 3 ? "0" : "20", QString::number(1 + line % 3), QString::number(line % 5 * 500),
+        QString::number(43000 * (line % 3)), QString::number(line % 4 * 21500)));
   sale.press(Qt::Key_Escape);
   EXPECT_EQ(sale.at(), "41,2");
   EXPECT_GE(sale.grid()->rowsOnPage(), 20);

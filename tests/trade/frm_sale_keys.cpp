@@ -8,6 +8,8 @@
 #include "tests/trade/key_screen.h"
 #include "trade/frmSale.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** A customer who got LPG / 20 from 홍길동 at 27,000 won two weeks ago, and a size of 50 beside it. */
@@ -113,7 +115,7 @@ TEST(FrmSaleKeys, AnOfferIsNotStoredUnlessTakenAndTypingReplacesIt) {
 
 TEST(FrmSaleKeys, OfferedIsOnlyWhatStillStandsInTheRegisters) {
   RepeatDesk desk;
-  desk.pc.session.dbBasic.Execute(QStringLiteral("Delete * From Response"));
+  desk.pc.session.dbBasic.Execute(u"Delete * From Response"_s);
   desk.run("Delete * From LPG Where Size = '20'");
   desk.type("4567");
   desk.enter(1);
@@ -160,9 +162,9 @@ TEST(FrmSaleKeys, InJanuaryTheYearBeforeIsAskedToo) {
 TEST(FrmSaleKeys, TheLastFiveLinesAndTheBalanceStandBeside) {
   RepeatDesk desk;
   for (int day = 1; day <= 4; ++day)
-    desk.sold(QString("'2026-03-0%1', 1, %2, False, '%3', '20', %1, 27000, 0, %4, %5")
-                  .arg(QString::number(day), day == 2 ? "4" : "1", day == 2 ? "가스수금" : "LPG",
-                       QString::number(day * 10000), QString::number(day * 1000)));
+    desk.sold(u"'2026-03-0%1', 1, %2, False, '%3', '20', %1, 27000, 0, %4, %5"_s.arg(
+        QString::number(day), day == 2 ? "4" : "1", day == 2 ? "가스수금" : "LPG",
+        QString::number(day * 10000), QString::number(day * 1000)));
   desk.sold("'2026-03-05', 2, 1, False");
   desk.sold("'2026-02-18', 1, 1, False");
   desk.type("4567");

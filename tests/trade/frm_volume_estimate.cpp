@@ -16,6 +16,8 @@
 #include "tests/ui/grab.h"
 #include "trade/frmResCAN.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct EstimateScreen : tests::SaleDesk {
@@ -27,7 +29,7 @@ struct EstimateScreen : tests::SaleDesk {
   EstimateScreen() {
     pc.session.reports = &reports;
     for (const char* const day : {"2026-02-01", "2026-02-17", "2026-02-09"})
-      sold(QString("'%1', 1, 1, False").arg(day));
+      sold(u"'%1', 1, 1, False"_s.arg(day));
     form.emplace(context);
     tests::show(*form);
   }
@@ -109,7 +111,7 @@ TEST(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
   EXPECT_GT(reached, 0);
   EXPECT_LT(reached, customers);
   EXPECT_EQ(screen.form->findChild<QLabel*>("PnlHelp")->text(),
-            QString(" 중지하였습니다. 고객 %1 / %2 까지만 추출되었습니다").arg(reached).arg(customers + 1));
+            u" 중지하였습니다. 고객 %1 / %2 까지만 추출되었습니다"_s.arg(reached).arg(customers + 1));
   watch.stop();
   screen.click("BtnFind");
   EXPECT_EQ(screen.grid()->model().MaxRows(), customers + 1) << "the next search is whole";

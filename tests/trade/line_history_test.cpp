@@ -50,7 +50,7 @@ TEST_F(LastOffer, TheLastLinesAreTheNewestFiveOfTheTwoYearsTogether) {
   makeYearFile(desk.pc.session, "2025");
   const jet::Database before = openYear(desk.pc.session, "2025");
   for (const char* const day : {"10", "20", "30"})
-    SaleDesk::sold(QString("'2025-12-%1', 1, 1, False").arg(day), before);
+    SaleDesk::sold(u"'2025-12-%1', 1, 1, False"_s.arg(day), before);
   const auto days = [this] {
     book.FillSaleGrid(SaleSheet::General, true);
     const int row = book.grid().MaxRows();
@@ -60,9 +60,9 @@ TEST_F(LastOffer, TheLastLinesAreTheNewestFiveOfTheTwoYearsTogether) {
     return shown.join(' ');
   };
   EXPECT_EQ(days(), "12-30 12-20 12-10");
-  for (const char* const day : {"01", "02", "03"}) desk.sold(QString("'2026-02-%1', 1, 1, False").arg(day));
+  for (const char* const day : {"01", "02", "03"}) desk.sold(u"'2026-02-%1', 1, 1, False"_s.arg(day));
   EXPECT_EQ(days(), "02-03 02-02 02-01 12-30 12-20");
-  for (const char* const day : {"04", "05", "06"}) desk.sold(QString("'2026-02-%1', 1, 1, False").arg(day));
+  for (const char* const day : {"04", "05", "06"}) desk.sold(u"'2026-02-%1', 1, 1, False"_s.arg(day));
   EXPECT_EQ(days(), "02-06 02-05 02-04 02-03 02-02");
 }
 

@@ -1,6 +1,8 @@
 #include "tests/cells.h"
 #include "tests/trade/line_cases.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::SaleDesk;
@@ -268,7 +270,7 @@ TEST(SaleEntry, CreditAsksUnlessTheLineWasBegunHereAndNotYetLeft) {
 TEST(SaleEntry, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
   Sale sale;
   const int row = sale.gasLine();
-  sale.pickers.persons = {QString("홍길동")};
+  sale.pickers.persons = {u"홍길동"_s};
   LineStep step = sale.entry.enterKey(row, LineCol::Person, {});
   EXPECT_EQ(step.row, row + 1);
   EXPECT_EQ(step.col, LineCol::Partner);
@@ -277,7 +279,7 @@ TEST(SaleEntry, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
   sale.pc.prompts.expect("선택된 자료를");
   EXPECT_EQ(sale.entry.finishCell(row, LineCol::Partner, "다른 이름").col, LineCol::Partner);
   EXPECT_EQ(sale.cell(row, LineCol::Partner), "") << "a name only comes from the search";
-  sale.pickers.persons = {QString("홍길동")};
+  sale.pickers.persons = {u"홍길동"_s};
   sale.pc.prompts.expect("고객명을 검색하세요");
   EXPECT_EQ(sale.entry.enterKey(row, LineCol::Person, {}).col, LineCol::Partner);
 }

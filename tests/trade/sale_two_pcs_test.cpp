@@ -1,6 +1,8 @@
 // Two PCs on one folder and one line: what the other did meanwhile is seen before anything moves.
 #include "tests/trade/sale_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using tests::OtherDesk;
@@ -66,7 +68,7 @@ TEST_F(SaleOnTwoPcs, EveryColumnThatTheScreenWritesIsCompared) {
                                    "Gubun = True", "SaleName = 'LP'", "SaleThing = '50'", "SaleNum = 3",
                                    "SaleUnit = 1", "Income = 1", "DC = 1", "Trust = 1", "Response = ''"}) {
     other->posting.FillSaleGrid(SaleSheet::General, true);
-    run(QString("Update Sale Set ") + change);
+    run(u"Update Sale Set "_s + change);
     const QString after = books();
     other->prompts.expect("삭제하시겠습니까?");
     other->prompts.expect(word);
@@ -99,7 +101,7 @@ TEST_F(SaleOnTwoPcs, ADeletedLineIsNeitherChangedNorDeletedAgain) {
 TEST_F(SaleOnTwoPcs, ANewLineOfACustomerWhoIsGoneIsNotBegun) {
   pickers.clients.push_back(ClientChoice{2, "한빛 101동 202호"});
   const int row = entry.enterKey(posting.grid().MaxRows(), LineCol::Partner, {}).row;
-  other->at.session.dbBasic.Execute(QString("Delete * From Client Where Code = 2"));
+  other->at.session.dbBasic.Execute(u"Delete * From Client Where Code = 2"_s);
   pc.prompts.expect("다른 PC에서 삭제한 고객입니다!");
   EXPECT_EQ(entry.enterKey(row, LineCol::Kind, "가스").end, LineStep::PutBack);
   EXPECT_EQ(rows("Select Count(*) From Sale"), "1") << "no sheet would ever show it";

@@ -6,12 +6,14 @@
 #include "store/year_file.h"
 #include "tests/trade/buy_desk.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Walk : tests::BuyDesk {
   void sale(const QString& day, int kind, int pieces, const QString& name = "LPG",
             const QString& size = "20") {
-    sold(QString("'%1', 1, %2, False, '%3', '%4', %5").arg(day).arg(kind).arg(name, size).arg(pieces));
+    sold(u"'%1', 1, %2, False, '%3', '%4', %5"_s.arg(day).arg(kind).arg(name, size).arg(pieces));
   }
   void buy(const QString& day, int kind, int pieces, const QString& name = "LPG",
            const QString& size = "20") {
@@ -181,16 +183,16 @@ QString walkedItemByItem(Walk& walk, StockWalkOf what, const QString& start, con
       }
     }
     const QString where = " Where Name = '" + name + "' And Size = '" + size + "'";
-    walk.run(QString("Update TmpLPGCANStock Set LPGBuy = %1, LPGSale = %2, CANBuy = %3, CANSale = %4, "
-                     "CANLent = %5, CANReturn = %6")
-                 .arg(within[0])
-                 .arg(within[1])
-                 .arg(within[2])
-                 .arg(within[3])
-                 .arg(within[4])
-                 .arg(within[5]) +
-             where);
-    walk.run(QString("Update TmpLPGCANStock Set LPGPreStock = LPGStock + %1, CANPreStock = CANStock + %2")
+    walk.run(
+        u"Update TmpLPGCANStock Set LPGBuy = %1, LPGSale = %2, CANBuy = %3, CANSale = %4, "
+        u"CANLent = %5, CANReturn = %6"_s.arg(within[0])
+            .arg(within[1])
+            .arg(within[2])
+            .arg(within[3])
+            .arg(within[4])
+            .arg(within[5]) +
+        where);
+    walk.run(u"Update TmpLPGCANStock Set LPGPreStock = LPGStock + %1, CANPreStock = CANStock + %2"_s
                  .arg(since[1] - since[0])
                  .arg(since[3] - since[2] + since[4] - since[5]) +
              where);
