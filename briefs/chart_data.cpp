@@ -84,11 +84,12 @@ ChartScale chartScale(double least, double greatest, int most) {
 
 namespace {
 
+/** Cut in its middle: households of one building differ at the end. */
 QString cutLabel(const QString& label, double room, const std::function<double(const QString&)>& width) {
-  if (width(label) <= room) return label;
   QString cut = label;
-  while (cut.size() > 1 && width(cut + u'…') > room) cut.chop(1);
-  return cut + u'…';
+  for (qsizetype kept = label.size() - 1; kept > 0 && width(cut) > room; --kept)
+    cut = label.left(kept / 2) + u'…' + label.right(kept - kept / 2);
+  return cut;
 }
 
 }  // namespace

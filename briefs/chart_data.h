@@ -25,6 +25,6 @@ struct ChartScale {
 ChartScale chartScale(double least, double greatest, int most);
 
 /** Labels side by side with so much room for each, by the width a text takes: of numbers some are left out, names are
- *  cut. No two are one text, as an axis wants it; what is left out is blanks. */
+ *  cut in their middle. No two are one text, as an axis wants it; what is left out is blanks. */
 QStringList chartLabels(const QStringList& labels, double room,
                         const std::function<double(const QString&)>& width);
