@@ -197,6 +197,7 @@ TEST_F(PlainGiroForms, EveryPaperAsPdfReadBack) {
   EXPECT_TRUE(printed(jiro, "jiro-micr")[0].contains("2026년 03월 16일"));
   frmPrtJiroOrg org(context);
   EXPECT_EQ(org.windowTitle(), "일반지로");
+  tests::show(org);
   tests::grab(org, "frmPrtJiroOrg");
   EXPECT_TRUE(printed(org, "org")[0].contains("달빛식당 님"));
   frmPrtJiroOrgA4 orgA4(context);
