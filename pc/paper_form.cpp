@@ -8,13 +8,18 @@ namespace pc {
 
 namespace {
 
+/** Places go across first. */
+int copiesAbove(const PaperForm& form, int place) {
+  return place / form.across;
+}
+
 /** Where one paper's items land on the page, all in inches. */
 class Pen {
  public:
   Pen(PrintJob& job, const PaperForm& form, const PaperShift& shift, int place)
       : job_(job),
         form_(form),
-        rows_(shift.rows + place / form.across * form.copyRows),
+        rows_(shift.rows + copiesAbove(form, place) * form.copyRows),
         columns_(shift.columns + place % form.across * form.copyColumns) {
     const PrintFont before = job.font();
     for (const PaperFont& font : form.fonts)
