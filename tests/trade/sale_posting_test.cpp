@@ -376,6 +376,25 @@ TEST(SaleEntry, AnItemTypedInItsCellIsOneOfTheCatalogueOrNothing) {
       << "a line's first item is one piece, paid";
 }
 
+TEST(SaleEntry, AnOfferFollowsTheKindAndGoesWhenItIsTakenOrItsRowLeft) {
+  Sale sale;
+  sale.sold("'2026-03-01', 1, 1, False, 'LPG', '20', 1, 40000, 0, 40000, 0");
+  sale.sold("'2026-03-02', 1, 5, False, 'LPG', '50', 1, 0, 0, 0, 0");
+  int row = sale.newRow(Sale::Plain, "산골식당");
+  const auto offered = [&] {
+    return sale.cells().offer(row, LineCol::Item) + sale.cells().offer(row, LineCol::Unit);
+  };
+  EXPECT_EQ(offered(), "LPG / 2040000");
+  sale.entry.finishCell(row, LineCol::Kind, "용대");
+  EXPECT_EQ(offered(), "LPG / 500");
+  sale.entry.enterKey(row, LineCol::Item, {});
+  EXPECT_EQ(sale.cell(row, LineCol::Item) + offered(), "LPG / 50");
+  row = sale.newRow(Sale::Plain, "산골식당");
+  EXPECT_EQ(offered(), "LPG / 2040000");
+  sale.entry.enteredRow(1);
+  EXPECT_EQ(offered(), "");
+}
+
 TEST(SaleEntry, APersonTypedGoesBeforeTheOneOffered) {
   Sale sale;
   sale.pc.session.dbBasic.Execute(u"Insert Into Response(Name) Values('홍길동')");
