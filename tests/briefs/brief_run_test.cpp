@@ -145,6 +145,7 @@ TEST_F(BriefRunTest, WhatIsShownIsStaged) {
   EXPECT_EQ(staged("Str01, Lng01, Dbl01"), QStringList({"Null|-1|-20", "O'Neil|2|0.5"}));
   EXPECT_EQ(reports.asked.back().file, "시험.rpt");
   EXPECT_EQ(reports.asked.back().formulas, QStringList({"월= '2026-03-01'", "2"}));
+  EXPECT_TRUE(load("2026-03-02", "2026-03-02")) << "one day is a period";
   pc.prompts.expect("없습니다!");
   EXPECT_FALSE(load("2026-04-01", "2026-04-30"));
   EXPECT_EQ(staged("Str01").size(), 2) << "nothing is staged before it is printed";

@@ -36,6 +36,7 @@ TEST(SelectionFormula, BecomesACondition) {
       {"({Sale.A}=1 OR {Sale.B}=2) AND NOT {Sale.C}<3.5",
        "((Sale.A = 1 Or Sale.B = 2) And Not (Sale.C < 3.5))"},
       {"Not Not ({Client.VolumeYesNo} = TRUE)", "Not (Not (Client.VolumeYesNo = True))"},
+      {"Not {Sale.A} = 1 And {Sale.B} = 2", "(Not (Sale.A = 1) And Sale.B = 2)"},
       {"{Sale.Income} > -5", "Sale.Income > -5"},
       {"{Client.Name} = 'O''Neil'' Or 1=1 --'", "Client.Name = 'O''Neil'' Or 1=1 --'"},
       {"{Client.이름} = '가' And{Sale.A}=1", "(Client.이름 = '가' And Sale.A = 1)"}};

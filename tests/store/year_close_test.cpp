@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "store/closing/file_replacement.h"
 #include "store/jet/presence.h"
 #include "tests/store/old_books.h"
 
@@ -152,6 +153,19 @@ TEST_F(YearClose, WhatDiffersIsToldAndTheOldFileCanBePutBack) {
   goesOn = false;
   close();
   EXPECT_EQ(shown->kept, QStringList(keptThen)) << "and the next closing names it";
+}
+
+TEST_F(YearClose, TwoReplacementsOfOneSecondKeepBothFiles) {
+  closeWell();
+  const QString place = yearFile(session, 2027);
+  for (const char* const kept :
+       {"2027Foundation-20261231-180000.mdb", "2027Foundation-20261231-180000-2.mdb"}) {
+    FileReplacement next(pc.pc.paths, place);
+    next.copyFrom(place);
+    next.takePlace(QDateTime(QDate(2026, 12, 31), QTime(18, 0)));
+    EXPECT_EQ(next.kept(), session.DbPath + kept);
+    EXPECT_TRUE(files("*2027*").contains(kept));
+  }
 }
 
 TEST_F(YearClose, TheComparisonLooksAtThoseWithoutADecemberToo) {

@@ -52,6 +52,8 @@ TEST(BuyEntry, AStationTypedAndLeftIsTakenToo) {
   buy.entry.enterKey(1, LineCol::Kind, "가스");
   EXPECT_EQ(buy.entry.finishCell(1, LineCol::Partner, "없는 곳").end, LineStep::PutBack);
   EXPECT_EQ(buy.cell(1, LineCol::Partner), "낙동") << "a stored line keeps its station";
+  buy.pickers.refills.push_back("낙동");
+  EXPECT_EQ(buy.entry.search(1, LineCol::Partner, {}).end, LineStep::PutBack) << "the same one asks nothing";
   buy.pc.prompts.expect("선택된 구매처를 수정하시겠습니까?");
   buy.entry.finishCell(1, LineCol::Partner, "강변");
   EXPECT_EQ(buy.rows("Select BuyCompany From Buy"), "한강");

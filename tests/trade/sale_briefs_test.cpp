@@ -247,6 +247,8 @@ TEST_F(Cylinders, WhatIsOutByItem) {
   EXPECT_EQ(printed(brief, 0, "Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04"),
             "용기대여현황02.rpt LPG|20|김하나|4|3|2|5");
   EXPECT_EQ(reports.asked.back().formulas, QStringList({"조회기간= '3월 1일 - 3월 31일'"}));
+  ASSERT_TRUE(brief.load(asks(0, {{"TxtDay", days("2023-01-01", "2026-03-31")}})));
+  EXPECT_EQ(brief.rows(0).note, "") << "all years up to it are read, so none of them is missed";
   pc.prompts.expect("조회기간의 용기 대여/회수 자료가 없습니다!");
   EXPECT_FALSE(
       brief.load(asks(0, {{"TxtDay", days("2026-03-01", "2026-03-31")}, {"TxtItem", {.text = "부탄"}}})));

@@ -326,6 +326,15 @@ TEST(SaleEntry, TheWholeNumberOfACallerComesFirstOverAllCustomers) {
 
 TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
   Sale sale;
+  int closed = 0;
+  sale.posting.beforeFill = [&] { ++closed; };
+  sale.entry.TakeCallerNumber("0212345678");
+  EXPECT_EQ(closed, 1) << "an editor open on the sheet goes, though it is not read anew";
+  sale.posting.beforeFill = nullptr;
+  sale.entry.TakeCallerNumber("0533456789");
+  EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume) << "whoever is chosen, the number is a meter customer's";
+  sale.posting.FillSaleGrid(SaleSheet::General, true);
+  sale.pickers.asked.clear();
   sale.pickers.clients = {ClientChoice{3, "별빛 3동"}, ClientChoice{2, "한빛 101동 202호"}};
   const auto landed = sale.entry.TakeCallerNumber("0533456789");
   ASSERT_TRUE(landed);
