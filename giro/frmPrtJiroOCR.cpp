@@ -3,8 +3,6 @@
 #include <QGroupBox>
 #include <QVBoxLayout>
 
-#include "ui/grid/spread.h"
-
 using namespace Qt::StringLiterals;
 
 frmPrtJiroOCR::frmPrtJiroOCR(FormContext& context, QWidget* parent)

@@ -1,9 +1,7 @@
 #pragma once
 // Prints the OCR slips of the reading screen: continuous paper, or A4.
 #include "giro/form_giro.h"
-#include "ui/model/spread_model.h"
-
-class Spread;
+#include "ui/grid/spread.h"
 
 class frmPrtJiroOCR : public GiroForm {
  public:

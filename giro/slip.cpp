@@ -112,7 +112,7 @@ SlipTexts SlipWriter::texts(int row) const {
 
   const QString code = cell(EvaCol::Code);
   const double rate = rates_.of(code.toLongLong());
-  const auto charge = [&](double on) { return rate == 0 ? 0 : rounded(rate / 100 * on); };
+  const auto charge = [&](double on) { return rounded(rate / 100 * on); };
   const double total = number(EvaCol::Total), arrears = number(EvaCol::Trust),
                amount = number(EvaCol::UsePay), fee = number(EvaCol::Manage);
   const double afterDue =
