@@ -100,6 +100,21 @@ TEST_F(FormMemory, AWindowComesBackWhollyInsideItsRoom) {
   EXPECT_EQ(alone.pos(), screen.topLeft());
 }
 
+TEST_F(FormMemory, AFormThatFillsTheScreenKeepsTheSizeItHadBefore) {
+  PlainForm form(at.session);
+  tests::show(form);
+  const FormIni ini(at.pc.paths);
+  form.resize(520, 310);
+  ini.SaveFormIni(form);
+  form.setWindowState(Qt::WindowMaximized);
+  QApplication::processEvents();
+  ini.SaveFormIni(form);
+  const pc::IniFile kept(file());
+  EXPECT_EQ(kept.value(u"FormPosition"_s, u"Width"_s) + u'x' + kept.value(u"FormPosition"_s, u"Height"_s),
+            u"520x310"_s);
+  EXPECT_EQ(kept.value(u"FormPosition"_s, u"WindowState"_s), u"2"_s);
+}
+
 TEST_F(FormMemory, NothingIsWrittenForAFormThatIsNotSeen) {
   PlainForm form(at.session);
   FormIni(at.pc.paths).SaveFormIni(form);
