@@ -14,7 +14,6 @@ frmBuy::frmBuy(FormContext& context, QWidget* parent)
   buildPanel();
   grid_ = addLines("SpBuy", book_.grid());
   body()->addWidget(grid_, 1);
-  book_.beforeFill = [this] { grid_->cancelEdit(); };
   onKey(Qt::Key_F10, [this] { context_.commands.openForm("frmPrtBuy"); });
   setBottomLine("          Esc:전체보기         Delete,F4:삭제         F10:구매대장 출력");
   resize(sizeHint());

@@ -31,9 +31,6 @@ frmSale::frmSale(FormContext& context, QWidget* parent)
   buildSheet(SaleSheet::General, "일반판매");
   buildSheet(SaleSheet::Volume, "체적판매");
   buildSheet(SaleSheet::Material, "시설/자재판매");
-  book_.beforeFill = [this] {
-    for (Spread* const grid : grids_) grid->cancelEdit();
-  };
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { sheetChosen(index); });
   onKey(Qt::Key_F5, [this] { showToday(); });
   onKey(Qt::Key_F10, [this] { showLedger(); });

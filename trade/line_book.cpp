@@ -60,7 +60,8 @@ bool LineBook::setDate(const QString& typed) {
 // --- reading -------------------------------------------------------------------------------------------------
 
 bool LineBook::load(SpreadModel& grid, const LineKinds& kinds, const QString& statement) {
-  if (beforeFill) beforeFill();
+  grid_->dropEdit();  // the sheet that is left
+  grid.dropEdit();
   jet::Recordset lines;
   if (!OpenSnapshot(session_.prompts, db(), lines, statement)) return false;
   std::vector<std::vector<QString>> rows;

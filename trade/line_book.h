@@ -4,7 +4,6 @@
 // The statements themselves stand in the books, sale_book and buy_book.
 #include <QHash>
 
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -55,8 +54,6 @@ class LineBook {
 
   /** The current sheet once more, the same lines as before. False after a failed query has been told. */
   virtual bool refill() = 0;
-  /** Runs before a sheet is loaded: no editor may stand open on rows that go, or on a sheet that is left. */
-  std::function<void()> beforeFill;
 
   /** Writes one row: its skeleton the first time and nothing else, from then on the partner's balance, the stock and
    *  its figures, in one group. Throws LineMoved where another PC has deleted or changed the line since it was loaded:

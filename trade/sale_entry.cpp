@@ -77,7 +77,7 @@ LineStep SaleEntry::takeCaller(const TelNumber& tel) {
 
   if (wanted != sales_.sheet()) sales_.FillSaleGrid(wanted, true);
   const int bottom = grid().MaxRows();
-  if (sales_.beforeFill) sales_.beforeFill();
+  grid().dropEdit();
   grid().setText(bottom, LineCol::Partner, tel.text);
   const auto chosen = searching(
       [&](Pickers& pickers) { return pickers.searchClient(tel.text, ClientSearchMode::All, true); });

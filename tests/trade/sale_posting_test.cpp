@@ -327,10 +327,11 @@ TEST(SaleEntry, TheWholeNumberOfACallerComesFirstOverAllCustomers) {
 TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
   Sale sale;
   int closed = 0;
-  sale.posting.beforeFill = [&] { ++closed; };
+  sale.posting.grid().setObserver(
+      [&](SpreadModel::What what, int, int) { closed += what == SpreadModel::What::Dropped; });
   sale.entry.TakeCallerNumber("0212345678");
   EXPECT_EQ(closed, 1) << "an editor open on the sheet goes, though it is not read anew";
-  sale.posting.beforeFill = nullptr;
+  sale.posting.grid().setObserver(nullptr);
   sale.entry.TakeCallerNumber("0533456789");
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Volume) << "whoever is chosen, the number is a meter customer's";
   sale.posting.FillSaleGrid(SaleSheet::General, true);
@@ -351,7 +352,7 @@ TEST(SaleEntry, TheEndOfACallersNumberOnlyMakesAList) {
   EXPECT_EQ(sale.posting.sheet(), SaleSheet::Material) << "an unknown number leaves the sheet";
   EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
   EXPECT_EQ(sale.calls.numbers, QStringList{"0533456789"}) << "fetched";
-  sale.posting.beforeFill = [&] { sale.pc.session.dbYear.Close(); };
+  sale.posting.grid().setObserver([&](auto, auto, auto) { sale.pc.session.dbYear.Close(); });
   sale.calls.numbers = {"0531234567"};
   sale.pc.prompts.expect("Select Sale.*");
   EXPECT_EQ(sale.entry.TakeCallerNumber({})->end, LineStep::PutBack);

@@ -64,6 +64,7 @@ void Spread::told(SpreadModel::What what, int row, int col) {
     return;
   }
   closeList();
+  if (what == What::Dropped) return cancelEdit();
   if (what == What::RowsInserted || what == What::RowsRemoved) {
     const auto moved = [&](int at) {
       if (at < row) return at;

@@ -26,8 +26,8 @@ struct SpreadColumn {
 
 class SpreadModel {
  public:
-  /** What an observer (the view) is told; row 0 means every row, column 0 every column. */
-  enum class What { Cells, RowsInserted, RowsRemoved, Columns, Reset };
+  /** What an observer (the view) is told; row 0 means every row, column 0 every column. Dropped: see dropEdit. */
+  enum class What { Cells, RowsInserted, RowsRemoved, Columns, Reset, Dropped };
   using Observer = std::function<void(What what, int row, int col)>;
 
   void setColumns(std::vector<SpreadColumn> columns);
@@ -89,6 +89,9 @@ class SpreadModel {
   bool setFormula(int row, int col, const QString& formula);
   /** '' for a cell without one. */
   QString formula(int row, int col) const;
+
+  /** Whatever is just being typed into a cell is given up: its row is about to go, or the rows are left. */
+  void dropEdit() const { tell(What::Dropped, 0, 0); }
 
   /** One observer; the view. */
   void setObserver(Observer observer) { observer_ = std::move(observer); }
