@@ -129,6 +129,18 @@ void mainWindowForms(frmMain& window, Session& session, Photographer& photograph
     photographer.take(*form, name);
   }
   photographer.take(window, "frmMain-at-work");
+  // Three numbers as older books hold them, and back.
+  const auto numbers = [&](const char* as) {
+    session.dbYear.Execute(u"Update Client Set Tel = "_s + QLatin1String(as) +
+                           u" Where Code Between 11 And 13"_s);
+  };
+  numbers("Left(Tel, 3) & Mid(Tel, 5, 3) & Right(Tel, 4)");
+  closeForm(window);
+  window.openForm(u"FrmSeeIDFormatTelNo"_s);
+  if (auto* const form = window.findChild<QWidget*>(u"FrmSeeIDFormatTelNo"_s))
+    photographer.take(*form, "FrmSeeIDFormatTelNo");
+  closeForm(window);
+  numbers("Left(Tel, 3) & '-' & Mid(Tel, 4, 3) & '-' & Right(Tel, 4)");
 }
 
 /** The month before of one block, and its slips on paper: slips.pdf and one file a further paper. */
