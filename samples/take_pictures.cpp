@@ -299,7 +299,7 @@ void yearEnd(frmMain& window, Session& session, Photographer& photographer) {
     auto* const form = window.findChild<QWidget*>("FrmAptBaln_rpt");
     auto* const month = form->findChild<QComboBox*>("CboMon");
     month->setCurrentIndex(month->currentIndex() - 1);
-    form->findChild<QPushButton*>("BtnRefresh")->click();
+    form->findChild<QPushButton*>("btnSearch")->click();
     photographer.take(*form, "FrmAptBaln_rpt");
   }
   photographer.takeModal("frmChangeYear", [&] { window.run("mnu_changeYear"); });
