@@ -151,6 +151,11 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
   auto* const months = form->findChild<QComboBox*>("CboMon");
   months->setCurrentIndex(months->currentIndex() - 1);
   form->findChild<QComboBox*>("CboBDName")->setCurrentIndex(1);
+  // Two who have not paid yet: their slips have an amount.
+  session.dbYear.Execute(
+      "Update Evaporation Set Total = Total + Pay, Pay = 0, TrustDay = '' Where Mon = 2 And "
+      "ClientCode In (SELECT Code FROM Client WHERE BDName = '달빛아파트' AND Dong = '101' AND "
+      "(Ho = '101' Or Ho = '102'))");
   form->findChild<QPushButton*>("BtnRefresh")->click();
   photographer.take(*form, "frmEva");
   session.pc.settings.write(setting::GiroPrinter, pdfPrinterName());
