@@ -227,6 +227,8 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
     EXPECT_TRUE(text.contains(u"올바른 백업 파일이 아닙니다"_s)) << text.toStdString();
     EXPECT_EQ(books(), before);
     EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
+    EXPECT_EQ(failureOf([&] { backup::verify(wrong, nobody); }).first, 321)
+        << "seen before the other PCs are asked to leave";
     return number;
   };
   for (const qsizetype length : {qsizetype(0), qsizetype(100), whole.size() / 2, whole.size() - 30}) {

@@ -296,11 +296,12 @@ TEST_F(Taxes, OfTwoStationsOneGetsTheLinesAndNoNumberIsGivenTwice) {
   TaxIssuer issueA(session, a, gatherA), issueB(session, b, gatherB);
   const TaxIssueAsk ask{.serial = "2603001"};
   EXPECT_EQ(issueA.issue(sheetA, {1}, ask).issued.size(), 1u);
+  session.dbTax.Execute("Insert Into TaxAcount(Serial) Values('2603002')");  // of a third station
   const TaxIssue second = issueB.issue(sheetB, {1, 2}, ask);
   ASSERT_EQ(second.issued.size(), 1u);
   EXPECT_EQ(second.moved, 1);
-  EXPECT_EQ(second.issued[0].serial, "2603002");
-  EXPECT_EQ(second.nextSerial, "2603003");
+  EXPECT_EQ(second.issued[0].serial, "2603003");
+  EXPECT_EQ(second.nextSerial, "2603004");
   b.Empty();
   EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount Where Station = '2026-03-31 a'"), "1");
   clsPrintTax(session.dbTax, "2026-04-01 c").Empty();

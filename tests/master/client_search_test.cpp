@@ -67,6 +67,8 @@ TEST_F(ClientSearching, aCallersNumberEndsTheStoredOneWithOrWithoutItsAreaCode) 
   EXPECT_EQ(names("22233", ClientSearchMode::All, true), QStringList{})
       << "five digits are a number, no text";
   EXPECT_EQ(names("0531231234", ClientSearchMode::All), QStringList{"김철수"}) << "typed without dashes";
+  EXPECT_EQ(names("01012345678", ClientSearchMode::All), QStringList{"이영희"}) << "of a second telephone";
+  EXPECT_EQ(names("0537779999", ClientSearchMode::All), QStringList{"행복식당"}) << "of a third";
   EXPECT_EQ(names("1112223334", ClientSearchMode::All), QStringList{"행복식당"}) << "a business number";
 }
 

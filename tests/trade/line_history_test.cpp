@@ -39,6 +39,8 @@ TEST_F(LastOffer, IsTheNewestLineOfTheSheetWithItsPriceAndPerson) {
   sold("2026-03-03", "True", "50", 0, "홍길동");
   EXPECT_EQ(offered(), "LPG/20 39000 홍길동") << "the meter's lines are another matter";
   EXPECT_EQ(offered(SaleSheet::Volume), "LPG/50 90000 홍길동");
+  sold("2026-03-02", "False", "50", 86000, "홍길동");
+  EXPECT_EQ(offered(), "LPG/50 86000 홍길동") << "of one day the line entered last";
 }
 
 TEST_F(LastOffer, ALineWithoutAPriceIsOfferedAtTheCatalogues) {

@@ -463,8 +463,8 @@ TEST(SaleEntry, ALineTooLargeForTheBookIsToldBeforeAnythingIsWritten) {
   Sale sale;
   const int row = sale.gasLine();
   const QString before = sale.figures(row) + sale.line(1) + sale.stock() + sale.balance();
-  for (const auto& [col, typed] :
-       {std::pair(LineCol::Number, "25000"), std::pair(LineCol::Discount, "-999970000")}) {
+  for (const auto& [col, typed] : {std::pair(LineCol::Number, "25000"), std::pair(LineCol::Number, "-25000"),
+                                   std::pair(LineCol::Discount, "-999970000")}) {
     sale.pc.prompts.expect("선택된 자료를");
     sale.pc.prompts.expect("한 줄의 금액은 999,999,999원을 넘을 수 없습니다!");
     EXPECT_EQ(sale.entry.finishCell(row, col, typed).end, LineStep::Refused);
