@@ -54,7 +54,7 @@ FilePtr WorkspaceData::open(const QString& written, bool exclusive) {
     throw;
   }
   // What the file's links name is attached at once: within a group it would be too late. A link whose file is missing
-  // fails when it is used.
+  // or does not answer fails when it is used.
   for (const QString& linked : linkedPaths()) {
     try {
       if (isThere(linked)) attach(linked);
@@ -240,7 +240,12 @@ QStringList WorkspaceData::linkedPaths() const {
   }
   for (const QString& connect : written) {
     const QString path = pathOfConnect(connect);
-    if (!path.trimmed().isEmpty()) paths << native(path);
+    if (path.trimmed().isEmpty()) continue;
+    try {
+      paths << native(path);
+    } catch (
+        const Error&) {  // what does not answer fails when the link is used, and nothing else fails for it
+    }
   }
   return paths;
 }
