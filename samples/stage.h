@@ -48,12 +48,13 @@ class Stage {
   void awaitRow(const QString& file, const QString& statement, const QString& line);
   /** Waits until there is a file of this name; the program names a file when it is whole. */
   void awaitFile(const QString& path);
+  /** Waits for anything else; what: its name when it does not come. */
+  void await(const QString& what, const std::function<bool()>& come) const;
   void picture(const QString& name);
   /** Ends the play: what is wrong, what was on the screen, a picture. */
   [[noreturn]] void stop(const QString& wrong) const;
 
  private:
-  void await(const QString& what, const std::function<bool()>& come) const;
   /** Waits until the program has done what it was sent, or stands in a box that it opened for it. */
   void awaitHandled();
   QString takePicture(const QString& name) const;
