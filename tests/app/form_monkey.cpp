@@ -257,6 +257,8 @@ class Monkey : public QObject {
       // A question whether typed texts may go keeps its form until somebody says yes.
       if (auto* const asked = qobject_cast<QMessageBox*>(box))
         asked->buttons().at(hands_.below(int(asked->buttons().size())))->click();
+      else if (QWidget* const hand = box->focusWidget(); hand && hands_.below(2) == 0)
+        QTest::keyClick(hand, Qt::Key_Escape);  // a wrong cell keeps its window until it is given up
       else if (auto* const dialog = qobject_cast<QDialog*>(box))
         dialog->reject();
       else
