@@ -241,10 +241,9 @@ QStringList WorkspaceData::linkedPaths() const {
   for (const QString& connect : written) {
     const QString path = pathOfConnect(connect);
     if (path.trimmed().isEmpty()) continue;
-    try {
+    try {  // what does not answer fails when the link is used, and nothing else fails for it
       paths << native(path);
-    } catch (
-        const Error&) {  // what does not answer fails when the link is used, and nothing else fails for it
+    } catch (const Error&) {
     }
   }
   return paths;
