@@ -115,12 +115,19 @@ TEST(SeeIdForms, PortsAreChangedAndTheListSurvivesItsWindow) {
   at.prompts.expect("삭제할 항목을 선택해 주세요.");
   window.findChild<QPushButton*>("btnDel")->click();
   list->setCurrentRow(0);
-  window.findChild<QPushButton*>("btnDel")->click();
+  waiting.AddStanbyNumber("0533333333");  // a call comes between the choice and the key
+  QTest::keyClick(list, Qt::Key_Delete);
   window.move(120, 80);
   window.close();
   EXPECT_FALSE(window.isVisible());
   EXPECT_EQ(at.pc.settings.GetSetting("해온판매", "환경설정", "발신번호대기창x"), "120");
+  window.bringToFront();
+  window.move(140, 80);
+  QTest::keyClick(list, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(at.pc.settings.GetSetting("해온판매", "환경설정", "발신번호대기창x"), "140");
   EXPECT_EQ(waiting.TakeStanbyNumber(), "0532222222");
+  EXPECT_EQ(waiting.TakeStanbyNumber(), "0533333333");
 }
 
 TEST(SeeIdForms, NumbersOutOfShapeAreTickedAndPutRightByKeys) {
