@@ -1,6 +1,10 @@
-# What `cmake --install` and `cpack` take along: the program, its data compressor, the importer of old books, its statement tool, entry and icon for the desktop, papers.
+# What `cmake --install` and `cpack` take along: the program, its data compressor, the importer of old books, its
+# statement tool, entry and icon for the desktop, papers.
 include(GNUInstallDirs)
-install(TARGETS haeon compressor haeon-import haeon-jet-rows jetsql RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS haeon haeon-import haeon-jet-rows jetsql RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+# What makes the package cannot read a Korean file name: the program lies under a Latin one, its own name is a link.
+install(PROGRAMS $<TARGET_FILE:compressor> DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME haeon-compressor)
+install(CODE "file(CREATE_LINK haeon-compressor \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/$<TARGET_FILE_NAME:compressor>\" SYMBOLIC)")
 install(FILES packaging/haeon.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/haeon.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES docs/guide.ko.md docs/notices.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
