@@ -109,6 +109,7 @@ TEST(SeeIdForms, PortsAreChangedAndTheListSurvivesItsWindow) {
   waiting.AddStanbyNumber("0531111111");
   FrmSeeIDStanbyList window(at.session, waiting);
   window.bringToFront();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window)) << "Delete is a shortcut of the window";
   waiting.AddStanbyNumber("0532222222");
   auto* list = window.findChild<QListWidget*>("List1");
   ASSERT_EQ(list->count(), 2);
