@@ -43,7 +43,7 @@ QString DataFolder::create(const QString& parent) {
                            .value_or(QString())
                            .trimmed();
   if (name.isEmpty()) return {};
-  const QString path = child(parent, name);
+  QString path = child(parent, name);
   if (path.size() > maxPath) {
     session_.prompts.MsgWarn(u"경로명의 최대길이는 "_s + QString::number(maxPath) + u"입니다."_s, title);
     return {};

@@ -245,7 +245,7 @@ ArchiveFacts verify(const QString& nativeZip, const Tell& tell, qint64 expected)
     open.reset();
   });
   if (!listed) failReading(nativeZip, u"목록 없음"_s);
-  const ArchiveFacts facts = readList(list, nativeZip);
+  ArchiveFacts facts = readList(list, nativeZip);
   for (const PackedFile& file : facts.files) {
     const PackedFile there = found.take(file.name.toCaseFolded());
     if (there.name != file.name || there.size != file.size || there.sum != file.sum)

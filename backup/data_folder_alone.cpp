@@ -37,7 +37,7 @@ QStringList DataFolderAlone::take() {
   const auto isBasic = [](const QString& name) {
     return name.compare(u"Basic.mdb"_s, Qt::CaseInsensitive) == 0;
   };
-  std::ranges::stable_partition(names, isBasic);
+  std::stable_partition(names.begin(), names.end(), isBasic);
   for (const QString& name : names) {
     if (held_.contains(name)) continue;
     const QString native = paths_.native(folder_ + name);

@@ -36,7 +36,7 @@ void prepareRestore(const pc::Pc& pc, const QString& dataFolder, const QString& 
 
 QString finishRestore(const pc::Pc& pc, const QString& dataFolder, std::unique_ptr<DataFolderAlone> held) {
   try {
-    const QString kept = swapIn(pc.paths, dataFolder, pc.clock.now());
+    QString kept = swapIn(pc.paths, dataFolder, pc.clock.now());
     held.reset();
     clearMarks(pc.paths, kept);
     return kept;

@@ -13,7 +13,7 @@ namespace {
 const QString usualFolder = u"C:\\RWGas\\BackUp\\"_s;
 
 QString asFolder(const QString& written) {
-  const QString text = written.trimmed();
+  QString text = written.trimmed();
   if (text.isEmpty() || text.endsWith(u'\\') || text.endsWith(u'/')) return text;
   return text + (text.startsWith(u'/') ? u'/' : u'\\');
 }

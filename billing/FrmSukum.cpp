@@ -57,7 +57,7 @@ FrmSukum::FrmSukum(FormContext& context, QWidget* parent)
 }
 
 QSize FrmSukum::sizeHint() const {
-  return QWidget::sizeHint() + QSize(30, 10);
+  return Form::sizeHint() + QSize(30, 10);
 }
 
 void FrmSukum::leaveYear() {

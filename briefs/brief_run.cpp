@@ -96,7 +96,7 @@ std::optional<QString> BriefRun::check(BriefAsk& ask) const {
     if (!isAsked(question, ask)) continue;
     BriefAnswer& answer = ask.answers[question.name];
     if (question.kind == AskKind::Period) {
-      if (const auto box = checkPeriod(session_, question.name, answer)) return box;
+      if (auto box = checkPeriod(session_, question.name, answer)) return box;
     } else if (question.kind == AskKind::Text && answer.text.contains(apostrophe)) {
       session_.prompts.MsgWarn(question.label + u"에는 작은따옴표를 넣을 수 없습니다!"_s, briefManager);
       return question.name;

@@ -26,6 +26,7 @@ void keepLargest(ChartData& data, size_t most) {
   data.labels = labels;
   for (std::vector<double>& values : data.series) {
     std::vector<double> kept;
+    kept.reserve(order.size());
     for (const size_t at : order) kept.push_back(values[at]);
     values = std::move(kept);
   }

@@ -37,7 +37,7 @@ std::vector<int> rowsToPrint(const ReadingScreen& screen, GiroSelection selectio
 }
 
 QString giroPrinter(Session& session) {
-  const QString device = slipPrinter(session).device;
+  QString device = slipPrinter(session).device;
   if (device.isEmpty())
     session.prompts.MsgWarn(
         u"지로출력을 위한 프린터가 설정되어 있지 않습니다\n프린터 설정을 해 주시기 바랍니다"_s, printManager);

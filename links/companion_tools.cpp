@@ -22,7 +22,7 @@ QString folderOf(Session& session, const CompanionTool& tool) {
   const QString program = QString::fromUtf16(tool.program), missing = QString::fromUtf16(tool.missing),
                 application = QString::fromUtf16(tool.application);
   const pc::Paths& paths = session.pc.paths;
-  const QString own = paths.programFolder();
+  QString own = paths.programFolder();
   if (paths.exists(own + program)) return own;
   const pc::Setting place = setting::toolFolderOf(application);
   QString folder = session.pc.settings.read(place);

@@ -13,7 +13,7 @@ const QString dmManager = u"DM 발송"_s;
 constexpr int labelWidth = 46, envelopeWidth = 50;  ///< half-width characters of a line
 
 QString dmStatement(DmKind kind) {
-  const QString everyone = u"Select * From Client"_s;
+  QString everyone = u"Select * From Client"_s;
   if (kind == DmKind::All) return everyone;
   return everyone + u" Where VolumeYesNo = "_s + (kind == DmKind::Volume ? u"TRUE"_s : u"FALSE"_s);
 }
@@ -112,7 +112,7 @@ bool DmList::load(DmKind kind) {
 }
 
 QString DmList::printer() const {
-  const QString device = slipPrinter(session_).device;
+  QString device = slipPrinter(session_).device;
   if (device.isEmpty())
     session_.prompts.MsgWarn(
         u"출력할 프린터가 설정되어 있지 않습니다.\n[프린터 설정]에서 프린터를 선택해 주십시오."_s, dmManager);

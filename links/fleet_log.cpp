@@ -74,7 +74,7 @@ bool FleetLog::read(const QString& where) {
     RegisterFields fields = fieldsOf(rs);
     std::vector<QString>& row = rows.emplace_back();
     for (const QString& field : carFields) row.push_back(fields[field]);
-    stored_.insert(fields[u"RCode"_s], std::move(fields));
+    stored_.insert(fields[u"RCode"_s], fields);
   }
   grid_.setRows(std::move(rows));
   return true;

@@ -45,7 +45,7 @@ QString GetSenderPath(Session& session, int toolIndex) {
   const Sender& sender = senderOf(toolIndex);
   const pc::Paths& paths = session.pc.paths;
   if (paths.exists(inFolder(paths.programFolder(), sender.program))) return paths.programFolder();
-  const QString folder = session.pc.settings.read(sender.folder);
+  QString folder = session.pc.settings.read(sender.folder);
   // Both texts speak of 문자전송, whichever tool is missing; kept.
   if (folder.isEmpty()) {
     session.prompts.MsgInfo(u"문자전송 실행파일을 찾을 수 없습니다."_s);

@@ -13,7 +13,7 @@ QString WaitingList::OldestStanbyNumber() const {
 }
 
 QString WaitingList::TakeStanbyNumber() {
-  const QString number = OldestStanbyNumber();
+  QString number = OldestStanbyNumber();
   if (!entries_.isEmpty()) remove(0);
   return number;
 }

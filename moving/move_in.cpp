@@ -32,7 +32,8 @@ bool isSame(const QString& one, const QString& other) {
 /** The folder's data files, Basic.mdb first: the years are compared with its customers. */
 QStringList filesOf(const QString& nativeFolder) {
   QStringList names = QDir(nativeFolder).entryList({u"*.mdb"_s}, QDir::Files, QDir::Name | QDir::IgnoreCase);
-  std::ranges::stable_partition(names, [](const QString& name) { return isSame(name, basicName); });
+  std::stable_partition(names.begin(), names.end(),
+                        [](const QString& name) { return isSame(name, basicName); });
   return names;
 }
 

@@ -37,7 +37,7 @@ class RunBar {
 class FrmPaperView : public PagesWindow {
  public:
   FrmPaperView(Session& session, const QString& title, std::shared_ptr<const pc::Pages> pages,
-               std::function<void()> print, QWidget* parent)
+               const std::function<void()>& print, QWidget* parent)
       : PagesWindow(u"FrmPaperView"_s, title, session, std::move(pages), parent) {
     addPrint([this, print] {
       close();
@@ -61,7 +61,7 @@ QString askedFolder(Session& session, QWidget* over) {
     return QFileInfo(place).isDir() ? place : QFileInfo(place).path();
   QString before = session.pc.settings.read(setting::PdfFolder);
   if (before.isEmpty()) before = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  const QString chosen = folderAsker()(over, before);
+  QString chosen = folderAsker()(over, before);
   if (!chosen.isEmpty()) session.pc.settings.write(setting::PdfFolder, chosen);
   return chosen;
 }

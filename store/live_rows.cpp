@@ -57,7 +57,7 @@ QString columnOf(const QString& field, const pc::ReportTables& tables) {
   const auto found = tables.values.find(field);
   if (found == tables.values.end()) return plainPath(field);
   const auto& [fields, exceptField, codes] = found->second;
-  const QString sum = plainPath(fields.join(u" + "_s));
+  QString sum = plainPath(fields.join(u" + "_s));
   if (exceptField.isEmpty()) return sum;
   QStringList numbers;
   for (const QString& code : codes) numbers << plainNumber(code);

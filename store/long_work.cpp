@@ -3,9 +3,10 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+int longWorkGroup = 200;
+
 namespace {
 
-constexpr int groupMilliseconds = 200;
 /** Longer than a waiting PC's look at the lock; without it the next group would begin before anybody had looked. */
 constexpr int gapMilliseconds = 20;
 
@@ -22,7 +23,7 @@ int run(const jet::Workspace& workspace, const LongWork& work) {
         QElapsedTimer since;
         since.start();
         do work.step(done++);
-        while (done < work.count && (work.whole || since.elapsed() < groupMilliseconds) && !asks(done));
+        while (done < work.count && (work.whole || since.elapsed() < longWorkGroup) && !asks(done));
       });
     }
     if (work.tell && !work.tell(done)) break;

@@ -20,5 +20,8 @@ struct LongWork {
   std::vector<jet::Database> files = {};
 };
 
+/** Milliseconds after which a group ends; a test that wants several groups of little work makes it shorter. */
+extern int longWorkGroup;
+
 /** Steps done. An error of a step goes on to the caller; the steps before it stay. */
 int run(const jet::Workspace& workspace, const LongWork& work);

@@ -45,7 +45,7 @@ void LineBook::setSheet(SpreadModel& grid, const LineKinds& kinds) {
 
 QString LineBook::checkedDate(const QString& typed) {
   const QDate today = session_.pc.clock.today();
-  const QString found = checkedMonthDay(typed, QString::number(today.year()), session_.pc.clock).right(5);
+  QString found = checkedMonthDay(typed, QString::number(today.year()), session_.pc.clock).right(5);
   if (found.isEmpty())
     session_.prompts.MsgWarn("날짜 입력이 올바르지 않습니다!\n입력예) " + today.toString("MM.dd"),
                              "날짜입력 에러");

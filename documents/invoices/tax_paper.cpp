@@ -94,7 +94,7 @@ std::vector<QString> TaxPaper::texts(const TaxInvoice& invoice) const {
 }
 
 QStringList TaxPaper::lineTexts(const TaxLine& line) const {
-  QStringList made(qsizetype(TaxLineText::Count));
+  auto made = QStringList(qsizetype(TaxLineText::Count));
   const auto set = [&](TaxLineText what, const QString& text) { made[qsizetype(what)] = text; };
   set(TaxLineText::Month, line.DealDate.mid(5, 2));
   set(TaxLineText::Day, line.DealDate.mid(8, 2));

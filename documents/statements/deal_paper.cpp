@@ -16,7 +16,7 @@ pc::PaperShift shiftOf(DocumentLayout layout, pc::PaperShift margin) {
 
 DealPaper::DealPaper(DealPaperChoice choice, DocumentParty supplier, pc::PaperShift margin)
     : DocumentPaper(*forms[size_t(choice.layout)], std::move(supplier), shiftOf(choice.layout, margin)),
-      choice_(std::move(choice)) {}
+      choice_(choice) {}
 
 void DealPaper::put(pc::PrintJob& job, pc::PaperPlaces& places, const DealStatement& statement) const {
   static const std::array<QString, 2> labels{"  (공급자 보관용)", "(공급받는자 보관용)"};
@@ -71,7 +71,7 @@ std::vector<QString> DealPaper::texts(const DealStatement& statement, const pc::
 }
 
 QStringList DealPaper::lineTexts(const DealLine& line, const std::optional<VatSplit>& split) const {
-  QStringList made(qsizetype(DealLineText::Count));
+  auto made = QStringList(qsizetype(DealLineText::Count));
   const auto set = [&](DealLineText what, const QString& text) { made[qsizetype(what)] = text; };
   const QString item = line.item + " (" + line.norm + ")";
   const bool short_ = choice_.layout == DocumentLayout::FullA4 || choice_.layout == DocumentLayout::Dot;

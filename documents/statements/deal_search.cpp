@@ -25,7 +25,7 @@ QString DealSearch::sumText() const {
 }
 
 jet::Database DealSearch::openYear(const QString& year) {
-  const jet::Database file = ::openYear(session_, year);
+  jet::Database file = ::openYear(session_, year);
   if (!file.isOpen() && !missingYears_.contains(year)) missingYears_ << year;
   return file;
 }

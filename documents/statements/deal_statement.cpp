@@ -3,7 +3,8 @@
 std::vector<DealStatement> statementsOf(const SpreadModel& list, const std::vector<int>& rows) {
   std::vector<DealStatement> statements;
   for (const int row : rows) {
-    const QString client = list.text(row, DealCol::ClientCode), date = list.text(row, DealCol::Day);
+    const QString& client = list.text(row, DealCol::ClientCode);
+    const QString& date = list.text(row, DealCol::Day);
     if (statements.empty() || statements.back().clientCode != client)
       statements.push_back(
           {.clientCode = client, .clientName = list.text(row, DealCol::ClientName), .firstDate = date});

@@ -103,6 +103,7 @@ void BuildingRegister::showHouseholds() {
     }
   }
   std::vector<QStringList> fromBelow;
+  fromBelow.reserve(floors.size());
   for (auto& [floor, units] : floors) fromBelow.push_back(units);
   ::showUnits(units_, fromBelow, true);
 }
@@ -157,9 +158,9 @@ Building BuildingRegister::building(const RegisterFields& boxes) const {
 }
 
 RegisterRules::Outcome BuildingRegister::insert(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (Outcome required = checkRequired(boxes); !required.done) return required;
   const Building made = building(boxes);
-  if (const Outcome single = checkTwin(made); !single.done) return single;
+  if (Outcome single = checkTwin(made); !single.done) return single;
   showUnits(boxes);
   const QStringList units = unitsAsShown(units_, made.staircase);
   {
@@ -172,12 +173,12 @@ RegisterRules::Outcome BuildingRegister::insert(const RegisterFields& boxes) {
 }
 
 RegisterRules::Outcome BuildingRegister::change(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (Outcome required = checkRequired(boxes); !required.done) return required;
   Building changed = building(boxes);
   changed.name = record()[u"Name"_s];
   const QString oldDong = record()[u"Dong"_s];
   if (changed.dong != oldDong)
-    if (const Outcome single = checkTwin(changed); !single.done) return single;
+    if (Outcome single = checkTwin(changed); !single.done) return single;
   session_.prompts.MsgWarn(u"선택하신 건물의 모든 가구에 대한 내용이 수정됩니다."_s, buildingTitle);
   return changeChosen(boxes, buildingTitle,
                       [&](const RowChange&, const RegisterFields& row, const RegisterFields& stored) {

@@ -42,7 +42,7 @@ QString UtilCatalogue::whereIs(const RegisterFields& row) {
 }
 
 RegisterRules::Outcome UtilCatalogue::insert(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (Outcome required = checkRequired(boxes); !required.done) return required;
   const QString name = boxes[u"Name"_s], size = boxes[u"Size"_s];
   const Found twin = lookFor(u"Select * From Util Where Name = '"_s + plainText(name) + u"' And Size = '"_s +
                              plainText(size) + u"'"_s);
@@ -58,7 +58,7 @@ RegisterRules::Outcome UtilCatalogue::insert(const RegisterFields& boxes) {
 }
 
 RegisterRules::Outcome UtilCatalogue::change(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (Outcome required = checkRequired(boxes); !required.done) return required;
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, utilTitle)) return {};
   return changeChosen(boxes, utilTitle,
                       [&](const RowChange& change, const RegisterFields& row, const RegisterFields& stored) {

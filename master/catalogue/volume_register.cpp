@@ -34,7 +34,7 @@ RegisterRules::Outcome VolumeRegister::checkRequired(const RegisterFields& boxes
 }
 
 RegisterRules::Outcome VolumeRegister::insert(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (Outcome required = checkRequired(boxes); !required.done) return required;
   const QString size = boxes[u"Size"_s];
   const Found twin =
       lookFor(u"Select * From Volume Where Size = '"_s + plainText(size) + u"' Order By Code"_s);
@@ -47,9 +47,9 @@ RegisterRules::Outcome VolumeRegister::insert(const RegisterFields& boxes) {
 }
 
 RegisterRules::Outcome VolumeRegister::change(const RegisterFields& boxes) {
-  if (const Outcome required = checkRequired(boxes); !required.done) return required;
+  if (Outcome required = checkRequired(boxes); !required.done) return required;
   QString oldSize, oldUnit, newUnit;
-  const Outcome outcome = changeChosen(
+  Outcome outcome = changeChosen(
       boxes, volumeTitle, [&](const RowChange&, const RegisterFields& row, const RegisterFields& stored) {
         oldSize = stored[u"Size"_s];
         oldUnit = typedNumber(stored[u"Unit"_s]);

@@ -96,7 +96,7 @@ void Workspace::Together(const std::vector<Database>& files, const std::function
   std::vector<FilePtr> also;
   for (const Database& file : files)
     if (file.isOpen()) also.push_back(file.data_->file());
-  checked(data_).together(work, std::move(also));
+  checked(data_).together(work, also);
 }
 
 void Workspace::KeepingFiles(const std::function<void()>& work) const {

@@ -182,7 +182,7 @@ QString twoDigits(int number) {
 QString datePiece(const QDateTime& moment, QChar mark, qsizetype count, bool minutes, bool half) {
   const QDate day = moment.date();
   const QTime time = moment.time();
-  const QString weekday = QString::fromUtf16(kWeekdays[day.dayOfWeek() - 1]);
+  QString weekday = QString::fromUtf16(kWeekdays[day.dayOfWeek() - 1]);
   const auto number = [count](int n) { return count == 1 ? QString::number(n) : twoDigits(n); };
   switch (mark.unicode()) {
     case u'y':

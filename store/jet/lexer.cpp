@@ -19,16 +19,16 @@ enum class Sign : unsigned char { Unknown, Space, Letter, Digit, Point, Quote, B
 
 constexpr std::array<Sign, 128> plainSigns() {
   std::array<Sign, 128> signs{};
-  for (char c = '\t'; c <= '\r'; ++c) signs[size_t(c)] = Sign::Space;
-  signs[size_t(' ')] = Sign::Space;
-  for (char c = 'a'; c <= 'z'; ++c) signs[size_t(c)] = signs[size_t(c - 'a' + 'A')] = Sign::Letter;
-  signs[size_t('_')] = Sign::Letter;
-  for (char c = '0'; c <= '9'; ++c) signs[size_t(c)] = Sign::Digit;
-  for (const char c : std::string_view("(),=<>+-*/\\^&;")) signs[size_t(c)] = Sign::Symbol;
-  signs[size_t('.')] = Sign::Point;
-  signs[size_t('\'')] = signs[size_t('"')] = Sign::Quote;
-  signs[size_t('[')] = signs[size_t('`')] = Sign::Bracket;
-  signs[size_t('#')] = Sign::Hash;
+  for (char16_t c = u'\t'; c <= u'\r'; ++c) signs[c] = Sign::Space;
+  signs[u' '] = Sign::Space;
+  for (char16_t c = u'a'; c <= u'z'; ++c) signs[c] = signs[c - u'a' + u'A'] = Sign::Letter;
+  signs[u'_'] = Sign::Letter;
+  for (char16_t c = u'0'; c <= u'9'; ++c) signs[c] = Sign::Digit;
+  for (const char16_t c : std::u16string_view(u"(),=<>+-*/\\^&;")) signs[c] = Sign::Symbol;
+  signs[u'.'] = Sign::Point;
+  signs[u'\''] = signs[u'"'] = Sign::Quote;
+  signs[u'['] = signs[u'`'] = Sign::Bracket;
+  signs[u'#'] = Sign::Hash;
   return signs;
 }
 

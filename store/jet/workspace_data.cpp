@@ -94,8 +94,8 @@ FilePtr WorkspaceData::attach(const QString& nativePath) {
 FilePtr WorkspaceData::fileFor(const QString& nativePath) {
   std::erase_if(known_, [](const auto& file) { return file.expired(); });
   for (const auto& known : known_)
-    if (const FilePtr file = known.lock(); file && file->path() == nativePath) return file;
-  const FilePtr made = std::make_shared<DataFile>(nativePath);
+    if (FilePtr file = known.lock(); file && file->path() == nativePath) return file;
+  FilePtr made = std::make_shared<DataFile>(nativePath);
   known_.push_back(made);
   return made;
 }
@@ -209,7 +209,7 @@ void WorkspaceData::makeRoom() {
   letGo(first);
 }
 
-void WorkspaceData::letGo(FilePtr file) {
+void WorkspaceData::letGo(const FilePtr& file) {
   prepared_.forget(file);
   try {
     connection_->detach(file->alias());

@@ -38,7 +38,7 @@ class WorkspaceData {
   void runOn(const FilePtr& file, const std::function<void(Connection&)>& work);
 
   /** also: files that the group is sure of before its first write, besides those its statements name. */
-  void together(const std::function<void()>& work, std::vector<FilePtr> also = {});
+  void together(const std::function<void()>& work, const std::vector<FilePtr>& also = {});
   void keepingFiles(const std::function<void()>& work);
 
  private:
@@ -52,7 +52,7 @@ class WorkspaceData {
   void reconnect();
   bool isMainFile(const FilePtr& file) const;
   void makeRoom();
-  void letGo(FilePtr file);
+  void letGo(const FilePtr& file);
   void tidy();
   QStringList linkedPaths() const;
   void lockExclusively(DataFile& file);

@@ -138,7 +138,7 @@ void WorkspaceData::define(const FilePtr& file, const std::function<void(Connect
 
 // ---- groups
 
-void WorkspaceData::together(const std::function<void()>& work, std::vector<FilePtr> also) {
+void WorkspaceData::together(const std::function<void()>& work, const std::vector<FilePtr>& also) {
   // Each once: a long group asks for the same files again with every step.
   for (const FilePtr& file : also)
     if (std::ranges::find(groupFiles_, file) == groupFiles_.end()) groupFiles_.push_back(file);

@@ -6,10 +6,12 @@
 #include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QTabWidget>
 #include <QTimer>
 #include <memory>
 
+#include "store/long_work.h"
 #include "tests/answers.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
@@ -118,6 +120,7 @@ TEST_F(HouseStyleForm, BoxesDecideTheNumbersUntilTheBlockIsStored) {
 }
 
 TEST_F(HouseStyleForm, ABigBlockShowsHowFarItIs) {
+  const QScopedValueRollback shortGroups(longWorkGroup, 5);
   enterBlock();
   box("TxtHeight")->setText(u"30"_s);
   box("TxtWidth")->setText(u"60"_s);

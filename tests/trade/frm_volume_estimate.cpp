@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScopedValueRollback>
 #include <QTest>
 #include <QTimer>
 
@@ -15,6 +16,7 @@
 #include "tests/trade/sale_desk.h"
 #include "tests/ui/grab.h"
 #include "trade/frmResCAN.h"
+#include "ui/forms/FrmProgress.h"
 
 using namespace Qt::StringLiterals;
 
@@ -84,7 +86,8 @@ TEST(FrmVolumeEstimate, ADayMustBeNamed) {
 }
 
 TEST(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
-  constexpr int customers = 3000;
+  constexpr int customers = 300;
+  const QScopedValueRollback eachStep(FrmProgress::drawEvery, 0);
   EstimateScreen screen;
   screen.pc.session.wsMain.Together([&] {
     for (int client = 4; client < 4 + customers; ++client) {

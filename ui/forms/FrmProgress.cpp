@@ -12,10 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr qint64 drawEvery = 50;  ///< milliseconds
-}
-
 FrmProgress::FrmProgress(const QString& caption, int total, bool mayStop, QWidget* parent) : QDialog(parent) {
   setObjectName(u"FrmProgress"_s);
   setWindowTitle(caption);

@@ -13,6 +13,9 @@ class QPushButton;
  *  so it has no guard of its own: it is drawn by the work, which stands under the guard of who began it. */
 class FrmProgress : public QDialog {
  public:
+  /** Milliseconds from one drawing to the next; a test that wants each step drawn makes it 0. */
+  static inline int drawEvery = 50;
+
   /** total: steps of the work; 0 when it is not known. A stop button only when the work may be broken off. */
   FrmProgress(const QString& caption, int total, bool mayStop, QWidget* parent = nullptr);
 
