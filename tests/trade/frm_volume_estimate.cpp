@@ -86,7 +86,7 @@ TEST(FrmVolumeEstimate, ADayMustBeNamed) {
 }
 
 TEST(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
-  constexpr int customers = 300;
+  constexpr int customers = 600;
   const QScopedValueRollback eachStep(FrmProgress::drawEvery, 0);
   EstimateScreen screen;
   screen.pc.session.wsMain.Together([&] {
