@@ -19,8 +19,8 @@ struct BriefDesk {
     session.reports = &reports;
     run("Insert Into Client(Code, Name, Tel, HouseStyle, VolumeYesNo) Values(1, '김하나', '053-1', 0, "
         "False)");
-    run("Insert Into Client(Code, Name, Tel, HouseStyle, BDName, Dong, Ho, VolumeYesNo) "
-        "Values(2, '이둘', '053-2', 1, '한빛', '101', '202', False)");
+    run("Insert Into Client(Code, Name, Tel, HouseStyle, BDName, Dong, Ho, VolumeYesNo) Values(2, '이둘', "
+        "'053-2', 1, '한빛', '101', '202', False)");
     run("Insert Into Client(Code, Name, Tel, HouseStyle, VolumeYesNo) Values(3, '박셋', '053-3', 0, True)");
   }
   void run(const QString& sql) { session.dbYear.Execute(sql); }
@@ -42,20 +42,19 @@ struct BriefDesk {
   };
   void sale(const Line& line) { sale(session.dbYear, line); }
   void sale(const jet::Database& file, const Line& line) {
-    file.Execute(
-        QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, Trust, DC, "
-                "SaleName, SaleThing, Response, SaleUnit) Values('%1', %2, %3, %4, %5, %6, %7, %8, "
-                "'%9', '%10', '%11', %12)")
-            .arg(line.day)
-            .arg(line.client)
-            .arg(line.kind)
-            .arg(line.client == 3 && line.kind < 7 ? "True" : "False")
-            .arg(line.pieces)
-            .arg(line.income)
-            .arg(line.trust)
-            .arg(line.discount)
-            .arg(line.item, line.size, line.person)
-            .arg(line.unit));
+    file.Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, Trust, "
+                         "DC, SaleName, SaleThing, Response, SaleUnit) Values('%1', %2, %3, %4, %5, %6, %7, "
+                         "%8, '%9', '%10', '%11', %12)")
+                     .arg(line.day)
+                     .arg(line.client)
+                     .arg(line.kind)
+                     .arg(line.client == 3 && line.kind < 7 ? "True" : "False")
+                     .arg(line.pieces)
+                     .arg(line.income)
+                     .arg(line.trust)
+                     .arg(line.discount)
+                     .arg(line.item, line.size, line.person)
+                     .arg(line.unit));
   }
 
   /** Shown cells of every row with "|" between, the sum's too. */
@@ -69,6 +68,11 @@ struct BriefDesk {
       rows << cells.join('|');
     }
     return rows;
+  }
+  /** The rows that a page shows under some answers. */
+  static QStringList load(BriefRun& run, const BriefAsk& ask) {
+    EXPECT_TRUE(run.load(ask));
+    return shown(run, ask.page);
   }
   /** Fields of Print: "Str01, Lng01". */
   QStringList staged(const QString& fields) { return stagedRows(session, fields); }

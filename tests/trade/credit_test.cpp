@@ -48,10 +48,9 @@ TEST_F(CreditTest, GasCreditByCustomer) {
   sale({.day = "2026-03-21", .kind = 4, .pieces = 0, .income = 12000, .trust = 28000});
   sale({.day = "2026-03-22", .kind = 7, .income = 100, .trust = 700});
   BriefRun run(session, trustBrief());
-  ASSERT_TRUE(run.load(asks(0)));
   // 28,000 are the 13,000 of March (11 days), the 8,000 of February (49), 7,000 of the 9,000 of January (80).
   EXPECT_EQ(
-      shown(run),
+      load(run, asks(0)),
       QStringList({"김하나|053-1|2026-03-20|10000|35000|300|5000|12000|28000|700|28700|13000|8000|7000|0",
                    "한빛 101동 202호|053-2||-1000|0|0|0|0|-1000|0|-1000|0|0|0|0",
                    "[합 계]|||9000|35000|300|5000|12000|27000|700|27700|13000|8000|7000|0"}));
@@ -62,8 +61,7 @@ TEST_F(CreditTest, GasCreditByCustomer) {
   EXPECT_EQ(reports.asked.back().file, "가스미수금현황.rpt");
   EXPECT_EQ(reports.asked.back().formulas, QStringList{"판매구분= '(전체)'"});
 
-  ASSERT_TRUE(run.load(asks(0, {{"TxtName", {.text = "하"}}})));
-  EXPECT_EQ(shown(run).size(), 2);
+  EXPECT_EQ(load(run, asks(0, {{"TxtName", {.text = "하"}}})).size(), 2);
   pc.prompts.expect("가스 미수금이 있는 고객이 없습니다!");
   EXPECT_FALSE(run.load(asks(0, {{"OptGubun", {.place = 2}}}))) << "the metered one owes for materials alone";
 }
@@ -78,8 +76,7 @@ TEST_F(CreditTest, CreditOfLastYearKeepsItsAge) {
   sale(last, {.day = "2025-12-31", .trust = 20000});  // 20
   sale({.day = "2026-01-05", .trust = 1000});
   BriefRun run(session, trustBrief());
-  ASSERT_TRUE(run.load(asks(0)));
-  EXPECT_EQ(shown(run)[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|6000|3000");
+  EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|6000|3000");
 }
 
 }  // namespace

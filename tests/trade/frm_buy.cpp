@@ -10,8 +10,8 @@
 
 namespace {
 
-struct BuyScreen : tests::KeyScreen<tests::BuyDesk, frmBuy> {
-  BuyScreen() {
+struct FrmBuy : tests::KeyScreen<tests::BuyDesk, frmBuy> {
+  FrmBuy() {
     run("Update LPG Set LPGPurchase = 21000");
     open();
     grid()->setFocus();
@@ -32,62 +32,57 @@ struct BuyScreen : tests::KeyScreen<tests::BuyDesk, frmBuy> {
   }
 };
 
-TEST(FrmBuy, APurchaseByKeys) {
-  BuyScreen screen;
-  EXPECT_EQ(screen.place(), "1:2");
-  EXPECT_EQ(screen.form->windowTitle(), "구매등록");
-  screen.step("111-2222", "1:3");  // the station's telephone
-  EXPECT_EQ(screen.label("LblAddr"), "(100-200) 강변로 7");
-  EXPECT_EQ(screen.label("LblGasTrust"), "200,000");
-  screen.step("", "1:4");    // the kind that stands there
-  screen.step("20", "1:5");  // the size
-  screen.change("10", "1:8");
-  screen.step("", "1:9");
-  screen.change("110000", "1:11");
-  EXPECT_EQ(screen.label("LblGasTrust"), "300,000") << "100,000 more on credit";
-  EXPECT_EQ(screen.stock(), "1200|100|10|30|60");
-  EXPECT_EQ(screen.line(), "한강|1|LPG|20|10|21000|0|110000|100000|");
-  tests::grab(*screen.form, "frmBuy");
+TEST_F(FrmBuy, APurchaseByKeys) {
+  EXPECT_EQ(place(), "1:2");
+  EXPECT_EQ(form->windowTitle(), "구매등록");
+  step("111-2222", "1:3");  // the station's telephone
+  EXPECT_EQ(label("LblAddr"), "(100-200) 강변로 7");
+  EXPECT_EQ(label("LblGasTrust"), "200,000");
+  step("", "1:4");    // the kind that stands there
+  step("20", "1:5");  // the size
+  change("10", "1:8");
+  step("", "1:9");
+  change("110000", "1:11");
+  EXPECT_EQ(label("LblGasTrust"), "300,000") << "100,000 more on credit";
+  EXPECT_EQ(stock(), "1200|100|10|30|60");
+  EXPECT_EQ(line(), "한강|1|LPG|20|10|21000|0|110000|100000|");
+  tests::grab(*form, "frmBuy");
 
-  screen.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
+  pc.prompts.expect("선택한 자료를 삭제하시겠습니까?");
   tests::key(Qt::Key_F4);
-  EXPECT_EQ(screen.line(), "");
-  EXPECT_EQ(screen.owed(), "200000|7000;0|0");
-  EXPECT_EQ(screen.stock(), "1000|100|10|40|50");
+  EXPECT_EQ(line(), "");
+  EXPECT_EQ(owed(), "200000|7000;0|0");
+  EXPECT_EQ(stock(), "1000|100|10|40|50");
 }
 
-TEST(FrmBuy, EscShowsAllAndF10TheLedger) {
-  BuyScreen screen;
-  screen.run(
-      "Insert Into Buy(BuyDate, BuyCompany, PurchaseGubun, BuyName, BuyThing) "
-      "Values('2026-01-02', '낙동', 1, 'LPG', '20')");
-  screen.step("111-2222", "1:3");
-  EXPECT_EQ(screen.grid()->model().MaxRows(), 1);
+TEST_F(FrmBuy, EscShowsAllAndF10TheLedger) {
+  run("Insert Into Buy(BuyDate, BuyCompany, PurchaseGubun, BuyName, BuyThing) Values('2026-01-02', '낙동', "
+      "1, 'LPG', '20')");
+  step("111-2222", "1:3");
+  EXPECT_EQ(grid()->model().MaxRows(), 1);
   tests::key(Qt::Key_Escape);
-  EXPECT_EQ(screen.place(), "2:2");
-  EXPECT_EQ(screen.label("LblTel"), "");
+  EXPECT_EQ(place(), "2:2");
+  EXPECT_EQ(label("LblTel"), "");
   tests::key(Qt::Key_Up);
-  EXPECT_EQ(screen.label("LblTel"), "051-333-4444");
+  EXPECT_EQ(label("LblTel"), "051-333-4444");
   tests::key(Qt::Key_F10);
-  EXPECT_EQ(screen.commands.asked, QStringList({"frmPrtBuy"}));
+  EXPECT_EQ(commands.asked, QStringList({"frmPrtBuy"}));
   tests::key(Qt::Key_F4, Qt::ControlModifier);
-  EXPECT_EQ(screen.rows("Select Count(*) From Buy"), "1") << "with another key held it is no deletion";
+  EXPECT_EQ(rows("Select Count(*) From Buy"), "1") << "with another key held it is no deletion";
 }
 
-TEST(FrmBuy, ATypedDayIsTheNextLines) {
-  BuyScreen screen;
-  screen.form->findChild<DateBox*>("txtDate")->setFocus();
+TEST_F(FrmBuy, ATypedDayIsTheNextLines) {
+  form->findChild<DateBox*>("txtDate")->setFocus();
   tests::enter("0301");
   QApplication::processEvents();  // the day is taken once the focus has gone
-  screen.step("111-2222", "1:3");
-  EXPECT_EQ(screen.grid()->model().text(1, LineCol::Date), "03-01");
+  step("111-2222", "1:3");
+  EXPECT_EQ(grid()->model().text(1, LineCol::Date), "03-01");
 }
 
-TEST(FrmBuy, TheMenusPageDecidesTheKindOfNewLines) {
-  BuyScreen screen;
-  screen.form->showPage("material");
-  screen.step("111-2222", "1:3");
-  EXPECT_EQ(screen.grid()->model().text(1, LineCol::Kind), "자재");
+TEST_F(FrmBuy, TheMenusPageDecidesTheKindOfNewLines) {
+  form->showPage("material");
+  step("111-2222", "1:3");
+  EXPECT_EQ(grid()->model().text(1, LineCol::Kind), "자재");
 }
 
 }  // namespace

@@ -21,12 +21,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct SaleScreen : tests::SaleDesk {
+struct FrmSale : testing::Test, tests::SaleDesk {
   tests::IdleCommands commands;
   FormContext context{pc.session, pickers, commands, calls};
   frmSale form{context};
+  QLineEdit* const date = form.findChild<QLineEdit*>("txtDate");
 
-  SaleScreen() {
+  FrmSale() {
     tests::show(form);
     grid()->setFocus();
   }
@@ -56,120 +57,117 @@ struct SaleScreen : tests::SaleDesk {
     pickers.items.push_back(ItemChoice{"LPG", size, price, 0});
     press(Qt::Key_Return);
   }
+  /** One piece of size 20 at 40,000 won for 산골식당. */
+  void delivery() {
+    customer("1", Plain, "산골식당");
+    chooseKind(0);
+    item("20", 40000);
+  }
+  void change(const char* typed) {
+    asked();
+    tests::enter(typed);
+  }
   void asked() { pc.prompts.expect("선택된 자료를 변경하시겠습니까?"); }
 };
 
-TEST(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
-  SaleScreen sale;
-  EXPECT_EQ(sale.form.windowTitle(), "일반/체적/시설/자재 판매 등록");
-  EXPECT_EQ(sale.at(), "1,2");
-  EXPECT_EQ(sale.label("PnlHelp"), "전화, 번지, 상호로 고객을 검색하세요");
-  sale.customer("4567", SaleScreen::Plain, "산골식당");
-  EXPECT_EQ(sale.pickers.asked.last(), "client 4567 2 0");
-  EXPECT_EQ(sale.at(), "1,3");
-  EXPECT_EQ(sale.label("LblTel"), "053-123-4567");
-  sale.chooseKind(0);
-  EXPECT_EQ(sale.at(), "1,4");
-  sale.item("20", 40000);
-  EXPECT_EQ(sale.at(), "1,8");
-  sale.press(Qt::Key_Return);
-  EXPECT_EQ(sale.at(), "1,9") << "Enter on an unchanged cell goes on by one";
-  sale.asked();
-  tests::enter("30000");
-  EXPECT_EQ(sale.at(), "1,11");
-  EXPECT_EQ(sale.label("LblGasTrust"), "110,000");
-  sale.pickers.persons = {u"홍길동"_s};
-  sale.press(Qt::Key_Return);
-  EXPECT_EQ(sale.at(), "2,2");
-  EXPECT_EQ(sale.label("LblTel"), "") << "the next row has no customer yet";
+TEST_F(FrmSale, ADeliveryACollectionAndALoanAreTypedChangedAndDeleted) {
+  EXPECT_EQ(form.windowTitle(), "일반/체적/시설/자재 판매 등록");
+  EXPECT_EQ(at(), "1,2");
+  EXPECT_EQ(label("PnlHelp"), "전화, 번지, 상호로 고객을 검색하세요");
+  customer("4567", Plain, "산골식당");
+  EXPECT_EQ(pickers.asked.last(), "client 4567 2 0");
+  EXPECT_EQ(at(), "1,3");
+  EXPECT_EQ(label("LblTel"), "053-123-4567");
+  chooseKind(0);
+  EXPECT_EQ(at(), "1,4");
+  item("20", 40000);
+  EXPECT_EQ(at(), "1,8");
+  press(Qt::Key_Return);
+  EXPECT_EQ(at(), "1,9") << "Enter on an unchanged cell goes on by one";
+  change("30000");
+  EXPECT_EQ(at(), "1,11");
+  EXPECT_EQ(label("LblGasTrust"), "110,000");
+  pickers.persons = {u"홍길동"_s};
+  press(Qt::Key_Return);
+  EXPECT_EQ(at(), "2,2");
+  EXPECT_EQ(label("LblTel"), "") << "the next row has no customer yet";
 
-  sale.customer("4567", SaleScreen::Plain, "산골식당");
-  EXPECT_EQ(sale.at(), "2,3");
-  sale.chooseKind(1);
-  EXPECT_EQ(sale.at(), "2,9");
-  EXPECT_EQ(sale.cell(2, LineCol::Amount), "110000");
-  sale.asked();
-  tests::enter("10000");
-  EXPECT_EQ(sale.label("LblGasTrust"), "100,000");
-  EXPECT_EQ(sale.label("LblEndDay"), "2026-03-05");
+  customer("4567", Plain, "산골식당");
+  EXPECT_EQ(at(), "2,3");
+  chooseKind(1);
+  EXPECT_EQ(at(), "2,9");
+  EXPECT_EQ(cell(2, LineCol::Amount), "110000");
+  change("10000");
+  EXPECT_EQ(label("LblGasTrust"), "100,000");
+  EXPECT_EQ(label("LblEndDay"), "2026-03-05");
 
-  sale.press(Qt::Key_Escape);
-  EXPECT_EQ(sale.at(), "3,2");
-  sale.customer("4567", SaleScreen::Plain, "산골식당");
-  sale.chooseKind(2);
-  sale.item("20", 0);
-  EXPECT_EQ(sale.stock(), "980|100|11|40|49") << "an empty back for the full one, then an empty lent";
-  sale.grid()->setActiveCell(3, LineCol::Number);
-  sale.asked();
-  tests::enter("3");
-  EXPECT_EQ(sale.stock(), "980|100|13|38|49");
-  sale.pc.prompts.expect("선택한 자료를 삭제하시겠습니까?", false);
-  sale.press(Qt::Key_Delete);
-  sale.pc.prompts.expect("자료삭제");
-  sale.press(Qt::Key_F4);
-  EXPECT_EQ(sale.stock(), "980|100|10|41|49");
-  EXPECT_EQ(sale.at(), "3,2");
-  EXPECT_EQ(
-      sale.rows("Select SaleGubun, SaleName, SaleNum, Income, Trust, Response From Sale Order By SaleID"),
-      "1|LPG|1|30000|10000|홍길동;4|가스수금|0|10000|100000|");
+  press(Qt::Key_Escape);
+  EXPECT_EQ(at(), "3,2");
+  customer("4567", Plain, "산골식당");
+  chooseKind(2);
+  item("20", 0);
+  EXPECT_EQ(stock(), "980|100|11|40|49") << "an empty back for the full one, then an empty lent";
+  grid()->setActiveCell(3, LineCol::Number);
+  change("3");
+  EXPECT_EQ(stock(), "980|100|13|38|49");
+  pc.prompts.expect("선택한 자료를 삭제하시겠습니까?", false);
+  press(Qt::Key_Delete);
+  pc.prompts.expect("자료삭제");
+  press(Qt::Key_F4);
+  EXPECT_EQ(stock(), "980|100|10|41|49");
+  EXPECT_EQ(at(), "3,2");
+  EXPECT_EQ(rows("Select SaleGubun, SaleName, SaleNum, Income, Trust, Response From Sale Order By SaleID"),
+            "1|LPG|1|30000|10000|홍길동;4|가스수금|0|10000|100000|");
 }
 
-TEST(FrmSale, RefusedTextsPutTheCellBackAndKeepTheCursor) {
-  SaleScreen sale;
-  sale.customer("1", SaleScreen::Plain, "산골식당");
-  sale.chooseKind(0);
-  sale.item("20", 40000);
-  sale.asked();
-  sale.pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
+TEST_F(FrmSale, RefusedTextsPutTheCellBackAndKeepTheCursor) {
+  delivery();
+  asked();
+  pc.prompts.expect("실제금액보다 크게 입력할 수 없습니다!");
   tests::enter("50000");
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Amount), "1,8 40000");
-  EXPECT_FALSE(sale.grid()->isEditing());
+  EXPECT_EQ(at() + ' ' + cell(1, LineCol::Amount), "1,8 40000");
+  EXPECT_FALSE(grid()->isEditing());
 
-  sale.grid()->setActiveCell(1, LineCol::Kind);
-  sale.pc.prompts.expect("구분은 변경할 수 없습니다.");
-  sale.chooseKind(1);
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Kind), "1,3 가스");
+  grid()->setActiveCell(1, LineCol::Kind);
+  pc.prompts.expect("구분은 변경할 수 없습니다.");
+  chooseKind(1);
+  EXPECT_EQ(at() + ' ' + cell(1, LineCol::Kind), "1,3 가스");
 
-  sale.grid()->setActiveCell(1, LineCol::Number);
-  sale.type("7");
-  sale.press(Qt::Key_Escape);
-  EXPECT_EQ(sale.cell(1, LineCol::Number), "1") << "Esc takes the typed text back first";
-  EXPECT_EQ(sale.cell(1, LineCol::Partner), "산골식당");
+  grid()->setActiveCell(1, LineCol::Number);
+  type("7");
+  press(Qt::Key_Escape);
+  EXPECT_EQ(cell(1, LineCol::Number), "1") << "Esc takes the typed text back first";
+  EXPECT_EQ(cell(1, LineCol::Partner), "산골식당");
 
-  sale.grid()->setActiveCell(1, LineCol::Partner);
-  sale.asked();
-  sale.type("x");
-  sale.press(Qt::Key_Tab);
-  EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
-  sale.pc.prompts.expect("고객명을 검색하세요");
-  sale.grid()->setActiveCell(1, LineCol::Person);
-  sale.press(Qt::Key_Down);
-  EXPECT_EQ(sale.at(), "1,2") << "a row that misses something is not left";
+  grid()->setActiveCell(1, LineCol::Partner);
+  asked();
+  type("x");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(cell(1, LineCol::Partner), "");
+  pc.prompts.expect("고객명을 검색하세요");
+  grid()->setActiveCell(1, LineCol::Person);
+  press(Qt::Key_Down);
+  EXPECT_EQ(at(), "1,2") << "a row that misses something is not left";
 }
 
-TEST(FrmSale, AnOpenCellThatIsRefusedKeepsItsSheet) {
-  SaleScreen sale;
-  sale.customer("1", SaleScreen::Plain, "산골식당");
-  sale.chooseKind(0);
-  sale.item("20", 40000);
-  sale.pc.prompts.expect("선택된 자료를 변경하시겠습니까?", false);
-  sale.type("1");
-  sale.tabs()->setCurrentIndex(2);
-  EXPECT_EQ(sale.tabs()->currentIndex(), 0);
-  sale.asked();
-  sale.type("39000");
-  sale.tabs()->setCurrentIndex(2);
-  EXPECT_EQ(sale.tabs()->currentIndex(), 2);
-  EXPECT_EQ(sale.rows("Select DC, Income From Sale"), "1000|39000");
-  EXPECT_EQ(sale.grid()->model().column(LineCol::Kind).combo, QStringList({"자판", "자수"}));
-  sale.form.showPage("gas");
-  EXPECT_EQ(sale.tabs()->currentIndex(), 0);
+TEST_F(FrmSale, AnOpenCellThatIsRefusedKeepsItsSheet) {
+  delivery();
+  pc.prompts.expect("선택된 자료를 변경하시겠습니까?", false);
+  type("1");
+  tabs()->setCurrentIndex(2);
+  EXPECT_EQ(tabs()->currentIndex(), 0);
+  asked();
+  type("39000");
+  tabs()->setCurrentIndex(2);
+  EXPECT_EQ(tabs()->currentIndex(), 2);
+  EXPECT_EQ(rows("Select DC, Income From Sale"), "1000|39000");
+  EXPECT_EQ(grid()->model().column(LineCol::Kind).combo, QStringList({"자판", "자수"}));
+  form.showPage("gas");
+  EXPECT_EQ(tabs()->currentIndex(), 0);
 }
 
-TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
-  SaleScreen sale;
-  sale.sold("'2026-03-02', 1, 1, False, 'LPG', '20'");
-  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+TEST_F(FrmSale, DaysAreCheckedAndReloadTheSheet) {
+  sold("'2026-03-02', 1, 1, False, 'LPG', '20'");
   EXPECT_EQ(date->text(), "03-05");
   const auto setDay = [&](const char* typed) {
     date->setFocus();
@@ -179,76 +177,72 @@ TEST(FrmSale, DaysAreCheckedAndReloadTheSheet) {
     QCoreApplication::processEvents();
   };
   setDay("0302");
-  EXPECT_EQ(sale.cell(1, LineCol::Date), "03-02");
-  EXPECT_EQ(sale.at(), "2,2");
-  sale.pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
+  EXPECT_EQ(cell(1, LineCol::Date), "03-02");
+  EXPECT_EQ(at(), "2,2");
+  pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
   setDay("0231");
   EXPECT_EQ(QString(date->text()).remove('-').trimmed(), "");
-  EXPECT_EQ(sale.grid()->model().MaxRows(), 1);
-  sale.customer("1", SaleScreen::Plain, "산골식당");
-  sale.pc.prompts.expect("날짜를 입력하세요");
-  sale.chooseKind(0);
-  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "1") << "no line without a day";
-  EXPECT_EQ(sale.at(), "2,1");
+  EXPECT_EQ(grid()->model().MaxRows(), 1);
+  customer("1", Plain, "산골식당");
+  pc.prompts.expect("날짜를 입력하세요");
+  chooseKind(0);
+  EXPECT_EQ(rows("Select Count(*) From Sale"), "1") << "no line without a day";
+  EXPECT_EQ(at(), "2,1");
 }
 
-TEST(FrmSale, ACustomerOfAnotherSheetLeavesNoCellOpenOnTheOldOne) {
-  SaleScreen sale;
-  sale.sold("'2026-03-05', 3, 1, True, 'LPG', '20', 1");
-  Spread* const old = sale.grid();
-  sale.customer("bd", SaleScreen::Metered, "별빛 3동");
-  EXPECT_EQ(sale.tabs()->currentIndex(), 1);
-  EXPECT_EQ(sale.at(), "2,3");
+TEST_F(FrmSale, ACustomerOfAnotherSheetLeavesNoCellOpenOnTheOldOne) {
+  sold("'2026-03-05', 3, 1, True, 'LPG', '20', 1");
+  Spread* const old = grid();
+  customer("bd", Metered, "별빛 3동");
+  EXPECT_EQ(tabs()->currentIndex(), 1);
+  EXPECT_EQ(at(), "2,3");
   EXPECT_FALSE(old->isEditing());
   QCoreApplication::processEvents();
-  EXPECT_EQ(sale.cell(1, LineCol::Partner) + sale.cell(2, LineCol::Partner), "별빛 3동별빛 3동");
+  EXPECT_EQ(cell(1, LineCol::Partner) + cell(2, LineCol::Partner), "별빛 3동별빛 3동");
   // A cell of the hidden sheet is finished after all: it has no row on this one.
   old->setActiveCell(1, LineCol::Number);
   old->beginEdit();
   old->findChild<QLineEdit*>("SpreadLine")->setText("7");
   EXPECT_FALSE(old->commitEdit());
   EXPECT_FALSE(old->isEditing());
-  EXPECT_EQ(sale.cell(1, LineCol::Number) + sale.cell(2, LineCol::Number), "1");
-  EXPECT_TRUE(sale.form.close());
+  EXPECT_EQ(cell(1, LineCol::Number) + cell(2, LineCol::Number), "1");
+  EXPECT_TRUE(form.close());
 }
 
-TEST(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
-  SaleScreen sale;
-  sale.type("9");
-  EXPECT_FALSE(sale.form.TakeCallerNumber("0533456789")) << "the cell is being typed in";
-  sale.press(Qt::Key_Escape);
-  sale.pickers.clients = {ClientChoice{3, "별빛 3동"}};
-  EXPECT_TRUE(sale.form.TakeCallerNumber("0533456789"));
-  EXPECT_EQ(sale.tabs()->currentIndex(), 1);
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Partner), "1,3 별빛 3동");
-  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
+TEST_F(FrmSale, ACallLandsOnlyInAnEmptyCustomerCell) {
+  type("9");
+  EXPECT_FALSE(form.TakeCallerNumber("0533456789")) << "the cell is being typed in";
+  press(Qt::Key_Escape);
+  pickers.clients = {ClientChoice{3, "별빛 3동"}};
+  EXPECT_TRUE(form.TakeCallerNumber("0533456789"));
+  EXPECT_EQ(tabs()->currentIndex(), 1);
+  EXPECT_EQ(at() + ' ' + cell(1, LineCol::Partner), "1,3 별빛 3동");
+  EXPECT_FALSE(form.TakeCallerNumber("0531234567"));
 
-  sale.press(Qt::Key_Escape);
-  sale.calls.numbers = {"0531234567"};
-  sale.press(Qt::Key_Return);
-  EXPECT_EQ(sale.tabs()->currentIndex(), 0) << "Enter on the empty cell fetches the waiting call";
-  EXPECT_EQ(sale.at() + ' ' + sale.cell(1, LineCol::Partner), "1,3 산골식당");
-  sale.press(Qt::Key_Escape);
-  EXPECT_FALSE(sale.form.TakeCallerNumber("0539998888")) << "nobody was chosen: the list keeps the call";
-  EXPECT_EQ(sale.cell(1, LineCol::Partner), "");
+  press(Qt::Key_Escape);
+  calls.numbers = {"0531234567"};
+  press(Qt::Key_Return);
+  EXPECT_EQ(tabs()->currentIndex(), 0) << "Enter on the empty cell fetches the waiting call";
+  EXPECT_EQ(at() + ' ' + cell(1, LineCol::Partner), "1,3 산골식당");
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(form.TakeCallerNumber("0539998888")) << "nobody was chosen: the list keeps the call";
+  EXPECT_EQ(cell(1, LineCol::Partner), "");
 }
 
-TEST(FrmSale, ACallIsNotDroppedOnTheDateNorBehindABox) {
-  SaleScreen sale;
-  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+TEST_F(FrmSale, ACallIsNotDroppedOnTheDateNorBehindABox) {
   date->setFocus();
-  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567")) << "leaving the date would read the sheet anew";
+  EXPECT_FALSE(form.TakeCallerNumber("0531234567")) << "leaving the date would read the sheet anew";
   QTest::keyClick(date, Qt::Key_Return);
   QCoreApplication::processEvents();
   QDialog box;
   box.setModal(true);
   tests::show(box);
-  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
+  EXPECT_FALSE(form.TakeCallerNumber("0531234567"));
   box.close();
-  EXPECT_TRUE(sale.form.TakeCallerNumber("0531234567"));
+  EXPECT_TRUE(form.TakeCallerNumber("0531234567"));
 }
 
-TEST(FrmSale, ACallBringsTheScreenOutOfTheCornerItWasPutIn) {
+TEST(FrmSaleInAWindow, ACallBringsTheScreenOutOfTheCornerItWasPutIn) {
   tests::SaleDesk desk;
   tests::IdleCommands commands;
   FormContext context{desk.pc.session, desk.pickers, commands, desk.calls};
@@ -269,123 +263,108 @@ TEST(FrmSale, ACallBringsTheScreenOutOfTheCornerItWasPutIn) {
   EXPECT_TRUE(form->isVisible());
 }
 
-TEST(FrmSale, KeysAndButtonsKeepTheHandOnTheGrid) {
-  SaleScreen sale;
-  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+TEST_F(FrmSale, KeysAndButtonsKeepTheHandOnTheGrid) {
   QTest::mouseClick(date, Qt::LeftButton, {}, date->rect().center() + QPoint(12, 0));
   EXPECT_TRUE(date->hasFocus());
   QTest::keyClicks(date, "0314");
   EXPECT_EQ(date->text(), "03-14");
   QTest::keyClick(date, Qt::Key_Return);
   QCoreApplication::processEvents();
-  EXPECT_EQ(sale.pc.session.SaleDay, "");
-  sale.press(Qt::Key_F5);
-  EXPECT_EQ(sale.pc.session.SaleDay, "2026-03-14");
+  EXPECT_EQ(pc.session.SaleDay, "");
+  press(Qt::Key_F5);
+  EXPECT_EQ(pc.session.SaleDay, "2026-03-14");
 
   tests::key(Qt::Key_D, Qt::AltModifier);
   EXPECT_TRUE(date->hasFocus()) << "a key reaches the date from the grid";
-  sale.grid()->setFocus();
+  grid()->setFocus();
   QCoreApplication::processEvents();
-  sale.form.findChild<QPushButton*>("CmdCIDList")->click();
-  EXPECT_TRUE(sale.grid()->isAncestorOf(QApplication::focusWidget()));
-  auto* const map = sale.form.findChild<QPushButton*>("BtnMap");
+  form.findChild<QPushButton*>("CmdCIDList")->click();
+  EXPECT_TRUE(grid()->isAncestorOf(QApplication::focusWidget()));
+  auto* const map = form.findChild<QPushButton*>("BtnMap");
   map->setFocus();
-  sale.pc.prompts.expect("약도를 출력할 고객을 먼저 선택하십시오");
+  pc.prompts.expect("약도를 출력할 고객을 먼저 선택하십시오");
   tests::key(Qt::Key_Space);
-  EXPECT_TRUE(sale.grid()->isAncestorOf(QApplication::focusWidget()));
+  EXPECT_TRUE(grid()->isAncestorOf(QApplication::focusWidget()));
 }
 
-TEST(FrmSale, ADayTypedBeforeAnotherWindowCameIsTakenWhenTheGridIsGoneTo) {
-  SaleScreen sale;
+TEST_F(FrmSale, ADayTypedBeforeAnotherWindowCameIsTakenWhenTheGridIsGoneTo) {
   QCoreApplication::processEvents();
-  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
   date->setFocus();
   QTest::keyClicks(date, "0302");
   QFocusEvent away(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
   QCoreApplication::sendEvent(date, &away);
-  EXPECT_FALSE(sale.form.TakeCallerNumber("0531234567"));
-  date->removeEventFilter(
-      &sale.form);  // the way from one window to a cell of the other does not pass the date
-  sale.grid()->setFocus();
-  date->installEventFilter(&sale.form);
+  EXPECT_FALSE(form.TakeCallerNumber("0531234567"));
+  date->removeEventFilter(&form);  // the way from one window to a cell of the other does not pass the date
+  grid()->setFocus();
+  date->installEventFilter(&form);
   QCoreApplication::processEvents();
-  sale.press(Qt::Key_F5);
-  EXPECT_EQ(sale.pc.session.SaleDay, "2026-03-02");
-  EXPECT_TRUE(sale.form.TakeCallerNumber("0531234567"));
+  press(Qt::Key_F5);
+  EXPECT_EQ(pc.session.SaleDay, "2026-03-02");
+  EXPECT_TRUE(form.TakeCallerNumber("0531234567"));
 }
 
-TEST(FrmSale, AnOpenCellIsTakenOnTheWayToTheDate) {
-  SaleScreen sale;
-  sale.customer("1", SaleScreen::Plain, "산골식당");
-  sale.chooseKind(0);
-  sale.item("20", 40000);
-  auto* const date = sale.form.findChild<QLineEdit*>("txtDate");
+TEST_F(FrmSale, AnOpenCellIsTakenOnTheWayToTheDate) {
+  delivery();
   QCoreApplication::processEvents();
-  tests::show(sale.form);
-  sale.grid()->setFocus();
-  sale.asked();
-  sale.type("39000");
+  tests::show(form);
+  grid()->setFocus();
+  asked();
+  type("39000");
   QTest::mouseClick(date, Qt::LeftButton);
   QCoreApplication::processEvents();
-  EXPECT_EQ(sale.rows("Select Income From Sale"), "39000");
+  EXPECT_EQ(rows("Select Income From Sale"), "39000");
   EXPECT_TRUE(date->hasFocus()) << "the click was meant for the date";
 }
 
-TEST(FrmSale, OnlyThePlainDeleteKeyDeletes) {
-  SaleScreen sale;
-  sale.customer("1", SaleScreen::Plain, "산골식당");
-  sale.chooseKind(0);
-  sale.item("20", 40000);
+TEST_F(FrmSale, OnlyThePlainDeleteKeyDeletes) {
+  delivery();
   for (const auto modifier : {Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier}) {
     tests::key(Qt::Key_Delete, modifier);
     if (modifier != Qt::ControlModifier) tests::key(Qt::Key_F4, modifier);  // which closes the window
   }
-  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "1");
-  sale.pc.prompts.expect("산골식당   LPG / 20   1개   40,000원");
+  EXPECT_EQ(rows("Select Count(*) From Sale"), "1");
+  pc.prompts.expect("산골식당   LPG / 20   1개   40,000원\n선택한 자료를 삭제하시겠습니까?");
   tests::key(Qt::Key_Delete, Qt::KeypadModifier);
-  EXPECT_EQ(sale.rows("Select Count(*) From Sale"), "0");
+  EXPECT_EQ(rows("Select Count(*) From Sale"), "0");
 }
 
-TEST(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
-  SaleScreen sale;
+TEST_F(FrmSale, HangulComposedIntoTheRestingCellArrivesWhole) {
   tests::compose({"ㅅ", "사", "산"}, "산");
   QInputMethodEvent next("골", {});
   QCoreApplication::sendEvent(QApplication::focusWidget(), &next);
-  sale.press(Qt::Key_Return);
-  EXPECT_EQ(sale.pickers.asked.value(0), "client 산골 2 0");
-  EXPECT_FALSE(sale.grid()->isEditing());
-  EXPECT_EQ(sale.at() + sale.cell(1, LineCol::Partner), "1,2") << "nobody chosen: the cell is empty again";
+  press(Qt::Key_Return);
+  EXPECT_EQ(pickers.asked.value(0), "client 산골 2 0");
+  EXPECT_FALSE(grid()->isEditing());
+  EXPECT_EQ(at() + cell(1, LineCol::Partner), "1,2") << "nobody chosen: the cell is empty again";
 }
 
-TEST(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
-  SaleScreen sale;
-  sale.press(Qt::Key_F5);
-  EXPECT_EQ(sale.pc.session.SaleDay, "2026-03-05");
-  sale.tabs()->setCurrentIndex(2);
-  sale.press(Qt::Key_F10);
-  EXPECT_FALSE(sale.pc.session.SaleLedgerGas);
-  EXPECT_EQ(sale.commands.asked, QStringList({"frmTodaySale:2026-03-05", "frmPrtSale"}));
-  sale.sold("'2026-03-05', 1, 1, False, 'LPG', '20', 2, 0, 0, 5000, 700");
-  frmTodaySale today(sale.context);
+TEST_F(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
+  press(Qt::Key_F5);
+  EXPECT_EQ(pc.session.SaleDay, "2026-03-05");
+  tabs()->setCurrentIndex(2);
+  press(Qt::Key_F10);
+  EXPECT_FALSE(pc.session.SaleLedgerGas);
+  EXPECT_EQ(commands.asked, QStringList({"frmTodaySale:2026-03-05", "frmPrtSale"}));
+  sold("'2026-03-05', 1, 1, False, 'LPG', '20', 2, 0, 0, 5000, 700");
+  frmTodaySale today(context);
   EXPECT_EQ(today.findChild<QLabel*>("LblTitle")->text(), "03/05일의 판매현황");
   EXPECT_EQ(today.findChild<Spread*>("SpToday")->model().text(1, 5), "700");
 }
 
-TEST(FrmSale, FortyLinesAreOnScreen) {
-  SaleScreen sale;
+TEST_F(FrmSale, FortyLinesAreOnScreen) {
   for (int line = 0; line < 40; ++line)
-    sale.sold(u"'2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, '홍길동'"_s.arg(
+    sold(u"'2026-03-05', %1, %2, False, '%3', '%4', %5, 43000, %6, %7, %8, '홍길동'"_s.arg(
         QString::number(1 + line % 2), QString::number(1 + line % 6), line % 6 == 3 ? "가스수금" : "LPG",
         line % 6 == 3 ? "0" : "20", QString::number(1 + line % 3), QString::number(line % 5 * 500),
         QString::number(43000 * (line % 3)), QString::number(line % 4 * 21500)));
-  sale.press(Qt::Key_Escape);
-  EXPECT_EQ(sale.at(), "41,2");
-  EXPECT_GE(sale.grid()->rowsOnPage(), 20);
-  sale.grid()->setActiveCell(39, LineCol::Amount);
-  EXPECT_EQ(sale.label("LblAddr"), "(706-010) 대구 수성구 1");
-  tests::grab(sale.form, "frmSale");
-  sale.press(Qt::Key_F5);
-  frmTodaySale today(sale.context);
+  press(Qt::Key_Escape);
+  EXPECT_EQ(at(), "41,2");
+  EXPECT_GE(grid()->rowsOnPage(), 20);
+  grid()->setActiveCell(39, LineCol::Amount);
+  EXPECT_EQ(label("LblAddr"), "(706-010) 대구 수성구 1");
+  tests::grab(form, "frmSale");
+  press(Qt::Key_F5);
+  frmTodaySale today(context);
   tests::show(today);
   tests::grab(today, "frmTodaySale");
 }

@@ -11,7 +11,6 @@
 #include <QTest>
 #include <QTimer>
 
-#include "store/report_staging.h"
 #include "tests/briefs/brief_desk.h"
 #include "tests/trade/sale_desk.h"
 #include "tests/ui/grab.h"
@@ -22,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct EstimateScreen : tests::SaleDesk {
+struct EstimateScreen : testing::Test, tests::SaleDesk {
   tests::IdleCommands commands;
   FormContext context{pc.session, pickers, commands, calls};
   tests::ShownReports reports;
@@ -39,100 +38,94 @@ struct EstimateScreen : tests::SaleDesk {
   void click(const char* name) { form->findChild<QAbstractButton*>(name)->click(); }
   QString box(const char* name) { return form->findChild<QComboBox*>(name)->currentText(); }
 };
+struct FrmVolumeEstimate : EstimateScreen {};
+struct FrmResCan : EstimateScreen {};
 
-TEST(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
-  EstimateScreen screen;
-  EXPECT_EQ(screen.form->findChild<QLineEdit*>("TxtYear")->text(), "2026");
-  screen.pc.prompts.expect("배달 예상을 추출할 고객을 구분하세요");
-  screen.click("BtnFind");
-  screen.click("SSOption1(0)");
-  screen.click("BtnFind");
-  EXPECT_EQ(screen.box("CboMonS") + screen.box("CboDayS"), "0305") << "today";
-  ASSERT_EQ(screen.grid()->model().MaxRows(), 1);
-  EXPECT_EQ(screen.grid()->model().text(1, ForecastCol::Expected), "02-25");
-  EXPECT_TRUE(screen.grid()->hasFocus());
-  tests::grab(*screen.form, "frmVolumeEstimate");
+TEST_F(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
+  EXPECT_EQ(form->findChild<QLineEdit*>("TxtYear")->text(), "2026");
+  pc.prompts.expect("배달 예상을 추출할 고객을 구분하세요");
+  click("BtnFind");
+  click("SSOption1(0)");
+  click("BtnFind");
+  EXPECT_EQ(box("CboMonS") + box("CboDayS"), "0305") << "today";
+  ASSERT_EQ(grid()->model().MaxRows(), 1);
+  EXPECT_EQ(grid()->model().text(1, ForecastCol::Expected), "02-25");
+  EXPECT_TRUE(grid()->hasFocus());
+  tests::grab(*form, "frmVolumeEstimate");
 
-  screen.grid()->setActiveCell(1, ForecastCol::Reserved);
+  grid()->setActiveCell(1, ForecastCol::Reserved);
   tests::enter("03-07");
-  EXPECT_EQ(screen.rows("Select EstimateDate From Client Where Code = 1"), "03-07");
-  screen.form->findChild<QComboBox*>("CboMonS")->setCurrentText("3");
-  auto* const day = screen.form->findChild<QComboBox*>("CboDayS");
+  EXPECT_EQ(rows("Select EstimateDate From Client Where Code = 1"), "03-07");
+  form->findChild<QComboBox*>("CboMonS")->setCurrentText("3");
+  auto* const day = form->findChild<QComboBox*>("CboDayS");
   day->setCurrentText("7");
   day->setFocus();
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(screen.box("CboMonS") + screen.box("CboDayS"), "0307");
-  EXPECT_EQ(screen.grid()->model().MaxRows(), 1) << "the reserved day";
+  EXPECT_EQ(box("CboMonS") + box("CboDayS"), "0307");
+  EXPECT_EQ(grid()->model().MaxRows(), 1) << "the reserved day";
   tests::key(Qt::Key_F10);
-  EXPECT_EQ(screen.reports.asked.back().file, "VolumeEstimate.rpt");
-  const auto print = screen.pc.session.wsMain.OpenDatabase(printFile());
-  auto staged = print.OpenRecordset("Select Str01, Str05, Str12, Str13, Lng01 From Print");
-  EXPECT_EQ(
-      staged[0].toText() + staged[1].toText() + staged[2].toText() + staged[3].toText() + staged[4].toText(),
-      "산골식당02-1702-2581");
-  staged.MoveNext();
-  EXPECT_EQ(staged[0].toText() + staged[4].toText(), "") << "the closing row";
+  EXPECT_EQ(reports.asked.back().file, "VolumeEstimate.rpt");
+  EXPECT_EQ(tests::stagedRows(pc.session, "Str01, Str05, Str12, Str13, Lng01"),
+            QStringList({"산골식당|02-17|02-25|8|1", "||||"}))
+      << "and the closing row";
 }
 
-TEST(FrmVolumeEstimate, ADayMustBeNamed) {
-  EstimateScreen screen;
-  screen.click("SSOption1(2)");
-  screen.pc.prompts.expect("배달예상일자를 입력하십시오");
-  screen.click("BtnEstimatedClient");
-  EXPECT_TRUE(screen.form->findChild<QComboBox*>("CboMonS")->hasFocus());
-  screen.form->findChild<QLineEdit*>("TxtYear")->setText("2019");
-  screen.pc.prompts.expect("2019년의 배달자료가 없습니다!");
-  screen.click("BtnFind");
+TEST_F(FrmVolumeEstimate, ADayMustBeNamed) {
+  click("SSOption1(2)");
+  pc.prompts.expect("배달예상일자를 입력하십시오");
+  click("BtnEstimatedClient");
+  EXPECT_TRUE(form->findChild<QComboBox*>("CboMonS")->hasFocus());
+  form->findChild<QLineEdit*>("TxtYear")->setText("2019");
+  pc.prompts.expect("2019년의 배달자료가 없습니다!");
+  click("BtnFind");
 }
 
-TEST(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
+TEST_F(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
   constexpr int customers = 600;
   const QScopedValueRollback eachStep(FrmProgress::drawEvery, 0);
-  EstimateScreen screen;
-  screen.pc.session.wsMain.Together([&] {
+  pc.session.wsMain.Together([&] {
     for (int client = 4; client < 4 + customers; ++client) {
       const QString code = QString::number(client);
-      screen.run("Insert Into Client(Code, Name, VolumeYesNo) Values(" + code + ", '고객', False)");
-      screen.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('2026-02-01', " + code +
-                 ", 1, False)");
+      run("Insert Into Client(Code, Name, VolumeYesNo) Values(" + code + ", '고객', False)");
+      run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun) Values('2026-02-01', " + code +
+          ", 1, False)");
     }
   });
-  screen.click("SSOption1(2)");
+  click("SSOption1(2)");
   bool seen = false;
   QTimer watch;
-  QObject::connect(&watch, &QTimer::timeout, &*screen.form, [&] {
-    auto* const bar = screen.form->findChild<QProgressBar*>("ProgressBar");
+  QObject::connect(&watch, &QTimer::timeout, &*form, [&] {
+    auto* const bar = form->findChild<QProgressBar*>("ProgressBar");
     if (!bar || bar->value() <= 0 || seen) return;
     seen = true;
-    screen.form->findChild<QPushButton*>("BtnStop")->click();
+    form->findChild<QPushButton*>("BtnStop")->click();
   });
   watch.start(0);
-  screen.click("BtnFind");
+  click("BtnFind");
   EXPECT_TRUE(seen) << "a bar with a way to stop";
-  EXPECT_FALSE(screen.form->findChild<QWidget*>("FrmProgress"));
-  const int reached = screen.grid()->model().MaxRows();
+  EXPECT_FALSE(form->findChild<QWidget*>("FrmProgress"));
+  const int reached = grid()->model().MaxRows();
   EXPECT_GT(reached, 0);
   EXPECT_LT(reached, customers);
-  EXPECT_EQ(screen.form->findChild<QLabel*>("PnlHelp")->text(),
+  EXPECT_EQ(form->findChild<QLabel*>("PnlHelp")->text(),
             u" 중지하였습니다. 고객 %1 / %2 까지만 추출되었습니다"_s.arg(reached).arg(customers + 1));
   watch.stop();
-  screen.click("BtnFind");
-  EXPECT_EQ(screen.grid()->model().MaxRows(), customers + 1) << "the next search is whole";
+  click("BtnFind");
+  EXPECT_EQ(grid()->model().MaxRows(), customers + 1) << "the next search is whole";
 }
 
-TEST(FrmResCan, PersonAndItemComeFromTheirSearches) {
-  EstimateScreen screen;
-  frmResCAN form(screen.context);
+TEST_F(FrmResCan, PersonAndItemComeFromTheirSearches) {
+  frmResCAN form(context);
   tests::show(form);
   const auto text = [&](const char* name) { return form.findChild<QLineEdit*>(name)->text(); };
   form.findChild<QPushButton*>("BtnNew")->click();
   ASSERT_TRUE(form.findChild<QLineEdit*>("TxtResName")->hasFocus());
   tests::type("x");
   EXPECT_EQ(text("TxtResName"), "") << "only by search";
-  screen.pickers.persons.push_back("홍길동");
+  pickers.persons.push_back("홍길동");
   tests::key(Qt::Key_Return);
   EXPECT_EQ(text("TxtResName"), "홍길동");
-  screen.pickers.items.push_back(ItemChoice{"LPG", "20", 0, 0});
+  pickers.items.push_back(ItemChoice{"LPG", "20", 0, 0});
   ASSERT_TRUE(form.findChild<QLineEdit*>("TxtLPGName")->hasFocus());
   tests::key(Qt::Key_F12);
   EXPECT_EQ(text("TxtLPGName") + text("TxtCANSize"), "LPG20");
@@ -144,7 +137,7 @@ TEST(FrmResCan, PersonAndItemComeFromTheirSearches) {
   EXPECT_EQ(form.grid()->model().text(1, 6), "15");
   tests::grab(form, "frmResCAN");
   tests::key(Qt::Key_F10);
-  EXPECT_EQ(screen.reports.asked.back().file, "담당자별보유용기현황.rpt");
+  EXPECT_EQ(reports.asked.back().file, "담당자별보유용기현황.rpt");
   form.findChild<QLineEdit*>("TxtResName")->setFocus();
   tests::key(Qt::Key_Delete);
   EXPECT_EQ(text("TxtResName"), "");

@@ -9,7 +9,7 @@ namespace tests {
 
 /** 홍길동 delivers. Whoever derives from it writes what is to be in the books and opens the form. */
 template <class Desk, class Form>
-struct KeyScreen : Desk {
+struct KeyScreen : testing::Test, Desk {
   IdleCommands commands;
   FormPickers search{this->pc.session};
   FormContext context{this->pc.session, search, commands, this->calls};

@@ -33,14 +33,13 @@ TEST(SaleCases, EndAsWritten) {
     hand.begin(of.part(1));
     hand.play(steps);
     const QString client = volume ? "3" : "1";
-    EXPECT_EQ(
-        QStringList({hand.cursor(), hand.figures(),
-                     desk.rows("Select SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, Income, "
-                               "Trust, Response From Sale"),
-                     desk.balance(client.toInt()),
-                     desk.rows("Select LastDate From Client Where Code = " + client), desk.stock("20"),
-                     desk.stock("50"), desk.rows("Select UtilStock From Util")}),
-        of.parts.mid(3));
+    EXPECT_EQ(QStringList({hand.cursor(), hand.figures(),
+                           desk.rows("Select SaleGubun, Gubun, SaleName, SaleThing, SaleNum, SaleUnit, DC, "
+                                     "Income, Trust, Response From Sale"),
+                           desk.balance(client.toInt()),
+                           desk.rows("Select LastDate From Client Where Code = " + client), desk.stock("20"),
+                           desk.stock("50"), desk.rows("Select UtilStock From Util")}),
+              of.parts.mid(3));
   });
 }
 

@@ -65,16 +65,16 @@ struct SaleDesk {
     pc.openBooks({2026, 3, 5});
     pc.session.StockEnabled = true;
     run("Insert Into Client(Code, Name, Tel, PostCode, Address, HouseStyle, GasInit, UtilInit, VolumeYesNo, "
-        "Memo) "
-        "Values(1, '산골식당', '053-123-4567', '706-010', '대구 수성구 1', 0, 100000, 5000, False, '뒷문')");
+        "Memo) Values(1, '산골식당', '053-123-4567', '706-010', '대구 수성구 1', 0, 100000, 5000, False, "
+        "'뒷문')");
     run("Insert Into Client(Code, Name, Tel1, BDName, Dong, Ho, HouseStyle, GasInit, UtilInit, VolumeYesNo) "
         "Values(2, '김', '234-5678', '한빛', '101', '202', 1, 0, 0, False)");
     run("Insert Into Client(Code, Name, UName, BDName, Dong, HouseStyle, GasInit, UtilInit, VolumeYesNo) "
         "Values(3, '박', '345-6789', '별빛', '3', 2, 0, 0, True)");
-    run("Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) "
-        "Values('LPG', '20', 1000, 100, 10, 40, 50)");
-    run("Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) "
-        "Values('LPG', '50', 1000, 100, 10, 40, 50)");
+    run("Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) Values('LPG', "
+        "'20', 1000, 100, 10, 40, 50)");
+    run("Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) Values('LPG', "
+        "'50', 1000, 100, 10, 40, 50)");
     run("Insert Into Util(Name, Size, UtilStock) Values('밸브', '15A', 30)");
   }
 
@@ -98,6 +98,14 @@ struct SaleDesk {
   QString balance(int client = Plain) {
     return rows("Select GasInit, UtilInit From Client Where Code = " + QString::number(client));
   }
+};
+
+/** The desk with the sale screen's rules, the general sheet of the day open. */
+struct OpenSale : testing::Test, SaleDesk {
+  SaleBook posting{pc.session};
+  SaleEntry entry{posting, pickers, calls};
+
+  OpenSale() { posting.FillSaleGrid(SaleSheet::General, true); }
 };
 
 /** A second PC on the desk's folder, with the sale screen's rules. */

@@ -7,8 +7,6 @@
 
 namespace {
 
-using tests::SaleDesk;
-
 /** Another PC that reads a file and does not let it go. */
 class ReadingPc {
  public:
@@ -22,9 +20,10 @@ class ReadingPc {
   sqlite3* handle_ = nullptr;
 };
 
-TEST(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
-  SaleDesk desk;
-  Session& session = desk.pc.session;
+struct SaleLostLine : tests::OpenSale {};
+
+TEST_F(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
+  Session& session = pc.session;
   // The same files with little patience.
   for (auto* handle : {&session.dbBasic, &session.dbYear, &session.dbTax, &session.dbCommon}) handle->Close();
   session.wsMain =
@@ -34,51 +33,44 @@ TEST(SaleLostLine, ARowWhoseLineWasNotKeptBeginsAnew) {
   session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
   session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
 
-  SaleBook posting(session);
-  SaleEntry entry(posting, desk.pickers, desk.calls);
   posting.FillSaleGrid(SaleSheet::General, true);
-  desk.pickers.clients.push_back(ClientChoice{SaleDesk::Plain, "산골식당"});
-  const int row =
-      entry.enterKey(posting.sheetGrid(SaleSheet::General).MaxRows(), LineCol::Partner, "산골").row;
+  pickers.clients.push_back(ClientChoice{Plain, "산골식당"});
+  const int row = entry.enterKey(1, LineCol::Partner, {}).row;
   const auto key = [&] { return posting.grid().text(row, LineCol::Key); };
   const QString yearPath = session.pc.paths.native(yearFile(session, session.WorkYear));
   {
     const ReadingPc other(yearPath);  // the line is written, but the group cannot be committed
     EXPECT_THROW(entry.finishCell(row, LineCol::Kind, "가스"), jet::Error);
     EXPECT_EQ(key(), "");
-    desk.pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
+    pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
     EXPECT_THROW(entry.enterKey(row, LineCol::Item, {}), jet::Error);
     EXPECT_EQ(key(), "") << "begun and filled in one group, lost with it";
   }
   // Meanwhile the number goes to another line.
-  desk.run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, SaleNum) Values('2026-03-05', 2, 1, 9)");
-  desk.pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
+  run("Insert Into Sale(SaleDate, ClientCode, SaleGubun, SaleNum) Values('2026-03-05', 2, 1, 9)");
+  pickers.items.push_back(ItemChoice{"LPG", "20", 40000, 0});
   entry.enterKey(row, LineCol::Item, {});
   EXPECT_EQ(key(), "2");
-  EXPECT_EQ(desk.rows("Select ClientCode, SaleNum From Sale Order By SaleID"), "2|9;1|1");
+  EXPECT_EQ(rows("Select ClientCode, SaleNum From Sale Order By SaleID"), "2|9;1|1");
   {
     const ReadingPc other(yearPath);
-    desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+    pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
     EXPECT_THROW(entry.finishCell(row, LineCol::Number, "3"), jet::Error);
   }
-  desk.pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
+  pc.prompts.expect("선택된 자료를 변경하시겠습니까?");
   EXPECT_EQ(entry.finishCell(row, LineCol::Number, "2").end, LineStep::Done)
       << "what was not kept is not taken for another PC's change";
 }
 
-TEST(SaleLostLine, ABookThatDoesNotAnswerLeavesAStoredLineItsRow) {
-  SaleDesk desk;
-  SaleBook book(desk.pc.session);
-  SaleEntry entry(book, desk.pickers, desk.calls);
-  book.FillSaleGrid(SaleSheet::General, true);
-  desk.pickers.clients.push_back(ClientChoice{SaleDesk::Plain, "산골식당"});
-  const int row = entry.enterKey(book.grid().MaxRows(), LineCol::Partner, {}).row;
-  desk.pickers.items.assign(2, ItemChoice{"LPG", "20", 40000, 0});
+TEST_F(SaleLostLine, ABookThatDoesNotAnswerLeavesAStoredLineItsRow) {
+  pickers.clients.push_back(ClientChoice{Plain, "산골식당"});
+  const int row = entry.enterKey(1, LineCol::Partner, {}).row;
+  pickers.items.assign(2, ItemChoice{"LPG", "20", 40000, 0});
   entry.enterKey(row, LineCol::Item, {});
-  ASSERT_EQ(book.grid().text(row, LineCol::Key), "1");
-  desk.pickers.during = [&] { desk.pc.session.dbYear.Close(); };
+  ASSERT_EQ(posting.grid().text(row, LineCol::Key), "1");
+  pickers.during = [&] { pc.session.dbYear.Close(); };
   EXPECT_THROW(entry.search(row, LineCol::Item, {}), jet::Error);
-  EXPECT_EQ(book.grid().text(row, LineCol::Key), "1") << "else the line would be written once more";
+  EXPECT_EQ(posting.grid().text(row, LineCol::Key), "1") << "else the line would be written once more";
 }
 
 }  // namespace

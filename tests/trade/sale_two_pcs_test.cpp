@@ -5,17 +5,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using tests::OtherDesk;
-using tests::SaleDesk;
-
-struct SaleOnTwoPcs : SaleDesk, testing::Test {
-  SaleBook posting{pc.session};
-  SaleEntry entry{posting, pickers, calls};
-
+struct SaleOnTwoPcs : tests::OpenSale {
   /** A stored line of two pieces at 40,000 won, 30,000 of it on credit, open on both screens. */
   SaleOnTwoPcs() {
     sold("'2026-03-05', 1, 1, False, 'LPG', '20', 2, 40000, 0, 50000, 30000, '홍길동'");
-    posting.FillSaleGrid(SaleSheet::General, true);
+    posting.refill();
     other.emplace(*this);
   }
   QString books() {
@@ -33,7 +27,7 @@ struct SaleOnTwoPcs : SaleDesk, testing::Test {
   }
 
   const char* word = "다른 PC에서 먼저 변경한 자료입니다!";
-  std::optional<OtherDesk> other;
+  std::optional<tests::OtherDesk> other;
 };
 
 TEST_F(SaleOnTwoPcs, AChangedLineIsToldAndReadAgainAndNothingMoves) {
@@ -75,8 +69,7 @@ TEST_F(SaleOnTwoPcs, EveryColumnThatTheScreenWritesIsCompared) {
     EXPECT_TRUE(other->posting.deleteRow(1));
     EXPECT_EQ(books(), after) << change;
     run("Update Sale Set SaleDate = '2026-03-05', ClientCode = 1, SaleGubun = 1, Gubun = False, SaleName = "
-        "'LPG', "
-        "SaleThing = '20', SaleNum = 2, SaleUnit = 40000, Income = 50000, DC = 0, Trust = 30000, "
+        "'LPG', SaleThing = '20', SaleNum = 2, SaleUnit = 40000, Income = 50000, DC = 0, Trust = 30000, "
         "Response = '홍길동'");
   }
   run("Update Sale Set DealList = 3");

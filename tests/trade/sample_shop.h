@@ -10,7 +10,7 @@ namespace tests {
 
 /** A line of sale or purchase. */
 struct Line {
-  QString day = {}, person = {}, item = {}, size = {}, station = {};
+  QString day = {}, person = {}, item = {}, size = {};
   qint64 client = 0, pieces = 0, income = 0, discount = 0, trust = 0;
   int kind = 0;
   bool metered = false, sale = true;
@@ -63,28 +63,30 @@ struct Shop : TestPc {
     }
   }
   void readLines(const jet::Database& file) {
-    for (auto rs = file.OpenRecordset(u"Select * From Sale"); !rs.atEnd(); rs.MoveNext())
-      sales.push_back({.day = rs["SaleDate"].toText(),
-                       .person = rs["Response"].toText(),
-                       .item = rs["SaleName"].toText(),
-                       .size = rs["SaleThing"].toText(),
-                       .client = rs["ClientCode"].toLong(),
-                       .pieces = rs["SaleNum"].toLong(),
-                       .income = rs["Income"].toLong(),
-                       .discount = rs["DC"].toLong(),
-                       .trust = rs["Trust"].toLong(),
-                       .kind = int(rs["SaleGubun"].toLong()),
-                       .metered = rs["Gubun"].toBool()});
-    for (auto rs = file.OpenRecordset(u"Select * From Buy"); !rs.atEnd(); rs.MoveNext())
-      purchases.push_back({.day = rs["BuyDate"].toText(),
-                           .item = rs["BuyName"].toText(),
-                           .size = rs["BuyThing"].toText(),
-                           .station = rs["BuyCompany"].toText(),
-                           .pieces = rs["PurchaseNum"].toLong(),
-                           .income = rs["Pay"].toLong(),
-                           .trust = rs["Trust"].toLong(),
-                           .kind = int(rs["PurchaseGubun"].toLong()),
-                           .sale = false});
+    read(sales, true,
+         file.OpenRecordset(
+             u"Select SaleDate, Response, SaleName, SaleThing, ClientCode, SaleNum, Income, DC, "
+             u"Trust, SaleGubun, Gubun From Sale"));
+    read(purchases, false,
+         file.OpenRecordset(u"Select BuyDate, Response, BuyName, BuyThing, 0, PurchaseNum, Pay, DC, Trust, "
+                            u"PurchaseGubun, False From Buy"));
+  }
+
+ private:
+  static void read(std::vector<Line>& to, bool sale, jet::Recordset rs) {
+    for (; !rs.atEnd(); rs.MoveNext())
+      to.push_back({.day = rs[0].toText(),
+                    .person = rs[1].toText(),
+                    .item = rs[2].toText(),
+                    .size = rs[3].toText(),
+                    .client = rs[4].toLong(),
+                    .pieces = rs[5].toLong(),
+                    .income = rs[6].toLong(),
+                    .discount = rs[7].toLong(),
+                    .trust = rs[8].toLong(),
+                    .kind = int(rs[9].toLong()),
+                    .metered = rs[10].toBool(),
+                    .sale = sale});
   }
 };
 

@@ -8,6 +8,7 @@ using tests::asks;
 using tests::days;
 
 struct StockBriefs : testing::Test, tests::BriefDesk {
+  const BriefAsk period = asks(0, {{"TxtDay", days("2026-03-01", "2026-03-10")}});
   StockBriefs() {
     run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('LPG', '20', 50, 40)");
     run("Insert Into Util(Name, Size, UtilStock) Values('밸브', '15A', 30)");
@@ -18,13 +19,11 @@ TEST_F(StockBriefs, GasAndCylinders) {
   sale({.day = "2026-03-02", .pieces = 3});
   sale({.day = "2026-03-03", .kind = 5, .pieces = 2});
   sale({.day = "2026-03-20", .kind = 3, .pieces = 1});
-  run("Insert Into Buy(BuyDate, BuyName, BuyThing, PurchaseNum, PurchaseGubun) "
-      "Values('2026-03-04', 'LPG', '20', 10, 1)");
+  run("Insert Into Buy(BuyDate, BuyName, BuyThing, PurchaseNum, PurchaseGubun) Values('2026-03-04', 'LPG', "
+      "'20', 10, 1)");
   BriefRun brief(session, holdBrief());
-  const auto period = days("2026-03-01", "2026-03-10");
-  ASSERT_TRUE(brief.load(asks(0, {{"TxtDay", period}})));
   // Full ones 50 + 3 + 1 - 10 = 44, then 44 + 10 - 3 = 51; cylinders 90 + 2 + 1 = 93, then 93 - 2 = 91.
-  EXPECT_EQ(shown(brief), QStringList{"LPG|20|44|10|3|51|93|0|0|2|0|91"});
+  EXPECT_EQ(load(brief, period), QStringList{"LPG|20|44|10|3|51|93|0|0|2|0|91"});
   brief.print(0);
   EXPECT_EQ(staged("Str01, Str02, Str03, Str04, Str05, Str06, Str07, Str08, Str09, Str10, Str11, Str12"),
             QStringList{"LPG|20|44|10|3|51|93|0|0|2|0|91"});
@@ -37,14 +36,13 @@ TEST_F(StockBriefs, GasAndCylinders) {
 TEST_F(StockBriefs, Materials) {
   sale({.day = "2026-03-02", .kind = 7, .pieces = 4, .item = "밸브", .size = "15A"});
   BriefRun brief(session, utilHoldBrief());
-  ASSERT_TRUE(brief.load(asks(0, {{"TxtDay", days("2026-03-01", "2026-03-10")}})));
-  EXPECT_EQ(shown(brief), QStringList{"밸브|15A|34|0|4|30"});
+  EXPECT_EQ(load(brief, period), QStringList{"밸브|15A|34|0|4|30"});
   brief.print(0);
   EXPECT_EQ(staged("Str01, Str03, Str06"), QStringList{"밸브|34|30"});
   EXPECT_EQ(reports.asked.back().file, "자재재고수불현황.rpt");
   run("Delete * From Util");
   pc.prompts.expect("등록된 자재가 없습니다!");
-  EXPECT_FALSE(brief.load(asks(0, {{"TxtDay", days("2026-03-01", "2026-03-10")}})));
+  EXPECT_FALSE(brief.load(period));
 }
 
 }  // namespace
