@@ -17,16 +17,20 @@ int failureOf(Work work) {
   return 0;
 }
 
-/** The rows of a query: each row's fields with "|" between, Null as null says. */
-inline QStringList linesOf(const jet::Database& db, const QString& sql, const QString& null = {}) {
+/** The rows from where the recordset stands: each row's fields with "|" between, Null as null says. */
+inline QStringList linesOf(jet::Recordset rs, const QString& null = {}) {
   QStringList lines;
-  for (jet::Recordset rs = db.OpenRecordset(sql); !rs.atEnd(); rs.MoveNext()) {
+  for (; !rs.atEnd(); rs.MoveNext()) {
     QStringList fields;
     const int count = int(rs.fieldNames().size());
     for (int at = 0; at < count; ++at) fields << (rs[at].isNull() ? null : rs[at].toText());
     lines << fields.join(u'|');
   }
   return lines;
+}
+/** Those of a query. */
+inline QStringList linesOf(const jet::Database& db, const QString& sql, const QString& null = {}) {
+  return linesOf(db.OpenRecordset(sql), null);
 }
 
 /** The same in one text, with ";" between the rows. */

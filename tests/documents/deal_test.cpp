@@ -12,23 +12,21 @@ using tests::column, tests::row;
 
 struct Deals : tests::DocumentDesk {
   Deals() {
-    upgrades::makeDealList(session);
     session.dbBasic.Execute(
         "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
         "'123-45-67891', '서울 중구 1', '소매', '가스')");
     session.dbBasic.Execute(
         "Insert Into Client(Name, Uname, Serial, Address, Status, Item, GasInit, UtilInit) "
-        "Values('한라식당', "
-        "'김하나', '2208162517', '서울 강남 2', '음식', '한식', 50000, -2000)");
+        "Values('한라식당', '김하나', '2208162517', '서울 강남 2', '음식', '한식', 50000, -2000)");
     session.dbBasic.Execute("Insert Into Client(Name) Values('바다식당')");
   }
   void sale(const jet::Database& year, const QString& date, int client, const QString& name, qint64 unit,
-            qint64 number, int gubun = 1, const QString& thing = "20") {
+            qint64 number, int gubun = 1) {
     year.Execute(
-        u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
-        u"SaleGubun) Values('%1', %2, '%3', '%4', %5, %6, %7)"_s.arg(date)
+        u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun) Values('%1', %2, '%3', '20', %4, %5, %6)"_s
+            .arg(date)
             .arg(client)
-            .arg(name, thing)
+            .arg(name)
             .arg(unit)
             .arg(number)
             .arg(gubun));
@@ -40,6 +38,12 @@ struct Deals : tests::DocumentDesk {
     return {
         .from = QDate::fromString(from, Qt::ISODate), .to = QDate::fromString(to, Qt::ISODate), .tab = tab};
   }
+  DealAsk march(DealTab tab = DealTab::Pending) { return range("2026-03-01", "2026-03-31", tab); }
+  void tickAll(const DealAsk& ask) {
+    EXPECT_TRUE(desk.search(ask));
+    desk.ticks().setAll(true);
+  }
+  DealDesk desk{session};
 };
 
 TEST_F(Deals, TheListIsWhatIsPendingByDateAndCollectionsAreNeverInIt) {
@@ -51,8 +55,7 @@ TEST_F(Deals, TheListIsWhatIsPendingByDateAndCollectionsAreNeverInIt) {
   sale("2026-03-06", 1, "가스수금", 0, 0, 4);
   sale("2026-03-06", 1, "자재수금", 9, 9, 8);
   session.dbYear.Execute("Update Sale Set DealList = 3 Where SaleName = '자재수금'");
-  DealDesk desk(session);
-  ASSERT_TRUE(desk.search(range("2026-03-01", "2026-03-31")));
+  ASSERT_TRUE(desk.search(march()));
   EXPECT_EQ(desk.grid().MaxRows(), 4);
   using namespace DealCol;
   EXPECT_EQ(cells(desk, 1, {Date, Client, Item, Norm, Quantity, Price, Amount, Tick, Code}),
@@ -64,22 +67,21 @@ TEST_F(Deals, TheListIsWhatIsPendingByDateAndCollectionsAreNeverInIt) {
   EXPECT_EQ(desk.grid().topLine(4), 0xC0C0C0);
   EXPECT_EQ(desk.grid().topLine(3), -1);
   EXPECT_EQ(desk.found().sumText(), "130,000 ");
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 2"), "2");
+  EXPECT_EQ(inYear("Select Count(*) From Sale Where DealList = 2"), "2");
 
-  DealAsk ask = range("2026-03-01", "2026-03-31");
+  DealAsk ask = march();
   ask.facility = true;
   ask.clientCode = "1";
   desk.search(ask);
   EXPECT_EQ(desk.found().sum(), 65'000);
   session.dbYear.Execute("Update Sale Set DealList = -1 Where SaleID = 1");
   session.dbYear.Execute("Update Sale Set DealList = 3 Where SaleID = 2");
-  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  desk.search(march(DealTab::Issued));
   EXPECT_EQ(cells(desk, 1, {Code}), "1") << "below zero counts as issued, above two stands nowhere";
   EXPECT_EQ(desk.grid().MaxRows(), 1);
 }
 
 TEST_F(Deals, DatesThatAreNoRangeAreToldAndAnEmptyListHasOneBlankRow) {
-  DealDesk desk(session);
   pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
   EXPECT_FALSE(desk.search(range("2026-03-02", "2026-03-01")));
   EXPECT_TRUE(desk.search(range("2026-03-02", "2026-03-02")));
@@ -99,7 +101,6 @@ TEST_F(Deals, AYearsBoundaryOpensBothFilesAndEachLineIsMarkedInItsOwn) {
   sale(before, "2025-11-30", 1, "LPG", 100, 1);
   sale("2026-01-01", 1, "LPG", 2'000, 1);
   sale("2026-02-28", 1, "LPG", 3'000, 1);
-  DealDesk desk(session);
   ASSERT_TRUE(desk.search(range("2025-12-01", "2026-02-28")));
   EXPECT_EQ(desk.found().sum(), 6'000);
   desk.ticks().setAll(true);
@@ -107,7 +108,7 @@ TEST_F(Deals, AYearsBoundaryOpensBothFilesAndEachLineIsMarkedInItsOwn) {
   EXPECT_EQ(first(before, "Select DealList From Sale Where SaleDate = '2025-12-31'"), "1");
   EXPECT_EQ(first(before, "Select DealList From Sale Where SaleDate = '2025-11-30'"), "0")
       << "the same SaleID 2";
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 1"), "2");
+  EXPECT_EQ(inYear("Select Count(*) From Sale Where DealList = 1"), "2");
   pc.prompts.expect("2024년의 자료 파일을 열 수 없어");
   EXPECT_TRUE(desk.search(range("2024-12-01", "2026-03-01")));
   EXPECT_EQ(desk.found().sum(), 100);
@@ -115,8 +116,7 @@ TEST_F(Deals, AYearsBoundaryOpensBothFilesAndEachLineIsMarkedInItsOwn) {
 
 TEST_F(Deals, ALineInTheHistoryStaysHiddenAndAPrintedOneIsWrittenThere) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.search(march());
   desk.ticks().toggle(1);
   print(desk.issue({}));
   const auto history = session.wsMain.OpenDatabase(session.DbPath + "dbDetail.mdb");
@@ -125,19 +125,17 @@ TEST_F(Deals, ALineInTheHistoryStaysHiddenAndAPrintedOneIsWrittenThere) {
                   "From DealList"),
             "2026-03-021한라식당LPG20230000600001");
   session.dbYear.Execute("Update Sale Set DealList = 0");
-  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.search(march());
   EXPECT_EQ(desk.found().sum(), 0);
   session.dbYear.Execute("Update Sale Set DealList = 1");
-  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  desk.search(march(DealTab::Issued));
   EXPECT_EQ(desk.found().sum(), 60'000) << "the issued list does not look there";
 }
 
 TEST_F(Deals, AHistoryThatRefusesIsToldOnceAndThePaperComes) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
   sale("2026-03-02", 1, "LPG", 30'000, 3);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   session.wsMain.OpenDatabase(session.DbPath + "dbDetail.mdb").Execute("drop table DealList");
   pc.prompts.expect("거래명세서 내역을 저장하는 중 오류가 발생했습니다.");
   EXPECT_FALSE(print(desk.issue({})).items.empty());
@@ -148,7 +146,7 @@ TEST_F(Deals, WhatAnotherPcIssuedMeanwhileStandsOnNoSecondPaper) {
   sale("2026-03-02", 1, "부탄", 10'000, 1);
   DealDesk here(session), there(session);
   for (DealDesk* each : {&here, &there}) {
-    each->search(range("2026-03-01", "2026-03-31"));
+    each->search(march());
     each->ticks().setAll(true);
   }
   there.ticks().set(1, false);
@@ -164,23 +162,21 @@ TEST_F(Deals, WhatAnotherPcIssuedMeanwhileStandsOnNoSecondPaper) {
 TEST_F(Deals, TheLedgersLayoutMarksBySaleIdWhereItsOwnColumnIsMissingOrForeign) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
   sale("2026-03-03", 1, "LPG", 30'000, 2);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.search(march());
   desk.ticks().toggle(1);
   EXPECT_EQ(desk.issue({.layout = DocumentLayout::Dot}).documents, 1);
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 1"), "1");
+  EXPECT_EQ(inYear("Select Count(*) From Sale Where DealList = 1"), "1");
   session.dbYear.Execute("Alter Table Sale Add Column Code Text(10)");
-  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.search(march());
   desk.ticks().toggle(1);
   EXPECT_EQ(desk.issue({.layout = DocumentLayout::Dot}).documents, 1);
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where DealList = 1"), "2");
+  EXPECT_EQ(inYear("Select Count(*) From Sale Where DealList = 1"), "2");
 }
 
 TEST_F(Deals, WithoutALedgerQuantityAndDeletionEndInTheirOwnMessageOnce) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
   sale("2026-03-02", 1, "LPG", 30'000, 2);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
+  desk.search(march());
   pc.prompts.expect("거래내역을 수정하는 중 오류가 발생했습니다.");
   EXPECT_FALSE(desk.changeQuantity(1, "3"));
   EXPECT_EQ(desk.grid().text(1, DealCol::Quantity), "2");
@@ -192,7 +188,7 @@ TEST_F(Deals, WithoutALedgerQuantityAndDeletionEndInTheirOwnMessageOnce) {
   pc.prompts.expect("선택하신 2개의 내역을 삭제하시겠습니까?", true);
   pc.prompts.expect("거래명세표 내역을 삭제하는 중 오류가 발생했습니다.");
   EXPECT_TRUE(desk.deleteTicked());
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale"), "2");
+  EXPECT_EQ(inYear("Select Count(*) From Sale"), "2");
 }
 
 TEST_F(Deals, WithALedgerTheLineAndItsBookMove) {
@@ -204,30 +200,29 @@ TEST_F(Deals, WithALedgerTheLineAndItsBookMove) {
     session.dbYear.Execute(u"Alter Table Sale Add Column "_s + field);
   sale("2026-03-02", 1, "LPG", 10'000, 2);
   session.dbYear.Execute(
-      "Update Sale Set Code = '1', CCode = '000001', TradeKum = 20000, VatKum = 2000, SumKum = "
-      "22000, DC = 500");
+      "Update Sale Set Code = '1', CCode = '000001', TradeKum = 20000, VatKum = 2000, SumKum = 22000, DC = "
+      "500");
   session.dbYear.Execute("Insert Into Trader(Code, VAT) Values('000001', 2)");
   session.dbYear.Execute(
-      "Insert Into SaleBook(CCode, DealDate, TradeKum, DC, VatKum, SumKum) Values('000001', "
-      "'2026-03-02', 20000, 500, 2000, 22000)");
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
+      "Insert Into SaleBook(CCode, DealDate, TradeKum, DC, VatKum, SumKum) Values('000001', '2026-03-02', "
+      "20000, 500, 2000, 22000)");
+  desk.search(march());
   ASSERT_TRUE(desk.changeQuantity(1, "3"));
   // 3 x 10,000 less 500 is 29,500; a tenth on top is 2,950
   EXPECT_EQ(desk.grid().text(1, DealCol::Amount), "32450");
   const QString figures = "Select TradeKum & '/' & DC & '/' & VatKum & '/' & SumKum From ";
-  EXPECT_EQ(first(session.dbYear, figures + "Sale"), "29500/500/2950/32450");
-  EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "29500/500/2950/32450");
+  EXPECT_EQ(inYear(figures + "Sale"), "29500/500/2950/32450");
+  EXPECT_EQ(inYear(figures + "SaleBook"), "29500/500/2950/32450");
   session.dbYear.Execute("Insert Into Product(Code, PTax) Values('P1', 0)");
   session.dbYear.Execute("Update Sale Set PCode = 'P1'");
   ASSERT_TRUE(desk.changeQuantity(1, "1"));
-  EXPECT_EQ(first(session.dbYear, figures + "Sale"), "9500/500/0/9500") << "an item free of tax stays so";
-  EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "9500/500/0/9500");
+  EXPECT_EQ(inYear(figures + "Sale"), "9500/500/0/9500") << "an item free of tax stays so";
+  EXPECT_EQ(inYear(figures + "SaleBook"), "9500/500/0/9500");
   desk.ticks().toggle(1);
   pc.prompts.expect("선택하신 1개의 내역을 삭제하시겠습니까?");
   EXPECT_TRUE(desk.deleteTicked());
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale"), "0");
-  EXPECT_EQ(first(session.dbYear, figures + "SaleBook"), "0/0/0/0") << "the next start takes such a row away";
+  EXPECT_EQ(inYear("Select Count(*) From Sale"), "0");
+  EXPECT_EQ(inYear(figures + "SaleBook"), "0/0/0/0") << "the next start takes such a row away";
 }
 
 // --- the papers -----------------------------------------------------------------------------------------------
@@ -236,9 +231,7 @@ TEST_F(Deals, HalfA4TextByText) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
   sale("2026-03-05", 1, "부탄", 55, 1);
   setDocumentMargins(session, "거래명세표", {"1", "3"});
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   const auto& job = print(desk.issue({}));
   EXPECT_EQ(job.pages, 1);
   EXPECT_EQ(job.paper.width, 8.27);
@@ -259,9 +252,7 @@ TEST_F(Deals, HalfA4TextByText) {
 
 TEST_F(Deals, FourteenLinesAreOneSheetFifteenAreTwoAndTheSumsRunOn) {
   for (int line = 0; line < 15; ++line) sale("2026-03-02", 1, "LPG", 1'100, 1);
-  DealDesk desk(session);
-  desk.search(range("2026-03-02", "2026-03-02"));
-  desk.ticks().setAll(true);
+  tickAll(range("2026-03-02", "2026-03-02"));
   desk.ticks().set(15, false);
   const DealPrint onTop{.vat = Vat::OnTop};
   {
@@ -291,9 +282,7 @@ TEST_F(Deals, EachRunOfOneCustomerIsAStatementOnItsOwnSheetAndVatIsAChoice) {
   sale("2026-03-02", 1, "LPG", 100, 1);
   sale("2026-03-02", 2, "LPG", 200, 1);
   sale("2026-03-03", 1, "LPG", 300, 1);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   const DocumentRun run = desk.papers({.vat = Vat::None});
   EXPECT_EQ(run.documents, 3);
   EXPECT_EQ(run.name(1), "2026-03-31 바다식당 거래명세표");
@@ -313,9 +302,7 @@ TEST_F(Deals, EachRunOfOneCustomerIsAStatementOnItsOwnSheetAndVatIsAChoice) {
 
 TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   const auto& job = print(desk.papers({.layout = DocumentLayout::FullA4}));
   const double upper = 1 * row, lower = 36 * row;
   expectWords(job, {upper, lower},
@@ -366,9 +353,7 @@ TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
 
 TEST_F(Deals, APageOfTheDotPrinterTellsItsOwnSum) {
   for (int line = 0; line < 29; ++line) sale("2026-03-02", 1, "LPG", 1'100 + line / 14, 1);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   const auto& job = print(desk.papers({.layout = DocumentLayout::Dot}));
   expectTexts(job, 1, 2, 0, "24: 88=15,400|92=-");
   expectTexts(job, 2, 2, 0, "24: 88=15,414|92=-");
@@ -379,9 +364,7 @@ TEST_F(Deals, AReprintHasNoBalanceAndASetMarginIsTheWholeOfIt) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
   session.dbYear.Execute("Update Sale Set DealList = 1");
   setDocumentMargins(session, "거래명세표", {"", "0"});
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
-  desk.ticks().setAll(true);
+  tickAll(march(DealTab::Issued));
   expectTexts(print(desk.papers({.layout = DocumentLayout::FullA4})), 1, 1, 0, R"(
 7: 19=해온가스
 13.6: 26=            60,000|55=            60,000|80=-)");
@@ -389,9 +372,7 @@ TEST_F(Deals, AReprintHasNoBalanceAndASetMarginIsTheWholeOfIt) {
 
 TEST_F(Deals, TheOtherHalfSheetAndTheDotPrinter) {
   for (int line = 0; line < 15; ++line) sale("2026-03-02", 1, "LPG", 1'100, 1);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   {
     const auto& job = print(desk.papers({.layout = DocumentLayout::HalfA4B}));
     for (const double base : {3.0, 38.0}) {
@@ -442,18 +423,16 @@ TEST_F(Deals, TheOtherHalfSheetAndTheDotPrinter) {
 
 TEST_F(Deals, NothingMovesWithoutACompanyAndARefusalLeavesTheLinesIssued) {
   sale("2026-03-02", 1, "LPG", 30'000, 2);
-  DealDesk desk(session);
-  desk.search(range("2026-03-01", "2026-03-31"));
-  desk.ticks().setAll(true);
+  tickAll(march());
   EXPECT_TRUE(desk.hasPapers());
   session.dbBasic.Execute("Delete From User");
   pc.prompts.expect("사용자등록부터 하셔야 합니다");
   EXPECT_FALSE(desk.hasPapers());
-  EXPECT_EQ(first(session.dbYear, "Select DealList From Sale"), "0");
+  EXPECT_EQ(inYear("Select DealList From Sale"), "0");
   printers.refusal = "용지 없음";
   const DocumentRun run = desk.issue({});
   EXPECT_THROW(print(run), pc::PrintError);
-  desk.search(range("2026-03-01", "2026-03-31", DealTab::Issued));
+  desk.search(march(DealTab::Issued));
   EXPECT_EQ(desk.found().sum(), 60'000);
   desk.ticks().setAll(true);
   printers.refusal.clear();

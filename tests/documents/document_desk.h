@@ -17,12 +17,15 @@ struct DocumentDesk : testing::Test {
   DocumentDesk() {
     pc.openBooks(QDate(2026, 3, 31));
     session.printers = &printers;
+    upgrades::makeDealList(session);
   }
   /** The first field of a query's first row; "-" without one. */
   QString first(const jet::Database& db, const QString& sql) {
     const auto rows = db.OpenRecordset(sql);
     return rows.atEnd() ? "-" : rows[0].toText();
   }
+  QString inYear(const QString& sql) { return first(session.dbYear, sql); }
+  QString inTax(const QString& sql) { return first(session.dbTax, sql); }
   template <typename Desk>
   QString cells(Desk& desk, int line, std::initializer_list<int> columns) {
     QStringList found;

@@ -39,6 +39,11 @@ void whenMenu(std::function<void(QMenu&)> act) {
   look->start(1);
 }
 
+void chooseFirst(QMenu& menu) {
+  QTest::keyClick(&menu, Qt::Key_Down);
+  QTest::keyClick(&menu, Qt::Key_Return);
+}
+
 /** Searches and questions answered as the test says. */
 struct DocumentPickers : tests::IdlePickers {
   TraderFound found;
@@ -77,6 +82,9 @@ struct DocumentForms : testing::Test {
   static void press(QWidget& form, const char* name) {
     QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
   }
+  static void turnTo(QWidget& form, int page) {
+    form.findChild<QTabBar*>("tabSection")->setCurrentIndex(page);
+  }
   static void click(Spread& grid, int row, int col) {
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, grid.cellRect(row, col).center());
   }
@@ -94,11 +102,17 @@ struct DealForm : DocumentForms {
   DealForm() : form(context) {
     form.Open("2026-03-01", "2026-03-31");
     tests::show(form);
-    grid = form.findChild<Spread*>("grdList");
+  }
+  void tickFirst() {
+    grid->setFocus();
+    grid->setActiveCell(1, DealCol::Item);
+    tests::key(Qt::Key_Space);
   }
   QString tick(int row) { return grid->model().text(row, DealCol::Tick); }
   FrmDealList form;
-  Spread* grid = nullptr;
+  Spread* const grid = form.findChild<Spread*>("grdList");
+  QLineEdit* const client = form.findChild<QLineEdit*>("txtinput");
+  QLineEdit* const code = form.findChild<QLineEdit*>("txtCCode");
 };
 
 TEST_F(DealForm, OpensOnTheRangeAndTellsThePrinter) {
@@ -116,9 +130,7 @@ TEST_F(DealForm, OpensOnTheRangeAndTellsThePrinter) {
 }
 
 TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
-  grid->setFocus();
-  grid->setActiveCell(1, DealCol::Item);
-  tests::key(Qt::Key_Space);
+  tickFirst();
   EXPECT_EQ(tick(1), "1");
   tests::key(Qt::Key_Space);
   EXPECT_EQ(tick(1), "0");
@@ -127,22 +139,17 @@ TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
   EXPECT_EQ(tick(1) + tick(2) + tick(3), "11");
   click(*grid, 5, DealCol::Item);
   EXPECT_EQ(tick(5), "") << "a click chooses a row, nothing more";
-  QTest::mouseDClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
-                     grid->cellRect(5, DealCol::Item).center());
+  QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->cellRect(5, DealCol::Item).center());
   EXPECT_EQ(tick(5), "1");
   click(*grid, 6, DealCol::Tick);
   EXPECT_EQ(tick(6), "1");
-  QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
-                    grid->cellRect(8, DealCol::Item).center());
-  QTest::mouseMove(grid->viewport(), grid->cellRect(10, DealCol::Item).center());
-  {
-    QMouseEvent drag(QEvent::MouseMove, grid->cellRect(10, DealCol::Item).center(),
-                     grid->viewport()->mapToGlobal(grid->cellRect(10, DealCol::Item).center()), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(grid->viewport(), &drag);
-  }
-  QTest::mouseRelease(grid->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      grid->cellRect(10, DealCol::Item).center());
+  const QPoint from = grid->cellRect(8, DealCol::Item).center(),
+               to = grid->cellRect(10, DealCol::Item).center();
+  QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier, from);
+  QMouseEvent drag(QEvent::MouseMove, to, grid->viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(grid->viewport(), &drag);
+  QTest::mouseRelease(grid->viewport(), Qt::LeftButton, Qt::NoModifier, to);
   EXPECT_EQ(tick(7) + tick(8) + tick(9) + tick(10) + tick(11), "111");
   form.findChild<QCheckBox*>("ChkAll")->click();
   EXPECT_EQ(tick(16), "1");
@@ -152,7 +159,6 @@ TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
 
 TEST_F(DealForm, TheCustomerIsChosenAndForgotten) {
   tests::key(Qt::Key_Insert);
-  auto* const client = form.findChild<QLineEdit*>("txtinput");
   EXPECT_TRUE(client->hasFocus());
   pickers.found = {.any = false, .trader = {}};
   pc.prompts.expect("등록된 거래처가 없습니다.");
@@ -162,18 +168,16 @@ TEST_F(DealForm, TheCustomerIsChosenAndForgotten) {
   tests::key(Qt::Key_Return);
   pickers.found = {.any = true, .trader = ClientChoice{2, "바다식당"}};
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(form.findChild<QLineEdit*>("txtCCode")->text(), "2");
+  EXPECT_EQ(code->text(), "2");
   EXPECT_EQ(grid->model().MaxRows(), 8);
   client->setFocus();
   client->clear();
   form.findChild<QLineEdit*>("txtDate(0)")->setFocus();
   QApplication::processEvents();
-  EXPECT_EQ(form.findChild<QLineEdit*>("txtCCode")->text(), "");
+  EXPECT_EQ(code->text(), "");
 }
 
 TEST_F(DealForm, ATypedNameIsLookedUpBeforeItsLinesAreAndTheArrowsLeaveTheBox) {
-  auto* const client = form.findChild<QLineEdit*>("txtinput");
-  auto* const code = form.findChild<QLineEdit*>("txtCCode");
   tests::key(Qt::Key_Insert);
   pickers.found = {.any = true, .trader = ClientChoice{2, "바다식당"}};
   tests::key(Qt::Key_Return);
@@ -199,27 +203,19 @@ TEST_F(DealForm, ATypedNameIsLookedUpBeforeItsLinesAreAndTheArrowsLeaveTheBox) {
 TEST_F(DealForm, APrinterThatFailsInTheMiddleLeavesAllOfThemAmongTheIssued) {
   form.findChild<QCheckBox*>("ChkAll")->click();
   printers.refusesFromPage = 3;
-  whenMenu([](QMenu& menu) {
-    QTest::keyClick(&menu, Qt::Key_Down);
-    QTest::keyClick(&menu, Qt::Key_Return);
-  });
+  whenMenu(chooseFirst);
   pc.prompts.expect("거래명세표를 모두 인쇄하지 못했습니다.\n발행한 내역에서 다시 인쇄하세요.");
   press(form, "btnPrint");
   EXPECT_TRUE(printers.jobs.back()->abandoned);
   EXPECT_EQ(pending(), "0");
-  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  turnTo(form, 1);
   EXPECT_EQ(grid->model().MaxRows(), 16);
 }
 
 TEST_F(DealForm, WithoutItsPrinterNothingIsIssuedButThePapersAreLookedAtAndSaved) {
   setDocumentPrinter(session, "거래명세표", "없는 프린터");
-  grid->setFocus();
-  grid->setActiveCell(1, DealCol::Item);
-  tests::key(Qt::Key_Space);
-  whenMenu([](QMenu& menu) {
-    QTest::keyClick(&menu, Qt::Key_Down);
-    QTest::keyClick(&menu, Qt::Key_Return);
-  });
+  tickFirst();
+  whenMenu(chooseFirst);
   pc.prompts.expect("없는 프린터");
   press(form, "btnPrint");
   EXPECT_EQ(pending(), "16");
@@ -229,9 +225,12 @@ TEST_F(DealForm, WithoutItsPrinterNothingIsIssuedButThePapersAreLookedAtAndSaved
   press(form, "btnPreview");
   bool isShown = false;
   for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->objectName() == "FrmPaperView") isShown = window->close() || isShown;
+    if (window->objectName() == "FrmPaperView") {
+      tests::grab(*window, "FrmDealList-preview");
+      isShown = window->close();
+    }
   EXPECT_TRUE(isShown);
-  EXPECT_EQ(pending(), "16");
+  EXPECT_EQ(pending(), "16") << "looked at";
 }
 
 TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
@@ -254,18 +253,15 @@ TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
 }
 
 TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
-  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  turnTo(form, 1);
   EXPECT_EQ(grid->model().text(1, DealCol::Code), "");
-  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(0);
-  grid->setFocus();
-  grid->setActiveCell(1, DealCol::Item);
-  tests::key(Qt::Key_Space);
+  turnTo(form, 0);
+  tickFirst();
   pickers.method = PrintMethodChoice{false, 1};
   whenMenu([](QMenu& menu) {
     EXPECT_EQ(menu.actions().at(0)->text(), " 명 세 표 출 력 ");
     EXPECT_EQ(menu.actions().at(2)->text(), " 취          소 ");
-    QTest::keyClick(&menu, Qt::Key_Down);
-    QTest::keyClick(&menu, Qt::Key_Return);
+    chooseFirst(menu);
   });
   press(form, "btnPrint");
   EXPECT_EQ(pickers.asked.title, "거래명세표 발행");
@@ -275,7 +271,7 @@ TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
   EXPECT_TRUE(printers.jobs[0]->texts().contains("C O D E"));
   EXPECT_EQ(pending(), "15");
   EXPECT_EQ(grid->model().MaxRows(), 15) << "it left the list";
-  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  turnTo(form, 1);
   EXPECT_EQ(grid->model().text(1, DealCol::ClientName), "한라식당");
   tests::show(form);  // the bar of the run was in front
   grid->setFocus();
@@ -292,20 +288,9 @@ TEST_F(DealForm, LeavingTheQuestionIssuesNothing) {
   whenMenu([](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
   press(form, "btnPrint");
   pickers.method = {};
-  whenMenu([](QMenu& menu) {
-    QTest::keyClick(&menu, Qt::Key_Down);
-    QTest::keyClick(&menu, Qt::Key_Return);
-  });
+  whenMenu(chooseFirst);
   press(form, "btnPrint");
   EXPECT_EQ(pending(), "16");
-  pickers.method = PrintMethodChoice{};
-  press(form, "btnPreview");
-  EXPECT_EQ(pending(), "16") << "looked at";
-  for (QWidget* window : QApplication::topLevelWidgets())
-    if (window->objectName() == "FrmPaperView") {
-      tests::grab(*window, "FrmDealList-preview");
-      window->close();
-    }
 }
 
 TEST_F(DealForm, AQuantityTheLedgerRefusesComesBack) {
@@ -321,14 +306,11 @@ TEST_F(DealForm, AQuantityTheLedgerRefusesComesBack) {
 }
 
 struct TaxForm : DocumentForms {
-  TaxForm() : form(context) {
-    tests::show(form);
-    grid = form.findChild<Spread*>("grdList");
-  }
+  TaxForm() : form(context) { tests::show(form); }
   QString label(const char* name) { return form.findChild<QLabel*>(name)->text(); }
   QString box(const char* name) { return form.findChild<QLineEdit*>(name)->text(); }
   FrmTax form;
-  Spread* grid = nullptr;
+  Spread* const grid = form.findChild<Spread*>("grdList");
 };
 
 TEST_F(TaxForm, GathersTheMonthAndShowsItsSums) {
@@ -364,7 +346,7 @@ TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
   EXPECT_EQ(pickers.asked.prompt, "세금계산서 발행 방법을 선택하세요.");
   EXPECT_EQ(grid->model().MaxRows(), 1);
   EXPECT_EQ(box("Txt일련번호2"), "002");
-  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(1);
+  turnTo(form, 1);
   EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "2603001");
   tests::show(form);  // the bar of the run was in front
   grid->setFocus();
@@ -372,7 +354,7 @@ TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
   pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
   tests::key(Qt::Key_Delete);
   EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "");
-  form.findChild<QTabBar*>("tabSection")->setCurrentIndex(0);
+  turnTo(form, 0);
   EXPECT_EQ(grid->model().MaxRows(), 1) << "its lines do not come back";
 }
 

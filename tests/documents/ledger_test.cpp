@@ -5,6 +5,8 @@
 #include "documents/pickers/post_list.h"
 #include "documents/pickers/trader_search.h"
 #include "store/schema.h"
+#include "tests/answers.h"
+#include "tests/cells.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -21,21 +23,17 @@ struct Ledger : testing::Test {
   }
   void book(const QString& code, const QString& day, qint64 trade, qint64 sum, qint64 paid) {
     session.dbYear.Execute(
-        u"Insert Into SaleBook(CCode, CName, DealDate, TradeKum, SumKum, InOutKum) Values('%1', 'a', "
-        u"'%2', %3, %4, %5)"_s.arg(code, day)
+        u"Insert Into SaleBook(CCode, CName, DealDate, TradeKum, SumKum, InOutKum) Values('%1', 'a', '%2', %3, %4, %5)"_s
+            .arg(code, day)
             .arg(trade)
             .arg(sum)
             .arg(paid));
   }
-  QString first(const jet::Database& db, const QString& sql) {
-    const auto rows = db.OpenRecordset(sql);
-    return rows.atEnd() ? "-" : rows[0].toText();
-  }
   void client(const QString& name, const QString& tel = {}, const QString& address = {},
               const QString& building = {}, const QString& dong = {}, const QString& ho = {}) {
-    session.dbBasic.Execute("Insert Into Client(Name, Tel, Address, BDName, Dong, Ho) Values('" + name +
-                            "', '" + tel + "', '" + address + "', '" + building + "', '" + dong + "', '" +
-                            ho + "')");
+    session.dbBasic.Execute(
+        u"Insert Into Client(Name, Tel, Address, BDName, Dong, Ho) Values('%1', '%2', '%3', '%4', '%5', '%6')"_s
+            .arg(name, tel, address, building, dong, ho));
   }
   tests::TestPc pc;
   Session& session = pc.session;
@@ -102,7 +100,8 @@ TEST_F(Ledger, TraderRowsGoRoundAllTheirColumns) {
   EXPECT_TRUE(trader.UndeletedList()->atEnd());
   EXPECT_FALSE(trader.List()->atEnd());
   EXPECT_FALSE(trader.FindByName("바다")->atEnd());
-  EXPECT_EQ(first(session.dbBasic, "Select HPhone & Addr1 & Serial From Trader"), "010서울123-45-67891");
+  EXPECT_EQ(tests::rowsOf(session.dbBasic, "Select HPhone & Addr1 & Serial From Trader"),
+            "010서울123-45-67891");
   ASSERT_TRUE(trader.Delete());
   EXPECT_TRUE(trader.List()->atEnd());
 }
@@ -120,9 +119,7 @@ TEST_F(Ledger, ABalanceIsTheOpeningRowAndFromFebruaryOnWhatCameBeforeTheMonth) {
   EXPECT_EQ(*sales.PeriodBalance("000001", "2026-02-01"), 1'300);
   EXPECT_EQ(*sales.PeriodBalance("000001", "2026-01-31"), 1'000) << "January reads no period rows";
   EXPECT_EQ(*sales.PeriodBalance("000002", "2026-03-01"), 40);
-  int rows = 0;
-  for (auto opening = *sales.OpeningRows("2026"); !opening.atEnd(); opening.MoveNext()) ++rows;
-  EXPECT_EQ(rows, 2);
+  EXPECT_EQ(tests::linesOf(*sales.OpeningRows("2026")).size(), 2);
   EXPECT_EQ(*clsTradeBook(session.dbYear, LedgerSide::Purchase).PeriodBalance("000001", "2026-03-16"), 0);
 }
 
@@ -134,43 +131,43 @@ TEST_F(Ledger, ABookRowMovesByADifferenceAndOnlyThatDay) {
   sales.CCode = "000001";
   sales.DealDate = "2026-03-10";
   EXPECT_TRUE(sales.Adjust(LedgerAmounts{} - LedgerAmounts{900, 10, 90, 1'000}));
-  EXPECT_EQ(first(session.dbYear,
-                  "Select TradeKum & '/' & DC & '/' & VatKum & '/' & SumKum From SaleBook Where "
-                  "DealDate = '2026-03-10'"),
+  EXPECT_EQ(tests::rowsOf(session.dbYear,
+                          "Select TradeKum & '/' & DC & '/' & VatKum & '/' & SumKum From SaleBook Where "
+                          "DealDate = '2026-03-10'"),
             "0/-10/-90/0");
-  EXPECT_EQ(first(session.dbYear, "Select TradeKum From SaleBook Where DealDate = '2026-03-00'"), "5000");
+  EXPECT_EQ(tests::rowsOf(session.dbYear, "Select TradeKum From SaleBook Where DealDate = '2026-03-00'"),
+            "5000");
   sales.DealDate = "2026-03-11";
   EXPECT_FALSE(sales.Adjust({1, 0, 0, 1})) << "no row of that day";
   sales.DealDate = "2026-03-10";
   EXPECT_TRUE(sales.Delete());
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From SaleBook"), "1");
+  EXPECT_EQ(tests::rowsOf(session.dbYear, "Select Count(*) From SaleBook"), "1");
 }
 
 TEST_F(Ledger, ANewTraderBringsHisBookRowAndAsksAboutADouble) {
-  EXPECT_EQ(
-      (pc.prompts.expect("상호명, 전화번호, 주소 중 하나는 필수입력입니다."), saveNewTrader(session, {})),
-      TraderSaved::BackToName);
+  pc.prompts.expect("상호명, 전화번호, 주소 중 하나는 필수입력입니다.");
+  EXPECT_EQ(saveNewTrader(session, {}), TraderSaved::BackToName);
   const TraderFields fields{.C_Name = "한라식당", .VAT = 1, .Section = "1", .TotNoPay = 12'000};
   pc.prompts.expect("거래처를 등록하는 중 오류가 발생했습니다.");  // once, though no table is there
   EXPECT_EQ(saveNewTrader(session, fields), TraderSaved::BackToName);
   session.dbBasic.createTable(schema::table(schema::File::Ledger, "Trader"));
   pc.prompts.expect("거래처를 등록하는 중 오류가 발생했습니다.");
   EXPECT_EQ(saveNewTrader(session, fields), TraderSaved::BackToName);
-  EXPECT_EQ(first(session.dbBasic, "Select Count(*) From Trader"), "0") << "no trader without a book";
+  EXPECT_EQ(tests::rowsOf(session.dbBasic, "Select Count(*) From Trader"), "0") << "no trader without a book";
   session.dbYear.createTable(schema::table(schema::File::Ledger, "SaleBook"));
   EXPECT_EQ(saveNewTrader(session, fields), TraderSaved::Stored);
-  EXPECT_EQ(first(session.dbYear, "Select CCode & CName & DealDate & TradeKum From SaleBook"),
+  EXPECT_EQ(tests::rowsOf(session.dbYear, "Select CCode & CName & DealDate & TradeKum From SaleBook"),
             "000001한라식당2026-03-0012000");
   pc.prompts.expect(
-      "한라식당는 이미 등록된 거래처입니다.\n등록하시겠습니까?\n[예] - 등록함.\n[아니오] - 등록하지 "
-      "않고 종료\n[취소] - 다시 입력함.",
+      "한라식당는 이미 등록된 거래처입니다.\n등록하시겠습니까?\n[예] - 등록함.\n[아니오] - 등록하지 않고 "
+      "종료\n[취소] - 다시 입력함.",
       false);
   EXPECT_EQ(saveNewTrader(session, fields), TraderSaved::Left);
   pc.prompts.expectInput("상호명 중복", "취소");
   EXPECT_EQ(saveNewTrader(session, fields), TraderSaved::BackToName);
   pc.prompts.expect("상호명 중복", true);
   EXPECT_EQ(saveNewTrader(session, fields), TraderSaved::Stored);
-  EXPECT_EQ(first(session.dbBasic, "Select Max(Code) From Trader"), "000002");
+  EXPECT_EQ(tests::rowsOf(session.dbBasic, "Select Max(Code) From Trader"), "000002");
 }
 
 TEST_F(Ledger, TheFirstCharacterDecidesWhatIsSearched) {
@@ -179,14 +176,8 @@ TEST_F(Ledger, TheFirstCharacterDecidesWhatIsSearched) {
   client("세라믹", "02-555-9999", "한강로 1");
   client("입주자", "", "", "한빛아파트", "101", "201");
   TraderSearch search(session);
-  const auto names = [&] {
-    QStringList found;
-    for (int row = 1; row <= search.list().MaxRows(); ++row)
-      found << search.list().text(row, TraderCol::Name);
-    return found.join(",");
-  };
   EXPECT_EQ(search.search("555"), 2);
-  EXPECT_EQ(names(), "세라믹,한라식당");
+  EXPECT_EQ(tests::columnOf(search.list(), TraderCol::Name), QStringList({"세라믹", "한라식당"}));
   EXPECT_EQ(search.search("Bad"), 1);
   EXPECT_EQ(search.search("Food"), 0) << "a capital letter looks at beginnings";
   EXPECT_EQ(search.search("food"), 1) << "a small one anywhere";
@@ -223,13 +214,10 @@ TEST_F(Ledger, FindingInTheListGoesByTheLedgerOrByTheListItself) {
 
 TEST_F(Ledger, PostcodesOfTheWholeFile) {
   session.dbBasic.Execute("Insert Into User(Company, Post1, Post2) Values('a', 100, 199)");
-  {
-    const auto post = session.wsMain.OpenDatabase(session.DbPath + "dbPost.mdb");
-    post.Execute(
-        "Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG, BUNJI) Values('135080', '서울', '강남', '역삼동', "
-        "'1')");
-    post.Execute("Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG) Values('700-010', '대구', '중구', '동인동')");
-  }
+  for (const char* row :
+       {"'135080', '서울', '강남', '역삼동', '1'", "'700-010', '대구', '중구', '동인동', Null"})
+    session.wsMain.OpenDatabase(session.DbPath + "dbPost.mdb")
+        .Execute(u"Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG, BUNJI) Values(%1)"_s.arg(row));
   PostList posts(session);
   ASSERT_TRUE(posts.open());
   EXPECT_TRUE(posts.search("역삼"));

@@ -33,8 +33,8 @@ struct Taxes : tests::DocumentDesk {
             const QString& name = "LPG", const jet::Database* year = nullptr) {
     (year ? *year : session.dbYear)
         .Execute(
-            u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, "
-            u"SaleGubun, DC) Values('%1', %2, '%3', '20', %4, %5, 1, %6)"_s.arg(date)
+            u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, DC) Values('%1', %2, '%3', '20', %4, %5, 1, %6)"_s
+                .arg(date)
                 .arg(client)
                 .arg(name)
                 .arg(unit)
@@ -50,11 +50,21 @@ struct Taxes : tests::DocumentDesk {
       if (sheet.column(col).header.startsWith(header)) return sheet.text(1, col);
     return "-";
   }
-  void issueAll(TaxDesk& desk, const TaxAsk& ask, QString& serial, const TaxPaperChoice& choice = {}) {
-    desk.gather(ask);
+  void gatherAll(const TaxAsk& ask) {
+    EXPECT_TRUE(desk.gather(ask));
     desk.ticks().setAll(true);
-    print(desk.issue(ask, serial, choice));
   }
+  void gatherAll() { gatherAll(month()); }
+  void listAll(const TaxAsk& ask) {
+    desk.list(ask);
+    desk.ticks().setAll(true);
+  }
+  const tests::RecordedJob& issue(const TaxAsk& ask, const TaxPaperChoice& choice = {}) {
+    return print(desk.issue(ask, serial, choice));
+  }
+
+  TaxDesk desk{session};
+  QString serial = "2603001";
 };
 
 using namespace TaxCol;
@@ -82,7 +92,6 @@ TEST_F(Taxes, AMonthsLinesBecomeOneInvoiceACustomer) {
   sale("2026-02-28", 2, 7'777, 1);  // another month
   session.dbBasic.Execute("Insert Into Client(Name) Values('공제식당')");
   sale("2026-03-05", 3, 1'000, 1, 1'000);  // what is left is nothing: no invoice, no number
-  TaxDesk desk(session);
   ASSERT_TRUE(desk.gather(month()));
   ASSERT_EQ(desk.grid().MaxRows(), 2);
   EXPECT_EQ(
@@ -98,9 +107,8 @@ TEST_F(Taxes, AMonthsLinesBecomeOneInvoiceACustomer) {
   ask.vat = Vat::None;
   desk.list(ask);
   EXPECT_EQ(cells(desk, 2, {Supply, Tax, Total}), "69500|0|69500");
-  EXPECT_EQ(first(session.dbTax,
-                  "Select Quantity & '/' & UnitCost & '/' & TradeKum & '/' & Item & '/' & PCode & Code "
-                  "From NewAcount Where CCode = '1'"),
+  EXPECT_EQ(inTax("Select Quantity & '/' & UnitCost & '/' & TradeKum & '/' & Item & '/' & PCode & Code From "
+                  "NewAcount Where CCode = '1'"),
             "3/30000/63182/2/0000002");
 }
 
@@ -127,17 +135,10 @@ TEST_F(Taxes, SumsByCodeAreThoseOfTheLinesJoinedToTheirCustomers) {
             "First(Sale.salename), Sum(Sale.salenum), First(Sale.saleunit), Sale.ClientCode, "
             "First(Sale.Salething), Sum(sale.DC) FROM Sale LEFT JOIN Client ON Sale.ClientCode = client.Code "
             "WHERE Sale.saleDate BETWEEN '" +
-            from + "' AND '" + to +
-            "' AND Sale.saleunit <> 0 and "
-            "Sale.SaleList = 0 GROUP BY " +
-            day + ", client.Name, Sale.ClientCode ORDER BY " + (daily ? "Sale.saleDate" : "Client.Name"));
-    QStringList found;
-    for (auto rows = clsTrade(session.dbYear, LedgerSide::Sale).TaxQuery(from, to, kind); !rows.atEnd();
-         rows.MoveNext()) {
-      QStringList fields;
-      for (int at = 0; at < rows.fieldNames().size(); ++at) fields << rows[at].toText();
-      found << fields.join('|');
-    }
+            from + "' AND '" + to + "' AND Sale.saleunit <> 0 and Sale.SaleList = 0 GROUP BY " + day +
+            ", client.Name, Sale.ClientCode ORDER BY " + (daily ? "Sale.saleDate" : "Client.Name"));
+    const QStringList found =
+        tests::linesOf(clsTrade(session.dbYear, LedgerSide::Sale).TaxQuery(from, to, kind));
     EXPECT_GE(found.size(), 5);
     EXPECT_EQ(found, joined);
   }
@@ -152,7 +153,6 @@ TEST_F(Taxes, ByDayAndOverTwoYearsEachMonthHasItsOwnNumbers) {
   sale("2026-01-01", 1, 3'300, 1);
   sale("2026-01-02", 1, 4'400, 1);
   session.dbTax.Execute("Insert Into TaxAcount(Serial) Values('2601041')");
-  TaxDesk desk(session);
   TaxAsk ask{.from = QDate(2024, 12, 31), .to = QDate(2026, 1, 2), .gathering = TaxGathering::Daily};
   ASSERT_TRUE(desk.gather(ask)) << "a year without a file is passed over";
   ASSERT_EQ(desk.grid().MaxRows(), 3);
@@ -160,13 +160,13 @@ TEST_F(Taxes, ByDayAndOverTwoYearsEachMonthHasItsOwnNumbers) {
   EXPECT_EQ(cells(desk, 2, {DealDate, Total, Item, TaxCode}), "2026-01-01|5500|LPG 외|2601042");
   EXPECT_EQ(cells(desk, 3, {DealDate, Total, Item, TaxCode}), "2026-01-02|4400|LPG|2601043");
   desk.ticks().setAll(true);
-  QString serial = "2601042";
-  const auto& job = print(desk.issue(ask, serial, {}));
+  serial = "2601042";
+  const auto& job = issue(ask);
   EXPECT_EQ(job.pages, 3);
   EXPECT_EQ(serial, "2601044");
-  EXPECT_EQ(first(session.dbTax, "Select Serial From TaxAcount Where DealDate = '2025-12-31'"), "2512001");
+  EXPECT_EQ(inTax("Select Serial From TaxAcount Where DealDate = '2025-12-31'"), "2512001");
   EXPECT_EQ(first(before, "Select SaleList From Sale"), "1");
-  EXPECT_EQ(first(session.dbYear, "Select Count(*) From Sale Where SaleList = 1"), "3");
+  EXPECT_EQ(inYear("Select Count(*) From Sale Where SaleList = 1"), "3");
   pc.prompts.expect("검색일자 지정이 잘못되었습니다.");
   EXPECT_FALSE(desk.gather({.from = QDate(2026, 1, 2), .to = QDate(2026, 1, 1)}));
 }
@@ -175,18 +175,16 @@ TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
   sale("2026-03-02", 1, 30'000, 2);
   sale("2026-03-09", 1, 10'000, 1);
   sale("2026-03-09", 2, 1'100, 1);
-  TaxDesk desk(session);
   desk.gather(month());
   desk.ticks().toggle(2);  // 한라식당
-  QString serial = "2603005";
-  print(desk.issue(month(), serial, {}));
+  serial = "2603005";
+  issue(month());
   EXPECT_EQ(serial, "2603006");
-  EXPECT_EQ(first(session.dbTax,
-                  "Select Serial & CCode & DealDate & DealYY & IssueDate & TradeKum & '/' & VatKum & "
-                  "'/' & Blank & List & Section From TaxAcount"),
+  EXPECT_EQ(inTax("Select Serial & CCode & DealDate & DealYY & IssueDate & TradeKum & '/' & VatKum & '/' & "
+                  "Blank & List & Section From TaxAcount"),
             "260300512026-032026-032026-03-3163636/6364/6LPG 외0");
-  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale Where ClientCode = 1"), "2");
-  EXPECT_EQ(first(session.dbYear, "Select SaleList From Sale Where ClientCode = 2"), "0");
+  EXPECT_EQ(inYear("Select Sum(SaleList) From Sale Where ClientCode = 1"), "2");
+  EXPECT_EQ(inYear("Select SaleList From Sale Where ClientCode = 2"), "0");
   desk.list(month());
   EXPECT_EQ(desk.grid().MaxRows(), 1) << "the rest is still pending";
   EXPECT_EQ(cells(desk, 1, {Client, TaxCode}), "바다식당|2603001");
@@ -206,9 +204,8 @@ TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
   desk.list(month(TaxTab::Issued));
   pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
   EXPECT_TRUE(desk.deleteIssued(1));
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0");
-  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale"), "2")
-      << "a deleted invoice frees no line";
+  EXPECT_EQ(inTax("Select Count(*) From TaxAcount"), "0");
+  EXPECT_EQ(inYear("Select Sum(SaleList) From Sale"), "2") << "a deleted invoice frees no line";
   session.dbTax.Execute("drop table TaxAcount");
   pc.prompts.expect("지정하신 세금계산서 내역을");
   pc.prompts.expect("계산서 데이터를 삭제하는 중 오류가 발생했습니다.");
@@ -218,33 +215,29 @@ TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
 TEST_F(Taxes, APeriodsInvoicesAreFoundAgainInTheRegister) {
   sale("2026-03-09", 2, 1'100, 1);
   sale("2026-03-08", 2, 2'200, 1);  // before the period
-  TaxDesk desk(session);
   TaxAsk ask = month(TaxTab::Pending, TaxGathering::Period);
   ask.from = QDate(2026, 3, 9);
   ask.to = QDate(2026, 3, 10);
-  QString serial = "2603001";
-  issueAll(desk, ask, serial);
+  gatherAll(ask);
+  issue(ask);
   ask.tab = TaxTab::Issued;
   desk.list(ask);
   EXPECT_EQ(cells(desk, 1, {TaxCode, DealDate, Total}), "2603001|2026-03|1100");
-  EXPECT_EQ(first(session.dbYear, "Select SaleDate From Sale Where SaleList = 0"), "2026-03-08");
+  EXPECT_EQ(inYear("Select SaleDate From Sale Where SaleList = 0"), "2026-03-08");
 }
 
 TEST_F(Taxes, ACustomerDeletedMeanwhileKeepsHisNameAndALineOfNobodyIsIssuedToo) {
   sale("2026-03-02", 2, 1'100, 1);
   session.dbYear.Execute(
       "Insert Into Sale(SaleDate, SaleName, SaleUnit, SaleNum, ClientCode) Values('2026-03-03', 'LPG', 2200, "
-      "1, "
-      "Null)");
-  TaxDesk desk(session);
-  QString serial = "2603001";
-  issueAll(desk, month(), serial);
+      "1, Null)");
+  gatherAll();
+  issue(month());
   EXPECT_EQ(serial, "2603003");
-  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale"), "2");
+  EXPECT_EQ(inYear("Select Sum(SaleList) From Sale"), "2");
   session.dbBasic.Execute("Delete From Client Where Code = 2");
-  desk.list(month(TaxTab::Issued));
-  desk.ticks().setAll(true);
-  EXPECT_TRUE(print(desk.issue(month(TaxTab::Issued), serial, {})).texts(2).contains("바다식당"));
+  listAll(month(TaxTab::Issued));
+  EXPECT_TRUE(issue(month(TaxTab::Issued)).texts(2).contains("바다식당"));
 }
 
 TEST_F(Taxes, WhatMovedSinceItWasGatheredIsNotIssued) {
@@ -254,10 +247,9 @@ TEST_F(Taxes, WhatMovedSinceItWasGatheredIsNotIssued) {
   here.gather(month());
   here.ticks().setAll(true);
   sale("2026-03-31", 1, 1'000, 1);  // a delivery entered meanwhile would leave the pool on no paper
-  QString serial = "2603001";
   pc.prompts.expect("1건은 발행하지 않았습니다.\n다시 집계한 후 발행하세요.");
   EXPECT_EQ(here.issue(month(), serial, {}).documents, 1);
-  EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale Where ClientCode = 1"), "0");
+  EXPECT_EQ(inYear("Select Sum(SaleList) From Sale Where ClientCode = 1"), "0");
   here.gather(month());
   EXPECT_EQ(cells(here, 1, {Client, Total}), "한라식당|61000");
 }
@@ -270,14 +262,12 @@ TEST_F(Taxes, NeitherTheCountNorTheSumOfTheLinesMayHaveChanged) {
                                            },
                                            [this] { session.dbYear.Execute("Update Sale Set DC = 250"); }};
   for (const auto& change : changes) {
-    TaxDesk desk(session);
     desk.gather(month());
     desk.ticks().setAll(true);
     change();
-    QString serial = "2603001";
     pc.prompts.expect("1건은 발행하지 않았습니다.");
     EXPECT_EQ(desk.issue(month(), serial, {}).documents, 0);
-    EXPECT_EQ(first(session.dbYear, "Select Sum(SaleList) From Sale"), "0");
+    EXPECT_EQ(inYear("Select Sum(SaleList) From Sale"), "0");
   }
 }
 
@@ -286,9 +276,9 @@ TEST_F(Taxes, OfTwoStationsOneGetsTheLinesAndNoNumberIsGivenTwice) {
   sale("2026-03-02", 2, 1'100, 1);
   clsPrintTax a(session.dbTax, "2026-03-31 a"), b(session.dbTax, "2026-03-31 b");
   TaxGatherer gatherA(session, a), gatherB(session, b);
-  gatherA.gather(QDate(2026, 3, 1), QDate(2026, 3, 31), TaxGathering::Monthly);
-  gatherB.gather(QDate(2026, 3, 1), QDate(2026, 3, 31), TaxGathering::Monthly);
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "4") << "neither empties the other's";
+  for (TaxGatherer* each : {&gatherA, &gatherB})
+    each->gather(QDate(2026, 3, 1), QDate(2026, 3, 31), TaxGathering::Monthly);
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount"), "4") << "neither empties the other's";
   TaxSheet sheetA, sheetB;
   sheetA.listPending(a, Vat::Included, TaxGathering::Monthly);
   sheetB.listPending(b, Vat::Included, TaxGathering::Monthly);
@@ -303,52 +293,43 @@ TEST_F(Taxes, OfTwoStationsOneGetsTheLinesAndNoNumberIsGivenTwice) {
   EXPECT_EQ(second.issued[0].serial, "2603003");
   EXPECT_EQ(second.nextSerial, "2603004");
   b.Empty();
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount Where Station = '2026-03-31 a'"), "1");
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount Where Station = '2026-03-31 a'"), "1");
   clsPrintTax(session.dbTax, "2026-04-01 c").Empty();
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "1") << "it may have run past midnight";
-  clsPrintTax later(session.dbTax, "2026-04-02 c");
-  later.Empty();
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0")
-      << "left behind the day before yesterday";
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount"), "1") << "it may have run past midnight";
+  clsPrintTax(session.dbTax, "2026-04-02 c").Empty();
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount"), "0") << "left behind the day before yesterday";
 }
 
 TEST_F(Taxes, ARefusedRegisterIsToldAndFreesNothingOnPaper) {
   sale("2026-03-02", 1, 30'000, 2);
-  TaxDesk desk(session);
-  desk.gather(month());
-  desk.ticks().setAll(true);
+  gatherAll();
   session.dbTax.Execute("drop table TaxItem");
-  QString serial = "2603001";
   pc.prompts.expect("세금계산서 내역을 저장하는 중 오류가 발생했습니다.");
   EXPECT_EQ(desk.issue(month(), serial, {}).documents, 0);
-  EXPECT_EQ(first(session.dbYear, "Select SaleList From Sale"), "0")
-      << "the line is free for the next gathering";
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0");
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0") << "half a register row is none";
+  EXPECT_EQ(inYear("Select SaleList From Sale"), "0") << "the line is free for the next gathering";
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount"), "0");
+  EXPECT_EQ(inTax("Select Count(*) From TaxAcount"), "0") << "half a register row is none";
 }
 
 TEST_F(Taxes, AmountsBeyondTheCellsStayPending) {
   sale("2026-03-02", 1, 1'100'000'000, 1'000);  // supply of 1,000,000,000,000: thirteen digits
   sale("2026-03-02", 2, 1'100'000, 99'999);     // supply 99,999,000,000: eleven
-  TaxDesk desk(session);
   desk.gather(month());
   EXPECT_EQ(cells(desk, 2, {Supply, Total}), "1000000000000|1100000000000");
   desk.ticks().setAll(true);
-  QString serial = "2603001";
   pc.prompts.expect("금액의 자릿수가 계산서의 칸보다 많은 1건은");
-  const auto& job = print(desk.issue(month(), serial, {}));
-  EXPECT_EQ(first(session.dbTax, "Select TradeKum & '/' & Blank From TaxAcount"), "99999000000/0");
+  const auto& job = issue(month());
+  EXPECT_EQ(inTax("Select TradeKum & '/' & Blank From TaxAcount"), "99999000000/0");
   EXPECT_TRUE(job.texts().contains("*109,998,900,000"));
-  EXPECT_EQ(first(session.dbYear, "Select SaleList From Sale Where ClientCode = 1"), "0");
+  EXPECT_EQ(inYear("Select SaleList From Sale Where ClientCode = 1"), "0");
 }
 
 TEST_F(Taxes, IssueDatesAreChangedInTheList) {
   sale("2026-03-02", 1, 30'000, 2);
-  TaxDesk desk(session);
   desk.gather(month());
   EXPECT_TRUE(desk.setIssueDate(1, "20260330"));
   EXPECT_EQ(cells(desk, 1, {IssueDate}), "2026-03-30");
-  EXPECT_EQ(first(session.dbTax, "Select IssueDate From NewAcount"), "2026-03-30");
+  EXPECT_EQ(inTax("Select IssueDate From NewAcount"), "2026-03-30");
   pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
   EXPECT_FALSE(desk.setIssueDate(1, "20261330"));
   session.dbTax.Execute("drop table NewAcount");
@@ -359,10 +340,24 @@ TEST_F(Taxes, IssueDatesAreChangedInTheList) {
 
 // --- typed invoices ---------------------------------------------------------------------------------------------
 
-TEST_F(Taxes, ATypedInvoiceFollowsItsCells) {
-  clsPrintTax tax(session.dbTax, taxStation(QDate(2026, 3, 31)));
-  NewAcountEntry entry(session, tax);
-  entry.setDates("2026-03-31", "2026-03-15");
+struct TypedTaxes : Taxes {
+  TypedTaxes() { entry.setDates("2026-03-30", "2026-03-15"); }
+  /** So many lines of a customer's invoice, each as the cells are typed, kept until they are issued. */
+  void typeLines(int lines, const std::function<void(int)>& cells) {
+    entry.setClient("1", "한라식당");
+    for (int line = 1; line <= lines; ++line) {
+      cells(line);
+      entry.nextCell(line, AcountCol::Total);
+    }
+    pc.prompts.expect("[닫기]버튼을");
+    entry.save();
+  }
+
+  clsPrintTax tax{session.dbTax, taxStation(QDate(2026, 3, 31))};
+  NewAcountEntry entry{session, tax};
+};
+
+TEST_F(TypedTaxes, ATypedInvoiceFollowsItsCells) {
   pc.prompts.expect("거래처를 먼저 선택하여 주십시요.");
   EXPECT_FALSE(entry.mayEdit(1, AcountCol::Name));
   entry.setClient("1", "한라식당");
@@ -382,8 +377,7 @@ TEST_F(Taxes, ATypedInvoiceFollowsItsCells) {
   EXPECT_EQ(line(1), "50|5|55");
   entry.finishCell(1, AcountCol::Supply, "25");
   EXPECT_EQ(line(1), "25|2|27");
-  const auto next = entry.nextCell(1, AcountCol::Total);
-  EXPECT_EQ(next, (std::pair{2, int(AcountCol::Name)}));
+  EXPECT_EQ(entry.nextCell(1, AcountCol::Total), (std::pair{2, int(AcountCol::Name)}));
   entry.finishCell(2, AcountCol::Kinds, "3");
   EXPECT_EQ(grid.text(2, AcountCol::TaxCode), "2603001") << "the lines share it";
   pc.prompts.expect("수량 및 단가을 입력할 수 없습니다.");
@@ -396,10 +390,10 @@ TEST_F(Taxes, ATypedInvoiceFollowsItsCells) {
   pc.prompts.expect("금액은 열두 자리까지");
   EXPECT_FALSE(entry.finishCell(2, AcountCol::Total, "1000000000000"));
   EXPECT_EQ(entry.sums().total, 1'000'000'000'026);
-  ASSERT_TRUE((pc.prompts.expect("[닫기]버튼을 누르시면 계산서를 발행하실 수 있습니다"), entry.save()));
+  pc.prompts.expect("[닫기]버튼을 누르시면 계산서를 발행하실 수 있습니다");
+  ASSERT_TRUE(entry.save());
   EXPECT_FALSE(entry.isUnsaved());
-  EXPECT_EQ(first(session.dbTax,
-                  "Select Sum(SumKum) & '/' & Count(*) & '/' & Min(Code) & '/' & Max(Code) From NewAcount"),
+  EXPECT_EQ(inTax("Select Sum(SumKum) & '/' & Count(*) & '/' & Min(Code) & '/' & Max(Code) From NewAcount"),
             "1000000000026/2/000001/000002");
   entry.finishCell(1, AcountCol::Name, "다음");
   EXPECT_EQ(grid.text(1, AcountCol::TaxCode), "2603002") << "behind the one that waits";
@@ -409,13 +403,10 @@ TEST_F(Taxes, ATypedInvoiceFollowsItsCells) {
   EXPECT_FALSE(entry.isUnsaved());
 }
 
-TEST_F(Taxes, TheCustomersOwnChoiceSplitsATypedLine) {
+TEST_F(TypedTaxes, TheCustomersOwnChoiceSplitsATypedLine) {
   session.dbBasic.createTable(schema::table(schema::File::Ledger, "Trader"));
   session.dbBasic.Execute("Insert Into Trader(Code, VAT) Values('000001', 1)");
   session.dbBasic.Execute("Insert Into Trader(Code, VAT) Values('000002', 0)");
-  clsPrintTax tax(session.dbTax, "2026-03-31 a");
-  NewAcountEntry entry(session, tax);
-  entry.setDates("2026-03-31", "2026-03-15");
   const auto split = [&](const QString& client, int col, const QString& typed) {
     entry.setClient(client, "a");
     if (col == AcountCol::Price) entry.finishCell(1, AcountCol::Quantity, "1");
@@ -428,34 +419,24 @@ TEST_F(Taxes, TheCustomersOwnChoiceSplitsATypedLine) {
   EXPECT_EQ(split("2", AcountCol::Total, "1100"), "1,000|100") << "a typed total holds it";
 }
 
-TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
-  clsPrintTax tax(session.dbTax, taxStation(QDate(2026, 3, 31)));
-  NewAcountEntry entry(session, tax);
-  entry.setDates("2026-03-30", "2026-03-15");
-  entry.setClient("1", "한라식당");
-  for (int line = 1; line <= 5; ++line) {
+TEST_F(TypedTaxes, TheyAreIssuedWithAllTheirLinesAndComeBackWithThem) {
+  typeLines(5, [this](int line) {
     entry.finishCell(line, AcountCol::Name, u"품목%1"_s.arg(line));
     entry.finishCell(line, AcountCol::Quantity, "1");
     entry.finishCell(line, AcountCol::Price, QString::number(1'000 * line));
-    entry.nextCell(line, AcountCol::Total);
-  }
-  pc.prompts.expect("[닫기]버튼을");
-  entry.save();
-  TaxDesk desk(session);
+  });
   TaxAsk ask = month(TaxTab::Pending, {});
   desk.list(ask);
   EXPECT_EQ(cells(desk, 1, {IssueDate, DealDate, Supply, Tax, Item}),
             "2026-03-30|2026-03-15|15000|1500|품목1");
   desk.ticks().setAll(true);
-  QString serial = "2603001";
-  const auto& job = print(desk.issue(ask, serial, {}));
+  const auto& job = issue(ask);
   EXPECT_EQ(job.pages, 2) << "four lines have room";
-  EXPECT_EQ(first(session.dbTax, "Select Section & DealDate From TaxAcount"), "32026-03-15");
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From NewAcount"), "0");
+  EXPECT_EQ(inTax("Select Section & DealDate From TaxAcount"), "32026-03-15");
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount"), "0");
   ask.tab = TaxTab::Issued;
-  desk.list(ask);
-  desk.ticks().setAll(true);
-  EXPECT_EQ(print(desk.issue(ask, serial, {})).texts(2), job.texts(2)) << "printed again from the register";
+  listAll(ask);
+  EXPECT_EQ(issue(ask).texts(2), job.texts(2)) << "printed again from the register";
 
   SpreadModel sheet;
   desk.fillBulk(sheet, true);
@@ -475,19 +456,11 @@ TEST_F(Taxes, TypedInvoicesAreIssuedWithAllTheirLinesAndComeBackWithThem) {
   EXPECT_EQ(numbers, 2 + 4 * 4 + 4) << "every amount, quantity and price is a number";
 }
 
-TEST_F(Taxes, TheFormsChoiceOverATypedInvoiceIsKeptLineByLine) {
-  clsPrintTax tax(session.dbTax, taxStation(QDate(2026, 3, 31)));
-  NewAcountEntry entry(session, tax);
-  entry.setDates("2026-03-30", "2026-03-15");
-  entry.setClient("1", "한라식당");
-  for (int line = 1; line <= 3; ++line) {
+TEST_F(TypedTaxes, TheFormsChoiceOverThemIsKeptLineByLine) {
+  typeLines(3, [this](int line) {
     entry.finishCell(line, AcountCol::Name, "품목");
     entry.finishCell(line, AcountCol::Supply, "14");  // 1 of tax, 15 together
-    entry.nextCell(line, AcountCol::Total);
-  }
-  pc.prompts.expect("[닫기]버튼을");
-  entry.save();
-  TaxDesk desk(session);
+  });
   const auto issuedBy = [&](Vat vat) {
     TaxAsk ask = month(TaxTab::Pending, {});
     ask.vat = vat;
@@ -511,11 +484,9 @@ TEST_F(Taxes, TheFormsChoiceOverATypedInvoiceIsKeptLineByLine) {
 TEST_F(Taxes, HalfA4TextByText) {
   sale("2026-03-02", 1, 30'000, 2);
   setDocumentMargins(session, "세금계산서", {"1", "2"});
-  TaxDesk desk(session);
-  desk.gather(month());
-  desk.ticks().setAll(true);
-  QString serial = "2603007";
-  const auto& job = print(desk.issue(month(), serial, {.layout = DocumentLayout::HalfA4, .receipt = true}));
+  gatherAll();
+  serial = "2603007";
+  const auto& job = issue(month(), {.layout = DocumentLayout::HalfA4, .receipt = true});
   EXPECT_EQ(job.pages, 1);
   for (const double top : {1 + 1.5, 1 + 1.5 + 35.07})
     expectTexts(job, 1, top, 2,
@@ -534,12 +505,10 @@ TEST_F(Taxes, HalfA4TextByText) {
 
 TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
   sale("2026-03-02", 1, 30'000, 2);
-  TaxDesk desk(session);
   TaxAsk ask = month(TaxTab::Pending, TaxGathering::Daily);
-  desk.gather(ask);
-  desk.ticks().setAll(true);
+  gatherAll(ask);
   const auto& job = print(desk.papers(ask, "2603001", {}));
-  EXPECT_EQ(first(session.dbTax, "Select Count(*) From TaxAcount"), "0") << "looked at, nothing issued";
+  EXPECT_EQ(inTax("Select Count(*) From TaxAcount"), "0") << "looked at, nothing issued";
   const double upper = 1.5 * row, lower = (1.5 + 35.07) * row;
   expectWords(job, {upper, lower},
               {{"(별지 제11호 서식)", {0.68}, {0.10}},
@@ -611,11 +580,9 @@ TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
 TEST_F(Taxes, WithoutTaxNothingStandsWhereItWouldAndTheDotPrinterDrawsNothing) {
   sale("2026-03-02", 1, 30'000, 2);
   sale("2026-03-03", 1, 1'000, 1);
-  TaxDesk desk(session);
   TaxAsk ask = month();
   ask.vat = Vat::None;
-  desk.gather(ask);
-  desk.ticks().setAll(true);
+  gatherAll(ask);
   const auto& job =
       print(desk.papers(ask, "2603001", {.layout = DocumentLayout::HalfA4, .withoutTax = true}));
   EXPECT_EQ(at(job, 1, 1.5 + 16.9, 53), "-");
@@ -646,7 +613,6 @@ TEST_F(Taxes, WithoutTaxNothingStandsWhereItWouldAndTheDotPrinterDrawsNothing) {
 
 TEST_F(Taxes, NothingIsIssuedWithoutACompanyAndARefusalStandsInTheRegister) {
   sale("2026-03-02", 1, 30'000, 2);
-  TaxDesk desk(session);
   desk.gather(month());
   pc.prompts.expect("발행할 거래내역을 선택하세요.");
   EXPECT_FALSE(desk.hasPapers());
@@ -656,14 +622,12 @@ TEST_F(Taxes, NothingIsIssuedWithoutACompanyAndARefusalStandsInTheRegister) {
   pc.prompts.expect("사용자등록부터 하셔야 합니다");
   EXPECT_FALSE(desk.hasPapers());
   printers.refusal = "용지 없음";
-  QString serial = "2603001";
   const DocumentRun run = desk.issue(month(), serial, {});
   EXPECT_EQ(run.name(0), "2026-03-31 한라식당 세금계산서 2603001");
   EXPECT_THROW(print(run), pc::PrintError);
   printers.refusal.clear();
-  desk.list(month(TaxTab::Issued));
-  desk.ticks().setAll(true);
-  EXPECT_TRUE(print(desk.issue(month(TaxTab::Issued), serial, {})).texts().contains("2603-001"));
+  listAll(month(TaxTab::Issued));
+  EXPECT_TRUE(issue(month(TaxTab::Issued)).texts().contains("2603-001"));
 }
 
 TEST(DocumentLayouts, EveryChoiceOfTheDialogIsALayout) {
