@@ -7,6 +7,8 @@
 #include "tests/billing/meter_desk.h"
 #include "tests/shown_reports.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /** March, February, January of a household that used gas for 15,000, 10,000 and 20,000 and pays a fee of 800. February's
@@ -75,12 +77,9 @@ TEST(AptArrears, WhatNoListedMonthWasBilledIsOlder) {
   EXPECT_EQ(openOf(months), "16270 11110 15000 +5800") << "an opening row stands for its whole sum";
   EXPECT_EQ(openOf({months[2]}), "15000 +0");
   EXPECT_TRUE(spreadPayments({}, {}).months.empty());
-}
-
-TEST(AptArrears, AMonthBilledBelowNothingIsNotOpenAndHandsTheRestOn) {
-  std::vector<AptMonth> months = threeMonths(0);
+  months = threeMonths(0);
   months[1].usePay = -20000;
-  EXPECT_EQ(openOf(months), "16270 0 20800 +11110");
+  EXPECT_EQ(openOf(months), "16270 0 20800 +11110") << "a month billed below nothing hands the rest on";
 }
 
 TEST(AptArrears, AMonthsOwnBillIsRoundedAsTheBillIs) {
@@ -116,6 +115,7 @@ struct AptBaln : testing::Test, tests::MeterDesk {
     }
   }
   using Answers = QHash<QString, QString>;
+  const Answers ofOwn{{"CboBDName", "달빛"}}, ofGeneral{{"CboBDName", "한빛"}};
   bool load(const Answers& answers) {
     BriefAsk ask;
     ask.answers["CboMon"] = {.text = "03"};
@@ -151,11 +151,10 @@ TEST_F(AptBaln, MonthsOfEachHouseholdInTheOrderOfTheBuilding) {
                    "한빛|201|11|2026-03|124.5|130|5.5|15000|800|16270|16270"}));
   EXPECT_EQ(sum(), "46360") << "twice 23,180, what March came to";
   set(own, 2, "UseMuch = 0");
-  EXPECT_EQ(lines({{"CboBDName", "달빛"}}),
-            (QStringList{"달빛|1001|2026-01|6910", "달빛|1001|2026-03|16270"}))
+  EXPECT_EQ(lines(ofOwn), (QStringList{"달빛|1001|2026-01|6910", "달빛|1001|2026-03|16270"}))
       << "a month without use does not stand there";
   set(own, 3, "UseMuch = 0");
-  EXPECT_EQ(lines({{"CboBDName", "달빛"}}).last(), "달빛|1001|2026-03|16270") << "the base month does";
+  EXPECT_EQ(lines(ofOwn).last(), "달빛|1001|2026-03|16270") << "the base month does";
   EXPECT_EQ(lines({{"CboMon", "02"}, {"CboBDName", "한빛"}}),
             (QStringList{"한빛|11|2026-01|20800", "한빛|11|2026-02|11110"}));
 }
@@ -163,27 +162,25 @@ TEST_F(AptBaln, MonthsOfEachHouseholdInTheOrderOfTheBuilding) {
 TEST_F(AptBaln, TheLateChargeFollowsTheBuildingsRateAndTheMethod) {
   const std::vector<int> late{AptCol::Month, AptCol::Delay, AptCol::Note};
   // Cumulative: 3 percent of 20,800 and of 31,910 (957.3 cut to 950); the bills had 1.5 percent.
-  EXPECT_EQ(lines({{"CboBDName", "달빛"}}, late),
+  EXPECT_EQ(lines(ofOwn, late),
             (QStringList{"2026-01|0|", "2026-02|620|청구된 연체료 310", "2026-03|950|청구된 연체료 470"}));
-  EXPECT_EQ(lines({{"CboBDName", "한빛"}}, late),
-            (QStringList{"2026-01|0|", "2026-02|310|", "2026-03|470|"}));
+  EXPECT_EQ(lines(ofGeneral, late), (QStringList{"2026-01|0|", "2026-02|310|", "2026-03|470|"}));
   // One month alone: on the gas of the month before, 1.5 percent of 20,000 and of 10,000.
   session.DelayCalcFlag = "1";
-  EXPECT_EQ(lines({{"CboBDName", "한빛"}}, late),
+  EXPECT_EQ(lines(ofGeneral, late),
             (QStringList{"2026-01|0|", "2026-02|300|청구된 연체료 310", "2026-03|150|청구된 연체료 470"}));
   session.DelayCalcFlag = "0";
   // Paid after the due date: February's gas counts although nothing is open. 1.5 percent of 10,000.
   set(general, 2, "Pay = 31910, Total = 0, paydelayed = True");
   set(general, 3, "Trust = 0, Delay = 150, Pay = 0, Total = 15950");
-  EXPECT_EQ(lines({{"CboBDName", "한빛"}}, late).last(), "2026-03|150|");
+  EXPECT_EQ(lines(ofGeneral, late).last(), "2026-03|150|");
 }
 
 TEST_F(AptBaln, LastYearsMonthsTakeWhatIsOlder) {
   set(general, 1, "Trust = 7500, Delay = 110, Total = 28410");
   set(general, 2, "Trust = 28410, Delay = 420, Total = 39630");
   set(general, 3, "Trust = 39630, Delay = 590, Pay = 0, Total = 56020");
-  const Answers asked{{"CboBDName", "한빛"}};
-  EXPECT_EQ(lines(asked, {AptCol::Month, AptCol::Open, AptCol::Note}),
+  EXPECT_EQ(lines(ofGeneral, {AptCol::Month, AptCol::Open, AptCol::Note}),
             (QStringList{"2026-01|28410|이전 미수 7,500 포함", "2026-02|11220|", "2026-03|16390|"}));
   set(general, 0, "UseMuch = 1, Total = 7500, Trust = 7500");
   EXPECT_EQ(lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}, {"chkLastYear", "1"}}),
@@ -195,19 +192,13 @@ TEST_F(AptBaln, LastYearsMonthsTakeWhatIsOlder) {
   EXPECT_EQ(list.rows(0).note, "");
   makeYearFile(session, "2025");
   ASSERT_TRUE(upgrades::relink(session));
-  {
-    const jet::Database before = openYear(session, 2025);
-    before.Execute(
-        "Insert Into Evaporation(ClientCode, Mon, UseGage, UseMuch, UsePay, Manage, Total) Values(" +
-        QString::number(general) + ", 12, 112.3, 2, 4900, 800, 5700)");
-    before.Execute(
-        "Insert Into Evaporation(ClientCode, Mon, UseGage, UseMuch, UsePay, Manage, Trust, Pay, Total) "
-        "Values(" +
-        QString::number(general) + ", 11, 110.3, 2, 4900, 800, 0, 3900, 1800)");
-    before.Execute("Update Evaporation Set Trust = 1800, Total = 7500 Where Mon = 12");
-    before.Execute("Insert Into Evaporation(ClientCode, Mon, UseMuch, Total) Values(" +
-                   QString::number(general) + ", 0, 1, 900)");
-  }
+  for (const char* row : {"12, 112.3, 2, 4900, 800, 1800, 0, 7500", "11, 110.3, 2, 4900, 800, 0, 3900, 1800",
+                          "0, 0, 1, 0, 0, 0, 0, 900"})
+    openYear(session, 2025)
+        .Execute(
+            u"Insert Into Evaporation(ClientCode, Mon, UseGage, UseMuch, UsePay, Manage, Trust, Pay, Total) Values(%1, %2)"_s
+                .arg(general)
+                .arg(row));
   const Answers longer{{"CboBDName", "한빛"}, {"chkLastYear", "1"}};
   EXPECT_EQ(lines(longer),
             (QStringList{"한빛|11|2025-11|1800", "한빛|11|2025-12|5700", "한빛|11|2026-01|20910",
@@ -215,7 +206,7 @@ TEST_F(AptBaln, LastYearsMonthsTakeWhatIsOlder) {
   EXPECT_EQ(sum(), "56020");
   // January's charge by the one-month method runs on December's gas in last year's file: 1.5 percent of 4,900.
   session.DelayCalcFlag = "1";
-  EXPECT_EQ(lines(asked, {AptCol::Delay}).first(), "70");
+  EXPECT_EQ(lines(ofGeneral, {AptCol::Delay}).first(), "70");
   session.DelayCalcFlag = "0";
   EXPECT_EQ(lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}}).first(), "한빛|11|2026-00|7500");
   EXPECT_EQ(lines({{"CboBDName", "한빛"}, {"chkBaseAdd", "1"}, {"chkLastYear", "1"}}),
@@ -237,7 +228,7 @@ TEST_F(AptBaln, WhatIsTypedNarrowsTheList) {
 
 TEST_F(AptBaln, ThePaperNamesTheBuildingAndWhatIsPaidTooMuchIsTold) {
   set(general, 3, "Pay = 60000, Total = -11820");
-  EXPECT_EQ(lines({{"CboBDName", "한빛"}}, {AptCol::Open, AptCol::Note}).last(), "-11820|과납");
+  EXPECT_EQ(lines(ofGeneral, {AptCol::Open, AptCol::Note}).last(), "-11820|과납");
   list.print(0);
   EXPECT_EQ(reports.asked.back().file, "아파트미수현황.rpt");
   EXPECT_TRUE(reports.asked.back().formulas.contains("아파트= '( 아파트명: 한빛 )    '"));

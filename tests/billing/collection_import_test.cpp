@@ -78,8 +78,8 @@ struct CollectionImportTest : testing::Test, tests::TestPc {
     // 12,250 for gas, 5,000 brought in, 100 late, 1,000 for safety: 18,350 issued.
     for (int month : {3, 12})
       session.dbYear.Execute(
-          u"Update Evaporation Set UsePay = 12250, Trust = 5000, Delay = 100, Manage = 1000, "
-          u"Total = 18350, Pay = 77 Where Mon = %1"_s.arg(month));
+          u"Update Evaporation Set UsePay = 12250, Trust = 5000, Delay = 100, Manage = 1000, Total = 18350, Pay = 77 Where Mon = %1"_s
+              .arg(month));
   }
   QString path(const QString& name) { return pc.paths.native(pc.paths.programFolder()) + '/' + name; }
   void give(const QByteArray& bytes, const QString& name = "202603.txt") {

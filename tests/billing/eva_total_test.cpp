@@ -19,8 +19,8 @@ struct EvaTotalAsk {
 };
 
 /** The form's rules, with its panels. */
-struct EvaTotal {
-  explicit EvaTotal(Session& session) : session(session), run(session, evaTotalBrief()) {}
+struct EvaTotalTest : testing::Test, tests::MeterDesk {
+  EvaTotalTest() : MeterDesk(QDate(2026, 5, 20)) { session.reports = &reports; }
   bool refresh(const EvaTotalAsk& asked) {
     const auto month = [](int each) { return QString::number(each).rightJustified(2, '0'); };
     page = int(asked.book);
@@ -31,25 +31,15 @@ struct EvaTotal {
     ask.answers["CboGubun"] = {.text = asked.building, .place = asked.building.isEmpty() ? 0 : 1};
     ask.answers["txtDong"] = {.text = asked.dong};
     ask.answers["txtHo"] = {.text = asked.ho};
-    return run.load(ask);
+    return brief.load(ask);
   }
-  QStringList buildings(HouseStyle book) { return run.brief().questions[0].entries(session, int(book)); }
-  SpreadModel& grid() { return run.grid(page); }
-  qint64 figure(int at) { return run.rows(page).figures.value(at).toLongLong(); }
+  QStringList buildings(HouseStyle book) { return brief.brief().questions[0].entries(session, int(book)); }
+  SpreadModel& grid() { return brief.grid(page); }
+  qint64 figure(int at) { return brief.rows(page).figures.value(at).toLongLong(); }
   qint64 prev() { return figure(1); }
   qint64 income() { return figure(2); }
   qint64 remain() { return figure(3); }
-  QString period() { return run.rows(page).figures.value(0); }
-  void clear() { run.clear(page); }
-  void print() { run.print(page); }
-
-  Session& session;
-  BriefRun run;
-  int page = 0;
-};
-
-struct EvaTotalTest : testing::Test, tests::MeterDesk {
-  EvaTotalTest() : MeterDesk(QDate(2026, 5, 20)) { session.reports = &reports; }
+  QString period() { return brief.rows(page).figures.value(0); }
   /** One bill a row: arrears, use, late, fee, paid, day; the total as the bill makes it. */
   void bill(int code, int month, double trust, double use, double late, double fee, double pay,
             const char* day = "") {
@@ -63,15 +53,16 @@ struct EvaTotalTest : testing::Test, tests::MeterDesk {
             .arg(QString::fromLatin1(day))
             .arg(use + trust + late + fee - pay));
   }
-  QStringList lines() { return tests::rowsOf(total.grid()); }
+  QStringList lines() { return tests::rowsOf(grid()); }
   /** Without the sum. */
   QStringList names() {
-    const QStringList all = tests::columnOf(total.grid(), TotalCol::Name);
+    const QStringList all = tests::columnOf(grid(), TotalCol::Name);
     return all.first(qMax<qsizetype>(0, all.size() - 1));
   }
 
   tests::ShownReports reports;
-  EvaTotal total{session};
+  BriefRun brief{session, evaTotalBrief()};
+  int page = 0;
 };
 
 TEST_F(EvaTotalTest, MonthsOfTheIndividualBook) {
@@ -83,33 +74,33 @@ TEST_F(EvaTotalTest, MonthsOfTheIndividualBook) {
   bill(kim, 4, 20100, 15000, 402, 1000, 0);             // leaves 36,502, shown down to ten: 36,500
   bill(lee, 3, 700, 10000.5, 0, 1000, 0);               // leaves 11,700.5: 11,700
   bill(lee, 4, 11700.5, 0, 0, 1000, 12700, "04/02");    // leaves 0.5: 0
-  ASSERT_TRUE(total.refresh({.fromMonth = 3, .toMonth = 4}));
+  ASSERT_TRUE(refresh({.fromMonth = 3, .toMonth = 4}));
   EXPECT_EQ(lines(),
             QStringList({"김하나||03|5000|20000|100|1000|6000|03/10|20100",
                          "김하나||04|20100|15000|402|1000|0||36500", "이둘||03|700|10000|0|1000|0||11700",
                          "이둘||04|11700|0|0|1000|12700|04/02|0", "[합 계]||||45000|502|4000|18700||"}));
-  EXPECT_EQ(total.prev(), 5700);
-  EXPECT_EQ(total.income(), 18700);
-  EXPECT_EQ(total.remain(), 36500) << "only each customer's last month is still open";
-  EXPECT_EQ(total.period(), "03월 ~ 04월");
-  EXPECT_TRUE(total.grid().column(TotalCol::Building).hidden);
+  EXPECT_EQ(prev(), 5700);
+  EXPECT_EQ(income(), 18700);
+  EXPECT_EQ(remain(), 36500) << "only each customer's last month is still open";
+  EXPECT_EQ(period(), "03월 ~ 04월");
+  EXPECT_TRUE(grid().column(TotalCol::Building).hidden);
 
-  ASSERT_TRUE(total.refresh({.fromMonth = 3, .toMonth = 3}));
-  EXPECT_EQ(total.remain(), 20100 + 11700);
-  EXPECT_EQ(total.period(), "03월");
+  ASSERT_TRUE(refresh({.fromMonth = 3, .toMonth = 3}));
+  EXPECT_EQ(remain(), 20100 + 11700);
+  EXPECT_EQ(period(), "03월");
 
   set(kim, 0, "Total = 300");
   bill(kim, 1, 300, 0, 0, 0, 0);
-  ASSERT_TRUE(total.refresh({.fromMonth = 1, .toMonth = 1}));
-  EXPECT_EQ(total.prev(), 300) << "before January stands the opening entry";
+  ASSERT_TRUE(refresh({.fromMonth = 1, .toMonth = 1}));
+  EXPECT_EQ(prev(), 300) << "before January stands the opening entry";
 }
 
 TEST_F(EvaTotalTest, TwoOfOneNameAreBothCounted) {
   const int first = customer("김하나", 1000), second = customer("김하나", 1000);
   bill(first, 3, 0, 10000, 0, 0, 0);
   bill(second, 3, 0, 5000, 0, 0, 0);
-  ASSERT_TRUE(total.refresh({.fromMonth = 3, .toMonth = 3}));
-  EXPECT_EQ(total.remain(), 15000);
+  ASSERT_TRUE(refresh({.fromMonth = 3, .toMonth = 3}));
+  EXPECT_EQ(remain(), 15000);
 }
 
 TEST_F(EvaTotalTest, BuildingsDongAndHoNarrowTheLinesTheBroughtInSumOnlyTheBuilding) {
@@ -120,27 +111,27 @@ TEST_F(EvaTotalTest, BuildingsDongAndHoNarrowTheLinesTheBroughtInSumOnlyTheBuild
   set(a, 4, "Total = 100");
   set(b, 4, "Total = 20");
   set(c, 4, "Total = 3");
-  EXPECT_EQ(total.buildings(HouseStyle::Apartment), QStringList({"전체", "새봄", "한빛"}));
-  EXPECT_EQ(total.buildings(HouseStyle::MultiHousehold), QStringList({"전체", "다세대"}));
-  EXPECT_EQ(total.buildings(HouseStyle::Individual), QStringList());
+  EXPECT_EQ(buildings(HouseStyle::Apartment), QStringList({"전체", "새봄", "한빛"}));
+  EXPECT_EQ(buildings(HouseStyle::MultiHousehold), QStringList({"전체", "다세대"}));
+  EXPECT_EQ(buildings(HouseStyle::Individual), QStringList());
 
   EvaTotalAsk ask{.book = HouseStyle::Apartment, .fromMonth = 5, .toMonth = 5};
-  ASSERT_TRUE(total.refresh(ask));
+  ASSERT_TRUE(refresh(ask));
   EXPECT_EQ(names(), QStringList({"101동 201호", "102동 201호", "101동 301호"}));
-  EXPECT_EQ(total.prev(), 123);
-  EXPECT_FALSE(total.grid().column(TotalCol::Building).hidden);
+  EXPECT_EQ(prev(), 123);
+  EXPECT_FALSE(grid().column(TotalCol::Building).hidden);
   ask.building = "한빛";
-  ASSERT_TRUE(total.refresh(ask));
+  ASSERT_TRUE(refresh(ask));
   EXPECT_EQ(names(), QStringList({"101동 201호", "102동 201호"}));
-  EXPECT_EQ(total.prev(), 120);
+  EXPECT_EQ(prev(), 120);
   ask.dong = "102";
-  ASSERT_TRUE(total.refresh(ask));
+  ASSERT_TRUE(refresh(ask));
   EXPECT_EQ(names(), QStringList({"102동 201호"}));
-  EXPECT_EQ(total.prev(), 120) << "kept: of the whole building";
+  EXPECT_EQ(prev(), 120) << "kept: of the whole building";
   ask.ho = "999";
   pc.prompts.expect("기간내의 검침자료가 없습니다!");
-  EXPECT_FALSE(total.refresh(ask));
-  EXPECT_EQ(total.grid().MaxRows(), 0);
+  EXPECT_FALSE(refresh(ask));
+  EXPECT_EQ(grid().MaxRows(), 0);
   EXPECT_TRUE(pc.prompts.seen.last().startsWith("검침 관리자|"));
 }
 
@@ -152,20 +143,20 @@ TEST_F(EvaTotalTest, CollectionsByTheirDays) {
   bill(lee, 4, 4000, 8000, 0, 0, 2000, "05/01");  // a day late
   bill(park, 4, 0, 7000, 0, 0, 0, "04/10");       // nothing collected
   EvaTotalAsk ask{.byCollection = true, .fromDay = "04-01", .toDay = "04-30"};
-  ASSERT_TRUE(total.refresh(ask));
+  ASSERT_TRUE(refresh(ask));
   EXPECT_EQ(lines(), QStringList({"김하나||03|6000|10000|0|0|16000|04/01|0",
                                   "이둘||03|0|9000|0|0|5000|04/30|4000", "[합 계]||||19000|0|0|21000||"}));
-  EXPECT_EQ(total.prev(), 6000) << "what the bills collected in March left";
-  EXPECT_EQ(total.income(), 21000);
-  EXPECT_EQ(total.remain(), 4000);
-  EXPECT_EQ(total.period(), "04/01 ~ 04/30");
+  EXPECT_EQ(prev(), 6000) << "what the bills collected in March left";
+  EXPECT_EQ(income(), 21000);
+  EXPECT_EQ(remain(), 4000);
+  EXPECT_EQ(period(), "04/01 ~ 04/30");
 
   ask.toDay = "04-31";
   pc.prompts.expect("날짜입력이 잘못되었습니다!");
-  EXPECT_FALSE(total.refresh(ask));
+  EXPECT_FALSE(refresh(ask));
   ask = {.byCollection = true, .fromDay = "12-01", .toDay = "12-31"};
   pc.prompts.expect("기간내의 수금자료가 없습니다!");
-  EXPECT_FALSE(total.refresh(ask));
+  EXPECT_FALSE(refresh(ask));
 }
 
 // From 5 March to 10 May, whichever of the two shapes a day has; a day beyond a bound is beyond it in both.
@@ -178,21 +169,20 @@ TEST_F(EvaTotalTest, DaysOfTheBanksFileAreFoundLikeThoseOfTheGrid) {
     found << day;
   }
   for (const char* day : beyond) bill(customer(day, 1000), 3, 0, 1000, 0, 0, 7, day);
-  ASSERT_TRUE(total.refresh({.byCollection = true, .fromDay = "03-05", .toDay = "05-10"}));
+  ASSERT_TRUE(refresh({.byCollection = true, .fromDay = "03-05", .toDay = "05-10"}));
   EXPECT_EQ(names(), found);
-  EXPECT_EQ(total.income(), 800);
-  EXPECT_EQ(total.prev(), 993) << "what February left, 02-28 alone";
-  EXPECT_EQ(total.grid().text(2, TotalCol::TrustDay), "03/05") << "one shape on the list";
-  ASSERT_TRUE(total.refresh({.byCollection = true, .fromDay = "03-20", .toDay = "03-31"}));
+  EXPECT_EQ(income(), 800);
+  EXPECT_EQ(prev(), 993) << "what February left, 02-28 alone";
+  EXPECT_EQ(grid().text(2, TotalCol::TrustDay), "03/05") << "one shape on the list";
+  ASSERT_TRUE(refresh({.byCollection = true, .fromDay = "03-20", .toDay = "03-31"}));
   EXPECT_EQ(names(), QStringList{"03-31"});
 }
 
 TEST_F(EvaTotalTest, ThePrintStagesTheLinesWithoutTheSum) {
   const int a = customer("가", 1000, 1, "한빛", "101", "201");
   bill(a, 3, 5000, 20000, 100, 1000, 6000, "03/10");
-  ASSERT_TRUE(
-      total.refresh({.book = HouseStyle::Apartment, .fromMonth = 3, .toMonth = 3, .building = "한빛"}));
-  total.print();
+  ASSERT_TRUE(refresh({.book = HouseStyle::Apartment, .fromMonth = 3, .toMonth = 3, .building = "한빛"}));
+  brief.print(page);
   const auto staged = [this] {
     return tests::stagedRows(session, "Str01, Lng01, Lng02, Str02, Str03, Lng03, Lng04, Str04, Lng05, Lng06");
   };
@@ -202,8 +192,8 @@ TEST_F(EvaTotalTest, ThePrintStagesTheLinesWithoutTheSum) {
   EXPECT_TRUE(reports.asked[0].formulas.contains("구분= '한빛'"));
   EXPECT_TRUE(reports.asked[0].formulas.contains("잔액= '20,100'"));
 
-  total.clear();
-  total.print();
+  brief.clear(page);
+  brief.print(page);
   EXPECT_EQ(staged(), QStringList({"|||||||||"})) << "an empty grid is one blank line";
 }
 

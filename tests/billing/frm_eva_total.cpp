@@ -26,8 +26,8 @@ struct EvaTotalForm : testing::Test, tests::MeterDesk {
     const int kim = customer("김하나 식당", 1000);
     set(kim, 4, "Total = 12000");
     set(kim, 5,
-        "Trust = 12000, UsePay = 34560, Delay = 240, Manage = 1000, Pay = 12000, TrustDay = '05/08', "
-        "Total = 35800");
+        "Trust = 12000, UsePay = 34560, Delay = 240, Manage = 1000, Pay = 12000, TrustDay = '05/08', Total = "
+        "35800");
     session.wsMain.Together([this] { block(); });
   }
   void block() {

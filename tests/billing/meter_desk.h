@@ -67,10 +67,11 @@ struct MeterDesk {
     if (month == 0) pc.prompts.expect("체적기초 입력시 주의사항!");
     showReadings(sheet);
   }
+  QString cell(int row, int col) { return sheet.grid.text(row, col); }
   /** Cells of a row, parted by "|". */
   QString cells(int row, std::initializer_list<int> columns) {
     QStringList texts;
-    for (const int col : columns) texts << sheet.grid.text(row, col);
+    for (const int col : columns) texts << cell(row, col);
     return texts.join('|');
   }
   /** Use, amount, arrears, late charge, fee, total. */
