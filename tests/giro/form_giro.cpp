@@ -22,23 +22,23 @@
 
 namespace {
 
-using tests::click, tests::part;
+using tests::box, tests::click, tests::part;
 
 struct GiroForms : testing::Test, tests::GiroWindows {};
 
 TEST_F(GiroForms, BoxesBeginWithTodayAndTheUseMonth) {
   frmPrtJiroOCR form(context);
   tests::show(form);
-  EXPECT_EQ(part<QLineEdit>(form, "TxtYear")->text(), "2026");
-  EXPECT_EQ(part<QLineEdit>(form, "TxtMon")->text(), "03");
-  EXPECT_EQ(part<QLineEdit>(form, "TxtDay")->text(), "16");
+  EXPECT_EQ(box(form, "TxtYear"), "2026");
+  EXPECT_EQ(box(form, "TxtMon"), "03");
+  EXPECT_EQ(box(form, "TxtDay"), "16");
   auto* from = part<QLineEdit>(form, "TxtUse1");
   EXPECT_EQ(from->text(), "2026.02.01");
   part<QCheckBox>(form, "chkThisMon")->click();
   EXPECT_EQ(from->text(), "2026.03.01") << "the shown month";
   EXPECT_EQ(setting("환경설정", "OCRA4지로_당월기본"), "1");
   part<QComboBox>(form, "cmbUseMon")->setCurrentIndex(0);
-  EXPECT_EQ(part<QLineEdit>(form, "TxtUse2")->text(), "2026.01.31");
+  EXPECT_EQ(box(form, "TxtUse2"), "2026.01.31");
 
   const auto way = [&](const char* from, Qt::Key by, int steps) {
     part<QWidget>(form, from)->setFocus();
@@ -56,7 +56,7 @@ TEST_F(GiroForms, BoxesBeginWithTodayAndTheUseMonth) {
   EXPECT_EQ(way("BtnPrtChange", Qt::Key_Tab, 5), "BtnPrinter BtnPreview BtnPdf BtnJiro BtnExit");
   EXPECT_TRUE(form.isVisible()) << "Enter leaves a box, not the window";
   click(form, "BtnPrinter");
-  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "새 프린터");
+  set("DEVICENAME", "새 프린터");
   click(form, "BtnPrtChange");
   EXPECT_EQ(front.asked, (QStringList{"FrmSetPrinter", "frmPrtChange"}));
   EXPECT_EQ(part<QLabel>(form, "LblPrinter")->text(), "지로프린터 : 새 프린터");
@@ -121,15 +121,13 @@ TEST_F(GiroForms, TheProgressBarStopsTheRunBetweenSlips) {
 TEST_F(GiroForms, BothPapersAsPdfReadBack) {
   PcPrinters real(pc);
   session.printers = &real;
-  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", pdfPrinterName());
+  set("DEVICENAME", pdfPrinterName());
   front.window.shownBook = HouseStyle::Apartment;
   front.window.entry = "행복아파트";
   front.window.add("101동 203호", "1234", "60590");
   front.window.add("101동 204호", "5", "0");
   front.window.rows.setText(front.window.add("102동 1507호", "70123", "123456780"), EvaCol::PayWay, "3");
   for (const QString paper : {"continuous", "a4"}) {
-    const QString file = folder.filePath(paper + ".pdf");
-    qputenv("HAEON_PDF", file.toUtf8());
     frmPrtJiroOCR form(context);
     form.showPage(paper);
     EXPECT_EQ(form.windowTitle(), paper == "a4" ? "OCR-A4" : "OCR");
@@ -137,11 +135,7 @@ TEST_F(GiroForms, BothPapersAsPdfReadBack) {
     part<Spread>(form, "TxtAnnounce")->model().setText(2, 1, "문의 053-700-0000");
     tests::show(form);
     tests::grab(form, "frmPrtJiroOCR-" + paper);
-    part<QRadioButton>(form, "Opt4")->click();
-    click(form, "BtnJiro");
-    qunsetenv("HAEON_PDF");
-
-    const QStringList pages = tests::pdfPages(file);
+    const QStringList pages = allAsPdf(form, paper);
     ASSERT_EQ(pages.size(), paper == "a4" ? 2 : 3);
     // 60590 weighs 0 + 27 + 5 + 0 + 18 = 50; 2% or 3% of it is charged after the due date: here 3%, 1,810 by ten
     EXPECT_TRUE(pages[0].contains(QRegularExpression("<1234567\\+ +\\+12344\\+ +\\+605900< +<11<")))
@@ -149,12 +143,11 @@ TEST_F(GiroForms, BothPapersAsPdfReadBack) {
     for (const char* text : {"60,590", "1,810", "62,400", "0001234", "행복아파트 101동", "감사드립니다."})
       EXPECT_TRUE(pages[0].contains(QString::fromUtf8(text))) << text << '\n' << pages[0].toStdString();
     EXPECT_TRUE(pages.last().contains("(자동이체)"));
-    tests::pictureOf(file, "giro-" + paper);
   }
 }
 
 TEST_F(GiroForms, GiroPrinterIsChosenWithItsPlace) {
-  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "");
+  set("DEVICENAME", "");
   frmPrtChange form(context);
   tests::show(form);
   auto* list = part<QListWidget>(form, "LstPrt");
@@ -166,7 +159,7 @@ TEST_F(GiroForms, GiroPrinterIsChosenWithItsPlace) {
 
   part<QLineEdit>(form, "TxtTop")->setFocus();
   part<QLineEdit>(form, "TxtLeft")->setFocus();
-  EXPECT_EQ(part<QLineEdit>(form, "TxtTop")->text(), "0") << "left empty";
+  EXPECT_EQ(box(form, "TxtTop"), "0") << "left empty";
   tests::type("-1.5");
   list->setFocus();
   QTest::keyClick(list, Qt::Key_Down);
@@ -178,7 +171,7 @@ TEST_F(GiroForms, GiroPrinterIsChosenWithItsPlace) {
   EXPECT_EQ(setting("프린터설정", "LEFT"), "-1.5");
   frmPrtChange again(context);
   EXPECT_EQ(part<QListWidget>(again, "LstPrt")->currentRow(), list->currentRow());
-  EXPECT_EQ(part<QLineEdit>(again, "TxtLeft")->text(), "-1.5");
+  EXPECT_EQ(box(again, "TxtLeft"), "-1.5");
 }
 
 TEST_F(GiroForms, EachDocumentHasItsPrinterAndMargins) {
@@ -201,9 +194,9 @@ TEST_F(GiroForms, EachDocumentHasItsPrinterAndMargins) {
   pc.settings.SaveSetting("해온판매", "거래명세표", "TopMargin", "3");
   FrmMargin margin(context);
   tests::show(margin);
-  EXPECT_EQ(part<QLineEdit>(margin, "TxtTop")->text(), "3");
+  EXPECT_EQ(box(margin, "TxtTop"), "3");
   part<QListWidget>(margin, "List1")->setCurrentRow(4);
-  EXPECT_EQ(part<QLineEdit>(margin, "TxtTop")->text(), "");
+  EXPECT_EQ(box(margin, "TxtTop"), "");
   part<QLineEdit>(margin, "TxtTop")->setText("1");
   part<QLineEdit>(margin, "TxtLeft")->setText("2.5");
   tests::grab(margin, "FrmMargin");

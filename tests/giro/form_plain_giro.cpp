@@ -17,27 +17,18 @@
 
 namespace {
 
-using tests::click, tests::part;
-
-struct BankPicker : tests::IdlePickers {
-  std::optional<BankChoice> bank;
-  std::optional<BankChoice> searchBank() override { return bank; }
-};
+using tests::box, tests::click, tests::part;
 
 struct PlainGiroForms : testing::Test, tests::GiroWindows {
-  BankPicker banks;
-  FormContext withBanks{session, banks, front, calls};
-
   PlainGiroForms() {
     front.window.add("달빛식당", "1234", "60590");
     front.window.add("별빛식당", "5", "1000");
   }
-  static QString box(QWidget& form, const char* name) { return part<QLineEdit>(form, name)->text(); }
   static PagesWindow* preview(QWidget& form) { return form.findChild<PagesWindow*>(); }
 };
 
 TEST_F(PlainGiroForms, BankPeriodAndPaperOfJiro) {
-  frmPrtJiro form(withBanks);
+  frmPrtJiro form(context);
   EXPECT_EQ(form.windowTitle(), "MICR");
   tests::show(form);
   EXPECT_EQ(box(form, "use_start") + '~' + box(form, "use_end"), "2026.02.01~2026.02.28");
@@ -45,7 +36,7 @@ TEST_F(PlainGiroForms, BankPeriodAndPaperOfJiro) {
   EXPECT_EQ(box(form, "TxtBank"), "");
   click(form, "BtnRef");
   EXPECT_EQ(box(form, "TxtBank"), "") << "left without a choice";
-  banks.bank = BankChoice{"가람은행", "123-45", "해온가스"};
+  pickers.bank = BankChoice{"가람은행", "123-45", "해온가스"};
   click(form, "BtnRef");
   EXPECT_EQ(box(form, "TxtBank") + '|' + box(form, "TxtNumber") + '|' + box(form, "TxtUser"),
             "가람은행|123-45|해온가스");
@@ -85,13 +76,13 @@ TEST_F(PlainGiroForms, TheA4FormRemembersItsBoxes) {
   EXPECT_EQ(setting("환경설정", "A4최신용지타입") + setting("환경설정", "A4지로용지타입") +
                 setting("환경설정", "A4지로_사용기간From") + setting("환경설정", "A4지로_사용기간To"),
             "112026.01.162026.02.15");
-  frmPrtJiroOrgA4 form(withBanks);
+  frmPrtJiroOrgA4 form(context);
   tests::show(form);
   EXPECT_TRUE(part<QCheckBox>(form, "chkNewPaper")->isChecked());
   EXPECT_TRUE(part<QCheckBox>(form, "chkPaperType")->isChecked());
   EXPECT_EQ(box(form, "TxtUse1") + '~' + box(form, "TxtUse2"), "2026.01.16~2026.02.15");
   EXPECT_TRUE(form.findChild<QLabel*>("LblNote")) << "an old period is told";
-  banks.bank = BankChoice{"나루은행", "2-2", "을"};
+  pickers.bank = BankChoice{"나루은행", "2-2", "을"};
   click(form, "BtnRef2");
   EXPECT_EQ(box(form, "TxtBank2") + box(form, "TxtBank"), "나루은행");
   tests::grab(form, "frmPrtJiroOrgA4");
@@ -107,7 +98,7 @@ TEST_F(PlainGiroForms, TheSameSlipsOnTheScreen) {
   EXPECT_EQ(form.windowTitle(), "MICR-A4");
   tests::show(form);
   tests::grab(form, "frmPrtMicr");
-  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "");
+  set("DEVICENAME", "");
   part<QRadioButton>(form, "Opt4")->click();
   click(form, "BtnPreview");
   PagesWindow* window = preview(form);
@@ -117,7 +108,7 @@ TEST_F(PlainGiroForms, TheSameSlipsOnTheScreen) {
   QApplication::processEvents();
   tests::grab(*window, "FrmPaperView");
   EXPECT_TRUE(printers.jobs.empty());
-  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", "지로프린터");
+  set("DEVICENAME", "지로프린터");
   QTest::keyClick(window, Qt::Key_F10);
   ASSERT_EQ(printers.jobs.size(), 1u);
   EXPECT_EQ(printers.jobs[0]->pages, 2);
@@ -171,19 +162,12 @@ TEST_F(PlainGiroForms, EachCustomersSlipIsAFileOfItsOwn) {
 TEST_F(PlainGiroForms, EveryPaperAsPdfReadBack) {
   PcPrinters real(pc);
   session.printers = &real;
-  pc.settings.SaveSetting("해온판매", "프린터설정", "DEVICENAME", pdfPrinterName());
+  set("DEVICENAME", pdfPrinterName());
   session.dbBasic.Execute(
       "Insert Into Bank(BName, BNumber, BUser) Values('가람은행', '123-45-678', '해온가스')");
   front.window.rows.setText(2, EvaCol::PayWay, "3");
   const auto printed = [&](QDialog& form, const QString& name) {
-    const QString file = folder.filePath(name + ".pdf");
-    qputenv("HAEON_PDF", file.toUtf8());
-    tests::show(form);
-    part<QRadioButton>(form, "Opt4")->click();
-    click(form, "BtnJiro");
-    qunsetenv("HAEON_PDF");
-    tests::pictureOf(file, "giro-" + name);
-    const QStringList pages = tests::pdfPages(file);
+    const QStringList pages = allAsPdf(form, name);
     EXPECT_FALSE(pages.isEmpty()) << name.toStdString();
     // 2% of 60,590 is 1,211, cut to ten
     for (const char* text : {"60,590", "1,210", "61,800", "0001234", "달빛식당", "가람은행", "123-45-678"})

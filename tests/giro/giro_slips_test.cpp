@@ -88,21 +88,6 @@ TEST_F(JiroOcrTest, A4SheetTextByText) {
   EXPECT_EQ(at(10.9, 136, 2), "102동 1호") << "the third slip begins a sheet at its top";
 }
 
-TEST_F(JiroOcrTest, NothingOnTheA4SheetMeetsOrLeavesIt) {
-  screen.shownBook = HouseStyle::MultiHousehold;
-  screen.entry = "다가구 전체";
-  for (int i = 0; i < 2; ++i) {
-    const int row = screen.add("1234동 아주 긴 이름의 집 5678호 아주 긴 이름의 집", "1234567", "123456780");
-    screen.rows.setText(row, EvaCol::BDName,
-                        "아주 긴 이름의 다가구 건물이 여기에 하나 서 있습니다 그렇습니다");
-  }
-  giro.setPaper(GiroPaper::OcrA4);
-  input.notes = QStringList(8, QString(40, u'가'));
-  giro.print(input, GiroSelection::All);
-  ASSERT_GT(job().items.size(), 60u);
-  expectNothingMeets();
-}
-
 TEST_F(JiroOcrTest, TheSlipsOfARunAgreeWhateverIsChangedMeanwhile) {
   screen.shownBook = HouseStyle::Apartment;
   for (const char* code : {"5", "6", "7"}) screen.add("101동 203호", code, "10100");

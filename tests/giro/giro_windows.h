@@ -1,7 +1,9 @@
 #pragma once
 // What the tests of giro windows work on.
+#include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 
 #include "tests/giro/slip_desk.h"
@@ -16,6 +18,9 @@ W* part(QWidget& form, const char* name) {
   EXPECT_TRUE(found) << name;
   return found;
 }
+inline QString box(QWidget& form, const char* name) {
+  return part<QLineEdit>(form, name)->text();
+}
 inline void click(QWidget& form, const char* name) {
   QTest::mouseClick(part<QPushButton>(form, name), Qt::LeftButton);
 }
@@ -26,12 +31,6 @@ inline QStringList pdfPages(const QString& file) {
   reader.start("pdftotext", {"-layout", file, "-"});
   reader.waitForFinished();
   return QString::fromUtf8(reader.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts);
-}
-
-/** The PDF's pages as NAME-1.png ... in the folder that HAEON_PICTURES names. */
-inline void pictureOf(const QString& file, const QString& name) {
-  if (const QString pictures = qEnvironmentVariable("HAEON_PICTURES"); !pictures.isEmpty())
-    QProcess::execute("pdftoppm", {"-png", "-r", "110", file, pictures + '/' + name});
 }
 
 /** Stands for the window of the meter book. */
@@ -47,6 +46,20 @@ struct GiroWindows : GiroBooks {
   IdlePickers pickers;
   IdleCalls calls;
   FormContext context{session, pickers, front, calls};
+
+  /** Prints all slips into a PDF and reads it back; the pages as giro-NAME-1.png ... where HAEON_PICTURES names a
+   *  folder. */
+  QStringList allAsPdf(QWidget& form, const QString& name) {
+    const QString file = folder.filePath(name + ".pdf");
+    qputenv("HAEON_PDF", file.toUtf8());
+    show(form);
+    part<QRadioButton>(form, "Opt4")->click();
+    click(form, "BtnJiro");
+    qunsetenv("HAEON_PDF");
+    if (const QString pictures = qEnvironmentVariable("HAEON_PICTURES"); !pictures.isEmpty())
+      QProcess::execute("pdftoppm", {"-png", "-r", "110", file, pictures + "/giro-" + name});
+    return pdfPages(file);
+  }
 };
 
 }  // namespace tests

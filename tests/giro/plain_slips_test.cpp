@@ -201,11 +201,13 @@ TEST_F(PlainSlips, NothingMeetsOnAnyPaper) {
                         "아주 긴 이름의 다가구 건물이 여기에 하나 서 있습니다 그렇습니다");
   }
   input.banks.assign(3, {QString(30, u'가'), QString(40, '9'), QString(40, u'나')});
+  input.notes = QStringList(8, QString(40, u'가'));
   session.dbBasic.Execute("Update User Set Company = '" + QString(25, u'다') + '\'');
-  for (const GiroPaper paper :
-       {GiroPaper::Jiro, GiroPaper::JiroMicr, GiroPaper::JiroOrg, GiroPaper::JiroOrgA4, GiroPaper::MicrA4}) {
+  for (const GiroPaper paper : {GiroPaper::OcrA4, GiroPaper::Jiro, GiroPaper::JiroMicr, GiroPaper::JiroOrg,
+                                GiroPaper::JiroOrgA4, GiroPaper::MicrA4}) {
     SCOPED_TRACE(int(paper));
     print(paper);
+    ASSERT_GT(job().items.size(), 40u);
     expectNothingMeets();
   }
 }

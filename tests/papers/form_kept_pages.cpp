@@ -8,19 +8,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void drawTwoPages(pc::PrintJob& job) {
-  job.setFont({u"굴림체"_s, 10, false});
-  job.text(1, 1, u"첫 장"_s);
+  job.setFont({"굴림체", 10, false});
+  job.text(1, 1, "첫 장");
   job.setInk({0, 0, 200});
-  job.setFont({u"돋움체"_s, 8, true});
-  job.text(2, 1.5, u"푸른 글"_s);
+  job.setFont({"돋움체", 8, true});
+  job.text(2, 1.5, "푸른 글");
   job.line(0.5, 2, 7.5, 2, 1.5, true);
   job.setInk({});
   job.line(0.5, 3, 7.5, 3);
   job.fill(1, 4, 2, 0.25, 0.9);
   job.newPage();
-  job.text(1, 1, u"둘째 장"_s);
-  job.setFont({u"굴림체"_s, 10, false});
-  job.text(1, 2, u"다시 굴림체"_s);
+  job.text(1, 1, "둘째 장");
+  job.setFont({"굴림체", 10, false});
+  job.text(1, 2, "다시 굴림체");
 }
 
 QStringList told(const tests::RecordedJob& job, int page) {
