@@ -1,6 +1,7 @@
 #pragma once
 // What the tests of statements and invoices share: books of March, recording printers, what stands where.
 #include "papers/paper_printer.h"
+#include "store/year_file.h"
 #include "tests/documents/places.h"
 #include "tests/recorded_print.h"
 #include "tests/support.h"
@@ -13,11 +14,41 @@ struct Words {
   std::vector<double> xs, ys;
 };
 
+struct Goods {
+  QString name = "LPG";
+  int kind = 1;
+  qint64 discount = 0;
+};
+
+/** A retailer and his customers 1, of every field, and 2, of a name and a telephone. */
 struct DocumentDesk : testing::Test {
   DocumentDesk() {
     pc.openBooks(QDate(2026, 3, 31));
     session.printers = &printers;
     upgrades::makeDealList(session);
+    session.dbBasic.Execute(
+        "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
+        "'123-45-67891', '서울 중구 1', '소매', '가스')");
+    session.dbBasic.Execute(
+        "Insert Into Client(Name, Uname, Serial, Address, Status, Item, Tel) Values('한라식당', '김하나', "
+        "'220-81-62517', '서울 강남 2', '음식', '한식', '555-1234')");
+    session.dbBasic.Execute("Insert Into Client(Name, Tel) Values('바다식당', '555-9999')");
+  }
+  /** A line in the file of its year. */
+  void sale(const QString& date, int client, qint64 unit, qint64 number, const Goods& goods = {}) {
+    const jet::Database file =
+        date.startsWith(session.WorkYear) ? session.dbYear : openYear(session, date.left(4));
+    file.Execute(
+        QStringLiteral(
+            "Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, DC) "
+            "Values('%1', %2, '%3', '20', %4, %5, %6, %7)")
+            .arg(date)
+            .arg(client)
+            .arg(goods.name)
+            .arg(unit)
+            .arg(number)
+            .arg(goods.kind)
+            .arg(goods.discount));
   }
   /** The first field of a query's first row; "-" without one. */
   QString first(const jet::Database& db, const QString& sql) {

@@ -16,10 +16,8 @@
 #include "documents/pickers/FrmTraderList.h"
 #include "documents/statements/FrmDealList.h"
 #include "papers/form_document_run.h"
-#include "papers/paper_printer.h"
+#include "tests/documents/document_desk.h"
 #include "tests/idle_context.h"
-#include "tests/recorded_print.h"
-#include "tests/support.h"
 #include "tests/ui/grab.h"
 #include "tests/ui/modal.h"
 
@@ -57,28 +55,12 @@ struct DocumentPickers : tests::IdlePickers {
   }
 };
 
-struct DocumentForms : testing::Test {
+struct DocumentForms : tests::DocumentDesk {
   DocumentForms() {
-    pc.openBooks(QDate(2026, 3, 31));
-    upgrades::makeDealList(session);
-    session.printers = &printers;
-    session.dbBasic.Execute(
-        "Insert Into User(Company, User, BusCode, Address, BusStyle, BusKind) Values('해온가스', '홍길동', "
-        "'123-45-67891', '서울 중구 세종대로 1', '소매', '가스')");
-    session.dbBasic.Execute(
-        "Insert Into Client(Name, Uname, Serial, Address, Status, Item, Tel) Values('한라식당', '김하나', "
-        "'220-81-62517', '서울 강남 2', '음식', '한식', '555-1234')");
-    session.dbBasic.Execute("Insert Into Client(Name, Tel) Values('바다식당', '555-9999')");
     for (int line = 0; line < 16; ++line)
-      session.dbYear.Execute(
-          u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun) "
-          u"Values('2026-03-%1', %2, 'LPG', '20', 34500, %3, 1)"_s.arg(20 + line / 2, 2, 10, QChar('0'))
-              .arg(1 + line % 2)
-              .arg(line % 4 + 1));
+      sale(u"2026-03-%1"_s.arg(20 + line / 2), 1 + line % 2, 34'500, line % 4 + 1);
   }
-  QString pending() {
-    return session.dbYear.OpenRecordset("Select Count(*) From Sale Where DealList = 0")[0].toText();
-  }
+  QString pending() { return inYear("Select Count(*) From Sale Where DealList = 0"); }
   static void press(QWidget& form, const char* name) {
     QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
   }
@@ -89,9 +71,6 @@ struct DocumentForms : testing::Test {
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, grid.cellRect(row, col).center());
   }
 
-  tests::TestPc pc;
-  Session& session = pc.session;
-  tests::RecordedPrinters printers;
   DocumentPickers pickers;
   tests::IdleCommands commands;
   tests::IdleCalls calls;
