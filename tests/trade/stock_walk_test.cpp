@@ -13,17 +13,33 @@ namespace {
 const char* const figures =
     "LPGPreStock, LPGBuy, LPGSale, LPGStock, CANPreStock, CANBuy, CANSale, CANLent, CANReturn, CANStock";
 
+struct Moved {
+  bool sale;
+  QString day;
+  int kind, pieces;
+  QString name = "LPG", size = "20";
+};
+
 struct StockWalk : testing::Test, tests::BuyDesk {
+  /** Into the file of its year. */
+  void write(const Moved& line) {
+    const jet::Database file =
+        line.day.startsWith(pc.session.WorkYear) ? pc.session.dbYear : openYear(pc.session, line.day.left(4));
+    file.Execute(
+        (line.sale
+             ? u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleNum, SaleGubun) Values('%1', 1, '%2', '%3', %4, %5)"_s
+             : u"Insert Into Buy(BuyDate, BuyCompany, BuyName, BuyThing, PurchaseNum, PurchaseGubun) Values('%1', '한강', '%2', '%3', %4, %5)"_s)
+            .arg(line.day, line.name, line.size)
+            .arg(line.pieces)
+            .arg(line.kind));
+  }
   void sale(const QString& day, int kind, int pieces, const QString& name = "LPG",
             const QString& size = "20") {
-    sold(u"'%1', 1, %2, False, '%3', '%4', %5"_s.arg(day).arg(kind).arg(name, size).arg(pieces));
+    write({true, day, kind, pieces, name, size});
   }
   void buy(const QString& day, int kind, int pieces, const QString& name = "LPG",
            const QString& size = "20") {
-    run(u"Insert Into Buy(BuyDate, BuyCompany, BuyName, BuyThing, PurchaseNum, PurchaseGubun) Values('%1', '한강', '%2', '%3', %4, %5)"_s
-            .arg(day, name, size)
-            .arg(pieces)
-            .arg(kind));
+    write({false, day, kind, pieces, name, size});
   }
   /** opening bought sold closing | cylinders: opening bought sold lent returned closing */
   QString walked(StockWalkOf what, const QString& size, const QString& start = "2026-02-10",
@@ -105,7 +121,7 @@ TEST_F(StockWalk, APeriodThatBeganLastYearTakesThatYearsFileAlong) {
              walked(StockWalkOf::Gas, "20", "2025-12-01", "2026-01-31")),
             "told");
   makeYearFile(pc.session, "2025");
-  sold("'2025-12-30', 1, 1, False, 'LPG', '20', 6", openYear(pc.session, "2025"));
+  sale("2025-12-30", 1, 6);
   sale("2026-01-02", 1, 4);
   EXPECT_EQ(walked(StockWalkOf::Gas, "20", "2025-12-01", "2026-01-31").section(' ', 0, 3), "60 0 10 50");
   EXPECT_EQ(walked(StockWalkOf::Gas, "20", "2026-01-01", "2026-01-31").section(' ', 0, 3), "54 0 4 50");
@@ -114,7 +130,7 @@ TEST_F(StockWalk, APeriodThatBeganLastYearTakesThatYearsFileAlong) {
 TEST_F(StockWalk, TheStockOfTodayIsWalkedBackOverTheYearsSinceTheOpenOne) {
   pc.pc.clock.set(QDateTime(QDate(2027, 1, 10), QTime(9, 0)));
   makeYearFile(pc.session, "2027");
-  sold("'2027-01-04', 1, 1, False, 'LPG', '20', 6", openYear(pc.session, "2027"));
+  sale("2027-01-04", 1, 6);
   sale("2026-02-12", 1, 4);
   EXPECT_EQ(walked(StockWalkOf::Gas, "20").section(' ', 0, 3), "60 0 4 56");
 }
@@ -128,19 +144,12 @@ TEST_F(StockWalk, AFailureIsToldAndLeavesNoHalfFigures) {
   EXPECT_EQ(rows("Select * From TmpLPGCANStock") + rows("Select * From TmpLPGCAN"), "");
 }
 
-struct RandomLine {
-  QString day, name, size;
-  bool sale;
-  int kind;
-  qint64 pieces;
-};
-
 /** An item's row by a loop over all lines; the item: name, size, full ones and cylinders of today. */
-QString addedUp(const std::vector<RandomLine>& lines, bool gas, const QStringList& item, const QString& start,
+QString addedUp(const std::vector<Moved>& lines, bool gas, const QStringList& item, const QString& start,
                 const QString& end) {
   qint64 opening = item[2].toLongLong(), bought = 0, sold = 0, canOpening = item[3].toLongLong(),
          canBought = 0, canSold = 0, lent = 0, back = 0;
-  for (const auto& [day, name, size, sale, kind, pieces] : lines) {
+  for (const auto& [sale, day, kind, pieces, name, size] : lines) {
     const bool fitting = kind == (sale ? 7 : 4), payment = kind == (sale ? 4 : 7) || kind == 8;
     if (day < start || gas == fitting || payment) continue;
     if (name.trimmed().compare(item[0], Qt::CaseInsensitive) != 0 || size != item[1]) continue;
@@ -170,19 +179,19 @@ TEST_F(StockWalk, OnePassGivesWhatTheLinesOfEachItemAddUpTo) {
   run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('부탄', '13', 9, 0)");  // entered twice
   run("Insert Into Util(Name, Size, UtilStock) Values('호스', '15A', -4)");
   run("Insert Into Util(Name, Size, UtilStock) Values('밸브', '20', 0)");
-  std::vector<RandomLine> lines;
-  const auto enter = [&] {
-    for (int line = 0; line < 120; ++line) {
-      lines.push_back({QDate(2026, 1, 1).addDays(upTo(80)).toString(Qt::ISODate), names[upTo(6)],
-                       sizes[upTo(4)], upTo(2) == 1, 1 + upTo(8), upTo(40) - 5});
-      const auto& [day, name, size, isSale, kind, pieces] = lines.back();
-      isSale ? sale(day, kind, pieces, name, size) : buy(day, kind, pieces, name, size);
-    }
-  };
+  std::vector<Moved> lines;
+  makeYearFile(pc.session, "2025");
+  const QDate first(2025, 11, 20);
   for (int turn = 0; turn < 6; ++turn) {
-    pc.session.wsMain.Together(enter);
-    const QDate first = QDate(2026, 1, 1).addDays(upTo(60));
-    const QString start = first.toString(Qt::ISODate), end = first.addDays(upTo(30)).toString(Qt::ISODate);
+    pc.session.wsMain.Together([&] {
+      for (int line = 0; line < 120; ++line) {
+        lines.push_back({upTo(2) == 1, first.addDays(upTo(120)).toString(Qt::ISODate), 1 + upTo(8),
+                         upTo(40) - 5, names[upTo(6)], sizes[upTo(4)]});
+        write(lines.back());
+      }
+    });
+    const QDate from = first.addDays(upTo(100));
+    const QString start = from.toString(Qt::ISODate), end = from.addDays(upTo(30)).toString(Qt::ISODate);
     for (const bool gas : {true, false}) {
       ASSERT_TRUE(walkStock(pc.session, gas ? StockWalkOf::Gas : StockWalkOf::Materials, start, end));
       QStringList looped;
