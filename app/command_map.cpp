@@ -18,7 +18,7 @@ constexpr CommandEntry commandTable[] = {
     {u"MnuBasic", u"MnuBack", u"데이터백업 및 전송(&B)", BackUp, u"", Ruled},
     {u"MnuBasic", u"mnuDataManagerDN", u"데이터 내려받기(&D)", BringBack},
     {u"MnuBasic", u"mnuDataManagerAS", u"데이터 A/S(&A)", BackUpSupport},
-    {u"MnuBasic", u"mnuPath", u"작업경로 설정(&P)", Dialog, u"FrmPath"},
+    {u"MnuBasic", u"mnuPath", u"작업경로 설정(&P)", Dialog, u"FrmPath", FormsAway},
     {u"MnuBasic", u"MnuExit", u"종료(&X)", Exit, u"", Ruled},
 
     {u"", u"MnuLPG", u"가스관리(&L)", Menu},

@@ -35,7 +35,9 @@ struct CommandEntry {
     Relink = 1,      ///< the year files are linked anew first, so that a moved Basic.mdb is followed
     NeedsStock = 2,  ///< on only while the company manages its stock
     Ruled = 4,       ///< a line above the entry
-    FormsAway = 8,   ///< all open forms are closed first: they show another year, or an old copy of its book
+    /** All open forms are closed first: they show another year or an old copy of its book, or the program ends behind
+     *  the entry, and what is typed in them would be lost unasked. */
+    FormsAway = 8,
   };
 
   const char16_t* menu;     ///< name of the menu it stands in; empty: the menu bar

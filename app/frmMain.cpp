@@ -84,7 +84,7 @@ void frmMain::buildMenus() {
       QMenu* menu = above ? above->addMenu(entry.text()) : menuBar()->addMenu(entry.text());
       menu->setObjectName(entry.objectName());
       menus_[entry.objectName()] = menu;
-      connect(menu, &QMenu::aboutToShow, this, &frmMain::refresh);
+      connect(menu, &QMenu::aboutToShow, this, &frmMain::refreshEntries);
       continue;
     }
     QAction* action = above->addAction(entry.text());
@@ -151,7 +151,7 @@ QString frmMain::whyOff(const CommandEntry& entry) const {
   return {};
 }
 
-void frmMain::refresh() {
+void frmMain::refreshEntries() {
   for (const auto& entry : commandMap())
     if (QAction* action = actions_.value(entry.objectName())) {
       const QString reason = whyOff(entry);
@@ -159,8 +159,11 @@ void frmMain::refresh() {
       action->setStatusTip(reason);
     }
   actions_[u"mnu_SeeIDEnabled"_s]->setChecked(caller_->enabled());
-  // Once the files are closed (a new data folder was chosen) the window only waits for its end.
-  if (session_.dbBasic.isOpen()) guard([&] { pnlCompany_->setText(CompanyProfile(session_).companyName()); });
+}
+
+void frmMain::refresh() {
+  refreshEntries();
+  guard([&] { pnlCompany_->setText(CompanyProfile(session_).companyName()); });
 }
 
 // --- commands ---------------------------------------------------------------------------------------------------
@@ -242,7 +245,7 @@ void frmMain::perform(const CommandEntry& entry) {
         break;
     }
   });
-  refresh();
+  refreshEntries();
 }
 
 void frmMain::askAndOpenAddress(const QString& question, const QString& address) {

@@ -53,6 +53,8 @@ class frmMain : public QMainWindow, public Commands {
   void buildMenus();
   void buildToolBar();
   void buildStatusLine();
+  /** Entries on or off, ticks. Asks nothing of the store: a menu opens also where that does not answer. */
+  void refreshEntries();
   /** Why an entry is off; '' when it is on. */
   QString whyOff(const CommandEntry& entry) const;
   void perform(const CommandEntry& entry);

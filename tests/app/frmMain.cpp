@@ -9,6 +9,7 @@
 #include <QStatusBar>
 #include <QTimer>
 
+#include "app/FrmPath.h"
 #include "app/company_profile.h"
 #include "app/frame_rules.h"
 #include "billing/reading_screen.h"
@@ -16,6 +17,7 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
+#include "tests/ui/modal.h"
 #include "ui/grid/spread.h"
 
 namespace {
@@ -137,6 +139,14 @@ TEST_F(MainWindow, AMenuIsReachedByAltAndItsEntryRelinksAndOpensOneChild) {
   EXPECT_EQ(children(), 0);
 }
 
+TEST_F(MainWindow, AMenuOpensWhateverTheStoreAnswers) {
+  session.dbBasic.Execute("Drop Table User");  // as a network that is gone
+  QTest::keyClick(window.get(), Qt::Key_B, Qt::AltModifier);
+  QWidget* const menu = QApplication::activePopupWidget();
+  ASSERT_TRUE(menu);
+  menu->close();
+}
+
 TEST_F(MainWindow, AnotherBooksEntryTurnsTheOpenReadingScreen) {
   session.dbBasic.Execute("Insert Into User(Company) Values('해온가스')");
   ASSERT_TRUE(window->run("MnuIndivisualCheck"));
@@ -250,6 +260,26 @@ TEST_F(MainWindow, LeavingAsksAndCountsOnce) {
   prompts.expect("프로그램 종료");
   EXPECT_TRUE(window->close());
   EXPECT_EQ(left, 1);
+}
+
+TEST_F(MainWindow, TheWindowThatMayEndTheProgramOpensWhenNothingTypedIsLost) {
+  ASSERT_TRUE(window->openForm("frmUser"));
+  QApplication::processEvents();
+  tests::type("x");
+  QTimer::singleShot(0, window.get(), [] {
+    QWidget* const box = QApplication::activeModalWidget();
+    EXPECT_FALSE(box) << "the data folder is chosen over what was typed";
+    if (box) box->close();
+  });
+  prompts.expect("버리시겠습니까?", false);
+  EXPECT_TRUE(window->run("mnuPath"));
+  EXPECT_EQ(children(), 1);
+  tests::whenModal<FrmPath>([this](QDialog& dialog) {
+    EXPECT_EQ(children(), 0);
+    dialog.reject();
+  });
+  prompts.expect("버리시겠습니까?");
+  EXPECT_TRUE(window->run("mnuPath"));
 }
 
 TEST_F(MainWindow, TheReminderComesBeforeTheEndAndMayBackUp) {
