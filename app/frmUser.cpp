@@ -350,7 +350,7 @@ void frmUser::saveSettings() {
 }
 
 void frmUser::searchPostCode() {
-  const auto found = context_.pickers.searchPostCode(txtAddress_->text());
+  const auto found = context_.pickers.searchPostCode(txtPostCode_->text().trimmed());
   if (!found) return;
   txtPostCode_->setText(found->zipCode);
   txtAddress_->setText(found->address);

@@ -109,6 +109,23 @@ TEST_F(UserForm, WhatWasTypedGoesOnlyAfterAQuestionAndNothingOfAnotherPcIsWritte
   EXPECT_FALSE(form.isVisible());
 }
 
+TEST_F(UserForm, ThePostcodesBoxLooksForWhatStandsInIt) {
+  session.dbBasic.Execute("Insert Into User(Company, PostCode, Address) Values('Gas', '700020', 'Daegu')");
+  frmUser form(idle.context);
+  open(form);
+  auto* const code = part<QLineEdit>(form, "TxtPostCode");
+  code->setFocus();
+  tests::key(Qt::Key_F12);
+  EXPECT_EQ(code->text(), "700020") << "the search was left";
+  idle.pickers.place = {"702010", "대구 북구 고성동", ""};
+  tests::key(Qt::Key_F12);
+  EXPECT_EQ(idle.pickers.asked, QStringList({"700020", "700020"}));
+  EXPECT_EQ(code->text(), "702010");
+  EXPECT_EQ(part<QLineEdit>(form, "TxtAddress")->text(), "대구 북구 고성동");
+  prompts.expect("버리시겠습니까?");
+  form.close();
+}
+
 TEST_F(UserForm, WithoutThePasswordTheFormCloses) {
   session.dbBasic.Execute("Insert Into User(Company, Password) Values('Gas', 'pw')");
   idle.pickers.password = false;
