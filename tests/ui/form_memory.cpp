@@ -74,6 +74,18 @@ TEST_F(FormMemory, TextThatIsNoNumberIsPassedOver) {
   EXPECT_EQ(placed.size(), QSize(500, 300)) << "its size is left alone";
 }
 
+TEST_F(FormMemory, WhatNoScreenHoldsIsPassedOver) {
+  write(
+      "[FormPosition]\r\nLeft=nan\r\nTop=9999999999\r\nWidth=inf\r\nHeight=9999999999\r\nWindowState=inf\r\n"
+      "[SpPlain_ColsWidth]\r\n1=inf\r\n[SpPlain_General]\r\nFontSize=9999999999\r\nRowHeight=-inf\r\n");
+  PlainForm form(at.session);
+  tests::show(form);
+  EXPECT_EQ(form.size(), QSize(500, 300));
+  EXPECT_EQ(form.grid->colWidth(1), 8);
+  EXPECT_EQ(form.grid->fontSize(), 10);
+  EXPECT_EQ(form.grid->rowHeight(), 0);
+}
+
 TEST_F(FormMemory, PlaceOnAScreenThatIsGoneIsPassedOver) {
   write("[FormPosition]\r\nLeft=9000\r\nTop=20\r\nWidth=300\r\nHeight=200\r\n");
   PlainForm form(at.session);
@@ -145,6 +157,30 @@ TEST_F(FormMemory, MenuChangesRowHeightAndFontAndGoesBackToTheDesign) {
   EXPECT_FALSE(QFileInfo::exists(file()));
   EXPECT_EQ(form.grid->rowHeight(), 0);
   EXPECT_EQ(form.grid->fontSize(), 10);
+}
+
+TEST_F(FormMemory, MenuPutsTheFormBackToItsDesignForGood) {
+  write("[FormPosition]\r\nLeft=40\r\nTop=30\r\nWidth=640\r\nHeight=320\r\n");
+  QMdiArea ground;
+  ground.resize(900, 600);
+  tests::show(ground);
+  const auto open = [&] {
+    auto* const form = new PlainForm(at.session);
+    auto* const child = ground.addSubWindow(form);
+    child->setAttribute(Qt::WA_DeleteOnClose);
+    child->setGeometry(10, 20, 500, 300);
+    child->show();
+    return form;
+  };
+  PlainForm* const form = open();
+  QWidget* const child = form->parentWidget();
+  ASSERT_EQ(child->geometry(), QRect(40, 30, 640, 320));
+  child->showMaximized();
+  at.prompts.expect(u"정말 수정하시겠습니까?"_s);
+  choose(*form, u"폼 및 그리드 설정 초기화"_s);
+  EXPECT_EQ(child->geometry(), QRect(10, 20, 500, 300));
+  child->close();
+  EXPECT_EQ(open()->parentWidget()->geometry(), QRect(10, 20, 500, 300)) << "closing remembers nothing older";
 }
 
 }  // namespace

@@ -247,8 +247,14 @@ void Form::showEvent(QShowEvent* event) {
   shown_ = true;
   if (auto* const pages = findChild<QTabBar*>()) watchPages(pages);
   const FormIni memory(session_.pc.paths);
+  design_ = FormIni::placeOf(*this);
   memory.LoadFormIni(*this);
   for (Spread* const grid : findChildren<Spread*>()) memory.LoadSpreadIni(*grid, *this);
+}
+
+void Form::forgetMemory() {
+  FormIni(session_.pc.paths).Reset(*this, design_);
+  for (Spread* const grid : findChildren<Spread*>()) grid->resetMeasures();
 }
 
 void Form::closeEvent(QCloseEvent* event) {

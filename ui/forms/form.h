@@ -72,6 +72,9 @@ class Form : public QWidget {
   /** Buttons in a row at the right; a null one is a gap. */
   QWidget* buttonRow(const QList<QPushButton*>& buttons);
 
+  /** Forgets place, size and the grids' measures: all stand as they are designed. */
+  void forgetMemory();
+
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -95,6 +98,7 @@ class Form : public QWidget {
   EnterOrder order_;
   std::function<void()> atEnd_;
   QTabBar* pages_ = nullptr;
+  QRect design_;  ///< place and size before the memory
   bool shown_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <cmath>
 #include <optional>
 
 #include "pc/ini_file.h"
@@ -19,18 +20,22 @@ namespace {
 const QString formSection = u"FormPosition"_s;
 constexpr int profileBuffer = 10;
 constexpr int defaultFontSize = 10;
+constexpr double mostPixels = 100'000;
 
-/** A stored value when it is a number. */
+/** A stored value when it is a number, and one that a screen can hold. */
 std::optional<double> storedNumber(const pc::IniFile& file, const QString& section, const QString& key) {
   bool numeric = false;
   const double number = file.value(section, key).left(profileBuffer).trimmed().toDouble(&numeric);
-  return numeric ? std::optional(number) : std::nullopt;
+  return numeric && std::abs(number) <= mostPixels ? std::optional(number) : std::nullopt;
 }
 
 /** What carries a form's place: the frame around it in the main window, or the form itself. */
-const QWidget& carrier(const QWidget& form) {
-  auto* const frame = qobject_cast<const QMdiSubWindow*>(form.parentWidget());
+QWidget& carrier(QWidget& form) {
+  auto* const frame = qobject_cast<QMdiSubWindow*>(form.parentWidget());
   return frame ? *frame : form;
+}
+const QWidget& carrier(const QWidget& form) {
+  return carrier(const_cast<QWidget&>(form));
 }
 
 /** Where a window may stand: the main window's child area, or the screen that its place lies on. */
@@ -38,6 +43,15 @@ QRect roomOf(const QWidget& window, const QPoint& place) {
   if (!window.isWindow()) return window.parentWidget()->rect();
   const QScreen* const there = QGuiApplication::screenAt(place + QPoint(40, 10));
   return (there ? there : window.screen())->availableGeometry();
+}
+
+void resizeWithin(const QRect& room, QWidget& window, const QSize& size) {
+  if (const QSize fits = size.boundedTo(room.size()); fits != window.size()) window.resize(fits);
+}
+/** A place on a screen that is gone, or outside of a main window that has become smaller, is out of reach. */
+void moveWithin(const QRect& room, QWidget& window, const QPoint& place) {
+  window.move(qBound(room.left(), place.x(), qMax(room.left(), room.right() + 1 - window.width())),
+              qBound(room.top(), place.y(), qMax(room.top(), room.bottom() + 1 - window.height())));
 }
 
 enum WindowStateValue { Normal = 0, Minimized = 1, Maximized = 2 };
@@ -51,7 +65,7 @@ QString FormIni::written(const QWidget& form) const {
 void FormIni::LoadFormIni(QWidget& form, bool resize) const {
   if (!paths_.exists(written(form))) return;
   const pc::IniFile file(paths_.native(written(form)));
-  auto& window = const_cast<QWidget&>(carrier(form));
+  QWidget& window = carrier(form);
   const auto number = [&](const QString& key) { return storedNumber(file, formSection, key); };
   const auto left = number(u"Left"_s), top = number(u"Top"_s);
   const auto width = number(u"Width"_s), height = number(u"Height"_s);
@@ -60,11 +74,8 @@ void FormIni::LoadFormIni(QWidget& form, bool resize) const {
   const bool placed = left && top;
   const QPoint place = placed ? QPoint(int(*left), int(*top)) : window.pos();
   const QRect room = roomOf(window, place);
-  if (const QSize fits = size.boundedTo(room.size()); fits != window.size()) window.resize(fits);
-  // A place on a screen that is gone, or outside of a main window that has become smaller, is out of reach.
-  if (placed)
-    window.move(qBound(room.left(), place.x(), qMax(room.left(), room.right() + 1 - window.width())),
-                qBound(room.top(), place.y(), qMax(room.top(), room.bottom() + 1 - window.height())));
+  resizeWithin(room, window, size);
+  if (placed) moveWithin(room, window, place);
   const auto state = number(u"WindowState"_s);
   if (state && int(*state) == Maximized) window.setWindowState(Qt::WindowMaximized);
 }
@@ -113,6 +124,16 @@ void FormIni::SaveSpreadGeneral(const QWidget& form, const Spread& grid) const {
   file.setValue(general, u"RowHeight"_s, QString::number(grid.rowHeight()));
 }
 
-void FormIni::Reset(const QWidget& form) const {
+QRect FormIni::placeOf(const QWidget& form) {
+  const QWidget& window = carrier(form);
+  return {window.pos(), window.size()};
+}
+
+void FormIni::Reset(QWidget& form, const QRect& design) const {
   if (paths_.exists(written(form))) QFile::remove(paths_.native(written(form)));
+  QWidget& window = carrier(form);
+  if (window.isMaximized()) window.showNormal();
+  const QRect room = roomOf(window, design.topLeft());
+  resizeWithin(room, window, design.size());
+  moveWithin(room, window, design.topLeft());
 }

@@ -1,5 +1,7 @@
 #pragma once
 // The memory of forms and grids: one small ini file a form in the folder "\FormIni" under the program folder.
+#include <QRect>
+
 #include "pc/paths.h"
 
 class QWidget;
@@ -19,8 +21,10 @@ class FormIni {
   void SaveSpreadIni(const QWidget& form, const Spread& grid, int col) const;
   /** The font size and row height, in points; a row height of 0 follows the font. */
   void SaveSpreadGeneral(const QWidget& form, const Spread& grid) const;
-  /** Takes the form's file away. */
-  void Reset(const QWidget& form) const;
+  /** Where a form stands and how large it is, with its frame. */
+  static QRect placeOf(const QWidget& form);
+  /** Takes the form's file away and puts the form back to the place it was designed for. */
+  void Reset(QWidget& form, const QRect& design) const;
 
  private:
   QString written(const QWidget& form) const;

@@ -45,8 +45,7 @@ void changeFontSize(Form& form, Spread& grid) {
 
 void resetMemory(Form& form) {
   if (!form.session().prompts.MsgAsk(u"정말 수정하시겠습니까?"_s, u"폼 및 그리드 설정 초기화"_s)) return;
-  FormIni(form.session().pc.paths).Reset(form);
-  for (Spread* const each : form.findChildren<Spread*>()) each->resetMeasures();
+  form.forgetMemory();
 }
 
 }  // namespace
