@@ -237,7 +237,9 @@ bool frmEva::gridKey(int row, int col, int key, Qt::KeyboardModifiers modifiers)
   if (key != Qt::Key_F5) return false;
   if (!grid_->commitEdit()) return true;
   askPerson(sheet_, row, col);
-  showCustomer(grid_->activeRow());
+  const QString day = sheet_.readingDay;
+  showPanel(enterReadingRow(sheet_, grid_->activeRow()));
+  sheet_.readingDay = day;  // a name was asked for: the day in the box stays
   return true;
 }
 

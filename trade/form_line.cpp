@@ -121,7 +121,7 @@ Spread* LineForm::addLines(const char* name, SpreadModel& model) {
   };
   grid->cellLeaving = [this](int row, int, int toRow, int) { return mayLeave(row, toRow); };
   grid->keyPressed = [this](int row, int col, int key, Qt::KeyboardModifiers modifiers) {
-    return gridKey(row, col, key, modifiers & ~Qt::KeypadModifier);
+    return gridKey(row, col, key, modifiers);
   };
   grid->doubleClicked = [this, grid](int row, int) {
     if (!openedEmpty(row)) grid->beginEdit();
@@ -231,6 +231,13 @@ bool LineForm::eventFilter(QObject* watched, QEvent* event) {
       QTimer::singleShot(0, this, [this] { leaveDate(); });
   }
   return Form::eventFilter(watched, event);
+}
+
+bool LineForm::takeDate() {
+  if (!dateOpen_) return false;
+  book_.setDate(date_->dateText());
+  dateOpen_ = false;  // the focus came back to it from a box about a wrong day
+  return true;
 }
 
 void LineForm::leaveDate() {

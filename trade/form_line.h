@@ -49,6 +49,8 @@ class LineForm : public Form {
   void showDate();
   /** Whether a day is being typed, other windows in front included. */
   bool isDateOpen() const { return dateOpen_; }
+  /** A day that is being typed is taken as it stands; the sheet is still to be read for it. False: there was none. */
+  bool takeDate();
 
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

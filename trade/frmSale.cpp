@@ -90,7 +90,10 @@ void frmSale::sheetShown() {
 void frmSale::sheetChosen(int index) {
   if (index == int(book_.sheet())) return;
   if (grid()->commitEdit()) {
-    guard([&] { fill(SaleSheet(index)); });
+    guard([&] {
+      takeDate();
+      fill(SaleSheet(index));
+    });
     return;
   }
   sheetShown();
@@ -152,6 +155,10 @@ void frmSale::reveal() {
 }
 
 void frmSale::showToday() {
+  if (takeDate()) {
+    showAll();
+    if (book_.date().isEmpty()) return;  // a wrong one has been told
+  }
   session().SaleDay = QString::number(session().pc.clock.today().year()) + u'-' + book_.date();
   context_.commands.openForm("frmTodaySale:" + session().SaleDay);
 }

@@ -276,6 +276,9 @@ TEST_F(FrmEva, PeopleTickAndDaysAreStoredFromTheGrid) {
   QApplication::processEvents();
   EXPECT_EQ(day(), "03/09");
   EXPECT_EQ(label("PnlMan"), "체적단가 : 1,500원  검침원 : 홍길동  수금원 : 미입력");
+  pc.prompts.expectInput("검침담당", "홍길동");
+  tests::key(Qt::Key_F5);
+  EXPECT_EQ(day(), "03/09") << "a name leaves the day that was typed";
   enter("4");
   EXPECT_EQ(field("PrntDay", code, 3), "03/09");
 

@@ -303,6 +303,30 @@ TEST_F(FrmSale, ADayTypedBeforeAnotherWindowCameIsTakenWhenTheGridIsGoneTo) {
   EXPECT_TRUE(form.TakeCallerNumber("0531234567"));
 }
 
+TEST_F(FrmSale, ADayStillBeingTypedCountsForAnotherSheetAndForTheDaysFigures) {
+  sold("'2026-03-02', 1, 7, False, '밸브', '15A'");
+  sold("'2026-03-03', 1, 7, False, '밸브', '15A'");
+  const auto typeDay = [&](const char* typed) {
+    date->setFocus();
+    date->selectAll();
+    QTest::keyClicks(date, typed);
+  };
+  typeDay("0302");
+  tabs()->setCurrentIndex(2);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(date->text() + ' ' + cell(1, LineCol::Date), "03-02 03-02");
+  typeDay("0303");
+  press(Qt::Key_F5);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(pc.session.SaleDay + ' ' + cell(1, LineCol::Date), "2026-03-03 03-03");
+  EXPECT_EQ(at(), "2,2");
+  typeDay("0231");
+  pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
+  press(Qt::Key_F5);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(commands.asked, QStringList("frmTodaySale:2026-03-03")) << "told once, nothing opened";
+}
+
 TEST_F(FrmSale, AnOpenCellIsTakenOnTheWayToTheDate) {
   delivery();
   QCoreApplication::processEvents();
