@@ -108,7 +108,7 @@ void frmClient::buildPage(HouseStyle style, const QString& caption, const char* 
   page.grid->doubleClicked = [this](int, int) { focus(this->page().boxes->first()); };
   page.grid->cellLeaving = [this](int row, int, int toRow, int) { return row == toRow || mayDrop(); };
   page.grid->keyPressed = [this](int, int, int key, Qt::KeyboardModifiers modifiers) {
-    if (key != Qt::Key_Delete || modifiers & ~Qt::KeypadModifier) return false;
+    if (key != Qt::Key_Delete || modifiers) return false;
     remove();
     return true;
   };
@@ -226,6 +226,8 @@ void frmClient::search() {
   if (tabs_->currentIndex() != int(client.houseStyle)) {
     tabs_->setCurrentIndex(int(client.houseStyle));  // reads that page's list
     clients_.select(chosen->code);
+  } else if (clients_.rowOf(chosen->code) == 0) {
+    clients_.reload();  // registered since the list was read, perhaps from the search itself
   }
   const QScopedValueRollback<bool> moving(showing_, true);
   page().grid->setActiveCell(clients_.rowOf(chosen->code), 1);

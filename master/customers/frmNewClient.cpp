@@ -25,6 +25,7 @@ frmNewClient::frmNewClient(Session& session, Pickers& pickers, const QString& se
   form_->enterOrder(boxes_->order() + QList<QWidget*>{save_});
   for (QWidget* const box : boxes_->order()) box->installEventFilter(this);
   form_->onKey(Qt::Key_F12, [this] { boxes_->f12(focusWidget()); });
+  form_->onKey(Qt::ControlModifier, Qt::Key_F4, [this] { reject(); });  // not the form within it alone
 
   const ClientEntry entry = newClientFrom(searchText);
   boxes_->show(entry);

@@ -6,7 +6,11 @@
 
 namespace {
 
-/** Takes keys from one box before anybody else sees them. */
+bool isEnterKey(int key) {
+  return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/** Takes plain keys, and Enter with whatever is held down, from one box before anybody else sees them. */
 class BoxKeys : public QObject {
  public:
   BoxKeys(QWidget* box, std::function<bool(int key)> work) : QObject(box), work_(std::move(work)) {
@@ -15,7 +19,11 @@ class BoxKeys : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::KeyPress && work_(static_cast<QKeyEvent*>(event)->key())) return true;
+    if (event->type() == QEvent::KeyPress) {
+      const auto* const pressed = static_cast<QKeyEvent*>(event);
+      const bool plain = isEnterKey(pressed->key()) || !(pressed->modifiers() & ~Qt::KeypadModifier);
+      if (plain && work_(pressed->key())) return true;
+    }
     return QObject::eventFilter(watched, event);
   }
 
@@ -27,7 +35,7 @@ class BoxKeys : public QObject {
 
 void attachPostCode(Form& form, Pickers& pickers, QLineEdit* code, QLineEdit* address) {
   new BoxKeys(code, [&form, &pickers, code, address](int key) {
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool enter = isEnterKey(key);
     const bool typed = code->isModified() && !code->text().trimmed().isEmpty();
     if (!(key == Qt::Key_F12 || (enter && typed))) return false;
     form.command([&] {
@@ -54,7 +62,7 @@ void attachSearch(Form& form, QLineEdit* box, QWidget* next, std::function<bool(
       box->clear();
       return true;
     }
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool enter = isEnterKey(key);
     if (!(key == Qt::Key_F12 || (enter && box->text().isEmpty()))) return false;
     form.command([&] {
       const bool chosen = search();

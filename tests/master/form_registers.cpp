@@ -227,6 +227,19 @@ TEST_P(Registers, WhatWasTypedGoesOnlyAfterAQuestion) {
   }
 }
 
+TEST_P(Registers, OnlyThePlainDeleteKeyDeletesTheKeypadsToo) {
+  const QString name = GetParam().form;
+  for (const Qt::KeyboardModifiers held : {Qt::NoModifier, Qt::KeypadModifier}) {
+    if (name == "frmVolume")
+      prompts.expect("삭제할 수 없습니다!");
+    else
+      prompts.expect(name == "frmHouseStyle" ? "모두 지우시겠습니까?" : "삭제하시겠습니까?", false);
+    tests::key(Qt::Key_Delete, held);
+  }
+  tests::key(Qt::Key_Delete, Qt::ControlModifier);
+  EXPECT_TRUE(inList());
+}
+
 TEST_P(Registers, AnApostropheIsToldAndTheBoxKeepsFocusAndText) {
   QLineEdit* const box = intoATextBox();
   ASSERT_TRUE(box);

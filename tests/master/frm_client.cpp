@@ -207,6 +207,18 @@ TEST_F(ClientForms, theSearchBehindTheSearchNameBringsTheCustomersPage) {
   EXPECT_TRUE(sheet(form)->isAncestorOf(box<QPushButton>(&form, "BtnSave"))) << "the buttons come along";
 }
 
+TEST_F(ClientForms, aCustomerRegisteredFromTheSearchStandsInTheList) {
+  addPlain("가람", "053-111-1111");
+  frmClient form(context);
+  tests::show(form);
+  addPlain("나래", "053-222-2222");
+  pickers.client = ClientChoice{2, "나래"};
+  box(sheet(form), "TxtUName")->setFocus();
+  tests::key(Qt::Key_F12);
+  EXPECT_EQ(box(sheet(form), "TxtName")->text(), "나래");
+  EXPECT_EQ(sheet(form)->findChild<Spread*>()->activeRow(), 2);
+}
+
 TEST_F(ClientForms, theMapButtonWaitsForTheEditor) {
   addPlain("가람", "053-111-1111");
   pc.pc.process.setStarter([](const QString&, const QStringList&, const QString&) { return true; });
@@ -295,6 +307,8 @@ TEST_F(ClientSearchForm, theQuickEntryKeepsWhatWasTypedAndStoresTheTelephoneWith
     tests::type("01012345678");
     tests::key(Qt::Key_Escape);
     EXPECT_TRUE(dialog.isVisible());
+    pc.prompts.expect("버리시겠습니까?", false);
+    tests::key(Qt::Key_F4, Qt::ControlModifier);
     EXPECT_EQ(focused(), "TxtTel");
     tests::key(Qt::Key_S, Qt::AltModifier);  // the focus never leaves the box
   });

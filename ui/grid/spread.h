@@ -41,7 +41,7 @@ class Spread : public QAbstractScrollArea {
   std::function<bool(int row, int col)> editStarting;
   /** Every key but the plain typing, first of all. While a cell is being edited (isEditing(), editingText()) only
    *  Enter and the function keys come. True: the form has done it. Of keys with Shift, Ctrl or Alt only Enter comes:
-   *  the others belong to Form::onKey. */
+   *  the others belong to Form::onKey. A key of the keypad comes as any other. */
   std::function<bool(int row, int col, int key, Qt::KeyboardModifiers modifiers)> keyPressed;
   /** Enter, after the edit was accepted and when the rule has not moved the cursor itself. Without the hook the
    *  cursor goes to the next open cell. */

@@ -87,8 +87,8 @@ bool Spread::lineKey(QKeyEvent* event) {
   const bool hooked = plain && (!isEditing() ? !isTyping(*event) : isEnterKey(key) || isFunctionKey(key));
   if (hooked && keyPressed && activeRow_ > 0) {
     bool done = false;
-    if (!run([&] { done = keyPressed(activeRow_, activeCol_, key, event->modifiers()); }) || done)
-      return true;
+    const Qt::KeyboardModifiers held = event->modifiers() & ~Qt::KeypadModifier;
+    if (!run([&] { done = keyPressed(activeRow_, activeCol_, key, held); }) || done) return true;
   }
   if (isEnterKey(key)) {
     enter();
