@@ -83,8 +83,8 @@ QString GasCatalogue::movedTotal(const RowChange& change, const RegisterFields& 
   return u", CANTotalHold = "_s + jet::Value(typedNumber(totalHold(stored)).toDouble() + moved).toText();
 }
 
-// The size of a stored row stays as it is, whatever the box says: name and size are what posted lines go by. An
-// emptied name is stored as it is.
+// The size of a stored row stays as it is, digit by digit, whatever the box says: name and size are what posted lines
+// go by. An emptied name is stored as it is.
 RegisterRules::Outcome GasCatalogue::change(const RegisterFields& boxes) {
   if (!session_.prompts.MsgAsk(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s, gasTitle)) return {};
   RegisterFields typed = boxes;
@@ -92,12 +92,12 @@ RegisterRules::Outcome GasCatalogue::change(const RegisterFields& boxes) {
   return changeChosen(
       typed, gasTitle, [&](const RowChange& change, const RegisterFields& row, const RegisterFields& stored) {
         const auto number = [&](const QString& column) { return typedNumber(row[column]); };
-        session_.dbBasic.Execute(
-            u"Update LPG Set LPGName = '"_s + plainText(row[u"LPGName"_s]) + u"', Size = "_s +
-            number(u"Size"_s) + u", LPGPurchase = "_s + number(u"LPGPurchase"_s) + u", LPGSelling = "_s +
-            number(u"LPGSelling"_s) + u", CANPurchase = "_s + number(u"CANPurchase"_s) +
-            u", CANSelling = "_s + number(u"CANSelling"_s) + movedFigures(change, stored) +
-            movedTotal(change, stored) + u" Where Code = "_s + plainNumber(record()[u"Code"_s]));
+        session_.dbBasic.Execute(u"Update LPG Set LPGName = '"_s + plainText(row[u"LPGName"_s]) +
+                                 u"', LPGPurchase = "_s + number(u"LPGPurchase"_s) + u", LPGSelling = "_s +
+                                 number(u"LPGSelling"_s) + u", CANPurchase = "_s + number(u"CANPurchase"_s) +
+                                 u", CANSelling = "_s + number(u"CANSelling"_s) +
+                                 movedFigures(change, stored) + movedTotal(change, stored) +
+                                 u" Where Code = "_s + plainNumber(record()[u"Code"_s]));
       });
 }
 

@@ -202,7 +202,8 @@ ClientSaved ClientRegister::change(const ClientEntry& client, const ClientEntry&
         takeClientFields(merged, row);
         const QString oldUnit = stored["VolumeUnit"];
         const bool newPrice = merged.volume && typedNumber(oldUnit) != typedNumber(merged.volumeUnit);
-        session_.dbBasic.Execute(updateStatement(merged, movedFigures(change, stored)));
+        session_.dbBasic.Execute(
+            updateStatement(merged, movedFigures(change, stored), merged.ho == stored["Ho"]));
         if (merged.volume && stored["VolumeYesNo"] == "0") completeMeterRows(session_, client.code);
         if (page() == HouseStyle::Apartment && newPrice && blockIsMetered(session_, merged))
           session_.dbBasic.Execute(unitSpreadStatement(merged, oldUnit));

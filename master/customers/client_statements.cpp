@@ -3,6 +3,8 @@
 #include "master/registers/register_rules.h"
 #include "store/data_access.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString commonValues(const ClientEntry& c) {
@@ -46,7 +48,7 @@ QString insertStatement(const ClientEntry& c) {
          plainValues(c);
 }
 
-QString updateStatement(const ClientEntry& c, const QString& movedBalances) {
+QString updateStatement(const ClientEntry& c, const QString& movedBalances, bool sameUnit) {
   QString sql = "Update Client Set Name = '" + plainText(c.name) + "', Tel = '" + plainText(c.tel) +
                 "', Tel1 = '" + plainText(c.tel1) + "', Tel2 = '" + plainText(c.tel2) + "', PostCode = '" +
                 plainText(c.postCode) + "', Address = '" + plainText(c.address) + "', " + "Birth = '" +
@@ -63,8 +65,8 @@ QString updateStatement(const ClientEntry& c, const QString& movedBalances) {
     sql += ", Serial = '" + plainText(c.serial) + "', " + "Status = '" + plainText(c.status) + "', " +
            "Item = '" + plainText(c.item) + "', " + "Uname = '" + plainText(c.uname) + "'";
   } else {
-    sql += ", BDName = '" + plainText(c.bdName) + "', " + "Dong = '" + plainText(c.dong) + "', Ho = '" +
-           plainText(c.ho) + "'";
+    sql += ", BDName = '" + plainText(c.bdName) + "', " + "Dong = '" + plainText(c.dong) +
+           (sameUnit ? u"'"_s : "', Ho = '" + plainText(c.ho) + "'");
   }
   return sql + " Where Code = " + QString::number(c.code);
 }

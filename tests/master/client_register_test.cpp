@@ -196,6 +196,23 @@ TEST_F(ClientRegistering, aNewPriceDoesNotReachTheBlockThroughTheNullComparison)
   EXPECT_EQ(client(second)["VolumeUnit"].toLong(), 1500);
 }
 
+TEST_F(ClientRegistering, theHeadRowOfABlockStaysOneWhenItIsChanged) {
+  pc.session.dbBasic.Execute(
+      "Insert Into Client(Name, HouseStyle, BDName, Dong, Address) Values('한빛 101동', 1, '한빛', '101', "
+      "'1')");
+  clients.loadPage(HouseStyle::Apartment);
+  ClientEntry boxes = clients.select(1);
+  boxes.tel = "053-111-2222";
+  pc.prompts.expect("위와 같이");
+  EXPECT_TRUE(clients.save(boxes).done);
+  EXPECT_EQ(client(1)["Tel"].toText(), "053-111-2222");
+  EXPECT_TRUE(client(1)["Ho"].isNull()) << "with '' the meter book would take it for a household";
+  boxes.ho = "관리실";
+  pc.prompts.expect("위와 같이");
+  EXPECT_TRUE(clients.save(boxes).done);
+  EXPECT_EQ(client(1)["Ho"].toText(), "관리실");
+}
+
 TEST_F(ClientRegistering, deletedCustomerTakesMeterRowsAndSalesOfEveryYearBackToAGap) {
   ClientEntry boxes = plain("국밥집", "053-111-2222");
   boxes.volume = true;

@@ -84,13 +84,15 @@ TEST_F(GasCatalogueTest, ChangeCorrectsStockButNotTheSize) {
   EXPECT_EQ(rs[u"LPGStock"_s].toLong(), 0);
   EXPECT_EQ(gas.selectedRow(), 1);
 
-  pc.session.dbBasic.Execute(u"Update LPG Set CANTotalHold = 99"_s);  // as an older program may have left it
+  pc.session.dbBasic.Execute(
+      u"Update LPG Set CANTotalHold = 99, Size = '20.50'"_s);  // as an older program may have left it
   ASSERT_TRUE(gas.load());
   boxes = gas.select(1);
   boxes[u"LPGSelling"_s] = u"41000"_s;
   pc.prompts.expect(u"선택된 자료를 위와 같이 변경하시겠습니까?"_s);
   ASSERT_TRUE(gas.save(boxes).done);
   EXPECT_EQ(rows(u"Select * From LPG"_s)[u"CANTotalHold"_s].toLong(), 99) << "no count was corrected";
+  EXPECT_EQ(rows(u"Select * From LPG"_s)[u"Size"_s].toText(), u"20.50"_s) << "lines were posted under it";
 
   pc.prompts.expect(u"선택된 LPG/용기에 대한 자료를 삭제하시겠습니까?"_s);
   EXPECT_TRUE(gas.remove().done);
