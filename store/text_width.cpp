@@ -13,6 +13,8 @@ QString StripNumber(const QString& text) {
 }
 
 QString moneyText(double won) {
+  // A sum of fractions may be next to a whole number: the point is not shown without a digit behind it.
+  if (won != std::trunc(won)) won = std::round(won * 100) / 100;
   const bool whole = won == std::trunc(won);
   constexpr double exact = 9007199254740992.0;  // 2^53
   if (!whole || std::fabs(won) >= exact) {

@@ -64,6 +64,9 @@ TEST(TextWidth, NumbersAndMoney) {
   EXPECT_EQ(moneyText(-1234567), "-1,234,567");
   EXPECT_EQ(moneyText(999), "999");
   EXPECT_EQ(moneyText(1234.5), "1,234.5");
+  EXPECT_EQ(moneyText(1234.001), "1,234") << "no point without a digit behind it";
+  EXPECT_EQ(moneyText(-0.004), "0");
+  EXPECT_EQ(moneyText(0.1 + 0.2 - 0.3), "0");
   EXPECT_EQ(moneyText(1234567890123.0), "1,234,567,890,123");
 }
 
