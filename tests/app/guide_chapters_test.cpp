@@ -47,6 +47,12 @@ TEST_F(Guide, ABoxFindsTheLineThatExplainsIt) {
   EXPECT_EQ(words("저장하지 못했습니다.\n오류번호 : 3043\n오류내용 : 디스크 또는 네트워크 오류입니다."),
             "디스크 또는 네트워크 오류입니다")
       << "one of several of a line";
+  EXPECT_EQ(words("전화번호 : 053-123-4567   이  름 : 김철수\n이미 등록되어 있습니다!"), "전화번호 :");
+  EXPECT_EQ(words("    이  름 : 김철수\n이미 등록되어 있습니다!\n이름을 중복(동명이인)하시겠습니까?"),
+            "이름을 중복(동명이인)하시겠습니까?")
+      << "the closer line stands before the wider one";
+  EXPECT_EQ(words("규격 : 4 은 이미 등록되어 있습니다!"), "이미 등록되어 있습니다!");
+  EXPECT_EQ(words("신규등록은 신규버튼을 누른후 입력해 주십시오"), "신규등록은 신규버튼을");
   EXPECT_EQ(words("알림"), "") << "the table's head explains nothing";
   EXPECT_EQ(words("처음 보는 글"), "");
   EXPECT_EQ(guideBoxWords({}, "무엇이든"), "");
