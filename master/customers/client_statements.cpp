@@ -3,8 +3,6 @@
 #include "master/registers/register_rules.h"
 #include "store/data_access.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString commonValues(const ClientEntry& c) {
@@ -65,8 +63,8 @@ QString updateStatement(const ClientEntry& c, const QString& movedBalances, bool
     sql += ", Serial = '" + plainText(c.serial) + "', " + "Status = '" + plainText(c.status) + "', " +
            "Item = '" + plainText(c.item) + "', " + "Uname = '" + plainText(c.uname) + "'";
   } else {
-    sql += ", BDName = '" + plainText(c.bdName) + "', " + "Dong = '" + plainText(c.dong) +
-           (sameUnit ? u"'"_s : "', Ho = '" + plainText(c.ho) + "'");
+    sql += ", BDName = '" + plainText(c.bdName) + "', Dong = '" + plainText(c.dong) + "'";
+    if (!sameUnit) sql += ", Ho = '" + plainText(c.ho) + "'";
   }
   return sql + " Where Code = " + QString::number(c.code);
 }
