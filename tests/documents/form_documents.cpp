@@ -61,14 +61,8 @@ struct DocumentForms : tests::DocumentDesk {
       sale(u"2026-03-%1"_s.arg(20 + line / 2), 1 + line % 2, 34'500, line % 4 + 1);
   }
   QString pending() { return inYear("Select Count(*) From Sale Where DealList = 0"); }
-  static void press(QWidget& form, const char* name) {
-    QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
-  }
-  static void turnTo(QWidget& form, int page) {
-    form.findChild<QTabBar*>("tabSection")->setCurrentIndex(page);
-  }
-  static void click(Spread& grid, int row, int col) {
-    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, grid.cellRect(row, col).center());
+  void found(int code, const char* name) {
+    pickers.found = {.any = true, .trader = ClientChoice{code, name}};
   }
 
   DocumentPickers pickers;
@@ -77,35 +71,57 @@ struct DocumentForms : tests::DocumentDesk {
   FormContext context{session, pickers, commands, calls};
 };
 
-struct DealForm : DocumentForms {
-  DealForm() : form(context) {
+/** One of the windows with a list. */
+template <class Form>
+struct OnForm : DocumentForms {
+  Form form{context};
+  Spread* const grid = part<Spread>("grdList");
+
+  template <class W>
+  W* part(const char* name) {
+    return form.template findChild<W*>(name);
+  }
+  QString label(const char* name) { return part<QLabel>(name)->text(); }
+  QString box(const char* name) { return part<QLineEdit>(name)->text(); }
+  void press(const char* name) { QTest::mouseClick(part<QPushButton>(name), Qt::LeftButton); }
+  void choose(const char* name) { part<QAbstractButton>(name)->click(); }
+  void turnTo(int page) { part<QTabBar>("tabSection")->setCurrentIndex(page); }
+  QString cell(int row, int col) { return grid->model().text(row, col); }
+  int rows() { return grid->model().MaxRows(); }
+  QPoint placeOf(int row, int col) { return grid->cellRect(row, col).center(); }
+  void click(int row, int col) { QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, placeOf(row, col)); }
+  void go(int row, int col) {
+    grid->setFocus();
+    grid->setActiveCell(row, col);
+  }
+};
+
+struct DealForm : OnForm<FrmDealList> {
+  DealForm() {
     form.Open("2026-03-01", "2026-03-31");
     tests::show(form);
   }
   void tickFirst() {
-    grid->setFocus();
-    grid->setActiveCell(1, DealCol::Item);
+    go(1, DealCol::Item);
     tests::key(Qt::Key_Space);
   }
-  QString tick(int row) { return grid->model().text(row, DealCol::Tick); }
-  FrmDealList form;
-  Spread* const grid = form.findChild<Spread*>("grdList");
-  QLineEdit* const client = form.findChild<QLineEdit*>("txtinput");
-  QLineEdit* const code = form.findChild<QLineEdit*>("txtCCode");
+  QString tick(int row) { return cell(row, DealCol::Tick); }
+  DateBox *const from = part<DateBox>("txtDate(0)"), *const to = part<DateBox>("txtDate(1)");
+  QLineEdit* const client = part<QLineEdit>("txtinput");
 };
 
 TEST_F(DealForm, OpensOnTheRangeAndTellsThePrinter) {
   EXPECT_EQ(form.windowTitle(), "거래명세표 발행 - 현재 설정된 프린터 : 지로프린터");
   EXPECT_EQ(form.openingKey(), "2026-03-00");
-  EXPECT_EQ(grid->model().MaxRows(), 16);
-  EXPECT_EQ(form.findChild<QLabel*>("pnlSum")->text(), "1,380,000 ");  // 40 pieces at 34,500
-  EXPECT_TRUE(form.findChild<QCheckBox*>("chkForm")->isChecked());
-  EXPECT_TRUE(form.findChild<QRadioButton*>("OptGubun(2)")->isChecked());
+  EXPECT_EQ(rows(), 16);
+  EXPECT_EQ(label("pnlSum"), "1,380,000 ");  // 40 pieces at 34,500
+  EXPECT_TRUE(part<QCheckBox>("chkForm")->isChecked());
+  EXPECT_TRUE(part<QRadioButton>("OptGubun(2)")->isChecked());
   form.resize(form.sizeHint());
   tests::grab(form, "FrmDealList");
   form.Open({}, {});
-  EXPECT_EQ(form.findChild<QLineEdit*>("txtDate(0)")->text(), "2026-03-31");
-  EXPECT_EQ(form.findChild<QLabel*>("pnlSum")->text(), "");
+  EXPECT_EQ(box("txtDate(0)"), "2026-03-31");
+  EXPECT_EQ(label("pnlSum"), "");
 }
 
 TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
@@ -116,23 +132,22 @@ TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
   tests::key(Qt::Key_Down, Qt::ShiftModifier);
   tests::key(Qt::Key_Space);
   EXPECT_EQ(tick(1) + tick(2) + tick(3), "11");
-  click(*grid, 5, DealCol::Item);
+  click(5, DealCol::Item);
   EXPECT_EQ(tick(5), "") << "a click chooses a row, nothing more";
-  QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->cellRect(5, DealCol::Item).center());
+  QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, placeOf(5, DealCol::Item));
   EXPECT_EQ(tick(5), "1");
-  click(*grid, 6, DealCol::Tick);
+  click(6, DealCol::Tick);
   EXPECT_EQ(tick(6), "1");
-  const QPoint from = grid->cellRect(8, DealCol::Item).center(),
-               to = grid->cellRect(10, DealCol::Item).center();
-  QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier, from);
-  QMouseEvent drag(QEvent::MouseMove, to, grid->viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+  const QPoint begin = placeOf(8, DealCol::Item), end = placeOf(10, DealCol::Item);
+  QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier, begin);
+  QMouseEvent drag(QEvent::MouseMove, end, grid->viewport()->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
                    Qt::NoModifier);
   QApplication::sendEvent(grid->viewport(), &drag);
-  QTest::mouseRelease(grid->viewport(), Qt::LeftButton, Qt::NoModifier, to);
+  QTest::mouseRelease(grid->viewport(), Qt::LeftButton, Qt::NoModifier, end);
   EXPECT_EQ(tick(7) + tick(8) + tick(9) + tick(10) + tick(11), "111");
-  form.findChild<QCheckBox*>("ChkAll")->click();
+  choose("ChkAll");
   EXPECT_EQ(tick(16), "1");
-  form.findChild<QCheckBox*>("ChkAll")->click();
+  choose("ChkAll");
   EXPECT_EQ(tick(1), "0");
 }
 
@@ -145,50 +160,50 @@ TEST_F(DealForm, TheCustomerIsChosenAndForgotten) {
   client->setText("없는집");
   pc.prompts.expect("검색된 거래처가 없습니다.");
   tests::key(Qt::Key_Return);
-  pickers.found = {.any = true, .trader = ClientChoice{2, "바다식당"}};
+  found(2, "바다식당");
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(code->text(), "2");
-  EXPECT_EQ(grid->model().MaxRows(), 8);
+  EXPECT_EQ(box("txtCCode"), "2");
+  EXPECT_EQ(rows(), 8);
   client->setFocus();
   client->clear();
-  form.findChild<QLineEdit*>("txtDate(0)")->setFocus();
+  from->setFocus();
   QApplication::processEvents();
-  EXPECT_EQ(code->text(), "");
+  EXPECT_EQ(box("txtCCode"), "");
 }
 
 TEST_F(DealForm, ATypedNameIsLookedUpBeforeItsLinesAreAndTheArrowsLeaveTheBox) {
   tests::key(Qt::Key_Insert);
-  pickers.found = {.any = true, .trader = ClientChoice{2, "바다식당"}};
+  found(2, "바다식당");
   tests::key(Qt::Key_Return);
   tests::key(Qt::Key_Insert);
   client->selectAll();
   tests::type("x");
-  EXPECT_EQ(code->text(), "") << "it is no longer the customer chosen before";
-  pickers.found = {.any = true, .trader = ClientChoice{1, "한라식당"}};
-  press(form, "btnSearch");
+  EXPECT_EQ(box("txtCCode"), "") << "it is no longer the customer chosen before";
+  found(1, "한라식당");
+  press("btnSearch");
   EXPECT_EQ(client->text(), "한라식당");
-  EXPECT_EQ(grid->model().text(1, DealCol::ClientName), "한라식당");
-  EXPECT_EQ(grid->model().MaxRows(), 8);
+  EXPECT_EQ(cell(1, DealCol::ClientName), "한라식당");
+  EXPECT_EQ(rows(), 8);
   client->setFocus();
   tests::key(Qt::Key_Delete);
   tests::key(Qt::Key_Up);
-  EXPECT_TRUE(form.findChild<QLineEdit*>("txtDate(1)")->hasFocus());
+  EXPECT_TRUE(to->hasFocus());
   client->setFocus();
   tests::key(Qt::Key_Down);
-  EXPECT_TRUE(form.findChild<QPushButton*>("btnSearch")->hasFocus());
+  EXPECT_TRUE(part<QPushButton>("btnSearch")->hasFocus());
   tests::key(Qt::Key_Delete);  // lines are deleted from the list alone
 }
 
 TEST_F(DealForm, APrinterThatFailsInTheMiddleLeavesAllOfThemAmongTheIssued) {
-  form.findChild<QCheckBox*>("ChkAll")->click();
+  choose("ChkAll");
   printers.refusesFromPage = 3;
   whenMenu(chooseFirst);
   pc.prompts.expect("거래명세표를 모두 인쇄하지 못했습니다.\n발행한 내역에서 다시 인쇄하세요.");
-  press(form, "btnPrint");
+  press("btnPrint");
   EXPECT_TRUE(printers.jobs.back()->abandoned);
   EXPECT_EQ(pending(), "0");
-  turnTo(form, 1);
-  EXPECT_EQ(grid->model().MaxRows(), 16);
+  turnTo(1);
+  EXPECT_EQ(rows(), 16);
 }
 
 TEST_F(DealForm, WithoutItsPrinterNothingIsIssuedButThePapersAreLookedAtAndSaved) {
@@ -196,12 +211,12 @@ TEST_F(DealForm, WithoutItsPrinterNothingIsIssuedButThePapersAreLookedAtAndSaved
   tickFirst();
   whenMenu(chooseFirst);
   pc.prompts.expect("없는 프린터");
-  press(form, "btnPrint");
+  press("btnPrint");
   EXPECT_EQ(pending(), "16");
-  press(form, "btnPdf");
+  press("btnPdf");
   ASSERT_EQ(printers.jobs.size(), 1u);
   EXPECT_EQ(printers.jobs[0]->title, "2026-03-31 한라식당 거래명세표");
-  press(form, "btnPreview");
+  press("btnPreview");
   bool isShown = false;
   for (QWidget* window : QApplication::topLevelWidgets())
     if (window->objectName() == "FrmPaperView") {
@@ -213,7 +228,6 @@ TEST_F(DealForm, WithoutItsPrinterNothingIsIssuedButThePapersAreLookedAtAndSaved
 }
 
 TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
-  auto* const from = form.findChild<DateBox*>("txtDate(0)");
   from->setFocus();
   from->setDateText("2026-13-01");
   pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
@@ -222,9 +236,9 @@ TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
   EXPECT_EQ(from->text(), "2026-03-01");
   EXPECT_TRUE(from->hasFocus());
   from->setDateText("2026-03-31");
-  form.findChild<DateBox*>("txtDate(1)")->setFocus();
+  to->setFocus();
   QApplication::processEvents();
-  form.findChild<DateBox*>("txtDate(1)")->setDateText("2026-03-30");
+  to->setDateText("2026-03-30");
   pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
   tests::key(Qt::Key_Return);
   QApplication::processEvents();
@@ -232,9 +246,9 @@ TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
 }
 
 TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
-  turnTo(form, 1);
-  EXPECT_EQ(grid->model().text(1, DealCol::Code), "");
-  turnTo(form, 0);
+  turnTo(1);
+  EXPECT_EQ(cell(1, DealCol::Code), "");
+  turnTo(0);
   tickFirst();
   pickers.method = PrintMethodChoice{false, 1};
   whenMenu([](QMenu& menu) {
@@ -242,112 +256,104 @@ TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
     EXPECT_EQ(menu.actions().at(2)->text(), " 취          소 ");
     chooseFirst(menu);
   });
-  press(form, "btnPrint");
+  press("btnPrint");
   EXPECT_EQ(pickers.asked.title, "거래명세표 발행");
   EXPECT_EQ(pickers.asked.inkjet, "잉크젯(레이저)(&L)");
   ASSERT_EQ(printers.jobs.size(), 1u);
   EXPECT_TRUE(printers.jobs[0]->ended);
   EXPECT_TRUE(printers.jobs[0]->texts().contains("C O D E"));
   EXPECT_EQ(pending(), "15");
-  EXPECT_EQ(grid->model().MaxRows(), 15) << "it left the list";
-  turnTo(form, 1);
-  EXPECT_EQ(grid->model().text(1, DealCol::ClientName), "한라식당");
+  EXPECT_EQ(rows(), 15) << "it left the list";
+  turnTo(1);
+  EXPECT_EQ(cell(1, DealCol::ClientName), "한라식당");
   tests::show(form);  // the bar of the run was in front
   grid->setFocus();
   tests::key(Qt::Key_Space);
   printers.refusal = "용지가 없습니다.";
   pc.prompts.expect("용지가 없습니다.\n\n거래명세표를 모두 인쇄하지 못했습니다.");
-  press(form, "btnPrint");
+  press("btnPrint");
   EXPECT_EQ(pending(), "15");
 }
 
 TEST_F(DealForm, LeavingTheQuestionIssuesNothing) {
   grid->setFocus();
-  form.findChild<QCheckBox*>("ChkAll")->click();
+  choose("ChkAll");
   whenMenu([](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
-  press(form, "btnPrint");
+  press("btnPrint");
   pickers.method = {};
   whenMenu(chooseFirst);
-  press(form, "btnPrint");
+  press("btnPrint");
   EXPECT_EQ(pending(), "16");
 }
 
 TEST_F(DealForm, AQuantityTheLedgerRefusesComesBack) {
-  grid->setFocus();
-  grid->setActiveCell(1, DealCol::Quantity);
+  go(1, DealCol::Quantity);
   tests::type("7");
   pc.prompts.expect("거래내역을 수정하는 중 오류가 발생했습니다.");
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(grid->model().text(1, DealCol::Quantity), "1");
+  EXPECT_EQ(cell(1, DealCol::Quantity), "1");
   EXPECT_FALSE(grid->isEditing());
   pc.prompts.expect("삭제할 내역을 선택하세요.");
   tests::key(Qt::Key_Delete);
 }
 
-struct TaxForm : DocumentForms {
-  TaxForm() : form(context) { tests::show(form); }
-  QString label(const char* name) { return form.findChild<QLabel*>(name)->text(); }
-  QString box(const char* name) { return form.findChild<QLineEdit*>(name)->text(); }
-  FrmTax form;
-  Spread* const grid = form.findChild<Spread*>("grdList");
+struct TaxForm : OnForm<FrmTax> {
+  TaxForm() { tests::show(form); }
 };
 
 TEST_F(TaxForm, GathersTheMonthAndShowsItsSums) {
   EXPECT_EQ(form.windowTitle(), "세금계산서 발행 - 현재 설정된 프린터 : 지로프린터");
   EXPECT_EQ(box("txtDate(0)") + box("txtDate(1)"), "2026-03-012026-03-31");
   EXPECT_EQ(box("Txt일련번호1") + '-' + box("Txt일련번호2"), "2603-001");
-  EXPECT_EQ(grid->model().MaxRows(), 2);
+  EXPECT_EQ(rows(), 2);
   EXPECT_EQ(label("pnlSum(2)"), "1,380,000");
   EXPECT_EQ(label("pnlCaption"), " 발행할 거래내역을 선택하세요. [선택:Space 또는 Click]");
   form.resize(form.sizeHint());
   tests::grab(form, "FrmTax");
-  click(*grid, 2, TaxCol::Client);
-  form.findChild<QCheckBox*>("ChkVat")->click();
+  click(2, TaxCol::Client);
+  choose("ChkVat");
   EXPECT_EQ(label("pnlSum(1)"), "");
-  EXPECT_EQ(grid->model().text(1, TaxCol::Tick) + grid->model().text(2, TaxCol::Tick), "1")
-      << "another choice of tax keeps the ticks";
-  form.findChild<QRadioButton*>("OptVat(1)")->click();
-  EXPECT_FALSE(form.findChild<QCheckBox*>("ChkVat")->isChecked());
+  EXPECT_EQ(cell(1, TaxCol::Tick) + cell(2, TaxCol::Tick), "1") << "another choice of tax keeps the ticks";
+  choose("OptVat(1)");
+  EXPECT_FALSE(part<QCheckBox>("ChkVat")->isChecked());
   EXPECT_EQ(label("pnlSum(2)"), "1,518,000");
-  form.findChild<QRadioButton*>("OptGubun(1)")->click();
-  EXPECT_EQ(grid->model().MaxRows(), 16);
+  choose("OptGubun(1)");
+  EXPECT_EQ(rows(), 16);
   grid->setFocus();
   tests::key(Qt::Key_Delete);  // nothing is deleted but from the register
-  EXPECT_EQ(grid->model().MaxRows(), 16);
+  EXPECT_EQ(rows(), 16);
 }
 
 TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
   grid->setFocus();
-  click(*grid, 1, TaxCol::Client);
-  EXPECT_EQ(grid->model().text(1, TaxCol::Tick), "1");
+  click(1, TaxCol::Client);
+  EXPECT_EQ(cell(1, TaxCol::Tick), "1");
   pickers.method = PrintMethodChoice{false, 1};
   tests::key(Qt::Key_F4);
   EXPECT_EQ(pickers.asked.prompt, "세금계산서 발행 방법을 선택하세요.");
-  EXPECT_EQ(grid->model().MaxRows(), 1);
+  EXPECT_EQ(rows(), 1);
   EXPECT_EQ(box("Txt일련번호2"), "002");
-  turnTo(form, 1);
-  EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "2603001");
+  turnTo(1);
+  EXPECT_EQ(cell(1, TaxCol::TaxCode), "2603001");
   tests::show(form);  // the bar of the run was in front
-  grid->setFocus();
-  grid->setActiveCell(1, TaxCol::Client);
+  go(1, TaxCol::Client);
   pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
   tests::key(Qt::Key_Delete);
-  EXPECT_EQ(grid->model().text(1, TaxCol::TaxCode), "");
-  turnTo(form, 0);
-  EXPECT_EQ(grid->model().MaxRows(), 1) << "its lines do not come back";
+  EXPECT_EQ(cell(1, TaxCol::TaxCode), "");
+  turnTo(0);
+  EXPECT_EQ(rows(), 1) << "its lines do not come back";
 }
 
 TEST_F(TaxForm, F5ChangesTheIssueDateAndEscLeavesTheDatesFirst) {
-  grid->setFocus();
-  grid->setActiveCell(1, TaxCol::Client);
+  go(1, TaxCol::Client);
   tests::key(Qt::Key_F5);
   ASSERT_TRUE(grid->isEditing());
   tests::key(Qt::Key_A, Qt::ControlModifier);
   tests::type("20260330");
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(grid->model().text(1, TaxCol::IssueDate), "2026-03-30");
+  EXPECT_EQ(cell(1, TaxCol::IssueDate), "2026-03-30");
   tests::key(Qt::Key_Insert);
-  EXPECT_TRUE(form.findChild<QLineEdit*>("txtDate(0)")->hasFocus());
+  EXPECT_TRUE(part<QLineEdit>("txtDate(0)")->hasFocus());
   tests::key(Qt::Key_Escape);
   EXPECT_TRUE(form.isVisible());
   tests::key(Qt::Key_F1);
@@ -356,36 +362,36 @@ TEST_F(TaxForm, F5ChangesTheIssueDateAndEscLeavesTheDatesFirst) {
   EXPECT_EQ(commands.asked.back(), "FrmMargin:세금계산서") << "invoices are typed in the other mode";
   form.showPage("1");
   EXPECT_EQ(label("pnlCaption"), " F2키를 눌러 발행할 내역을 먼저 입력하세요.");
-  EXPECT_FALSE(form.findChild<QPushButton*>("Cmd모으기")->isEnabled());
+  EXPECT_FALSE(part<QPushButton>("Cmd모으기")->isEnabled());
   tests::key(Qt::Key_F2);
   EXPECT_EQ(commands.asked.back(), "FrmNewAcount:2026-03-31,2026-03-31");
 }
 
-TEST_F(DocumentForms, TypingAnInvoiceByKeys) {
-  FrmNewAcount form(context);
+struct AcountForm : OnForm<FrmNewAcount> {};
+
+TEST_F(AcountForm, TypingAnInvoiceByKeys) {
   tests::show(form);
-  auto* const grid = form.findChild<Spread*>("grdList");
-  EXPECT_TRUE(form.findChild<QLineEdit*>("txtinput")->hasFocus());
+  EXPECT_TRUE(part<QLineEdit>("txtinput")->hasFocus());
   grid->setFocus();
   pc.prompts.expect("거래처를 먼저 선택하여 주십시요.");
   tests::type("a");
-  EXPECT_TRUE(form.findChild<QLineEdit*>("txtinput")->hasFocus());
-  pickers.found = {.any = true, .trader = ClientChoice{1, "한라식당"}};
+  EXPECT_TRUE(part<QLineEdit>("txtinput")->hasFocus());
+  found(1, "한라식당");
   tests::key(Qt::Key_Return);
   EXPECT_TRUE(grid->isAncestorOf(QApplication::focusWidget()));
   for (const char* typed : {"gas", "20", "0", "2", "1000"}) {
     tests::type(typed);
     tests::key(Qt::Key_Return);
   }
-  EXPECT_EQ(grid->model().text(1, AcountCol::Total), "2,200");
-  EXPECT_EQ(form.findChild<QLabel*>("pnlSum(1)")->text(), "200");
+  EXPECT_EQ(cell(1, AcountCol::Total), "2,200");
+  EXPECT_EQ(label("pnlSum(1)"), "200");
   tests::key(Qt::Key_Return);
   tests::key(Qt::Key_Return);
   EXPECT_EQ(grid->activeRow(), 2);
   tests::grab(form, "FrmNewAcount");
   pc.prompts.expect("세금계산서 내역을 저장하시겠습니까?", true);
   pc.prompts.expect("[닫기]버튼을 누르시면 계산서를 발행하실 수 있습니다");
-  press(form, "btnQuit");
+  press("btnQuit");
   EXPECT_FALSE(form.isVisible());
   FrmTax tax(context);
   auto* const list = tax.findChild<Spread*>("grdList");
