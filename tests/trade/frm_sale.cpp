@@ -67,6 +67,11 @@ struct FrmSale : testing::Test, tests::SaleDesk {
     asked();
     tests::enter(typed);
   }
+  void typeDay(const char* typed) {
+    date->setFocus();
+    date->selectAll();
+    QTest::keyClicks(date, typed);
+  }
   void asked() { pc.prompts.expect("선택된 자료를 변경하시겠습니까?"); }
 };
 
@@ -170,9 +175,7 @@ TEST_F(FrmSale, DaysAreCheckedAndReloadTheSheet) {
   sold("'2026-03-02', 1, 1, False, 'LPG', '20'");
   EXPECT_EQ(date->text(), "03-05");
   const auto setDay = [&](const char* typed) {
-    date->setFocus();
-    date->selectAll();
-    QTest::keyClicks(date, typed);
+    typeDay(typed);
     QTest::keyClick(date, Qt::Key_Return);
     QCoreApplication::processEvents();
   };
@@ -306,11 +309,6 @@ TEST_F(FrmSale, ADayTypedBeforeAnotherWindowCameIsTakenWhenTheGridIsGoneTo) {
 TEST_F(FrmSale, ADayStillBeingTypedCountsForAnotherSheetAndForTheDaysFigures) {
   sold("'2026-03-02', 1, 7, False, '밸브', '15A'");
   sold("'2026-03-03', 1, 7, False, '밸브', '15A'");
-  const auto typeDay = [&](const char* typed) {
-    date->setFocus();
-    date->selectAll();
-    QTest::keyClicks(date, typed);
-  };
   typeDay("0302");
   tabs()->setCurrentIndex(2);
   QCoreApplication::processEvents();
