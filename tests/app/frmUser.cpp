@@ -105,6 +105,12 @@ TEST_F(UserForm, WhatWasTypedGoesOnlyAfterAQuestionAndNothingOfAnotherPcIsWritte
   prompts.expect("버리시겠습니까?");  // the profile's page still holds its "x"
   tests::key(Qt::Key_Escape);
   EXPECT_EQ(company->text(), "Gas");
+  rate->setFocus();
+  tests::type("1");
+  prompts.expect("버리시겠습니까?", false);
+  form.close();
+  EXPECT_TRUE(form.isVisible()) << "the settings alone are asked about too";
+  prompts.expect("버리시겠습니까?");
   form.close();
   EXPECT_FALSE(form.isVisible());
 }

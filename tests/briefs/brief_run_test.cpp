@@ -105,6 +105,8 @@ TEST_F(BriefRunTest, RowsOfAllYearsAskedForAreOne) {
   ASSERT_TRUE(load("2023-01-01", "2025-12-31"));
   EXPECT_EQ(rows().last(), "[합 계]||11|");
   EXPECT_EQ(brief.rows(0).note, "2023, 2024년은 자료 파일이 없어 빠졌습니다.");
+  ASSERT_TRUE(load("2021-12-31", "2025-12-31"));
+  EXPECT_EQ(brief.rows(0).note, "2021, 2022, 2023, 2024년은 자료 파일이 없어 빠졌습니다.");
   ASSERT_TRUE(load("1026-01-01", "2026-01-02")) << "a year typed wrongly is no long way";
   EXPECT_EQ(brief.rows(0).note, "1026, 1027, 1028, 1029년 등은 자료 파일이 없어 빠졌습니다.");
   pc.prompts.expect("없습니다!");

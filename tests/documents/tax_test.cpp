@@ -141,6 +141,10 @@ TEST_F(Taxes, ByDayAndOverTwoYearsEachMonthHasItsOwnNumbers) {
   EXPECT_EQ(cells(desk, 3, {DealDate, Total, Item, TaxCode}), "2026-01-02|4400|LPG|2601043");
   desk.ticks().setAll(true);
   serial = "2601042";
+  const tests::RecordedJob shown = print(desk.papers(ask, serial, {}));
+  for (int page = 1; page <= 3; ++page)
+    EXPECT_TRUE(shown.texts(page).contains(QStringList{"2512-001", "2601-042", "2601-043"}[page - 1]))
+        << "before the issue they are seen with the numbers that they will have";
   const auto& job = issue(ask);
   EXPECT_EQ(job.pages, 3);
   EXPECT_EQ(serial, "2601044");

@@ -19,6 +19,7 @@ TEST(SeeIdLines, UnderstandsWhatUnitsSend) {
   EXPECT_EQ(heard("NMBR = 053-123-4567\r"), "1:0531234567");
   EXPECT_EQ(heard("02123"), "") << "a read may end anywhere";
   EXPECT_EQ(heard("45678\r"), "2:0212345678");
+  EXPECT_EQ(heard("NMBR=114\r119\r12\r"), "1:114 2:119 0:") << "an extension has three digits";
   EXPECT_EQ(heard("NMBR=P\rNMBR=\rNAME=012\r"), "0: 0: 0:") << "withheld numbers carry none";
   EXPECT_EQ(heard(QByteArray("\xff\x00\x81", 3) + "0531234567\r"), "0:") << "noise before a number spoils it";
   EXPECT_EQ(heard(QByteArray(100000, '7') + "\r0531234567\r"), "2:0531234567")

@@ -96,12 +96,14 @@ TEST_F(FleetTest, AChangeIsAskedAboutAndMeetsWhatAnotherPcWrote) {
   EXPECT_EQ(line(log.grid(), 1), u"2026-03-01|1234|타이어 4개|90000|박기사|1"_s);
 
   log.finishCell(2, CarCol::CarNo, u"777"_s);
+  log.finishCell(2, CarCol::Person, u"최기사"_s);
   run(u"Delete * From Car"_s);
   prompts.expect(change);
   prompts.expect(u"다른 PC나 화면에서 이미 삭제된 자료입니다!"_s);
   EXPECT_EQ(log.finishCell(1, CarCol::Money, u"1"_s), CarCell::Reread);
   ASSERT_EQ(log.grid().MaxRows(), 1);
-  EXPECT_EQ(log.grid().text(1, CarCol::CarNo), u"777"_s) << "the line that was begun is still there";
+  EXPECT_EQ(line(log.grid(), 1), log.grid().text(1, CarCol::Day) + u"|777|||최기사|"_s)
+      << "the line that was begun is still there";
 }
 
 TEST_F(FleetTest, ADeletionAsksAndSparesWhatMoved) {

@@ -71,6 +71,17 @@ TEST_F(PartnerRegistersTest, LinesOfPurchaseFollowTheirStationsNewName) {
   ASSERT_TRUE(rename(1, u"새한강"_s));
   EXPECT_EQ(stations(pc.session.dbYear), QStringList({u"새한강"_s, u"낙동"_s}));
   EXPECT_EQ(stations(lastYear()), QStringList({u"새한강"_s}));
+  const QString lastFile = yearFile(pc.session, u"2025"_s);
+  ASSERT_TRUE(QFile::remove(pc.pc.paths.native(lastFile)));
+  QFile broken(pc.pc.paths.native(lastFile));
+  ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+  broken.write("no data file");
+  broken.close();
+  pc.prompts.expect(lastFile + u"\n파일을 열 수 없어 이 해의 구매자료는 예전 상호로 남았습니다!"_s);
+  ASSERT_TRUE(rename(1, u"한강"_s));
+  EXPECT_EQ(stations(pc.session.dbYear), QStringList({u"한강"_s, u"낙동"_s}));
+  ASSERT_TRUE(broken.remove());
+  ASSERT_TRUE(rename(1, u"새한강"_s));
   ASSERT_TRUE(rename(2, u"영남"_s));
   EXPECT_EQ(stations(pc.session.dbYear), QStringList({u"새한강"_s, u"낙동"_s}))
       << "another station of the old name keeps the lines";

@@ -140,13 +140,14 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   for (int at = 1; at <= 700; ++at)
     many.push_back({at, u"손님%1"_s.arg(at), at * 1.5, at % 2 == 0, 0, null, null, null});
   many.push_back({701, longName, 3e9, false, 0, null, null, null});
-  put(u"Basic.mdb"_s, {clients(many),
-                       {u"User"_s,
-                        {{u"Company"_s}, {u"Rate"_s, JetType::Single}, {u"PayState"_s}},
-                        {{u"가스"_s, 0.3f, u"반올림"_s}}},
-                       {u"Bank"_s,
-                        {{u"BName"_s}, {u"BNumber"_s}, {u"BUser"_s}},
-                        {{u"Bank"_s, u"1-2"_s, u"가"_s}, {u"BANK"_s, u"1-2 "_s, u"나"_s}}}});
+  put(u"Basic.mdb"_s,
+      {clients(many),
+       {u"User"_s,
+        {{u"Company"_s}, {u"Rate"_s, JetType::Single}, {u"PayState"_s}},
+        {{u"가스"_s, 0.3f, u"반올림"_s}}},
+       {u"Bank"_s,
+        {{u"BName"_s}, {u"BNumber"_s}, {u"BUser"_s}},
+        {{u"Bank"_s, u"1-2"_s, u"가"_s}, {u"BANK"_s, u"1-2 "_s, u"나"_s}, {null, u"3"_s, u"다"_s}}}});
   put(u"dbDetail.mdb"_s,
       {{u"DealList"_s,
         {{u"DealDate"_s}, {u"CCode"_s}, {u"SaleSeq"_s}, {u"UnitCost"_s, JetType::Double}},
@@ -156,10 +157,10 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select Count(*), Sum(GasInit), Max(Len(Name)) From Client"_s),
             "701|3000368025|60");  // 1.5 x 700 x 701 / 2 = 368025, and 3,000,000,000
   EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select Rate, PayState From User"_s), "0.3|-");
-  EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select BUser From Bank Order By BUser"_s), "가\n나");
+  EXPECT_EQ(rows(u"Basic.mdb"_s, u"Select BUser From Bank Order By BUser"_s), "가\n나\n다");
   EXPECT_EQ(rows(u"dbDetail.mdb"_s, u"Select DealDate, CCode, UnitCost From DealList"_s), "2026-03-02||0.1");
   const QString text = report.text();
-  EXPECT_TRUE(text.contains(u"열쇠(BName, BNumber)가 겹치거나 빈 줄 1개"_s)) << text.toStdString();
+  EXPECT_TRUE(text.contains(u"열쇠(BName, BNumber)가 겹치거나 빈 줄 2개"_s)) << text.toStdString();
   EXPECT_TRUE(text.contains(u"Name: 50자에서 60자로 넓힘"_s)) << text.toStdString();
   EXPECT_TRUE(text.contains(u"PayState: 숫자가 아니어서 비워 둔 값 1개 (반올림)"_s)) << text.toStdString();
 }

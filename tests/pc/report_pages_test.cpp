@@ -146,6 +146,9 @@ TEST_F(ReportPagesTest, TotalsNeverStandAlone) {
   const pc::ReportPages pages(layout, many);
   EXPECT_EQ(pages.total()[1].text(), "12502500");
   EXPECT_EQ(pages.rowsCounted(), 5000);
+  layout.summary = {{{{.points = 9.6, .text = "모두"}}}};  // 0.2 inch
+  EXPECT_EQ(shape(table(7)), QStringList({"H7Su"}));
+  EXPECT_EQ(shape(table(8)), QStringList({"H7", "H1Su"}));
 }
 
 TEST_F(ReportPagesTest, TitleOnceFootOnEveryPage) {

@@ -77,6 +77,10 @@ TEST_F(CreditTest, CreditOfLastYearKeepsItsAge) {
   sale({.day = "2026-01-05", .trust = 1000});
   BriefRun run(session, trustBrief());
   EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|6000|3000");
+
+  session.WorkYear = "2025";  // last year's book is open: what was sold since its beginning is 27,900
+  session.dbYear = last;
+  EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||2100|27900|0|0|0|30000|0|30000|21000|0|6000|3000");
 }
 
 }  // namespace

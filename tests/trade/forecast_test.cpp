@@ -123,6 +123,11 @@ TEST_F(Forecasts, TheReservedDayIsWrittenAtOnce) {
   forecast.ExtractForecast(ForecastOf::All, "", {});
   EXPECT_TRUE(forecast.setReserved(1, "02-03")) << "with the box of the year empty";
   EXPECT_EQ(stored(), "02-03");
+  makeYearFile(pc.session, "2024");
+  sold("'2024-01-01', 1, 1, False", openYear(pc.session, "2024"));
+  ASSERT_TRUE(forecast.ExtractForecast(ForecastOf::All, "2024", {}));
+  EXPECT_TRUE(forecast.setReserved(1, "02-29")) << "a day of the year that was asked for";
+  EXPECT_EQ(stored(), "02-29");
 }
 
 TEST_F(Forecasts, StopsWhereItIsToldTo) {

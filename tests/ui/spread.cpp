@@ -224,6 +224,25 @@ TEST_F(SpreadTest, KeysWithModifiersAreNotThePlainKeys) {
       << "Shift may still be held from the last letter";
 }
 
+TEST_F(SpreadTest, TabWalksThroughTheRowsAndOutAtTheEnds) {
+  const auto at = [&] { return u"%1,%2"_s.arg(grid->activeRow()).arg(grid->activeCol()); };
+  grid->setActiveCell(1, 6);
+  tests::key(Qt::Key_Tab);
+  EXPECT_EQ(at(), u"1,8"_s) << "the hidden one is passed over";
+  tests::key(Qt::Key_Tab);
+  EXPECT_EQ(at(), u"2,1"_s);
+  tests::key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(at(), u"1,8"_s);
+  grid->setActiveCell(1, 1);
+  tests::key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(at(), u"1,1"_s);
+  EXPECT_FALSE(grid->hasFocus());
+  grid->setFocus();
+  grid->setActiveCell(3, 8);
+  tests::key(Qt::Key_Tab);
+  EXPECT_TRUE(below->hasFocus());
+}
+
 // An amount that was never typed must not be posted as 0.
 TEST_F(SpreadTest, ACellOpensOnlyForWhatItCanTake) {
   const auto clip = [](const QString& text) { QApplication::clipboard()->setText(text); };
