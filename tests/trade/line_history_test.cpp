@@ -42,6 +42,7 @@ TEST_F(LastOffer, IsTheNewestLineOfTheSheetWithItsPriceAndPerson) {
   EXPECT_EQ(offered(), "LPG/50 86000 홍길동") << "of one day the line entered last";
   gas("2026-03-04", "False", "20", 0);
   EXPECT_EQ(offered(), "LPG/20 41000 홍길동") << "without a price at the catalogue's";
+  EXPECT_EQ(offered(SaleSheet::Volume), "LPG/50 90000 홍길동") << "and the other sheet's are not the meter's";
   gas("2026-03-05", "False", "20", 39000, "떠난이");
   EXPECT_EQ(offered(), "LPG/20 39000 ") << "who has left is not offered";
 }

@@ -133,10 +133,12 @@ TEST_F(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
   EXPECT_EQ(entry.finishCell(row, LineCol::Date, "02-30").col, LineCol::Date);
   EXPECT_EQ(cell(row, LineCol::Date) + posting.date(), "");
   EXPECT_EQ(rows("Select SaleDate From Sale"), "2026-02-10") << "a wrong day is never written";
-  for (int time = 0; time < 4; ++time) pc.prompts.expect("날짜를 입력하세요");
+  for (int time = 0; time < 5; ++time) pc.prompts.expect("날짜를 입력하세요");
   EXPECT_EQ(entry.finishCell(row, LineCol::Number, "3").col, LineCol::Date) << "nor a cell without one";
   for (const char* const typed : {"LPG / 20", "50"})  // the list, and a size that is found without it
     EXPECT_EQ(entry.enterKey(row, LineCol::Item, typed).col, LineCol::Date);
+  cells().setOffer(row, LineCol::Item, "LPG / 50");
+  EXPECT_EQ(entry.enterKey(row, LineCol::Item, "LPG / 20").col, LineCol::Date) << "nor what is offered";
   EXPECT_EQ(entry.missingField(row), LineCol::Date);
   EXPECT_TRUE(posting.setDate("3.5"));
   EXPECT_EQ(posting.date(), "03-05");
