@@ -130,8 +130,9 @@ void frmEva::chooseMonth(int index) {
   command([&] {
     sheet_.month = index;
     btnNoEva_->setEnabled(maySkipReadings(sheet_));
+    // The hand stays in the list: it may be on its way to another month, and a digit of "02" is no reading.
     if (sheet_.book == HouseStyle::Individual)
-      refresh();
+      reload(1, firstColumn);
     else
       clearRows();
   });

@@ -69,7 +69,12 @@ void frmEva::buildChoice() {
   row->addStretch(1);
   body()->addLayout(row);
 
-  enterOrder({cboMon_, cboBDName_}, [this] { refresh(); });
+  enterOrder({cboMon_, cboBDName_}, [this] {
+    if (sheet_.grid.MaxRows() > 0)
+      grid_->setFocus();  // what was chosen is shown already
+    else
+      refresh();
+  });
   setHelp(txtDay_, u"검침일자를 입력/수정합니다"_s);
   whenLeft(txtDay_, [this] { leaveReadingDay(); });
   connect(txtDay_, &QLineEdit::textEdited, this, [this](const QString& text) { sheet_.readingDay = text; });

@@ -171,6 +171,20 @@ TEST_F(FrmEva, MonthsOpeningEntryAndTheButtonOfNoReadings) {
   EXPECT_EQ(field("Trust", code, 12), "5000");
 }
 
+TEST_F(FrmEva, AMonthIsChosenByItsKeysWithoutATouchOnTheReadings) {
+  customer("가람식당", 1500);
+  open();
+  auto* const months = control<QComboBox>("CboMon");
+  months->setFocus();
+  tests::type("02");
+  EXPECT_EQ(months->currentText(), "02");
+  EXPECT_FALSE(grid()->isEditing());
+  tests::key(Qt::Key_Up);
+  EXPECT_EQ(months->currentText() + ' ' + QString::number(form->readings().MaxRows()), "01 1");
+  tests::key(Qt::Key_Return);
+  EXPECT_TRUE(grid()->isAncestorOf(QApplication::focusWidget()));
+}
+
 TEST_F(FrmEva, BuildingsBlocksAndRooms) {
   // Two buildings of two blocks, three households each, read up to February.
   for (const char* dong : {"101", "102"})
