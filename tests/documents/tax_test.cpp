@@ -434,6 +434,9 @@ TEST_F(TypedTaxes, TheyAreIssuedWithAllTheirLinesAndComeBackWithThem) {
             "20260330|1234567891|2208162517|한라식당|15000|1500|01");
   EXPECT_EQ(rowOf("일자1|품목3|수량3|단가3|공급가액3"), "15|품목3|1|3000|3000");
   EXPECT_EQ(rowOf("품목4|수량4|단가4|공급가액4|세액4"), "품목4 외 1건|||9000|900") << "and the fifth in it";
+  SpreadModel four;
+  fillBulkSheet(four, {}, {{.lines = std::vector<TaxLine>(4, {.PName = "가스", .Quantity = 2})}}, false);
+  EXPECT_EQ(cellOf(four, "품목4") + cellOf(four, "수량4"), "가스2") << "four have room";
   EXPECT_EQ(sheet.MaxCols(), 22 + 4 * 8 + 5);
   int numbers = 0;
   for (int col = 1; col <= sheet.MaxCols(); ++col) numbers += sheet.column(col).kind == CellKind::Money;

@@ -186,6 +186,7 @@ TEST_F(GiroForms, EachDocumentHasItsPrinterAndMargins) {
   part<QComboBox>(printer, "CboPrinter")->setCurrentText("PDF 파일");
   click(printer, "Command1");
   EXPECT_EQ(setting("Drive", "세금계산서"), "PDF 파일");
+  EXPECT_EQ(part<QLabel>(printer, "LblChosen")->text(), "PDF 파일");
   EXPECT_EQ(setting("Drive", "거래명세표"), "");
   tests::grab(printer, "FrmSetPrinter");
   list->setCurrentRow(0);

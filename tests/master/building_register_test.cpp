@@ -215,6 +215,7 @@ TEST_F(BuildingRegisterTest, ABlockThatGetsMetersGetsItsMeterRows) {
   boxes[u"Evaporation"_s] = u"-1"_s;
   boxes[u"Pressure"_s] = u"4"_s;
   boxes[u"Eva"_s] = u"2450"_s;
+  boxes[u"Dong"_s] = u"105"_s;  // renamed in the same change
   pc.session.dbYear.Execute(u"Insert Into Evaporation(ClientCode, Mon) Values(2, 5)"_s);
   pc.prompts.expect(u"모든 가구에 대한 내용이 수정됩니다."_s);
   ASSERT_TRUE(buildings.save(boxes).done);
