@@ -258,6 +258,8 @@ TEST_F(Cylinders, WhatIsOutAtStationsAndCustomers) {
             "용기대여현황01.rpt 충전소|대구충전소|LPG|20|10|0|4|6");
   EXPECT_EQ(loadMarch(brief, {{"OptWhere", {.place = 1}}}).size(), 2);
   EXPECT_EQ(loadMarch(brief, {{"OptWhere", {.place = 2}}, {"TxtName", {.text = "하나"}}}).size(), 2);
+  EXPECT_EQ(loadMarch(brief, {{"TxtName", {.text = "하나"}}}).size(), 2)
+      << "stations of another name stay out";
   EXPECT_EQ(brief.page(0).behind(brief.ask(0), brief.cells(0, 1)).section('?', 0, 0),
             "frmAClientSaleBrief:lines");
 }
