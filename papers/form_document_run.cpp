@@ -80,15 +80,14 @@ int printRun(Session& session, QWidget* over, const DocumentRun& run, const QStr
   return runDocuments(onPrinter(session, printer), run, bar.teller());
 }
 
-void previewRun(Session& session, QWidget* over, const DocumentRun& run, std::function<void()> print) {
+void previewRun(Session& session, QWidget* over, const DocumentRun& run, const std::function<void()>& print) {
   auto pages = std::make_shared<KeptPages>();
   {
     RunBar bar(over, run.title + u" 미리보기"_s);
     const auto keep = [&](const QString&, const pc::PaperSize& paper) { return keepPages(pages, paper); };
     if (runDocuments(keep, run, bar.teller()) == 0) return;
   }
-  auto* const window =
-      new FrmPaperView(session, run.title + u" 미리보기"_s, std::move(pages), std::move(print), over);
+  auto* const window = new FrmPaperView(session, run.title + u" 미리보기"_s, std::move(pages), print, over);
   window->setWindowModality(Qt::WindowModal);
   window->resize(window->sizeHint());
   window->show();

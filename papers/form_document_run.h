@@ -9,7 +9,7 @@ class QWidget;
 int printRun(Session& session, QWidget* over, const DocumentRun& run, const QString& printer);
 
 /** The same papers in a window; its print button closes it and runs print. */
-void previewRun(Session& session, QWidget* over, const DocumentRun& run, std::function<void()> print);
+void previewRun(Session& session, QWidget* over, const DocumentRun& run, const std::function<void()>& print);
 
 /** One document asks for its file, several for a folder; each becomes a file of its own name, and one that is there
  *  already is kept: the new one gets a number. 0 when the operator leaves. */

@@ -123,10 +123,12 @@ TEST_F(FleetTest, ADeletionAsksAndSparesWhatMoved) {
   prompts.expect(u"삭제하지 않았습니다"_s);
   EXPECT_TRUE(log.remove(1));
   EXPECT_EQ(log.grid().text(1, CarCol::Money), u"60000"_s) << "read anew, to be looked at";
+  log.finishCell(2, CarCol::Day, u"2026-01-02"_s);
   log.finishCell(2, CarCol::Content, u"세차"_s);
   prompts.expect(question);
   EXPECT_TRUE(log.remove(2));
   EXPECT_FALSE(log.isBegun(2));
+  EXPECT_EQ(log.grid().text(2, CarCol::Day), pc.clock.dateText()) << "the next line begins on today again";
 }
 
 TEST_F(FleetTest, AnApostropheLosesNoLine) {
