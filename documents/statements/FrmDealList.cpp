@@ -28,8 +28,7 @@ FrmDealList::FrmDealList(FormContext& context, QWidget* parent)
   setHelp(client_, "  매출처를 선택하여 주십시요. [검색:Enter]");
   setBottomLine("[종료:Esc]  [거래처검색:Insert]");
   enterOrder({dates_->box(0), dates_->box(1)}, [this] {
-    search();
-    if (dates_->from() <= dates_->to()) focusGrid();
+    if (search()) focusGrid();
   });
   whenLeft(client_, [this] { clientLeft(); });
   onKey(Qt::Key_Escape, [this] { close(); });
@@ -166,22 +165,26 @@ DealAsk FrmDealList::ask() const {
           .tab = isPendingTab() ? DealTab::Pending : DealTab::Issued};
 }
 
-void FrmDealList::search() {
+bool FrmDealList::search() {
   const bool isUnknown = !client_->text().trimmed().isEmpty() && clientCode_->text().isEmpty();
-  if (dates_->take() && (!isUnknown || findClient())) list();
+  return dates_->take() && (!isUnknown || findClient()) && list();
 }
 
-void FrmDealList::list() {
+bool FrmDealList::list() {
   const BusyPointer busy;
   all_->setChecked(false);
   const bool found = desk_.search(ask());
   sum_->setText(desk_.found().sumText());
   if (!found) focus(dates_->box(0));
+  return found;
 }
 
 void FrmDealList::turnTab() {
   grid_->setActiveCell(1, DealCol::Date);
   search();
+  // Where the question was not taken the list is still the other tab's.
+  const QSignalBlocker still(tabs_);
+  tabs_->setCurrentIndex(desk_.tab() == DealTab::Pending ? 0 : 1);
 }
 
 /** False after telling that the name in the box is nobody's, or when the operator leaves the choice. */
@@ -200,9 +203,7 @@ bool FrmDealList::findClient() {
 }
 
 void FrmDealList::chooseClient() {
-  if (!findClient()) return;
-  search();
-  focusGrid();
+  if (findClient() && search()) focusGrid();
 }
 
 void FrmDealList::clientLeft() {

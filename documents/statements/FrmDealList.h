@@ -27,8 +27,9 @@ class FrmDealList : public DocumentForm {
   QWidget* sumRow();
   void connectGrid();
   DealAsk ask() const;
-  void search();
-  void list();
+  /** False after telling what is wrong, with the focus there. */
+  bool search();
+  bool list();
   void turnTab();
   bool findClient();
   void chooseClient();

@@ -20,6 +20,8 @@ class DealDesk {
   const DealSearch& found() const { return search_; }
 
   bool search(const DealAsk& ask);
+  /** What the list is of. */
+  DealTab tab() const { return asked_.tab; }
   /** "yyyy-mm-00": the opening balance of the newest month in a year's file; '' when it holds no sale. */
   QString openingKey(const QString& year) const;
 

@@ -238,11 +238,42 @@ TEST_F(DealForm, ADateThatIsNoneComesBackAndKeepsTheHand) {
   from->setDateText("2026-03-31");
   to->setFocus();
   QApplication::processEvents();
+  to->setDateText("2026-02-30");
+  pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
+  tests::key(Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_EQ(to->text(), "2026-03-31");
+  EXPECT_TRUE(to->hasFocus()) << "nothing was listed to go to";
   to->setDateText("2026-03-30");
   pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
   tests::key(Qt::Key_Return);
   QApplication::processEvents();
   EXPECT_TRUE(from->hasFocus());
+  client->setFocus();
+  found(2, "바다식당");
+  pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
+  tests::key(Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_TRUE(from->hasFocus());
+}
+
+TEST_F(DealForm, ATabIsTurnedOnlyWithItsList) {
+  from->setFocus();
+  from->setDateText("2026-13-01");
+  pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
+  turnTo(1);
+  EXPECT_EQ(part<QTabBar>("tabSection")->currentIndex(), 0);
+  EXPECT_EQ(rows(), 16);
+  client->setFocus();
+  tests::type("x");
+  pickers.found = {.any = false, .trader = {}};
+  pc.prompts.expect("검색된 거래처가 없습니다.");
+  turnTo(1);
+  EXPECT_EQ(part<QTabBar>("tabSection")->currentIndex(), 0);
+  client->clear();
+  turnTo(1);
+  EXPECT_EQ(part<QTabBar>("tabSection")->currentIndex(), 1);
+  EXPECT_EQ(cell(1, DealCol::Code), "");
 }
 
 TEST_F(DealForm, IssuedLinesChangeTheTabAndArePrintedAgainFromThere) {
