@@ -49,9 +49,9 @@ std::vector<int> claimDeals(Session& session, const SpreadModel& list, const std
 
 void writeDealHistory(Session& session, const jet::Database& history,
                       const std::vector<DealStatement>& statements) {
-  if (!history.isOpen()) return;
-  bool all = true;
-  history.Together([&] {
+  if (statements.empty()) return;
+  const auto write = [&] {
+    bool all = true;
     for (const DealStatement& statement : statements)
       for (const DealLine& line : statement.lines)
         all &= softly([&] {
@@ -64,6 +64,15 @@ void writeDealHistory(Session& session, const jet::Database& history,
               QString::number(line.price) + ", " + QString::number(line.amount) + ", '" +
               copiedText(line.saleId) + "')");
         });
-  });
+    return all;
+  };
+  bool all = history.isOpen();
+  try {
+    if (all) history.Together([&] { all = write(); });
+  } catch (
+      const jet::Error& error) {  // the lines are issued: their papers come whatever becomes of the history
+    session.prompts.noted(error);
+    all = false;
+  }
   if (!all) session.prompts.MsgWarn("거래명세서 내역을 저장하는 중 오류가 발생했습니다.");
 }

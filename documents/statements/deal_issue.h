@@ -12,6 +12,7 @@ enum class DealMark { SaleId, LedgerCode };
 std::vector<int> claimDeals(Session& session, const SpreadModel& list, const std::vector<int>& rows,
                             DealMark mark);
 
-/** Writes the lines of the statements into the history. Inserts that fail are told, once; the rest is written. */
+/** Writes the lines of the statements into the history. Inserts that fail are told, once; the rest is written. A history
+ *  that is not open or fails as a whole is told alike. */
 void writeDealHistory(Session& session, const jet::Database& history,
                       const std::vector<DealStatement>& statements);

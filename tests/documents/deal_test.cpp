@@ -122,6 +122,23 @@ TEST_F(Deals, AHistoryThatRefusesIsToldOnceAndThePaperComes) {
   EXPECT_FALSE(print(desk.issue({})).items.empty());
 }
 
+TEST_F(Deals, AHistoryThatIsGoneOrWasNotOpenedIsToldAndThePaperComes) {
+  sale("2026-03-02", 1, 30'000, 2);
+  tickAll(march());
+  ASSERT_TRUE(QFile::remove(session.pc.paths.native(session.DbPath + "dbDetail.mdb")));
+  pc.prompts.expect("거래명세서 내역을 저장하는 중 오류가 발생했습니다.");
+  EXPECT_FALSE(print(desk.issue({})).items.empty());
+
+  sale("2026-03-03", 1, 30'000, 1);
+  const QString folder = std::exchange(session.DbPath, session.DbPath + "none/");
+  DealDesk without(session);
+  session.DbPath = folder;
+  ASSERT_TRUE(without.search(march()));
+  without.ticks().setAll(true);
+  pc.prompts.expect("거래명세서 내역을 저장하는 중 오류가 발생했습니다.");
+  EXPECT_FALSE(print(without.issue({})).items.empty());
+}
+
 TEST_F(Deals, WhatAnotherPcIssuedMeanwhileStandsOnNoSecondPaper) {
   sale("2026-03-02", 1, 30'000, 2);
   sale("2026-03-02", 1, 10'000, 1, {.name = "부탄"});
