@@ -17,6 +17,11 @@ int failureOf(Work work) {
   return 0;
 }
 
+/** Rows into "Table(Columns)", each as its values stand in a statement. */
+inline void insertRows(const jet::Database& db, const QString& into, const QStringList& values) {
+  for (const QString& row : values) db.Execute("Insert Into " + into + " Values(" + row + ')');
+}
+
 /** The rows from where the recordset stands: each row's fields with "|" between, Null as null says. */
 inline QStringList linesOf(jet::Recordset rs, const QString& null = {}) {
   QStringList lines;

@@ -9,18 +9,14 @@ struct StartingPc : TestPc {
   bool starts = true;
 
   StartingPc() {
-    session.AppTitle = QStringLiteral("해온판매");
+    session.AppTitle = "해온판매";
     pc.process.setStarter([this](const QString& program, const QStringList& arguments, const QString&) {
       started = QStringList(QFileInfo(program).fileName()) + arguments;
       return starts;
     });
   }
   /** An empty file in the program's folder. */
-  void install(const QString& program) {
-    EXPECT_TRUE(pc.paths.makeFolder(QStringLiteral("C:\\RWGas")));
-    QFile file(pc.paths.native(QStringLiteral("C:\\RWGas")) + u'/' + program);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-  }
+  void install(const QString& program) { writeFile(pc.paths.native("C:\\RWGas\\" + program)); }
 };
 
 }  // namespace tests

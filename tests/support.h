@@ -1,9 +1,5 @@
 #pragma once
 // What every test shares: a PC of its own, scripted boxes that must all be asked, scripted pickers.
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <deque>
 
@@ -12,6 +8,7 @@
 #include "store/session.h"
 #include "store/upgrades.h"
 #include "store/year_file.h"
+#include "tests/files.h"
 #include "ui/model/prompts.h"
 
 namespace tests {
@@ -68,6 +65,11 @@ class ScriptedPrompts : public Prompts {
   std::deque<Expected> script_;
 };
 
+/** A file of the data folder, opened by itself. */
+inline jet::Database openData(const Session& session, const QString& name) {
+  return openWorkspace(session, session.DbPath).OpenDatabase(session.DbPath + name);
+}
+
 /** The data folder of a new PC, made once a test program and copied from then on. */
 inline QString emptyDataFolder() {
   static QTemporaryDir folder;
@@ -107,6 +109,11 @@ struct TestPc {
     session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
     session.dbTax = session.wsMain.OpenDatabase(session.DbPath + "dbTax.mdb");
     session.dbCommon = session.dbBasic;
+  }
+  void closeBooks() {
+    for (jet::Database* open : {&session.dbBasic, &session.dbYear, &session.dbTax, &session.dbCommon})
+      open->Close();
+    session.wsMain.Close();
   }
 };
 

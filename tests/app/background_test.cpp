@@ -1,8 +1,5 @@
 #include "app/background.h"
 
-#include <QDir>
-#include <QFile>
-
 #include "tests/support.h"
 
 namespace {
@@ -12,9 +9,7 @@ struct BackgroundTest : testing::Test, tests::TestPc {
 
   QString makePicture(const QString& written) {
     const QString native = pc.paths.native(written);
-    QDir().mkpath(native.section('/', 0, -2));
-    QFile file(native);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    tests::writeFile(native);
     return native;
   }
 };

@@ -1,7 +1,5 @@
 #include "app/command_map.h"
 
-#include <gtest/gtest.h>
-
 #include <QMap>
 #include <QSet>
 #include <QStringList>

@@ -40,10 +40,7 @@ TEST_F(FirstStepsTest, APostcodeFileIsTakenWholeOrNotAtAll) {
     workspace.OpenDatabase(postFile("full.mdb"))
         .Execute("Insert Into Post(ZIPCODE, DONG) Values('702-701', '장터동')");
   }
-  QFile text(postFile("text.mdb"));
-  ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-  text.write("702-701;장터동");
-  text.close();
+  tests::writeFile(postFile("text.mdb"), "702-701;장터동");
   for (const char* wrong : {"empty.mdb", "text.mdb", "missing.mdb"})
     EXPECT_NE(road.takePostCodes(postFile(wrong)), "") << wrong;
   EXPECT_EQ(done(), "-----");

@@ -1,8 +1,6 @@
 // A data folder that cannot be reached: named for what it is, left alone, and tried again.
 #include "app/folder_trouble.h"
 
-#include <QFileInfo>
-
 #include "app/data_folder.h"
 #include "app/start_up.h"
 #include "tests/support.h"
@@ -58,8 +56,7 @@ TEST_F(FolderTroubleTest, TheDriveTheShareOrTheFolderIsNamedAndNothingIsMade) {
 
   startUp.shutDown();
   ASSERT_TRUE(QDir(root("pc1/RWGas/DBS")).removeRecursively());
-  QFile file(root("pc1/RWGas/DBS"));
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  writeFile(root("pc1/RWGas/DBS"));
   EXPECT_FALSE(start());
   EXPECT_EQ(why(), Kind::NoAccess);
 }
@@ -85,8 +82,7 @@ TEST_F(FolderTroubleTest, AFolderIsChosenByWhatItHolds) {
   here.pc.paths.makeFolder("C:\\가게\\DBS");
   EXPECT_EQ(folders.dataIn("C:\\가게"), "C:\\가게\\DBS\\");
   EXPECT_FALSE(folders.holdsData("C:\\가게"));
-  QFile basic(here.pc.paths.native("C:\\가게\\DBS") + "/basic.MDB");
-  ASSERT_TRUE(basic.open(QIODevice::WriteOnly));
+  writeFile(here.pc.paths.native("C:\\가게\\DBS") + "/basic.MDB");
   EXPECT_TRUE(folders.holdsData("C:\\가게"));
   EXPECT_EQ(folders.dataIn("C:\\가게\\DBS "), "C:\\가게\\DBS\\") << "the folder of the files itself";
   folders.use("C:\\가게\\DBS");

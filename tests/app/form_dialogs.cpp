@@ -5,8 +5,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 #include "app/FrmFolderTrouble.h"
@@ -27,32 +25,26 @@ struct FrameDialogs : testing::Test, tests::TestPc {
     session.DbPath = "C:\\RWGas\\Dbs\\";
     pc.paths.makeFolder("C:\\RWGas\\Dbs");
   }
-  template <class W>
-  static W* part(QWidget& form, const char* name) {
-    W* found = form.findChild<W*>(QString::fromUtf8(name));
-    EXPECT_TRUE(found) << name;
-    return found;
-  }
 };
 
 TEST_F(FrameDialogs, FolderIsChosenByKeys) {
   FrmPath form(idle.context);
   form.show();
-  auto* list = part<QListWidget>(form, "Dir1");
-  auto* shown = part<QLabel>(form, "pnlPath");
+  auto* list = tests::part<QListWidget>(form, "Dir1");
+  auto* shown = tests::part<QLabel>(form, "pnlPath");
   EXPECT_EQ(shown->text(), "C:\\RWGas\\Dbs");
-  EXPECT_EQ(part<QComboBox>(form, "Drive1")->currentText(), "C:");
+  EXPECT_EQ(tests::part<QComboBox>(form, "Drive1")->currentText(), "C:");
   tests::grab(form, "FrmPath");
   QTest::keyClick(list, Qt::Key_Return);  // on ".."
   EXPECT_EQ(shown->text(), "C:\\RWGas");
   QTest::keyClick(list, Qt::Key_Down);
   QTest::keyClick(list, Qt::Key_Return);
   EXPECT_EQ(shown->text(), "C:\\RWGas\\Dbs");
-  QTest::mouseClick(part<QPushButton>(form, "btnNetwork"), Qt::LeftButton);
+  tests::press(form, "btnNetwork");
   EXPECT_EQ(idle.commands.asked, QStringList{"FrmNetDrive"});
   QTest::keyClick(list, Qt::Key_Return);
   prompts.expect("경로 설정", false);
-  QTest::mouseClick(part<QPushButton>(form, "btnSet"), Qt::LeftButton);
+  tests::press(form, "btnSet");
   EXPECT_EQ(pc.settings.GetSetting("해온판매", "환경설정", "db경로"), "C:\\RWGas\\DBS\\");
   EXPECT_FALSE(form.isVisible());
 }
@@ -60,9 +52,10 @@ TEST_F(FrameDialogs, FolderIsChosenByKeys) {
 TEST_F(FrameDialogs, NetworkFolderIsMappedOnEnter) {
   FrmNetDrive form(idle.context);
   form.show();
-  part<QLineEdit>(form, "txtPath")->setText(pc.paths.native("C:\\RWGas"));
-  QTest::keyClick(part<QLineEdit>(form, "txtPath"), Qt::Key_Return);
-  EXPECT_EQ(part<QLabel>(form, "pnlResult")->text(), "Z:\\ 드라이브로 네트워크 드라이브 연결이 되었습니다.");
+  tests::part<QLineEdit>(form, "txtPath")->setText(pc.paths.native("C:\\RWGas"));
+  QTest::keyClick(tests::part<QLineEdit>(form, "txtPath"), Qt::Key_Return);
+  EXPECT_EQ(tests::part<QLabel>(form, "pnlResult")->text(),
+            "Z:\\ 드라이브로 네트워크 드라이브 연결이 되었습니다.");
   tests::grab(form, "FrmNetDrive");
   EXPECT_TRUE(form.isVisible());
 }
@@ -75,7 +68,7 @@ TEST_F(FrameDialogs, AMissingFolderLeavesThreeRoadsAndTheDoor) {
     return form.tryAgain();
   };
   EXPECT_TRUE(choice([](auto& form) {
-    EXPECT_EQ(part<QLabel>(form, "lblHeadline")->text(), "Z: 드라이브가 없습니다.");
+    EXPECT_EQ(tests::part<QLabel>(form, "lblHeadline")->text(), "Z: 드라이브가 없습니다.");
     tests::grab(form, "FrmFolderTrouble");
     QTest::keyClick(&form, Qt::Key_Return);
   })) << "Enter tries again";
@@ -83,14 +76,14 @@ TEST_F(FrameDialogs, AMissingFolderLeavesThreeRoadsAndTheDoor) {
   EXPECT_TRUE(choice([](auto& form) {
     QTimer::singleShot(0, &form, [] {
       auto& folders = *QApplication::activeModalWidget();
-      EXPECT_EQ(part<QLabel>(folders, "pnlPath")->text(), "C:\\") << "the lost drive cannot be shown";
-      auto* list = part<QListWidget>(folders, "Dir1");
+      EXPECT_EQ(tests::part<QLabel>(folders, "pnlPath")->text(), "C:\\") << "the lost drive cannot be shown";
+      auto* list = tests::part<QListWidget>(folders, "Dir1");
       QTest::keyClick(list, Qt::Key_Return);
-      EXPECT_EQ(part<QLabel>(folders, "pnlData")->text(), "자료 C:\\RWGas\\DBS\\  (자료 파일 없음)");
+      EXPECT_EQ(tests::part<QLabel>(folders, "pnlData")->text(), "자료 C:\\RWGas\\DBS\\  (자료 파일 없음)");
       tests::grab(folders, "FrmPath-at-start");
-      part<QPushButton>(folders, "btnSet")->click();
+      tests::press(folders, "btnSet");
     });
-    part<QPushButton>(form, "btnFolder")->click();
+    tests::press(form, "btnFolder");
   }));
   EXPECT_EQ(pc.settings.GetSetting("해온판매", "환경설정", "db경로"), "C:\\RWGas\\DBS\\");
 }
@@ -106,7 +99,7 @@ TEST_F(FrameDialogs, NoticeRemembersItsTick) {
   }
   FrmInitMsg form(session);
   form.show();
-  part<QCheckBox>(form, "ChkCheck")->setChecked(true);
+  tests::part<QCheckBox>(form, "ChkCheck")->setChecked(true);
   QTest::keyClick(&form, Qt::Key_Return);
   EXPECT_EQ(setting(), "1");
 }

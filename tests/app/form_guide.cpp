@@ -174,8 +174,7 @@ TEST_F(GuideWindow, ANewShopIsLedFromStepToStepAndMayLeave) {
   EXPECT_TRUE(button(1)->hasFocus());
   EXPECT_EQ(sign(1) + sign(2), "12");
   tests::grab(*road, "FrmFirstSteps-new");
-  tests::key(Qt::Key_Down);
-  tests::key(Qt::Key_Return);
+  tests::keys({Qt::Key_Down, Qt::Key_Return});
   EXPECT_EQ(window->activeForm()->objectName(), "frmGasUtil");
   session.dbBasic.Execute("Insert Into LPG(LPGName, Size) Values('LPG', '20')");
   session.dbBasic.Execute("Insert Into User(Company) Values('해온가스')");

@@ -3,18 +3,13 @@
 //   HAEON_STORM=long              thousands of keys a form, another seed every time
 //   HAEON_MONKEY=SEED             this seed, every key told on the error stream
 //   HAEON_MONKEY_FORM=frmSale     this form alone
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDialog>
-#include <QDir>
-#include <QInputMethodEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QRandomGenerator>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 
@@ -48,7 +43,7 @@ class WatchedBoxes : public MessageBoxes {
   QStringList errors;
   void ErrorBox(const QString& text, int number, const QString& description) override {
     // A year without a file is a choice of the operator's.
-    if (number != 3024 || !description.contains(u"Foundation.mdb"_s))
+    if (number != 3024 || !description.contains("Foundation.mdb"))
       errors << QString::number(number) + u' ' + description;
     MessageBoxes::ErrorBox(text, number, description);
   }
@@ -65,7 +60,7 @@ class Shop {
     pc_.clock.set(QDateTime(QDate(2026, 3, 16), QTime(9, 0)));
     tests::ScriptedPrompts quiet;
     samples::makeBooks(pc_, quiet);
-    const QString paper = folder_.filePath(u"paper.pdf"_s);
+    const QString paper = folder_.filePath("paper.pdf");
     printers_.askFile = [paper](const QString&) { return paper; };
     printChooser() = [](Session&, int pages, QWidget*) { return PrintChoice{pdfPrinterName(), 1, pages}; };
     pc_.process.setStarter([](const QString&, const QStringList&, const QString&) { return true; });
@@ -95,7 +90,7 @@ class Shop {
   pc::Pc pc_{folder_.path()};
 
  public:
-  WatchedBoxes boxes{[] { return u"해온판매"_s; }};
+  WatchedBoxes boxes{[] { return "해온판매"; }};
   Session session{pc_, boxes};
 
  private:
@@ -118,7 +113,7 @@ class Hands {
   explicit Hands(quint32 seed) : dice_(seed) {}
 
   Stroke next() {
-    if (below(25) == 0) return {0, {}, one(u"ㅎㅁㅏㅂ산글5-"_s)};
+    if (below(25) == 0) return {0, {}, one("ㅎㅁㅏㅂ산글5-")};
     const int key = choose();
     const Qt::KeyboardModifiers held = modifiers();
     return {key, held, written(key, held)};
@@ -138,7 +133,7 @@ class Hands {
                                 Qt::Key_Menu,       Qt::Key_Insert,  Qt::Key_Print,   Qt::Key_Pause,
                                 Qt::Key_ScrollLock, Qt::Key_Clear,   Qt::Key_AltGr};
     // The apostrophe breaks a statement by rule, and is told so; it has its own tests.
-    static const QString signs = u"!\"#$%&()*+,-./:;<=>?@[\\]^_`{|}~"_s;
+    static const QString signs = "!\"#$%&()*+,-./:;<=>?@[\\]^_`{|}~";
     const int turn = below(100);
     if (turn < 45) return moves[below(int(moves.size()))];
     if (turn < 65) return Qt::Key_0 + below(10);
@@ -311,7 +306,7 @@ class Monkey : public QObject {
     if (!loud_) return;
     const QWidget* const focus = QApplication::focusWidget();
     std::fprintf(stderr, "%d %s -> %s\n", left_, qPrintable(last_.last()),
-                 focus ? qPrintable(focus->objectName() + u" / "_s + focus->window()->windowTitle()) : "-");
+                 focus ? qPrintable(focus->objectName() + " / " + focus->window()->windowTitle()) : "-");
   }
 
   Shop shop_;
@@ -325,7 +320,7 @@ class Monkey : public QObject {
 
 /** The bare main window, every form that the menu opens, on the page it opens it on, and every other form. */
 QStringList everyForm() {
-  QStringList forms{u""_s};
+  QStringList forms{""};
   for (const CommandEntry& entry : commandMap())
     if (findForm(entry.formName()) && !forms.contains(entry.formName())) forms << entry.formName();
   for (const FormEntry& entry : builtForms()) {

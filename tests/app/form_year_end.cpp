@@ -24,13 +24,8 @@ struct YearEndForms : testing::Test, tests::ClosingDesk {
 
   YearEndForms() { tests::show(*window); }
 
-  static void press(QDialog& dialog, const char* button) {
-    auto* const found = dialog.findChild<QPushButton*>(QString::fromUtf8(button));
-    ASSERT_TRUE(found) << button;
-    found->click();
-  }
-  static QString shownIn(QDialog& dialog, const char* label) {
-    auto* const found = dialog.findChild<QLabel*>(QString::fromUtf8(label));
+  static QString shownIn(const QDialog& dialog, const char* label) {
+    const auto* const found = dialog.findChild<QLabel*>(label);
     return found ? found->text() : QString();
   }
   qsizetype children() const { return window->findChild<QMdiArea*>()->subWindowList().size(); }
@@ -77,13 +72,13 @@ TEST_F(YearEndForms, WhatDiffersIsShownAndCanBePutBack) {
   run("Delete * From Evaporation Where Mon = 1 And ClientCode = 1");
   tests::whenModal<FrmYearEnd>([&](QDialog& dialog) {
     EXPECT_EQ(dialog.findChild<Spread*>()->model().text(1, 6), "1월 행이 없어 넘어가지 않음");
-    press(dialog, "BtnYes");
+    tests::press(dialog, "BtnYes");
     tests::whenModal<FrmYearEnd>([&](QDialog& after) {
       EXPECT_TRUE(shownIn(after, "LblHead").contains("고객 4명 중 다른 고객: 1명"));
       EXPECT_TRUE(shownIn(after, "LblWarning").contains("2027Foundation-20261231-"));
       EXPECT_EQ(after.findChild<Spread*>()->model().text(1, 3), "35,500");
       tests::grab(after, "FrmYearEnd-differs");
-      press(after, "BtnYes");
+      tests::press(after, "BtnYes");
     });
   });
   pc.prompts.expect("넘기시겠습니까?");

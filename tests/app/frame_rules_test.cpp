@@ -3,8 +3,6 @@
 #include "tests/idle_context.h"
 #include "tests/support.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct FrameRulesTest : testing::Test, tests::TestPc {
@@ -14,7 +12,7 @@ struct FrameRulesTest : testing::Test, tests::TestPc {
     session.dbBasic.Execute("Insert Into LPG(LPGName, Size, LPGStock, CANFull) Values('프로판', '20', 7, 3)");
     session.dbBasic.Execute("Insert Into Util(Name, Size, UtilStock) Values('호스', '1', 5)");
     for (const char* metered : {"True", "False", "True"})
-      session.dbBasic.Execute(u"Insert Into Client(Name, VolumeYesNo) Values('고객', "_s +
+      session.dbBasic.Execute("Insert Into Client(Name, VolumeYesNo) Values('고객', " +
                               QString::fromUtf8(metered) + ")");
   }
   qint64 number(const jet::Database& db, const QString& sql) { return db.OpenRecordset(sql)[0].toLong(); }

@@ -14,31 +14,29 @@
 #include "app/frame_rules.h"
 #include "billing/reading_screen.h"
 #include "links/caller.h"
+#include "tests/answers.h"
+#include "tests/companion.h"
 #include "tests/idle_context.h"
-#include "tests/support.h"
 #include "tests/ui/grab.h"
 #include "tests/ui/modal.h"
 #include "ui/grid/spread.h"
 
 namespace {
 
-struct MainWindow : testing::Test, tests::TestPc {
+struct MainWindow : testing::Test, tests::StartingPc {
   tests::IdlePickers pickers;
   std::unique_ptr<frmMain> window;
-  int relinked = 0;
+  int relinked = 0, left = 0;
   MainWindow() {
     openBooks();
     remind(false);
     window = std::make_unique<frmMain>(session, pickers);
     window->relink = [this] { ++relinked; };
+    window->closed = [this] { ++left; };
     tests::show(*window);
   }
   void remind(bool on) { pc.settings.SaveSetting("Backup", "설정", "종료알림", on ? "1" : "0"); }
-  QAction* entry(const char* name) const {
-    auto* action = window->findChild<QAction*>(QString::fromUtf8(name));
-    EXPECT_TRUE(action) << name;
-    return action;
-  }
+  QAction* entry(const char* name) const { return tests::part<QAction>(*window, name); }
   qsizetype children() const {
     QApplication::processEvents();  // a form that closed itself leaves one turn later
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -47,16 +45,12 @@ struct MainWindow : testing::Test, tests::TestPc {
 };
 
 TEST_F(MainWindow, EveryEntryIsOnAndStockEntriesFollowTheCompany) {
-  EXPECT_TRUE(entry("MnuUser")->isEnabled());
-  EXPECT_TRUE(entry("MnuExit")->isEnabled());
-  EXPECT_TRUE(entry("MnuIncome")->isEnabled());
-  EXPECT_TRUE(entry("MnuBack")->isEnabled());
+  for (const char* name : {"MnuUser", "MnuExit", "MnuIncome", "MnuBack"})
+    EXPECT_TRUE(entry(name)->isEnabled()) << name;
   EXPECT_FALSE(entry("MnuInitStock")->isEnabled());
   EXPECT_FALSE(entry("MnuRemain")->isEnabled()) << "it has its form, but no stock is kept";
   session.StockEnabled = true;
   window->refresh();
-  EXPECT_TRUE(entry("MnuInitStock")->isEnabled());
-  EXPECT_TRUE(entry("MnuRemain")->isEnabled());
   for (const CommandEntry& each : commandMap()) {
     if (each.kind == CommandKind::Menu) continue;
     const QByteArray name = each.objectName().toUtf8();
@@ -68,9 +62,8 @@ TEST_F(MainWindow, EveryEntryIsOnAndStockEntriesFollowTheCompany) {
   }
   EXPECT_EQ(window->findChild<QLabel*>("PnlCompany")->text(), "라온웨어");
   EXPECT_EQ(window->windowTitle(), mainWindowTitle());
-  EXPECT_TRUE(window->findChild<QWidget*>("TBar11")->isEnabled());
-  EXPECT_TRUE(window->findChild<QWidget*>("TBar2")->isEnabled());
-  EXPECT_TRUE(window->findChild<QWidget*>("TBar10")->isEnabled());
+  for (const char* button : {"TBar2", "TBar10", "TBar11"})
+    EXPECT_TRUE(window->findChild<QWidget*>(button)->isEnabled()) << button;
   tests::grab(*window, "frmMain");
 }
 
@@ -164,12 +157,10 @@ TEST_F(MainWindow, AnotherBooksEntryTurnsTheOpenReadingScreen) {
 }
 
 TEST_F(MainWindow, EscOnTheLinesBehindAReportLeadsBackToItsLine) {
-  const auto run = [this](const char* sql) { session.dbYear.Execute(QString::fromUtf8(sql)); };
-  run("Insert Into Client(Code, Name, GasInit) Values(1, '가람', 5000)");
-  run("Insert Into Client(Code, Name, GasInit) Values(2, '나래', 7000)");
+  tests::insertRows(session.dbYear, "Client(Code, Name, GasInit)", {"1, '가람', 5000", "2, '나래', 7000"});
   const QString year = session.WorkYear;
-  session.dbYear.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Trust) Values('" +
-                         year + "-01-01', 2, 1, False, 1, 7000)");
+  tests::insertRows(session.dbYear, "Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Trust)",
+                    {"'" + year + "-01-01', 2, 1, False, 1, 7000"});
   pc.clock.set(QDate(year.toInt(), 12, 31).startOfDay());
   const auto front = [this] {
     QApplication::processEvents();
@@ -250,8 +241,6 @@ TEST_F(MainWindow, HiddenTestCallReachesTheWaitingListOnlyWhileCallsAreTaken) {
 }
 
 TEST_F(MainWindow, LeavingAsksAndCountsOnce) {
-  int left = 0;
-  window->closed = [&] { ++left; };
   window->openForm("frmUser");
   prompts.expect("프로그램을 종료하시겠습니까?", false);
   QTest::mouseClick(window->findChild<QWidget*>("TBar11"), Qt::LeftButton);
@@ -283,15 +272,7 @@ TEST_F(MainWindow, TheWindowThatMayEndTheProgramOpensWhenNothingTypedIsLost) {
 }
 
 TEST_F(MainWindow, TheReminderComesBeforeTheEndAndMayBackUp) {
-  int left = 0;
-  QStringList started;
-  window->closed = [&] { ++left; };
-  QFile compressor(pc.paths.native("C:\\RWGas") + "/데이터압축.EXE");
-  ASSERT_TRUE(compressor.open(QIODevice::WriteOnly));
-  pc.process.setStarter([&](const QString& program, const QStringList& arguments, const QString&) {
-    started = QStringList(QFileInfo(program).fileName()) + arguments;
-    return true;
-  });
+  install("데이터압축.EXE");
   remind(true);
   const auto closeBy = [&](const char* button) {
     QTimer::singleShot(0, window.get(), [button] {
@@ -310,17 +291,7 @@ TEST_F(MainWindow, TheReminderComesBeforeTheEndAndMayBackUp) {
 }
 
 TEST_F(MainWindow, BackupRestoreAndTheImportEndTheProgramAndTheToolsDoNot) {
-  int left = 0;
-  QStringList started;
-  window->closed = [&] { ++left; };
-  for (const char* name : {"데이터압축.EXE", "haeon-import", "CashPad", "RWPlanner.exe"}) {
-    QFile program(pc.paths.native("C:\\RWGas") + '/' + QString::fromUtf8(name));
-    ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-  }
-  pc.process.setStarter([&](const QString& program, const QStringList& arguments, const QString&) {
-    started = QStringList(QFileInfo(program).fileName()) + arguments;
-    return true;
-  });
+  for (const char* name : {"데이터압축.EXE", "haeon-import", "CashPad", "RWPlanner.exe"}) install(name);
   for (const char* tool : {"ManyCashInOut", "MnuCashBrief", "MnuInList", "MnuOutList"}) {
     started.clear();
     EXPECT_TRUE(window->run(tool));

@@ -1,11 +1,10 @@
 // The guide's places: every chapter named is there, every link and picture leads somewhere, boxes find their line.
 #include "app/guide_chapters.h"
 
-#include <gtest/gtest.h>
-
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
+
+#include "tests/files.h"
 
 namespace {
 
@@ -13,9 +12,7 @@ struct Guide : testing::Test {
   QString text;
   QSet<QString> headings;
   Guide() {
-    QFile file(QString(HAEON_TEST_DATA) + "/../docs/guide.ko.md");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    text = QString::fromUtf8(file.readAll());
+    text = tests::textOf(HAEON_TEST_DATA "/../docs/guide.ko.md");
     for (const QString& line : text.split(u'\n'))
       if (line.startsWith(u'#')) headings << line.section(u' ', 1);
   }

@@ -11,34 +11,34 @@ using namespace tests;
 struct MoveInStart : testing::Test, StartingPc {
   void SetUp() override {
     ASSERT_TRUE(pc.paths.makeFolder(installedDataFolder()));
-    install(u"haeon-import"_s);
+    install("haeon-import");
   }
 };
 
 TEST_F(MoveInStart, OldFilesInTheDataFolderAreOfferedBeforeTheStart) {
   EXPECT_FALSE(offeredMoveIn(session)) << "an empty folder asks nothing";
   const QString folder = pc.paths.native(installedDataFolder());
-  JetWriter(3).write(folder + u"/BASIC.MDB"_s, {{u"Client"_s, {{u"Name"_s}}, {}}});
-  prompts.expect(u"이전 형식의 자료가 있습니다."_s, false);
+  JetWriter(3).write(folder + "/BASIC.MDB", {{"Client", {{"Name"}}, {}}});
+  prompts.expect("이전 형식의 자료가 있습니다.", false);
   EXPECT_FALSE(offeredMoveIn(session));
   EXPECT_TRUE(started.isEmpty());
-  prompts.expect(u"이전 형식의 자료가 있습니다."_s);
+  prompts.expect("이전 형식의 자료가 있습니다.");
   EXPECT_TRUE(offeredMoveIn(session));
-  EXPECT_EQ(started, (QStringList{u"haeon-import"_s, u"--window"_s, folder}));
+  EXPECT_EQ(started, (QStringList{"haeon-import", "--window", folder}));
 }
 
 TEST_F(MoveInStart, TheMenuAsksClosesTheFormsAndEndsTheProgram) {
   bool closes = false;
   const auto closeForms = [&] { return closes; };
-  prompts.expect(u"이전 자료 가져오기"_s, false);
+  prompts.expect("이전 자료 가져오기", false);
   EXPECT_FALSE(startMoveIn(session, closeForms));
-  prompts.expect(u"이전 자료 가져오기"_s);
+  prompts.expect("이전 자료 가져오기");
   EXPECT_FALSE(startMoveIn(session, closeForms)) << "a form stays";
   EXPECT_TRUE(started.isEmpty());
   closes = true;
-  prompts.expect(u"이전 자료 가져오기"_s);
+  prompts.expect("이전 자료 가져오기");
   EXPECT_TRUE(startMoveIn(session, closeForms));
-  EXPECT_EQ(started, (QStringList{u"haeon-import"_s, u"--window"_s}));
+  EXPECT_EQ(started, (QStringList{"haeon-import", "--window"}));
   EXPECT_TRUE(session.ClosingForBackup);
 }
 

@@ -7,7 +7,6 @@
 namespace {
 
 using namespace tests;
-using namespace Qt::StringLiterals;
 
 struct OldStep {
   const char* name;
@@ -18,11 +17,11 @@ struct OldStep {
 };
 
 const OldStep oldSteps[] = {
-    {"LateCharge", schema::File::Basic, "APT", {u"delaypay"_s}},
-    {"PaidLate", schema::File::Year, "Evaporation", {u"paydelayed"_s}},
-    {"DealMarks", schema::File::Year, "Sale", {u"DealList"_s, u"SaleList"_s}},
-    {"TaxFields", schema::File::Basic, "Client", {u"Serial"_s, u"Status"_s, u"Item"_s, u"Uname"_s}},
-    {"Telephones", schema::File::Basic, "Client", {u"Tel1"_s, u"Tel2"_s}},
+    {"LateCharge", schema::File::Basic, "APT", {"delaypay"}},
+    {"PaidLate", schema::File::Year, "Evaporation", {"paydelayed"}},
+    {"DealMarks", schema::File::Year, "Sale", {"DealList", "SaleList"}},
+    {"TaxFields", schema::File::Basic, "Client", {"Serial", "Status", "Item", "Uname"}},
+    {"Telephones", schema::File::Basic, "Client", {"Tel1", "Tel2"}},
     {"Options", schema::File::Basic, "Options", {}},
 };
 
@@ -36,14 +35,12 @@ struct OldBooks : testing::Test {
     startUp.shutDown();
     return started;
   }
-  QString fileOf(schema::File kind) {
-    return kind == schema::File::Basic ? session.DbPath + u"Basic.mdb"_s
-                                       : yearFile(session, session.WorkYear);
+  jet::Database fileOf(schema::File kind) {
+    return openData(session, kind == schema::File::Basic ? "Basic.mdb" : yearFileName(session.WorkYear));
   }
   /** The table as it was before the step; its rows are one customer or one line. */
   void age(const OldStep& step) {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    const jet::Database file = workspace.OpenDatabase(fileOf(step.kind));
+    const jet::Database file = fileOf(step.kind);
     const QString name = QString::fromLatin1(step.table);
     file.deleteTable(name);
     if (step.missing.isEmpty()) return;
@@ -51,15 +48,8 @@ struct OldBooks : testing::Test {
     std::erase_if(old.indexes,
                   [&](const jet::Index& index) { return step.missing.contains(index.fields.first()); });
     file.createTable(old);
-    if (name == u"Client") file.Execute(u"Insert Into Client(Code, Name) Values(1, '김가네')"_s);
-    if (name == u"Sale") file.Execute(u"Insert Into Sale(SaleDate, ClientCode) Values('2026-03-02', 1)"_s);
-  }
-  QString dumps() {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    QString all;
-    for (const QString& name : here.pc.paths.list(session.DbPath, u"*.mdb"_s))
-      all += name + u'\n' + dumpOf(workspace.OpenDatabase(session.DbPath + name));
-    return all;
+    if (name == u"Client") file.Execute("Insert Into Client(Code, Name) Values(1, '김가네')");
+    if (name == u"Sale") file.Execute("Insert Into Sale(SaleDate, ClientCode) Values('2026-03-02', 1)");
   }
 };
 struct OldFiles : OldBooks, testing::WithParamInterface<OldStep> {};
@@ -67,34 +57,23 @@ struct OldFiles : OldBooks, testing::WithParamInterface<OldStep> {};
 TEST_P(OldFiles, AreBroughtUpToDateOnce) {
   here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
   ASSERT_TRUE(start());
-  {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    workspace.OpenDatabase(session.DbPath + u"Basic.mdb"_s)
-        .Execute(u"Insert Into Client(Code, Name) Values(1, '김가네')"_s);
-  }
+  fileOf(schema::File::Basic).Execute("Insert Into Client(Code, Name) Values(1, '김가네')");
   const OldStep& step = GetParam();
   age(step);
   ASSERT_TRUE(start());
-  {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    const jet::Database file = workspace.OpenDatabase(fileOf(step.kind));
-    for (const jet::Field& field : schema::table(step.kind, QString::fromLatin1(step.table)).fields)
-      EXPECT_TRUE(hasField(file, QString::fromLatin1(step.table), field.name)) << field.name.toStdString();
-    EXPECT_EQ(
-        firstOf(workspace.OpenDatabase(yearFile(session, session.WorkYear)), u"Select Name From Client"_s),
-        "김가네");
-  }
-  const QString once = dumps();
+  for (const jet::Field& field : schema::table(step.kind, step.table).fields)
+    EXPECT_TRUE(hasField(fileOf(step.kind), step.table, field.name)) << field.name.toStdString();
+  EXPECT_EQ(firstOf(fileOf(schema::File::Year), "Select Name From Client"), "김가네");
+  const QString once = dumpsOf(session);
   ASSERT_TRUE(start());
-  EXPECT_EQ(dumps(), once);
+  EXPECT_EQ(dumpsOf(session), once);
 }
 
 TEST_F(OldBooks, TheTaxFileTakesTheNumberAfter999AndFractions) {
   here.pc.clock.set(QDateTime(QDate(2026, 3, 2), QTime(9, 0)));
   ASSERT_TRUE(start());
   {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    const jet::Database tax = workspace.OpenDatabase(session.DbPath + u"dbTax.mdb"_s);
+    const jet::Database tax = openData(session, "dbTax.mdb");
     for (jet::TableDef old : schema::tablesOf(schema::File::Tax)) {
       tax.deleteTable(old.name);
       for (jet::Field& field : old.fields) {
@@ -106,24 +85,22 @@ TEST_F(OldBooks, TheTaxFileTakesTheNumberAfter999AndFractions) {
       });
       tax.createTable(old);
     }
-    tax.Execute(u"Insert Into TaxAcount(Serial, List) Values('2603999', 'LPG 20')"_s);
-    tax.Execute(u"Insert Into NewAcount(TaxCode, Quantity, UnitCost) Values('2603999', 7, 1.5)"_s);
+    tax.Execute("Insert Into TaxAcount(Serial, List) Values('2603999', 'LPG 20')");
+    tax.Execute("Insert Into NewAcount(TaxCode, Quantity, UnitCost) Values('2603999', 7, 1.5)");
   }
   ASSERT_TRUE(start());
-  const QString once = dumps();
+  const QString once = dumpsOf(session);
   ASSERT_TRUE(start());
-  EXPECT_EQ(dumps(), once);
-  const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-  const jet::Database tax = workspace.OpenDatabase(session.DbPath + u"dbTax.mdb"_s);
-  EXPECT_EQ(firstOf(tax, u"Select List & Serial From TaxAcount"_s), "LPG 202603999");
-  tax.Execute(u"Insert Into TaxAcount(Serial) Values('26031000')"_s);
+  EXPECT_EQ(dumpsOf(session), once);
+  const jet::Database tax = openData(session, "dbTax.mdb");
+  EXPECT_EQ(firstOf(tax, "Select List & Serial From TaxAcount"), "LPG 202603999");
+  tax.Execute("Insert Into TaxAcount(Serial) Values('26031000')");
   tax.Execute(
-      u"INSERT INTO NewAcount VALUES ('26031000', '1', 'c', '0', 'p', 'n', 2.25, 4, 99999999999, 1, 10, '', "
-      u"'', 0, "
-      u"'000001', 's')"_s);
-  EXPECT_EQ(firstOf(tax, u"Select TradeKum From NewAcount Where Station = 's'"_s), "99999999999");
-  EXPECT_EQ(firstOf(tax, u"Select Sum(Quantity * UnitCost) From NewAcount"_s), "19.5");  // 7 x 1.5 + 2.25 x 4
-  EXPECT_EQ(firstOf(tax, u"SELECT Serial FROM TaxAcount WHERE Serial LIKE '2603*' ORDER BY Serial Desc;"_s),
+      "INSERT INTO NewAcount VALUES ('26031000', '1', 'c', '0', 'p', 'n', 2.25, 4, 99999999999, 1, 10, '', "
+      "'', 0, '000001', 's')");
+  EXPECT_EQ(firstOf(tax, "Select TradeKum From NewAcount Where Station = 's'"), "99999999999");
+  EXPECT_EQ(firstOf(tax, "Select Sum(Quantity * UnitCost) From NewAcount"), "19.5");  // 7 x 1.5 + 2.25 x 4
+  EXPECT_EQ(firstOf(tax, "SELECT Serial FROM TaxAcount WHERE Serial LIKE '2603*' ORDER BY Serial Desc;"),
             "2603999");
 }
 

@@ -5,7 +5,6 @@
 #include <sys/resource.h>
 
 #include <QCryptographicHash>
-#include <QDirIterator>
 #include <csignal>
 
 #include "backup/data_folder_alone.h"
@@ -14,52 +13,30 @@
 #include "store/data_access.h"
 #include "store/folder_swap.h"
 #include "store/jet/presence.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 namespace {
 
 using namespace tests;
-using namespace Qt::StringLiterals;
 using backup::Series;
 
 const backup::Tell nobody;
 
 struct BackupTest : testing::Test, TestPc {
   QString dataFolder = installedDataFolder();
-  backup::Settings settings{u"C:\\RWGas\\BackUp\\"_s, 3, {}, {}, true};
+  backup::Settings settings{"C:\\RWGas\\BackUp\\", 3, {}, {}, true};
 
   void SetUp() override {
     pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(9, 0)));
     openBooks(QDate(2026, 3, 16));
-    session.dbBasic.Execute(u"Insert Into Client(Code, Name, GasInit) Values(1, '김가네', 41000)"_s);
-    write(dataFolder + u"메모.txt"_s, "손으로 적은 것");
+    session.dbBasic.Execute("Insert Into Client(Code, Name, GasInit) Values(1, '김가네', 41000)");
+    write(dataFolder + "메모.txt", "손으로 적은 것");
     closeBooks();
   }
-  void closeBooks() {
-    for (jet::Database* open : {&session.dbBasic, &session.dbYear, &session.dbTax, &session.dbCommon})
-      open->Close();
-    session.wsMain.Close();
-  }
   QString native(const QString& written) const { return pc.paths.native(written); }
-  void write(const QString& path, const QByteArray& text) {
-    QFile file(native(path));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-  }
-  static QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
-  }
-  /** Every file below a folder with its bytes. */
-  static QMap<QString, QByteArray> contents(const QString& folder) {
-    QMap<QString, QByteArray> all;
-    for (QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories); it.hasNext();) {
-      const QString path = it.next();
-      all[QDir(folder).relativeFilePath(path)] = bytesOf(path);
-    }
-    return all;
-  }
-  QMap<QString, QByteArray> books() const { return contents(native(dataFolder)); }
+  void write(const QString& path, const QByteArray& text) { writeFile(native(path), text); }
+  QMap<QString, QByteArray> books() const { return contentsOf(native(dataFolder)); }
   std::unique_ptr<backup::DataFolderAlone> hold() {
     auto held = std::make_unique<backup::DataFolderAlone>(pc.paths, dataFolder);
     EXPECT_EQ(held->take(), QStringList());
@@ -75,16 +52,9 @@ struct BackupTest : testing::Test, TestPc {
     return backup::finishRestore(pc, dataFolder, std::move(held));
   }
   void changeBooks(const QString& name) {
-    const jet::Workspace workspace = openWorkspace(session, dataFolder);
-    workspace.OpenDatabase(dataFolder + u"Basic.mdb"_s)
-        .Execute(u"Update Client Set Name = '"_s + plainText(name) + u"'"_s);
+    openData(session, "Basic.mdb").Execute("Update Client Set Name = '" + plainText(name) + "'");
   }
-  QString clientName() {
-    const jet::Workspace workspace = openWorkspace(session, dataFolder);
-    return workspace.OpenDatabase(dataFolder + u"Basic.mdb"_s)
-        .OpenRecordset(u"Select Name From Client"_s)[0]
-        .toText();
-  }
+  QString clientName() { return rowsOf(openData(session, "Basic.mdb"), "Select Name From Client"); }
   static QString nameOf(const backup::BackupDone& done) { return done.archive.section(u'\\', -1); }
   QStringList shelf() const {
     return QDir(native(settings.folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -108,15 +78,15 @@ TEST_F(BackupTest, WhatIsPackedComesBackByteByByteAndTheOldBooksStay) {
   EXPECT_EQ(books(), before);
   EXPECT_EQ(done.archive, settings.folder + backup::archiveName(Series::Books, done.facts.made));
   EXPECT_EQ(shelf(), QStringList{nameOf(done)});
-  EXPECT_TRUE(nameOf(done).startsWith(u"해온판매-20260316-09"_s)) << "the program's clock";
+  EXPECT_TRUE(nameOf(done).startsWith("해온판매-20260316-09")) << "the program's clock";
   EXPECT_EQ(done.facts.files.size(), before.size());
-  changeBooks(u"박가네"_s);
+  changeBooks("박가네");
   const auto changed = books();
   const QString kept = restore(done.archive);
-  EXPECT_TRUE(kept.startsWith(u"C:\\RWGas\\Dbs-이전-20260316-09"_s)) << kept.toStdString();
+  EXPECT_TRUE(kept.startsWith("C:\\RWGas\\Dbs-이전-20260316-09")) << kept.toStdString();
   EXPECT_EQ(books(), before);
   EXPECT_EQ(clientName(), "김가네");
-  EXPECT_EQ(contents(native(kept)), changed);
+  EXPECT_EQ(contentsOf(native(kept)), changed);
   EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
 }
 
@@ -126,74 +96,74 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
     pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(10, minute)));
     made << nameOf(make());
   }
-  write(settings.folder + u"해온판매-내것.zip"_s, "mine");
+  write(settings.folder + "해온판매-내것.zip", "mine");
   const backup::ArchiveFacts last = backup::verify(native(settings.folder + made.last()), nobody);
   pc.clock.set(last.made);
   const backup::BackupDone second = make();
   EXPECT_GT(second.facts.made, last.made);
   made << nameOf(second);
   const QString support = nameOf(make(Series::Support));
-  EXPECT_TRUE(support.startsWith(u"해온판매-AS-20260316-10"_s)) << support.toStdString();
-  EXPECT_EQ(shelf(), (QStringList{made[2], made[3], made[4], support, u"해온판매-내것.zip"_s}));
+  EXPECT_TRUE(support.startsWith("해온판매-AS-20260316-10")) << support.toStdString();
+  EXPECT_EQ(shelf(), (QStringList{made[2], made[3], made[4], support, "해온판매-내것.zip"}));
   const auto listed = backup::archivesOf(pc.paths, settings);
   ASSERT_EQ(listed.size(), 3);
   EXPECT_EQ(listed.first().path, second.archive);
 
   // The PC's battery is empty: what was just made bears the oldest date, and stays.
   pc.clock.set(QDateTime(QDate(2002, 1, 1), QTime(0, 5)));
-  settings.serverFolder = u"Z:\\백업\\"_s;
+  settings.serverFolder = "Z:\\백업\\";
   QDir().mkpath(native(settings.serverFolder));
   for (const QString& name : {made[2], made[3], made[4]}) write(settings.serverFolder + name, "older");
   const backup::BackupDone lost = make();
   backup::sendToServer(pc, lost.archive, settings, nobody);
-  EXPECT_EQ(shelf(), (QStringList{nameOf(lost), made[3], made[4], support, u"해온판매-내것.zip"_s}));
+  EXPECT_EQ(shelf(), (QStringList{nameOf(lost), made[3], made[4], support, "해온판매-내것.zip"}));
   EXPECT_EQ(QDir(native(settings.serverFolder)).entryList(QDir::Files, QDir::Name),
             (QStringList{nameOf(lost), made[3], made[4]}));
   backup::keepNewest(pc.paths, settings.folder, Series::Books, 0);
-  EXPECT_EQ(shelf(), (QStringList{made[4], support, u"해온판매-내것.zip"_s})) << "the newest never goes";
+  EXPECT_EQ(shelf(), (QStringList{made[4], support, "해온판매-내것.zip"})) << "the newest never goes";
 }
 
 TEST_F(BackupTest, WhatAKilledRunLeftLocksNobodyOutAndGoes) {
-  ASSERT_TRUE(pc.paths.makeFolder(settings.folder + u".packing"_s));
+  ASSERT_TRUE(pc.paths.makeFolder(settings.folder + ".packing"));
   for (const char* left : {"packing.ldb", ".packing.zip", ".packing/Basic.mdb"})
     write(settings.folder + QString::fromLatin1(left), "half");
   const QString made = nameOf(make());
   EXPECT_EQ(QDir(native(settings.folder)).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
             QStringList{made});
-  const jet::AloneWith another(native(settings.folder) + u"/packing"_s, 0);
+  const jet::AloneWith another(native(settings.folder) + "/packing", 0);
   EXPECT_EQ(failureOf([&] { make(); }).first, 3045) << "two at once would share the place they work in";
 }
 
 TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {
   auto workspace = std::make_unique<jet::Workspace>(openWorkspace(session, dataFolder));
-  auto year = std::make_unique<jet::Database>(workspace->OpenDatabase(dataFolder + u"2026Foundation.mdb"_s));
+  auto year = std::make_unique<jet::Database>(workspace->OpenDatabase(dataFolder + "2026Foundation.mdb"));
   backup::DataFolderAlone held(pc.paths, dataFolder);
-  EXPECT_THAT(held.take(), testing::Contains(u"Basic.mdb"_s));
+  EXPECT_THAT(held.take(), testing::Contains("Basic.mdb"));
   year.reset();
   workspace.reset();
   EXPECT_EQ(held.take(), QStringList());
   jet::Workspace::Options impatient;
   impatient.busyMilliseconds = 1;
   const auto refused =
-      failureOf([&] { jet::Workspace(impatient).OpenDatabase(native(dataFolder + u"Basic.mdb"_s)); });
+      failureOf([&] { jet::Workspace(impatient).OpenDatabase(native(dataFolder + "Basic.mdb")); });
   EXPECT_EQ(refused.first, 3356);
 }
 
 TEST_F(BackupTest, ADamagedDataFileEndsTheBackupButNotTheOneForSupport) {
   const QString good = nameOf(make());
-  QFile file(native(dataFolder + u"dbTax.mdb"_s));
+  QFile file(native(dataFolder + "dbTax.mdb"));
   ASSERT_TRUE(file.open(QIODevice::ReadWrite));
   file.seek(4096);
   file.write(QByteArray(4096, '\xff'));
   file.close();
-  write(dataFolder + u"InOutCash.mdb"_s, "another program's");
+  write(dataFolder + "InOutCash.mdb", "another program's");
   const auto before = books();
   const auto [number, text] = failureOf([&] { make(); });
   EXPECT_EQ(number, 3049);
-  EXPECT_TRUE(text.contains(u"dbTax.mdb"_s)) << text.toStdString();
+  EXPECT_TRUE(text.contains("dbTax.mdb")) << text.toStdString();
   EXPECT_EQ(shelf(), QStringList{good});
   const backup::BackupDone support = make(Series::Support);
-  EXPECT_THAT(support.damaged, testing::Contains(u"dbTax.mdb"_s));
+  EXPECT_THAT(support.damaged, testing::Contains("dbTax.mdb"));
   EXPECT_EQ(books(), before);
   const auto [again, why] = failureOf([&] { restore(support.archive); });
   EXPECT_EQ(again, 3049) << why.toStdString();
@@ -221,10 +191,10 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
   const QString good = native(make().archive);
   const QByteArray whole = bytesOf(good);
   const auto before = books();
-  const QString wrong = native(u"C:\\RWGas\\wrong.zip"_s);
+  const QString wrong = native("C:\\RWGas\\wrong.zip");
   const auto refused = [&] {
-    const auto [number, text] = failureOf([&] { restore(u"C:\\RWGas\\wrong.zip"_s); });
-    EXPECT_TRUE(text.contains(u"올바른 백업 파일이 아닙니다"_s)) << text.toStdString();
+    const auto [number, text] = failureOf([&] { restore("C:\\RWGas\\wrong.zip"); });
+    EXPECT_TRUE(text.contains("올바른 백업 파일이 아닙니다")) << text.toStdString();
     EXPECT_EQ(books(), before);
     EXPECT_FALSE(QFileInfo::exists(native(preparedFolder(dataFolder))));
     EXPECT_EQ(failureOf([&] { backup::verify(wrong, nobody); }).first, 321)
@@ -232,13 +202,13 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
     return number;
   };
   for (const qsizetype length : {qsizetype(0), qsizetype(100), whole.size() / 2, whole.size() - 30}) {
-    write(u"C:\\RWGas\\wrong.zip"_s, whole.first(length));
+    write("C:\\RWGas\\wrong.zip", whole.first(length));
     EXPECT_EQ(refused(), 321) << "cut to " << length;
   }
   for (qsizetype at = 200; at < whole.size() / 2; at += whole.size() / 7) {
     QByteArray changed = whole;
     changed[at] = char(changed[at] ^ 0x55);
-    write(u"C:\\RWGas\\wrong.zip"_s, changed);
+    write("C:\\RWGas\\wrong.zip", changed);
     EXPECT_EQ(refused(), 321) << "changed at " << at;
   }
   makeZip(wrong, {{"Basic.mdb", "no list"}});
@@ -264,9 +234,9 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
   EXPECT_EQ(refused(), 321);
   makeZip(wrong,
           {{"dbTax.mdb", "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 dbTax.mdb\n"}});
-  const auto [number, text] = failureOf([&] { restore(u"C:\\RWGas\\wrong.zip"_s); });
+  const auto [number, text] = failureOf([&] { restore("C:\\RWGas\\wrong.zip"); });
   EXPECT_EQ(number, 321);
-  EXPECT_TRUE(text.contains(u"Basic.mdb 가 들어 있지 않아"_s));
+  EXPECT_TRUE(text.contains("Basic.mdb 가 들어 있지 않아"));
   EXPECT_EQ(books(), before);
 }
 
@@ -286,7 +256,7 @@ struct SmallFiles {
 TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
   const QString archive = make().archive;
   pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(11, 0)));
-  const auto before = books(), shelved = contents(native(settings.folder));
+  const auto before = books(), shelved = contentsOf(native(settings.folder));
   for (const rlim_t room : {rlim_t(1000), rlim_t(20'000)}) {
     const SmallFiles full(room);
     EXPECT_EQ(failureOf([&] { make(); }).first, 61);
@@ -299,13 +269,13 @@ TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
     return told;
   }();
   ASSERT_GT(steps, 20);
-  for (const QString& name : shelf().filter(u"-AS-"_s)) QFile::remove(native(settings.folder) + u'/' + name);
+  for (const QString& name : shelf().filter("-AS-")) QFile::remove(native(settings.folder) + u'/' + name);
   for (int stop = 1; stop <= steps; stop += 5) {
     told = 0;
     EXPECT_THROW(make(Series::Books, [&](const QString&, qint64, qint64) { return ++told < stop; }),
                  backup::Stopped)
         << stop;
-    ASSERT_EQ(contents(native(settings.folder)), shelved) << "stopped at " << stop;
+    ASSERT_EQ(contentsOf(native(settings.folder)), shelved) << "stopped at " << stop;
   }
   EXPECT_EQ(books(), before);
 }
@@ -315,47 +285,47 @@ TEST_F(BackupTest, EveryStepIsDoneBeforeTheArchiveHasItsNameAndTheFilesAreFreeAf
   make(Series::Books, [&](const QString& what, qint64, qint64) {
     const QString step = what.section(u':', 0, 0);
     if (steps.isEmpty() || steps.last() != step) steps << step;
-    EXPECT_TRUE(shelf().filter(u"해온판매"_s).isEmpty()) << what.toStdString();
+    EXPECT_TRUE(shelf().filter("해온판매").isEmpty()) << what.toStdString();
     jet::Workspace::Options impatient;
     impatient.busyMilliseconds = 1;
     const int failure =
-        failureOf([&] { jet::Workspace(impatient).OpenDatabase(native(dataFolder + u"Basic.mdb"_s)); }).first;
+        failureOf([&] { jet::Workspace(impatient).OpenDatabase(native(dataFolder + "Basic.mdb")); }).first;
     EXPECT_EQ(failure == 0, step != u"복사")
         << what.toStdString() << ": other PCs wait for the copy, and for it alone";
     return true;
   });
-  EXPECT_EQ(steps, (QStringList{u"복사"_s, u"자료 검사"_s, u"압축"_s, u"확인"_s}));
+  EXPECT_EQ(steps, (QStringList{"복사", "자료 검사", "압축", "확인"}));
 }
 
 TEST_F(BackupTest, AnArchiveThatChangedSinceItWasLookedAtIsNotPutBack) {
   const QString archive = native(make().archive);
   backup::ArchiveFacts facts = backup::verify(archive, nobody);
   facts.files.first().sum = QByteArray(64, '0');
-  const QString place = folder.path() + u"/fresh"_s;
+  const QString place = folder.path() + "/fresh";
   EXPECT_EQ(failureOf([&] { backup::unpack(archive, facts, place, nobody); }).first, 321);
 }
 
 TEST_F(BackupTest, TheServersCopyIsReadBackAndItsCommandMustEndWell) {
-  settings.serverFolder = u"Z:\\백업\\"_s;
-  QDir().mkpath(folder.path() + u"/z"_s);
+  settings.serverFolder = "Z:\\백업\\";
+  QDir().mkpath(folder.path() + "/z");
   const backup::BackupDone done = make();
   const QString archive = done.archive, copy = settings.serverFolder + nameOf(done),
-                sent = folder.path() + u"/sent.zip"_s;
-  settings.serverCommand = u"cp %1 "_s + sent;
+                sent = folder.path() + "/sent.zip";
+  settings.serverCommand = "cp %1 " + sent;
   backup::sendToServer(pc, archive, settings, nobody);
   EXPECT_EQ(bytesOf(native(copy)), bytesOf(native(archive)));
   EXPECT_EQ(bytesOf(sent), bytesOf(native(archive)));
-  settings.serverCommand = u"sh -c \"echo 연결 실패; exit 3\" %1"_s;
+  settings.serverCommand = "sh -c \"echo 연결 실패; exit 3\" %1";
   QFile::remove(native(copy));
   const auto [number, text] = failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); });
   EXPECT_EQ(number, 75);
-  EXPECT_TRUE(text.contains(u"연결 실패"_s)) << text.toStdString();
+  EXPECT_TRUE(text.contains("연결 실패")) << text.toStdString();
 }
 
 TEST_F(BackupTest, SettingsComeBackAndNonsenseIsHeldWithinBounds) {
-  EXPECT_EQ(backup::readSettings(pc), (backup::Settings{u"C:\\RWGas\\BackUp\\"_s, 10, {}, {}, true}));
-  const backup::Settings chosen{u"D:\\보관\\"_s, 7, u"Z:\\s\\"_s, u"scp %1 a:b"_s, false};
-  EXPECT_TRUE(backup::writeSettings(pc, {u" D:\\보관"_s, 7, u"Z:\\s"_s, u"scp %1 a:b "_s, false}));
+  EXPECT_EQ(backup::readSettings(pc), (backup::Settings{"C:\\RWGas\\BackUp\\", 10, {}, {}, true}));
+  const backup::Settings chosen{"D:\\보관\\", 7, "Z:\\s\\", "scp %1 a:b", false};
+  EXPECT_TRUE(backup::writeSettings(pc, {" D:\\보관", 7, "Z:\\s", "scp %1 a:b ", false}));
   EXPECT_EQ(backup::readSettings(pc), chosen);
   pc.settings.SaveSetting("Backup", "설정", "보관개수", "0");
   EXPECT_EQ(backup::readSettings(pc).keep, 1);
@@ -369,18 +339,18 @@ TEST_F(BackupTest, ABrokenOffSwapIsFinishedAndNeverThrowsBooksAway) {
   const auto before = books();
   // Killed while it was filled: rubbish.
   beginPreparing(paths, dataFolder, pc.clock.now());
-  write(preparedFolder(dataFolder) + u"\\Basic.mdb"_s, "half");
+  write(preparedFolder(dataFolder) + "\\Basic.mdb", "half");
   beginPreparing(paths, dataFolder, pc.clock.now());
-  EXPECT_EQ(contents(native(preparedFolder(dataFolder))).keys(), QStringList{".unfinished"});
+  EXPECT_EQ(contentsOf(native(preparedFolder(dataFolder))).keys(), QStringList{".unfinished"});
   dropPrepared(paths, dataFolder);
   // Killed right after the exchange, before the old books had their dated name.
   QDir().mkdir(native(preparedFolder(dataFolder)));
-  write(preparedFolder(dataFolder) + u"\\Basic.mdb"_s, "old books");
+  write(preparedFolder(dataFolder) + "\\Basic.mdb", "old books");
   EXPECT_FALSE(finishSwap(paths, dataFolder)) << "the books are there";
   beginPreparing(paths, dataFolder, pc.clock.now());
-  const QStringList kept = QDir(native(u"C:\\RWGas"_s)).entryList({u"Dbs-이전-20260316-*"_s}, QDir::Dirs);
+  const QStringList kept = QDir(native("C:\\RWGas")).entryList({"Dbs-이전-20260316-*"}, QDir::Dirs);
   ASSERT_EQ(kept.size(), 1);
-  EXPECT_EQ(bytesOf(native(u"C:\\RWGas\\"_s + kept.first()) + u"/Basic.mdb"_s), "old books");
+  EXPECT_EQ(bytesOf(native("C:\\RWGas\\" + kept.first()) + "/Basic.mdb"), "old books");
   dropPrepared(paths, dataFolder);
   // Killed between two renamings.
   QDir().rename(native(dataFolder), native(preparedFolder(dataFolder)));

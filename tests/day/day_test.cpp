@@ -1,8 +1,6 @@
 // The whole road by keystrokes on the real window: the sample day, read back from the data files.
 #include "samples/day.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 
 #include "tests/day/sample_folder.h"

@@ -1,8 +1,6 @@
 // Any keys on the real window: whatever they do, the program answers every one of them and ends only when asked to.
 //   HAEON_STORM=long     thousands of keys, another seed every time
 //   HAEON_MONKEY=SEED    this seed
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QRandomGenerator>
 

@@ -1,8 +1,6 @@
 // The road of a bill by keystrokes on the real window: readings, slips on paper, the bank's file, the next month.
 #include "samples/month.h"
 
-#include <gtest/gtest.h>
-
 #include <QProcess>
 
 #include "tests/day/sample_folder.h"

@@ -30,8 +30,8 @@ TEST(SampleBooks, JanuaryAndFebruaryAreBilledAndMarchWaits) {
   const jet::Database year = session.wsMain.OpenDatabase(session.DbPath + "2026Foundation.mdb");
   auto rs = year.OpenRecordset(
       "Select Client.HouseStyle, Client.VolumeUnit, Client.BDName, Client.Dong, Evaporation.* From "
-      "Evaporation LEFT JOIN "
-      "Client On Evaporation.ClientCode = Client.Code Where Mon <= 4 Order By ClientCode, Mon");
+      "Evaporation LEFT JOIN Client On Evaporation.ClientCode = Client.Code Where Mon <= 4 Order By "
+      "ClientCode, Mon");
   const double fees[] = {1000, 800, 900};
   QMap<QString, int> owingBlocks;
   int households = 0, shops = 0, paidFebruary = 0;

@@ -1,6 +1,4 @@
 // The program starts and ends, again and again, on a machine that has other work to do.
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <stdexcept>
 #include <thread>

@@ -1,8 +1,6 @@
 // The turn of the year by keystrokes on the real window: the year is closed, the clock moves on, January bills carry.
 #include "samples/year_end.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/day/sample_folder.h"
 
 namespace {

@@ -3,8 +3,6 @@
 #include "links/see_id_lines.h"
 #include "tests/support.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 TEST(SeeIdLines, UnderstandsWhatUnitsSend) {
@@ -54,7 +52,7 @@ struct FakeForm : CallerTarget {
 };
 
 struct CallerTest : ::testing::Test, tests::TestPc {
-  CallerTest() { session.AppTitle = u"해온판매"_s; }
+  CallerTest() { session.AppTitle = "해온판매"; }
   void use(const char* port1, const char* port2) {
     pc.settings.SaveSetting("해온판매", "환경설정", "OpenSeeIDPort1", port1);
     pc.settings.SaveSetting("해온판매", "환경설정", "OpenSeeIDPort2", port2);

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTest>
 
 #include "links/FrmSeeIDFormatTelNo.h"
 #include "links/FrmSeeIDOptions.h"
@@ -142,8 +141,7 @@ TEST(SeeIdForms, NumbersOutOfShapeAreTickedAndPutRightByKeys) {
   auto* const count = form.findChild<QLabel*>("LblCount");
   EXPECT_EQ(count->text(), "2개 중 2개 선택");
   tests::grab(form, "FrmSeeIDFormatTelNo");
-  tests::key(Qt::Key_Down);
-  tests::key(Qt::Key_Space);
+  tests::keys({Qt::Key_Down, Qt::Key_Space});
   EXPECT_EQ(count->text(), "2개 중 1개 선택");
   at.prompts.expect("선택한 전화번호 1개를 바꾸시겠습니까?");
   at.prompts.expect("전화번호 1개를 바꾸었습니다.");

@@ -1,7 +1,6 @@
 // The reminder at the program's end.
 #include "links/frmMsgBackUp.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 

@@ -15,7 +15,7 @@ struct ModBackUp : testing::Test, StartingPc {
     ++closed;
     return closes;
   };
-  void SetUp() override { install(u"데이터압축.EXE"_s); }
+  void SetUp() override { install("데이터압축.EXE"); }
 };
 
 TEST_F(ModBackUp, EveryKindHasItsQuestionAndItsArgument) {
@@ -24,11 +24,11 @@ TEST_F(ModBackUp, EveryKindHasItsQuestionAndItsArgument) {
     QString title;
     QStringList backup, restore;
   };
-  const QString tool = u"데이터압축.EXE"_s;
-  for (const Kind& kind : {Kind{0, u"데이터 백업(하드)"_s, {tool}, {tool}},
-                           Kind{1, u"데이터 백업(서버)"_s, {tool, u"SERVERUP"_s}, {tool, u"UNZIP"_s}},
-                           Kind{2, u"데이터 백업(AS)"_s, {tool, u"AS"_s}, {tool}},
-                           Kind{3, u"데이터 백업(하드)"_s, {tool, u"HDDAUTO"_s}, {tool, u"HDDAUTO"_s}}}) {
+  const QString tool = "데이터압축.EXE";
+  for (const Kind& kind : {Kind{0, "데이터 백업(하드)", {tool}, {tool}},
+                           Kind{1, "데이터 백업(서버)", {tool, "SERVERUP"}, {tool, "UNZIP"}},
+                           Kind{2, "데이터 백업(AS)", {tool, "AS"}, {tool}},
+                           Kind{3, "데이터 백업(하드)", {tool, "HDDAUTO"}, {tool, "HDDAUTO"}}}) {
     session.ClosingForBackup = false;
     prompts.expect(kind.title);
     EXPECT_TRUE(RunBackup(session, kind.kind, false, closeForms));
@@ -38,17 +38,17 @@ TEST_F(ModBackUp, EveryKindHasItsQuestionAndItsArgument) {
                   u"계속하시겠습니까?"_s);
     EXPECT_EQ(started, kind.backup);
     EXPECT_TRUE(session.ClosingForBackup);
-    prompts.expect(u"데이터 내려받기"_s);
+    prompts.expect("데이터 내려받기");
     EXPECT_TRUE(RunRestore(session, kind.kind, closeForms));
-    EXPECT_TRUE(prompts.seen.last().contains(
-        u"안전한 복구를 위하여 현재 사용중인 해온판매 프로그램을 종료합니다."_s));
+    EXPECT_TRUE(
+        prompts.seen.last().contains("안전한 복구를 위하여 현재 사용중인 해온판매 프로그램을 종료합니다."));
     EXPECT_EQ(started, kind.restore);
   }
   EXPECT_EQ(closed, 8);
 }
 
 TEST_F(ModBackUp, NoAndAFormThatStaysStartNothing) {
-  prompts.expect(u"데이터 백업"_s, false);
+  prompts.expect("데이터 백업", false);
   EXPECT_FALSE(RunBackup(session, 0, false, closeForms));
   EXPECT_EQ(closed, 0);
   closes = false;
@@ -60,7 +60,7 @@ TEST_F(ModBackUp, NoAndAFormThatStaysStartNothing) {
 
 TEST_F(ModBackUp, ACompressorThatDoesNotStartIsToldAndTheProgramStays) {
   starts = false;
-  prompts.expect(u"시작할 수 없습니다"_s);
+  prompts.expect("시작할 수 없습니다");
   EXPECT_FALSE(RunBackup(session, 1, true, {}));
   EXPECT_FALSE(session.ClosingForBackup);
 }
@@ -77,7 +77,7 @@ TEST_F(ModBackUp, TheReminderEndsBacksUpOrStays) {
   EXPECT_TRUE(pressed(1));
   EXPECT_EQ(started, (QStringList{"데이터압축.EXE"}));
   starts = false;
-  prompts.expect(u"시작할 수 없습니다"_s);
+  prompts.expect("시작할 수 없습니다");
   EXPECT_FALSE(pressed(1));
 }
 

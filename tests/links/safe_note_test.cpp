@@ -1,13 +1,9 @@
 // The safety register: its days as a selection, and the lines that come of it.
 #include "links/safe_note.h"
 
-#include <gtest/gtest.h>
-
 #include "pc/reports.h"
 #include "store/report_source.h"
 #include "tests/support.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,13 +15,13 @@ struct SafeNoteTest : testing::Test, tests::TestPc, pc::Reports {
     openBooks(QDate(2026, 3, 16));
     session.reports = this;
     session.dbBasic.Execute(
-        u"Insert Into Client(Name, Address, Tel) Values('달빛식당', '인천 부평구', '02-1')"_s);
+        "Insert Into Client(Name, Address, Tel) Values('달빛식당', '인천 부평구', '02-1')");
     for (const char* line :
          {"'2026-02-28', 1, 1", "'2026-03-01', 1, 2", "'2026-03-16', 6, 3", "'2026-03-17', 1, 4"})
       session.dbYear.Execute(
-          u"Insert Into Sale(ClientCode, SaleName, SaleThing, Response, SaleDate, SaleGubun, SaleNum) "
-          u"Values(1, 'LPG', '20', '김배달', "_s +
-          QString::fromLatin1(line) + u")"_s);
+          "Insert Into Sale(ClientCode, SaleName, SaleThing, Response, SaleDate, SaleGubun, SaleNum) "
+          "Values(1, 'LPG', '20', '김배달', " +
+          QString::fromLatin1(line) + ")");
   }
   QString lines() {
     const pc::ReportRequest& request = shown.back();
@@ -43,23 +39,22 @@ struct SafeNoteTest : testing::Test, tests::TestPc, pc::Reports {
 };
 
 TEST_F(SafeNoteTest, ListsTheSalesOfItsDaysBothEndsIncluded) {
-  ASSERT_TRUE(showSafeNote(session, {u"2026-03-01"_s, u"2026-03-16"_s, u"03"_s}));
-  EXPECT_EQ(shown.back().formulas, (QStringList{u"DDay= '2026/03/01 ~ 2026/03/16'"_s, u"DMon= '03'"_s}));
-  EXPECT_EQ(lines(), u"2026-03-01|달빛식당|인천 부평구|가스|2\n2026-03-16|달빛식당|인천 부평구|용회|3"_s);
-  ASSERT_TRUE(showSafeNote(session, {u"3.1"_s, u"2026-03-01"_s, {}}));
-  EXPECT_EQ(shown.back().formulas, (QStringList{u"DDay= '2026/03/01'"_s, u"DMon= ''"_s}))
-      << "one day is told once";
-  EXPECT_EQ(lines(), u"2026-03-01|달빛식당|인천 부평구|가스|2"_s);
+  ASSERT_TRUE(showSafeNote(session, {"2026-03-01", "2026-03-16", "03"}));
+  EXPECT_EQ(shown.back().formulas, (QStringList{"DDay= '2026/03/01 ~ 2026/03/16'", "DMon= '03'"}));
+  EXPECT_EQ(lines(), "2026-03-01|달빛식당|인천 부평구|가스|2\n2026-03-16|달빛식당|인천 부평구|용회|3");
+  ASSERT_TRUE(showSafeNote(session, {"3.1", "2026-03-01", {}}));
+  EXPECT_EQ(shown.back().formulas, (QStringList{"DDay= '2026/03/01'", "DMon= ''"})) << "one day is told once";
+  EXPECT_EQ(lines(), "2026-03-01|달빛식당|인천 부평구|가스|2");
 }
 
 TEST_F(SafeNoteTest, TakesTheFileOfTheFirstDaysYear) {
-  prompts.expect(u"2025년의 자료 파일이 없습니다!"_s);
-  EXPECT_FALSE(showSafeNote(session, {u"2025-12-01"_s, u"2026-03-16"_s, {}}));
-  makeYearFile(session, u"2025"_s);
-  ASSERT_TRUE(showSafeNote(session, {u"2025-12-01"_s, u"2026-03-16"_s, {}}));
-  EXPECT_EQ(shown.back().liveFiles, QStringList{u"C:\\RWGas\\Dbs\\2025Foundation.mdb"_s});
+  prompts.expect("2025년의 자료 파일이 없습니다!");
+  EXPECT_FALSE(showSafeNote(session, {"2025-12-01", "2026-03-16", {}}));
+  makeYearFile(session, "2025");
+  ASSERT_TRUE(showSafeNote(session, {"2025-12-01", "2026-03-16", {}}));
+  EXPECT_EQ(shown.back().liveFiles, QStringList{"C:\\RWGas\\Dbs\\2025Foundation.mdb"});
   for (const auto& [from, to] : {std::pair{"2026-02-30", "2026-03-01"}, {"2026-03-01", ""}}) {
-    prompts.expect(u"날짜입력이 잘못되었습니다!"_s);
+    prompts.expect("날짜입력이 잘못되었습니다!");
     EXPECT_FALSE(showSafeNote(session, {QString::fromLatin1(from), QString::fromLatin1(to), {}}));
   }
 }

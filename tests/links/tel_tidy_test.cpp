@@ -1,8 +1,6 @@
 // Stored telephone numbers brought into the shape by which a caller is found.
 #include "links/tel_tidy.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/answers.h"
 #include "tests/support.h"
 
@@ -35,7 +33,7 @@ TEST(TidyTel, NumbersAreBroughtIntoShapeAndEverythingElseStays) {
 0504-1234-5678 ->
 ２０５３１２３４５６７ ->)"_s;
   for (const QString& line : cases.split(u'\n', Qt::SkipEmptyParts)) {
-    const qsizetype arrow = line.indexOf(u" ->"_s);
+    const qsizetype arrow = line.indexOf(" ->");
     const QString stored = line.left(arrow), tidy = line.mid(arrow + 3).trimmed();
     EXPECT_EQ(tidyTel(stored).value_or(QString()), tidy) << line.toStdString();
     EXPECT_FALSE(tidyTel(tidy)) << "twice is once";
@@ -45,10 +43,9 @@ TEST(TidyTel, NumbersAreBroughtIntoShapeAndEverythingElseStays) {
 struct TelTidyTest : testing::Test, tests::TestPc {
   TelTidyTest() {
     openBooks();
-    for (const QString& client :
-         {u"1, '나래', '0531234567', '', '01012345678'"_s, u"2, '가람', '053-765-4321', '7654321', ''"_s,
-          u"3, '다온', '모름', '', ''"_s})
-      session.dbBasic.Execute(u"Insert Into Client(Code, Name, Tel, Tel1, Tel2) Values("_s + client + u")"_s);
+    tests::insertRows(session.dbBasic, "Client(Code, Name, Tel, Tel1, Tel2)",
+                      {"1, '나래', '0531234567', '', '01012345678'",
+                       "2, '가람', '053-765-4321', '7654321', ''", "3, '다온', '모름', '', ''"});
     EXPECT_TRUE(tidy.load());
   }
   QString row(int at) {
@@ -57,36 +54,36 @@ struct TelTidyTest : testing::Test, tests::TestPc {
     return texts.join(u'|');
   }
   QString stored() {
-    return tests::rowsOf(session.dbBasic, u"Select Tel, Tel1, Tel2 From Client Order By Code"_s);
+    return tests::rowsOf(session.dbBasic, "Select Tel, Tel1, Tel2 From Client Order By Code");
   }
   TelTidy tidy{session};
 };
 
 TEST_F(TelTidyTest, WhatIsTickedIsWrittenAndTheRestWaits) {
   ASSERT_EQ(tidy.list().MaxRows(), 3);
-  EXPECT_EQ(row(1), u"1|가람|전화번호 2|7654321|765-4321"_s);
-  EXPECT_EQ(row(2), u"1|나래|전화번호|0531234567|053-123-4567"_s);
-  EXPECT_EQ(row(3), u"1|나래|전화번호 3|01012345678|010-1234-5678"_s);
-  tidy.list().setText(3, TidyCol::Tick, u"0"_s);
-  prompts.expect(u"선택한 전화번호 2개를 바꾸시겠습니까?"_s, false);
+  EXPECT_EQ(row(1), "1|가람|전화번호 2|7654321|765-4321");
+  EXPECT_EQ(row(2), "1|나래|전화번호|0531234567|053-123-4567");
+  EXPECT_EQ(row(3), "1|나래|전화번호 3|01012345678|010-1234-5678");
+  tidy.list().setText(3, TidyCol::Tick, "0");
+  prompts.expect("선택한 전화번호 2개를 바꾸시겠습니까?", false);
   EXPECT_FALSE(tidy.save());
-  prompts.expect(u"선택한 전화번호 2개를 바꾸시겠습니까?"_s);
-  prompts.expect(u"전화번호 2개를 바꾸었습니다."_s);
+  prompts.expect("선택한 전화번호 2개를 바꾸시겠습니까?");
+  prompts.expect("전화번호 2개를 바꾸었습니다.");
   EXPECT_TRUE(tidy.save());
-  EXPECT_EQ(stored(), u"053-123-4567||01012345678;053-765-4321|765-4321|;모름||"_s);
+  EXPECT_EQ(stored(), "053-123-4567||01012345678;053-765-4321|765-4321|;모름||");
   ASSERT_TRUE(tidy.load());
   EXPECT_EQ(tidy.list().MaxRows(), 1);
   tidy.tickAll(false);
-  prompts.expect(u"바꿀 전화번호를 선택하십시오!"_s);
+  prompts.expect("바꿀 전화번호를 선택하십시오!");
   EXPECT_FALSE(tidy.save());
 }
 
 TEST_F(TelTidyTest, ACellThatAnotherPcChangedMeanwhileStays) {
-  session.dbBasic.Execute(u"Update Client Set Tel = '053-999-9999' Where Code = 1"_s);
-  prompts.expect(u"3개를 바꾸시겠습니까?"_s);
-  prompts.expect(u"전화번호 2개를 바꾸었습니다.\n1개는 그 사이에 다른 PC에서 바뀌어 그대로 두었습니다."_s);
+  session.dbBasic.Execute("Update Client Set Tel = '053-999-9999' Where Code = 1");
+  prompts.expect("3개를 바꾸시겠습니까?");
+  prompts.expect("전화번호 2개를 바꾸었습니다.\n1개는 그 사이에 다른 PC에서 바뀌어 그대로 두었습니다.");
   EXPECT_TRUE(tidy.save());
-  EXPECT_TRUE(stored().startsWith(u"053-999-9999||010-1234-5678"_s));
+  EXPECT_TRUE(stored().startsWith("053-999-9999||010-1234-5678"));
 }
 
 }  // namespace

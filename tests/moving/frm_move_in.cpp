@@ -1,12 +1,12 @@
 // Old books brought in through the window, and by the program on the command line.
 #include "moving/FrmMoveIn.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
 
+#include "tests/answers.h"
 #include "tests/moving/jet_writer.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
@@ -19,74 +19,64 @@ struct MoveInForm : testing::Test, TestPc {
   QTemporaryDir old;
   void SetUp() override {
     pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(9, 0)));
-    session.AppTitle = u"해온판매"_s;
+    session.AppTitle = "해온판매";
     session.DbPath = installedDataFolder();
-    ASSERT_TRUE(pc.paths.makeFolder(u"C:\\RWGas"_s));
-    JetWriter(3).write(
-        old.path() + u"/BASIC.MDB"_s,
-        {{u"Client"_s, {{u"Code"_s, JetType::Long}, {u"Name"_s}, {u"별명"_s}}, {{1, u"김가네"_s, u"x"_s}}}});
+    ASSERT_TRUE(pc.paths.makeFolder("C:\\RWGas"));
+    JetWriter(3).write(old.path() + "/BASIC.MDB",
+                       {{"Client", {{"Code", JetType::Long}, {"Name"}, {"별명"}}, {{1, "김가네", "x"}}}});
   }
-  QString name() {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    return workspace.OpenDatabase(session.DbPath + u"Basic.mdb"_s)
-        .OpenRecordset(u"Select Name From Client"_s)[0]
-        .toText();
-  }
+  QString name() { return rowsOf(openData(session, "Basic.mdb"), "Select Name From Client"); }
 };
 
 TEST_F(MoveInForm, AFolderIsBroughtInAndTheReportShown) {
   moving::FrmMoveIn form(session, {});
   tests::show(form);
-  prompts.expect(u"이전 자료가 있는 폴더를 고르십시오."_s);
+  prompts.expect("이전 자료가 있는 폴더를 고르십시오.");
   key(Qt::Key_Return);
-  form.findChild<QLineEdit*>(u"txtFolder"_s)->setText(folder.path());
-  prompts.expect(u"이전 형식의 Basic.mdb 가 없습니다."_s);
+  form.findChild<QLineEdit*>("txtFolder")->setText(folder.path());
+  prompts.expect("이전 형식의 Basic.mdb 가 없습니다.");
   key(Qt::Key_Return);
   EXPECT_FALSE(form.moved());
   tests::show(form);  // off-screen it does not come back to the front by itself after the bar
-  form.findChild<QPushButton*>(u"btnBegin"_s)->setFocus();
-  form.findChild<QLineEdit*>(u"txtFolder"_s)->setText(old.path());
-  prompts.expect(u"이전 자료를 가져왔습니다."_s);
+  form.findChild<QPushButton*>("btnBegin")->setFocus();
+  form.findChild<QLineEdit*>("txtFolder")->setText(old.path());
+  prompts.expect("이전 자료를 가져왔습니다.");
   key(Qt::Key_Return);
   EXPECT_TRUE(form.moved());
   EXPECT_EQ(name(), "김가네");
-  EXPECT_TRUE(form.findChild<QPlainTextEdit*>(u"txtReport"_s)->toPlainText().contains(u"별명 (값 1개)"_s));
-  EXPECT_FALSE(form.findChild<QPushButton*>(u"btnBegin"_s)->isEnabled());
+  EXPECT_TRUE(form.findChild<QPlainTextEdit*>("txtReport")->toPlainText().contains("별명 (값 1개)"));
+  EXPECT_FALSE(form.findChild<QPushButton*>("btnBegin")->isEnabled());
   tests::grab(form, "FrmMoveIn");
 }
 
 TEST_F(MoveInForm, WorkThatIsThereIsPutAsideOnlyAfterAYes) {
   ASSERT_TRUE(prepareDataFolder(session));
-  {
-    const jet::Workspace workspace = openWorkspace(session, session.DbPath);
-    workspace.OpenDatabase(session.DbPath + u"Basic.mdb"_s)
-        .Execute(u"Insert Into Client(Name) Values('지금 손님')"_s);
-  }
+  openData(session, "Basic.mdb").Execute("Insert Into Client(Name) Values('지금 손님')");
   moving::FrmMoveIn form(session, old.path());
   tests::show(form);
-  prompts.expect(u"이미 입력한 자료가 있습니다."_s, false);
-  form.findChild<QPushButton*>(u"btnBegin"_s)->click();
+  prompts.expect("이미 입력한 자료가 있습니다.", false);
+  form.findChild<QPushButton*>("btnBegin")->click();
   EXPECT_EQ(name(), "지금 손님");
-  prompts.expect(u"이미 입력한 자료가 있습니다."_s);
-  prompts.expect(u"이전 자료를 가져왔습니다."_s);
-  form.findChild<QPushButton*>(u"btnBegin"_s)->click();
+  prompts.expect("이미 입력한 자료가 있습니다.");
+  prompts.expect("이전 자료를 가져왔습니다.");
+  form.findChild<QPushButton*>("btnBegin")->click();
   EXPECT_EQ(name(), "김가네");
 }
 
 TEST_F(MoveInForm, TheProgramOnTheCommandLineReportsAndFailsSoftly) {
   QProcess importer;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(u"HAEON_PC"_s, folder.path());
+  environment.insert("HAEON_PC", folder.path());
   importer.setProcessEnvironment(environment);
-  const QString program = QApplication::applicationDirPath() + u"/../haeon-import"_s;
+  const QString program = QApplication::applicationDirPath() + "/../haeon-import";
   importer.start(program, {folder.path()});
   ASSERT_TRUE(importer.waitForFinished(60000)) << program.toStdString();
   EXPECT_EQ(importer.exitCode(), 1);
-  EXPECT_TRUE(QString::fromUtf8(importer.readAllStandardError()).contains(u"그대로 있습니다."_s));
+  EXPECT_TRUE(QString::fromUtf8(importer.readAllStandardError()).contains("그대로 있습니다."));
   importer.start(program, {old.path()});
   ASSERT_TRUE(importer.waitForFinished(60000));
   EXPECT_EQ(importer.exitCode(), 0) << importer.readAllStandardError().toStdString();
-  EXPECT_TRUE(QString::fromUtf8(importer.readAllStandardOutput()).contains(u"Client  1줄"_s));
+  EXPECT_TRUE(QString::fromUtf8(importer.readAllStandardOutput()).contains("Client  1줄"));
   EXPECT_EQ(name(), "김가네");
 }
 

@@ -1,7 +1,5 @@
 #include "pc/file_name.h"
 
-#include <gtest/gtest.h>
-
 namespace {
 
 TEST(FileName, OfAnyTextIsTakenByEveryFileSystem) {

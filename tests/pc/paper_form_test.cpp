@@ -1,8 +1,6 @@
 // Where the entries of a paper's table land on the page, in inches.
 #include "pc/paper_form.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/recorded_print.h"
 
 using namespace Qt::StringLiterals;
@@ -17,9 +15,9 @@ constexpr pc::PaperFont fonts[] = {{u"굴림체"}, {u"돋움체", 7.2, true}};
 
 struct PaperFormTest : testing::Test {
   tests::RecordedPrinters printers;
-  std::unique_ptr<pc::PrintJob> job = printers.open(u"지로프린터"_s, {}, {});
+  std::unique_ptr<pc::PrintJob> job = printers.open("지로프린터", {}, {});
   const tests::RecordedJob& record() { return *printers.jobs.back(); }
-  const std::vector<QString> texts{u"가람상사"_s, u"1,500"_s};
+  const std::vector<QString> texts{"가람상사", "1,500"};
 
   void draw(std::span<const PaperItem> items, pc::PaperShift shift = {}) {
     pc::PaperForm form{.paper = {}, .rowsPerInch = 6, .columnsPerInch = 10, .fonts = fonts, .items = items};

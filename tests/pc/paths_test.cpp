@@ -1,22 +1,11 @@
 #include "pc/paths.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "pc/process.h"
-
-using namespace Qt::StringLiterals;
+#include "tests/files.h"
 
 namespace {
-
-void touch(const QString& file) {
-  QDir().mkpath(QFileInfo(file).path());
-  QFile out(file);
-  ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-}
 
 struct PathsTest : testing::Test {
   QTemporaryDir folder;
@@ -25,8 +14,8 @@ struct PathsTest : testing::Test {
 };
 
 TEST_F(PathsTest, FindsWhatExistsWithoutRegardToCase) {
-  touch(at("/c/RWGas/Dbs/Basic.mdb"));
-  touch(at("/c/RWGas/한글 폴더/2002Foundation.mdb"));
+  tests::writeFile(at("/c/RWGas/Dbs/Basic.mdb"));
+  tests::writeFile(at("/c/RWGas/한글 폴더/2002Foundation.mdb"));
   EXPECT_EQ(paths.native("C:\\rwgas\\dbs\\basic.mdb"), at("/c/RWGas/Dbs/Basic.mdb"));
   EXPECT_EQ(paths.native("c:\\RWGas\\Dbs\\\\Basic.mdb"), at("/c/RWGas/Dbs/Basic.mdb")) << "doubled backslash";
   EXPECT_EQ(paths.native("C:/RWGAS/한글 폴더/"), at("/c/RWGas/한글 폴더"));
@@ -47,7 +36,7 @@ TEST_F(PathsTest, LeavesPathsWithoutALetterAlone) {
 
 TEST_F(PathsTest, ListsByPatternInAnyCaseAndCopiesToFreeNamesOnly) {
   for (const char* name : {"2026Foundation.mdb", "2025foundation.MDB", "Basic.mdb"}) {
-    touch(at(u"/c/RWGas/Dbs/"_s + QString::fromLatin1(name)));
+    tests::writeFile(at("/c/RWGas/Dbs/" + QString::fromLatin1(name)));
   }
   EXPECT_EQ(paths.list("C:\\RWGas\\Dbs\\", "*Foundation.mdb"),
             (QStringList{"2025foundation.MDB", "2026Foundation.mdb"}));
@@ -59,9 +48,9 @@ TEST_F(PathsTest, ListsByPatternInAnyCaseAndCopiesToFreeNamesOnly) {
 }
 
 TEST_F(PathsTest, MapsAShareToALetterAndSaysWhyNot) {
-  touch(at("/c/x"));
+  tests::writeFile(at("/c/x"));
   QTemporaryDir share;
-  touch(share.path() + "/Dbs/Basic.mdb");
+  tests::writeFile(share.path() + "/Dbs/Basic.mdb");
   EXPECT_EQ(paths.mapNetworkDrive(" " + share.path() + " ", "z:"), "");
   EXPECT_EQ(paths.native("Z:\\dbs\\BASIC.mdb"), share.path() + "/Dbs/Basic.mdb");
   EXPECT_EQ(paths.drives(), (QStringList{"C:", "Z:"}));
@@ -80,7 +69,7 @@ TEST_F(PathsTest, MapsAShareToALetterAndSaysWhyNot) {
 
 TEST_F(PathsTest, FindsAWindowsShareWhereTheDesktopMountsIt) {
   QTemporaryDir runtime;
-  touch(runtime.path() + "/gvfs/smb-share:server=office,share=gas/Dbs/Basic.mdb");
+  tests::writeFile(runtime.path() + "/gvfs/smb-share:server=office,share=gas/Dbs/Basic.mdb");
   const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
   qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
   EXPECT_EQ(paths.mapNetworkDrive("\\\\OFFICE\\Gas\\Dbs", "G:"), "");
@@ -89,8 +78,8 @@ TEST_F(PathsTest, FindsAWindowsShareWhereTheDesktopMountsIt) {
 }
 
 TEST_F(PathsTest, NoWrittenPathLeavesItsDrive) {
-  touch(at("/c/RWGas/Dbs/Basic.mdb"));
-  touch(at("/settings/secret.ini"));
+  tests::writeFile(at("/c/RWGas/Dbs/Basic.mdb"));
+  tests::writeFile(at("/settings/secret.ini"));
   EXPECT_EQ(paths.native("C:\\RWGas\\Dbs\\..\\.\\dbs\\basic.mdb"), at("/c/RWGas/Dbs/Basic.mdb"));
   for (const char* up :
        {"C:\\..\\settings\\secret.ini", "C:..\\settings\\secret.ini", "C:/RWGas/../../settings/secret.ini",
@@ -101,7 +90,7 @@ TEST_F(PathsTest, NoWrittenPathLeavesItsDrive) {
 }
 
 TEST_F(PathsTest, StartsCompanionToolsThatAreThere) {
-  touch(at("/c/RWGas/MapEdit.exe"));
+  tests::writeFile(at("/c/RWGas/MapEdit.exe"));
   pc::Process process(paths);
   QStringList started;
   process.setStarter([&](const QString& program, const QStringList& arguments, const QString& inFolder) {
@@ -118,13 +107,10 @@ TEST_F(PathsTest, StartsCompanionToolsThatAreThere) {
 }
 
 TEST_F(PathsTest, AFileWithoutAProgramForItIsNotOpened) {
-  touch(at("/c/list.xlsx"));
+  tests::writeFile(at("/c/list.xlsx"));
   const auto script = [this](const char* name, const QByteArray& lines) {
-    touch(at("/bin/") + name);
-    QFile file(at("/bin/") + name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("#!/bin/sh\n" + lines + "\n");
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    tests::writeFile(at("/bin/") + name, "#!/bin/sh\n" + lines + "\n");
+    QFile::setPermissions(at("/bin/") + name, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   };
   const QByteArray before = qgetenv("PATH");
   qputenv("PATH", at("/bin").toUtf8());

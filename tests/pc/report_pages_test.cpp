@@ -119,13 +119,22 @@ struct ReportPagesTest : testing::Test {
           EXPECT_GE(band.top, bottom - 1e-9) << "bands do not lie on each other";
           bottom = band.top + band.height;
         }
-        text += u"TNHGRsSuF"_s[int(band.kind)];
+        text += "TNHGRsSuF"[int(band.kind)];
         rows += band.kind == Kind::Row;
       }
       EXPECT_LE(bottom, layout.paper.height + 1e-9) << "nothing below the paper";
       shapes << text.replace(u"R"_s.repeated(rows), QString::number(rows));
     }
     return shapes;
+  }
+  /** Every band of each page by a letter. */
+  static QString kinds(const pc::ReportPages& pages) {
+    QString kinds;
+    for (int page = 0; page < pages.count(); ++page) {
+      for (const auto& band : pages.bands(page)) kinds += u"TNHGRsSuF"_s[int(band.kind)];
+      kinds += ' ';
+    }
+    return kinds;
   }
   pc::ReportLayout layout;
 };
@@ -168,13 +177,8 @@ TEST_F(ReportPagesTest, AGroupThatBeginsAPageIsNamedOnceAndASubtotalTakesItsRowA
   layout.subtotal = "[소 계]";
   const pc::ReportTable rows = table(18);
   const pc::ReportPages pages(layout, rows);
-  QString kinds;
-  for (int page = 0; page < pages.count(); ++page) {
-    for (const auto& band : pages.bands(page)) kinds += u"TNHGRsSuF"_s[int(band.kind)];
-    kinds += ' ';
-  }
   // Six rows and their sum, three rows; three rows and their sum, five rows; the last with its sum.
-  EXPECT_EQ(kinds, "HGRRRRRRsGRRR HGRRRsGRRRRR HGRs ");
+  EXPECT_EQ(kinds(pages), "HGRRRRRRsGRRR HGRRRsGRRRRR HGRs ");
 }
 
 TEST_F(ReportPagesTest, GroupsSumUpAndAreNamedAgainOnTheNextPage) {
@@ -184,13 +188,8 @@ TEST_F(ReportPagesTest, GroupsSumUpAndAreNamedAgainOnTheNextPage) {
   layout.total = "[합 계]";
   const pc::ReportTable rows = table(14);  // groups of 6, 6 and 2
   const pc::ReportPages pages(layout, rows);
-  QString kinds;
-  for (int page = 0; page < pages.count(); ++page) {
-    for (const auto& band : pages.bands(page)) kinds += u"TNHGRsSuF"_s[int(band.kind)];
-    kinds += ' ';
-  }
   // A group's line stays with its first row, a sum with its last; the group that goes on is named again.
-  EXPECT_EQ(kinds.toStdString(), "HGRRRRRRsGR HGRRRRRsGR HGRsS ");
+  EXPECT_EQ(kinds(pages), "HGRRRRRRsGR HGRRRRRsGR HGRsS ");
   EXPECT_EQ(pages.subtotal(0)[1].text(), "21");  // 1 to 6
   EXPECT_EQ(pages.subtotal(1)[1].text(), "57");  // 7 to 12
   EXPECT_EQ(pages.subtotal(2)[1].text(), "27");  // 13 and 14

@@ -1,7 +1,5 @@
 #include "pc/report.h"
 
-#include <QFile>
-
 #include "store/jet/format_rules.h"
 #include "tests/recorded_print.h"
 #include "tests/support.h"

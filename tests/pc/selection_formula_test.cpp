@@ -4,6 +4,7 @@
 #include "store/report_source.h"
 #include "store/report_staging.h"
 #include "store/year_file.h"
+#include "tests/answers.h"
 #include "tests/pc/layout_refusal.h"
 #include "tests/support.h"
 
@@ -44,34 +45,16 @@ TEST(SelectionFormula, BecomesACondition) {
 }
 
 TEST(SelectionFormula, AnythingElseIsRefused) {
-  for (const char* formula : {"{Sale.A}",
-                              "{Sale.A} =",
-                              "{Sale.A} = 'x",
-                              "{Sale.A} = x",
-                              "{Sale} = 1",
-                              "{.A} = 1",
-                              "Sale.A = 1",
-                              "{Sale.A} = 1 And",
-                              "And {Sale.A} = 1",
-                              "({Sale.A} = 1",
-                              "{Sale.A} = 1)",
-                              "{Sale.A} = 1 {Sale.B} = 2",
-                              "{Sale.A} = 1; Delete * From Sale",
-                              "{Sale.A; Drop} = 1",
-                              "{Sale.A]} = 1",
-                              "{Sale.A} == 1",
-                              "{Sale.A} Like '*'",
-                              "{Sale.A} = 1a",
-                              "{Sale.A} = 1.",
-                              "{Sale.A} = --1",
-                              "{Sale.A} = {Sale.B}",
-                              "Not",
-                              "()",
-                              "{Sale.A} = '1' 'x'",
-                              "{Buy.A} = 1",
-                              "{Sale.A} = 1 Andnot {Sale.A} = 2"})
+  const QString wrong =
+      "{Sale.A} | {Sale.A} = | {Sale.A} = 'x | {Sale.A} = x | {Sale} = 1 | {.A} = 1 | Sale.A = 1 | "
+      "{Sale.A} = 1 And | And {Sale.A} = 1 | ({Sale.A} = 1 | {Sale.A} = 1) | "
+      "{Sale.A} = 1 {Sale.B} = 2 | {Sale.A} = 1; Delete * From Sale | {Sale.A; Drop} = 1 | "
+      "{Sale.A]} = 1 | {Sale.A} == 1 | {Sale.A} Like '*' | {Sale.A} = 1a | {Sale.A} = 1. | "
+      "{Sale.A} = --1 | {Sale.A} = {Sale.B} | Not | () | {Sale.A} = '1' 'x' | {Buy.A} = 1 | "
+      "{Sale.A} = 1 Andnot {Sale.A} = 2";
+  for (const QString& formula : wrong.split(" | "))
     EXPECT_TRUE(condition(formula).startsWith("!선택 조건"))
-        << formula << " -> " << condition(formula).toStdString();
+        << formula.toStdString() << " -> " << condition(formula).toStdString();
   const QString deep = u"("_s.repeated(30) + "{Sale.A} = 1" + u")"_s.repeated(30);
   EXPECT_EQ(condition(deep), "!선택 조건이 잘못되었습니다: 괄호가 너무 깊습니다");
   EXPECT_TRUE(condition(u"("_s.repeated(1000000)).startsWith("!"));
@@ -95,10 +78,8 @@ struct LiveReport : testing::Test, tests::TestPc {
 
 TEST_F(LiveReport, RowsComeFromTheTablesTheLayoutNames) {
   session.dbYear.Execute(u"Insert Into Client(Code, Name, HouseStyle) Values(1, '김하나', 0)");
-  for (const char* line :
-       {"'2026-03-02', 1, 1, 100, 20", "'2026-03-01', 1, 7, 5, 0", "'2026-03-03', 9, 2, 1, 1"})
-    session.dbYear.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Income, Trust) Values(" +
-                           QString(line) + ")");
+  tests::insertRows(session.dbYear, "Sale(SaleDate, ClientCode, SaleGubun, Income, Trust)",
+                    {"'2026-03-02', 1, 1, 100, 20", "'2026-03-01', 1, 7, 5, 0", "'2026-03-03', 9, 2, 1, 1"});
   const auto texts = [](const pc::ReportTable& table) {
     QStringList rows;
     for (const auto& row : table.rows) {

@@ -1,13 +1,10 @@
 #include "pc/settings.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "pc/clock.h"
 #include "pc/cp949.h"
+#include "tests/files.h"
 
 using namespace Qt::StringLiterals;
 
@@ -58,8 +55,7 @@ TEST(Settings, HoldsAnyTextAndIsSeenByTheNextProgram) {
 
 TEST(Settings, HoldsForThisRunWhenTheFileCannotBeWritten) {
   QTemporaryDir folder;
-  QFile blocker(folder.path() + "/settings");  // a file where the folder of the settings should be
-  ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+  tests::writeFile(folder.path() + "/settings");  // a file where the folder of the settings should be
   pc::Settings settings(folder.path());
   EXPECT_FALSE(settings.SaveSetting("해온판매", "환경설정", "db경로", "D:\\"));
   EXPECT_EQ(settings.GetSetting("해온판매", "환경설정", "db경로"), "D:\\");

@@ -7,6 +7,8 @@
 
 namespace tests {
 
+using namespace Qt::StringLiterals;
+
 struct ClosingDesk : MeterDesk {
   int owes = 0, paid = 0, over = 0, late = 0;  ///< customers, by how December left them
 
@@ -46,7 +48,7 @@ struct ClosingDesk : MeterDesk {
                 },
             .progress =
                 [this](const QString& text, int done, int total) {
-                  progressed << text + QStringLiteral(" %1/%2").arg(done).arg(total);
+                  progressed << text + u" %1/%2"_s.arg(done).arg(total);
                   if (meanwhile) meanwhile(text, done);
                 },
             .differs =
@@ -67,7 +69,7 @@ struct ClosingDesk : MeterDesk {
   void closeFails(int number) {
     pc.prompts.expect("2027년도의 자료는 모두 초기화됩니다!");
     pc.prompts.expect("마감작업을 하던중 에러가 발생했습니다!\n구입업체로 연락하시기 바랍니다.");
-    pc.prompts.expect(QStringLiteral("에러번호 : %1\n에러내용 : ").arg(number));
+    pc.prompts.expect(u"에러번호 : %1\n에러내용 : "_s.arg(number));
     close();
     EXPECT_EQ(rows("Select Count(Mon) From Evaporation"), "52") << "dbYear is open on the working year";
     EXPECT_FALSE(session.dbYear.hasTable("TmpTbl"));

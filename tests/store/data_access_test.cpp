@@ -15,78 +15,78 @@ class DataAccess : public Engine {
 
 TEST_F(DataAccess, OpenDBSwallowsEveryFailure) {
   jet::Database db;
-  EXPECT_TRUE(OpenDB(workspace, db, path(u"Basic.mdb"_s)));
-  EXPECT_FALSE(OpenDB(workspace, db, path(u"none.mdb"_s)));
+  EXPECT_TRUE(OpenDB(workspace, db, path("Basic.mdb")));
+  EXPECT_FALSE(OpenDB(workspace, db, path("none.mdb")));
   EXPECT_FALSE(db.isOpen());
-  EXPECT_FALSE(OpenDB(jet::Workspace(), db, path(u"Basic.mdb"_s)));
+  EXPECT_FALSE(OpenDB(jet::Workspace(), db, path("Basic.mdb")));
   CloseDB(db);
 }
 
 TEST_F(DataAccess, AFailedQueryIsToldWithItsStatement) {
   jet::Recordset rs;
-  EXPECT_TRUE(OpenSnapshot(prompts, basic, rs, u"Select * From Client"_s));
-  prompts.expect(u"\rSelect * From Nothing"_s);
-  EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, u"Select * From Nothing"_s));
+  EXPECT_TRUE(OpenSnapshot(prompts, basic, rs, "Select * From Client"));
+  prompts.expect("\rSelect * From Nothing");
+  EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, "Select * From Nothing"));
   EXPECT_FALSE(rs.isOpen());
-  EXPECT_TRUE(prompts.seen.last().startsWith(u"ERROR|"_s));
-  prompts.expect(u"MDB 오류"_s);
-  EXPECT_FALSE(OpenDynaset(prompts, jet::Database(), rs, u"Select 1"_s));
-  EXPECT_EQ(prompts.seen.last(), u"MDB 오류|Data Base MDB가 선언되지 않았습니다.\rSelect 1"_s);
-  year.createTable(link(u"Broken"_s, path(u"Basic.mdb"_s), u"Nothing"_s));
-  prompts.expect(u"Query"_s);
-  EXPECT_FALSE(OpenSnapshot(prompts, year, rs, u"Select * From Broken"_s));
-  EXPECT_EQ(prompts.seen.last(), u"Query|Jet Data Base Engine의 식을 확인하세요.\rSelect * From Broken"_s);
-  prompts.expect(u"O'Neil"_s);
-  EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, u"Select * From Client Where Name = 'O'Neil'"_s));
+  EXPECT_TRUE(prompts.seen.last().startsWith("ERROR|"));
+  prompts.expect("MDB 오류");
+  EXPECT_FALSE(OpenDynaset(prompts, jet::Database(), rs, "Select 1"));
+  EXPECT_EQ(prompts.seen.last(), "MDB 오류|Data Base MDB가 선언되지 않았습니다.\rSelect 1");
+  year.createTable(link("Broken", path("Basic.mdb"), "Nothing"));
+  prompts.expect("Query");
+  EXPECT_FALSE(OpenSnapshot(prompts, year, rs, "Select * From Broken"));
+  EXPECT_EQ(prompts.seen.last(), "Query|Jet Data Base Engine의 식을 확인하세요.\rSelect * From Broken");
+  prompts.expect("O'Neil");
+  EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, "Select * From Client Where Name = 'O'Neil'"));
   CloseDB(rs);
   CloseDB(rs);
 }
 
 TEST_F(DataAccess, ALockedTableIsToldInItsOwnWords) {
   sqlite3* other = nullptr;
-  ASSERT_EQ(sqlite3_open(path(u"Basic.mdb"_s).toUtf8().constData(), &other), SQLITE_OK);
+  ASSERT_EQ(sqlite3_open(path("Basic.mdb").toUtf8().constData(), &other), SQLITE_OK);
   ASSERT_EQ(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
   jet::Recordset rs;
-  prompts.expect(u"잠겨 있습니다"_s);
-  EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, u"Select * From Client"_s));
+  prompts.expect("잠겨 있습니다");
+  EXPECT_FALSE(OpenSnapshot(prompts, basic, rs, "Select * From Client"));
   sqlite3_close(other);
-  EXPECT_TRUE(prompts.seen.last().startsWith(u"MDB 오류|"_s));
+  EXPECT_TRUE(prompts.seen.last().startsWith("MDB 오류|"));
 }
 
 TEST_F(DataAccess, GetValueGivesTheFirstFieldOrNull) {
-  basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-  EXPECT_EQ(DAO_GetValue(prompts, basic, u"Name", u"Client", u"Where Code = 1").toText(), u"a"_s);
+  basic.Execute("Insert Into Client(Name) Values('a')");
+  EXPECT_EQ(DAO_GetValue(prompts, basic, u"Name", u"Client", u"Where Code = 1").toText(), "a");
   EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Name", u"Client", u"Where Code = 2").isNull());
   EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Rate", u"Client", {}).isNull());
-  prompts.expect(u"SELECT Nothing FROM Client "_s);
+  prompts.expect("SELECT Nothing FROM Client ");
   EXPECT_TRUE(DAO_GetValue(prompts, basic, u"Nothing", u"Client", {}).isNull());
 }
 
 TEST_F(DataAccess, AddFieldRunsItsStatementOnceOnly) {
-  basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
+  basic.Execute("Insert Into Client(Name) Values('a')");
   const auto add = [&](const QString& field) {
-    return DAO_AddField(prompts, basic, u"client"_s, field, jet::Type::Text, 14, true,
-                        u"Update client set Tel1 = Tel1 & 'x'"_s, jet::Value(u""_s));
+    return DAO_AddField(prompts, basic, "client", field, jet::Type::Text, 14, true,
+                        "Update client set Tel1 = Tel1 & 'x'", jet::Value(""));
   };
-  EXPECT_TRUE(add(u"Tel1"_s));
-  EXPECT_FALSE(add(u"TEL1"_s));
-  EXPECT_EQ(rows(basic, u"Select Tel1 From Client"_s), "x");
-  EXPECT_EQ(basic.tableDef(u"Client"_s).fields.back().size, 14);
-  basic.Execute(u"Insert Into Client(Name) Values('b')"_s);
-  EXPECT_EQ(rows(basic, u"Select Tel1 Is Null From Client Where Code = 2"_s), "0");
-  EXPECT_TRUE(DAO_AddField(prompts, basic, u"Client"_s, u"First"_s, jet::Type::Long, 0, false, {}, {}, 0));
-  EXPECT_EQ(basic.tableDef(u"Client"_s).fields.front().name, u"First"_s);
-  prompts.expect(u"[TABLE]: Nothing,    [FIELD]: x"_s);
-  EXPECT_FALSE(DAO_AddField(prompts, basic, u"Nothing"_s, u"x"_s, jet::Type::Long, 0, false));
-  EXPECT_TRUE(prompts.seen.last().contains(u") in procedure DAO_AddField of Module mdlCommonRW"_s));
+  EXPECT_TRUE(add("Tel1"));
+  EXPECT_FALSE(add("TEL1"));
+  EXPECT_EQ(rows(basic, "Select Tel1 From Client"), "x");
+  EXPECT_EQ(basic.tableDef("Client").fields.back().size, 14);
+  basic.Execute("Insert Into Client(Name) Values('b')");
+  EXPECT_EQ(rows(basic, "Select Tel1 Is Null From Client Where Code = 2"), "0");
+  EXPECT_TRUE(DAO_AddField(prompts, basic, "Client", "First", jet::Type::Long, 0, false, {}, {}, 0));
+  EXPECT_EQ(basic.tableDef("Client").fields.front().name, "First");
+  prompts.expect("[TABLE]: Nothing,    [FIELD]: x");
+  EXPECT_FALSE(DAO_AddField(prompts, basic, "Nothing", "x", jet::Type::Long, 0, false));
+  EXPECT_TRUE(prompts.seen.last().contains(") in procedure DAO_AddField of Module mdlCommonRW"));
 }
 
 TEST_F(DataAccess, ExistTableLooksWithoutCase) {
-  EXPECT_TRUE(DAO_ExistTable(prompts, year, u"SALE"_s));
-  EXPECT_TRUE(DAO_ExistTable(prompts, year, u"client"_s));
-  EXPECT_FALSE(DAO_ExistTable(prompts, year, u"Buy"_s));
-  prompts.expect(u") in procedure DAO_ExistTable of Module mdlCommonRW"_s);
-  EXPECT_FALSE(DAO_ExistTable(prompts, jet::Database(), u"Sale"_s));
+  EXPECT_TRUE(DAO_ExistTable(prompts, year, "SALE"));
+  EXPECT_TRUE(DAO_ExistTable(prompts, year, "client"));
+  EXPECT_FALSE(DAO_ExistTable(prompts, year, "Buy"));
+  prompts.expect(") in procedure DAO_ExistTable of Module mdlCommonRW");
+  EXPECT_FALSE(DAO_ExistTable(prompts, jet::Database(), "Sale"));
 }
 
 }  // namespace

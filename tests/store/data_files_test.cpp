@@ -9,16 +9,15 @@ namespace {
 
 using tests::firstOf;
 using tests::TestPc;
-using namespace Qt::StringLiterals;
 
 TEST(DataFiles, ANewPcGetsEveryFileWithItsTables) {
   TestPc here;
   here.session.DbPath = installedDataFolder();
   ASSERT_TRUE(prepareDataFolder(here.session));
-  EXPECT_EQ(here.pc.paths.list(here.session.DbPath, u"*"_s),
+  EXPECT_EQ(here.pc.paths.list(here.session.DbPath, "*"),
             (QStringList{"2002Foundation.mdb", "Basic.mdb", "dbPost.mdb", "dbTax.mdb", "Print.mdb"}));
   const jet::Workspace workspace = openWorkspace(here.session, here.session.DbPath);
-  const auto basic = workspace.OpenDatabase(u"C:\\rwgas\\dbs\\BASIC.mdb"_s);
+  const auto basic = workspace.OpenDatabase("C:\\rwgas\\dbs\\BASIC.mdb");
   for (const jet::TableDef& wanted : schema::tablesOf(schema::File::Basic)) {
     const jet::TableDef made = basic.tableDef(wanted.name);
     ASSERT_EQ(made.fields.size(), wanted.fields.size()) << wanted.name.toStdString();
@@ -29,73 +28,73 @@ TEST(DataFiles, ANewPcGetsEveryFileWithItsTables) {
     }
     EXPECT_EQ(made.indexes.size(), wanted.indexes.size()) << wanted.name.toStdString();
   }
-  EXPECT_EQ(firstOf(basic, u"Select Max(Code) From Volume"_s), "7");
-  EXPECT_EQ(firstOf(basic, u"SELECT OPTValue FROM Options WHERE OPTName = 'MICR용지'"_s), "0");
+  EXPECT_EQ(firstOf(basic, "Select Max(Code) From Volume"), "7");
+  EXPECT_EQ(firstOf(basic, "SELECT OPTValue FROM Options WHERE OPTName = 'MICR용지'"), "0");
 }
 
 TEST(DataFiles, SkeletonRowsHoldNoNullInTheirRunningFigures) {
   TestPc here;
   here.openBooks(QDate(2026, 3, 2));
   const auto& year = here.session.dbYear;
-  here.session.dbBasic.Execute(u"Insert into Client(Name, HouseStyle) Values('가', 0)"_s);
-  here.session.dbBasic.Execute(u"Update Client Set GasInit = GasInit + 1500 - 0 Where Code = 1"_s);
-  EXPECT_EQ(firstOf(year, u"Select GasInit From Client Where Code = 1"_s), "1500") << "through the link";
+  here.session.dbBasic.Execute("Insert into Client(Name, HouseStyle) Values('가', 0)");
+  here.session.dbBasic.Execute("Update Client Set GasInit = GasInit + 1500 - 0 Where Code = 1");
+  EXPECT_EQ(firstOf(year, "Select GasInit From Client Where Code = 1"), "1500") << "through the link";
   year.Execute(
-      u"Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) "
-      u"Values(0,0, '2026-03-02', 1, 1, False, '0')"_s);
-  EXPECT_EQ(firstOf(year, u"Select SaleNum + SaleUnit + Income + DC + Trust From Sale"_s), "0");
-  year.Execute(u"Insert Into Evaporation(ClientCode, Mon) Values(1, 0)"_s);
-  EXPECT_EQ(firstOf(year, u"Select paydelayed From Evaporation Where Total = 0"_s), "0");
-  EXPECT_THROW(year.Execute(u"Insert Into Evaporation(ClientCode, Mon) Values(1, 0)"_s), jet::Error);
-  here.session.dbBasic.Execute(u"Insert Into User(Company, User) Values('가스', '홍')"_s);
-  EXPECT_EQ(firstOf(here.session.dbBasic, u"Select Post1 From User"_s), "null") << "not chosen yet";
+      "Insert Into Sale(salelist, deallist, SaleDate, ClientCode, SaleGubun, Gubun, salething) Values(0,0, "
+      "'2026-03-02', 1, 1, False, '0')");
+  EXPECT_EQ(firstOf(year, "Select SaleNum + SaleUnit + Income + DC + Trust From Sale"), "0");
+  year.Execute("Insert Into Evaporation(ClientCode, Mon) Values(1, 0)");
+  EXPECT_EQ(firstOf(year, "Select paydelayed From Evaporation Where Total = 0"), "0");
+  EXPECT_THROW(year.Execute("Insert Into Evaporation(ClientCode, Mon) Values(1, 0)"), jet::Error);
+  here.session.dbBasic.Execute("Insert Into User(Company, User) Values('가스', '홍')");
+  EXPECT_EQ(firstOf(here.session.dbBasic, "Select Post1 From User"), "null") << "not chosen yet";
 }
 
 TEST(DataFiles, YearFilesWithoutTheirBasicAreLeftAlone) {
   TestPc here;
   here.session.DbPath = installedDataFolder();
   ASSERT_TRUE(here.pc.paths.makeFolder(here.session.DbPath));
-  ASSERT_TRUE(QFile::copy(tests::emptyDataFolder() + u"/2002Foundation.mdb"_s,
-                          here.pc.paths.native(yearFile(here.session, u"2025"_s))));
-  here.prompts.expect(u"백업에서 복구하십시오."_s);
+  ASSERT_TRUE(QFile::copy(tests::emptyDataFolder() + "/2002Foundation.mdb",
+                          here.pc.paths.native(yearFile(here.session, "2025"))));
+  here.prompts.expect("백업에서 복구하십시오.");
   EXPECT_FALSE(prepareDataFolder(here.session)) << "an empty Basic.mdb would take every sale for an orphan";
-  EXPECT_FALSE(here.pc.paths.exists(u"C:\\RWGas\\Dbs\\Basic.mdb"_s));
+  EXPECT_FALSE(here.pc.paths.exists("C:\\RWGas\\Dbs\\Basic.mdb"));
 }
 
 TEST(DataFiles, OnlyWhatIsMissingIsMade) {
   TestPc here;
   here.openBooks(QDate(2026, 3, 2));
-  here.session.dbBasic.Execute(u"Insert into Client(Name) Values('가')"_s);
+  here.session.dbBasic.Execute("Insert into Client(Name) Values('가')");
   here.session.dbTax.Close();
   for (const char* name : {"dbTax.mdb", "dbPost.mdb", "Print.mdb", "2002Foundation.mdb"}) {
     ASSERT_TRUE(QFile::remove(here.pc.paths.native(here.session.DbPath + QLatin1String(name))));
   }
-  here.prompts.expect(u"dbTax.mdb 파일이 없어 빈 파일을 새로 만들었습니다."_s);
+  here.prompts.expect("dbTax.mdb 파일이 없어 빈 파일을 새로 만들었습니다.");
   EXPECT_TRUE(prepareDataFolder(here.session));
-  EXPECT_TRUE(here.pc.paths.exists(here.session.DbPath + u"Print.mdb"_s));
-  EXPECT_TRUE(here.pc.paths.exists(here.session.DbPath + u"2002Foundation.mdb"_s));
-  EXPECT_FALSE(here.pc.paths.exists(here.session.DbPath + u"dbPost.mdb"_s))
+  EXPECT_TRUE(here.pc.paths.exists(here.session.DbPath + "Print.mdb"));
+  EXPECT_TRUE(here.pc.paths.exists(here.session.DbPath + "2002Foundation.mdb"));
+  EXPECT_FALSE(here.pc.paths.exists(here.session.DbPath + "dbPost.mdb"))
       << "a lost postcode file stays missed";
-  EXPECT_EQ(firstOf(here.session.dbBasic, u"Select Name From Client"_s), "가");
+  EXPECT_EQ(firstOf(here.session.dbBasic, "Select Name From Client"), "가");
 }
 
 TEST(DataFiles, AnotherFolderIsBegunOnlyAfterAQuestion) {
   TestPc here;
-  here.session.DbPath = u"D:\\가스\\DBS\\"_s;
-  here.prompts.expect(u"자료 파일을 새로 만드시겠습니까?"_s, false);
+  here.session.DbPath = "D:\\가스\\DBS\\";
+  here.prompts.expect("자료 파일을 새로 만드시겠습니까?", false);
   EXPECT_FALSE(prepareDataFolder(here.session));
   EXPECT_FALSE(here.pc.paths.exists(here.session.DbPath));
-  here.prompts.expect(u"자료 파일을 새로 만드시겠습니까?"_s, true);
+  here.prompts.expect("자료 파일을 새로 만드시겠습니까?", true);
   EXPECT_TRUE(prepareDataFolder(here.session));
-  EXPECT_TRUE(here.pc.paths.exists(u"D:\\가스\\DBS\\Basic.mdb"_s));
+  EXPECT_TRUE(here.pc.paths.exists("D:\\가스\\DBS\\Basic.mdb"));
 }
 
 TEST(DataFiles, AFolderThatCannotBeMadeIsTold) {
   TestPc here;
-  QFile blocker(here.folder.filePath(u"c"_s));
+  QFile blocker(here.folder.filePath("c"));
   ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
   here.session.DbPath = installedDataFolder();
-  here.prompts.expect(u"폴더를 만들 수 없습니다."_s);
+  here.prompts.expect("폴더를 만들 수 없습니다.");
   EXPECT_FALSE(prepareDataFolder(here.session));
 }
 
@@ -103,7 +102,7 @@ TEST(DataFiles, ADamagedTemplateIsToldAndNotCopied) {
   TestPc here;
   here.session.DbPath = installedDataFolder();
   ASSERT_TRUE(prepareDataFolder(here.session));
-  const QString empty = here.pc.paths.native(yearFile(here.session, u"2002"_s));
+  const QString empty = here.pc.paths.native(yearFile(here.session, "2002"));
   QFile file(empty);
   ASSERT_TRUE(file.open(QIODevice::ReadWrite));
   const QByteArray whole = file.readAll();
@@ -112,27 +111,27 @@ TEST(DataFiles, ADamagedTemplateIsToldAndNotCopied) {
        {whole.first(last), QByteArray(9000, 'x'), whole.first(last) + QByteArray(4096, 'x')}) {
     ASSERT_TRUE(file.resize(0) && file.seek(0) && file.write(bytes) == bytes.size() && file.flush());
     try {
-      makeYearFile(here.session, u"2026"_s);
+      makeYearFile(here.session, "2026");
       ADD_FAILURE() << "copied";
     } catch (const jet::Error& error) {
       EXPECT_EQ(error.number(), 3049);
-      EXPECT_TRUE(error.description().contains(u"2002Foundation.mdb"_s)) << error.description().toStdString();
+      EXPECT_TRUE(error.description().contains("2002Foundation.mdb")) << error.description().toStdString();
     }
-    EXPECT_FALSE(here.pc.paths.exists(yearFile(here.session, u"2026"_s)));
+    EXPECT_FALSE(here.pc.paths.exists(yearFile(here.session, "2026")));
   }
   ASSERT_TRUE(file.remove() && prepareDataFolder(here.session)) << "without it a new one is made";
-  makeYearFile(here.session, u"2026"_s);
+  makeYearFile(here.session, "2026");
 }
 
 TEST(DataFiles, AYearThatOnlyItsJournalTellsOfIsToldAndNotMadeAnew) {
   TestPc here;
   here.openBooks(QDate(2026, 3, 2));
   here.session.dbYear.Close();
-  const QString year = here.pc.paths.native(yearFile(here.session, u"2026"_s));
-  ASSERT_TRUE(QFile::rename(year, year + u"-journal"_s));
-  here.prompts.expect(u"2026Foundation.mdb-journal"_s);
+  const QString year = here.pc.paths.native(yearFile(here.session, "2026"));
+  ASSERT_TRUE(QFile::rename(year, year + "-journal"));
+  here.prompts.expect("2026Foundation.mdb-journal");
   EXPECT_FALSE(prepareDataFolder(here.session));
-  EXPECT_THROW(makeYearFile(here.session, u"2026"_s), jet::Error);
+  EXPECT_THROW(makeYearFile(here.session, "2026"), jet::Error);
   EXPECT_FALSE(QFile::exists(year));
 }
 
@@ -148,27 +147,27 @@ TEST(DataFiles, ADataFolderThatIsMadeIsClosedToOtherAccounts) {
 TEST(Options, ANewNameGetsItsRowAndAnApostropheIsTold) {
   TestPc here;
   here.openBooks();
-  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"3"_s), "3");
-  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"4"_s), "3") << "the row stands now";
-  SetOption(here.session, u"용지"_s, u""_s);
-  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"4"_s), "");
-  SetOption(here.session, u"새것"_s, u"1"_s);
-  EXPECT_EQ(GetOption(here.session, u"새것"_s, u""_s), "1");
-  here.prompts.expect(u"OPTName = 'a'b'"_s);
-  EXPECT_EQ(GetOption(here.session, u"a'b"_s, u"5"_s), "5");
-  here.prompts.expect(u"프로그램 수행도중 오류가 발생했습니다."_s);
-  SetOption(here.session, u"스물한 글자가 넘어서 들어가지 않는 이름"_s, u"1"_s);
+  EXPECT_EQ(GetOption(here.session, "용지", "3"), "3");
+  EXPECT_EQ(GetOption(here.session, "용지", "4"), "3") << "the row stands now";
+  SetOption(here.session, "용지", "");
+  EXPECT_EQ(GetOption(here.session, "용지", "4"), "");
+  SetOption(here.session, "새것", "1");
+  EXPECT_EQ(GetOption(here.session, "새것", ""), "1");
+  here.prompts.expect("OPTName = 'a'b'");
+  EXPECT_EQ(GetOption(here.session, "a'b", "5"), "5");
+  here.prompts.expect("프로그램 수행도중 오류가 발생했습니다.");
+  SetOption(here.session, "스물한 글자가 넘어서 들어가지 않는 이름", "1");
   here.session.dbCommon.Close();
-  EXPECT_EQ(GetOption(here.session, u"용지"_s, u"6"_s), "6");
+  EXPECT_EQ(GetOption(here.session, "용지", "6"), "6");
 }
 
 TEST(Rounding, ReadsTheCompanysRule) {
   TestPc here;
   here.openBooks();
   EXPECT_EQ(RoundByPayState(here.session, 1234), 1230) << "no company yet: half up";
-  here.session.dbBasic.Execute(u"Insert Into User(Company, User) Values('가스', '홍')"_s);
+  here.session.dbBasic.Execute("Insert Into User(Company, User) Values('가스', '홍')");
   EXPECT_EQ(RoundByPayState(here.session, 1234), 0) << "no rule chosen";
-  here.session.dbBasic.Execute(u"Update User Set PayState = 2"_s);
+  here.session.dbBasic.Execute("Update User Set PayState = 2");
   EXPECT_EQ(RoundByPayState(here.session, 1234), 1240);
 }
 

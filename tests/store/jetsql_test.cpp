@@ -15,7 +15,7 @@ class JetSql : public Engine {
   };
   Outcome call(const QStringList& arguments, const QByteArray& input = {}) const {
     QProcess process;
-    process.start(QFileInfo(u"/proc/self/exe"_s).canonicalPath() + u"/../jetsql"_s, arguments);
+    process.start(QFileInfo("/proc/self/exe").canonicalPath() + "/../jetsql", arguments);
     process.write(input);
     process.closeWriteChannel();
     if (!process.waitForFinished(60000)) return {};
@@ -25,27 +25,26 @@ class JetSql : public Engine {
 };
 
 TEST_F(JetSql, PrintsRowsOfAFileWithItsLinks) {
-  basic.Execute(u"Insert Into Client(Name, Ho) Values('김씨', 'a' & '\t' & 'b')"_s);
-  const QString file = path(u"2026Foundation.mdb"_s);
-  const Outcome plain = call({file, u"Select Code, Name, Ho, Rate From Client"_s});
+  basic.Execute("Insert Into Client(Name, Ho) Values('김씨', 'a' & '\t' & 'b')");
+  const QString file = path("2026Foundation.mdb");
+  const Outcome plain = call({file, "Select Code, Name, Ho, Rate From Client"});
   EXPECT_EQ(plain.code, 0) << plain.err.toStdString();
-  EXPECT_EQ(plain.out, u"1\t김씨\ta\\tb\t\n"_s);
-  EXPECT_EQ(call({u"-h"_s, file, u"Select Code, Name As 이름 From Client"_s}).out,
-            u"Code\t이름\n1\t김씨\n"_s);
-  EXPECT_EQ(call({file, u"Update Client Set GasInit = 5"_s}).out, QString());
-  EXPECT_EQ(rows(basic, u"Select GasInit From Client"_s), "5");
+  EXPECT_EQ(plain.out, "1\t김씨\ta\\tb\t\n");
+  EXPECT_EQ(call({"-h", file, "Select Code, Name As 이름 From Client"}).out, "Code\t이름\n1\t김씨\n");
+  EXPECT_EQ(call({file, "Update Client Set GasInit = 5"}).out, QString());
+  EXPECT_EQ(rows(basic, "Select GasInit From Client"), "5");
 }
 
 TEST_F(JetSql, ReadsManyStatementsAndStopsAtTheFirstFailure) {
   const Outcome many =
-      call({path(u"Basic.mdb"_s)},
+      call({path("Basic.mdb")},
            "Insert Into Client(Name) Values('a')\n\nSelect Name From Client\nSelect x From Client\n"
            "Delete From Client\n");
   EXPECT_EQ(many.code, 1);
-  EXPECT_EQ(many.out, u"a\n"_s);
-  EXPECT_TRUE(many.err.startsWith(u"4: 3061 "_s)) << many.err.toStdString();
-  EXPECT_EQ(rows(basic, u"Select Count(*) From Client"_s), "1");
-  EXPECT_EQ(call({path(u"none.mdb"_s), u"Select 1"_s}).err.left(5), u"3024 "_s);
+  EXPECT_EQ(many.out, "a\n");
+  EXPECT_TRUE(many.err.startsWith("4: 3061 ")) << many.err.toStdString();
+  EXPECT_EQ(rows(basic, "Select Count(*) From Client"), "1");
+  EXPECT_EQ(call({path("none.mdb"), "Select 1"}).err.left(5), "3024 ");
   EXPECT_EQ(call({}).code, 2);
 }
 

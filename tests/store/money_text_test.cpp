@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "store/jet/error.h"
 #include "store/rounding.h"
 #include "store/text_width.h"

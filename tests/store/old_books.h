@@ -34,6 +34,15 @@ inline QString dumpOf(const jet::Database& db) {
   return out;
 }
 
+/** The same of every file in the data folder. */
+inline QString dumpsOf(const Session& session) {
+  const jet::Workspace workspace = openWorkspace(session, session.DbPath);
+  QString all;
+  for (const QString& name : session.pc.paths.list(session.DbPath, "*.mdb"))
+    all += name + '\n' + dumpOf(workspace.OpenDatabase(session.DbPath + name));
+  return all;
+}
+
 inline void fillOldBasic(const jet::Database& basic) {
   for (const jet::TableDef& def : schema::tablesOf(schema::File::Basic)) {
     if (def.name == u"Options") continue;
@@ -48,18 +57,17 @@ inline void fillOldBasic(const jet::Database& basic) {
     }
     basic.createTable(old);
   }
-  basic.Execute("Insert Into Client(Name, Tel) Values('김가네', '053-111-2222')");
-  basic.Execute("Insert Into APT(Name, Dong) Values('한빛', '101')");
-  basic.Execute("Insert Into PostCode(PostCode, City) Values('1', '옛것')");
+  insertRows(basic, "Client(Name, Tel)", {"'김가네', '053-111-2222'"});
+  insertRows(basic, "APT(Name, Dong)", {"'한빛', '101'"});
+  insertRows(basic, "PostCode(PostCode, City)", {"'1', '옛것'"});
 }
 
 inline void fillOldYear(const jet::Database& year) {
   for (const jet::TableDef& def : schema::tablesOf(schema::File::Year)) {
     year.createTable(without(def, {"DealList", "SaleList", "paydelayed"}));
   }
-  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-05', 1, 1)");
-  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-06', 77, 1)");
-  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-05-07', 77, 4)");
+  insertRows(year, "Sale(SaleDate, ClientCode, SaleGubun)",
+             {"'2025-05-05', 1, 1", "'2025-05-06', 77, 1", "'2025-05-07', 77, 4"});
   year.Execute("Insert Into Evaporation(ClientCode, Mon) Values(1, 3)");
 }
 

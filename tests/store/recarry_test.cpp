@@ -18,7 +18,7 @@ struct Recarry : testing::Test, tests::ClosingDesk {
   QString opening(int code, int month) {
     return rowsIn(2027,
                   u"Select Trust, UseGage, UseMuch, Total, paydelayed From Evaporation Where "
-                  u"ClientCode = %1 And Mon = %2"_s.arg(code)
+                  "ClientCode = %1 And Mon = %2"_s.arg(code)
                       .arg(month));
   }
 };

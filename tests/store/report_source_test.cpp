@@ -3,8 +3,6 @@
 #include "store/report_staging.h"
 #include "tests/support.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct ReportSourceTest : testing::Test, tests::TestPc {
@@ -54,7 +52,7 @@ TEST_F(ReportSourceTest, StagedRowsComeAsTheyWereStaged) {
 }
 
 TEST_F(ReportSourceTest, WhatCannotBeMadeIsToldInKorean) {
-  stageReport(session, 1, [](int) { return u"Insert Into Print(Str01) Values('')"_s; });
+  stageReport(session, 1, [](int) { return "Insert Into Print(Str01) Values('')"; });
   EXPECT_TRUE(refusal("없는보고서.rpt").contains("없는보고서.layout"));
   ownLayout("column Str01 \"이름\" 10\ncolumn Str99 \"이름\" 10\n");
   EXPECT_TRUE(refusal("체적검침현황.rpt").contains("2번째 줄"));

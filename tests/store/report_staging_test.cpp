@@ -46,8 +46,8 @@ TEST_F(ReportStagingTest, ScratchIsTheStationsOwnAndMadeAnewWhenMissing) {
 TEST_F(ReportStagingTest, AFailedRowGoesOnToTheCallerLeavesNothingAndLetsTheFileGo) {
   EXPECT_THROW(stageReport(session, 3,
                            [](int row) {
-                             return row == 2 ? u"Insert Into Print(Str01) Values('O'Neil')"_s
-                                             : u"Insert Into Print(Str01) Values('A')"_s;
+                             return row == 2 ? "Insert Into Print(Str01) Values('O'Neil')"
+                                             : "Insert Into Print(Str01) Values('A')";
                            }),
                jet::Error);
   EXPECT_EQ(staged(), QStringList()) << "half a report would look like a whole one";

@@ -10,8 +10,6 @@
 
 #include "tests/support.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 struct SupportLog : testing::Test {
@@ -23,7 +21,7 @@ struct SupportLog : testing::Test {
     return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
   }
   /** The line that a failing statement leaves; without its time and version. */
-  QString lineOf(const jet::Database& db, const QString& sql, const QString& window = u"frmSale"_s) {
+  QString lineOf(const jet::Database& db, const QString& sql, const QString& window = "frmSale") {
     try {
       db.Execute(sql);
       ADD_FAILURE() << "ran: " << sql.toStdString();
@@ -38,9 +36,9 @@ TEST_F(SupportLog, ALineTellsWindowNumberFileAndTheStatementsShape) {
   here.openBooks(QDate(2026, 3, 16));
   EXPECT_EQ(lineOf(here.session.dbBasic,
                    "Update Client Set Nme = '김가네', GasInit = GasInit - 12000 Where Code = 7"),
-            "frmSale 3061 매개 변수가 너무 적습니다. 알 수 없는 이름입니다: '…' | Basic.mdb | "
-            "Update Client Set ? = ?, GasInit = GasInit - ? Where Code = ?");
-  EXPECT_TRUE(lines().last().startsWith(u"2026-03-16 09:00:0"_s)) << lines().last().toStdString();
+            "frmSale 3061 매개 변수가 너무 적습니다. 알 수 없는 이름입니다: '…' | Basic.mdb | Update Client "
+            "Set ? = ?, GasInit = GasInit - ? Where Code = ?");
+  EXPECT_TRUE(lines().last().startsWith("2026-03-16 09:00:0")) << lines().last().toStdString();
   EXPECT_EQ(lines().last().section(u' ', 2, 2), QString(HAEON_VERSION));
   // A window that is none of ours could be named by anybody.
   EXPECT_THAT(lineOf(here.session.dbYear, "Delete From Sale Where SaleDay = #2026-03-02#", "김가네 장부")
@@ -71,7 +69,7 @@ TEST_F(SupportLog, RowsWrittenBackAndFilesThatDoNotOpenAreNamedToo) {
   } catch (const jet::Error& error) {
     support::noteError(here.pc, "frmClient", error);
   }
-  EXPECT_TRUE(lines().last().endsWith(u"| Basic.mdb | Insert Into Client"_s)) << lines().last().toStdString();
+  EXPECT_TRUE(lines().last().endsWith("| Basic.mdb | Insert Into Client")) << lines().last().toStdString();
   for (const auto& [path, shown] :
        {std::pair{"C:\\RWGas\\Dbs\\2019Foundation.mdb", "| 2019Foundation.mdb | -"},
         std::pair{"C:\\김가네\\김가네.mdb", "| ? | -"}}) {
@@ -89,7 +87,7 @@ TEST_F(SupportLog, RowsWrittenBackAndFilesThatDoNotOpenAreNamedToo) {
 TEST(StatementShape, NoHangulAndNoNumberOfAnyStatementInUseGetsThrough) {
   QFile file(HAEON_TEST_DATA "/jet/statements_in_use.txt");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  static const QRegularExpression secret(u"[^\\x20-\\x7e]|(?<![A-Za-z0-9])[0-9]|[0-9]{3}"_s);
+  static const QRegularExpression secret("[^\\x20-\\x7e]|(?<![A-Za-z0-9])[0-9]|[0-9]{3}");
   int shapes = 0;
   for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n')) {
     if (line.isEmpty() || line.startsWith(u'#') || line.startsWith(u'@')) continue;
@@ -97,8 +95,8 @@ TEST(StatementShape, NoHangulAndNoNumberOfAnyStatementInUseGetsThrough) {
     EXPECT_TRUE(support::statementShape(sql).startsWith(sql.left(6))) << sql.toStdString();
     for (qsizetype at = 0; at <= sql.size(); at += 3) {
       const QString shape = support::statementShape(QString(sql).insert(at, u'\''))
-                                .remove(u"[2002Foundation.mdb]"_s)
-                                .remove(u"[2025Foundation.mdb]"_s);
+                                .remove("[2002Foundation.mdb]")
+                                .remove("[2025Foundation.mdb]");
       ASSERT_FALSE(shape.contains(secret)) << shape.toStdString();
       ++shapes;
     }

@@ -6,13 +6,12 @@
 namespace {
 
 using namespace tests;
-using namespace Qt::StringLiterals;
 
 struct Upgrades : testing::Test {
   TestPc here;
   Session& session = here.session;
   void SetUp() override {
-    session.AppTitle = u"해온판매"_s;
+    session.AppTitle = "해온판매";
     makeOldBooks(here);
     session.wsMain = openWorkspace(session, session.DbPath);
   }
@@ -21,21 +20,20 @@ struct Upgrades : testing::Test {
 };
 
 TEST_F(Upgrades, LateChargesReachEveryYearFileOfTheInstalledFolder) {
-  QFile stranger(here.pc.paths.native(session.DbPath) + u"/1999Foundation.mdb"_s);
+  QFile stranger(here.pc.paths.native(session.DbPath) + "/1999Foundation.mdb");
   ASSERT_TRUE(stranger.open(QIODevice::WriteOnly));
   stranger.write("no data file");
   stranger.close();
-  session.DbPath = u"D:\\elsewhere\\"_s;  // makes no difference to this step
+  session.DbPath = "D:\\elsewhere\\";  // makes no difference to this step
   upgrades::addLateCharges(session);
   session.DbPath = installedDataFolder();
-  EXPECT_EQ(firstOf(file(u"Basic.mdb"_s), u"Select delaypay From APT"_s), "0");
-  for (const QString& each : {u"2002"_s, u"2023"_s, u"2025"_s, u"2026"_s}) {
-    EXPECT_EQ(firstOf(year(each), u"Select paydelayed From Evaporation"_s), "0") << each.toStdString();
+  EXPECT_EQ(firstOf(file("Basic.mdb"), "Select delaypay From APT"), "0");
+  for (const QString each : {"2002", "2023", "2025", "2026"}) {
+    EXPECT_EQ(firstOf(year(each), "Select paydelayed From Evaporation"), "0") << each.toStdString();
   }
-  file(u"Basic.mdb"_s).Execute(u"Update APT Set delaypay = 2.5"_s);
+  file("Basic.mdb").Execute("Update APT Set delaypay = 2.5");
   upgrades::addLateCharges(session);
-  EXPECT_EQ(firstOf(file(u"Basic.mdb"_s), u"Select delaypay From APT"_s), "2.5")
-      << "only a new column is filled";
+  EXPECT_EQ(firstOf(file("Basic.mdb"), "Select delaypay From APT"), "2.5") << "only a new column is filled";
 }
 
 TEST_F(Upgrades, TheYearWalkEndsAtAGap) {
@@ -43,85 +41,84 @@ TEST_F(Upgrades, TheYearWalkEndsAtAGap) {
   walkYears(session, [&](const QString& path) { walked << path.right(18).first(4); });
   EXPECT_EQ(walked, (QStringList{"2026", "2025"})) << "2024 is missing, so 2023 is not reached";
   upgrades::addDealMarks(session);
-  EXPECT_EQ(firstOf(year(u"2025"_s), u"Select DealList + SaleList From Sale"_s), "0");
-  EXPECT_FALSE(hasField(year(u"2023"_s), u"Sale"_s, u"DealList"_s));
-  year(u"2025"_s).Execute(u"Update Sale Set DealList = 1"_s);
+  EXPECT_EQ(firstOf(year("2025"), "Select DealList + SaleList From Sale"), "0");
+  EXPECT_FALSE(hasField(year("2023"), "Sale", "DealList"));
+  year("2025").Execute("Update Sale Set DealList = 1");
   upgrades::addDealMarks(session);
-  EXPECT_EQ(firstOf(year(u"2025"_s), u"Select DealList From Sale"_s), "1");
+  EXPECT_EQ(firstOf(year("2025"), "Select DealList From Sale"), "1");
 }
 
 TEST_F(Upgrades, OrphansGoWhereTheWalkReaches) {
   upgrades::removeOrphans(session);
-  for (const QString& each : {u"2025"_s, u"2026"_s}) {
-    EXPECT_EQ(firstOf(year(each), u"Select Count(*) From Sale"_s), "1") << each.toStdString();
-    EXPECT_EQ(firstOf(year(each), u"Select ClientCode From Sale"_s), "1");
+  for (const QString each : {"2025", "2026"}) {
+    EXPECT_EQ(firstOf(year(each), "Select Count(*) From Sale"), "1") << each.toStdString();
+    EXPECT_EQ(firstOf(year(each), "Select ClientCode From Sale"), "1");
   }
-  EXPECT_EQ(firstOf(year(u"2023"_s), u"Select Count(*) From Sale"_s), "3");
-  year(u"2026"_s).Execute(u"Update Sale Set ClientCode = Null"_s);
+  EXPECT_EQ(firstOf(year("2023"), "Select Count(*) From Sale"), "3");
+  year("2026").Execute("Update Sale Set ClientCode = Null");
   upgrades::removeOrphans(session);
-  EXPECT_EQ(firstOf(year(u"2026"_s), u"Select Count(*) From Sale"_s), "1") << "a row without any code stays";
+  EXPECT_EQ(firstOf(year("2026"), "Select Count(*) From Sale"), "1") << "a row without any code stays";
 }
 
 TEST_F(Upgrades, PostCodesAreMadeAnewOnceUnlessTheyAreWideOrDone) {
-  const jet::Database basic = file(u"Basic.mdb"_s), post = file(u"dbPost.mdb"_s);
-  here.pc.settings.SaveSetting(u"해온판매"_s, u"Registration"_s, u"PostC"_s, u"ok"_s);
+  const jet::Database basic = file("Basic.mdb"), post = file("dbPost.mdb");
+  here.pc.settings.SaveSetting("해온판매", "Registration", "PostC", "ok");
   upgrades::rebuildPostCodes(session, basic, post);
-  EXPECT_EQ(firstOf(basic, u"Select City From PostCode"_s), "옛것");
-  here.pc.settings.SaveSetting(u"해온판매"_s, u"Registration"_s, u"PostC"_s, u""_s);
-  here.prompts.expect(u"잠시만 기다려 주십시오.\n\n우편번호를 개정판으로 업그레이드 합니다."_s);
+  EXPECT_EQ(firstOf(basic, "Select City From PostCode"), "옛것");
+  here.pc.settings.SaveSetting("해온판매", "Registration", "PostC", "");
+  here.prompts.expect("잠시만 기다려 주십시오.\n\n우편번호를 개정판으로 업그레이드 합니다.");
   upgrades::rebuildPostCodes(session, basic, post);
-  EXPECT_EQ(here.pc.settings.GetSetting(u"해온판매"_s, u"Registration"_s, u"PostC"_s), "ok");
-  jet::Recordset rs = basic.OpenRecordset(u"Select * From PostCode Order By PostCode"_s);
+  EXPECT_EQ(here.pc.settings.GetSetting("해온판매", "Registration", "PostC"), "ok");
+  jet::Recordset rs = basic.OpenRecordset("Select * From PostCode Order By PostCode");
   QStringList rows;
   for (; !rs.atEnd(); rs.MoveNext())
     rows << rs[0].toText() + u'/' + rs[1].toText() + u'/' + rs[2].toText() + u'/' + rs[3].toText();
   EXPECT_EQ(rows, (QStringList{"700020/대구 중구/동인'동/ ", "702010/대구 북구/고성동/1~99"}));
-  here.pc.settings.SaveSetting(u"해온판매"_s, u"Registration"_s, u"PostC"_s, u""_s);
+  here.pc.settings.SaveSetting("해온판매", "Registration", "PostC", "");
   upgrades::rebuildPostCodes(session, basic, post);  // DDD is 60 wide now: no box
 }
 
 TEST_F(Upgrades, LinksAreMadeAnewAndFollowAMovedBasic) {
   ASSERT_TRUE(upgrades::relink(session));
   EXPECT_EQ(session.BasicPath, "C:\\rwgas\\dbs\\basic.mdb");
-  EXPECT_EQ(firstOf(year(u"2023"_s),
-                    u"Select Client.Name From Sale Inner Join Client On Sale.ClientCode = Client.Code"_s),
+  EXPECT_EQ(firstOf(year("2023"),
+                    "Select Client.Name From Sale Inner Join Client On Sale.ClientCode = Client.Code"),
             "김가네");
-  QFile linked(here.pc.paths.native(yearFile(session, u"2023"_s)));
+  QFile linked(here.pc.paths.native(yearFile(session, "2023")));
   ASSERT_TRUE(linked.open(QIODevice::ReadOnly));
   const QByteArray before = linked.readAll();
   ASSERT_TRUE(upgrades::relink(session));
   linked.seek(0);
   EXPECT_TRUE(linked.readAll() == before) << "the next start writes nothing";
   linked.close();
-  ASSERT_TRUE(here.pc.paths.makeFolder(u"D:\\새폴더\\DBS"_s));
+  ASSERT_TRUE(here.pc.paths.makeFolder("D:\\새폴더\\DBS"));
   for (const char* name : {"Basic.mdb", "2026Foundation.mdb"}) {
-    ASSERT_TRUE(here.pc.paths.copy(session.DbPath + QLatin1String(name),
-                                   u"D:\\새폴더\\DBS\\"_s + QLatin1String(name)));
+    ASSERT_TRUE(
+        here.pc.paths.copy(session.DbPath + QLatin1String(name), "D:\\새폴더\\DBS\\" + QLatin1String(name)));
   }
-  here.pc.settings.SaveSetting(u"해온판매"_s, u"환경설정"_s, u"db경로"_s, u"D:\\새폴더\\DBS\\"_s);
+  here.pc.settings.SaveSetting("해온판매", "환경설정", "db경로", "D:\\새폴더\\DBS\\");
   session.DbPath = dataFolder(session);
   session.wsMain = openWorkspace(session, session.DbPath);
-  session.wsMain.OpenDatabase(session.DbPath + u"Basic.mdb"_s)
-      .Execute(u"Update Client Set Name = '새가게'"_s);
+  session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb").Execute("Update Client Set Name = '새가게'");
   ASSERT_TRUE(upgrades::relink(session));
   EXPECT_EQ(session.BasicPath, "D:\\새폴더\\DBS\\Basic.mdb");
-  EXPECT_EQ(firstOf(year(u"2026"_s), u"Select Name From Client"_s), "새가게");
+  EXPECT_EQ(firstOf(year("2026"), "Select Name From Client"), "새가게");
 }
 
 TEST_F(Upgrades, SecondTelephoneIsLookedAtOnlyWithTheFirst) {
   upgrades::relink(session);
-  const jet::Database basic = file(u"Basic.mdb"_s);
+  const jet::Database basic = file("Basic.mdb");
   jet::Field tel1;
-  tel1.name = u"Tel1"_s;
-  basic.appendField(u"Client"_s, tel1);
+  tel1.name = "Tel1";
+  basic.appendField("Client", tel1);
   upgrades::addMoreTelephones(session);
-  EXPECT_FALSE(hasField(basic, u"Client"_s, u"Tel2"_s));
+  EXPECT_FALSE(hasField(basic, "Client", "Tel2"));
 }
 
 TEST_F(Upgrades, OptionsAreMadeInTheInstalledFolder) {
   upgrades::makeOptions(session);
-  EXPECT_EQ(firstOf(session.dbCommon, u"SELECT OPTValue FROM Options WHERE OPTName = 'MICR용지'"_s), "0");
-  EXPECT_EQ(session.dbCommon.tableDef(u"Options"_s).indexes.at(0).name, "Options_PK");
+  EXPECT_EQ(firstOf(session.dbCommon, "SELECT OPTValue FROM Options WHERE OPTName = 'MICR용지'"), "0");
+  EXPECT_EQ(session.dbCommon.tableDef("Options").indexes.at(0).name, "Options_PK");
 }
 
 }  // namespace

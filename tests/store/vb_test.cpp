@@ -1,7 +1,5 @@
 #include "store/vb.h"
 
-#include <gtest/gtest.h>
-
 #include "store/date_text.h"
 #include "tests/answers.h"
 

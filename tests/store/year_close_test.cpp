@@ -18,7 +18,7 @@ struct YearClose : testing::Test, ClosingDesk {
   QString opening(int code, int month) {
     return rowsIn(2027,
                   u"Select UseGage, Trust, Total, UseMuch, UsePay, Pay From Evaporation Where "
-                  u"ClientCode = %1 And Mon = %2"_s.arg(code)
+                  "ClientCode = %1 And Mon = %2"_s.arg(code)
                       .arg(month));
   }
   void workInNextYear() {
@@ -241,9 +241,7 @@ struct MovedFolder : YearClose {
   const QString moved = "D:\\장부\\", fixed = "C:\\RWGas\\Dbs\\";
 
   MovedFolder() {
-    for (jet::Database* handle : {&session.dbYear, &session.dbTax, &session.dbCommon, &session.dbBasic})
-      handle->Close();
-    session.wsMain.Close();
+    pc.closeBooks();
     const QString from = pc.pc.paths.native(fixed), to = pc.pc.paths.root() + "/d/장부";
     QDir().mkpath(to);
     for (const QString& name : QDir(from).entryList({"*.mdb"}, QDir::Files))

@@ -1,13 +1,10 @@
 // What all dialogs share, by keys and mouse.
 #include "ui/forms/dialog.h"
 
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTest>
 
 #include "store/jet/error_texts.h"
 #include "tests/support.h"

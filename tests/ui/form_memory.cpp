@@ -1,7 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QFile>
-#include <QFileInfo>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -14,14 +10,12 @@
 #include "ui/forms/form_ini.h"
 #include "ui/grid/grid_menu.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class PlainForm : public Form {
  public:
-  explicit PlainForm(Session& session) : Form(u"frmPlain"_s, u"보기"_s, session) {
-    rows.setColumns({{.header = u"가"_s, .width = 8}, {.header = u"나"_s, .width = 9}});
+  explicit PlainForm(Session& session) : Form("frmPlain", "보기", session) {
+    rows.setColumns({{.header = "가", .width = 8}, {.header = "나", .width = 9}});
     grid = addSpread("SpPlain", rows);
     resize(500, 300);
   }
@@ -31,7 +25,7 @@ class PlainForm : public Form {
 
 class FormMemory : public ::testing::Test {
  protected:
-  QString file() { return at.pc.paths.native(u"C:\\RWGas\\FormIni\\frmPlain.ini"_s); }
+  QString file() { return at.pc.paths.native("C:\\RWGas\\FormIni\\frmPlain.ini"); }
   void write(const QByteArray& content) {
     QDir().mkpath(QFileInfo(file()).path());
     QFile ini(file());
@@ -122,9 +116,8 @@ TEST_F(FormMemory, AFormThatFillsTheScreenKeepsTheSizeItHadBefore) {
   QApplication::processEvents();
   ini.SaveFormIni(form);
   const pc::IniFile kept(file());
-  EXPECT_EQ(kept.value(u"FormPosition"_s, u"Width"_s) + u'x' + kept.value(u"FormPosition"_s, u"Height"_s),
-            u"520x310"_s);
-  EXPECT_EQ(kept.value(u"FormPosition"_s, u"WindowState"_s), u"2"_s);
+  EXPECT_EQ(kept.value("FormPosition", "Width") + u'x' + kept.value("FormPosition", "Height"), "520x310");
+  EXPECT_EQ(kept.value("FormPosition", "WindowState"), "2");
 }
 
 TEST_F(FormMemory, NothingIsWrittenForAFormThatIsNotSeen) {
@@ -137,23 +130,23 @@ TEST_F(FormMemory, NothingIsWrittenForAFormThatIsNotSeen) {
 TEST_F(FormMemory, MenuChangesRowHeightAndFontAndGoesBackToTheDesign) {
   PlainForm form(at.session);
   tests::show(form);
-  at.prompts.expectInput(u"줄높이를 입력하세요.(입력범위: 8~20, 0:기본값)"_s, u"20"_s);
-  choose(form, u"그리드 줄높이 변경"_s);
+  at.prompts.expectInput("줄높이를 입력하세요.(입력범위: 8~20, 0:기본값)", "20");
+  choose(form, "그리드 줄높이 변경");
   EXPECT_EQ(form.grid->rowHeight(), 20);
-  at.prompts.expectInput(u"글자크기"_s, u"14"_s);
-  choose(form, u"글자크기        변경"_s);
+  at.prompts.expectInput("글자크기", "14");
+  choose(form, "글자크기        변경");
   EXPECT_EQ(form.grid->fontSize(), 14);
-  at.prompts.expectInput(u"글자크기"_s, u"21"_s);
-  at.prompts.expect(u"8에서 20"_s);
-  choose(form, u"글자크기        변경"_s);
+  at.prompts.expectInput("글자크기", "21");
+  at.prompts.expect("8에서 20");
+  choose(form, "글자크기        변경");
   EXPECT_EQ(form.grid->fontSize(), 14);
-  EXPECT_EQ(pc::IniFile(file()).value(u"SpPlain_General"_s, u"RowHeight"_s), u"20"_s);
+  EXPECT_EQ(pc::IniFile(file()).value("SpPlain_General", "RowHeight"), "20");
 
-  at.prompts.expect(u"정말 수정하시겠습니까?"_s, false);
-  choose(form, u"폼 및 그리드 설정 초기화"_s);
+  at.prompts.expect("정말 수정하시겠습니까?", false);
+  choose(form, "폼 및 그리드 설정 초기화");
   EXPECT_TRUE(QFileInfo::exists(file()));
-  at.prompts.expect(u"정말 수정하시겠습니까?"_s, true);
-  choose(form, u"폼 및 그리드 설정 초기화"_s);
+  at.prompts.expect("정말 수정하시겠습니까?", true);
+  choose(form, "폼 및 그리드 설정 초기화");
   EXPECT_FALSE(QFileInfo::exists(file()));
   EXPECT_EQ(form.grid->rowHeight(), 0);
   EXPECT_EQ(form.grid->fontSize(), 10);
@@ -176,8 +169,8 @@ TEST_F(FormMemory, MenuPutsTheFormBackToItsDesignForGood) {
   QWidget* const child = form->parentWidget();
   ASSERT_EQ(child->geometry(), QRect(40, 30, 640, 320));
   child->showMaximized();
-  at.prompts.expect(u"정말 수정하시겠습니까?"_s);
-  choose(*form, u"폼 및 그리드 설정 초기화"_s);
+  at.prompts.expect("정말 수정하시겠습니까?");
+  choose(*form, "폼 및 그리드 설정 초기화");
   EXPECT_EQ(child->geometry(), QRect(10, 20, 500, 300));
   child->close();
   EXPECT_EQ(open()->parentWidget()->geometry(), QRect(10, 20, 500, 300)) << "closing remembers nothing older";

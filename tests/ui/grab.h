@@ -1,5 +1,8 @@
 #pragma once
 // What the tests of forms share: pictures of a window, keys and input-method events as the PC sends them.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QInputMethodEvent>
@@ -25,12 +28,33 @@ inline void show(QWidget& window) {
   QApplication::processEvents();
 }
 
+/** A control by its name. */
+template <class Control = QWidget>
+Control* part(const QWidget& form, const char* name) {
+  auto* const found = form.findChild<Control*>(QString::fromUtf8(name));
+  EXPECT_TRUE(found) << name;
+  return found;
+}
+inline void press(const QWidget& form, const char* button) {
+  if (auto* const found = part<QAbstractButton>(form, button)) found->click();
+}
+
+/** The name of the control that has the focus. */
+inline QString focused() {
+  return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+}
+
 /** A key to whatever has the focus. */
 inline void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   QWidget* const popup = QApplication::activePopupWidget();
   QWidget* const target = popup ? popup : QApplication::focusWidget();
   ASSERT_TRUE(target) << "nothing has the focus";
   QTest::keyClick(target, Qt::Key(key), modifiers);
+}
+
+/** One after the other. */
+inline void keys(std::initializer_list<Qt::Key> pressed) {
+  for (const Qt::Key each : pressed) key(each);
 }
 
 /** Latin letters and digits, typed. */

@@ -1,7 +1,5 @@
 #include "ui/paper/printers.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 

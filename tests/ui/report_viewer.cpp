@@ -17,6 +17,7 @@
 #include "ui/paper/frmReport.h"
 #include "ui/paper/page_view.h"
 #include "ui/paper/print_choice.h"
+#include "ui/paper/print_report.h"
 #include "ui/paper/printers.h"
 
 using namespace Qt::StringLiterals;
@@ -35,8 +36,8 @@ class ReportViewing : public ::testing::Test {
   void stageReadings(int rows) {
     stageReport(pc.session, rows, [](int row) {
       return u"Insert Into Print(Str01, Dbl01, Dbl02, Dbl03, Lng01, Lng02, Lng03, Lng04, Lng05, Lng06, "
-             u"Str02, Str03, Str04) Values('%1동 %2호', %3, %4, %5, %6, %7, %8, 1000, %9, %10, 'O', "
-             u"'03/%11', '한빛아파트')"_s.arg(101 + row / 400)
+             "Str02, Str03, Str04) Values('%1동 %2호', %3, %4, %5, %6, %7, %8, 1000, %9, %10, 'O', '03/%11', '한빛아파트')"_s
+                 .arg(101 + row / 400)
                  .arg((row % 400 / 4 + 1) * 100 + row % 4 + 1)
                  .arg(1200.5 + row)
                  .arg(1218.75 + row)
@@ -81,8 +82,7 @@ TEST_F(ReportViewing, KeysTurnPagesChangeTheSizeAndClose) {
   const double before = view->zoom();
   tests::key(Qt::Key_Plus, Qt::ShiftModifier);
   EXPECT_GT(view->zoom(), before);
-  tests::key(Qt::Key_Minus);
-  tests::key(Qt::Key_Minus);
+  tests::keys({Qt::Key_Minus, Qt::Key_Minus});
   EXPECT_LT(view->zoom(), before);
   QTest::mouseClick(form->findChild<QPushButton*>("BtnFitPage"), Qt::LeftButton);
   EXPECT_EQ(view->fit(), PageView::Fit::Page);

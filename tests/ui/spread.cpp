@@ -1,7 +1,5 @@
 #include "ui/grid/spread.h"
 
-#include <gtest/gtest.h>
-
 #include <QClipboard>
 #include <QLineEdit>
 #include <QListWidget>
@@ -17,15 +15,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 std::vector<SpreadColumn> saleColumns() {
-  return {
-      {.header = u"일자"_s, .width = 7, .kind = CellKind::MonthDay, .align = CellAlign::Center},
-      {.header = u"고객명"_s, .width = 16},
-      {.header = u"구분"_s, .width = 8, .kind = CellKind::Combo, .combo = {u"가스"_s, u"수금"_s, u"용대"_s}},
-      {.header = u"수량"_s, .group = u"금액"_s, .width = 7, .kind = CellKind::Integer},
-      {.header = u"단가"_s, .group = u"금액"_s, .width = 10, .kind = CellKind::Money},
-      {.header = u"미수금"_s, .width = 10, .kind = CellKind::Money, .locked = true},
-      {.header = u"코드"_s, .hidden = true},
-      {.header = u"확인"_s, .width = 5, .kind = CellKind::CheckBox}};
+  return {{.header = "일자", .width = 7, .kind = CellKind::MonthDay, .align = CellAlign::Center},
+          {.header = "고객명", .width = 16},
+          {.header = "구분", .width = 8, .kind = CellKind::Combo, .combo = {"가스", "수금", "용대"}},
+          {.header = "수량", .group = "금액", .width = 7, .kind = CellKind::Integer},
+          {.header = "단가", .group = "금액", .width = 10, .kind = CellKind::Money},
+          {.header = "미수금", .width = 10, .kind = CellKind::Money, .locked = true},
+          {.header = "코드", .hidden = true},
+          {.header = "확인", .width = 5, .kind = CellKind::CheckBox}};
 }
 
 /** Counts the keys that nothing inside wanted. */
@@ -38,8 +35,8 @@ class SpreadTest : public ::testing::Test {
  protected:
   SpreadTest() {
     model.setColumns(saleColumns());
-    model.setRows({{u"06-01"_s, u"한강식당"_s, u"가스"_s, u"2"_s, u"36000"_s, u"1234567"_s, u"1"_s, u"0"_s},
-                   {u"06-02"_s, u"새마을 101동"_s, u"수금"_s, u"0"_s, u"0"_s, u"-5000"_s, u"2"_s, u"1"_s},
+    model.setRows({{"06-01", "한강식당", "가스", "2", "36000", "1234567", "1", "0"},
+                   {"06-02", "새마을 101동", "수금", "0", "0", "-5000", "2", "1"},
                    {}});
     grid = new Spread(model, &window);
     below = new QLineEdit(&window);
@@ -63,35 +60,34 @@ class SpreadTest : public ::testing::Test {
   Spread* grid;
   QLineEdit* below;
   QStringList finished;
-  QString refused = u"no"_s;
+  QString refused = "no";
 };
 
 TEST_F(SpreadTest, TypingReplacesAndF2KeepsTheText) {
-  tests::type(u"ab"_s);
-  EXPECT_EQ(grid->editingText(), u"ab"_s);
+  tests::type("ab");
+  EXPECT_EQ(grid->editingText(), "ab");
   tests::key(Qt::Key_Escape);
   EXPECT_FALSE(grid->isEditing());
-  EXPECT_EQ(model.text(1, 2), u"한강식당"_s);
+  EXPECT_EQ(model.text(1, 2), "한강식당");
 
   tests::key(Qt::Key_F2);
-  tests::enter(u"2"_s);
-  EXPECT_EQ(model.text(1, 2), u"한강식당2"_s);
-  EXPECT_EQ(finished, QStringList{u"1,2:한강식당>한강식당2"_s});
+  tests::enter("2");
+  EXPECT_EQ(model.text(1, 2), "한강식당2");
+  EXPECT_EQ(finished, QStringList{"1,2:한강식당>한강식당2"});
   EXPECT_EQ(grid->activeCol(), 3) << "Enter goes on to the next open cell";
 }
 
 TEST_F(SpreadTest, UnchangedCellWritesNothing) {
-  tests::key(Qt::Key_F2);
-  tests::key(Qt::Key_Return);
+  tests::keys({Qt::Key_F2, Qt::Key_Return});
   grid->setActiveCell(1, 5);
-  tests::enter(u"36000"_s);
+  tests::enter("36000");
   EXPECT_EQ(finished, QStringList());
 }
 
 TEST_F(SpreadTest, RefusedTextStaysInTheOpenEditorAndCancelsWhoeverAsked) {
-  tests::enter(u"no"_s);
+  tests::enter("no");
   EXPECT_TRUE(grid->isEditing());
-  EXPECT_EQ(grid->editingText(), u"no"_s);
+  EXPECT_EQ(grid->editingText(), "no");
   EXPECT_EQ(grid->activeCol(), 2);
 
   EXPECT_FALSE(grid->commitEdit());
@@ -100,10 +96,10 @@ TEST_F(SpreadTest, RefusedTextStaysInTheOpenEditorAndCancelsWhoeverAsked) {
   EXPECT_EQ(grid->activeRow(), 1);
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->cellRect(2, 4).center());
   EXPECT_EQ(grid->activeRow(), 1);
-  EXPECT_EQ(grid->editingText(), u"no"_s);
+  EXPECT_EQ(grid->editingText(), "no");
 
   tests::key(Qt::Key_Escape);
-  EXPECT_EQ(model.text(1, 2), u"한강식당"_s);
+  EXPECT_EQ(model.text(1, 2), "한강식당");
   EXPECT_TRUE(grid->setActiveCell(2, 2));
 }
 
@@ -112,67 +108,67 @@ TEST_F(SpreadTest, RuleThatPutsTheOldTextBackKeepsTheFocusThere) {
     grid->cancelEdit();
     return false;
   };
-  tests::enter(u"zz"_s);
+  tests::enter("zz");
   EXPECT_FALSE(grid->isEditing());
   EXPECT_EQ(grid->activeCol(), 2);
-  EXPECT_EQ(model.text(1, 2), u"한강식당"_s);
+  EXPECT_EQ(model.text(1, 2), "한강식당");
 }
 
 TEST_F(SpreadTest, LeavingTheGridFinishesTheCellAndARefusalBringsTheFocusBack) {
-  tests::type(u"ok"_s);
+  tests::type("ok");
   below->setFocus();
   QApplication::processEvents();
-  EXPECT_EQ(model.text(1, 2), u"ok"_s);
+  EXPECT_EQ(model.text(1, 2), "ok");
   EXPECT_TRUE(below->hasFocus());
 
   grid->setFocus();
-  tests::type(u"no"_s);
+  tests::type("no");
   below->setFocus();
   QApplication::processEvents();
   EXPECT_TRUE(grid->hasFocus());
-  EXPECT_EQ(grid->editingText(), u"no"_s);
+  EXPECT_EQ(grid->editingText(), "no");
 }
 
 // The first letter opens the cell; were the focus to move then, the syllable would fall apart.
 TEST_F(SpreadTest, HangulTypedIntoARestingCellArrivesWhole) {
   QWidget* const keyboard = QApplication::focusWidget();
-  tests::compose({u"ㅎ"_s, u"하"_s, u"한"_s}, u"한"_s);
+  tests::compose({"ㅎ", "하", "한"}, "한");
   EXPECT_EQ(QApplication::focusWidget(), keyboard);
-  tests::compose({u"ㄱ"_s, u"그"_s, u"글"_s}, u"글"_s);
-  EXPECT_EQ(grid->editingText(), u"한글"_s);
+  tests::compose({"ㄱ", "그", "글"}, "글");
+  EXPECT_EQ(grid->editingText(), "한글");
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(model.text(1, 2), u"한글"_s);
+  EXPECT_EQ(model.text(1, 2), "한글");
   EXPECT_EQ(finished.size(), 1);
 }
 
 TEST_F(SpreadTest, UnfinishedSyllableBelongsToTheText) {
-  QInputMethodEvent step(u"수"_s, {});
+  QInputMethodEvent step("수", {});
   QApplication::sendEvent(QApplication::focusWidget(), &step);
-  EXPECT_EQ(grid->editingText(), u"수"_s);
+  EXPECT_EQ(grid->editingText(), "수");
   EXPECT_TRUE(grid->commitEdit());
-  EXPECT_EQ(model.text(1, 2), u"수"_s);
+  EXPECT_EQ(model.text(1, 2), "수");
 
   // A composition into a cell that may not be edited opens nothing.
   grid->setActiveCell(1, 6);
-  tests::compose({u"ㅎ"_s}, u"하"_s);
+  tests::compose({"ㅎ"}, "하");
   EXPECT_FALSE(grid->isEditing());
 }
 
 TEST_F(SpreadTest, LockedHiddenAndNumberCells) {
   grid->setActiveCell(1, 6);
-  tests::type(u"5"_s);
+  tests::type("5");
   tests::key(Qt::Key_F2);
   EXPECT_FALSE(grid->isEditing());
   tests::key(Qt::Key_Right);
   EXPECT_EQ(grid->activeCol(), 8) << "the hidden column is passed over";
 
   grid->setActiveCell(1, 4);
-  tests::enter(u"1,x2"_s);
-  EXPECT_EQ(model.text(1, 4), u"12"_s) << "offered without separators";
+  tests::enter("1,x2");
+  EXPECT_EQ(model.text(1, 4), "12") << "offered without separators";
 
   grid->setActiveCell(1, 1);
-  tests::enter(u"0615"_s);
-  EXPECT_EQ(model.text(1, 1), u"06-15"_s) << "the mask writes the dash";
+  tests::enter("0615");
+  EXPECT_EQ(model.text(1, 1), "06-15") << "the mask writes the dash";
 }
 
 // A key that goes round between the grid and its line box never ends.
@@ -194,7 +190,7 @@ TEST_F(SpreadTest, KeysThatNothingWantsReachTheFormOnce) {
                                                           {Qt::Key_1, Qt::ControlModifier},
                                                           {Qt::Key_X, Qt::AltModifier}};
   for (const bool open : {true, false}) {
-    if (open) tests::type(u"AB("_s);
+    if (open) tests::type("AB(");
     window.keys.clear();
     QList<int> expected;
     for (const auto& [key, modifiers] : idle) {
@@ -203,7 +199,7 @@ TEST_F(SpreadTest, KeysThatNothingWantsReachTheFormOnce) {
       expected << key;
     }
     EXPECT_EQ(window.keys, expected) << (open ? "in an open cell" : "at rest");
-    EXPECT_EQ(grid->editingText(), open ? u"AB("_s : QString());
+    EXPECT_EQ(grid->editingText(), open ? "AB(" : QString());
     EXPECT_EQ(grid->activeCol(), 2);
     grid->cancelEdit();
   }
@@ -263,37 +259,31 @@ TEST_F(SpreadTest, ACellOpensOnlyForWhatItCanTake) {
   };
   for (const int col : {1, 4, 5}) {
     EXPECT_EQ(offered(col, types("oO x/")), QString()) << col;
-    EXPECT_EQ(offered(col, composes(u"ㅐ"_s)), QString()) << col;
-    EXPECT_EQ(offered(col, pastes(u"원"_s)), QString()) << col;
+    EXPECT_EQ(offered(col, composes("ㅐ")), QString()) << col;
+    EXPECT_EQ(offered(col, pastes("원")), QString()) << col;
     EXPECT_EQ(offered(col, types("-")), QString()) << col;
     EXPECT_EQ(offered(col,
                       [] {
-                        tests::type(u"7"_s);
+                        tests::type("7");
                         tests::key(Qt::Key_Backspace);
                       }),
               QString())
         << col << ": what was taken back was never there";
-    EXPECT_EQ(offered(col,
-                      [] {
-                        tests::key(Qt::Key_Backspace);
-                        tests::key(Qt::Key_Delete);
-                      }),
-              QString())
-        << col;
+    EXPECT_EQ(offered(col, [] { tests::keys({Qt::Key_Backspace, Qt::Key_Delete}); }), QString()) << col;
   }
   EXPECT_EQ(offered(5, types(".,-")), QString());
-  EXPECT_EQ(offered(5, types("o5")), u"1,5:36000>5"_s);
-  EXPECT_EQ(offered(5, composes(u"7"_s)), u"1,5:5>7"_s) << "figures may come through the input method";
-  EXPECT_EQ(offered(5, pastes(u"₩ 1,200원\n3"_s)), u"1,5:7>1200"_s);
-  EXPECT_EQ(offered(4, pastes(u"12.5"_s)), u"1,4:2>12"_s);
-  EXPECT_EQ(offered(1, pastes(u"2026-07-09"_s)), u"1,1:06-01>07-09"_s);
-  EXPECT_EQ(offered(4, types("1234567890123456789")), u"1,4:12>123456789012"_s);
+  EXPECT_EQ(offered(5, types("o5")), "1,5:36000>5");
+  EXPECT_EQ(offered(5, composes("7")), "1,5:5>7") << "figures may come through the input method";
+  EXPECT_EQ(offered(5, pastes("₩ 1,200원\n3")), "1,5:7>1200");
+  EXPECT_EQ(offered(4, pastes("12.5")), "1,4:2>12");
+  EXPECT_EQ(offered(1, pastes("2026-07-09")), "1,1:06-01>07-09");
+  EXPECT_EQ(offered(4, types("1234567890123456789")), "1,4:12>123456789012");
   EXPECT_EQ(offered(8, types("x")), QString());
 
   // A syllable begun and taken back.
   EXPECT_EQ(offered(2,
                     [] {
-                      QInputMethodEvent begun(u"ㅎ"_s, {});
+                      QInputMethodEvent begun("ㅎ", {});
                       QApplication::sendEvent(QApplication::focusWidget(), &begun);
                       QInputMethodEvent gone;
                       QApplication::sendEvent(QApplication::focusWidget(), &gone);
@@ -304,30 +294,30 @@ TEST_F(SpreadTest, ACellOpensOnlyForWhatItCanTake) {
     tests::key(Qt::Key_A, Qt::ControlModifier);
     tests::key(Qt::Key_Delete);
   };
-  EXPECT_EQ(offered(2, emptied), u"1,2:한강식당>"_s) << "emptied on purpose";
-  EXPECT_EQ(offered(5, emptied), u"1,5:1200>"_s);
+  EXPECT_EQ(offered(2, emptied), "1,2:한강식당>") << "emptied on purpose";
+  EXPECT_EQ(offered(5, emptied), "1,5:1200>");
 }
 
 TEST_F(SpreadTest, APageThatIsLeftKeepsNoOpenEditor) {
   QTabWidget pages;
   auto* const second = new QLineEdit;
-  pages.addTab(grid, u"하나"_s);
-  pages.addTab(second, u"둘"_s);
+  pages.addTab(grid, "하나");
+  pages.addTab(second, "둘");
   tests::show(pages);
   grid->setFocus();
   grid->setActiveCell(1, 2);
-  tests::type(u"ok"_s);
+  tests::type("ok");
   pages.setCurrentIndex(1);
   QApplication::processEvents();
-  EXPECT_EQ(model.text(1, 2), u"ok"_s);
+  EXPECT_EQ(model.text(1, 2), "ok");
 
   pages.setCurrentIndex(0);
   grid->setFocus();
-  tests::type(u"no"_s);
+  tests::type("no");
   pages.setCurrentIndex(1);
   QApplication::processEvents();
   EXPECT_FALSE(grid->isEditing()) << "what was refused cannot be mended out of sight";
-  EXPECT_EQ(model.text(1, 2), u"ok"_s);
+  EXPECT_EQ(model.text(1, 2), "ok");
 
   // The rule itself turns the page and refuses.
   pages.setCurrentIndex(0);
@@ -336,14 +326,14 @@ TEST_F(SpreadTest, APageThatIsLeftKeepsNoOpenEditor) {
     pages.setCurrentIndex(1);
     return false;
   };
-  tests::enter(u"x"_s);
+  tests::enter("x");
   EXPECT_FALSE(grid->isEditing());
   EXPECT_TRUE(second->hasFocus());
 
   pages.setCurrentIndex(0);
   grid->setFocus();
   grid->cellFinished = [](int, int, const QString&, const QString&) { return false; };
-  tests::type(u"x"_s);
+  tests::type("x");
   grid->leaveEdit();
   EXPECT_FALSE(grid->isEditing());
   grid->setParent(&window);
@@ -355,13 +345,10 @@ TEST_F(SpreadTest, KeysGoToTheFormFirstAndWithTheTypedText) {
     seen << u"%1,%2 %3 %4"_s.arg(row).arg(col).arg(key).arg(grid->editingText());
     return key == Qt::Key_F12 || (key == Qt::Key_Return && col == 2);
   };
-  tests::type(u"53"_s);
-  tests::key(Qt::Key_F12);
-  tests::key(Qt::Key_Return);
+  tests::type("53");
+  tests::keys({Qt::Key_F12, Qt::Key_Return});
   EXPECT_TRUE(grid->isEditing()) << "the form took Enter for its search";
-  tests::key(Qt::Key_Delete);
-  tests::key(Qt::Key_Escape);
-  tests::key(Qt::Key_Delete);
+  tests::keys({Qt::Key_Delete, Qt::Key_Escape, Qt::Key_Delete});
   EXPECT_EQ(seen, (QStringList{u"1,2 %1 53"_s.arg(int(Qt::Key_F12)), u"1,2 %1 53"_s.arg(int(Qt::Key_Return)),
                                u"1,2 %1 "_s.arg(int(Qt::Key_Delete))}))
       << "Delete belongs to the text while it is edited";
@@ -375,7 +362,7 @@ TEST_F(SpreadTest, RuleMovesTheCursorAndEnterDoesNotMoveItAgain) {
     grid->setActiveCell(row, 8);
     return true;
   };
-  tests::enter(u"x"_s);
+  tests::enter("x");
   EXPECT_EQ(grid->activeCol(), 8);
   EXPECT_EQ(enters, 0);
   EXPECT_FALSE(grid->isEditing());
@@ -388,59 +375,58 @@ TEST_F(SpreadTest, ComboOpensByTypingAndEnterAndTakesByEnter) {
   tests::key(Qt::Key_Return);
   auto* const list = grid->findChild<QListWidget*>();
   ASSERT_TRUE(list && list->isVisible());
-  tests::key(Qt::Key_Down);
-  tests::key(Qt::Key_Return);
+  tests::keys({Qt::Key_Down, Qt::Key_Return});
   EXPECT_FALSE(list->isVisible());
-  EXPECT_EQ(finished, QStringList{u"1,3:가스>수금"_s});
+  EXPECT_EQ(finished, QStringList{"1,3:가스>수금"});
   EXPECT_EQ(grid->activeCol(), 4);
 
   grid->setActiveCell(1, 3);
-  tests::compose({}, u"용"_s);
+  tests::compose({}, "용");
   EXPECT_TRUE(list->isVisible());
   EXPECT_EQ(list->currentRow(), 2);
-  tests::compose({u"가"_s}, u"가"_s);
+  tests::compose({"가"}, "가");
   EXPECT_EQ(list->currentRow(), 0) << "syllables search in the open list too";
   tests::key(Qt::Key_Escape);
-  EXPECT_EQ(model.text(1, 3), u"수금"_s);
+  EXPECT_EQ(model.text(1, 3), "수금");
 
-  refused = u"용대"_s;
+  refused = "용대";
   tests::key(Qt::Key_Space);
   list->setCurrentRow(2);
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(model.text(1, 3), u"수금"_s) << "the screen never shows what was refused";
+  EXPECT_EQ(model.text(1, 3), "수금") << "the screen never shows what was refused";
   EXPECT_EQ(grid->activeCol(), 3);
 }
 
 TEST_F(SpreadTest, CheckBoxTurnsBySpaceAndClick) {
   grid->setActiveCell(1, 8);
   tests::key(Qt::Key_Space);
-  EXPECT_EQ(model.text(1, 8), u"1"_s);
+  EXPECT_EQ(model.text(1, 8), "1");
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->cellRect(1, 8).center());
-  EXPECT_EQ(model.text(1, 8), u"0"_s);
+  EXPECT_EQ(model.text(1, 8), "0");
 }
 
 TEST_F(SpreadTest, RowsComeAndGoUnderTheOpenEditor) {
   grid->setActiveCell(2, 2);
-  tests::type(u"abc"_s);
+  tests::type("abc");
   model.insertRow(1);
-  EXPECT_EQ(grid->editingText(), u"abc"_s);
+  EXPECT_EQ(grid->editingText(), "abc");
   EXPECT_TRUE(grid->commitEdit());
-  EXPECT_EQ(model.text(3, 2), u"abc"_s) << "the text follows its row";
+  EXPECT_EQ(model.text(3, 2), "abc") << "the text follows its row";
 
-  tests::type(u"mine"_s);
-  model.setText(3, 3, u"beside"_s);
-  EXPECT_EQ(grid->editingText(), u"mine"_s);
-  model.setText(3, 2, u"the rule's"_s);
+  tests::type("mine");
+  model.setText(3, 3, "beside");
+  EXPECT_EQ(grid->editingText(), "mine");
+  model.setText(3, 2, "the rule's");
   EXPECT_FALSE(grid->isEditing()) << "a rule wrote into the open cell";
-  EXPECT_EQ(model.text(3, 2), u"the rule's"_s);
+  EXPECT_EQ(model.text(3, 2), "the rule's");
 
-  tests::type(u"gone"_s);
+  tests::type("gone");
   model.deleteRow(3);
   EXPECT_FALSE(grid->isEditing());
   EXPECT_TRUE(grid->commitEdit());
   model.clear();
   EXPECT_EQ(grid->activeRow(), 0);
-  tests::enter(u"x"_s);
+  tests::enter("x");
   EXPECT_FALSE(grid->isEditing());
 }
 
@@ -453,12 +439,11 @@ TEST_F(SpreadTest, FormHoldsTheOperatorInARow) {
   tests::key(Qt::Key_Right);
   EXPECT_EQ(grid->activeCol(), 3);
   grid->cellLeaving = nullptr;
-  tests::key(Qt::Key_Left);
-  tests::key(Qt::Key_Down);
-  EXPECT_EQ(entered, QStringList{u"2"_s});
+  tests::keys({Qt::Key_Left, Qt::Key_Down});
+  EXPECT_EQ(entered, QStringList{"2"});
   model.setRows({{}, {}});
   grid->setActiveCell(2, 2);
-  EXPECT_EQ(entered, (QStringList{u"2"_s, u"2"_s})) << "the same place in new rows is another row";
+  EXPECT_EQ(entered, (QStringList{"2", "2"})) << "the same place in new rows is another row";
 }
 
 TEST_F(SpreadTest, ColumnsAreDrawnWiderAndBlocksCopied) {
@@ -476,7 +461,7 @@ TEST_F(SpreadTest, ColumnsAreDrawnWiderAndBlocksCopied) {
   tests::key(Qt::Key_Down, Qt::ShiftModifier);
   tests::key(Qt::Key_End, Qt::ShiftModifier);
   tests::key(Qt::Key_C, Qt::ControlModifier);
-  EXPECT_EQ(QApplication::clipboard()->text(), u"36000\t1234567\t0\n0\t-5000\t1"_s) << "hidden ones left out";
+  EXPECT_EQ(QApplication::clipboard()->text(), "36000\t1234567\t0\n0\t-5000\t1") << "hidden ones left out";
 }
 
 TEST_F(SpreadTest, NamesStayInViewWhileTheOthersAreScrolled) {
@@ -492,12 +477,12 @@ TEST_F(SpreadTest, NamesStayInViewWhileTheOthersAreScrolled) {
   EXPECT_LT(grid->cellRect(1, 3).left(), name.right()) << "scrolled under the names";
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, name.center());
   EXPECT_EQ(grid->activeCol(), 2) << "a click takes what is seen";
-  tests::grab(window, u"spread_frozen"_s);
+  tests::grab(window, "spread_frozen");
   tests::key(Qt::Key_Right);
   EXPECT_GT(grid->cellRect(1, 3).left(), name.right()) << "the current cell comes out from under them";
   // The open editor may not cover the names when the wheel moves its cell under them.
   tests::key(Qt::Key_Right);
-  tests::type(u"7"_s);
+  tests::type("7");
   grid->horizontalScrollBar()->setValue(grid->horizontalScrollBar()->maximum());
   EXPECT_FALSE(grid->findChild<QLineEdit*>()->geometry().intersects(name));
   grid->cancelEdit();
@@ -509,7 +494,7 @@ TEST_F(SpreadTest, NamesStayInViewWhileTheOthersAreScrolled) {
 }
 
 TEST_F(SpreadTest, PageAndEditAreFastWithManyRows) {
-  std::vector<std::vector<QString>> rows(100'000, {u"06-01"_s, u"한강식당"_s, u"가스"_s, u"2"_s, u"36000"_s});
+  std::vector<std::vector<QString>> rows(100'000, {"06-01", "한강식당", "가스", "2", "36000"});
   model.setRows(std::move(rows));
   grid->setActiveCell(1, 2);
   window.grab();
@@ -527,7 +512,7 @@ TEST_F(SpreadTest, PageAndEditAreFastWithManyRows) {
 }
 
 TEST_F(SpreadTest, Picture) {
-  tests::grab(window, u"spread"_s);
+  tests::grab(window, "spread");
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // Who works by keys must see where he is, on every kind of control.
 #include "ui/forms/style.h"
 
-#include <gtest/gtest.h>
-
 #include <QCheckBox>
 #include <QComboBox>
 #include <QListWidget>
