@@ -4,9 +4,7 @@
 #include "store/jet/error.h"
 #include "tests/answers.h"
 #include "tests/cpu_clock.h"
-#include "tests/support.h"
-
-using namespace Qt::StringLiterals;
+#include "tests/master/refusal.h"
 
 namespace {
 
@@ -42,15 +40,15 @@ TEST(BuildingUnits, TheTestForFloor4LooksAtThreeDigitsAndSparesItsBounds) {
 
 TEST(BuildingUnits, TheGridShowsTheTopFloorFirstAndGivesTheOrderOfMaking) {
   SpreadModel grid;
-  showUnits(grid, {{u"101"_s, u"102"_s}, {u"201"_s, u"202"_s}}, false);
-  EXPECT_EQ(grid.text(1, 1), u"2층"_s);
-  EXPECT_EQ(grid.text(1, 2), u"201"_s);
-  EXPECT_EQ(unitsAsShown(grid, true), (QStringList{u"101"_s, u"201"_s, u"102"_s, u"202"_s}));
-  EXPECT_EQ(unitsAsShown(grid, false), (QStringList{u"101"_s, u"102"_s, u"201"_s, u"202"_s}));
-  grid.setText(2, 2, u"B01"_s);
-  grid.setText(1, 3, u""_s);
-  EXPECT_EQ(unitsAsShown(grid, true), (QStringList{u"B01"_s, u"201"_s, u"102"_s}));
-  grid.setText(2, 2, u"201"_s);
+  showUnits(grid, {{"101", "102"}, {"201", "202"}}, false);
+  EXPECT_EQ(grid.text(1, 1), "2층");
+  EXPECT_EQ(grid.text(1, 2), "201");
+  EXPECT_EQ(unitsAsShown(grid, true), (QStringList{"101", "201", "102", "202"}));
+  EXPECT_EQ(unitsAsShown(grid, false), (QStringList{"101", "102", "201", "202"}));
+  grid.setText(2, 2, "B01");
+  grid.setText(1, 3, "");
+  EXPECT_EQ(unitsAsShown(grid, true), (QStringList{"B01", "201", "102"}));
+  grid.setText(2, 2, "201");
   markTwins(grid);
   EXPECT_NE(grid.background(1, 2), -1);
   EXPECT_EQ(grid.background(1, 2), grid.background(2, 2));
@@ -64,111 +62,106 @@ struct BuildingRegisterTest : testing::Test {
   }
   QString rows(const QString& sql) { return tests::rowsOf(pc.session.dbYear, sql); }
   QString blocks() {
-    return tests::rowsOf(pc.session.dbBasic, u"Select Name & ' ' & Dong As Block From APT Order By Code"_s);
+    return tests::rowsOf(pc.session.dbBasic, "Select Name & ' ' & Dong As Block From APT Order By Code");
+  }
+  QString refused(const RegisterFields& boxes, const QString& told) {
+    return tests::refusedAt(pc.prompts, buildings, boxes, told);
   }
   void save(const RegisterFields& boxes) {
     buildings.beginNew();
-    pc.prompts.expect(u"건물등록을 마쳤습니다"_s);
+    pc.prompts.expect("건물등록을 마쳤습니다");
     ASSERT_TRUE(buildings.save(boxes).done);
   }
 
   tests::TestPc pc;
   BuildingRegister buildings{pc.session, HouseStyle::Apartment};
-  RegisterFields block{
-      {u"Name"_s, u"달빛"_s},        {u"Dong"_s, u"101"_s},       {u"Structure"_s, u"-1"_s},
-      {u"Height"_s, u"2"_s},         {u"Width"_s, u"2"_s},        {u"PostCode"_s, u"712-010"_s},
-      {u"Address"_s, u"장터동 7"_s}, {u"Evaporation"_s, u"-1"_s}, {u"Pressure"_s, u"4"_s},
-      {u"Eva"_s, u"2,450"_s},        {u"delaypay"_s, u"1.5"_s},   {u"Chk4"_s, u"-1"_s},
-      {u"Chk4Ho"_s, u"-1"_s}};
+  RegisterFields block{{"Name", "달빛"},        {"Dong", "101"},       {"Structure", "-1"},
+                       {"Height", "2"},         {"Width", "2"},        {"PostCode", "712-010"},
+                       {"Address", "장터동 7"}, {"Evaporation", "-1"}, {"Pressure", "4"},
+                       {"Eva", "2,450"},        {"delaypay", "1.5"},   {"Chk4", "-1"},
+                       {"Chk4Ho", "-1"}};
 };
 
 TEST_F(BuildingRegisterTest, WhatIsMissingIsAskedForInOrder) {
-  pc.prompts.expect(u"수정할 건물/동을 선택하십시오!"_s);
-  EXPECT_FALSE(buildings.save({}).done);
-  pc.prompts.expect(u"신규등록은 신규버튼을 누른 후 입력하십시오"_s);
-  EXPECT_FALSE(buildings.save(block).done);
+  refused({}, "수정할 건물/동을 선택하십시오!");
+  refused(block, "신규등록은 신규버튼을 누른 후 입력하십시오");
   buildings.beginNew();
-  RegisterFields boxes{{u"Evaporation"_s, u"-1"_s}, {u"Height"_s, u"0"_s}};
-  for (const auto& [column, text] :
-       std::vector<std::pair<QString, QString>>{{u"Name"_s, u"건물명은 필수입력사항입니다!"_s},
-                                                {u"Dong"_s, u"동명은 필수입력사항입니다!"_s},
-                                                {u"Height"_s, u"층수는 필수입력사항입니다!"_s},
-                                                {u"Width"_s, u"층당 세대수는 필수입력사항입니다!"_s},
-                                                {u"PostCode"_s, u"우편번호는 필수입력사항입니다!"_s},
-                                                {u"Address"_s, u"주소는 필수입력사항입니다!"_s},
-                                                {u"Pressure"_s, u"압력조정기 입력은 필수사항입니다!"_s},
-                                                {u"Eva"_s, u"체적단가 입력은 필수사항입니다!"_s}}) {
-    pc.prompts.expect(text);
-    EXPECT_EQ(buildings.save(boxes).focus, column);
+  RegisterFields boxes{{"Evaporation", "-1"}, {"Height", "0"}};
+  const std::pair<QString, QString> missing[] = {{"Name", "건물명은"},       {"Dong", "동명은"},
+                                                 {"Height", "층수는"},       {"Width", "층당 세대수는"},
+                                                 {"PostCode", "우편번호는"}, {"Address", "주소는"}};
+  for (const auto& [column, text] : missing) {
+    EXPECT_EQ(refused(boxes, text + " 필수입력사항입니다!"), column);
     boxes[column] = block[column];
   }
-  boxes[u"Height"_s] = u"100"_s;
-  pc.prompts.expect(u"층수와 층당 세대수는 99까지 입력할 수 있습니다!"_s);
-  EXPECT_EQ(buildings.save(boxes).focus, u"Height"_s);
+  for (const auto& [column, text] : {std::pair{"Pressure", "압력조정기"}, {"Eva", "체적단가"}}) {
+    EXPECT_EQ(refused(boxes, QString(text) + " 입력은 필수사항입니다!"), column);
+    boxes[column] = block[column];
+  }
+  boxes["Height"] = "100";
+  EXPECT_EQ(refused(boxes, "층수와 층당 세대수는 99까지 입력할 수 있습니다!"), "Height");
   save(block);
   buildings.beginNew();
-  pc.prompts.expect(u"달빛 101동은 이미 등록되어 있습니다!"_s);
-  EXPECT_EQ(buildings.save(block).focus, u"Dong"_s);
-  EXPECT_EQ(blocks(), u"달빛 101"_s);
+  EXPECT_EQ(refused(block, "달빛 101동은 이미 등록되어 있습니다!"), "Dong");
+  EXPECT_EQ(blocks(), "달빛 101");
 }
 
 TEST_F(BuildingRegisterTest, AMeteredBlockComesWithItsHouseholdsAsTheGridStands) {
   buildings.beginNew();
   buildings.showUnits(block);
-  ASSERT_EQ(buildings.units().text(1, 3), u"202"_s);
-  buildings.units().setText(1, 3, u"B2"_s);    // 202 is called otherwise
+  ASSERT_EQ(buildings.units().text(1, 3), "202");
+  buildings.units().setText(1, 3, "B2");       // 202 is called otherwise
   buildings.units().setText(2, 3, QString());  // there is no 102
   buildings.showUnits(block);                  // nothing that numbers depend on has changed
-  pc.prompts.expect(u"건물등록을 마쳤습니다"_s);
+  pc.prompts.expect("건물등록을 마쳤습니다");
   ASSERT_TRUE(buildings.save(block).done);
 
-  EXPECT_EQ(rows(u"Select Code, Name, HouseStyle, BDName, Dong, Ho, PostCode, Address, VolumeYesNo, Volume, "
-                 u"VolumeUnit, PayWay, AppDate From Client Order By Code"_s),
+  EXPECT_EQ(rows("Select Code, Name, HouseStyle, BDName, Dong, Ho, PostCode, Address, VolumeYesNo, Volume, "
+                 "VolumeUnit, PayWay, AppDate From Client Order By Code"),
             u"1|달빛 101동|1|달빛|101||712-010|장터동 7|-1|4|2450|2|2026-03-16;"
             u"2|달빛 101동 101호|1|달빛|101|101|712-010|장터동 7|-1|4|2450|2|2026-03-16;"
             u"3|달빛 101동 201호|1|달빛|101|201|712-010|장터동 7|-1|4|2450|2|2026-03-16;"
-            u"4|달빛 101동 B2호|1|달빛|101|B2|712-010|장터동 7|-1|4|2450|2|2026-03-16"_s);
-  EXPECT_EQ(rows(u"Select Count(Code) As C From Client Where Ho Is Null"_s), u"1"_s)
-      << "the head row has no Ho";
-  EXPECT_EQ(rows(u"Select ClientCode, Count(Mon) As C, Min(Mon) As A, Max(Mon) As Z From Evaporation "
-                 u"Group By ClientCode Order By ClientCode"_s),
-            u"2|13|0|12;3|13|0|12;4|13|0|12"_s);
-  EXPECT_EQ(buildings.list().text(1, 6), u"3"_s) << "households that stand";
-  EXPECT_EQ(buildings.list().text(1, 3), u"계단식"_s);
+            "4|달빛 101동 B2호|1|달빛|101|B2|712-010|장터동 7|-1|4|2450|2|2026-03-16");
+  EXPECT_EQ(rows("Select Count(Code) As C From Client Where Ho Is Null"), "1") << "the head row has no Ho";
+  EXPECT_EQ(rows("Select ClientCode, Count(Mon) As C, Min(Mon) As A, Max(Mon) As Z From Evaporation Group By "
+                 "ClientCode Order By ClientCode"),
+            "2|13|0|12;3|13|0|12;4|13|0|12");
+  EXPECT_EQ(buildings.list().text(1, 6), "3") << "households that stand";
+  EXPECT_EQ(buildings.list().text(1, 3), "계단식");
 }
 
 TEST_F(BuildingRegisterTest, ABlockWithoutMetersAndACorridorGoFloorByFloor) {
   BuildingRegister houses(pc.session, HouseStyle::MultiHousehold);
-  block[u"Structure"_s] = u"0"_s;
-  block[u"Evaporation"_s] = u"0"_s;  // regulator and price left over in the boxes count for nothing
+  block["Structure"] = "0";
+  block["Evaporation"] = "0";  // regulator and price left over in the boxes count for nothing
   houses.beginNew();
-  pc.prompts.expect(u"건물등록을 마쳤습니다"_s);
+  pc.prompts.expect("건물등록을 마쳤습니다");
   ASSERT_TRUE(houses.save(block).done);
-  EXPECT_EQ(rows(u"Select Ho, HouseStyle, VolumeYesNo, Volume, VolumeUnit From Client Where Ho Is Not Null "
-                 u"Order By Code"_s),
-            u"101|2|0||0;102|2|0||0;201|2|0||0;202|2|0||0"_s);
-  EXPECT_EQ(rows(u"Select Count(Mon) As C From Evaporation"_s), u"0"_s);
+  EXPECT_EQ(rows("Select Ho, HouseStyle, VolumeYesNo, Volume, VolumeUnit From Client Where Ho Is Not Null "
+                 "Order By Code"),
+            "101|2|0||0;102|2|0||0;201|2|0||0;202|2|0||0");
+  EXPECT_EQ(rows("Select Count(Mon) As C From Evaporation"), "0");
   buildings.load();
   EXPECT_EQ(buildings.list().MaxRows(), 0) << "the apartments' list has no multi-family house";
 }
 
 TEST_F(BuildingRegisterTest, WhatFailsOnTheWayIsTakenBackAndTold) {
   pc.session.dbBasic.Execute(
-      u"Insert Into Client(Name, BDName, Dong, Ho) Values('옛 고객', '달빛', '101', '999')"_s);
+      "Insert Into Client(Name, BDName, Dong, Ho) Values('옛 고객', '달빛', '101', '999')");
   buildings.beginNew();
   buildings.showUnits(block);
-  buildings.units().setText(1, 3, u"2'2"_s);
-  pc.prompts.expect(u"건물등록을 마치지 못하여 등록하던 자료를 모두 지웠습니다!"_s);
+  buildings.units().setText(1, 3, "2'2");
+  pc.prompts.expect("건물등록을 마치지 못하여 등록하던 자료를 모두 지웠습니다!");
   EXPECT_THROW(buildings.save(block), jet::Error);
   EXPECT_EQ(blocks(), QString());
-  EXPECT_EQ(rows(u"Select Name From Client"_s), u"옛 고객"_s) << "whoever stood there before stays";
-  EXPECT_EQ(rows(u"Select Count(Mon) As C From Evaporation"_s), u"0"_s);
+  EXPECT_EQ(rows("Select Name From Client"), "옛 고객") << "whoever stood there before stays";
+  EXPECT_EQ(rows("Select Count(Mon) As C From Evaporation"), "0");
   EXPECT_TRUE(buildings.isNew()) << "the boxes stay for another try";
 }
 
 TEST_F(BuildingRegisterTest, WhatCannotBeTakenBackIsTold) {
-  block[u"Height"_s] = u"50"_s;
-  block[u"Width"_s] = u"80"_s;
+  block["Height"] = "50";
+  block["Width"] = "80";
   buildings.beginWork = [&](int) {
     return [&](int) {
       pc.session.dbYear.Close();  // the year's file is gone after the first group
@@ -176,76 +169,74 @@ TEST_F(BuildingRegisterTest, WhatCannotBeTakenBackIsTold) {
     };
   };
   buildings.beginNew();
-  pc.prompts.expect(u"건물이 목록에 있으면 삭제한 후 다시 등록하십시오."_s);
+  pc.prompts.expect("건물이 목록에 있으면 삭제한 후 다시 등록하십시오.");
   EXPECT_THROW(buildings.save(block), jet::Error);
-  EXPECT_EQ(blocks(), u"달빛 101"_s) << "the block stands, so that it can be deleted";
+  EXPECT_EQ(blocks(), "달빛 101") << "the block stands, so that it can be deleted";
 }
 
 TEST_F(BuildingRegisterTest, AChangeReachesEveryHouseholdButNotItsName) {
   save(block);
-  block[u"Dong"_s] = u"102"_s;
+  block["Dong"] = "102";
   save(block);
   RegisterFields boxes = buildings.select(1);
-  boxes[u"Dong"_s] = u"102"_s;
-  pc.prompts.expect(u"달빛 102동은 이미 등록되어 있습니다!"_s);
-  EXPECT_FALSE(buildings.save(boxes).done);
-  boxes[u"Dong"_s] = u"103"_s;
-  boxes[u"Structure"_s] = u"0"_s;
-  boxes[u"Address"_s] = u"솔밭동 9"_s;
-  boxes[u"Eva"_s] = u"2,600"_s;
-  pc.prompts.expect(u"선택하신 건물의 모든 가구에 대한 내용이 수정됩니다."_s);
+  boxes["Dong"] = "102";
+  refused(boxes, "달빛 102동은 이미 등록되어 있습니다!");
+  boxes["Dong"] = "103";
+  boxes["Structure"] = "0";
+  boxes["Address"] = "솔밭동 9";
+  boxes["Eva"] = "2,600";
+  pc.prompts.expect("선택하신 건물의 모든 가구에 대한 내용이 수정됩니다.");
   ASSERT_TRUE(buildings.save(boxes).done);
-  EXPECT_EQ(rows(u"Select Distinct Dong, Address, VolumeUnit From Client Order By Dong"_s),
-            u"102|장터동 7|2450;103|솔밭동 9|2600"_s);
-  EXPECT_EQ(rows(u"Select Name From Client Where Dong = '103' And Ho = '201'"_s), u"달빛 101동 201호"_s);
-  EXPECT_EQ(buildings.list().text(1, 3), u"복도식"_s);
+  EXPECT_EQ(rows("Select Distinct Dong, Address, VolumeUnit From Client Order By Dong"),
+            "102|장터동 7|2450;103|솔밭동 9|2600");
+  EXPECT_EQ(rows("Select Name From Client Where Dong = '103' And Ho = '201'"), "달빛 101동 201호");
+  EXPECT_EQ(buildings.list().text(1, 3), "복도식");
 
   boxes = buildings.select(1);
-  boxes[u"Evaporation"_s] = u"0"_s;
-  pc.prompts.expect(u"모든 가구에 대한 내용이 수정됩니다."_s);
+  boxes["Evaporation"] = "0";
+  pc.prompts.expect("모든 가구에 대한 내용이 수정됩니다.");
   ASSERT_TRUE(buildings.save(boxes).done);
-  EXPECT_EQ(rows(u"Select Distinct VolumeYesNo, Volume, VolumeUnit From Client Where Dong = '103'"_s),
-            u"0||0"_s);
+  EXPECT_EQ(rows("Select Distinct VolumeYesNo, Volume, VolumeUnit From Client Where Dong = '103'"), "0||0");
 }
 
 TEST_F(BuildingRegisterTest, ABlockThatGetsMetersGetsItsMeterRows) {
-  block[u"Evaporation"_s] = u"0"_s;
+  block["Evaporation"] = "0";
   save(block);
   RegisterFields boxes = buildings.select(1);
-  boxes[u"Evaporation"_s] = u"-1"_s;
-  boxes[u"Pressure"_s] = u"4"_s;
-  boxes[u"Eva"_s] = u"2450"_s;
-  boxes[u"Dong"_s] = u"105"_s;  // renamed in the same change
-  pc.session.dbYear.Execute(u"Insert Into Evaporation(ClientCode, Mon) Values(2, 5)"_s);
-  pc.prompts.expect(u"모든 가구에 대한 내용이 수정됩니다."_s);
+  boxes["Evaporation"] = "-1";
+  boxes["Pressure"] = "4";
+  boxes["Eva"] = "2450";
+  boxes["Dong"] = "105";  // renamed in the same change
+  pc.session.dbYear.Execute("Insert Into Evaporation(ClientCode, Mon) Values(2, 5)");
+  pc.prompts.expect("모든 가구에 대한 내용이 수정됩니다.");
   ASSERT_TRUE(buildings.save(boxes).done);
   EXPECT_EQ(
-      rows(u"Select ClientCode, Count(Mon) As C From Evaporation Group By ClientCode Order By ClientCode"_s),
-      u"2|13;3|13;4|13;5|13"_s);
+      rows("Select ClientCode, Count(Mon) As C From Evaporation Group By ClientCode Order By ClientCode"),
+      "2|13;3|13;4|13;5|13");
 }
 
 TEST_F(BuildingRegisterTest, ADeletedBlockTakesCustomersAndMeterRowsAndLeavesSales) {
   save(block);
-  block[u"Dong"_s] = u"102"_s;
+  block["Dong"] = "102";
   save(block);
-  pc.session.dbYear.Execute(u"Insert Into Sale(SaleDate, ClientCode) Values('2026-03-02', 2)"_s);
+  pc.session.dbYear.Execute("Insert Into Sale(SaleDate, ClientCode) Values('2026-03-02', 2)");
   buildings.select(1);
-  pc.prompts.expect(u"선택된 건물의 자료와 고객현황을 모두 지우시겠습니까?"_s);
-  pc.prompts.expect(u"삭제하시겠습니까?"_s, false);
+  pc.prompts.expect("선택된 건물의 자료와 고객현황을 모두 지우시겠습니까?");
+  pc.prompts.expect("삭제하시겠습니까?", false);
   EXPECT_FALSE(buildings.remove().done);
-  EXPECT_EQ(blocks(), u"달빛 101;달빛 102"_s);
-  pc.prompts.expect(u"선택된 건물의 자료와 고객현황을 모두 지우시겠습니까?"_s);
-  pc.prompts.expect(u"삭제는 선택된 건물에 대한 모든 메뉴에서의 자료를 삭제합니다!\n삭제하시겠습니까?"_s);
+  EXPECT_EQ(blocks(), "달빛 101;달빛 102");
+  pc.prompts.expect("선택된 건물의 자료와 고객현황을 모두 지우시겠습니까?");
+  pc.prompts.expect("삭제는 선택된 건물에 대한 모든 메뉴에서의 자료를 삭제합니다!\n삭제하시겠습니까?");
   EXPECT_TRUE(buildings.remove().done);
-  EXPECT_EQ(blocks(), u"달빛 102"_s);
-  EXPECT_EQ(rows(u"Select Distinct Dong From Client"_s), u"102"_s);
-  EXPECT_EQ(rows(u"Select Min(ClientCode) As A, Count(Mon) As C From Evaporation"_s), u"7|52"_s);
-  EXPECT_EQ(rows(u"Select ClientCode From Sale"_s), u"2"_s);
+  EXPECT_EQ(blocks(), "달빛 102");
+  EXPECT_EQ(rows("Select Distinct Dong From Client"), "102");
+  EXPECT_EQ(rows("Select Min(ClientCode) As A, Count(Mon) As C From Evaporation"), "7|52");
+  EXPECT_EQ(rows("Select ClientCode From Sale"), "2");
 }
 
 TEST_F(BuildingRegisterTest, AThousandHouseholdsAreMadeWithinSeconds) {
-  block[u"Height"_s] = u"20"_s;
-  block[u"Width"_s] = u"50"_s;
+  block["Height"] = "20";
+  block["Width"] = "50";
   int told = 0, of = 0, groups = 0;
   buildings.beginWork = [&](int count) {
     of = count;
@@ -262,14 +253,14 @@ TEST_F(BuildingRegisterTest, AThousandHouseholdsAreMadeWithinSeconds) {
   EXPECT_EQ(of, 1000);
   EXPECT_EQ(told, 1000);
   EXPECT_EQ(groups, 1) << "a power cut leaves all of it or nothing";
-  EXPECT_EQ(rows(u"Select Count(Mon) As C From Evaporation"_s), u"13000"_s);
+  EXPECT_EQ(rows("Select Count(Mon) As C From Evaporation"), "13000");
   since.restart();
   buildings.select(1);
-  pc.prompts.expect(u"모두 지우시겠습니까?"_s);
-  pc.prompts.expect(u"삭제하시겠습니까?"_s);
+  pc.prompts.expect("모두 지우시겠습니까?");
+  pc.prompts.expect("삭제하시겠습니까?");
   EXPECT_TRUE(buildings.remove().done);
   EXPECT_LT(since.elapsed(), 4000) << "other PCs wait no longer than this";
-  EXPECT_EQ(rows(u"Select Count(Code) As C From Client"_s), u"0"_s);
+  EXPECT_EQ(rows("Select Count(Code) As C From Client"), "0");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "master/buildings/building_search.h"
 
+#include "tests/answers.h"
 #include "tests/support.h"
 
 namespace {
@@ -7,12 +8,10 @@ namespace {
 TEST(BuildingSearching, listsBuildingsOfAStyleWithTheirBlocks) {
   tests::TestPc pc;
   pc.openBooks();
-  for (const char* values :
-       {"'한빛', '102', '700-010', '중앙로 1', 15, True", "'한빛', '101', '700-010', '중앙로 1', 12, True",
-        "'가온', '1', '700-020', '동성로 2', 5, True", "'별빌라', '가', '700-030', '남산로 3', 4, False"}) {
-    pc.session.dbBasic.Execute("Insert Into APT(Name, Dong, PostCode, Address, Height, Gubun) Values(" +
-                               QString::fromUtf8(values) + ")");
-  }
+  tests::insertRows(
+      pc.session.dbBasic, "APT(Name, Dong, PostCode, Address, Height, Gubun)",
+      {"'한빛', '102', '700-010', '중앙로 1', 15, True", "'한빛', '101', '700-010', '중앙로 1', 12, True",
+       "'가온', '1', '700-020', '동성로 2', 5, True", "'별빌라', '가', '700-030', '남산로 3', 4, False"});
   BuildingSearch apartments(pc.session, HouseStyle::Apartment);
   ASSERT_TRUE(apartments.loadBuildings());
   ASSERT_EQ(apartments.buildings().MaxRows(), 2);

@@ -21,8 +21,7 @@ class ClientSearching : public ::testing::Test {
   void add(const QString& values) {
     pc.session.dbBasic.Execute(
         "Insert into Client(Name, Tel, Tel1, Tel2, Address, Uname, HouseStyle, VolumeYesNo, BDName, Dong, "
-        "Ho) "
-        "Values(" +
+        "Ho) Values(" +
         values + ")");
   }
   QStringList names(const QString& text, ClientSearchMode mode, bool wholeNumber = false) {

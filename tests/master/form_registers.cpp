@@ -10,6 +10,7 @@
 #include <QTabWidget>
 
 #include "app/frmMain.h"
+#include "tests/answers.h"
 #include "tests/idle_context.h"
 #include "tests/support.h"
 #include "tests/ui/grab.h"
@@ -30,31 +31,24 @@ const RegisterWindow registerWindows[] = {{"frmClient", 3}, {"frmGasUtil", 2},  
 struct Registers : testing::TestWithParam<RegisterWindow>, tests::TestPc {
   void SetUp() override {
     openBooks(QDate(2026, 6, 15));
-    for (const char* row :
-         {"LPG(LPGName, Size, LPGPurchase, CANFull) Values('LPG', '20', 30000, 10)",
-          "LPG(LPGName, Size, LPGPurchase, CANFull) Values('LPG', '50', 70000, 5)",
-          "Util(Name, Size, UtilStock) Values('밸브', '15A', 48)",
-          "Util(Name, Size, UtilStock) Values('호스', '3m', 9)",
-          "RefillState(Company, Code, GasInit) Values('한강충전소', '0001', 1000000)",
-          "RefillState(Company, Code) Values('북한산충전소', '0002')", "Response(Name) Values('김배달')",
-          "Response(Name) Values('박기사')", "Bank(BName, BNumber) Values('국민은행', '001')",
-          "Bank(BName, BNumber) Values('농협', '002')",
-          "APT(Name, Dong, PostCode, Address, Structure, Height, Width, Gubun) Values('한빛', '101', "
-          "'700-010', "
-          "'동인동 1', False, 5, 2, True)",
-          "APT(Name, Dong, PostCode, Address, Height, Width, Gubun) Values('한빛', '102', '700-010', '동인동 "
-          "1', 5, 2, True)",
-          "APT(Name, Dong, PostCode, Address, Height, Width, Gubun) Values('달빛', '1', '700-010', '동인동 "
-          "2', 2, 2, False)",
-          "APT(Name, Dong, PostCode, Address, Height, Width, Gubun) Values('달빛', '2', '700-010', '동인동 "
-          "2', 2, 2, False)"})
-      session.dbBasic.Execute(u"Insert Into "_s + row);
+    const auto fill = [this](const QString& into, const QStringList& rows) {
+      tests::insertRows(session.dbBasic, into, rows);
+    };
+    fill("LPG(LPGName, Size, LPGPurchase, CANFull)", {"'LPG', '20', 30000, 10", "'LPG', '50', 70000, 5"});
+    fill("Util(Name, Size, UtilStock)", {"'밸브', '15A', 48", "'호스', '3m', 9"});
+    fill("RefillState(Company, Code, GasInit)",
+         {"'한강충전소', '0001', 1000000", "'북한산충전소', '0002', Null"});
+    fill("Response(Name)", {"'김배달'", "'박기사'"});
+    fill("Bank(BName, BNumber)", {"'국민은행', '001'", "'농협', '002'"});
+    fill("APT(Name, Dong, PostCode, Address, Structure, Height, Width, Gubun)",
+         {"'한빛', '101', '700-010', '동인동 1', False, 5, 2, True",
+          "'한빛', '102', '700-010', '동인동 1', False, 5, 2, True",
+          "'달빛', '1', '700-010', '동인동 2', False, 2, 2, False",
+          "'달빛', '2', '700-010', '동인동 2', False, 2, 2, False"});
     for (int style = 0; style < 3; ++style)
       for (int i = 1; i < 3; ++i)
-        session.dbBasic.Execute(
-            u"Insert Into Client(Name, BDName, Dong, Ho, HouseStyle, PayWay, Tel) "
-            u"Values('고객%2', '한빛', '101', '10%2', %1, 2, '0531234%1%2')"_s.arg(style)
-                .arg(i));
+        fill("Client(Name, BDName, Dong, Ho, HouseStyle, PayWay, Tel)",
+             {u"'고객%2', '한빛', '101', '10%2', %1, 2, '0531234%1%2'"_s.arg(style).arg(i)});
     window = std::make_unique<frmMain>(session, pickers);
     window->resize(1280, 860);
     tests::show(*window);

@@ -19,8 +19,7 @@ struct MapPaper : testing::Test, tests::TestPc {
     printChooser() = [this](Session&, int, QWidget*) { return choice; };
     session.dbBasic.Execute(
         u"Insert Into Client(Code, Name, Tel, Address, HouseStyle, Position) Values(1, '산골식당', "
-        u"'053-123-4567', "
-        "'대구 수성구 지산동 1', 0, 'C:\\RWGas\\Map\\1.png')");
+        u"'053-123-4567', '대구 수성구 지산동 1', 0, 'C:\\RWGas\\Map\\1.png')");
     pc.paths.makeFolder("C:\\RWGas\\Map\\");
   }
   void drawMap() {

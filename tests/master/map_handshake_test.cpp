@@ -1,8 +1,5 @@
 #include "master/customers/map_handshake.h"
 
-#include <QDir>
-#include <QFile>
-
 #include "tests/support.h"
 
 namespace {
@@ -13,19 +10,15 @@ class MapEditing : public ::testing::Test {
   void SetUp() override {
     pc.openBooks();
     pc.session.dbBasic.Execute(
-        "Insert into Client(Name, Tel, Address, Position, HouseStyle) "
-        "Values('김철수', '053-123-4567', '중앙로 12', 'C:\\RWGAS\\MAP\\old.map', 0)");
+        "Insert into Client(Name, Tel, Address, Position, HouseStyle) Values('김철수', '053-123-4567', "
+        "'중앙로 12', 'C:\\RWGAS\\MAP\\old.map', 0)");
     pc.pc.process.setStarter([this](const QString& program, const QStringList&, const QString&) {
       started << program;
       return true;
     });
     put("C:\\RWGAS\\MapEdit.exe");
   }
-  void put(const QString& written) {
-    const QString file = pc.pc.paths.native(written);
-    QDir().mkpath(QFileInfo(file).path());
-    ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
-  }
+  void put(const QString& written) { tests::writeFile(pc.pc.paths.native(written)); }
   QString setting(const QString& section, const QString& key) {
     return pc.pc.settings.GetSetting("약도", section, key);
   }

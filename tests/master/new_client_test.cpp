@@ -1,5 +1,6 @@
 #include "master/customers/new_client.h"
 
+#include "tests/answers.h"
 #include "tests/support.h"
 
 namespace {
@@ -7,7 +8,9 @@ namespace {
 class QuickEntry : public ::testing::Test {
  protected:
   void SetUp() override { pc.openBooks(); }
-  jet::Recordset only() { return pc.session.dbBasic.OpenRecordset("Select * From Client"); }
+  QString stored(const QString& what) {
+    return tests::rowsOf(pc.session.dbBasic, "Select " + what + " From Client");
+  }
   tests::TestPc pc;
 };
 
@@ -23,32 +26,26 @@ TEST_F(QuickEntry, storesAPlainCustomerCollectedOnAVisit) {
   boxes.memo = "초인종 고장";
   const ClientSaved saved = saveNewClient(pc.session, boxes);
   ASSERT_TRUE(saved.done);
-  const jet::Recordset row = only();
-  EXPECT_EQ(row["Code"].toLong(), saved.code);
-  EXPECT_EQ(row["Tel"].toText(), "053-123-4567");
-  EXPECT_EQ(row["HouseStyle"].toLong(), 0);
-  EXPECT_EQ(row["PayWay"].toLong(), 1);
-  EXPECT_EQ(row["AppDate"].toText(), pc.pc.clock.dateText());
-  EXPECT_FALSE(row["VolumeYesNo"].toBool());
+  EXPECT_EQ(stored("Code, Tel, HouseStyle, PayWay, AppDate, VolumeYesNo"),
+            QString::number(saved.code) + "|053-123-4567|0|1|" + pc.pc.clock.dateText() + "|0");
 }
 
 TEST_F(QuickEntry, asksForWhatAMeterCustomerNeedsAndMakesItsRows) {
-  pc.prompts.expect("성명/상호/전화번호/주소중 한 가지는 입력되어야 합니다!");
-  EXPECT_EQ(saveNewClient(pc.session, {}).focus, ClientBox::Name);
+  const auto refused = [this](const ClientEntry& boxes, const QString& told) {
+    pc.prompts.expect(told);
+    return saveNewClient(pc.session, boxes).focus;
+  };
+  EXPECT_EQ(refused({}, "성명/상호/전화번호/주소중 한 가지는 입력되어야 합니다!"), ClientBox::Name);
   ClientEntry boxes = newClientFrom("국밥집");
   boxes.volume = true;
-  pc.prompts.expect("체적단가를 입력하십시오");
-  EXPECT_EQ(saveNewClient(pc.session, boxes).focus, ClientBox::VolumeUnit);
+  EXPECT_EQ(refused(boxes, "체적단가를 입력하십시오"), ClientBox::VolumeUnit);
   boxes.volumeUnit = "1,500";
-  pc.prompts.expect("압력조정기를 입력하십시오");
-  EXPECT_EQ(saveNewClient(pc.session, boxes).focus, ClientBox::Pressure);
-  EXPECT_TRUE(only().atEnd());
+  EXPECT_EQ(refused(boxes, "압력조정기를 입력하십시오"), ClientBox::Pressure);
+  EXPECT_EQ(stored("Code"), "");
   boxes.pressure = "4";
   EXPECT_TRUE(saveNewClient(pc.session, boxes).done);
-  EXPECT_EQ(only()["VolumeUnit"].toLong(), 1500);
-  EXPECT_EQ(pc.session.dbYear.OpenRecordset("Select Count(*) As N From Evaporation Where ClientCode = 1")["N"]
-                .toLong(),
-            13);
+  EXPECT_EQ(stored("VolumeUnit"), "1500");
+  EXPECT_EQ(tests::rowsOf(pc.session.dbYear, "Select Count(*) From Evaporation Where ClientCode = 1"), "13");
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ struct OtherPc {
     session.DbPath = first.session.DbPath;
     session.WorkYear = first.session.WorkYear;
     session.wsMain = openWorkspace(session, session.DbPath);
-    session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + QStringLiteral("Basic.mdb"));
+    session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
     session.dbYear = session.wsMain.OpenDatabase(yearFile(session, session.WorkYear));
   }
   int run(const QString& sql) { return session.dbBasic.Execute(sql); }

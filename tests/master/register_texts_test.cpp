@@ -8,8 +8,6 @@
 #include "tests/answers.h"
 #include "tests/support.h"
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /** Goes on whatever is asked. */
@@ -30,7 +28,7 @@ class RegisterTexts : public testing::Test {
     session.dbBasic = at.session.dbBasic;
     session.dbYear = at.session.dbYear;
   }
-  QString stored(const QString& table) { return tests::rowsOf(session.dbBasic, u"Select * From "_s + table); }
+  QString stored(const QString& table) { return tests::rowsOf(session.dbBasic, "Select * From " + table); }
   /** Every text box in turn, for a new row and for the first one. */
   void tryTexts(RegisterRules& rules, const QString& table, const RegisterFields& good,
                 const QStringList& texts) {
@@ -39,7 +37,7 @@ class RegisterTexts : public testing::Test {
     ASSERT_TRUE(rules.save(good).done);
     const QString before = stored(table);
     for (const QString& box : texts)
-      for (const QString& text : {u"x' Or '1'='1"_s, u"', '', '', '"_s})
+      for (const QString text : {"x' Or '1'='1", "', '', '', '"})
         for (const bool anew : {true, false}) {
           RegisterFields boxes = good;
           if (anew)
@@ -50,7 +48,7 @@ class RegisterTexts : public testing::Test {
           int failure = 0;
           try {
             EXPECT_FALSE(rules.save(boxes).done) << box.toStdString();
-            EXPECT_TRUE(anew || prompts.last.contains(u"작은따옴표"_s)) << prompts.last.toStdString();
+            EXPECT_TRUE(anew || prompts.last.contains("작은따옴표")) << prompts.last.toStdString();
           } catch (const jet::Error& error) {
             failure = error.number();
           }
@@ -66,31 +64,30 @@ class RegisterTexts : public testing::Test {
 
 TEST_F(RegisterTexts, EveryBoxOfEveryRegisterHoldsItsText) {
   BankRegister banks(session);
-  tryTexts(banks, u"Bank"_s, {{u"BName"_s, u"국민"_s}, {u"BNumber"_s, u"1"_s}, {u"BUser"_s, u"김"_s}},
-           {u"BName"_s, u"BNumber"_s, u"BUser"_s});
+  tryTexts(banks, "Bank", {{"BName", "국민"}, {"BNumber", "1"}, {"BUser", "김"}},
+           {"BName", "BNumber", "BUser"});
   RefillRegister refills(session);
-  tryTexts(refills, u"RefillState"_s, {{u"Company"_s, u"충전소"_s}},
-           {u"Company"_s, u"User"_s, u"BusCode"_s, u"Tel"_s, u"Fax"_s, u"Address"_s, u"PostCode"_s});
+  tryTexts(refills, "RefillState", {{"Company", "충전소"}},
+           {"Company", "User", "BusCode", "Tel", "Fax", "Address", "PostCode"});
   ResponseRegister staff(session);
-  tryTexts(staff, u"Response"_s, {{u"Name"_s, u"김"_s}},
-           {u"Name"_s, u"Tel"_s, u"HP"_s, u"IdentyNo"_s, u"PostCode"_s, u"Address"_s, u"Memo"_s});
+  tryTexts(staff, "Response", {{"Name", "김"}},
+           {"Name", "Tel", "HP", "IdentyNo", "PostCode", "Address", "Memo"});
   GasCatalogue gas(session);
-  tryTexts(gas, u"LPG"_s, {{u"LPGName"_s, u"LPG"_s}, {u"Size"_s, u"20"_s}}, {u"LPGName"_s});
+  tryTexts(gas, "LPG", {{"LPGName", "LPG"}, {"Size", "20"}}, {"LPGName"});
   UtilCatalogue goods(session);
-  tryTexts(goods, u"Util"_s, {{u"Name"_s, u"밸브"_s}, {u"Size"_s, u"15A"_s}},
-           {u"Name"_s, u"Size"_s, u"SizeSize"_s});
+  tryTexts(goods, "Util", {{"Name", "밸브"}, {"Size", "15A"}}, {"Name", "Size", "SizeSize"});
   VolumeRegister regulators(session);
-  tryTexts(regulators, u"Volume"_s, {{u"Size"_s, u"99"_s}, {u"Unit"_s, u"1"_s}}, {u"Size"_s, u"Name"_s});
+  tryTexts(regulators, "Volume", {{"Size", "99"}, {"Unit", "1"}}, {"Size", "Name"});
 }
 
 TEST_F(RegisterTexts, ABankThatAnotherToolNamedSoTakesNoOtherAlong) {
-  session.dbBasic.Execute(u"Insert Into Bank(BName, BNumber) Values('국민', '1')"_s);
-  session.dbBasic.Execute(u"Insert Into Bank(BName, BNumber) Values('x'' Or ''1''=''1', '2')"_s);
+  session.dbBasic.Execute("Insert Into Bank(BName, BNumber) Values('국민', '1')");
+  session.dbBasic.Execute("Insert Into Bank(BName, BNumber) Values('x'' Or ''1''=''1', '2')");
   BankRegister banks(session);
   ASSERT_TRUE(banks.load());
   banks.select(2);
   EXPECT_THROW(banks.remove(), jet::Error);
-  EXPECT_EQ(stored(u"Bank"_s), u"국민|1|;x' Or '1'='1|2|"_s);
+  EXPECT_EQ(stored("Bank"), "국민|1|;x' Or '1'='1|2|");
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "master/customers/tel_format.h"
 
-#include <gtest/gtest.h>
-
 struct TelCase {
   const char* typed;
   const char* text;
