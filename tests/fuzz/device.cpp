@@ -3,8 +3,6 @@
 #include "links/see_id_lines.h"
 #include "tests/fuzz/targets.h"
 
-using namespace Qt::StringLiterals;
-
 namespace fuzz {
 
 void runDevice(const QByteArray& input) {
@@ -17,13 +15,13 @@ void runDevice(const QByteArray& input) {
     return a.state == b.state && a.number == b.number;
   };
   if (!std::equal(whole.begin(), whole.end(), pieces.begin(), pieces.end(), same))
-    broken(input, u"it does not matter how the bytes arrive"_s);
+    broken(input, "it does not matter how the bytes arrive");
   for (const SeeIdEvent& event : whole) {
     const bool digits =
         std::all_of(event.number.begin(), event.number.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     const bool fits =
         event.state == 0 ? event.number.isEmpty() : event.number.size() >= 3 && event.number.size() <= 20;
-    if (!digits || !fits) broken(input, u"a number is digits, from an extension to an international one"_s);
+    if (!digits || !fits) broken(input, "a number is digits, from an extension to an international one");
   }
 }
 

@@ -1,7 +1,5 @@
 // Every committed input and some thousands of its mutations, always the same ones, through each target. A broken promise
 // ends the program; tests/fuzz/run searches on with a fuzzer's own means.
-#include <gtest/gtest.h>
-
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 

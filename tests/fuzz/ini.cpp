@@ -4,13 +4,11 @@
 #include "pc/ini_file.h"
 #include "tests/fuzz/targets.h"
 
-using namespace Qt::StringLiterals;
-
 namespace fuzz {
 
 void runIni(const QByteArray& input) {
   static const QTemporaryDir folder;
-  const QString path = folder.filePath(u"x.ini"_s);
+  const QString path = folder.filePath("x.ini");
   QFile file(path);
   if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return;
   file.write(input);
@@ -23,17 +21,17 @@ void runIni(const QByteArray& input) {
   const qsizetype third = text.size() / 3;
   const QString section = whole(text.left(third)), key = whole(text.mid(third, third));
   pc::IniFile ini(path);
-  const QStringList others = ini.keys(u"other"_s);
+  const QStringList others = ini.keys("other");
   QStringList values;
-  for (const QString& other : others) values << ini.value(u"other"_s, other);
-  if (!ini.setValue(section, key, text)) broken(input, u"the file is written"_s);
+  for (const QString& other : others) values << ini.value("other", other);
+  if (!ini.setValue(section, key, text)) broken(input, "the file is written");
   pc::IniFile again(path);
-  if (again.value(section, key, u"?"_s) != text) broken(input, u"a stored text comes back"_s);
-  if (section.compare(u"other"_s, Qt::CaseInsensitive) == 0) return;
-  if (again.keys(u"other"_s) != others) broken(input, u"the other keys stay"_s);
+  if (again.value(section, key, "?") != text) broken(input, "a stored text comes back");
+  if (section.compare("other", Qt::CaseInsensitive) == 0) return;
+  if (again.keys("other") != others) broken(input, "the other keys stay");
   for (qsizetype i = 0; i < others.size(); ++i)
-    if (again.value(u"other"_s, others.at(i)) != ini.value(u"other"_s, others.at(i)))
-      broken(input, u"the other values stay"_s);
+    if (again.value("other", others.at(i)) != ini.value("other", others.at(i)))
+      broken(input, "the other values stay");
 }
 
 }  // namespace fuzz

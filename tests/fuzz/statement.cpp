@@ -28,28 +28,27 @@ class Books {
   Books() {
     using jet::Type;
     workspace_ =
-        jet::Workspace({.mainFile = path(u"Basic.mdb"_s), .resolvePath = [this](const QString& written) {
+        jet::Workspace({.mainFile = path("Basic.mdb"), .resolvePath = [this](const QString& written) {
                           // Whatever a statement names lies in this folder.
                           return path(written.section(u'\\', -1).section(u'/', -1));
                         }});
-    const jet::Database basic = workspace_.CreateDatabase(u"Basic.mdb"_s);
-    basic.createTable(
-        {u"Client"_s,
-         {field(u"Code"_s, Type::Long, true), field(u"Name"_s, Type::Text), field(u"Tel"_s, Type::Text),
-          field(u"Memo"_s, Type::Memo), field(u"GasInit"_s, Type::Long),
-          field(u"VolumeYesNo"_s, Type::Boolean), field(u"Rate"_s, Type::Double)},
-         {{u"PK"_s, {u"Code"_s}, true, true}, {u"Name"_s, {u"Name"_s}, false, false}},
+    const jet::Database basic = workspace_.CreateDatabase("Basic.mdb");
+    basic.createTable({"Client",
+                       {field("Code", Type::Long, true), field("Name", Type::Text), field("Tel", Type::Text),
+                        field("Memo", Type::Memo), field("GasInit", Type::Long),
+                        field("VolumeYesNo", Type::Boolean), field("Rate", Type::Double)},
+                       {{"PK", {"Code"}, true, true}, {"Name", {"Name"}, false, false}},
+                       {},
+                       {}});
+    db = workspace_.CreateDatabase("2026Foundation.mdb");
+    db.createTable(
+        {"Sale",
+         {field("SaleID", Type::Long, true), field("SaleDate", Type::Text), field("ClientCode", Type::Long),
+          field("SaleNum", Type::Long), field("Trust", Type::Double), field("Gubun", Type::Boolean)},
+         {{"PK", {"SaleID"}, true, true}},
          {},
          {}});
-    db = workspace_.CreateDatabase(u"2026Foundation.mdb"_s);
-    db.createTable({u"Sale"_s,
-                    {field(u"SaleID"_s, Type::Long, true), field(u"SaleDate"_s, Type::Text),
-                     field(u"ClientCode"_s, Type::Long), field(u"SaleNum"_s, Type::Long),
-                     field(u"Trust"_s, Type::Double), field(u"Gubun"_s, Type::Boolean)},
-                    {{u"PK"_s, {u"SaleID"_s}, true, true}},
-                    {},
-                    {}});
-    db.createTable({u"Client"_s, {}, {}, u";DATABASE=Basic.mdb"_s, u"Client"_s});
+    db.createTable({"Client", {}, {}, ";DATABASE=Basic.mdb", "Client"});
     workspace_.Together([&] {
       for (const char* row : {"'홍길동', '053-123-4567', 'a', 100, True, 1.5",
                               "'lpg ', '', Null, -5, False, 0", "'LPG', Null, '', 0, False, 1E300"})
@@ -63,7 +62,7 @@ class Books {
   }
   std::string clients() const {
     std::string all;
-    for (auto rs = db.OpenRecordset(u"Select * From Client Order By Code"_s); !rs.atEnd(); rs.MoveNext())
+    for (auto rs = db.OpenRecordset("Select * From Client Order By Code"); !rs.atEnd(); rs.MoveNext())
       for (int i = 0; i < rs.fieldNames().size(); ++i) all += rs[i].toText().toStdString() + '|';
     return all;
   }
@@ -99,7 +98,7 @@ void compareReadings(const QByteArray& input, const QString& sql) {
   } catch (const jet::Error&) {
     quick.reset();
   }
-  if (quick != whole) broken(input, u"the shape has other literals than the statement"_s);
+  if (quick != whole) broken(input, "the shape has other literals than the statement");
 }
 
 }  // namespace
@@ -124,7 +123,7 @@ void runStatement(const QByteArray& input) {
   }
   const QString sql = QString::fromUtf8(input);
   compareReadings(input, sql);
-  const bool asks = sql.trimmed().startsWith(u"select"_s, Qt::CaseInsensitive);
+  const bool asks = sql.trimmed().startsWith("select", Qt::CaseInsensitive);
   try {
     if (asks) {
       const std::string before = left % 8 == 0 ? books->clients() : std::string();
@@ -132,7 +131,7 @@ void runStatement(const QByteArray& input) {
                sql, left % 2 ? jet::RecordsetType::Dynaset : jet::RecordsetType::Snapshot);
            !rs.atEnd(); rs.MoveNext())
         for (int i = 0; i < rs.fieldNames().size(); ++i) (void)rs[i].toText();
-      if (!before.empty() && before != books->clients()) broken(input, u"a query changes nothing"_s);
+      if (!before.empty() && before != books->clients()) broken(input, "a query changes nothing");
     } else {
       books->db.Execute(sql);
       left = std::min(left, 60);  // the books are others now

@@ -1,8 +1,6 @@
 // What each statement of the dialect becomes, read from tests/jet/cases.txt, and what a compiled statement tells.
 #include "store/jet/compile.h"
 
-#include <gtest/gtest.h>
-
 #include <QFile>
 
 #include "store/jet/shape.h"
@@ -60,52 +58,53 @@ TEST(Compile, Cases) {
 }
 
 TEST(Compile, ColumnsKeepNameTypeAndSource) {
-  EXPECT_EQ(columnsOf(u"Select name, [Code] As c, Memo, VolumeYesNo From client"_s),
-            u"name:10:Client.Name c:4:Client.Code Memo:12:Client.Memo VolumeYesNo:1:Client.VolumeYesNo"_s);
+  EXPECT_EQ(columnsOf("Select name, [Code] As c, Memo, VolumeYesNo From client"),
+            "name:10:Client.Name c:4:Client.Code Memo:12:Client.Memo VolumeYesNo:1:Client.VolumeYesNo");
   // Without AS a calculated column is numbered by its place; an aggregate keeps the type of what it takes.
-  EXPECT_EQ(columnsOf(u"Select Code, Code / 2, Max(Name), Sum(GasInit), Code > 1, Count(*) From Client "
-                      u"Group By Code"_s),
-            u"Code:4:Client.Code Expr1001:7:. Expr1002:10:. Expr1003:4:. Expr1004:1:. Expr1005:4:."_s);
+  EXPECT_EQ(
+      columnsOf(
+          "Select Code, Code / 2, Max(Name), Sum(GasInit), Code > 1, Count(*) From Client Group By Code"),
+      "Code:4:Client.Code Expr1001:7:. Expr1002:10:. Expr1003:4:. Expr1004:1:. Expr1005:4:.");
   // Both tables' columns, in the order the tables are written, a right join included.
   const std::vector<ResultColumn> both =
-      compiled(u"Select * From User Right Join LPG On User.Tel = LPG.Size"_s).columns;
+      compiled("Select * From User Right Join LPG On User.Tel = LPG.Size").columns;
   ASSERT_EQ(both.size(), 11u);
-  EXPECT_EQ(both.front().name, u"Company"_s);
-  EXPECT_EQ(both.back().name, u"CANEmpty"_s);
-  EXPECT_EQ(columnsOf(u"Select t.n From (Select Name As n From Client) As t"_s), u"n:10:."_s);
+  EXPECT_EQ(both.front().name, "Company");
+  EXPECT_EQ(both.back().name, "CANEmpty");
+  EXPECT_EQ(columnsOf("Select t.n From (Select Name As n From Client) As t"), "n:10:.");
 }
 
 TEST(Compile, KeysStandBehindTheColumnsOfPlainRows) {
   const Compiled join = compiled(
-      u"Select Sale.SaleNum From Sale Right Join Client On Sale.ClientCode = Client.Code"_s, Keys::With);
+      "Select Sale.SaleNum From Sale Right Join Client On Sale.ClientCode = Client.Code", Keys::With);
   ASSERT_EQ(join.keys.size(), 2u);
-  EXPECT_EQ(join.keys[0].name, u"Sale"_s);
-  EXPECT_EQ(join.keys[1].schema, u"b"_s);
+  EXPECT_EQ(join.keys[0].name, "Sale");
+  EXPECT_EQ(join.keys[1].schema, "b");
   EXPECT_TRUE(join.sql.startsWith("SELECT \"Sale\".\"SaleNum\", \"Sale\".rowid, \"Client\".rowid FROM"))
       << join.sql.data();
-  const Compiled top = compiled(u"Select Top 2 Name From Client Order By Tel"_s, Keys::With);
+  const Compiled top = compiled("Select Top 2 Name From Client Order By Tel", Keys::With);
   EXPECT_TRUE(top.sql.startsWith("SELECT \"Client\".\"Name\", \"Client\".rowid, \"Client\".\"Tel\""))
       << top.sql.data();
   EXPECT_EQ(top.top, 2);
   EXPECT_EQ(top.ties, std::vector<int>({2})) << "the column behind the key";
-  for (const QString& sql : {u"Select Distinct Name From Client"_s, u"Select Max(Code) From Client"_s,
-                             u"Select Name From Client Union Select Company From User"_s})
+  for (const QString sql : {"Select Distinct Name From Client", "Select Max(Code) From Client",
+                            "Select Name From Client Union Select Company From User"})
     EXPECT_TRUE(compiled(sql, Keys::With).keys.empty()) << sql.toStdString();
   // A query within the statement is asked for no keys.
-  const Compiled inner = compiled(
-      u"Select Name From Client Where Code In (Select Top 1 ClientCode From Sale Order By SaleNum)"_s,
-      Keys::With);
+  const Compiled inner =
+      compiled("Select Name From Client Where Code In (Select Top 1 ClientCode From Sale Order By SaleNum)",
+               Keys::With);
   EXPECT_TRUE(inner.sql.contains("IN (SELECT \"c1\" FROM")) << inner.sql.data();
 }
 
 TEST(Compile, TargetAndDefinition) {
-  const Compiled update = compiled(u"Update client Set Tel = '1'"_s);
+  const Compiled update = compiled("Update client Set Tel = '1'");
   EXPECT_EQ(update.kind, Compiled::Kind::Update);
-  EXPECT_EQ(update.target.schema + u'.' + update.target.name, u"b.Client"_s);
+  EXPECT_EQ(update.target.schema + u'.' + update.target.name, "b.Client");
 
   const Compiled create = compiled(
-      u"Create Table Post (ID Counter Primary Key, Zip Text(60) Not Null, Note Memo, Big Double, Flag YesNo,"
-      u" Constraint ByZip Unique (Zip, Big))"_s);
+      "Create Table Post (ID Counter Primary Key, Zip Text(60) Not Null, Note Memo, Big Double, Flag YesNo, "
+      "Constraint ByZip Unique (Zip, Big))");
   EXPECT_EQ(create.kind, Compiled::Kind::CreateTable);
   EXPECT_TRUE(create.sql.isEmpty());
   const TableDef& table = create.definition;
@@ -116,37 +115,35 @@ TEST(Compile, TargetAndDefinition) {
   EXPECT_EQ(table.fields[4].type, Type::Boolean);
   ASSERT_EQ(table.indexes.size(), 2u);
   EXPECT_TRUE(table.indexes[0].primary);
-  EXPECT_EQ(table.indexes[1].fields, QStringList({u"Zip"_s, u"Big"_s}));
+  EXPECT_EQ(table.indexes[1].fields, QStringList({"Zip", "Big"}));
   EXPECT_FALSE(table.indexes[1].primary);
 
-  const Compiled add = compiled(u"ALTER TABLE client ADD COLUMN HPhone Text(14)"_s);
+  const Compiled add = compiled("ALTER TABLE client ADD COLUMN HPhone Text(14)");
   EXPECT_EQ(add.kind, Compiled::Kind::AddColumn);
   EXPECT_EQ(add.definition.fields.front().size, 14);
-  EXPECT_EQ(compiled(u"Alter Table client Alter Column Tel Text(30)"_s).kind, Compiled::Kind::AlterColumn);
-  EXPECT_EQ(compiled(u"drop table sale"_s).kind, Compiled::Kind::DropTable);
-  const Compiled index = compiled(u"Create Unique Index i On Client (Tel, Name Desc) With Primary"_s);
+  EXPECT_EQ(compiled("Alter Table client Alter Column Tel Text(30)").kind, Compiled::Kind::AlterColumn);
+  EXPECT_EQ(compiled("drop table sale").kind, Compiled::Kind::DropTable);
+  const Compiled index = compiled("Create Unique Index i On Client (Tel, Name Desc) With Primary");
   EXPECT_TRUE(index.definition.indexes.front().primary);
-  EXPECT_EQ(compiled(u"Drop Index i On Client"_s).definition.name, u"Client"_s);
-  EXPECT_EQ(refusalOf(u"Create Table client (a Text)"_s).number(), 3010);
-  EXPECT_EQ(refusalOf(u"drop table Nowhere"_s).number(), 3376);
-  EXPECT_EQ(refusalOf(u"Alter Table Client Add Column tel Text(3)"_s).number(), 3380);
-  EXPECT_EQ(refusalOf(u"Create Table t (a Nonsense)"_s).number(), 3075);
+  EXPECT_EQ(compiled("Drop Index i On Client").definition.name, "Client");
+  EXPECT_EQ(refusalOf("Create Table client (a Text)").number(), 3010);
+  EXPECT_EQ(refusalOf("drop table Nowhere").number(), 3376);
+  EXPECT_EQ(refusalOf("Alter Table Client Add Column tel Text(3)").number(), 3380);
+  EXPECT_EQ(refusalOf("Create Table t (a Nonsense)").number(), 3075);
 }
 
 TEST(Compile, ErrorsTellThePlace) {
+  EXPECT_TRUE(refusalOf("Select Name From Client Where Name = 'O'Brien'").description().contains("46번째"));
   EXPECT_TRUE(
-      refusalOf(u"Select Name From Client Where Name = 'O'Brien'"_s).description().contains(u"46번째"_s));
-  EXPECT_TRUE(refusalOf(u"Select Name From Client Orderly By Name"_s)
-                  .description()
-                  .contains(u"33번째 글자 'By Name'"_s));
-  EXPECT_TRUE(refusalOf(u"Select Name From"_s).description().contains(u"문장의 끝"_s));
-  EXPECT_TRUE(refusalOf(u"Select Nope From Client"_s).description().contains(u"Nope"_s));
+      refusalOf("Select Name From Client Orderly By Name").description().contains("33번째 글자 'By Name'"));
+  EXPECT_TRUE(refusalOf("Select Name From").description().contains("문장의 끝"));
+  EXPECT_TRUE(refusalOf("Select Nope From Client").description().contains("Nope"));
 }
 
 TEST(Compile, TooComplexIsRefusedNotACrash) {
-  EXPECT_EQ(refusalOf(u"Select "_s + QString(10000, u'(')).number(), 3360);
+  EXPECT_EQ(refusalOf("Select " + QString(10000, u'(')).number(), 3360);
   EXPECT_EQ(refusalOf(u"Select "_s + u"- "_s.repeated(10000) + u'1').number(), 3360);
-  EXPECT_EQ(refusalOf(u"Select 1 From "_s + QString(10000, u'(')).number(), 3360);
+  EXPECT_EQ(refusalOf("Select 1 From " + QString(10000, u'(')).number(), 3360);
   EXPECT_EQ(
       refusalOf(u"Select Code From Client Where Code = 1"_s + u" Or Code = 1"_s.repeated(10000)).number(),
       3360);
@@ -180,7 +177,7 @@ TEST(Shape, NumbersThatDecideTheFormStayInTheKey) {
   EXPECT_EQ(shapeOf(u"Select a From (Select b From c Order By 1) As t Where a = 1").key(),
             shapeOf(u"Select a From (Select b From c Order By 1) As t Where a = 2").key());
   // The parameters of the text count the same literals.
-  const QString sql = u"Select Top 2 Code From Client Where Code > 7 Order By Code + 1, 1"_s;
+  const QString sql = "Select Top 2 Code From Client Where Code > 7 Order By Code + 1, 1";
   ASSERT_EQ(shapeOf(sql).literals.size(), 1);
   EXPECT_TRUE(compiled(sql).sql.contains("(\"Client\".\"Code\" > ?1)"));
   EXPECT_FALSE(compiled(sql).sql.contains("?2"));

@@ -40,6 +40,16 @@ inline std::string rows(const jet::Database& db, const QString& sql) {
   return tests::linesOf(db, sql, u"-"_s).join(u' ').toStdString();
 }
 
+/** Number of the error that a statement ends with, 0 when it runs. */
+inline int refusal(const jet::Database& db, const QString& sql) {
+  return failureOf([&] {
+    if (sql.startsWith("select", Qt::CaseInsensitive))
+      rows(db, sql);
+    else
+      db.Execute(sql);
+  });
+}
+
 /** Basic.mdb with customers and a year file that is linked to it. */
 class Engine : public testing::Test {
  protected:
@@ -59,6 +69,11 @@ class Engine : public testing::Test {
     year.createTable(table(u"Sale"_s, {counter(u"SaleID"_s), text(u"SaleDate"_s), number(u"ClientCode"_s),
                                        number(u"SaleNum"_s)}));
     year.createTable(link(u"Client"_s, path(u"Basic.mdb"_s)));
+  }
+
+  void closeFiles() {
+    basic.Close();
+    year.Close();
   }
 
   QTemporaryDir folder;

@@ -2,12 +2,10 @@
 #include <sqlite3.h>
 #include <unistd.h>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <thread>
 
+#include "tests/files.h"
 #include "tests/jet/engine_fixture.h"
 
 namespace jet_tests {
@@ -15,11 +13,7 @@ namespace {
 
 class Files : public Engine {
  protected:
-  void write(const QString& name, const QByteArray& bytes) const {
-    QFile file(path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-  }
+  void write(const QString& name, const QByteArray& bytes) const { tests::writeFile(path(name), bytes); }
   void addClients(int count) const {
     workspace.Together([&] {
       for (int i = 0; i < count; ++i) basic.Execute(u"Insert Into Client(Name) Values('n%1')"_s.arg(i));
@@ -28,96 +22,91 @@ class Files : public Engine {
 };
 
 TEST_F(Files, WhatIsNoDataFileIsTold) {
-  write(u"garbage.mdb"_s, QByteArray(5000, 'x'));
-  write(u"empty.mdb"_s, {});
+  write("garbage.mdb", QByteArray(5000, 'x'));
+  write("empty.mdb", {});
   sqlite3* foreign = nullptr;
-  ASSERT_EQ(sqlite3_open(path(u"foreign.mdb"_s).toUtf8().constData(), &foreign), SQLITE_OK);
+  ASSERT_EQ(sqlite3_open(path("foreign.mdb").toUtf8().constData(), &foreign), SQLITE_OK);
   sqlite3_exec(foreign, "CREATE TABLE t(x)", nullptr, nullptr, nullptr);
   sqlite3_close(foreign);
   const auto opening = [&](const QString& file) { return failureOf([&] { workspace.OpenDatabase(file); }); };
-  EXPECT_EQ(opening(path(u"garbage.mdb"_s)), 3343);
-  EXPECT_EQ(opening(path(u"empty.mdb"_s)), 3343);
-  EXPECT_EQ(opening(path(u"foreign.mdb"_s)), 3343);
-  EXPECT_EQ(opening(path(u"missing.mdb"_s)), 3024);
-  EXPECT_EQ(opening(path(u"nowhere/missing.mdb"_s)), 3044);
+  EXPECT_EQ(opening(path("garbage.mdb")), 3343);
+  EXPECT_EQ(opening(path("empty.mdb")), 3343);
+  EXPECT_EQ(opening(path("foreign.mdb")), 3343);
+  EXPECT_EQ(opening(path("missing.mdb")), 3024);
+  EXPECT_EQ(opening(path("nowhere/missing.mdb")), 3044);
   EXPECT_EQ(opening(folder.path()), 3044);
-  EXPECT_EQ(opening(u" "_s), 3044);
-  EXPECT_FALSE(QFile::exists(path(u"missing.mdb"_s)));
-  EXPECT_EQ(failureOf([&] { workspace.CreateDatabase(path(u"Basic.mdb"_s)); }), 3204);
-  EXPECT_EQ(rows(year, u"Select Count(*) From Client"_s), "0");  // the open ones go on
+  EXPECT_EQ(opening(" "), 3044);
+  EXPECT_FALSE(QFile::exists(path("missing.mdb")));
+  EXPECT_EQ(failureOf([&] { workspace.CreateDatabase(path("Basic.mdb")); }), 3204);
+  EXPECT_EQ(rows(year, "Select Count(*) From Client"), "0");  // the open ones go on
 }
 
 TEST_F(Files, ABrokenMainFileDoesNotKeepTheOthersFromOpening) {
-  basic.Close();
-  year.Close();
-  write(u"Basic.mdb"_s, QByteArray(5000, 'x'));
-  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
-  EXPECT_EQ(rows(year, u"Select Count(*) From Sale"_s), "0");
-  EXPECT_EQ(failureOf([&] { rows(year, u"Select * From Client"_s); }), 3343);
-  EXPECT_EQ(failureOf([&] { workspace.OpenDatabase(path(u"Basic.mdb"_s)); }), 3343);
+  closeFiles();
+  write("Basic.mdb", QByteArray(5000, 'x'));
+  year = workspace.OpenDatabase(path("2026Foundation.mdb"));
+  EXPECT_EQ(rows(year, "Select Count(*) From Sale"), "0");
+  EXPECT_EQ(refusal(year, "Select * From Client"), 3343);
+  EXPECT_EQ(failureOf([&] { workspace.OpenDatabase(path("Basic.mdb")); }), 3343);
 }
 
 TEST_F(Files, AMainFileMadeLaterTakesItsPlace) {
-  basic.Close();
+  closeFiles();
+  ASSERT_TRUE(QFile::remove(path("Basic.mdb")));
+  year = workspace.OpenDatabase(path("2026Foundation.mdb"));
+  basic = workspace.CreateDatabase(path("Basic.mdb"));
+  basic.createTable(table("Client", {counter("Code"), text("Name")}));
+  year.Execute("Insert Into Sale(SaleNum) Values(1)");
+  year.Execute("Insert Into Client(Name) Values('a')");
+  EXPECT_EQ(rows(basic, "Select Name From Client"), "a");
   year.Close();
-  ASSERT_TRUE(QFile::remove(path(u"Basic.mdb"_s)));
-  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
-  basic = workspace.CreateDatabase(path(u"Basic.mdb"_s));
-  basic.createTable(table(u"Client"_s, {counter(u"Code"_s), text(u"Name"_s)}));
-  year.Execute(u"Insert Into Sale(SaleNum) Values(1)"_s);
-  year.Execute(u"Insert Into Client(Name) Values('a')"_s);
-  EXPECT_EQ(rows(basic, u"Select Name From Client"_s), "a");
-  year.Close();
-  EXPECT_EQ(rows(basic, u"Select Name From Client"_s), "a");
+  EXPECT_EQ(rows(basic, "Select Name From Client"), "a");
 }
 
 TEST_F(Files, ATornFileIsTold) {
   addClients(2000);
-  basic.Close();
-  year.Close();
-  QFile file(path(u"Basic.mdb"_s));
-  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-  ASSERT_TRUE(file.resize(file.size() / 2 / 4096 * 4096));
-  file.close();
-  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
-  EXPECT_EQ(failureOf([&] { rows(year, u"Select Name From Client Order By Rate"_s); }), 3049);
-  EXPECT_EQ(rows(year, u"Select Count(*) From Sale"_s), "0");
+  closeFiles();
+  const QByteArray whole = tests::bytesOf(path("Basic.mdb"));
+  write("Basic.mdb", whole.first(whole.size() / 2 / 4096 * 4096));
+  year = workspace.OpenDatabase(path("2026Foundation.mdb"));
+  EXPECT_EQ(refusal(year, "Select Name From Client Order By Rate"), 3049);
+  EXPECT_EQ(rows(year, "Select Count(*) From Sale"), "0");
 }
 
 TEST_F(Files, LinksLeadToTheOtherFileForReadingAndWriting) {
-  basic.Execute(u"Insert Into Client(Name) Values('김씨')"_s);
-  year.Execute(u"Insert Into Sale(SaleDate, ClientCode, SaleNum) Values('2026-01-02', 1, 3)"_s);
+  basic.Execute("Insert Into Client(Name) Values('김씨')");
+  year.Execute("Insert Into Sale(SaleDate, ClientCode, SaleNum) Values('2026-01-02', 1, 3)");
   EXPECT_EQ(
       rows(year,
-           u"Select Client.Name, Sale.SaleNum From Sale Left Join Client On Sale.ClientCode = Client.Code"_s),
+           "Select Client.Name, Sale.SaleNum From Sale Left Join Client On Sale.ClientCode = Client.Code"),
       "김씨|3");
-  year.Execute(u"Update Client Set GasInit = GasInit + 500 Where Code = 1"_s);
-  EXPECT_EQ(rows(basic, u"Select GasInit From Client"_s), "500");
-  EXPECT_TRUE(year.tableDef(u"CLIENT"_s).isLink());
-  year.deleteTable(u"Client"_s);
-  EXPECT_EQ(failureOf([&] { rows(year, u"Select * From Client"_s); }), 3078);
-  EXPECT_EQ(rows(basic, u"Select Count(*) From Client"_s), "1");
-  year.createTable(link(u"Client"_s, path(u"Basic.mdb"_s)));
-  EXPECT_EQ(rows(year, u"Select Name From Client"_s), "김씨");
+  year.Execute("Update Client Set GasInit = GasInit + 500 Where Code = 1");
+  EXPECT_EQ(rows(basic, "Select GasInit From Client"), "500");
+  EXPECT_TRUE(year.tableDef("CLIENT").isLink());
+  year.deleteTable("Client");
+  EXPECT_EQ(refusal(year, "Select * From Client"), 3078);
+  EXPECT_EQ(rows(basic, "Select Count(*) From Client"), "1");
+  year.createTable(link("Client", path("Basic.mdb")));
+  EXPECT_EQ(rows(year, "Select Name From Client"), "김씨");
 }
 
 TEST_F(Files, ALinkFailsWhenItIsUsedNotWhenItsFileIsOpened) {
-  year.createTable(link(u"Lost"_s, path(u"lost.mdb"_s)));
-  year.createTable(link(u"NoTable"_s, path(u"Basic.mdb"_s), u"Nothing"_s));
-  year.createTable(link(u"Ring"_s, path(u"2026Foundation.mdb"_s), u"Ring"_s));
+  year.createTable(link("Lost", path("lost.mdb")));
+  year.createTable(link("NoTable", path("Basic.mdb"), "Nothing"));
+  year.createTable(link("Ring", path("2026Foundation.mdb"), "Ring"));
   year.Close();
-  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
-  EXPECT_EQ(failureOf([&] { rows(year, u"Select * From Lost"_s); }), 3024);
-  EXPECT_EQ(failureOf([&] { rows(year, u"Select * From NoTable"_s); }), 3011);
-  EXPECT_EQ(failureOf([&] { rows(year, u"Select * From Ring"_s); }), 3151);
-  EXPECT_EQ(failureOf([&] { year.appendField(u"Client"_s, text(u"More"_s)); }), 3057);
+  year = workspace.OpenDatabase(path("2026Foundation.mdb"));
+  EXPECT_EQ(refusal(year, "Select * From Lost"), 3024);
+  EXPECT_EQ(refusal(year, "Select * From NoTable"), 3011);
+  EXPECT_EQ(refusal(year, "Select * From Ring"), 3151);
+  EXPECT_EQ(failureOf([&] { year.appendField("Client", text("More")); }), 3057);
 }
 
 TEST_F(Files, APathInAStatementReachesAFileThatIsNotOpen) {
-  basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-  year.Execute(u"Insert Into Sale(ClientCode) Values(1)"_s);
-  year.Execute(u"Insert Into Sale(ClientCode) Values(7)"_s);
-  year.deleteTable(u"Client"_s);
+  basic.Execute("Insert Into Client(Name) Values('a')");
+  year.Execute("Insert Into Sale(ClientCode) Values(1)");
+  year.Execute("Insert Into Sale(ClientCode) Values(7)");
+  year.deleteTable("Client");
   basic.Close();
   const QString orphans =
       u"Select sale.clientcode From sale Left Join [%1].client on sale.clientcode = client.code where client.code is null"_s
@@ -127,41 +116,41 @@ TEST_F(Files, APathInAStatementReachesAFileThatIsNotOpen) {
 }
 
 TEST_F(Files, AClosedFileIsLetGoAndANewOneInItsPlaceIsSeen) {
-  basic.Execute(u"Insert Into Client(Name) Values('old')"_s);
-  auto other = workspace.CreateDatabase(path(u"other.mdb"_s));
-  other.createTable(basic.tableDef(u"Client"_s));
-  other.Execute(u"Insert Into Client(Name) Values('new')"_s);
+  basic.Execute("Insert Into Client(Name) Values('old')");
+  auto other = workspace.CreateDatabase(path("other.mdb"));
+  other.createTable(basic.tableDef("Client"));
+  other.Execute("Insert Into Client(Name) Values('new')");
   other.Close();
-  EXPECT_EQ(rows(year, u"Select Name From Client"_s), "old");
+  EXPECT_EQ(rows(year, "Select Name From Client"), "old");
   basic.Close();
   // The year file's link has kept Basic.mdb attached all the while.
-  ASSERT_TRUE(QFile::remove(path(u"Basic.mdb"_s)));
-  ASSERT_TRUE(QFile::copy(path(u"other.mdb"_s), path(u"Basic.mdb"_s)));
-  basic = workspace.OpenDatabase(path(u"Basic.mdb"_s));
-  EXPECT_EQ(rows(basic, u"Select Name From Client"_s), "new");
-  EXPECT_EQ(rows(year, u"Select Name From Client"_s), "new");
+  ASSERT_TRUE(QFile::remove(path("Basic.mdb")));
+  ASSERT_TRUE(QFile::copy(path("other.mdb"), path("Basic.mdb")));
+  basic = workspace.OpenDatabase(path("Basic.mdb"));
+  EXPECT_EQ(rows(basic, "Select Name From Client"), "new");
+  EXPECT_EQ(rows(year, "Select Name From Client"), "new");
 }
 
 TEST_F(Files, AnOpenFileThatWasDeletedFailsAndTheOthersGoOn) {
-  auto other = workspace.CreateDatabase(path(u"other.mdb"_s));
-  ASSERT_TRUE(QFile::remove(path(u"other.mdb"_s)));
-  EXPECT_EQ(failureOf([&] { workspace.OpenDatabase(path(u"other.mdb"_s)); }), 3024);
-  EXPECT_EQ(failureOf([&] { rows(other, u"Select * From Nothing"_s); }), 3024);
-  EXPECT_EQ(rows(year, u"Select Count(*) From Client"_s), "0");
+  auto other = workspace.CreateDatabase(path("other.mdb"));
+  ASSERT_TRUE(QFile::remove(path("other.mdb")));
+  EXPECT_EQ(failureOf([&] { workspace.OpenDatabase(path("other.mdb")); }), 3024);
+  EXPECT_EQ(refusal(other, "Select * From Nothing"), 3024);
+  EXPECT_EQ(rows(year, "Select Count(*) From Client"), "0");
 }
 
 TEST_F(Files, ElevenFilesAreTheLimitAndItIsTold) {
   std::vector<jet::Database> open;
   for (int i = 0; i < 9; ++i) open.push_back(workspace.CreateDatabase(path(u"f%1.mdb"_s.arg(i))));
-  EXPECT_EQ(failureOf([&] { workspace.CreateDatabase(path(u"last.mdb"_s)); }), 3048);
+  EXPECT_EQ(failureOf([&] { workspace.CreateDatabase(path("last.mdb")); }), 3048);
   open.pop_back();
-  EXPECT_EQ(failureOf([&] { open.push_back(workspace.OpenDatabase(path(u"last.mdb"_s))); }), 0);
-  EXPECT_EQ(rows(year, u"Select Count(*) From Client"_s), "0");
+  EXPECT_EQ(failureOf([&] { open.push_back(workspace.OpenDatabase(path("last.mdb"))); }), 0);
+  EXPECT_EQ(rows(year, "Select Count(*) From Client"), "0");
 }
 
 /** Whether this process has the file open. */
 bool hasOpen(const QString& path) {
-  const QFileInfoList open = QDir(u"/proc/self/fd"_s).entryInfoList(QDir::Files | QDir::System);
+  const QFileInfoList open = QDir("/proc/self/fd").entryInfoList(QDir::Files | QDir::System);
   return std::ranges::any_of(open, [&](const QFileInfo& one) { return one.symLinkTarget() == path; });
 }
 
@@ -171,9 +160,9 @@ TEST_F(Files, KeptFilesStayUntilTheEndOrUntilTheirPlaceIsNeeded) {
     for (int i = 0; i < 14; ++i) workspace.CreateDatabase(file(i));
     EXPECT_TRUE(hasOpen(file(0)) && hasOpen(file(13)));
     EXPECT_FALSE(hasOpen(file(12))) << "the last used made room";
-    ASSERT_TRUE(QFile::remove(file(13)) && QFile::copy(path(u"Basic.mdb"_s), file(13)));
-    EXPECT_EQ(rows(workspace.OpenDatabase(file(13)), u"Select Count(*) From Client"_s),
-              rows(year, u"Select Count(*) From Client"_s))
+    ASSERT_TRUE(QFile::remove(file(13)) && QFile::copy(path("Basic.mdb"), file(13)));
+    EXPECT_EQ(rows(workspace.OpenDatabase(file(13)), "Select Count(*) From Client"),
+              rows(year, "Select Count(*) From Client"))
         << "replaced on the disk, read anew";
     workspace.KeepingFiles([] {});
     EXPECT_TRUE(hasOpen(file(13)));
@@ -182,7 +171,7 @@ TEST_F(Files, KeptFilesStayUntilTheEndOrUntilTheirPlaceIsNeeded) {
   EXPECT_EQ(failureOf([&] {
               workspace.KeepingFiles([&] {
                 workspace.OpenDatabase(file(13));
-                workspace.OpenDatabase(path(u"none.mdb"_s));
+                workspace.OpenDatabase(path("none.mdb"));
               });
             }),
             3024);
@@ -191,35 +180,32 @@ TEST_F(Files, KeptFilesStayUntilTheEndOrUntilTheirPlaceIsNeeded) {
 
 TEST_F(Files, AnUnsetHandleAnswersWith91) {
   const jet::Database none;
-  EXPECT_EQ(failureOf([&] { none.Execute(u"Delete From Sale"_s); }), 91);
-  EXPECT_EQ(failureOf([&] { none.OpenRecordset(u"Select 1"_s); }), 91);
+  EXPECT_EQ(refusal(none, "Delete From Sale"), 91);
+  EXPECT_EQ(failureOf([&] { none.OpenRecordset("Select 1"); }), 91);
   EXPECT_EQ(failureOf([&] { (void)none.TableDefs(); }), 91);
-  EXPECT_EQ(failureOf([&] { jet::Workspace().OpenDatabase(path(u"Basic.mdb"_s)); }), 91);
+  EXPECT_EQ(failureOf([&] { jet::Workspace().OpenDatabase(path("Basic.mdb")); }), 91);
   jet::Recordset rs;
   EXPECT_EQ(failureOf([&] { rs.MoveNext(); }), 91);
 }
 
 TEST_F(Files, AReadOnlyFolderRefusesWritesAndAllowsReading) {
-  basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-  basic.Close();
-  year.Close();
+  basic.Execute("Insert Into Client(Name) Values('a')");
+  closeFiles();
   const auto all = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
   const auto enter = QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
-  ASSERT_TRUE(QFile::setPermissions(path(u"Basic.mdb"_s), all));
+  ASSERT_TRUE(QFile::setPermissions(path("Basic.mdb"), all));
   ASSERT_TRUE(QFile::setPermissions(folder.path(), all | enter));
   const bool root = geteuid() == 0;  // whom no permission binds
   ASSERT_EQ(root ? seteuid(65534) : 0, 0);
   const jet::Workspace reader = open();
-  auto readOnly = reader.OpenDatabase(path(u"Basic.mdb"_s));
-  EXPECT_EQ(rows(readOnly, u"Select Name From Client"_s), "a");
-  EXPECT_EQ(failureOf([&] { readOnly.Execute(u"Update Client Set Name = 'b'"_s); }), 3027);
-  EXPECT_EQ(failureOf([&] {
-              reader.Together(
-                  [&] { EXPECT_EQ(failureOf([&] { readOnly.Execute(u"Delete From Client"_s); }), 3027); });
-            }),
-            3027);
-  EXPECT_EQ(failureOf([&] { reader.CreateDatabase(path(u"new.mdb"_s)); }), 3051);
-  EXPECT_EQ(rows(readOnly, u"Select Name From Client"_s), "a");
+  auto readOnly = reader.OpenDatabase(path("Basic.mdb"));
+  EXPECT_EQ(rows(readOnly, "Select Name From Client"), "a");
+  EXPECT_EQ(refusal(readOnly, "Update Client Set Name = 'b'"), 3027);
+  EXPECT_EQ(
+      failureOf([&] { reader.Together([&] { EXPECT_EQ(refusal(readOnly, "Delete From Client"), 3027); }); }),
+      3027);
+  EXPECT_EQ(failureOf([&] { reader.CreateDatabase(path("new.mdb")); }), 3051);
+  EXPECT_EQ(rows(readOnly, "Select Name From Client"), "a");
   ASSERT_EQ(root ? seteuid(0) : 0, 0);
   QFile::setPermissions(folder.path(), all | enter | QFile::WriteOwner);
 }
@@ -231,83 +217,83 @@ class TwoPcs : public Engine {
   void SetUp() override {
     Engine::SetUp();
     otherPc = open();
-    otherBasic = otherPc.OpenDatabase(path(u"Basic.mdb"_s));
-    otherYear = otherPc.OpenDatabase(path(u"2026Foundation.mdb"_s));
+    otherBasic = otherPc.OpenDatabase(path("Basic.mdb"));
+    otherYear = otherPc.OpenDatabase(path("2026Foundation.mdb"));
   }
   jet::Workspace otherPc;
   jet::Database otherBasic, otherYear;
 };
 
 TEST_F(TwoPcs, AnOpenRecordsetHoldsNoLock) {
-  basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-  const auto open = basic.OpenRecordset(u"Select * From Client"_s, jet::RecordsetType::Dynaset);
-  EXPECT_EQ(otherYear.Execute(u"Update Client Set Name = 'b'"_s), 1);
-  EXPECT_EQ(open[u"Name"_s].toText(), u"a"_s);
+  basic.Execute("Insert Into Client(Name) Values('a')");
+  const auto open = basic.OpenRecordset("Select * From Client", jet::RecordsetType::Dynaset);
+  EXPECT_EQ(otherYear.Execute("Update Client Set Name = 'b'"), 1);
+  EXPECT_EQ(open["Name"].toText(), "a");
 }
 
 TEST_F(TwoPcs, AGroupKeepsOthersFromWritingThoseFilesAndNoOthers) {
   int other = 0, elsewhere = 0;
   std::string seen;
   workspace.Together([&] {
-    basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-    other = failureOf([&] { otherBasic.Execute(u"Insert Into Client(Name) Values('b')"_s); });
-    elsewhere = failureOf([&] { otherYear.Execute(u"Insert Into Sale(SaleNum) Values(1)"_s); });
-    seen = rows(otherYear, u"Select Count(*) From Client"_s);
+    basic.Execute("Insert Into Client(Name) Values('a')");
+    other = refusal(otherBasic, "Insert Into Client(Name) Values('b')");
+    elsewhere = refusal(otherYear, "Insert Into Sale(SaleNum) Values(1)");
+    seen = rows(otherYear, "Select Count(*) From Client");
   });
   EXPECT_EQ(other, 3261);
   EXPECT_EQ(elsewhere, 0);
   EXPECT_EQ(seen, "0");
-  EXPECT_EQ(otherBasic.Execute(u"Insert Into Client(Name) Values('b')"_s), 1);
-  EXPECT_EQ(rows(basic, u"Select Name From Client Order By Code"_s), "a b");
+  EXPECT_EQ(otherBasic.Execute("Insert Into Client(Name) Values('b')"), 1);
+  EXPECT_EQ(rows(basic, "Select Name From Client Order By Code"), "a b");
 }
 
 TEST_F(TwoPcs, ReadingAndThenWritingInGroupsNeverFailsNorLosesACount) {
-  basic.Execute(u"Insert Into Client(Name, GasInit) Values('a', 0)"_s);
+  basic.Execute("Insert Into Client(Name, GasInit) Values('a', 0)");
   const auto count = [this] {
     const jet::Workspace own = open(20000);
-    const auto db = own.OpenDatabase(path(u"2026Foundation.mdb"_s));
+    const auto db = own.OpenDatabase(path("2026Foundation.mdb"));
     for (int i = 0; i < 15; ++i) {
       own.Together([&] {
-        const int now = int(db.OpenRecordset(u"Select GasInit From Client"_s)[0].toLong());
+        const int now = int(db.OpenRecordset("Select GasInit From Client")[0].toLong());
         db.Execute(u"Update Client Set GasInit = %1"_s.arg(now + 1));
-        db.Execute(u"Insert Into Sale(SaleNum) Values(1)"_s);
+        db.Execute("Insert Into Sale(SaleNum) Values(1)");
       });
     }
   };
   std::thread one(count), two(count);
   one.join();
   two.join();
-  EXPECT_EQ(rows(basic, u"Select GasInit From Client"_s), "30");
-  EXPECT_EQ(rows(year, u"Select Count(*) From Sale"_s), "30");
+  EXPECT_EQ(rows(basic, "Select GasInit From Client"), "30");
+  EXPECT_EQ(rows(year, "Select Count(*) From Sale"), "30");
 }
 
 TEST_F(TwoPcs, AnExclusiveOpeningShutsTheOthersOut) {
   otherBasic.Close();
   otherYear.Close();
-  auto alone = workspace.OpenDatabase(path(u"Basic.mdb"_s), true);
-  EXPECT_EQ(failureOf([&] { otherPc.OpenDatabase(path(u"Basic.mdb"_s)); }), 3356);
+  auto alone = workspace.OpenDatabase(path("Basic.mdb"), true);
+  EXPECT_EQ(failureOf([&] { otherPc.OpenDatabase(path("Basic.mdb")); }), 3356);
   alone.Close();
-  EXPECT_EQ(failureOf([&] { otherBasic = otherPc.OpenDatabase(path(u"Basic.mdb"_s)); }), 0);
+  EXPECT_EQ(failureOf([&] { otherBasic = otherPc.OpenDatabase(path("Basic.mdb")); }), 0);
   int exclusive = 0;
   workspace.Together([&] {
-    basic.Execute(u"Insert Into Client(Name) Values('a')"_s);
-    exclusive = failureOf([&] { otherPc.OpenDatabase(path(u"Basic.mdb"_s), true); });
+    basic.Execute("Insert Into Client(Name) Values('a')");
+    exclusive = failureOf([&] { otherPc.OpenDatabase(path("Basic.mdb"), true); });
   });
   EXPECT_EQ(exclusive, 3045);
 }
 
 TEST_F(TwoPcs, ChangesOfTablesAndLinksAreSeen) {
-  EXPECT_EQ(rows(year, u"Select Count(*) From Sale"_s), "0");
-  otherYear.appendField(u"Sale"_s, number(u"DealList"_s));
-  otherYear.Execute(u"Insert Into Sale(DealList) Values(2)"_s);
-  EXPECT_EQ(rows(year, u"Select DealList From Sale"_s), "2");
-  otherYear.deleteTable(u"Client"_s);
-  otherYear.createTable(link(u"Customer"_s, path(u"Basic.mdb"_s), u"Client"_s));
-  EXPECT_TRUE(year.hasTable(u"customer"_s));
-  EXPECT_FALSE(year.hasTable(u"Client"_s));
-  EXPECT_EQ(rows(year, u"Select Count(*) From Customer"_s), "0");
-  otherBasic.appendField(u"Client"_s, text(u"Tel1"_s));
-  EXPECT_EQ(rows(year, u"Select Tel1 From Customer"_s), "");
+  EXPECT_EQ(rows(year, "Select Count(*) From Sale"), "0");
+  otherYear.appendField("Sale", number("DealList"));
+  otherYear.Execute("Insert Into Sale(DealList) Values(2)");
+  EXPECT_EQ(rows(year, "Select DealList From Sale"), "2");
+  otherYear.deleteTable("Client");
+  otherYear.createTable(link("Customer", path("Basic.mdb"), "Client"));
+  EXPECT_TRUE(year.hasTable("customer"));
+  EXPECT_FALSE(year.hasTable("Client"));
+  EXPECT_EQ(rows(year, "Select Count(*) From Customer"), "0");
+  otherBasic.appendField("Client", text("Tel1"));
+  EXPECT_EQ(rows(year, "Select Tel1 From Customer"), "");
 }
 
 }  // namespace

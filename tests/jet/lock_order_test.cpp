@@ -29,17 +29,16 @@ bool waitsForALock(const std::atomic<pid_t>& thread, const std::atomic<bool>& do
 struct LockOrder : Engine {
   void SetUp() override {
     Engine::SetUp();
-    basic.Execute(u"Insert Into Client(Name, GasInit) Values('a', 0)"_s);
-    year.Execute(u"Insert Into Sale(ClientCode, SaleNum) Values(1, 0)"_s);
-    basic.Close();
-    year.Close();
+    basic.Execute("Insert Into Client(Name, GasInit) Values('a', 0)");
+    year.Execute("Insert Into Sale(ClientCode, SaleNum) Values(1, 0)");
+    closeFiles();
   }
 
   /** One PC's group over both files, during which another PC begins a statement. */
   void statementAgainstGroup(const QString& sql) const {
     const jet::Workspace one = open(patience), two = open(patience);
-    const auto mine = one.OpenDatabase(path(u"2026Foundation.mdb"_s));
-    const auto theirs = two.OpenDatabase(path(u"2026Foundation.mdb"_s));
+    const auto mine = one.OpenDatabase(path("2026Foundation.mdb"));
+    const auto theirs = two.OpenDatabase(path("2026Foundation.mdb"));
     theirs.Execute(sql);  // so that later only the locks are waited for
     int failure = 0, otherFailure = 0;
     std::thread other;
@@ -48,8 +47,8 @@ struct LockOrder : Engine {
     QElapsedTimer since;
     failure = failureOf([&] {
       one.Together([&] {
-        mine.Execute(u"Update Client Set GasInit = GasInit + 1"_s);
-        mine.Execute(u"Update Sale Set SaleNum = SaleNum + 1"_s);
+        mine.Execute("Update Client Set GasInit = GasInit + 1");
+        mine.Execute("Update Sale Set SaleNum = SaleNum + 1");
         other = std::thread([&] {
           thread = gettid();
           otherFailure = failureOf([&] { theirs.Execute(sql); });
@@ -68,38 +67,38 @@ struct LockOrder : Engine {
 
 TEST_F(LockOrder, AStatementOverTwoFilesDoesNotWaitForAGroupThatWaitsForIt) {
   // Reads Basic.mdb and writes the year file; the other way round; reads both of one file.
-  statementAgainstGroup(u"Update Sale Set SaleDate = 'x' Where ClientCode In (Select Code From Client)"_s);
-  statementAgainstGroup(u"Update Client Set Ho = 'x' Where Code In (Select ClientCode From Sale)"_s);
-  statementAgainstGroup(u"Delete From Sale Where ClientCode In (Select Code From Client Where Name = 'z')"_s);
+  statementAgainstGroup("Update Sale Set SaleDate = 'x' Where ClientCode In (Select Code From Client)");
+  statementAgainstGroup("Update Client Set Ho = 'x' Where Code In (Select ClientCode From Sale)");
+  statementAgainstGroup("Delete From Sale Where ClientCode In (Select Code From Client Where Name = 'z')");
 }
 
 TEST_F(LockOrder, FilesOpenedInAnotherOrderAreReadWithoutADeadlock) {
-  const auto tax = open().CreateDatabase(path(u"dbTax.mdb"_s));
-  tax.createTable(table(u"Tax"_s, {number(u"Code"_s), number(u"Sum"_s)}));
-  tax.Execute(u"Insert Into Tax Values(1, 0)"_s);
+  const auto tax = open().CreateDatabase(path("dbTax.mdb"));
+  tax.createTable(table("Tax", {number("Code"), number("Sum")}));
+  tax.Execute("Insert Into Tax Values(1, 0)");
   // Together or not at all: the two figures are always the same.
   std::atomic<int> readings = 0;
   int written = 0, unwritten = 0, unread = 0, torn = 0;
   std::thread writer([&] {
     const jet::Workspace own = open(patience);
-    const auto first = own.OpenDatabase(path(u"2026Foundation.mdb"_s)),
-               second = own.OpenDatabase(path(u"dbTax.mdb"_s));
+    const auto first = own.OpenDatabase(path("2026Foundation.mdb")),
+               second = own.OpenDatabase(path("dbTax.mdb"));
     for (; written < 25; ++written) {
       while (readings < 2 * written) std::this_thread::yield();  // turn about: the reader finds its gaps
       unwritten += 0 != failureOf([&] {
                      own.Together([&] {
-                       first.Execute(u"Update Sale Set SaleNum = SaleNum + 1"_s);
-                       second.Execute(u"Update Tax Set Sum = Sum + 1"_s);
+                       first.Execute("Update Sale Set SaleNum = SaleNum + 1");
+                       second.Execute("Update Tax Set Sum = Sum + 1");
                      });
                    });
     }
   });
   const jet::Workspace own = open(patience);
-  const auto second = own.OpenDatabase(path(u"dbTax.mdb"_s)),
-             first = own.OpenDatabase(path(u"2026Foundation.mdb"_s));
+  const auto second = own.OpenDatabase(path("dbTax.mdb")),
+             first = own.OpenDatabase(path("2026Foundation.mdb"));
   const QString both =
       u"Select Tax.Sum, Sale.SaleNum From Tax Inner Join [%1].Sale On Tax.Code = Sale.ClientCode"_s.arg(
-          path(u"2026Foundation.mdb"_s));
+          path("2026Foundation.mdb"));
   for (; readings < 60; ++readings)
     unread += 0 != failureOf([&] {
                 const auto rs = second.OpenRecordset(both);
@@ -125,24 +124,24 @@ struct NoMoreRoom {
 };
 
 TEST_F(LockOrder, AGroupThatTheStoreHasUndoneTakesNothingMore) {
-  year = workspace.OpenDatabase(path(u"2026Foundation.mdb"_s));
+  year = workspace.OpenDatabase(path("2026Foundation.mdb"));
   int later = 0;
   const int failure = failureOf([&] {
     workspace.Together([&] {
-      year.Execute(u"Update Client Set GasInit = 500"_s);
+      year.Execute("Update Client Set GasInit = 500");
       {
         const NoMoreRoom full;
-        EXPECT_EQ(failureOf([&] { year.Execute(u"Update Sale Set SaleNum = 5"_s); }), 3043);
+        EXPECT_EQ(refusal(year, "Update Sale Set SaleNum = 5"), 3043);
       }
       // The work did not look at the failure and goes on, as a rule does after a box has told it.
-      later = failureOf([&] { year.Execute(u"Update Sale Set SaleDate = 'later'"_s); });
+      later = refusal(year, "Update Sale Set SaleDate = 'later'");
     });
   });
   EXPECT_EQ(later, 3043);
   EXPECT_EQ(failure, 3043) << "whoever asked for the group learns that nothing of it stands";
-  EXPECT_EQ(rows(year, u"Select GasInit, SaleNum, SaleDate From Sale, Client"_s), "0|0|-");
-  workspace.Together([&] { year.Execute(u"Update Sale Set SaleNum = 7"_s); });
-  EXPECT_EQ(rows(year, u"Select SaleNum From Sale"_s), "7") << "the next group is a new one";
+  EXPECT_EQ(rows(year, "Select GasInit, SaleNum, SaleDate From Sale, Client"), "0|0|-");
+  workspace.Together([&] { year.Execute("Update Sale Set SaleNum = 7"); });
+  EXPECT_EQ(rows(year, "Select SaleNum From Sale"), "7") << "the next group is a new one";
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ class Recordsets : public Engine {
   void SetUp() override {
     Engine::SetUp();
     workspace.Together([&] {
-      for (const auto& name : {u"a"_s, u"b"_s, u"c"_s})
+      for (const QString name : {"a", "b", "c"})
         basic.Execute(u"Insert Into Client(Name) Values('%1')"_s.arg(name));
     });
   }
@@ -22,11 +22,11 @@ class Recordsets : public Engine {
 };
 
 TEST_F(Recordsets, WalksBothWaysAndCountsWhatItReached) {
-  jet::Recordset rs = basic.OpenRecordset(u"Select Code, Name From Client Order By Code"_s);
+  jet::Recordset rs = basic.OpenRecordset("Select Code, Name From Client Order By Code");
   EXPECT_EQ(rs.RecordCount(), 1);
   rs.MoveLast();
   EXPECT_EQ(rs.RecordCount(), 3);
-  EXPECT_EQ(rs[u"name"_s].toText(), u"c"_s);
+  EXPECT_EQ(rs["name"].toText(), "c");
   rs.MoveFirst();
   const int first = rs.Bookmark();
   rs.MovePrevious();
@@ -37,12 +37,12 @@ TEST_F(Recordsets, WalksBothWaysAndCountsWhatItReached) {
   EXPECT_TRUE(rs.atEnd());
   EXPECT_EQ(failureOf([&] { rs.MoveNext(); }), 3021);
   rs.setBookmark(first);
-  EXPECT_EQ(rs[u"CODE"_s].toLong(), 1);
-  EXPECT_EQ(failureOf([&] { (void)rs[u"Nothing"_s]; }), 3265);
+  EXPECT_EQ(rs["CODE"].toLong(), 1);
+  EXPECT_EQ(failureOf([&] { (void)rs["Nothing"]; }), 3265);
 }
 
 TEST_F(Recordsets, AnEmptyOneStandsAtBothEnds) {
-  jet::Recordset rs = basic.OpenRecordset(u"Select * From Client Where False"_s);
+  jet::Recordset rs = basic.OpenRecordset("Select * From Client Where False");
   EXPECT_TRUE(rs.atStart() && rs.atEnd());
   EXPECT_EQ(rs.RecordCount(), 0);
   EXPECT_EQ(failureOf([&] { rs.MoveFirst(); }), 3021);
@@ -51,116 +51,118 @@ TEST_F(Recordsets, AnEmptyOneStandsAtBothEnds) {
 }
 
 TEST_F(Recordsets, ANameThatStandsTwiceMeansTheFirst) {
-  year.Execute(u"Insert Into Sale(ClientCode, SaleNum) Values(2, 7)"_s);
+  year.Execute("Insert Into Sale(ClientCode, SaleNum) Values(2, 7)");
   jet::Recordset rs = year.OpenRecordset(
-      u"Select Client.Code, Sale.SaleID, Client.Name As SaleNum, Sale.SaleNum From Sale Left Join Client On Sale.ClientCode = Client.Code"_s);
-  EXPECT_EQ(rs[u"SaleNum"_s].toText(), u"b"_s);
+      "Select Client.Code, Sale.SaleID, Client.Name As SaleNum, Sale.SaleNum From Sale Left Join Client On "
+      "Sale.ClientCode = Client.Code");
+  EXPECT_EQ(rs["SaleNum"].toText(), "b");
   EXPECT_EQ(rs[3].toLong(), 7);
 }
 
 TEST_F(Recordsets, EditWritesTheRowAndShowsWhatIsStored) {
-  jet::Recordset rs = dynaset(u"Select * From Client Order By Code"_s);
+  jet::Recordset rs = dynaset("Select * From Client Order By Code");
   rs.MoveNext();
-  EXPECT_EQ(failureOf([&] { rs.set(u"Name"_s, u"x"_s); }), 3020);
+  EXPECT_EQ(failureOf([&] { rs.set("Name", "x"); }), 3020);
   rs.Edit();
-  rs.set(u"Name"_s, u"B"_s);
-  rs.set(u"GasInit"_s, u"12"_s);
-  rs.set(u"Rate"_s, 3);
-  EXPECT_EQ(rs[u"Name"_s].toText(), u"B"_s);
+  rs.set("Name", "B");
+  rs.set("GasInit", "12");
+  rs.set("Rate", 3);
+  EXPECT_EQ(rs["Name"].toText(), "B");
   rs.Update();
-  EXPECT_TRUE(rs[u"GasInit"_s].isWhole());
-  EXPECT_EQ(rows(basic, u"Select Name, GasInit, Rate From Client Order By Code"_s), "a|0|- B|12|3 c|0|-");
+  EXPECT_TRUE(rs["GasInit"].isWhole());
+  EXPECT_EQ(rows(basic, "Select Name, GasInit, Rate From Client Order By Code"), "a|0|- B|12|3 c|0|-");
   EXPECT_EQ(failureOf([&] { rs.Update(); }), 3020);
   rs.Edit();
-  rs.set(u"Name"_s, u"gone"_s);
+  rs.set("Name", "gone");
   rs.MoveNext();  // gives the edit up
   rs.MovePrevious();
-  EXPECT_EQ(rs[u"Name"_s].toText(), u"B"_s);
+  EXPECT_EQ(rs["Name"].toText(), "B");
 }
 
 TEST_F(Recordsets, ARefusedUpdateCanBeMended) {
-  jet::Recordset rs = dynaset(u"Select * From Client Order By Code"_s);
+  jet::Recordset rs = dynaset("Select * From Client Order By Code");
   rs.Edit();
-  rs.set(u"GasInit"_s, 4);
-  rs.set(u"Name"_s, u"longer than ten"_s);
+  rs.set("GasInit", 4);
+  rs.set("Name", "longer than ten");
   EXPECT_EQ(failureOf([&] { rs.Update(); }), 3163);
-  rs.set(u"Name"_s, u"short"_s);
+  rs.set("Name", "short");
   rs.Update();
-  EXPECT_EQ(rows(basic, u"Select Name, GasInit From Client Where Code = 1"_s), "short|4");
+  EXPECT_EQ(rows(basic, "Select Name, GasInit From Client Where Code = 1"), "short|4");
 }
 
 TEST_F(Recordsets, AddNewAppendsWithItsNumberAndDefaults) {
-  jet::Recordset rs = dynaset(u"Select * From Client Order By Code"_s);
+  jet::Recordset rs = dynaset("Select * From Client Order By Code");
   rs.AddNew();
-  rs.set(u"Name"_s, u"d"_s);
+  rs.set("Name", "d");
   rs.Update();
-  EXPECT_EQ(rs[u"Name"_s].toText(), u"a"_s);  // the position stays
+  EXPECT_EQ(rs["Name"].toText(), "a");  // the position stays
   rs.MoveLast();
-  EXPECT_EQ(rs[u"Code"_s].toLong(), 4);
-  EXPECT_EQ(rs[u"GasInit"_s].toLong(), 0);
+  EXPECT_EQ(rs["Code"].toLong(), 4);
+  EXPECT_EQ(rs["GasInit"].toLong(), 0);
   EXPECT_EQ(rs.RecordCount(), 4);
-  jet::Recordset empty = dynaset(u"Select * From Client Where False"_s);
+  jet::Recordset empty = dynaset("Select * From Client Where False");
   empty.AddNew();
   empty.Update();
   EXPECT_EQ(empty.RecordCount(), 1);
-  EXPECT_EQ(rows(basic, u"Select Max(Code) From Client"_s), "5");
+  EXPECT_EQ(rows(basic, "Select Max(Code) From Client"), "5");
 }
 
 TEST_F(Recordsets, DeletedRowsAreSteppedOver) {
-  jet::Recordset rs = dynaset(u"Select * From Client Order By Code"_s);
+  jet::Recordset rs = dynaset("Select * From Client Order By Code");
   rs.MoveNext();
   rs.Delete();
-  EXPECT_EQ(failureOf([&] { (void)rs[u"Name"_s]; }), 3167);
+  EXPECT_EQ(failureOf([&] { (void)rs["Name"]; }), 3167);
   rs.MovePrevious();
-  EXPECT_EQ(rs[u"Name"_s].toText(), u"a"_s);
+  EXPECT_EQ(rs["Name"].toText(), "a");
   rs.MoveNext();
-  EXPECT_EQ(rs[u"Name"_s].toText(), u"c"_s);
+  EXPECT_EQ(rs["Name"].toText(), "c");
   rs.MoveLast();
   EXPECT_EQ(rs.RecordCount(), 2);
-  EXPECT_EQ(rows(basic, u"Select Name From Client Order By Code"_s), "a c");
-  basic.Execute(u"Delete From Client Where Code = 3"_s);
+  EXPECT_EQ(rows(basic, "Select Name From Client Order By Code"), "a c");
+  basic.Execute("Delete From Client Where Code = 3");
   rs.Edit();
-  rs.set(u"Name"_s, u"x"_s);
+  rs.set("Name", "x");
   EXPECT_EQ(failureOf([&] { rs.Update(); }), 3167);
 }
 
 TEST_F(Recordsets, OfAJoinEachTableGetsItsOwnFields) {
-  year.Execute(u"Insert Into Sale(ClientCode, SaleNum) Values(2, 7)"_s);
-  year.Execute(u"Insert Into Sale(ClientCode, SaleNum) Values(9, 1)"_s);
+  year.Execute("Insert Into Sale(ClientCode, SaleNum) Values(2, 7)");
+  year.Execute("Insert Into Sale(ClientCode, SaleNum) Values(9, 1)");
   jet::Recordset rs = year.OpenRecordset(
-      u"Select Sale.SaleNum, Client.Name, Sale.SaleNum + 1 As More From Sale Left Join Client On Sale.ClientCode = Client.Code Order By SaleID"_s,
+      "Select Sale.SaleNum, Client.Name, Sale.SaleNum + 1 As More From Sale Left Join Client On "
+      "Sale.ClientCode = Client.Code Order By SaleID",
       jet::RecordsetType::Dynaset);
   rs.Edit();
-  rs.set(u"SaleNum"_s, 8);
-  rs.set(u"Name"_s, u"bb"_s);
-  EXPECT_EQ(failureOf([&] { rs.set(u"More"_s, 1); }), 3164);
+  rs.set("SaleNum", 8);
+  rs.set("Name", "bb");
+  EXPECT_EQ(failureOf([&] { rs.set("More", 1); }), 3164);
   rs.Update();
-  EXPECT_EQ(rows(year, u"Select SaleNum From Sale Order By SaleID"_s), "8 1");
-  EXPECT_EQ(rows(basic, u"Select Name From Client Where Code = 2"_s), "bb");
+  EXPECT_EQ(rows(year, "Select SaleNum From Sale Order By SaleID"), "8 1");
+  EXPECT_EQ(rows(basic, "Select Name From Client Where Code = 2"), "bb");
   rs.MoveNext();
   rs.Edit();
-  rs.set(u"Name"_s, u"nobody"_s);
+  rs.set("Name", "nobody");
   EXPECT_EQ(failureOf([&] { rs.Update(); }), 3164);
 }
 
 TEST_F(Recordsets, WhatIsNoTablesRowIsReadOnly) {
-  jet::Recordset snapshot = basic.OpenRecordset(u"Select * From Client"_s);
+  jet::Recordset snapshot = basic.OpenRecordset("Select * From Client");
   EXPECT_EQ(failureOf([&] { snapshot.Edit(); }), 3027);
-  for (const auto& sql : {u"Select Count(*) From Client"_s, u"Select Distinct Name From Client"_s}) {
+  for (const QString sql : {"Select Count(*) From Client", "Select Distinct Name From Client"}) {
     jet::Recordset rs = dynaset(sql);
     EXPECT_EQ(failureOf([&] { rs.Edit(); }), 3027) << sql.toStdString();
     EXPECT_EQ(failureOf([&] { rs.AddNew(); }), 3027) << sql.toStdString();
   }
-  jet::Recordset rs = dynaset(u"Select * From Client"_s);
+  jet::Recordset rs = dynaset("Select * From Client");
   basic.Close();
-  EXPECT_EQ(rs[u"Name"_s].toText(), u"a"_s);  // the rows outlive the handle
+  EXPECT_EQ(rs["Name"].toText(), "a");  // the rows outlive the handle
   EXPECT_EQ(failureOf([&] { rs.Edit(); }), 3420);
 }
 
 // ---- the packed rows
 
 TEST(RowStore, AColumnWidensWithoutLosingAValue) {
-  const std::vector<jet::Value> values{{}, 1, qint64(5000000000), {}, 2.5, u"글"_s, 7, u""_s, -1};
+  const std::vector<jet::Value> values{{}, 1, qint64(5000000000), {}, 2.5, "글", 7, "", -1};
   jet::RowStore store(1);
   for (size_t count = 1; count <= values.size(); ++count) {
     store.appendRow({values[count - 1]});
@@ -170,11 +172,11 @@ TEST(RowStore, AColumnWidensWithoutLosingAValue) {
     }
   }
   store.stopFilling();
-  store.set(1, 0, u"neu"_s);
+  store.set(1, 0, "neu");
   store.set(2, 0, {});
-  EXPECT_EQ(store.at(1, 0).toText(), u"neu"_s);
+  EXPECT_EQ(store.at(1, 0).toText(), "neu");
   EXPECT_TRUE(store.at(2, 0).isNull());
-  EXPECT_EQ(store.at(5, 0).toText(), u"글"_s);
+  EXPECT_EQ(store.at(5, 0).toText(), "글");
 }
 
 TEST(RowStore, RowsCostLittleMoreThanTheirValues) {
@@ -194,7 +196,7 @@ TEST(RowStore, RowsCostLittleMoreThanTheirValues) {
   }
   store.stopFilling();
   EXPECT_LT(double(store.bytes()), 1.5 * double(plain));
-  EXPECT_EQ(store.at(kRows - 1, 12).toText().left(7), u"경기도 성남시"_s);
+  EXPECT_EQ(store.at(kRows - 1, 12).toText().left(7), "경기도 성남시");
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 // Statements of the dialect on a real file: the queries and rows of tests/jet/rows.txt.
-#include <gtest/gtest.h>
-
 #include <QFile>
 
 #include "tests/jet/engine_fixture.h"
@@ -23,15 +21,15 @@ TEST(Rows, OfTheDialect) {
   QFile file(HAEON_TEST_DATA "/jet/rows.txt");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   QTemporaryDir folder;
-  const jet::Workspace workspace({.mainFile = folder.filePath(u"a.mdb"_s), .resolvePath = {}});
-  const jet::Database db = workspace.CreateDatabase(folder.filePath(u"a.mdb"_s));
+  const jet::Workspace workspace({.mainFile = folder.filePath("a.mdb"), .resolvePath = {}});
+  const jet::Database db = workspace.CreateDatabase(folder.filePath("a.mdb"));
   int count = 0;
   for (int number = 1; !file.atEnd(); ++number) {
     const QString line = QString::fromUtf8(file.readLine()).remove(u'\n');
     if (line.isEmpty() || line.startsWith(u'#')) continue;
     const bool runs = line.startsWith(u'>');
     const QString sql = runs ? line.mid(1).trimmed() : line.section(u'\t', 0, 0);
-    const QString expected = runs ? u"done"_s : line.section(u'\t', 1);
+    const QString expected = runs ? "done" : line.section(u'\t', 1);
     EXPECT_EQ(outcome(db, sql), expected.toStdString()) << "line " << number << ": " << sql.toStdString();
     ++count;
   }

@@ -1,6 +1,4 @@
 // Every statement the forms run, run on real data files with the tables of this system.
-#include <gtest/gtest.h>
-
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -12,8 +10,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 schema::File fileNamed(const QString& name) {
-  static const QStringList names{u"Basic"_s, u"Year"_s,    u"Tax"_s,       u"Detail"_s,   u"Post"_s,
-                                 u"Print"_s, u"AptBaln"_s, u"InOutCash"_s, u"Cashbook"_s, u"Ledger"_s};
+  static const QStringList names{"Basic", "Year",    "Tax",       "Detail",   "Post",
+                                 "Print", "AptBaln", "InOutCash", "Cashbook", "Ledger"};
   EXPECT_TRUE(names.contains(name)) << name.toStdString();
   return schema::File(names.indexOf(name));
 }
@@ -22,14 +20,14 @@ schema::File fileNamed(const QString& name) {
 class SampleFile {
  public:
   explicit SampleFile(schema::File kind)
-      : workspace_({.mainFile = u"C:\\RWGas\\Dbs\\Basic.mdb"_s, .resolvePath = [this](const QString& path) {
+      : workspace_({.mainFile = "C:\\RWGas\\Dbs\\Basic.mdb", .resolvePath = [this](const QString& path) {
                       return folder_.filePath(path.section(u'\\', -1));
                     }}) {
-    if (kind == schema::File::Year) basic_ = made(u"Basic.mdb"_s, schema::File::Basic);
-    db_ = made(kind == schema::File::Year ? u"2026Foundation.mdb"_s : u"Basic.mdb"_s, kind);
+    if (kind == schema::File::Year) basic_ = made("Basic.mdb", schema::File::Basic);
+    db_ = made(kind == schema::File::Year ? "2026Foundation.mdb" : "Basic.mdb", kind);
     if (kind != schema::File::Year) return;
     for (const QString& name : schema::linkedTables())
-      db_.createTable({name, {}, {}, u";DATABASE=C:\\RWGas\\Dbs\\Basic.mdb"_s, name});
+      db_.createTable({name, {}, {}, ";DATABASE=C:\\RWGas\\Dbs\\Basic.mdb", name});
   }
 
   void run(const QString& sql) const {
@@ -41,7 +39,7 @@ class SampleFile {
 
  private:
   jet::Database made(const QString& name, schema::File kind) const {
-    jet::Database db = workspace_.CreateDatabase(u"C:\\RWGas\\Dbs\\"_s + name);
+    jet::Database db = workspace_.CreateDatabase("C:\\RWGas\\Dbs\\" + name);
     workspace_.Together([&] {
       for (const jet::TableDef& table : schema::tablesOf(kind)) db.createTable(table);
     });
@@ -65,7 +63,7 @@ TEST(StatementsInUse, RunOnTheirFiles) {
       continue;
     }
     const QStringList parts = line.split(u'\t');
-    const int expected = parts.size() > 1 ? QString(parts[1]).remove(u"! "_s).toInt() : 0;
+    const int expected = parts.size() > 1 ? QString(parts[1]).remove("! ").toInt() : 0;
     int refused = 0;
     QString told;
     try {

@@ -2,15 +2,12 @@
 #include "store/jet/like_pattern.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QDateTime>
 
 #include "store/jet/format_rules.h"
 #include "store/jet/value.h"
 #include "tests/answers.h"
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +22,7 @@ TEST(TextRules, ValTakesWhatNumberAText) {
   EXPECT_EQ(jet::val(u"1d2"), 100);
   EXPECT_EQ(jet::val(u"&H1F"), 31);
   EXPECT_EQ(jet::val(u"&HFFFF"), -1);
-  for (const QString& none : QStringList{u""_s, u"kg"_s, u"-"_s, u"."_s, u"가1"_s})
+  for (const QString& none : QStringList{"", "kg", "-", ".", "가1"})
     EXPECT_EQ(jet::val(none), 0) << none.toStdString();
 }
 
@@ -36,19 +33,18 @@ TEST(TextRules, ANumberIsTheWholeTextOrNothing) {
   EXPECT_EQ(jet::numberOf(u"-₩ 5"), -5);
   EXPECT_EQ(jet::numberOf(u"1e3"), 1000);
   EXPECT_EQ(jet::numberOf(u"&hff"), 255);
-  for (const QString& none : QStringList{u""_s, u" "_s, u"12호"_s, u"1-2"_s, u"-"_s, u"."_s, u"--1"_s,
-                                         u"1 2"_s, u"&H"_s, u"101-2"_s})
+  for (const QString& none : QStringList{"", " ", "12호", "1-2", "-", ".", "--1", "1 2", "&H", "101-2"})
     EXPECT_FALSE(jet::numberOf(none)) << none.toStdString();
 }
 
 TEST(TextRules, ADoubleShowsFifteenDigits) {
-  EXPECT_EQ(jet::textOf(0.1 + 0.2), u"0.3"_s);
-  EXPECT_EQ(jet::textOf(1234.0), u"1234"_s);
-  EXPECT_EQ(jet::textOf(999999999999999.0), u"999999999999999"_s);
-  EXPECT_EQ(jet::textOf(1e15), u"1E+15"_s);
-  EXPECT_EQ(jet::textOf(0.0001), u"0.0001"_s);
-  EXPECT_EQ(jet::textOf(-0.0), u"0"_s);
-  EXPECT_EQ(jet::textOf(-2.0 / 3), u"-0.666666666666667"_s);
+  EXPECT_EQ(jet::textOf(0.1 + 0.2), "0.3");
+  EXPECT_EQ(jet::textOf(1234.0), "1234");
+  EXPECT_EQ(jet::textOf(999999999999999.0), "999999999999999");
+  EXPECT_EQ(jet::textOf(1e15), "1E+15");
+  EXPECT_EQ(jet::textOf(0.0001), "0.0001");
+  EXPECT_EQ(jet::textOf(-0.0), "0");
+  EXPECT_EQ(jet::textOf(-2.0 / 3), "-0.666666666666667");
 }
 
 TEST(TextRules, QuickWaysGiveWhatTheFullReadingGives) {
@@ -92,8 +88,8 @@ TEST(TextRules, TextsCompareWithoutCaseAndTrailingBlanks) {
 }
 
 TEST(TextRules, BothComparisonsGiveOneOrder) {
-  const QStringList texts{u""_s,   u" "_s,    u"a"_s,    u"A "_s,         u"a\t"_s,    u"홍길동"_s,
-                          u"홍"_s, u"가나"_s, u"가다"_s, u"\U0001F600"_s, u"\uFF21"_s, u"é"_s};
+  const QStringList texts{"",   " ",    "a",    "A ",         "a\t",    "홍길동",
+                          "홍", "가나", "가다", "\U0001F600", "\uFF21", "é"};
   for (const QString& a : texts) {
     for (const QString& b : texts)
       EXPECT_EQ(jet::compareText(a, b), jet::compareUtf8(a.toStdString(), b.toStdString()))
@@ -124,29 +120,28 @@ TEST(TextRules, LikeKnowsFourMarksAndBrackets) {
 }
 
 TEST(TextRules, AReadyPatternAnswersAsTheRule) {
-  const QStringList texts{u""_s,    u"4567"_s,     u"053-123-4567"_s, u"4567-1"_s,     u"44567"_s,
-                          u"456"_s, u"한빛식당"_s, u"한빛"_s,         u"빛"_s,         u"kim 4567"_s,
-                          u"KIM"_s, u"4567 "_s,    u"\u212Aim"_s,     u"456\u20E37"_s, u"4 5 6 7"_s};
-  const QStringList patterns{u"*4567*"_s, u"4567*"_s, u"*4567"_s, u"4567"_s,  u"*"_s,
-                             u"**"_s,     u""_s,      u"*빛*"_s,  u"한빛*"_s, u"*kim*"_s,
-                             u"K*"_s,     u"45?7*"_s, u"4#6*7"_s, u"*-*"_s,   u"*[4]567"_s};
+  const QStringList texts{"",    "4567",     "053-123-4567", "4567-1",     "44567",
+                          "456", "한빛식당", "한빛",         "빛",         "kim 4567",
+                          "KIM", "4567 ",    "\u212Aim",     "456\u20E37", "4 5 6 7"};
+  const QStringList patterns{"*4567*", "4567*", "*4567", "4567",  "*",     "**",  "",       "*빛*",
+                             "한빛*",  "*kim*", "K*",    "45?7*", "4#6*7", "*-*", "*[4]567"};
   for (const QString& pattern : patterns) {
     const jet::LikePattern ready(pattern);
     for (const QString& text : texts)
       EXPECT_EQ(ready.matches(text.toStdString()), jet::like(text, pattern))
           << text.toStdString() << '|' << pattern.toStdString();
   }
-  EXPECT_EQ(failureOf([] { (void)jet::LikePattern(u"[a"_s).matches("a"); }), 93);
+  EXPECT_EQ(failureOf([] { (void)jet::LikePattern("[a").matches("a"); }), 93);
 }
 
 TEST(TextRules, PartsOfATextCountCharacters) {
-  EXPECT_EQ(jet::leftOf(u"홍길동"_s, 2), u"홍길"_s);
-  EXPECT_EQ(jet::rightOf(u"홍길동"_s, 9), u"홍길동"_s);
-  EXPECT_EQ(jet::midOf(u"홍길동"_s, 2), u"길동"_s);
-  EXPECT_EQ(jet::midOf(u"홍길동"_s, 2, 1), u"길"_s);
-  EXPECT_EQ(jet::midOf(u"홍길동"_s, 4), u""_s);
-  EXPECT_EQ(failureOf([] { (void)jet::midOf(u"a"_s, 0); }), 5);
-  EXPECT_EQ(failureOf([] { (void)jet::leftOf(u"a"_s, -1); }), 5);
+  EXPECT_EQ(jet::leftOf("홍길동", 2), "홍길");
+  EXPECT_EQ(jet::rightOf("홍길동", 9), "홍길동");
+  EXPECT_EQ(jet::midOf("홍길동", 2), "길동");
+  EXPECT_EQ(jet::midOf("홍길동", 2, 1), "길");
+  EXPECT_EQ(jet::midOf("홍길동", 4), "");
+  EXPECT_EQ(failureOf([] { (void)jet::midOf("a", 0); }), 5);
+  EXPECT_EQ(failureOf([] { (void)jet::leftOf("a", -1); }), 5);
 }
 
 TEST(FormatRules, Numbers) {
@@ -178,19 +173,19 @@ TEST(FormatRules, Numbers) {
 
 TEST(FormatRules, Dates) {
   const QDateTime moment(QDate(2026, 3, 7), QTime(15, 4, 9));
-  EXPECT_EQ(jet::formatDate(moment, u"YYYY/MM/DD"), u"2026-03-07"_s);
-  EXPECT_EQ(jet::formatDate(moment, u"yy.m.d"), u"26.3.7"_s);
-  EXPECT_EQ(jet::formatDate(moment, u"YYMMDD_HHMMSS"), u"260307_150409"_s);
-  EXPECT_EQ(jet::formatDate(moment, u"AM/PM h:nn"), u"오후 3:04"_s);
-  EXPECT_EQ(jet::formatDate(moment, u"ddddd dddd"), u"2026-03-07 토요일"_s);
-  EXPECT_EQ(jet::formatDate(moment, u"yyyy\"년\""), u"2026년"_s);
+  EXPECT_EQ(jet::formatDate(moment, u"YYYY/MM/DD"), "2026-03-07");
+  EXPECT_EQ(jet::formatDate(moment, u"yy.m.d"), "26.3.7");
+  EXPECT_EQ(jet::formatDate(moment, u"YYMMDD_HHMMSS"), "260307_150409");
+  EXPECT_EQ(jet::formatDate(moment, u"AM/PM h:nn"), "오후 3:04");
+  EXPECT_EQ(jet::formatDate(moment, u"ddddd dddd"), "2026-03-07 토요일");
+  EXPECT_EQ(jet::formatDate(moment, u"yyyy\"년\""), "2026년");
 }
 
 TEST(FormatRules, ThePictureChooses) {
-  EXPECT_EQ(jet::format(jet::Value("2026-11-24"), u"mm/dd"), u"11-24"_s);
-  EXPECT_EQ(jet::format(jet::Value("1234"), u"#,###"), u"1,234"_s);
-  EXPECT_EQ(jet::format(jet::Value("abc"), u"#,###"), u"abc"_s);
-  EXPECT_EQ(jet::format(jet::Value(), u"#,###"), u""_s);
+  EXPECT_EQ(jet::format(jet::Value("2026-11-24"), u"mm/dd"), "11-24");
+  EXPECT_EQ(jet::format(jet::Value("1234"), u"#,###"), "1,234");
+  EXPECT_EQ(jet::format(jet::Value("abc"), u"#,###"), "abc");
+  EXPECT_EQ(jet::format(jet::Value(), u"#,###"), "");
 }
 
 }  // namespace
