@@ -37,6 +37,9 @@ class LonePrompts : public Prompts {
   }
 };
 
+/** Told in words to the operator. */
+bool isKorean(const QString& text);
+
 /** One PC on the folder below root. */
 struct Pc {
   explicit Pc(const QString& root);
@@ -49,6 +52,11 @@ struct Pc {
   pc::Pc pc;
   LonePrompts prompts;
   Session session{pc, prompts};
+};
+
+/** The same with its files open. */
+struct OpenPc : Pc {
+  explicit OpenPc(const QString& root) : Pc(root) { open(); }
 };
 
 /** A line of Sale as a process has told it. */

@@ -13,14 +13,14 @@ namespace storm {
 Child::Child(const QStringList& arguments, const QString& preloaded) {
   if (!preloaded.isEmpty()) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LD_PRELOAD"_s, preloaded);
+    environment.insert("LD_PRELOAD", preloaded);
     // The address sanitizer wants to be first; in front of it stands nothing that allocates.
-    const QString options = environment.value(u"ASAN_OPTIONS"_s);
-    environment.insert(u"ASAN_OPTIONS"_s, options + u":verify_asan_link_order=0"_s);
+    const QString options = environment.value("ASAN_OPTIONS");
+    environment.insert("ASAN_OPTIONS", options + ":verify_asan_link_order=0");
     process_.setProcessEnvironment(environment);
   }
   process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  process_.start(QCoreApplication::applicationFilePath(), arguments);
+  process_.start(QCoreApplication::applicationFilePath(), QStringList("--pc") + arguments);
 }
 
 Child::~Child() {

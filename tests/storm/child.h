@@ -9,7 +9,7 @@ namespace storm {
 
 class Child {
  public:
-  /** work: the first argument, which the program's start looks at. preloaded: a library in front of all others. */
+  /** arguments: its work and what that takes. preloaded: a library in front of all others. */
   explicit Child(const QStringList& arguments, const QString& preloaded = {});
   ~Child();
 

@@ -29,7 +29,8 @@ void writeDecember(Pc& here, int more) {
             u"Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)"_s.arg(code).arg(month));
     }
     here.session.dbYear.Execute(
-        u"Update Evaporation Set UseGage = ClientCode + 0.5, Trust = 1000, Total = ClientCode * 100 Where Mon = 12"_s);
+        "Update Evaporation Set UseGage = ClientCode + 0.5, Trust = 1000, Total = ClientCode * 100 Where Mon "
+        "= 12");
   });
 }
 
@@ -41,21 +42,17 @@ void workInNextYear(Pc& here, int number) {
 }
 
 int runCloser(const QStringList& arguments) {
-  Pc here(arguments.at(0));
-  here.open();
-  const auto tell = [](const char* what, int number) {
-    report(QLatin1String(what) + u' ' + QString::number(number));
-  };
-  report(QLatin1String(word::ready));
+  OpenPc here(arguments.at(0));
+  report(word::ready);
   for (int number = arguments.at(1).toInt() * 1000;; ++number) {
-    tell(word::at, number);
+    report(word::at, number);
     workInNextYear(here, number);
-    tell(word::made, number);
+    report(word::made, number);
     int differing = 0;
     closeYear(here.session, loneScreen(&differing));
-    if (!here.session.dbYear.isOpen() || differing > 0 || here.prompts.told.filter(u"에러"_s).size() > 0)
+    if (!here.session.dbYear.isOpen() || differing > 0 || here.prompts.told.filter("에러").size() > 0)
       return 7;
-    tell(word::done, number);
+    report(word::done, number);
   }
 }
 

@@ -1,6 +1,4 @@
 // A PC that loses its power in the middle of a year's closing.
-#include <gtest/gtest.h>
-
 #include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -16,8 +14,6 @@
 
 namespace storm {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 struct KilledClosing : testing::Test {
   static constexpr int more = 60;
@@ -48,8 +44,8 @@ struct KilledClosing : testing::Test {
   static QStringList workIn(const Pc& here, const QString& file) {
     QStringList numbers;
     const jet::Database open = here.session.wsMain.OpenDatabase(file);
-    for (auto rs = open.OpenRecordset(u"Select Trust From Sale Where SaleDate >= '"_s +
-                                      QString::number(nextYear(here)) + u"-01-01'"_s);
+    for (auto rs = open.OpenRecordset("Select Trust From Sale Where SaleDate >= '" +
+                                      QString::number(nextYear(here)) + "-01-01'");
          !rs.atEnd(); rs.MoveNext())
       numbers << rs[0].toText();
     return numbers;
@@ -60,16 +56,15 @@ TEST_F(KilledClosing, TheNextYearIsTheOldOneOrTheNewOneAndNothingIsLost) {
   const int rounds = measure(50, 400);
   int within = 0, old = 0, renewed = 0, kept = 0;
   for (int round = 1; round <= rounds && !HasFailure(); ++round) {
-    Child child({u"--pc"_s, u"close"_s, folder.path(), QString::number(round)});
-    ASSERT_TRUE(child.waitFor(QLatin1String(word::made), 30000));
+    Child child({"close", folder.path(), QString::number(round)});
+    ASSERT_TRUE(child.waitFor(word::made, 30000));
     QThread::usleep(random.bounded(int(longest) * 1300 + 1000));
     child.kill();
     const QStringList lines = child.lines();
-    const QString last = lines.filter(QLatin1String(word::made)).last().section(u' ', 1);
-    const bool inside = lines.last().startsWith(QLatin1String(word::made));
+    const QString last = lines.filter(word::made).last().section(u' ', 1);
+    const bool inside = lines.last().startsWith(word::made);
 
-    Pc here(folder.path());
-    here.open();
+    OpenPc here(folder.path());
     EXPECT_EQ(tests::dumpOf(here.session.dbYear) == closed, true)
         << "the closed year changed in round " << round;
     const QString file = yearFile(here.session, nextYear(here));
@@ -94,9 +89,9 @@ TEST_F(KilledClosing, TheNextYearIsTheOldOneOrTheNewOneAndNothingIsLost) {
     int differing = 0;
     closeYear(here.session, loneScreen(&differing));
     EXPECT_EQ(differing, 0);
-    EXPECT_EQ(here.prompts.told.filter(u"에러"_s).join(u'\n').toStdString(), "");
+    EXPECT_EQ(here.prompts.told.filter("에러"), QStringList());
     EXPECT_EQ(dumpOf(here, file) == fresh, true);
-    EXPECT_EQ(here.pc.paths.list(here.session.DbPath, QString::number(nextYear(here)) + u"*"_s),
+    EXPECT_EQ(here.pc.paths.list(here.session.DbPath, QString::number(nextYear(here)) + "*"),
               QStringList(yearFileName(QString::number(nextYear(here)))));
   }
   std::printf(

@@ -1,5 +1,4 @@
 // Disks that fill up and folders that turn read-only while a PC posts.
-#include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
 #include <unistd.h>
@@ -16,15 +15,11 @@
 #include "tests/storm/poster.h"
 
 namespace storm {
-namespace {
-
 using namespace Qt::StringLiterals;
 
-constexpr int postings = 1500;  // far more than there is room for
+namespace {
 
-bool isKorean(const QString& text) {
-  return std::any_of(text.begin(), text.end(), [](QChar c) { return c.script() == QChar::Script_Hangul; });
-}
+constexpr int postings = 1500;  // far more than there is room for
 
 /** Every failure was one of these and was told in words. */
 void expectTold(const Told& told, const QList<int>& numbers) {
@@ -37,13 +32,12 @@ void expectTold(const Told& told, const QList<int>& numbers) {
 }
 
 void expectWhole(const QString& root, const Told& told) {
-  EXPECT_EQ(faultsOf(root).join(u'\n').toStdString(), "");
-  Pc here(root);
-  here.open();
+  EXPECT_EQ(faultsOf(root), QStringList());
+  OpenPc here(root);
   Lines stored = storedLines(here.session);
   // A line begun when there was no room for its figures stays a skeleton; it holds nothing.
   stored.removeIf([&](const auto& line) { return !told.lines.contains(line.key()) && line->number == 0; });
-  EXPECT_EQ(differences(stored, told.lines, told.gone, told.open).join(u'\n').toStdString(), "");
+  EXPECT_EQ(differences(stored, told.lines, told.gone, told.open), QStringList());
 }
 
 qint64 bytesBelow(const QString& folder) {
@@ -53,18 +47,14 @@ qint64 bytesBelow(const QString& folder) {
   return sum;
 }
 
-void writeAll(const char* path, const QByteArray& text) {
-  QFile file(QString::fromLatin1(path));
-  if (file.open(QIODevice::WriteOnly)) file.write(text);
-}
-
 /** Who is not root may mount in a name space of his own, as the user that he is; processes begun here live in it. */
 void enterOwnMounts() {
   const QByteArray user = QByteArray::number(geteuid()), group = QByteArray::number(getegid());
   if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return;
-  writeAll("/proc/self/setgroups", "deny");
-  writeAll("/proc/self/uid_map", user + ' ' + user + " 1");
-  writeAll("/proc/self/gid_map", group + ' ' + group + " 1");
+  for (const auto& [name, text] : {std::pair<const char*, QByteArray>{"setgroups", "deny"},
+                                   {"uid_map", user + ' ' + user + " 1"},
+                                   {"gid_map", group + ' ' + group + " 1"}})
+    if (QFile file(u"/proc/self/"_s + name); file.open(QIODevice::WriteOnly)) file.write(text);
 }
 
 /** A small file system of its own; gone with the test. */
@@ -96,7 +86,7 @@ TEST(Disk, AFullDiskIsToldAndWhatWasPostedBeforeStays) {
   ASSERT_TRUE(disk.begin()) << "a small file system needs root or user name spaces";
   const QString root = disk.folder.path();
   ASSERT_TRUE(disk.resize(bytesBelow(root) + (40 << 10)));
-  Child child({u"--pc"_s, u"post"_s, root, u"7"_s, QString::number(postings)});
+  Child child({"post", root, "7", QString::number(postings)});
   EXPECT_TRUE(child.finish(120000)) << "the program is alive at the end";
   const Told told = Told::of(child.lines());
   expectTold(told, {3026});
@@ -106,7 +96,7 @@ TEST(Disk, AFullDiskIsToldAndWhatWasPostedBeforeStays) {
   std::printf("full disk: %d lines posted, then %d statements refused\n", int(told.lines.size()),
               int(told.failures.size()));
 
-  Child after({u"--pc"_s, u"post"_s, root, u"8"_s, u"20"_s});
+  Child after({"post", root, "8", "20"});
   EXPECT_TRUE(after.finish(120000));
   EXPECT_TRUE(Told::of(after.lines()).failures.isEmpty()) << "with room again the work goes on";
 }
@@ -126,33 +116,30 @@ TEST(Disk, ABuildingThatDoesNotFitLeavesNothingAndIsMadeWhenThereIsRoom) {
   SmallDisk disk;
   ASSERT_TRUE(disk.begin()) << "a small file system needs root or user name spaces";
   const QString root = disk.folder.path();
-  Pc here(root);
-  here.open();
+  OpenPc here(root);
   Builder(here).make(1, 2, 3);
   const BuildingRows before = buildingRows(here.session);
-  int block = 2, refused = 0;
+  int block = 2;
   for (const int kilobytes : {0, 16, 100, 300, 600}) {
     ASSERT_TRUE(disk.resize(bytesBelow(root) + (kilobytes << 10)));
     buildInVain(here, block++, 20, 50);
     EXPECT_EQ(buildingRows(here.session), before) << kilobytes << " kB free";
     EXPECT_EQ(Builder(here).list(), (QMap<int, int>{{1, 6}})) << kilobytes << " kB free";
     ASSERT_TRUE(disk.resize(SmallDisk::roomy));
-    EXPECT_EQ(faultsOf(root).join(u'\n').toStdString(), "");
-    ++refused;
+    EXPECT_EQ(faultsOf(root), QStringList());
   }
   Builder(here).make(block, 20, 50);
   EXPECT_EQ(Builder(here).list(), (QMap<int, int>{{1, 6}, {block, 1000}}));
-  std::printf("full disk: %d buildings of 1,000 households refused, nothing left of any\n", refused);
+  std::printf("full disk: %d buildings of 1,000 households refused, nothing left of any\n", block - 2);
 }
 
 TEST(Disk, AFileThatMayNotGrowIsTold) {
   const QTemporaryDir folder;
   Pc here(folder.path());
   here.makeBooks();
-  const qint64 limit = QFileInfo(here.pc.paths.native(here.session.DbPath + u"2026Foundation.mdb"_s)).size();
+  const qint64 limit = QFileInfo(here.pc.paths.native(here.session.DbPath + "2026Foundation.mdb")).size();
   here.close();
-  Child child({u"--pc"_s, u"post-limited"_s, QString::number(limit), folder.path(), u"9"_s,
-               QString::number(postings)});
+  Child child({"post-limited", QString::number(limit), folder.path(), "9", QString::number(postings)});
   EXPECT_TRUE(child.finish(120000));
   const Told told = Told::of(child.lines());
   expectTold(told, {3043});
@@ -162,22 +149,24 @@ TEST(Disk, AFileThatMayNotGrowIsTold) {
 
 TEST(Disk, AFolderThatTurnsReadOnlyIsToldAndTheWorkGoesOnWhenItIsBack) {
   const QTemporaryDir folder;
-  Pc(folder.path()).makeBooks();
-  const QString data = Pc(folder.path()).pc.paths.native(u"C:\\RWGas\\Dbs"_s);
+  Pc here(folder.path());
+  here.makeBooks();
+  here.close();
   if (geteuid() == 0) {
+    const auto give = [](const QString& to) { return ::chown(to.toLocal8Bit().constData(), anyone, anyone); };
+    ASSERT_EQ(give(folder.path()), 0);
     for (QDirIterator it(folder.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
          it.hasNext();)
-      ASSERT_EQ(::chown(it.next().toLocal8Bit().constData(), anyone, anyone), 0);
-    ASSERT_EQ(::chown(folder.path().toLocal8Bit().constData(), anyone, anyone), 0);
+      ASSERT_EQ(give(it.next()), 0);
   }
-  const QByteArray path = data.toLocal8Bit();
-  Child child({u"--pc"_s, u"post-as-anyone"_s, folder.path(), u"10"_s, u"0"_s});
-  ASSERT_TRUE(child.waitFor(QLatin1String(word::line), 30000));
+  const QByteArray path = here.pc.paths.native("C:\\RWGas\\Dbs").toLocal8Bit();
+  Child child({"post-as-anyone", folder.path(), "10", "0"});
+  ASSERT_TRUE(child.waitFor(word::line, 30000));
   ASSERT_EQ(::chmod(path.constData(), 0555), 0);
-  EXPECT_TRUE(child.waitFor(QLatin1String(word::told), 30000));
+  EXPECT_TRUE(child.waitFor(word::told, 30000));
   ASSERT_EQ(::chmod(path.constData(), 0755), 0);
-  EXPECT_TRUE(child.waitForAnother(QLatin1String(word::line), 30000));
+  EXPECT_TRUE(child.waitForAnother(word::line, 30000));
   child.kill();
   const Told told = Told::of(child.lines());
   expectTold(told, {3027, 3043, 3051});

@@ -1,6 +1,4 @@
 // A PC that loses its power in the middle of a posting, over and over, on the same books.
-#include <gtest/gtest.h>
-
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QThread>
@@ -13,8 +11,6 @@
 namespace storm {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct Kill : testing::Test {
   QTemporaryDir folder;
   QRandomGenerator random{20260305};
@@ -22,29 +18,22 @@ struct Kill : testing::Test {
 
   void SetUp() override { Pc(folder.path()).makeBooks(); }
 
-  /** One child at work until it is killed, after so many milliseconds at most; what it had told by then. The books are
-   *  whole afterwards. */
-  Told killed(const QString& work, int round, const QStringList& more = {u"0"_s}, int latest = 200) {
-    Child child(QStringList{u"--pc"_s, work, folder.path(), QString::number(round + 1)} + more);
-    EXPECT_TRUE(child.waitFor(QLatin1String(word::ready), 30000));
-    QThread::usleep(random.bounded(latest * 1000));
-    child.kill();
-    const Told told = Told::of(child.lines());
-    EXPECT_EQ(told.failureTexts.join(u'\n').toStdString(), "");
-    caught += told.open.has_value();
-    // Whoever opens the folder next finds it whole.
-    EXPECT_EQ(faultsOf(folder.path()).join(u'\n').toStdString(), "");
-    return told;
-  }
-  /** Over and over: what the child had told, and a PC that opens the books after it. */
+  /** Over and over: a child at work until it is killed, after so many milliseconds at most; what it had told by then, and
+   *  a PC that opens the books after it and finds them whole. */
   template <class Check>
-  void killedOften(int rounds, const QString& work, const Check& check, const QStringList& more = {u"0"_s},
+  void killedOften(int rounds, const QString& work, const Check& check, const QStringList& more = {"0"},
                    int latest = 200) {
     for (int round = 0; round < rounds && !HasFailure(); ++round) {
       SCOPED_TRACE(round);
-      const Told told = killed(work, round, more, latest);
-      Pc here(folder.path());
-      here.open();
+      Child child(QStringList{work, folder.path(), QString::number(round + 1)} + more);
+      EXPECT_TRUE(child.waitFor(word::ready, 30000));
+      QThread::usleep(random.bounded(latest * 1000));
+      child.kill();
+      const Told told = Told::of(child.lines());
+      EXPECT_EQ(told.failureTexts, QStringList());
+      caught += told.open.has_value();
+      EXPECT_EQ(faultsOf(folder.path()), QStringList());
+      OpenPc here(folder.path());
       check(told, here);
     }
   }
@@ -54,12 +43,12 @@ TEST_F(Kill, EveryToldLineIsThereAndEveryGroupIsWhole) {
   const int rounds = measure(15, 500);
   Lines known;
   int lines = 0;
-  killedOften(rounds, u"post"_s, [&](const Told& told, Pc& here) {
+  killedOften(rounds, "post", [&](const Told& told, Pc& here) {
     for (auto at = told.lines.begin(); at != told.lines.end(); ++at) known[at.key()] = *at;
     for (const qint64 key : told.gone) known.remove(key);
     lines += int(told.lines.size() + told.gone.size());
     const Lines stored = storedLines(here.session);
-    EXPECT_EQ(differences(stored, known, told.gone, told.open).join(u'\n').toStdString(), "");
+    EXPECT_EQ(differences(stored, known, told.gone, told.open), QStringList());
     known = stored;
   });
   std::printf("sales: killed %d times, %d of them within a posting; %d lines told, %d in the book\n", rounds,
@@ -72,7 +61,7 @@ TEST_F(Kill, EveryToldReadingIsThereWithItsCarry) {
   const int rounds = measure(8, 300);
   Readings known;
   int told = 0;
-  killedOften(rounds, u"read"_s, [&](const Told& one, Pc& here) {
+  killedOften(rounds, "read", [&](const Told& one, Pc& here) {
     told += int(one.readings.size());
     known.insert(one.readings);
     const Readings stored = storedReadings(here.session);
@@ -102,7 +91,7 @@ TEST_F(Kill, ABuildingIsThereWithAllItsHouseholdsOrNotAtAll) {
     EXPECT_EQ(buildingRows(here.session), BuildingRows());
     stood += blocks;
   };
-  killedOften(rounds, u"build"_s, check, {QString::number(floors), QString::number(width)});
+  killedOften(rounds, "build", check, {QString::number(floors), QString::number(width)});
   std::printf("buildings: killed %d times, %d of them while one was made or deleted; %d stood, all whole\n",
               rounds, caught, stood);
   EXPECT_GT(caught, 0);
@@ -126,9 +115,8 @@ TEST_F(Kill, APartOfAVeryBigBuildingShowsInTheListAndCanBeDeleted) {
     }
     EXPECT_EQ(buildingRows(here.session), BuildingRows()) << "nothing is left of it";
   };
-  killedOften(rounds, u"build"_s, check, {QString::number(floors), QString::number(width), u"stay"_s}, 500);
-  Pc here(folder.path());
-  here.open();
+  killedOften(rounds, "build", check, {QString::number(floors), QString::number(width), "stay"}, 500);
+  OpenPc here(folder.path());
   Builder builder(here);
   builder.make(7, floors, width);
   EXPECT_EQ(builder.list().value(7), units);

@@ -1,6 +1,4 @@
 // The storm's program: the tests, and with a first argument "--pc" one more PC that works on the same folder.
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <csignal>

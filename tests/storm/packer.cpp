@@ -7,14 +7,12 @@
 #include "tests/storm/books.h"
 #include "tests/storm/poster.h"
 
-using namespace Qt::StringLiterals;
-
 namespace storm {
 
 std::unique_ptr<backup::DataFolderAlone> hold(Pc& here) {
   auto held = std::make_unique<backup::DataFolderAlone>(here.pc.paths, here.session.DbPath);
   const QStringList busy = held->take();
-  if (!busy.isEmpty()) report(u"%1 3045 %2"_s.arg(QLatin1String(word::told), busy.join(u' ')));
+  if (!busy.isEmpty()) report(word::told, 3045, busy.join(' '));
   return held;
 }
 
@@ -22,7 +20,7 @@ int runPacker(const QStringList& arguments) {
   Pc here(arguments.at(0));
   backup::Settings settings = backup::readSettings(here.pc);
   settings.keep = 2;
-  report(QLatin1String(word::ready));
+  report(word::ready);
   for (;;) makeBackup(here.pc, here.session.DbPath, settings, backup::Series::Books, hold(here), {});
 }
 
@@ -30,9 +28,9 @@ int runRestorer(const QStringList& arguments) {
   Pc here(arguments.at(0));
   const QString shelf = backup::readSettings(here.pc).folder;
   finishSwap(here.pc.paths, here.session.DbPath);
-  report(QLatin1String(word::ready));
+  report(word::ready);
   for (int turn = 0;; ++turn) {
-    const QString archive = shelf + (turn % 2 ? u"one.zip"_s : u"two.zip"_s);
+    const QString archive = shelf + (turn % 2 ? "one.zip" : "two.zip");
     const backup::ArchiveFacts facts = backup::verify(here.pc.paths.native(archive), {});
     auto held = hold(here);
     backup::prepareRestore(here.pc, here.session.DbPath, archive, facts, {});

@@ -19,27 +19,20 @@
 #include "tests/storm/poster.h"
 #include "tests/storm/sweep.h"
 
-using namespace Qt::StringLiterals;
-
 namespace storm {
 namespace {
 
 bool toldToStop(const QString& root) {
-  return QFile::exists(root + u"/stop"_s);
-}
-
-void tellDone(int steps) {
-  report(u"%1 %2 0"_s.arg(QLatin1String(word::done)).arg(steps));
+  return QFile::exists(root + "/stop");
 }
 
 /** ROOT: one group that writes to both files and is held open until there is a file "stop". */
 int holdLock(const QStringList& arguments) {
-  Pc here(arguments.at(0));
-  here.open();
+  OpenPc here(arguments.at(0));
   here.session.wsMain.Together([&] {
-    here.session.dbYear.Execute(u"Update Client Set Memo = 'held' Where Code = 1"_s);
-    here.session.dbYear.Execute(u"Update Sale Set Response = '' Where SaleID = 0"_s);
-    report(QLatin1String(word::ready));
+    here.session.dbYear.Execute("Update Client Set Memo = 'held' Where Code = 1");
+    here.session.dbYear.Execute("Update Sale Set Response = '' Where SaleID = 0");
+    report(word::ready);
     while (!toldToStop(arguments.at(0))) QThread::msleep(5);
   });
   return 0;
@@ -47,21 +40,19 @@ int holdLock(const QStringList& arguments) {
 
 /** ROOT: long work over both files, as a recalculation is, until there is a file "stop"; tells its steps. */
 int workLong(const QStringList& arguments) {
-  Pc here(arguments.at(0));
-  here.open();
-  report(QLatin1String(word::ready));
+  OpenPc here(arguments.at(0));
+  report(word::ready);
   const Session& session = here.session;
   const auto step = [&](int at) {
     const QString code = QString::number(clientCount + 1 + at % meteredCount);
-    session.dbYear.Execute(u"Update Client Set Memo = '"_s + QString::number(at) + u"' Where Code = "_s +
-                           code);
-    session.dbYear.Execute(u"Update Evaporation Set UseMuch = UseMuch + 1 Where Mon = 9 And ClientCode = "_s +
+    session.dbYear.Execute("Update Client Set Memo = '" + QString::number(at) + "' Where Code = " + code);
+    session.dbYear.Execute("Update Evaporation Set UseMuch = UseMuch + 1 Where Mon = 9 And ClientCode = " +
                            code);
   };
   const int done =
       run(session.wsMain,
           {.count = 100'000'000, .step = step, .tell = [&](int) { return !toldToStop(arguments.at(0)); }});
-  tellDone(done);
+  report(word::done, done, 0);
   return 0;
 }
 
@@ -71,9 +62,7 @@ int startOnce(const QStringList& arguments) {
   StartUp startUp(here.session);
   const bool started = startUp.SubMain([&] { startUp.load(); });
   for (qsizetype i = 0; i < here.prompts.failures.size(); ++i)
-    report(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
-               .arg(here.prompts.failures.at(i))
-               .arg(here.prompts.failureTexts.at(i)));
+    report(word::told, here.prompts.failures.at(i), here.prompts.failureTexts.at(i));
   if (!started || !here.session.dbYear.isOpen()) return 4;
   startUp.shutDown();
   return 0;
@@ -83,10 +72,10 @@ int startOnce(const QStringList& arguments) {
 int startOver(const QStringList& arguments) {
   int starts = 0;
   for (; !toldToStop(arguments.at(0)); ++starts) {
-    if (starts == 1) report(QLatin1String(word::ready));
+    if (starts == 1) report(word::ready);
     if (const int failed = startOnce(arguments)) return failed;
   }
-  tellDone(starts);
+  report(word::done, starts, 0);
   return 0;
 }
 
@@ -109,11 +98,9 @@ int postAsAnyone(const QStringList& arguments) {
 /** ROOT: issues statements and invoices of March, all it can get, a few at a time until nothing is pending; tells each
  *  line and number it put on a paper. */
 int issueDocuments(const QStringList& arguments) {
-  Pc here(arguments.at(0));
-  here.open();
-  here.session.dbYear.Execute(u"Update Client Set Memo = Memo Where Code = 0"_s);
-  report(QLatin1String(word::ready));
-  const auto done = [] { return u"%1 "_s.arg(QLatin1String(word::line)); };
+  OpenPc here(arguments.at(0));
+  here.session.dbYear.Execute("Update Client Set Memo = Memo Where Code = 0");
+  report(word::ready);
   const auto first = [](const SpreadModel& grid, int codeCol) {
     std::vector<int> rows;
     for (int row = 1; row <= grid.MaxRows() && rows.size() < 7; ++row)
@@ -128,7 +115,7 @@ int issueDocuments(const QStringList& arguments) {
     const std::vector<int> rows = first(deals.grid(), DealCol::Code);
     if (rows.empty()) break;
     for (const int row : claimDeals(here.session, deals.grid(), rows, DealMark::SaleId))
-      report(done() + u"statement "_s + deals.grid().text(row, DealCol::Code));
+      report(word::line, "statement", deals.grid().text(row, DealCol::Code));
   }
   clsPrintTax tax(here.session.dbTax, taxStation(to));
   TaxGatherer gatherer(here.session, tax);
@@ -139,9 +126,9 @@ int issueDocuments(const QStringList& arguments) {
     sheet.listPending(tax, Vat::Included, TaxGathering::Daily);
     const std::vector<int> rows = first(sheet.grid(), TaxCol::TaxCode);
     if (rows.empty()) break;
-    const TaxIssueAsk ask{.gathering = TaxGathering::Daily, .serial = u"2603001"_s};
+    const TaxIssueAsk ask{.gathering = TaxGathering::Daily, .serial = "2603001"};
     for (const TaxInvoice& invoice : issuer.issue(sheet, rows, ask).issued)
-      report(done() + u"invoice "_s + invoice.serial + u' ' + invoice.dealDate + u' ' + invoice.clientCode);
+      report(word::line, "invoice", invoice.serial, invoice.dealDate, invoice.clientCode);
   }
   return 0;
 }

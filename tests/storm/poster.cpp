@@ -10,8 +10,6 @@
 #include "tests/storm/books.h"
 #include "trade/sale_entry.h"
 
-using namespace Qt::StringLiterals;
-
 namespace storm {
 namespace {
 
@@ -30,11 +28,11 @@ class Poster {
   void sell() {
     const SaleSheet sheet = below(4) == 0 ? SaleSheet::Material : SaleSheet::General;
     posting_.FillSaleGrid(sheet, true);
-    pickers_.client = {1 + below(clientCount), u"손님"_s};
-    pickers_.item = sheet == SaleSheet::Material ? ItemChoice{u"밸브"_s, u"15A"_s, 3000, 0}
-                    : below(2)                   ? ItemChoice{u"LPG"_s, u"20"_s, 41000, 0}
-                                                 : ItemChoice{u"LPG"_s, u"50"_s, 98000, 0};
-    const int row = entry_.enterKey(grid().MaxRows(), LineCol::Partner, u"손님"_s).row;
+    pickers_.client = {1 + below(clientCount), "손님"};
+    pickers_.item = sheet == SaleSheet::Material ? ItemChoice{"밸브", "15A", 3000, 0}
+                    : below(2)                   ? ItemChoice{"LPG", "20", 41000, 0}
+                                                 : ItemChoice{"LPG", "50", 98000, 0};
+    const int row = entry_.enterKey(grid().MaxRows(), LineCol::Partner, "손님").row;
     if (row == 0) return;
     const QStringList kinds = labelsOf(saleKinds(sheet));
     begin(row, [&] { entry_.finishCell(row, LineCol::Kind, kinds.at(below(int(kinds.size())))); });
@@ -53,8 +51,9 @@ class Poster {
   }
 
  private:
-  void say(const QString& text) const {
-    if (tells) report(text);
+  template <typename... Words>
+  void say(const char* word, const Words&... more) const {
+    if (tells) report(word, more...);
   }
   SpreadModel& grid() { return posting_.grid(); }
   QString key(int row) { return grid().text(row, LineCol::Key); }
@@ -69,7 +68,7 @@ class Poster {
   void begin(int row, const std::function<void()>& work) {
     timed(key(row), work);
     if (failed_ || key(row).isEmpty()) return;
-    tell(row, posting_.kinds().front().code, u"0 0 0"_s);
+    tell(row, posting_.kinds().front().code, "0 0 0");
   }
 
   /** A line whose step failed is left as it is; the operator would look first. */
@@ -84,19 +83,17 @@ class Poster {
   }
 
   void tell(int row, int kind, const QString& figures) {
-    say(u"%1 %2 %3 %4 %5"_s.arg(QLatin1String(word::line), key(row), grid().text(row, LineCol::Code))
-            .arg(kind)
-            .arg(figures));
+    say(word::line, key(row), grid().text(row, LineCol::Code), kind, figures);
   }
 
   void erase(int row) {
     const QString gone = key(row);
     timed(gone, [&] { posting_.deleteRow(row); });
-    if (!failed_) say(QLatin1String(word::gone) + u' ' + gone);
+    if (!failed_) say(word::gone, gone);
   }
 
   void timed(const QString& key, const std::function<void()>& work) {
-    say(QLatin1String(word::at) + u' ' + (key.isEmpty() ? u"0"_s : key));
+    say(word::at, key.isEmpty() ? "0" : key);
     QElapsedTimer since;
     since.start();
     const qsizetype before = here_.prompts.failures.size();
@@ -106,10 +103,7 @@ class Poster {
       here_.prompts.ErrorBox({}, error.number(), error.description());
     }
     failed_ = here_.prompts.failures.size() > before;
-    if (failed_)
-      say(u"%1 %2 %3"_s.arg(QLatin1String(word::told))
-              .arg(here_.prompts.failures.last())
-              .arg(here_.prompts.failureTexts.last()));
+    if (failed_) say(word::told, here_.prompts.failures.last(), here_.prompts.failureTexts.last());
     longest_ = std::max(longest_, since.elapsed());
     ++steps_;
   }
@@ -140,13 +134,12 @@ void postLines(Pc& here, quint32 seed, int steps) {
 }
 
 int runPoster(const QStringList& arguments) {
-  Pc here(arguments.at(0));
-  here.open();
+  OpenPc here(arguments.at(0));
   Poster poster(here, arguments.at(1).toUInt());
   const int steps = arguments.at(2).toInt();
-  report(QLatin1String(word::ready));
+  report(word::ready);
   while (steps == 0 || (poster.steps() < steps && poster.failures() < failuresBorne)) poster.sell();
-  report(u"%1 %2 %3"_s.arg(QLatin1String(word::done)).arg(poster.steps()).arg(poster.longest()));
+  report(word::done, poster.steps(), poster.longest());
   return 0;
 }
 

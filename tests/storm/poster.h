@@ -2,6 +2,7 @@
 // A process that posts: it works the sale screen's rules as an operator does and tells each finished step on its
 // standard output, so that the one who watches knows what must be in the books when it dies.
 #include <QStringList>
+#include <QVariant>
 
 #include "tests/idle_context.h"
 
@@ -38,8 +39,12 @@ struct Pc;
 /** So many steps of a poster, at once and without a report. */
 void postLines(Pc& here, quint32 seed, int steps);
 
-/** One line of a report, at once. */
+/** One line of a report, at once: a text, or words with blanks between. */
 void report(const QString& text);
+template <typename... Words>
+void report(const char* word, const Words&... more) {
+  report(QStringList{word, QVariant(more).toString()...}.join(' '));
+}
 
 /** The process's work: ROOT SEED STEPS; steps 0 works until it is killed, any other count at most until failures
  *  have become the rule. */

@@ -1,14 +1,12 @@
 #include "tests/storm/sweep.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 #include <memory>
 #include <optional>
 
 #include "app/start_up.h"
 #include "store/jet/error.h"
+#include "tests/files.h"
 #include "tests/store/old_books.h"
 #include "tests/storm/poster.h"
 #include "tests/storm/swept_works.h"
@@ -24,26 +22,19 @@ constexpr int faultsTold = 20;  ///< then a sweep gives up
 class Folder {
  public:
   explicit Folder(QString root) : root_(std::move(root)) {}
-  void take() {
-    files_.clear();
-    for (QDirIterator it(root_, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
-         it.hasNext();) {
-      QFile file(it.next());
-      if (file.open(QIODevice::ReadOnly)) files_[file.fileName()] = file.readAll();
-    }
-  }
+  void take() { files_ = tests::contentsOf(root_); }
   void layDown() const {
     QDir(root_).removeRecursively();
     for (auto at = files_.begin(); at != files_.end(); ++at) {
-      QDir().mkpath(QFileInfo(at.key()).path());
-      QFile file(at.key());
+      QFile file(root_ + '/' + at.key());
+      QDir().mkpath(QFileInfo(file).path());
       if (!file.open(QIODevice::WriteOnly) || file.write(at.value()) != at.value().size()) ::_exit(9);
     }
   }
 
  private:
   QString root_;
-  QHash<QString, QByteArray> files_;
+  QMap<QString, QByteArray> files_;
 };
 
 QString stateOf(const QString& root) {
@@ -52,7 +43,7 @@ QString stateOf(const QString& root) {
   const jet::Workspace workspace = openWorkspace(here.session, here.session.DbPath);
   // What a closing keeps of the file that it replaced lies there once more, under a dated name.
   for (const QString& name :
-       here.pc.paths.list(here.session.DbPath, u"*.mdb"_s).filter(QRegularExpression(u"^[^-]*$"_s)))
+       here.pc.paths.list(here.session.DbPath, "*.mdb").filter(QRegularExpression("^[^-]*$")))
     state += name + u'\n' + tests::dumpOf(workspace.OpenDatabase(here.session.DbPath + name));
   return state;
 }
@@ -62,7 +53,7 @@ QString difference(const QString& found, const QString& due) {
   const QStringList lines = found.split(u'\n'), others = due.split(u'\n');
   qsizetype at = 0;
   while (at < lines.size() && at < others.size() && lines.at(at) == others.at(at)) ++at;
-  return u": "_s + lines.value(at) + u" for "_s + others.value(at);
+  return ": " + lines.value(at) + " for " + others.value(at);
 }
 
 class Sweep {
@@ -120,10 +111,10 @@ class Sweep {
         if (found == states_.at(done + 1) && found != states_.at(done))
           return;  // what came behind it has failed
         if (found != states_.at(done))
-          return wrong(u"half of it stands"_s + difference(found, states_.at(done)));
+          return wrong("half of it stands" + difference(found, states_.at(done)));
       }
       for (; done < work->steps().size(); ++done)
-        if (!attempt(*here, *work, done)) return wrong(u"it does not go on when the disk is well"_s);
+        if (!attempt(*here, *work, done)) return wrong("it does not go on when the disk is well");
     }
     const bool mayBeQuiet = work->opensAnew() && (fault_ == DiskFault::Denied || fault_ == DiskFault::Short);
     work.reset();
@@ -134,10 +125,10 @@ class Sweep {
       makeWork(name_, next)->steps().front()();
     }
     if (const QString end = state(); end != states_.back())
-      wrong((told ? u"done again it is not what it should be"_s : u"it is not done, and nobody was told"_s) +
+      wrong((told ? "done again it is not what it should be" : "it is not done, and nobody was told") +
             difference(end, states_.back()));
-    if (name_.endsWith(u"start"_s)) return;
-    if (const QStringList faults = faultsOf(root_); !faults.isEmpty()) wrong(faults.join(u"; "_s));
+    if (name_.endsWith("start")) return;
+    if (const QStringList faults = faultsOf(root_); !faults.isEmpty()) wrong(faults.join("; "));
   }
 
   QString state() const { return stateOf(root_) + leftBeside(name_, root_); }
@@ -156,7 +147,7 @@ class Sweep {
     }
     notices_ = here.prompts.told;
     if (!here.prompts.failures.isEmpty())
-      report(u"fault the work itself: "_s + here.prompts.failureTexts.join(u' '));
+      report("fault the work itself: " + here.prompts.failureTexts.join(u' '));
   }
 
   /** True when a step ran to its end without a word. */
@@ -179,12 +170,12 @@ class Sweep {
   void checkTexts(const Pc& here, const std::function<void(const QString&)>& wrong) const {
     if (fault_ == DiskFault::Short && lasting_) return;
     for (const QString& text : here.prompts.failureTexts + here.prompts.told)
-      if (text.contains(u"손상"_s)) wrong(u"damage is told"_s);
+      if (text.contains("손상")) wrong("damage is told");
   }
 
   void tell(long place, size_t done, const Pc& here, const QString& what) {
     if (++wrong_ > faultsTold) return;
-    const QString told = (here.prompts.told + here.prompts.failureTexts).join(u" / "_s);
+    const QString told = (here.prompts.told + here.prompts.failureTexts).join(" / ");
     report(u"fault %1 at %2, step %3: %4 [%5]"_s.arg(name_).arg(place).arg(done).arg(
         what, QString(told).replace(u'\n', u' ')));
   }

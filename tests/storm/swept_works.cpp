@@ -22,8 +22,6 @@
 #include "tests/storm/sweep.h"
 #include "trade/sale_entry.h"
 
-using namespace Qt::StringLiterals;
-
 namespace storm {
 namespace {
 
@@ -32,17 +30,17 @@ constexpr int newReading = 150;
 struct Posting : Work {
   explicit Posting(Pc& here) : posting(here.session) {
     posting.FillSaleGrid(SaleSheet::General, true);
-    pickers.client = {7, u"손님7"_s};
-    pickers.item = {u"LPG"_s, u"20"_s, 41000, 0};
-    steps_ = {[this] { chooseClient(); }, [this] { entry.finishCell(row, LineCol::Kind, u"가스"_s); },
+    pickers.client = {7, "손님7"};
+    pickers.item = {"LPG", "20", 41000, 0};
+    steps_ = {[this] { chooseClient(); }, [this] { entry.finishCell(row, LineCol::Kind, "가스"); },
               [this] { entry.enterKey(row, LineCol::Item, {}); },
-              [this] { entry.finishCell(row, LineCol::Number, u"3"_s); },
-              [this] { entry.finishCell(row, LineCol::Paid, u"20000"_s); }};
+              [this] { entry.finishCell(row, LineCol::Number, "3"); },
+              [this] { entry.finishCell(row, LineCol::Paid, "20000"); }};
   }
   /** The sheet then shows the customer's lines, with a free row. */
   void chooseClient() {
     const int last = posting.grid().MaxRows();
-    if (const int chosen = entry.enterKey(last, LineCol::Partner, u"손님"_s).row) row = chosen;
+    if (const int chosen = entry.enterKey(last, LineCol::Partner, "손님").row) row = chosen;
   }
   ChosenPickers pickers;
   tests::IdleCalls calls;
@@ -54,8 +52,7 @@ struct Posting : Work {
 struct Deleting : Work {
   explicit Deleting(Pc& here) : posting(here.session) {
     posting.FillSaleGrid(SaleSheet::General, true);
-    for (const QString& kind : {u"가스"_s, u"용대"_s, u"수금"_s})
-      steps_.push_back([this, kind] { erase(kind); });
+    for (const QString kind : {"가스", "용대", "수금"}) steps_.push_back([this, kind] { erase(kind); });
   }
   /** The line that stands in the first row of a kind; when it is gone from the book, its deletion is done. */
   void erase(const QString& kind) {
@@ -71,7 +68,7 @@ struct Deleting : Work {
 
 struct Reading : Work {
   explicit Reading(Pc& here) : sheet(here.session) {
-    here.session.DelayCalcFlag = u"0"_s;
+    here.session.DelayCalcFlag = "0";
     readRateBook(here.session);
     sheet.month = readMonth;
     fillBuildings(sheet);
@@ -100,7 +97,7 @@ struct Building : Work {
 
 struct Collecting : Work {
   explicit Collecting(Pc& here) : import(here.session) {
-    steps_ = {[this] { import.run(u"2026"_s, u"03"_s); }};
+    steps_ = {[this] { import.run("2026", "03"); }};
   }
   bool hasMoreStates() const override { return true; }
   CollectionImport import;
@@ -115,8 +112,8 @@ struct Closing : Work {
 
 void bill(ClientEntry& boxes) {
   boxes.volume = true;
-  boxes.pressure = u"10"_s;
-  boxes.volumeUnit = u"2000"_s;
+  boxes.pressure = "10";
+  boxes.volumeUnit = "2000";
 }
 
 struct Registering : Work {
@@ -124,13 +121,13 @@ struct Registering : Work {
     clients.loadPage(HouseStyle::Individual);
     steps_ = {[this] {
                 ClientEntry boxes = clients.beginNew();
-                boxes.name = u"국밥집"_s;
+                boxes.name = "국밥집";
                 bill(boxes);
                 clients.save(boxes);
               },
               [this] {
                 ClientEntry boxes = clients.select(3);
-                boxes.memo = u"단골"_s;
+                boxes.memo = "단골";
                 bill(boxes);
                 clients.save(boxes);
               },
@@ -147,7 +144,7 @@ struct Starting : Work {
     steps_ = {[this] {
       // One who did not come to the sign-in has not started, whether or not a box has told why.
       if (!startUp.SubMain([this] { startUp.load(); }) || !here.session.dbYear.isOpen())
-        here.prompts.MsgWarn(u"not started"_s, {});
+        here.prompts.MsgWarn("not started", {});
       startUp.shutDown();
     }};
   }
@@ -172,7 +169,7 @@ struct Restoring : Work {
   explicit Restoring(Pc& on) : here(on) {
     steps_ = {[this] {
       const QString archive = archivesOf(here.pc.paths, backup::readSettings(here.pc)).value(0).path;
-      if (archive.isEmpty()) throw jet::Error(backup::notAnArchive, u"백업이 없음"_s);
+      if (archive.isEmpty()) throw jet::Error(backup::notAnArchive, "백업이 없음");
       finishSwap(here.pc.paths, here.session.DbPath);
       const backup::ArchiveFacts facts = backup::verify(here.pc.paths.native(archive), {});
       auto held = hold(here);
@@ -198,9 +195,8 @@ void copyFolder(const QString& from, const QString& to) {
 }  // namespace
 
 const QStringList& sweptWorks() {
-  static const QStringList works{u"post"_s,  u"delete"_s,      u"read"_s,    u"recalculate"_s,
-                                 u"build"_s, u"collect"_s,     u"client"_s,  u"close"_s,
-                                 u"start"_s, u"first-start"_s, u"back-up"_s, u"restore"_s};
+  static const QStringList works{"post",   "delete", "read",  "recalculate", "build",   "collect",
+                                 "client", "close",  "start", "first-start", "back-up", "restore"};
   return works;
 }
 
@@ -211,7 +207,7 @@ void makeBooksFor(const QString& work, const QString& root) {
     tests::TestPc old;
     tests::makeOldBooks(old);
     const QString folder = old.pc.paths.native(here.session.DbPath);
-    QFile::remove(folder + u"/2026Foundation.mdb"_s);
+    QFile::remove(folder + "/2026Foundation.mdb");
     copyFolder(folder, here.pc.paths.native(here.session.DbPath));
     return;
   }
@@ -220,7 +216,7 @@ void makeBooksFor(const QString& work, const QString& root) {
   if (work == u"recalculate" || work == u"collect") {
     Reading reading(here);
     for (const auto& step : reading.steps()) step();
-    here.session.dbBasic.Execute(u"Update User Set Security = 1500"_s);
+    here.session.dbBasic.Execute("Update User Set Security = 1500");
   }
   if (work == u"close") {
     writeDecember(here, 5);
@@ -234,7 +230,7 @@ void makeBooksFor(const QString& work, const QString& root) {
     postLines(here, 6, 10);
     here.close();
   }
-  QFile file(here.pc.paths.native(u"C:\\RWGas\\202603.txt"_s));
+  QFile file(here.pc.paths.native("C:\\RWGas\\202603.txt"));
   if (!file.open(QIODevice::WriteOnly)) return;
   for (const int client : {1, 2, 3}) file.write(payment(clientCount + client, 1000 * client));
 }
@@ -249,7 +245,7 @@ QString leftBeside(const QString& work, const QString& root) {
 }
 
 std::unique_ptr<Work> makeWork(const QString& work, Pc& here) {
-  if (work.endsWith(u"start"_s)) return std::make_unique<Starting>(here);
+  if (work.endsWith("start")) return std::make_unique<Starting>(here);
   if (work == u"back-up") return std::make_unique<Packing>(here);
   if (work == u"restore") return std::make_unique<Restoring>(here);
   here.open();

@@ -1,15 +1,12 @@
 // Data files that are cut short, overwritten with noise, or none at all: an error in words, never a crash, and the
 // other files stay as they are.
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include "store/data_access.h"
 #include "store/jet/connection.h"
 #include "store/jet/error.h"
+#include "tests/files.h"
 #include "tests/storm/child.h"
 #include "tests/storm/pcs.h"
 #include "tests/storm/poster.h"
@@ -18,9 +15,7 @@
 namespace storm {
 namespace {
 
-using namespace Qt::StringLiterals;
-
-const QStringList dataFiles{u"Basic.mdb"_s, u"2026Foundation.mdb"_s};
+const QStringList dataFiles{"Basic.mdb", "2026Foundation.mdb"};
 
 struct Torn : testing::Test {
   QTemporaryDir folder;
@@ -29,20 +24,14 @@ struct Torn : testing::Test {
 
   void SetUp() override {
     Pc(folder.path()).makeBooks();
-    Child child({u"--pc"_s, u"post"_s, folder.path(), u"11"_s, u"120"_s});
+    Child child({"post", folder.path(), "11", "120"});
     ASSERT_TRUE(child.finish(120000));
-    data = Pc(folder.path()).pc.paths.native(u"C:\\RWGas\\Dbs"_s);
-    for (const QString& name : dataFiles) {
-      QFile file(data + u'/' + name);
-      ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-      whole[name] = file.readAll();
-    }
+    data = Pc(folder.path()).pc.paths.native("C:\\RWGas\\Dbs");
+    for (const QString& name : dataFiles) whole[name] = tests::bytesOf(data + u'/' + name);
   }
   void write(const QString& name, const QByteArray& bytes) {
-    for (const char* leftover : {"", "-journal"}) QFile::remove(data + u'/' + name + QLatin1String(leftover));
-    QFile file(data + u'/' + name);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
+    for (const char* leftover : {"", "-journal"}) QFile::remove(data + u'/' + name + leftover);
+    tests::writeFile(data + u'/' + name, bytes);
   }
   void mend() {
     for (const QString& name : dataFiles) write(name, whole[name]);
@@ -63,7 +52,7 @@ struct Torn : testing::Test {
     attempt([&] { here.open(); });
     attempt([&] {  // what the start could not open is tried alone
       if (!session.dbYear.isOpen())
-        session.dbYear = session.wsMain.OpenDatabase(session.DbPath + u"2026Foundation.mdb"_s);
+        session.dbYear = session.wsMain.OpenDatabase(session.DbPath + "2026Foundation.mdb");
     });
     if (!session.dbYear.isOpen()) return failures;
     SaleBook posting(session);
@@ -75,14 +64,13 @@ struct Torn : testing::Test {
         for (const jet::TableDef& table : file->TableDefs()) names << table.name;
       });
       for (const QString& name : names)
-        attempt([&] { file->OpenRecordset(u"Select * From ["_s + name + u']'); });
+        attempt([&] { file->OpenRecordset("Select * From [" + name + u']'); });
     }
     attempt(
-        [&] { session.dbYear.Execute(u"Insert Into Sale(SaleDate, ClientCode) Values('2026-03-05', 1)"_s); });
-    attempt([&] {
-      session.dbYear.Execute(u"Update Client Set GasInit = GasInit + 1 Where Name Like '손님1*'"_s);
-    });
-    attempt([&] { session.dbYear.Execute(u"Delete From Sale Where ClientCode = 3"_s); });
+        [&] { session.dbYear.Execute("Insert Into Sale(SaleDate, ClientCode) Values('2026-03-05', 1)"); });
+    attempt(
+        [&] { session.dbYear.Execute("Update Client Set GasInit = GasInit + 1 Where Name Like '손님1*'"); });
+    attempt([&] { session.dbYear.Execute("Delete From Sale Where ClientCode = 3"); });
     for (qsizetype i = 0; i < here.prompts.failures.size(); ++i)
       failures << jet::Error(here.prompts.failures.at(i), here.prompts.failureTexts.at(i));
     return failures;
@@ -133,8 +121,7 @@ TEST_F(Torn, ASpoiledFileEndsInWordsAndLeavesTheOthersAlone) {
     refused += !failures.isEmpty();
     for (const jet::Error& failure : failures) {
       ++numbers[failure.number()];
-      EXPECT_TRUE(std::any_of(failure.description().begin(), failure.description().end(),
-                              [](QChar c) { return c.script() == QChar::Script_Hangul; }))
+      EXPECT_TRUE(isKorean(failure.description()))
           << failure.number() << ' ' << failure.description().toStdString();
     }
     jet::Connection connection(data + u'/' + other, 0);
