@@ -9,6 +9,8 @@
 #include "master/buildings/building_households.h"
 #include "store/rate_book.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int price = 2450, fee = 1000;
@@ -105,7 +107,7 @@ void monthPair(int size, bench::Side& ours, bench::Side& plain) {
   ours.run = [books, sheet] { recalculate(*sheet, {}); };
   ours.outcome = [books] {
     return bench::rowsOf(books->session.dbYear,
-                         QStringLiteral("Select %1 From Evaporation Where Mon > 2").arg(billColumns));
+                         u"Select %1 From Evaporation Where Mon > 2"_s.arg(billColumns));
   };
   plain.run = [beside, byHand, size] {
     bench::exec(beside->db(), "BEGIN IMMEDIATE");
@@ -131,14 +133,14 @@ void buildingPair(int size, bench::Side& ours, bench::Side& plain) {
   for (int unit = 0; unit < size; ++unit) units << QString::number(100 + unit);
   ours.run = [books, units, turn] {
     Building block;
-    block.name = QStringLiteral("달빛아파트");
+    block.name = "달빛아파트";
     block.dong = QString::number(++*turn);
-    block.postCode = QStringLiteral("712-010");
-    block.address = QStringLiteral("경북 달빛시 장터동 1");
+    block.postCode = "712-010";
+    block.address = "경북 달빛시 장터동 1";
     block.metered = true;
-    block.pressure = QStringLiteral("4");
+    block.pressure = "4";
     block.unitPrice = QString::number(price);
-    block.lateRate = QStringLiteral("2");
+    block.lateRate = "2";
     makeBuilding(books->session, block, units, {});
   };
   sqlite3_stmt* client = beside->prepare(
@@ -172,8 +174,8 @@ void buildingPair(int size, bench::Side& ours, bench::Side& plain) {
   };
   ours.outcome = [books] {
     return bench::rowsOf(books->session.dbYear,
-                         QStringLiteral("Select BDName, Ho, Mon From Client Inner Join Evaporation On "
-                                        "Client.Code = Evaporation.ClientCode"));
+                         u"Select BDName, Ho, Mon From Client Inner Join Evaporation On "
+                         "Client.Code = Evaporation.ClientCode"_s);
   };
   plain.outcome = [beside] {
     return bench::rowsOf(

@@ -7,6 +7,8 @@
 #include "briefs/brief_run.h"
 #include "trade/briefs/trade_briefs.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int clients = 10000;
@@ -43,8 +45,7 @@ bench::Rows monthCells(sqlite3_stmt* days) {
   bench::Rows rows;
   for (size_t at = 0; at < months.size(); ++at) {
     const Month& of = months[at];
-    std::vector<QString>& cells =
-        rows.emplace_back(std::vector{QStringLiteral("%1월").arg(at + 1, 2, 10, QChar(u'0'))});
+    std::vector<QString>& cells = rows.emplace_back(std::vector{u"%1월"_s.arg(at + 1, 2, 10, QChar(u'0'))});
     addFigures(cells, of.pieces, of.discount, of.income, of.trust);
     cells.insert(cells.begin() + 2, QString::number(of.kilograms, 'g', 15));
   }
@@ -62,8 +63,7 @@ bench::Rows dayCells(sqlite3_stmt* days) {
 }
 
 bench::Rows clientCells(sqlite3_stmt* clients) {
-  const QString kinds[] = {QStringLiteral("일반/식당"), QStringLiteral("아 파 트"),
-                           QStringLiteral("다 가 구")};
+  const QString kinds[] = {"일반/식당", "아 파 트", "다 가 구"};
   bench::Rows rows;
   while (sqlite3_step(clients) == SQLITE_ROW) {
     const auto whole = [clients](int column) { return sqlite3_column_int64(clients, column); };

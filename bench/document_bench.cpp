@@ -12,6 +12,8 @@
 #include "tests/recorded_print.h"
 #include "ui/paper/printers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int clients = 1000;
@@ -118,7 +120,7 @@ class PlainGathering {
       const qint64 amount = sqlite3_column_int64(sums_, 2) - sqlite3_column_int64(sums_, 9);
       if (amount == 0) continue;
       const VatSplit split = splitAmount(amount, Vat::Included);
-      bench::bindText(insert_, 1, QStringLiteral("2603%1").arg(++number, 3, 10, QChar(u'0')));
+      bench::bindText(insert_, 1, u"2603%1"_s.arg(++number, 3, 10, QChar(u'0')));
       for (const auto& [to, from] :
            {std::pair{2, 7}, {3, 1}, {4, 4}, {5, 8}, {6, 5}, {7, 6}, {11, 0}, {12, 3}})
         sqlite3_bind_value(insert_, to, sqlite3_column_value(sums_, from));
@@ -189,8 +191,8 @@ std::shared_ptr<bench::Books> booksWithLinesEach(int customers, int linesEach) {
   books->session.dbYear.Together([&] {
     for (int line = 0; line < customers * linesEach; ++line)
       books->session.dbYear.Execute(
-          QString("Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, "
-                  "SaleNum, SaleGubun) Values('2026-03-02', %1, 'LPG', '20', 34500, %2, 1)")
+          u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, "
+          "SaleNum, SaleGubun) Values('2026-03-02', %1, 'LPG', '20', 34500, %2, 1)"_s
               .arg(1 + line / linesEach)
               .arg(1 + line % 9));
   });

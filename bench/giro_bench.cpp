@@ -11,10 +11,12 @@
 #include "tests/recorded_print.h"
 #include "ui/paper/printers.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 GiroInput slipInput() {
-  return {"2026", "03", "31", "2026.02.01", "2026.02.28", {QStringLiteral("가스를 아껴 씁시다.")}};
+  return {"2026", "03", "31", "2026.02.01", "2026.02.28", {"가스를 아껴 씁시다."}};
 }
 
 void slipPair(int size, bench::Side& ours, bench::Side& plain) {
@@ -24,8 +26,7 @@ void slipPair(int size, bench::Side& ours, bench::Side& plain) {
   auto screen = std::make_shared<tests::ReadingRows>();
   screen->shownBook = HouseStyle::Apartment;
   for (int row = 1; row <= size; ++row)
-    screen->add(QStringLiteral("101동 %1호").arg(row), QString::number(row),
-                QString::number(50000 + row * 10));
+    screen->add(u"101동 %1호"_s.arg(row), QString::number(row), QString::number(50000 + row * 10));
   auto slipsOf = std::make_shared<GiroSlips>(session, [screen] { return screen.get(); });
   slipsOf->setPaper(GiroPaper::OcrA4);
 

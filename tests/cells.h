@@ -21,7 +21,7 @@ inline QStringList columnOf(const SpreadModel& grid, int col) {
 }
 
 /** Every row, its cells with a mark between. */
-inline QStringList rowsOf(const SpreadModel& grid, const QString& mark = QStringLiteral("|")) {
+inline QStringList rowsOf(const SpreadModel& grid, const QString& mark = "|") {
   QStringList rows;
   for (int row = 1; row <= grid.MaxRows(); ++row) rows << cellsOf(grid, row).join(mark);
   return rows;

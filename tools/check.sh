@@ -31,7 +31,7 @@ hits=$(grep -nE '\b(Get|Save)Setting\(' $(sources . | grep -vE '^(tests/|pc/sett
 [ -z "$hits" ] || { echo "$hits"; say "a setting is read or written past store/settings_table"; }
 
 # One habit for literals (CONTRIBUTING.md).
-hits=$(grep -nE '\bQStringLiteral\(|(^|[^:A-Za-z_])QString\("' $subjects || true)
+hits=$(grep -nE '\bQStringLiteral\(|(^|[^:A-Za-z_])QString\("' $(sources .) || true)
 [ -z "$hits" ] || { echo "$hits"; say "a literal is u\"...\"_s, or plain where it converts by itself"; }
 
 # Nothing joined into a statement leaves its place.

@@ -8,6 +8,8 @@
 
 namespace tests {
 
+using namespace Qt::StringLiterals;
+
 /** The clock stands on 2026-03-05 unless a test says otherwise; sums are cut to ten won (rule 1). */
 struct MeterDesk {
   TestPc pc;
@@ -29,34 +31,29 @@ struct MeterDesk {
   /** Fields parted by "|", rows by ";". */
   QString rows(const QString& sql) { return rowsOf(session.dbYear, sql); }
   QString field(const QString& column, int code, int month) {
-    return rows(QString("Select %1 From Evaporation Where ClientCode = %2 And Mon = %3")
-                    .arg(column, QString::number(code), QString::number(month)));
+    return rows(u"Select %1 From Evaporation Where ClientCode = %2 And Mon = %3"_s.arg(
+        column, QString::number(code), QString::number(month)));
   }
   void payState(int rule) { basic("Update User Set PayState = " + QString::number(rule)); }
 
   /** A customer with rows 0 to 12; style 0, 1 or 2. His code. */
   int customer(const QString& name, int price, int style = 0, const QString& building = {},
                const QString& dong = {}, const QString& ho = {}) {
-    const auto quoted = [](const QString& text) {
-      return text.isNull() ? QString("Null") : "'" + text + "'";
-    };
-    basic(QString(
-              "Insert Into Client(Name, HouseStyle, VolumeYesNo, VolumeUnit, BDName, Dong, Ho, Tel, Address) "
-              "Values('%1', %2, True, %3, %4, %5, %6, '053-1', '대구')")
-              .arg(name, QString::number(style), QString::number(price), quoted(building), quoted(dong),
-                   quoted(ho)));
+    const auto quoted = [](const QString& text) { return text.isNull() ? u"Null"_s : "'" + text + "'"; };
+    basic(
+        u"Insert Into Client(Name, HouseStyle, VolumeYesNo, VolumeUnit, BDName, Dong, Ho, Tel, Address) "
+        "Values('%1', %2, True, %3, %4, %5, %6, '053-1', '대구')"_s.arg(
+            name, QString::number(style), QString::number(price), quoted(building), quoted(dong),
+            quoted(ho)));
     const int code = int(session.dbBasic.OpenRecordset("Select Max(Code) As C From Client")[0].toLong());
     session.wsMain.Together([&] {
       for (int month = 0; month <= 12; ++month)
-        run(QString("Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)").arg(code).arg(month));
+        run(u"Insert Into Evaporation(ClientCode, Mon) Values(%1, %2)"_s.arg(code).arg(month));
     });
     return code;
   }
   void set(int code, int month, const QString& columns) {
-    run(QString("Update Evaporation Set %1 Where ClientCode = %2 And Mon = %3")
-            .arg(columns)
-            .arg(code)
-            .arg(month));
+    run(u"Update Evaporation Set %1 Where ClientCode = %2 And Mon = %3"_s.arg(columns).arg(code).arg(month));
   }
 
   void show(HouseStyle book, int month, int building = 0) {

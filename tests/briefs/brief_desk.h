@@ -8,6 +8,8 @@
 
 namespace tests {
 
+using namespace Qt::StringLiterals;
+
 /** 31 March 2026; customers 1 김하나 (plain), 2 한빛 101-202 (apartment), 3 박셋 (metered). */
 struct BriefDesk {
   TestPc pc;
@@ -42,19 +44,19 @@ struct BriefDesk {
   };
   void sale(const Line& line) { sale(session.dbYear, line); }
   void sale(const jet::Database& file, const Line& line) {
-    file.Execute(QString("Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, Trust, "
-                         "DC, SaleName, SaleThing, Response, SaleUnit) Values('%1', %2, %3, %4, %5, %6, %7, "
-                         "%8, '%9', '%10', '%11', %12)")
-                     .arg(line.day)
-                     .arg(line.client)
-                     .arg(line.kind)
-                     .arg(line.client == 3 && line.kind < 7 ? "True" : "False")
-                     .arg(line.pieces)
-                     .arg(line.income)
-                     .arg(line.trust)
-                     .arg(line.discount)
-                     .arg(line.item, line.size, line.person)
-                     .arg(line.unit));
+    file.Execute(
+        u"Insert Into Sale(SaleDate, ClientCode, SaleGubun, Gubun, SaleNum, Income, Trust, DC, "
+        "SaleName, SaleThing, Response, SaleUnit) Values('%1', %2, %3, %4, %5, %6, %7, %8, "
+        "'%9', '%10', '%11', %12)"_s.arg(line.day)
+            .arg(line.client)
+            .arg(line.kind)
+            .arg(line.client == 3 && line.kind < 7 ? "True" : "False")
+            .arg(line.pieces)
+            .arg(line.income)
+            .arg(line.trust)
+            .arg(line.discount)
+            .arg(line.item, line.size, line.person)
+            .arg(line.unit));
   }
 
   /** Shown cells of every row with "|" between, the sum's too. */

@@ -8,6 +8,8 @@
 
 namespace tests {
 
+using namespace Qt::StringLiterals;
+
 /** Words of a drawn form, parted by "|", at one x and their ys or the other way round. */
 struct Words {
   const char* words;
@@ -39,10 +41,8 @@ struct DocumentDesk : testing::Test {
     const jet::Database file =
         date.startsWith(session.WorkYear) ? session.dbYear : openYear(session, date.left(4));
     file.Execute(
-        QStringLiteral(
-            "Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, DC) "
-            "Values('%1', %2, '%3', '20', %4, %5, %6, %7)")
-            .arg(date)
+        u"Insert Into Sale(SaleDate, ClientCode, SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, DC) "
+        "Values('%1', %2, '%3', '20', %4, %5, %6, %7)"_s.arg(date)
             .arg(client)
             .arg(goods.name)
             .arg(unit)

@@ -7,6 +7,8 @@
 
 namespace tests {
 
+using namespace Qt::StringLiterals;
+
 inline QString places13(const QString& text) {
   return QString(13 - text.size(), u' ') + text;
 }
@@ -50,7 +52,7 @@ struct SlipDesk : GiroBooks {
   /** A page's text at a row and column, without the blanks around it. */
   QString at(double row, double column, int page = 1) {
     const auto* item = job().at(page, column / 15, row / 8);
-    return item ? item->text.trimmed() : QString("nothing");
+    return item ? item->text.trimmed() : u"nothing"_s;
   }
   /** Every text of a page at its place and in its letters, and no other. slips: those of the sheet, one below the other;
    *  a line is a row of the paper, "5.4 | 9 #60,590 | 76 0001234": a column and what begins there. # is a figure in 13
@@ -104,7 +106,7 @@ struct SlipDesk : GiroBooks {
     pc::PrintFont font{letters, 10, false};
     QString text = marked;
     const QChar mark = text.front();
-    if (QString("#*=").contains(mark)) text.remove(0, 1);
+    if (u"#*="_s.contains(mark)) text.remove(0, 1);
     if (mark == u'=') font = {"OCR-B-1", 12, false};
     if (mark == u'*') font.points = 8;
     // Letters of one width are filled up with blanks, others end at the same edge by measure.

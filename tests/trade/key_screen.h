@@ -17,7 +17,7 @@ struct KeyScreen : testing::Test, Desk {
 
   KeyScreen() {
     search.setContext(context);
-    this->pc.session.dbBasic.Execute(QStringLiteral("Insert Into Response(Name) Values('홍길동')"));
+    this->pc.session.dbBasic.Execute("Insert Into Response(Name) Values('홍길동')");
   }
   void open() {
     form.emplace(context);

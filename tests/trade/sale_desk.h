@@ -10,6 +10,8 @@
 
 namespace tests {
 
+using namespace Qt::StringLiterals;
+
 /** Answers the searches from a queue and notes in asked: "client TEXT mode whole", "item KIND" or "purchase KIND",
  *  "person", "station". */
 class TradePickers : public IdlePickers {
@@ -20,19 +22,19 @@ class TradePickers : public IdlePickers {
   std::function<void()> during;
 
   std::optional<ClientChoice> searchClient(const QString& text, ClientSearchMode mode, bool whole) override {
-    asked << QStringLiteral("client %1 %2 %3").arg(text).arg(int(mode)).arg(int(whole));
+    asked << u"client %1 %2 %3"_s.arg(text).arg(int(mode)).arg(int(whole));
     return take(clients);
   }
   std::optional<ItemChoice> searchSize(const QString& kind, TradeSide side) override {
-    asked << (side == TradeSide::Sale ? QStringLiteral("item ") : QStringLiteral("purchase ")) + kind;
+    asked << (side == TradeSide::Sale ? "item " : "purchase ") + kind;
     return take(items);
   }
   std::optional<QString> searchResponse() override {
-    asked << QStringLiteral("person");
+    asked << "person";
     return take(persons);
   }
   std::optional<QString> searchRefill() override {
-    asked << QStringLiteral("station");
+    asked << "station";
     return take(refills);
   }
 
