@@ -119,6 +119,7 @@ TEST_F(FleetTest, ADeletionAsksAndSparesWhatMoved) {
   prompts.expect(question);
   prompts.expect("삭제하지 않았습니다");
   EXPECT_TRUE(log.remove(1));
+  EXPECT_EQ(log.grid().text(1, CarCol::Money), "60000") << "read anew, to be looked at";
   log.finishCell(2, CarCol::Day, "2026-01-02");
   log.finishCell(2, CarCol::Content, "세차");
   prompts.expect(question);
