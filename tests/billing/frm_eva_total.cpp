@@ -18,6 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using tests::part, tests::press;
+
 struct EvaTotalForm : testing::Test, tests::MeterDesk {
   EvaTotalForm() : MeterDesk(QDate(2026, 5, 20)) {
     session.RptPath = "C:\\RWGas\\RPT\\";
@@ -43,10 +45,7 @@ struct EvaTotalForm : testing::Test, tests::MeterDesk {
               .arg(each % 3 == 0 ? "05/12" : ""));
     }
   }
-  QString label(const BriefForm& form, const char* name) { return form.findChild<QLabel*>(name)->text(); }
-  void press(BriefForm& form, const char* name) {
-    QTest::mouseClick(form.findChild<QPushButton*>(name), Qt::LeftButton);
-  }
+  QString label(const BriefForm& form, const char* name) { return part<QLabel>(form, name)->text(); }
 
   ReportViewer viewer{session};
   PcPrinters printers{pc.pc};
@@ -57,9 +56,9 @@ TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
   session.CheckKind = HouseStyle::Individual;
   BriefForm form(idle.context, evaTotalBrief());
   tests::show(form);
-  EXPECT_EQ(form.findChild<QTabBar*>("TabEvaTotal")->currentIndex(), 0);
-  EXPECT_FALSE(form.findChild<QComboBox*>("CboGubun")->isVisible());
-  EXPECT_EQ(form.findChild<QComboBox*>("CboMonFrom")->currentText(), "05월");
+  EXPECT_EQ(part<QTabBar>(form, "TabEvaTotal")->currentIndex(), 0);
+  EXPECT_FALSE(part<QComboBox>(form, "CboGubun")->isVisible());
+  EXPECT_EQ(part<QComboBox>(form, "CboMonFrom")->currentText(), "05월");
   press(form, "BtnRefresh");
   EXPECT_EQ(label(form, "PnlPeriod"), "05월");
   EXPECT_EQ(label(form, "PnlPrev"), "12,000");
@@ -67,9 +66,9 @@ TEST_F(EvaTotalForm, OpensOnTheBookOfTheMenuAndShowsItsSums) {
   EXPECT_EQ(label(form, "PnlRemain"), "35,800");
 
   form.showPage("2");
-  EXPECT_TRUE(form.findChild<QComboBox*>("CboGubun")->isVisible());
+  EXPECT_TRUE(part<QComboBox>(form, "CboGubun")->isVisible());
   EXPECT_EQ(label(form, "PnlRemain"), "0") << "another book begins empty";
-  form.findChild<QComboBox*>("CboGubun")->setFocus();
+  part<QComboBox>(form, "CboGubun")->setFocus();
   for (int step = 0; step < 5; ++step) tests::key(Qt::Key_Return);  // building, block, room, from, to
   EXPECT_EQ(label(form, "PnlPrev"), "2,400,000") << "Enter in the last box asks";
   form.resize(form.sizeHint());
@@ -84,17 +83,17 @@ TEST_F(EvaTotalForm, CollectionDaysAreAskedForWhenTickedAndTheTickStays) {
   {
     BriefForm form(idle.context, evaTotalBrief());
     tests::show(form);
-    EXPECT_FALSE(form.findChild<QWidget*>("TxtDayFrom")->isVisible());
-    form.findChild<QCheckBox*>("chkSuKum")->click();
-    EXPECT_TRUE(form.findChild<QWidget*>("TxtDayFrom")->isVisible());
-    EXPECT_FALSE(form.findChild<QWidget*>("CboMonFrom")->isVisible());
+    EXPECT_FALSE(part<QWidget>(form, "TxtDayFrom")->isVisible());
+    press(form, "chkSuKum");
+    EXPECT_TRUE(part<QWidget>(form, "TxtDayFrom")->isVisible());
+    EXPECT_FALSE(part<QWidget>(form, "CboMonFrom")->isVisible());
     press(form, "BtnRefresh");
     EXPECT_EQ(label(form, "PnlPeriod"), "05/01 ~ 05/20");
     EXPECT_EQ(label(form, "PnlIncome"), "800,000") << "twenty times 40,000";
     tests::grab(form, "frmEvaTotal-collections");
   }
   BriefForm again(idle.context, evaTotalBrief());
-  EXPECT_TRUE(again.findChild<QCheckBox*>("chkSuKum")->isChecked());
+  EXPECT_TRUE(part<QCheckBox>(again, "chkSuKum")->isChecked());
 }
 
 TEST_F(EvaTotalForm, F10ShowsThePaper) {
@@ -108,7 +107,7 @@ TEST_F(EvaTotalForm, F10ShowsThePaper) {
   tests::key(Qt::Key_F10);
   ASSERT_TRUE(viewer.window());
   EXPECT_EQ(viewer.window()->windowTitle(), "체적검침조회");
-  QTest::mouseClick(viewer.window()->findChild<QPushButton*>("BtnPdf"), Qt::LeftButton);
+  press(*viewer.window(), "BtnPdf");
   EXPECT_GT(QFileInfo(file).size(), 1000);
   delete viewer.window();
 }

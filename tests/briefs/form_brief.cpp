@@ -18,6 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using tests::part;
+
 struct BriefWindow : testing::Test, tests::BriefDesk {
   BriefWindow() {
     for (int day = 1; day <= 20; ++day)
@@ -35,10 +37,6 @@ struct BriefWindow : testing::Test, tests::BriefDesk {
     return nullptr;
   }
   static int pageOf(BriefForm& form) { return form.findChild<QTabBar*>()->currentIndex(); }
-  template <class T>
-  static T* box(BriefForm& form, const char* name) {
-    return form.findChild<T*>(name);
-  }
 
   tests::IdleContext idle{session};
   tests::IdlePickers& pickers = idle.pickers;
@@ -49,9 +47,9 @@ TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
   BriefForm form(idle.context, lpgSaleBrief());
   form.showPage("month");
   tests::show(form);
-  EXPECT_EQ(box<QComboBox>(form, "CboYear")->currentText(), "2026");
-  EXPECT_FALSE(box<QWidget>(form, "CboMonth")->isVisible());
-  EXPECT_FALSE(box<QWidget>(form, "TxtDayFrom")->isVisible());
+  EXPECT_EQ(part<QComboBox>(form, "CboYear")->currentText(), "2026");
+  EXPECT_FALSE(part<QWidget>(form, "CboMonth")->isVisible());
+  EXPECT_FALSE(part<QWidget>(form, "TxtDayFrom")->isVisible());
   tests::key(Qt::Key_F5);
   EXPECT_EQ(gridOf(form)->model().MaxRows(), 13);
   EXPECT_TRUE(gridOf(form)->isAncestorOf(QApplication::focusWidget())) << "where the hand works";
@@ -63,7 +61,7 @@ TEST_F(BriefWindow, EnterOpensWhatIsBehindALineAndEscComesBackToIt) {
   gridOf(form)->setActiveCell(3, 4);
   tests::key(Qt::Key_Return);
   EXPECT_EQ(pageOf(form), 1);
-  EXPECT_EQ(box<QComboBox>(form, "CboMonth")->currentText(), "03월");
+  EXPECT_EQ(part<QComboBox>(form, "CboMonth")->currentText(), "03월");
   EXPECT_EQ(gridOf(form)->model().text(20, 1), "03-20");
   tests::grab(form, "frmLPGSaleBrief-day");
   gridOf(form)->setActiveCell(2, 1);
@@ -87,8 +85,8 @@ TEST_F(BriefWindow, APageTurnedByHandForgetsTheWayBack) {
   gridOf(form)->setActiveCell(3, 1);
   tests::key(Qt::Key_Return);
   form.findChild<QTabBar*>()->setCurrentIndex(2);
-  box<QLineEdit>(form, "TxtName")->setText("하나");
-  box<QRadioButton>(form, "OptGubun1")->click();
+  part<QLineEdit>(form, "TxtName")->setText("하나");
+  tests::press(form, "OptGubun1");
   tests::key(Qt::Key_F5);
   EXPECT_EQ(gridOf(form)->model().text(1, 1), "김하나");
   gridOf(form)->setActiveCell(1, 1);
@@ -103,10 +101,10 @@ TEST_F(BriefWindow, OpensOnTheLinesItIsAskedFor) {
   BriefForm form(idle.context, clientSaleBrief());
   form.showPage("lines?TxtClient=1&TxtDayFrom=2026-03-01&TxtDayTo=2026-03-31");
   tests::show(form);
-  EXPECT_EQ(box<QLineEdit>(form, "TxtClient")->text(), "김하나");
+  EXPECT_EQ(part<QLineEdit>(form, "TxtClient")->text(), "김하나");
   EXPECT_EQ(gridOf(form)->model().MaxRows(), 11);
   // Another customer, by search: Enter on what is not chosen yet.
-  auto* const client = box<QLineEdit>(form, "TxtClient");
+  auto* const client = part<QLineEdit>(form, "TxtClient");
   client->setFocus();
   client->setText("한빛");
   client->setCursorPosition(0);
@@ -118,9 +116,8 @@ TEST_F(BriefWindow, OpensOnTheLinesItIsAskedFor) {
   EXPECT_EQ(pickers.asked, QStringList{"한빛"});
   EXPECT_EQ(client->text(), "한빛 101동 202호");
   tests::key(Qt::Key_Return);
-  EXPECT_EQ(QApplication::focusWidget()->objectName(), "TxtDayFrom");
-  tests::key(Qt::Key_Return);
-  tests::key(Qt::Key_Return);
+  EXPECT_EQ(tests::focused(), "TxtDayFrom");
+  tests::keys({Qt::Key_Return, Qt::Key_Return});
   EXPECT_EQ(gridOf(form)->model().MaxRows(), 11) << "Enter in the last box asks";
   tests::grab(form, "frmAClientSaleBrief");
 }
@@ -128,10 +125,10 @@ TEST_F(BriefWindow, OpensOnTheLinesItIsAskedFor) {
 TEST_F(BriefWindow, AWrongDayIsToldAndTheCursorStandsInIt) {
   BriefForm form(idle.context, saleBrief());
   tests::show(form);
-  box<QLineEdit>(form, "TxtDayTo")->setText("2026-02-30");
+  part<QLineEdit>(form, "TxtDayTo")->setText("2026-02-30");
   pc.prompts.expect("날짜 입력이 올바르지 않습니다!");
   tests::key(Qt::Key_F5);
-  EXPECT_EQ(QApplication::focusWidget()->objectName(), "TxtDayTo");
+  EXPECT_EQ(tests::focused(), "TxtDayTo");
   EXPECT_FALSE(form.findChild<QPushButton*>("BtnPrt")) << "printed by F10 alone";
   tests::key(Qt::Key_F10);
   EXPECT_EQ(staged("Str01"), QStringList{""}) << "an empty grid is one blank row";
@@ -142,7 +139,7 @@ TEST_F(BriefWindow, APersonIsChosenBySearchAndTakenAway) {
   BriefForm form(idle.context, resSaleBrief());
   form.showPage("person");
   tests::show(form);
-  auto* const person = box<QLineEdit>(form, "TxtResponse");
+  auto* const person = part<QLineEdit>(form, "TxtResponse");
   person->setFocus();
   pickers.person = "두기사";
   tests::key(Qt::Key_F12);
@@ -170,11 +167,11 @@ TEST_F(BriefWindow, ThePictureIsHiddenForGoodAndGoesOnThePaperWhenTicked) {
     BriefForm form(idle.context, lpgSaleBrief());
     tests::show(form);
     tests::key(Qt::Key_F5);
-    auto* const pane = box<QWidget>(form, "ChartPane");
+    auto* const pane = part<QWidget>(form, "ChartPane");
     ASSERT_TRUE(pane && pane->isVisible());
     tests::key(Qt::Key_F10);
     EXPECT_TRUE(reports.asked.back().picture.isEmpty());
-    box<QCheckBox>(form, "ChkChart")->click();
+    tests::press(form, "ChkChart");
     tests::key(Qt::Key_F10);
     const QImage chart = QImage::fromData(reports.asked.back().picture);
     EXPECT_GT(chart.width(), 1000);
@@ -195,10 +192,10 @@ TEST_F(BriefWindow, ThePictureIsHiddenForGoodAndGoesOnThePaperWhenTicked) {
   }
   BriefForm again(idle.context, lpgSaleBrief());
   tests::show(again);
-  EXPECT_FALSE(box<QWidget>(again, "ChartPane")->isVisible());
-  EXPECT_TRUE(box<QCheckBox>(again, "ChkChart")->isChecked());
-  again.findChild<QPushButton*>("BtnChart")->click();
-  EXPECT_TRUE(box<QWidget>(again, "ChartPane")->isVisible());
+  EXPECT_FALSE(part<QWidget>(again, "ChartPane")->isVisible());
+  EXPECT_TRUE(part<QCheckBox>(again, "ChkChart")->isChecked());
+  tests::press(again, "BtnChart");
+  EXPECT_TRUE(part<QWidget>(again, "ChartPane")->isVisible());
 }
 
 TEST_F(BriefWindow, EveryReportOpensAsksAndPrintsByKeys) {
@@ -237,7 +234,7 @@ TEST_F(BriefWindow, ALedgerAsksForItsDaysAlone) {
   tests::key(Qt::Key_F10);
   EXPECT_EQ(reports.asked.back().file, "salegas.rpt");
   EXPECT_TRUE(reports.asked.back().selection.contains("'2026-03-31'"));
-  box<QLineEdit>(form, "TxtDayFrom")->setText("2026-04-01");
+  part<QLineEdit>(form, "TxtDayFrom")->setText("2026-04-01");
   pc.prompts.expect("늦습니다");
   tests::key(Qt::Key_F10);
   EXPECT_EQ(reports.asked.size(), 1u);

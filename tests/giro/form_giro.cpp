@@ -45,7 +45,7 @@ TEST_F(GiroForms, BoxesBeginWithTodayAndTheUseMonth) {
     QStringList names;
     for (int step = 0; step < steps; ++step) {
       tests::key(by);
-      names << QApplication::focusWidget()->objectName();
+      names << tests::focused();
     }
     return names.join(' ');
   };

@@ -12,12 +12,6 @@
 
 namespace tests {
 
-template <class W>
-W* part(QWidget& form, const char* name) {
-  W* found = form.findChild<W*>(QString::fromUtf8(name));
-  EXPECT_TRUE(found) << name;
-  return found;
-}
 inline QString box(QWidget& form, const char* name) {
   return part<QLineEdit>(form, name)->text();
 }

@@ -21,6 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using tests::part;
+
 struct EstimateScreen : testing::Test, tests::SaleDesk {
   tests::IdleCommands commands;
   FormContext context{pc.session, pickers, commands, calls};
@@ -34,19 +36,19 @@ struct EstimateScreen : testing::Test, tests::SaleDesk {
     form.emplace(context);
     tests::show(*form);
   }
-  Spread* grid() { return form->findChild<Spread*>("SpEstimate"); }
-  void click(const char* name) { form->findChild<QAbstractButton*>(name)->click(); }
-  QString box(const char* name) { return form->findChild<QComboBox*>(name)->currentText(); }
+  Spread* grid() { return part<Spread>(*form, "SpEstimate"); }
+  void press(const char* name) { tests::press(*form, name); }
+  QString box(const char* name) { return part<QComboBox>(*form, name)->currentText(); }
 };
 struct FrmVolumeEstimate : EstimateScreen {};
 struct FrmResCan : EstimateScreen {};
 
 TEST_F(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
-  EXPECT_EQ(form->findChild<QLineEdit*>("TxtYear")->text(), "2026");
+  EXPECT_EQ(part<QLineEdit>(*form, "TxtYear")->text(), "2026");
   pc.prompts.expect("배달 예상을 추출할 고객을 구분하세요");
-  click("BtnFind");
-  click("SSOption1(0)");
-  click("BtnFind");
+  press("BtnFind");
+  press("SSOption1(0)");
+  press("BtnFind");
   EXPECT_EQ(box("CboMonS") + box("CboDayS"), "0305") << "today";
   ASSERT_EQ(grid()->model().MaxRows(), 1);
   EXPECT_EQ(grid()->model().text(1, ForecastCol::Expected), "02-25");
@@ -56,8 +58,8 @@ TEST_F(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
   grid()->setActiveCell(1, ForecastCol::Reserved);
   tests::enter("03-07");
   EXPECT_EQ(rows("Select EstimateDate From Client Where Code = 1"), "03-07");
-  form->findChild<QComboBox*>("CboMonS")->setCurrentText("3");
-  auto* const day = form->findChild<QComboBox*>("CboDayS");
+  part<QComboBox>(*form, "CboMonS")->setCurrentText("3");
+  auto* const day = part<QComboBox>(*form, "CboDayS");
   day->setCurrentText("7");
   day->setFocus();
   tests::key(Qt::Key_Return);
@@ -71,13 +73,13 @@ TEST_F(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
 }
 
 TEST_F(FrmVolumeEstimate, ADayMustBeNamed) {
-  click("SSOption1(2)");
+  press("SSOption1(2)");
   pc.prompts.expect("배달예상일자를 입력하십시오");
-  click("BtnEstimatedClient");
-  EXPECT_TRUE(form->findChild<QComboBox*>("CboMonS")->hasFocus());
-  form->findChild<QLineEdit*>("TxtYear")->setText("2019");
+  press("BtnEstimatedClient");
+  EXPECT_TRUE(part<QComboBox>(*form, "CboMonS")->hasFocus());
+  part<QLineEdit>(*form, "TxtYear")->setText("2019");
   pc.prompts.expect("2019년의 배달자료가 없습니다!");
-  click("BtnFind");
+  press("BtnFind");
 }
 
 TEST_F(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
@@ -91,57 +93,57 @@ TEST_F(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
           ", 1, False)");
     }
   });
-  click("SSOption1(2)");
+  press("SSOption1(2)");
   bool seen = false;
   QTimer watch;
   QObject::connect(&watch, &QTimer::timeout, &*form, [&] {
     auto* const bar = form->findChild<QProgressBar*>("ProgressBar");
     if (!bar || bar->value() <= 0 || seen) return;
     seen = true;
-    form->findChild<QPushButton*>("BtnStop")->click();
+    press("BtnStop");
   });
   watch.start(0);
-  click("BtnFind");
+  press("BtnFind");
   EXPECT_TRUE(seen) << "a bar with a way to stop";
   EXPECT_FALSE(form->findChild<QWidget*>("FrmProgress"));
   const int reached = grid()->model().MaxRows();
   EXPECT_GT(reached, 0);
   EXPECT_LT(reached, customers);
-  EXPECT_EQ(form->findChild<QLabel*>("PnlHelp")->text(),
+  EXPECT_EQ(part<QLabel>(*form, "PnlHelp")->text(),
             u" 중지하였습니다. 고객 %1 / %2 까지만 추출되었습니다"_s.arg(reached).arg(customers + 1));
   watch.stop();
-  click("BtnFind");
+  press("BtnFind");
   EXPECT_EQ(grid()->model().MaxRows(), customers + 1) << "the next search is whole";
 }
 
 TEST_F(FrmResCan, PersonAndItemComeFromTheirSearches) {
   frmResCAN form(context);
   tests::show(form);
-  const auto text = [&](const char* name) { return form.findChild<QLineEdit*>(name)->text(); };
-  form.findChild<QPushButton*>("BtnNew")->click();
-  ASSERT_TRUE(form.findChild<QLineEdit*>("TxtResName")->hasFocus());
+  const auto text = [&](const char* name) { return part<QLineEdit>(form, name)->text(); };
+  tests::press(form, "BtnNew");
+  ASSERT_TRUE(part<QLineEdit>(form, "TxtResName")->hasFocus());
   tests::type("x");
   EXPECT_EQ(text("TxtResName"), "") << "only by search";
   pickers.persons.push_back("홍길동");
   tests::key(Qt::Key_Return);
   EXPECT_EQ(text("TxtResName"), "홍길동");
   pickers.items.push_back(ItemChoice{"LPG", "20", 0, 0});
-  ASSERT_TRUE(form.findChild<QLineEdit*>("TxtLPGName")->hasFocus());
+  ASSERT_TRUE(part<QLineEdit>(form, "TxtLPGName")->hasFocus());
   tests::key(Qt::Key_F12);
   EXPECT_EQ(text("TxtLPGName") + text("TxtCANSize"), "LPG20");
   tests::enter("3");
   tests::type("12");
   EXPECT_EQ(text("TxtCANTotal"), "15");
-  form.findChild<QPushButton*>("BtnSave")->click();
+  tests::press(form, "BtnSave");
   EXPECT_EQ(form.grid()->model().text(1, 1), "홍길동");
   EXPECT_EQ(form.grid()->model().text(1, 6), "15");
   tests::grab(form, "frmResCAN");
   tests::key(Qt::Key_F10);
   EXPECT_EQ(reports.asked.back().file, "담당자별보유용기현황.rpt");
-  form.findChild<QLineEdit*>("TxtResName")->setFocus();
+  part<QLineEdit>(form, "TxtResName")->setFocus();
   tests::key(Qt::Key_Delete);
   EXPECT_EQ(text("TxtResName"), "");
-  form.findChild<QPushButton*>("BtnCancel")->click();
+  tests::press(form, "BtnCancel");
 }
 
 }  // namespace
