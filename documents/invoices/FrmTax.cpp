@@ -189,7 +189,7 @@ void FrmTax::connectGrid() {
   grid_->cellFinished = [this](int row, int col, const QString&, const QString& text) {
     return finishCell(row, col, text);
   };
-  connect(tabs_, &QTabBar::currentChanged, this, [this] { guard([this] { list(); }); });
+  connect(tabs_, &QTabBar::currentChanged, this, [this] { guard([this] { turnTab(); }); });
 }
 
 void FrmTax::connectKeys() {
@@ -249,6 +249,12 @@ void FrmTax::gather() {
 void FrmTax::list() {
   desk_.list(ask());
   showSums();
+}
+
+/** Days or kind that were chosen beside the register are gathered when what is pending comes back. */
+void FrmTax::turnTab() {
+  list();
+  if (isPendingTab() && !isTyped() && !desk_.isGatheredFor(ask())) gather();
 }
 
 void FrmTax::showSums() {

@@ -33,6 +33,7 @@ class FrmTax : public DocumentForm {
   Vat vat() const;
   void gather();
   void list();
+  void turnTab();
   void showSums();
   void showSerial(const QString& serial);
   QString serial() const;

@@ -21,14 +21,25 @@ bool TaxDesk::gather(const TaxAsk& ask) {
     session_.prompts.MsgWarn("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
     return false;
   }
-  if (ask.tab == TaxTab::Pending && ask.gathering) gatherer_.gather(ask.from, ask.to, *ask.gathering);
+  if (ask.tab == TaxTab::Pending && ask.gathering) {
+    gathered_ = ask;
+    gatherer_.gather(ask.from, ask.to, *ask.gathering);
+  }
   list(ask);
   return true;
 }
 
+bool TaxDesk::isGatheredFor(const TaxAsk& ask) const {
+  return gathered_.from == ask.from && gathered_.to == ask.to && gathered_.gathering == ask.gathering;
+}
+
+std::optional<TaxGathering> TaxDesk::preparedAs(const TaxAsk& ask) const {
+  return ask.gathering ? gathered_.gathering : std::nullopt;
+}
+
 void TaxDesk::list(const TaxAsk& ask) {
   if (ask.tab == TaxTab::Pending)
-    sheet_.listPending(invoices_, ask.vat, ask.gathering);
+    sheet_.listPending(invoices_, ask.vat, preparedAs(ask));
   else
     sheet_.listIssued(session_.dbTax, session_.dbBasic, ask.from.toString(Qt::ISODate),
                       ask.to.toString(Qt::ISODate), ask.gathering);
@@ -73,13 +84,13 @@ bool TaxDesk::hasPapers() {
 DocumentRun TaxDesk::papers(const TaxAsk& ask, const QString& serial, const TaxPaperChoice& choice) {
   const std::vector<int> rows = ticks_.ticked();
   return runOf(ask.tab == TaxTab::Issued ? issuer_.reprint(sheet_, rows)
-                                         : issuer_.preview(sheet_, rows, {ask.gathering, ask.vat, serial}),
+                                         : issuer_.preview(sheet_, rows, {preparedAs(ask), ask.vat, serial}),
                choice);
 }
 
 DocumentRun TaxDesk::issue(const TaxAsk& ask, QString& serial, const TaxPaperChoice& choice) {
   if (ask.tab == TaxTab::Issued) return papers(ask, serial, choice);
-  TaxIssue done = issuer_.issue(sheet_, ticks_.ticked(), {ask.gathering, ask.vat, serial});
+  TaxIssue done = issuer_.issue(sheet_, ticks_.ticked(), {preparedAs(ask), ask.vat, serial});
   serial = done.nextSerial;
   issuer_.tell(done);
   return runOf(std::move(done.issued), choice);

@@ -25,6 +25,8 @@ class TaxDesk {
   bool hasPrepared() const { return !invoices_.List().atEnd(); }
   /** On the pending list anew from the sale lines; False after telling that the dates are no range. */
   bool gather(const TaxAsk& ask);
+  /** Whether what is prepared was gathered for this question's days and kind. */
+  bool isGatheredFor(const TaxAsk& ask) const;
   void list(const TaxAsk& ask);
   QString nextSerial(const QDate& day) const;
   /** A typed date of issue. False after telling that it is none or was not stored. */
@@ -43,6 +45,8 @@ class TaxDesk {
 
  private:
   DocumentRun runOf(std::vector<TaxInvoice> invoices, const TaxPaperChoice& choice);
+  /** What is prepared stays of the kind it was gathered as, whatever was chosen since. */
+  std::optional<TaxGathering> preparedAs(const TaxAsk& ask) const;
 
   Session& session_;
   clsPrintTax invoices_;
@@ -50,4 +54,5 @@ class TaxDesk {
   TaxIssuer issuer_;
   TaxSheet sheet_;
   TickColumn ticks_;
+  TaxAsk gathered_;  ///< the last that was gathered for
 };

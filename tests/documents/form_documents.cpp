@@ -355,6 +355,21 @@ TEST_F(TaxForm, GathersTheMonthAndShowsItsSums) {
   EXPECT_EQ(rows(), 16);
 }
 
+TEST_F(TaxForm, WhatIsChosenBesideTheRegisterIsGatheredWhenThePendingComeBack) {
+  turnTo(1);
+  choose("OptGubun(1)");
+  EXPECT_EQ(cell(1, TaxCol::TaxCode), "");
+  turnTo(0);
+  EXPECT_EQ(rows(), 16) << "each day's";
+  EXPECT_EQ(cell(1, TaxCol::DealDate), "2026-03-20");
+  go(1, TaxCol::IssueDate);
+  tests::type("20260330");
+  tests::key(Qt::Key_Return);
+  turnTo(1);
+  turnTo(0);
+  EXPECT_EQ(cell(1, TaxCol::IssueDate), "2026-03-30") << "nothing else was chosen";
+}
+
 TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
   grid->setFocus();
   click(1, TaxCol::Client);

@@ -185,11 +185,20 @@ TEST_F(Taxes, IssuingTakesTheLinesOutAndPutsTheInvoiceInTheRegister) {
   desk.list(month(TaxTab::Issued, TaxGathering::Period));
   EXPECT_TRUE(desk.sheet().isEmpty()) << "each way of gathering has its own section";
 
+  gatherAll(month(TaxTab::Pending, TaxGathering::Daily));
+  const TaxAsk otherwise = month();  // chosen since
+  EXPECT_FALSE(desk.isGatheredFor(otherwise));
+  listAll(otherwise);
+  EXPECT_EQ(cells(desk, 1, {DealDate, Client}), "2026-03-09|바다식당");
+  issue(otherwise);
+  desk.list(month(TaxTab::Issued, TaxGathering::Daily));
+  EXPECT_EQ(cells(desk, 1, {DealDate, Client}), "2026-03-09|바다식당") << "filed as what it was gathered as";
+
   desk.list(month(TaxTab::Issued));
   pc.prompts.expect("지정하신 세금계산서 내역을 삭제하시겠습니까?");
   EXPECT_TRUE(desk.deleteIssued(1));
-  EXPECT_EQ(inTax("Select Count(*) From TaxAcount"), "0");
-  EXPECT_EQ(inYear("Select Sum(SaleList) From Sale"), "2") << "a deleted invoice frees no line";
+  EXPECT_EQ(inTax("Select Count(*) From TaxAcount"), "1");
+  EXPECT_EQ(inYear("Select Sum(SaleList) From Sale"), "3") << "a deleted invoice frees no line";
   session.dbTax.Execute("drop table TaxAcount");
   pc.prompts.expect("지정하신 세금계산서 내역을");
   pc.prompts.expect("계산서 데이터를 삭제하는 중 오류가 발생했습니다.");
