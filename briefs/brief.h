@@ -58,6 +58,8 @@ struct BriefAnswer {
 struct BriefAsk {
   int page = 0;
   QHash<QString, BriefAnswer> answers = {};
+  /** While a page that reaches every year is read: the days whose lines the file at hand is read for. */
+  QString fileFrom = {}, fileTo = {};
 
   const BriefAnswer& operator[](const QString& name) const;
   const QString& text(const QString& name) const { return (*this)[name].text; }
@@ -97,11 +99,12 @@ struct BriefRows {
 /** Told how far long work is. */
 using BriefTeller = std::function<void(int done, int total)>;
 
-/** Which year files a page's statement runs over: the open one always, the others in the order of their years. */
+/** Which year files a page's statement runs over, in the order of their years. A closing copies the old year's lines into
+ *  the new file: each file gives the lines of its own year alone (store/year_file.h, LineDays). */
 enum class BriefReach {
   OpenYear,
-  Asked,  ///< the years of the question named in the page's period
-  UpTo,   ///< every year up to the period's end: what was lent stays lent over New Year
+  Asked,  ///< the years of the question named in the page's period, which is narrowed to each file's days
+  UpTo,  ///< every year up to the period's end, as what was lent stays lent; the statement uses fileFrom, fileTo
 };
 
 /** Some rows as a picture: bars for comparing, a line for a course of time. */

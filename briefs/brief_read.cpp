@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "briefs/brief_run.h"
 #include "store/data_access.h"
@@ -26,23 +27,33 @@ constexpr int yearsTold = 4;  ///< of those without a file, before "and others"
 
 /** Years with a file, the open one among them. */
 std::set<int> yearsThere(const Session& session) {
-  std::set<int> years{session.WorkYear.toInt()};
+  std::set<int> years{openedYear(session)};
   for (const QString& file : yearFileNames(session, session.DbPath))
     if (const int year = file.left(4).toInt(); year > 0 && file != yearTemplate()) years.insert(year);
   return years;
 }
 
 void walkReached(Session& session, const BriefPage& page, const BriefAsk& ask, QStringList& missing,
-                 const std::function<bool(const jet::Database&)>& work) {
+                 const std::function<bool(const jet::Database&, const BriefAsk&)>& work) {
   if (page.reach == BriefReach::OpenYear) {
-    work(session.dbYear);
+    work(session.dbYear, ask);
     return;
   }
   auto [first, last] = askedYears(page, ask);
-  const bool all = page.reach == BriefReach::UpTo;
-  if (all) first = std::min(first, *yearsThere(session).begin());
-  walkBriefYears(session, first, last, missing, work);
-  if (all) missing.clear();  // the years are not asked for one by one
+  if (page.reach == BriefReach::Asked)
+    return walkBriefYears(session, first, last, missing,
+                          [&](const jet::Database& file, const LineDays& days) {
+                            return work(file, askWithin(page, ask, days));
+                          });
+  first = std::min(first, *yearsThere(session).begin());
+  QString since;  // lines of a year that has no file are in the copy that the next file is
+  walkBriefYears(session, first, last, missing, [&](const jet::Database& file, const LineDays& days) {
+    BriefAsk of = ask;
+    of.fileFrom = std::exchange(since, QString::number(days.first.left(4).toInt() + 1) + u"-01-01"_s);
+    of.fileTo = days.last;
+    return work(file, of);
+  });
+  missing.clear();  // the years are not asked for one by one
 }
 
 QString cellOf(const BriefColumn& column, const jet::Recordset& rs, int field) {
@@ -128,19 +139,28 @@ void orderRows(const std::vector<int>& order, std::vector<BriefCells>& rows) {
 }  // namespace
 
 void walkBriefYears(Session& session, int first, int last, QStringList& missing,
-                    const std::function<bool(const jet::Database&)>& work) {
-  const int open = session.WorkYear.toInt();
+                    const std::function<bool(const jet::Database&, const LineDays&)>& work) {
+  const int open = openedYear(session);
   const std::set<int> there = yearsThere(session);
   for (int year = first; year <= last && missing.size() <= yearsTold; ++year)
     if (!there.contains(year)) missing << QString::number(year);
   for (const int year : there) {
-    if (year != open && (year < first || year > last)) continue;
+    const LineDays days = lineDays(session, year);
+    if (days.last.left(4).toInt() < first || year > last) continue;
     const jet::Database file = year == open ? session.dbYear : openYear(session, year);
     if (!file.isOpen())
       missing << QString::number(year);
-    else if (!work(file))
+    else if (!work(file, days))
       return;
   }
+}
+
+BriefAsk askWithin(const BriefPage& page, BriefAsk ask, const LineDays& days) {
+  BriefAnswer& period = ask.answers[page.period];
+  if (period.to.isEmpty()) return ask;  // a year, whose file it is
+  period.text = std::max(period.text, days.first);
+  period.to = std::min(period.to, days.last);
+  return ask;
 }
 
 QString missingYearsNote(const QStringList& missing) {
@@ -151,16 +171,15 @@ QString missingYearsNote(const QStringList& missing) {
 
 BriefRows readBriefRows(Session& session, const BriefPage& page, const BriefAsk& ask) {
   BriefRows result;
-  const QString sql = page.statement(ask);
   BriefFold fold(page, result.rows);
   int files = 0;
   bool any = false;
   QStringList missing;
-  walkReached(session, page, ask, missing, [&](const jet::Database& file) {
+  walkReached(session, page, ask, missing, [&](const jet::Database& file, const BriefAsk& of) {
     ++files;
     if (page.repair) page.repair(file);
     jet::Recordset rs;
-    result.read = OpenSnapshot(session.prompts, file, rs, sql);
+    result.read = OpenSnapshot(session.prompts, file, rs, page.statement(of));
     if (!result.read) return false;
     std::vector<int> fields;
     for (const BriefColumn& column : page.columns)

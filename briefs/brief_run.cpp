@@ -138,18 +138,20 @@ bool BriefRun::load(BriefAsk ask, const BriefTeller& tell) {
 bool BriefRun::printLive(BriefAsk ask) {
   if (check(ask)) return false;
   const BriefPage& page = this->page(ask.page);
-  QStringList files, missing;
+  QStringList files, selections, missing;
   const BriefAnswer& period = ask[page.period];
   walkBriefYears(session_, period.text.left(4).toInt(), period.to.left(4).toInt(), missing,
-                 [&](const jet::Database& file) {
+                 [&](const jet::Database& file, const LineDays& days) {
                    files << file.path();
+                   selections << page.selection(session_, askWithin(page, ask, days));
                    return true;
                  });
   shown_.at(size_t(ask.page)).rows.note = missingYearsNote(missing);
   session_.reports->show({.file = page.report,
                           .formulas = page.formulas ? page.formulas(ask, {}) : QStringList(),
                           .selection = page.selection(session_, ask),
-                          .liveFiles = files});
+                          .liveFiles = files,
+                          .liveSelections = selections});
   return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include "briefs/brief.h"
 #include "store/jet/database.h"
+#include "store/year_file.h"
 
 class BriefRun {
  public:
@@ -47,11 +48,12 @@ class BriefRun {
   std::vector<Shown> shown_;
 };
 
-/** The files of some years one after the other, only one of them open at a time beside the open year's. That one has its
- *  place among them whatever is asked, because the sale screen writes the clock's days into it. Work returns False to
- *  end the walk. missing: the asked years without a file. */
+/** The files of some years one after the other, only one of them open at a time beside the open year's, each with the days
+ *  whose lines it is read for. Work returns False to end the walk. missing: the asked years without a file. */
 void walkBriefYears(Session& session, int first, int last, QStringList& missing,
-                    const std::function<bool(const jet::Database&)>& work);
+                    const std::function<bool(const jet::Database&, const LineDays&)>& work);
+/** The answers as a file's statement takes them: the page's period within the file's days. */
+BriefAsk askWithin(const BriefPage& page, BriefAsk ask, const LineDays& days);
 
 /** What the operator is told of years without a file; '' for none. */
 QString missingYearsNote(const QStringList& missing);

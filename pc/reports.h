@@ -12,8 +12,9 @@ struct ReportRequest {
   QString dataFile = {};      ///< data file with the table Print, as written: "C:\RWGas\Dbs\Print.mdb"
   QByteArray picture = {};    ///< a picture's file below the rows; empty for none
   // Of a report over live tables, in place of the data file.
-  QString selection = {};      ///< its formula (pc/selection_formula)
-  QStringList liveFiles = {};  ///< data files with its tables, one after the other
+  QString selection = {};           ///< its formula (pc/selection_formula)
+  QStringList liveFiles = {};       ///< data files with its tables, one after the other
+  QStringList liveSelections = {};  ///< of each of the files in place of the one for all; empty for that
 };
 
 /** Shows a report: preview, from which it is printed or saved. Throws nothing; failures are told to the operator. */

@@ -90,12 +90,15 @@ pc::ReportTable readLiveRows(const Session& session, const pc::ReportLayout& lay
     const auto words = tables.labels.find(field);
     labels.push_back(words == tables.labels.end() ? nullptr : &words->second);
   }
-  const QString condition = selectionCondition(request.selection, tables);
-  const QString sql = u"Select "_s + columns.join(u", "_s) + u" From "_s + fromClause(tables) +
-                      (condition.isEmpty() ? QString() : u" Where "_s + condition) +
-                      (tables.order.isEmpty() ? QString() : u" Order By "_s + tables.order.join(u", "_s));
-  for (const QString& file : request.liveFiles) {
-    const jet::Database db = session.wsMain.OpenDatabase(file);
+  const auto statement = [&](const QString& selection) {
+    const QString condition = selectionCondition(selection, tables);
+    return u"Select "_s + columns.join(u", "_s) + u" From "_s + fromClause(tables) +
+           (condition.isEmpty() ? QString() : u" Where "_s + condition) +
+           (tables.order.isEmpty() ? QString() : u" Order By "_s + tables.order.join(u", "_s));
+  };
+  for (qsizetype at = 0; at < request.liveFiles.size(); ++at) {
+    const jet::Database db = session.wsMain.OpenDatabase(request.liveFiles[at]);
+    const QString sql = statement(request.liveSelections.value(at, request.selection));
     for (jet::Recordset rs = db.OpenRecordset(sql); !rs.atEnd(); rs.MoveNext()) {
       std::vector<pc::ReportValue>& row = table.rows.emplace_back();
       row.reserve(labels.size());

@@ -10,6 +10,10 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+constexpr int yearDigits = 4;
+}
+
 QString yearTemplate() {
   return yearFileName(u"2002"_s);
 }
@@ -24,6 +28,21 @@ QString yearFile(const Session& session, const QString& year) {
 
 QString yearFile(const Session& session, int year) {
   return yearFile(session, QString::number(year));
+}
+
+int openedYear(const Session& session) {
+  if (!session.dbYear.isOpen()) return session.WorkYear.toInt();
+  return session.dbYear.path().right(yearTemplate().size()).left(yearDigits).toInt();
+}
+
+LineDays lineDays(const Session& session, int year) {
+  const bool passed = year == openedYear(session) && year < session.pc.clock.today().year();
+  return {u"%1-01-01"_s.arg(year), u"%1-12-31"_s.arg(passed ? 9999 : year)};
+}
+
+QString daysAre(const QString& field, const LineDays& days) {
+  return plainPath(field) + u" >= '"_s + plainText(days.first) + u"' And "_s + plainPath(field) + u" <= '"_s +
+         plainText(days.last) + u"'"_s;
 }
 
 jet::Database openYear(const Session& session, const QString& year) {

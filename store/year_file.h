@@ -17,6 +17,20 @@ QString yearFileName(const QString& year);
 QString yearFile(const Session& session, const QString& year);
 QString yearFile(const Session& session, int year);
 
+/** The year whose file is open as dbYear: after a change of the PC's year it is not the work year. */
+int openedYear(const Session& session);
+
+/** The days whose lines a year's file is read for, "yyyy-MM-dd". A closing makes the new year's file a whole copy of the old
+ *  one: a line then stands in the file of its own year and in each that was made after it, and counts in its own alone. */
+struct LineDays {
+  QString first, last;
+};
+/** Those of the year; of the open file also those after it where the clock has passed the year, for the screens write into
+ *  that file until the program starts anew. */
+LineDays lineDays(const Session& session, int year);
+/** "Sale.SaleDate >= '2026-01-01' And Sale.SaleDate <= '2026-12-31'" */
+QString daysAre(const QString& field, const LineDays& days);
+
 /** The year's file opened; unset where there is none or it does not open. Tells nothing: the caller decides. */
 jet::Database openYear(const Session& session, const QString& year);
 jet::Database openYear(const Session& session, int year);

@@ -31,20 +31,22 @@ CreditAges ageCredit(qint64 balance, const std::vector<CreditDay>& days, const Q
 
 bool readCreditDays(Session& session, CreditKind kind, QHash<qint64, std::vector<CreditDay>>& days) {
   const QDate today = session.pc.clock.today(), first = today.addDays(-oldestStep);
-  const QString sql =
+  const QString lines =
       "Select ClientCode, SaleDate, Sum(Trust) As Trust From Sale Where SaleDate >= '" +
       plainText(first.toString("yyyy-MM-dd")) + "' " + "And Trust > 0 And " +
       (kind == CreditKind::Material ? saleKindIs("SaleGubun", LineBalance::Material, KindPart::Sold)
-                                    : saleIsGasGoods("SaleGubun")) +
-      " Group By ClientCode, SaleDate Order By ClientCode, SaleDate";
+                                    : saleIsGasGoods("SaleGubun"));
   bool read = true;
   QStringList missing;
-  walkBriefYears(session, first.year(), today.year(), missing, [&](const jet::Database& file) {
-    jet::Recordset rs;
-    read = OpenSnapshot(session.prompts, file, rs, sql);
-    for (; read && !rs.atEnd(); rs.MoveNext())
-      days[rs[0].toLong()].push_back({QDate::fromString(rs[1].toText(), "yyyy-MM-dd"), rs[2].toLong()});
-    return read;
-  });
+  walkBriefYears(
+      session, first.year(), today.year(), missing, [&](const jet::Database& file, const LineDays& own) {
+        jet::Recordset rs;
+        read = OpenSnapshot(session.prompts, file, rs,
+                            lines + " And " + daysAre("SaleDate", own) +
+                                " Group By ClientCode, SaleDate Order By ClientCode, SaleDate");
+        for (; read && !rs.atEnd(); rs.MoveNext())
+          days[rs[0].toLong()].push_back({QDate::fromString(rs[1].toText(), "yyyy-MM-dd"), rs[2].toLong()});
+        return read;
+      });
   return read;
 }

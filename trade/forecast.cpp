@@ -96,25 +96,29 @@ QString Forecast::period() const {
 bool Forecast::ExtractForecast(ForecastOf which, const QString& shownYear, const std::optional<QString>& day,
                                const std::function<bool(int, int)>& tell) {
   shownYear_ = shownYear;
-  period_ = period();
   if (which == ForecastOf::Nobody) {
     session_.prompts.MsgWarn(u"배달 예상을 추출할 고객을 구분하세요"_s, forecastTitle);
     return false;
   }
   grid_.clear();
-  // The year before has a file of its own.
-  const jet::Database before = openYear(session_, session_.WorkYear.toInt() - 1);
-  std::vector<const jet::Database*> files = {&session_.dbYear};
-  if (before.isOpen()) files.push_back(&before);
+  // The year before has a file of its own; a closing leaves a copy of it in the open one.
+  const int open = openedYear(session_);
+  const jet::Database before = openYear(session_, open - 1);
+  std::vector<DeliveryFile> files = {{&session_.dbYear, period()}};
+  if (before.isOpen()) {
+    const QString newYear = QString::number(open) + u"-01-01"_s;
+    files.front().period += u" and saledate >= '"_s + plainText(newYear) + u'\'';
+    files.push_back({&before, period() + u" and saledate < '"_s + plainText(newYear) + u'\''});
+  }
 
   const QString clause = which == ForecastOf::General  ? u" Where Sale.Gubun = FALSE AND "_s
                          : which == ForecastOf::Volume ? u" Where Sale.Gubun = TRUE AND "_s
                                                        : u" where "_s;
   std::set<qint64> clients;
-  for (const jet::Database* file : files) {
+  for (const DeliveryFile& file : files) {
     jet::Recordset rows;
-    if (!OpenSnapshot(session_.prompts, *file, rows,
-                      u"Select Distinct ClientCode From Sale"_s + clause + period_))
+    if (!OpenSnapshot(session_.prompts, *file.book, rows,
+                      u"Select Distinct ClientCode From Sale"_s + clause + file.period))
       return false;
     for (; !rows.atEnd(); rows.MoveNext()) clients.insert(rows[0].toLong());
   }
@@ -129,8 +133,8 @@ bool Forecast::ExtractForecast(ForecastOf which, const QString& shownYear, const
   for (const qint64 code : clients) {
     if (tell && !tell(done++, int(clients.size()))) break;
     Deliveries of;
-    for (const jet::Database* file : files)
-      if (!read(*file, QString::number(code), which, of)) return false;
+    for (const DeliveryFile& file : files)
+      if (!read(file, QString::number(code), which, of)) return false;
     if (of.days.isEmpty()) continue;
     of.keepLast();
     of.expect();
@@ -145,18 +149,17 @@ bool Forecast::ExtractForecast(ForecastOf which, const QString& shownYear, const
 }
 
 /** False after a failed query has been told. */
-bool Forecast::read(const jet::Database& file, const QString& code, ForecastOf which,
-                    Deliveries& into) const {
+bool Forecast::read(const DeliveryFile& file, const QString& code, ForecastOf which, Deliveries& into) const {
   jet::Sql sql;
   sql << u"SELECT Top 8 Client.Name, Client.Tel, Client.EstimateDate, Client.Code, Sale.SaleDate, "
          u"Client.EstimateDate FROM Client LEFT JOIN Sale ON Client.Code = Sale.ClientCode "
       << (which == ForecastOf::General  ? u"WHERE Client.VolumeYesNo = FALSE And "
           : which == ForecastOf::Volume ? u"WHERE Client.VolumeYesNo=True And "
                                         : u"WHERE ")
-      << u" Sale.ClientCode = " << code << u" and Sale.SaleGubun <> 4 and " << period_
+      << u" Sale.ClientCode = " << code << u" and Sale.SaleGubun <> 4 and " << file.period
       << u" Order By Sale.SaleDate Desc";
   jet::Recordset line;
-  if (!OpenSnapshot(session_.prompts, file, line, sql)) return false;
+  if (!OpenSnapshot(session_.prompts, *file.book, line, sql)) return false;
   // Of days that tie at the eighth place eight are taken.
   for (int count = 0; count < lastDeliveries && !line.atEnd(); line.MoveNext(), ++count) {
     if (into.code.isEmpty()) {

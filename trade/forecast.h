@@ -44,7 +44,12 @@ class Forecast {
 
  private:
   struct Deliveries;
-  bool read(const jet::Database& db, const QString& code, ForecastOf which, Deliveries& into) const;
+  /** A year's file and the condition on the days that it is looked through for. */
+  struct DeliveryFile {
+    const jet::Database* book;
+    QString period;
+  };
+  bool read(const DeliveryFile& file, const QString& code, ForecastOf which, Deliveries& into) const;
   std::vector<QString> rowOf(const Deliveries& of) const;
   QString period() const;
   void colour(int row, const Deliveries& of);
@@ -52,5 +57,4 @@ class Forecast {
   Session& session_;
   SpreadModel grid_;
   QString shownYear_;
-  QString period_;  ///< the condition on the days that are looked through
 };

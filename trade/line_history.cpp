@@ -18,20 +18,25 @@ namespace {
 void eachLastLine(const Session& session, const LineTable& of, QStringView columns, const QString& partner,
                   QStringView which, int count, const std::function<void(const jet::Recordset&)>& take) {
   const QString own = of.partnerIsText ? u"'"_s + plainText(partner) + u"'"_s : plainNumber(partner);
-  const auto read = [&](const QString& table) {
+  const auto read = [&](const QString& table, const QString& since) {
     jet::Sql sql;
     sql << u"Select Top " << count << u" " << columns << u" From " << table << u" Where " << of.partner
-        << u" = " << own << which << u" Order By " << of.date << u" Desc, " << of.key << u" Desc";
+        << u" = " << own << which << since << u" Order By " << of.date << u" Desc, " << of.key << u" Desc";
     for (jet::Recordset lines = session.dbYear.OpenRecordset(sql); !lines.atEnd(); lines.MoveNext()) {
       take(lines);
       --count;
     }
   };
-  read(of.table);
-  const QString yearBefore = yearFile(session, session.WorkYear.toInt() - 1);
-  if (count <= 0 || !session.pc.paths.exists(yearBefore)) return;
+  const int open = openedYear(session);
+  const QString yearBefore = yearFile(session, open - 1);
+  const bool hasBefore = session.pc.paths.exists(yearBefore);
+  QString since;
+  if (hasBefore)  // a closing leaves a copy of that year in the open file
+    since = u" And "_s + plainPath(of.date) + u" >= '"_s + plainText(lineDays(session, open).first) + u"'"_s;
+  read(of.table, since);
+  if (count <= 0 || !hasBefore) return;
   try {
-    read(u"["_s + plainPath(yearBefore) + u"]."_s + of.table);
+    read(u"["_s + plainPath(yearBefore) + u"]."_s + of.table, {});
   } catch (const jet::Error&) {  // a file of an old year that cannot be read must not hold up the day's work
   }
 }

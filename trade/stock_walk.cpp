@@ -62,12 +62,12 @@ class StockWalk {
 
   std::vector<StockInOut> run(const std::function<void(int, int)>& told) {
     clear();
-    const int first = start_.left(4).toInt(), open = session_.WorkYear.toInt();
+    const int first = start_.left(4).toInt(), open = openedYear(session_);
     const int last = std::max(open, session_.pc.clock.today().year());
-    copyLines({});
+    copyLines({}, lineDays(session_, open));
     for (int year = first; year <= last; ++year)
       if (year != open && session_.pc.paths.exists(yearFile(session_, year)))
-        copyLines(yearFile(session_, year));
+        copyLines(yearFile(session_, year), lineDays(session_, year));
     fillItems();
     countLines();
     writeItems(told);
@@ -79,20 +79,21 @@ class StockWalk {
   bool gas() const { return what_ == StockWalkOf::Gas; }
 
   /** Lines from the first day to today: the later ones are needed for the walk back. file: '' for the open year's. */
-  void copyLines(const QString& file) {
+  void copyLines(const QString& file, LineDays own) {
+    own.first = std::max(own.first, start_);
     const QString from = file.isEmpty() ? QString() : u"["_s + plainPath(file) + u"]."_s;
     db().Execute(
         u"Insert Into TmpLPGCAN(SaleDate, ClientCode, Response, SaleName, SaleThing, SaleUnit, SaleNum, "
         u"SaleGubun, Gubun, Income, Trust, DC) Select SaleDate, ClientCode, Response, "
         u"SaleName, SaleThing, SaleUnit, SaleNum, SaleGubun, True, Income, Trust, DC From "_s +
-        from + u"Sale Where Sale.SaleDate >= '"_s + plainText(start_) + u"' "_s + u"And "_s +
+        from + u"Sale Where "_s + daysAre(u"Sale.SaleDate"_s, own) + u" And "_s +
         (gas() ? saleIsGasGoods(u"Sale.SaleGubun"_s)
                : saleKindIs(u"Sale.SaleGubun"_s, LineBalance::Material, KindPart::Sold)));
     db().Execute(
         u"Insert Into TmpLPGCAN(SaleDate, Response, SaleName, SaleThing, SaleUnit, SaleNum, "
         u"SaleGubun, Gubun, Income, Trust, DC) Select BuyDate, Response, "
         u"BuyName, BuyThing, PurchaseUnit, PurchaseNum, PurchaseGubun, False, Pay, Trust, DC From "_s +
-        from + u"Buy Where Buy.BuyDate >= '"_s + plainText(start_) + u"' "_s + u"And "_s +
+        from + u"Buy Where "_s + daysAre(u"Buy.BuyDate"_s, own) + u" And "_s +
         (gas() ? buyIsGasGoods(u"Buy.PurchaseGubun"_s)
                : buyKindIs(u"Buy.PurchaseGubun"_s, LineBalance::Material, KindPart::Sold)));
   }
@@ -175,7 +176,7 @@ std::optional<std::vector<StockInOut>> walkStock(Session& session, StockWalkOf w
                                                  const QString& end,
                                                  const std::function<void(int, int)>& told) {
   const QString first = start.left(4);
-  if (first < session.WorkYear && !session.pc.paths.exists(yearFile(session, first))) {
+  if (first.toInt() < openedYear(session) && !session.pc.paths.exists(yearFile(session, first))) {
     session.prompts.MsgWarn(first + u"년의 자료가 없습니다!"_s, u"조회 관리자"_s);
     return {};
   }

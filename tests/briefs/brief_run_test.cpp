@@ -115,6 +115,23 @@ TEST_F(BriefRunTest, RowsOfAllYearsAskedForAreOne) {
   EXPECT_TRUE(pc.prompts.seen.last().startsWith("조회 관리자|"));
 }
 
+TEST_F(BriefRunTest, ALineThatAClosingCopiedCountsInItsOwnYearsFileAlone) {
+  const jet::Database last = year("2025");
+  for (const jet::Database& each : {last, session.dbYear}) sale(each, {.day = "2025-12-30", .pieces = 4});
+  sale({.day = "2026-01-02", .pieces = 2});
+  const auto pieces = [&](const char* from, const char* to) {
+    return load(from, to) ? rows().last() : u"nothing"_s;
+  };
+  EXPECT_EQ(pieces("2025-12-01", "2026-01-31"), "[합 계]||6|");
+  EXPECT_EQ(pieces("2025-12-01", "2025-12-31"), "[합 계]||4|");
+  EXPECT_EQ(pieces("2026-01-01", "2026-01-31"), "[합 계]||2|");
+  // The change of the PC's year leaves the work year.
+  session.dbYear = last;
+  pc.pc.clock.set(QDate(2025, 12, 31).startOfDay());
+  EXPECT_EQ(pieces("2025-12-01", "2025-12-31"), "[합 계]||4|");
+  EXPECT_EQ(pieces("2026-01-01", "2026-01-31"), "[합 계]||2|");
+}
+
 TEST_F(BriefRunTest, LinesOfTheClocksYearInAnotherYearsFileAreFound) {
   year("2025");
   session.WorkYear = "2025";

@@ -74,6 +74,7 @@ TEST_F(CreditTest, CreditOfLastYearKeepsItsAge) {
   sale(last, {.day = "2025-10-22", .trust = 2000});   // 90
   sale(last, {.day = "2025-11-20", .trust = 4000});   // 61
   sale(last, {.day = "2025-12-31", .trust = 20000});  // 20
+  sale({.day = "2025-12-31", .trust = 20000});        // the copy that a closing leaves
   sale({.day = "2026-01-05", .trust = 1000});
   BriefRun run(session, trustBrief());
   EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|6000|3000");

@@ -77,7 +77,9 @@ TEST_F(Forecasts, WhichCustomers) {
 TEST_F(Forecasts, LastYearsFileIsReadAndItsDatesSetOff) {
   makeYearFile(pc.session, "2025");
   for (const char* const day : {"2024-12-31", "2025-12-01", "2025-12-21"})
-    sold(u"'%1', 1, 1, False"_s.arg(day), openYear(pc.session, "2025"));
+    for (const jet::Database& each :
+         {openYear(pc.session, "2025"), pc.session.dbYear})  // as a closing copies
+      sold(u"'%1', 1, 1, False"_s.arg(day), each);
   delivered(1, {"01-10"});
   ASSERT_TRUE(extract());
   EXPECT_EQ(shown(1), "산골식당|053-123-4567|12-01|12-21|01-10||||||01-10|01-30|20||1")

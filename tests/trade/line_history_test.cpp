@@ -50,7 +50,9 @@ TEST_F(LastOffer, IsTheNewestLineOfTheSheetWithItsPriceAndPerson) {
 TEST_F(LastOffer, TheLastLinesAreTheNewestFiveOfTheTwoYearsTogether) {
   makeYearFile(pc.session, "2025");
   const jet::Database before = openYear(pc.session, "2025");
-  for (const char* const day : {"10", "20", "30"}) sold(u"'2025-12-%1', 1, 1, False"_s.arg(day), before);
+  for (const char* const day : {"10", "20", "30"})
+    for (const jet::Database& each : {before, pc.session.dbYear})  // as a closing copies
+      sold(u"'2025-12-%1', 1, 1, False"_s.arg(day), each);
   const auto days = [this] {
     QStringList shown;
     for (const LastLine& line : posting.lastLines(newRow())) shown << line.date;

@@ -213,7 +213,8 @@ TEST_F(SaleBriefs, MaterialCredit) {
 
 struct Cylinders : testing::Test, tests::BriefDesk {
   Cylinders() {
-    sale(year("2025"), {.day = "2025-05-05", .kind = 5, .pieces = 5});
+    for (const jet::Database& each : {year("2025"), session.dbYear})  // as a closing copies
+      sale(each, {.day = "2025-05-05", .kind = 5, .pieces = 5});
     sale({.day = "2026-01-10", .kind = 6, .pieces = 1});
     sale({.day = "2026-03-01", .kind = 5, .pieces = 3});
     sale({.day = "2026-03-31", .kind = 6, .pieces = 2, .person = "두기사"});
@@ -309,6 +310,12 @@ TEST_F(Ledgers, SelectByPurchaseFormula) {
       "{Buy.BuyDate} >= '2025-03-01' And {Buy.BuyDate} <= '2026-03-31' And {Buy.BuyCompany} = 'O''Neil'");
   EXPECT_EQ(reports.asked.back().file, "buygas.rpt");
   EXPECT_EQ(reports.asked.back().liveFiles.size(), 2);
+  EXPECT_EQ(reports.asked.back().liveSelections,
+            QStringList({"{Buy.BuyDate} >= '2025-03-01' And {Buy.BuyDate} <= '2025-12-31' And "
+                         "{Buy.BuyCompany} = 'O''Neil'",
+                         "{Buy.BuyDate} >= '2026-01-01' And {Buy.BuyDate} <= '2026-03-31' And "
+                         "{Buy.BuyCompany} = 'O''Neil'"}))
+      << "a line that a closing copied stands in its own year's file";
 }
 
 }  // namespace

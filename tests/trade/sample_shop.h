@@ -57,6 +57,7 @@ struct Shop : TestPc {
     session.dbBasic = session.wsMain.OpenDatabase(session.DbPath + "Basic.mdb");
     session.dbYear = openYear(session, sampleYear);
     for (const int each : {sampleYear - 1, sampleYear}) readLines(openYear(session, each));
+    leaveCopies();
     for (auto rs = session.dbBasic.OpenRecordset(u"Select * From Client"); !rs.atEnd(); rs.MoveNext()) {
       gasOwed[rs["Code"].toLong()] = rs["GasInit"].toLong();
       utilOwed[rs["Code"].toLong()] = rs["UtilInit"].toLong();
@@ -73,6 +74,18 @@ struct Shop : TestPc {
   }
 
  private:
+  /** What a closing leaves in the new year's file. */
+  void leaveCopies() {
+    const QString before = "[" + yearFile(session, sampleYear - 1) + "].";
+    const QString sale =
+        "SaleDate, Response, SaleName, SaleThing, ClientCode, SaleNum, SaleUnit, Income, DC, Trust, "
+        "SaleGubun, Gubun";
+    const QString buy =
+        "BuyDate, Response, BuyName, BuyThing, BuyCompany, PurchaseNum, PurchaseUnit, Pay, DC, Trust, "
+        "PurchaseGubun";
+    session.dbYear.Execute("Insert Into Sale(" + sale + ") Select " + sale + " From " + before + "Sale");
+    session.dbYear.Execute("Insert Into Buy(" + buy + ") Select " + buy + " From " + before + "Buy");
+  }
   static void read(std::vector<Line>& to, bool sale, jet::Recordset rs) {
     for (; !rs.atEnd(); rs.MoveNext())
       to.push_back({.day = rs[0].toText(),

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "store/data_access.h"
+#include "store/year_file.h"
 #include "trade/briefs/brief_parts.h"
 #include "trade/briefs/trade_briefs.h"
 
@@ -29,7 +30,7 @@ QString loanSums(const LoanTable& of, const BriefAsk& ask) {
 
 QString loanLines(const LoanTable& of, const BriefAsk& ask) {
   return "(" + of.kind + " = 5 Or " + of.kind + " = 6) And " + plainPath(of.day) + " <= '" +
-         plainText(ask.to(briefPeriod)) + "' ";
+         plainText(ask.to(briefPeriod)) + "' And " + daysAre(of.day, {ask.fileFrom, ask.fileTo}) + " ";
 }
 
 QString partOf(const QString& field, const QString& part) {

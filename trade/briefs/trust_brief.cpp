@@ -10,13 +10,13 @@
 
 namespace {
 
-/** What was sold to one customer since the work year began. */
+/** What was sold to one customer since the open file's year began. */
 struct YearMoved {
   qint64 amount = 0, discount = 0, income = 0, collected = 0;  ///< won
 };
 
 QString firstDay(const Session& session) {
-  return session.WorkYear + "-01-01";
+  return QString::number(openedYear(session)) + "-01-01";
 }
 
 bool readMoved(Session& session, CreditKind kind, QHash<qint64, YearMoved>& moved) {
@@ -28,13 +28,14 @@ bool readMoved(Session& session, CreditKind kind, QHash<qint64, YearMoved>& move
                       ", 0, Income + Trust)) As Amount, Sum(DC) As Discount, " + "Sum(IIf(" + collection +
                       ", 0, Income)) As Paid, Sum(IIf(" + collection + ", Income, 0)) As Collected " +
                       "From Sale Where SaleDate >= '" + plainText(firstDay(session)) + "' And " +
-                      (gas ? "Not " + material : material) + " Group By ClientCode";
+                      (gas ? "Not " + material : material);
   bool read = true;
   QStringList missing;
-  walkBriefYears(session, session.WorkYear.toInt(), session.pc.clock.today().year(), missing,
-                 [&](const jet::Database& file) {
+  walkBriefYears(session, openedYear(session), session.pc.clock.today().year(), missing,
+                 [&](const jet::Database& file, const LineDays& own) {
                    jet::Recordset rs;
-                   read = OpenSnapshot(session.prompts, file, rs, sql);
+                   read = OpenSnapshot(session.prompts, file, rs,
+                                       sql + " And " + daysAre("SaleDate", own) + " Group By ClientCode");
                    for (; read && !rs.atEnd(); rs.MoveNext()) {
                      YearMoved& of = moved[rs[0].toLong()];
                      of.amount += rs[1].toLong();
