@@ -7,6 +7,7 @@
 #include "store/jet/error.h"
 #include "store/long_work.h"
 #include "store/year_file.h"
+#include "tests/answers.h"
 #include "tests/support.h"
 
 using namespace Qt::StringLiterals;
@@ -69,8 +70,8 @@ struct CollectionImportTest : testing::Test, tests::TestPc {
     session.wsMain.Together([this] { fill(); });
   }
   void fill() {
-    for (const char* client : {"'김철수', '053-123-4567'", "'달빛아파트 101동 101호', Null", "'박', '1'"})
-      session.dbBasic.Execute("Insert Into Client(Name, Tel) Values(" + QString::fromUtf8(client) + ")");
+    tests::insertRows(session.dbBasic, "Client(Name, Tel)",
+                      {"'김철수', '053-123-4567'", "'달빛아파트 101동 101호', Null", "'박', '1'"});
     for (int code = 1; code <= 3; ++code)
       for (int month = 0; month <= 12; ++month)
         session.dbYear.Execute(

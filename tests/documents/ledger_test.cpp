@@ -214,10 +214,9 @@ TEST_F(Ledger, FindingInTheListGoesByTheLedgerOrByTheListItself) {
 
 TEST_F(Ledger, PostcodesOfTheWholeFile) {
   session.dbBasic.Execute("Insert Into User(Company, Post1, Post2) Values('a', 100, 199)");
-  for (const char* row :
-       {"'135080', '서울', '강남', '역삼동', '1'", "'700-010', '대구', '중구', '동인동', Null"})
-    session.wsMain.OpenDatabase(session.DbPath + "dbPost.mdb")
-        .Execute(u"Insert Into Post(ZIPCODE, SIDO, GUGUN, DONG, BUNJI) Values(%1)"_s.arg(row));
+  tests::insertRows(session.wsMain.OpenDatabase(session.DbPath + "dbPost.mdb"),
+                    "Post(ZIPCODE, SIDO, GUGUN, DONG, BUNJI)",
+                    {"'135080', '서울', '강남', '역삼동', '1'", "'700-010', '대구', '중구', '동인동', Null"});
   PostList posts(session);
   ASSERT_TRUE(posts.open());
   EXPECT_TRUE(posts.search("역삼"));

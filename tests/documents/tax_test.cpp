@@ -398,8 +398,7 @@ TEST_F(TypedTaxes, ATypedInvoiceFollowsItsCells) {
 
 TEST_F(TypedTaxes, TheCustomersOwnChoiceSplitsATypedLine) {
   session.dbBasic.createTable(schema::table(schema::File::Ledger, "Trader"));
-  session.dbBasic.Execute("Insert Into Trader(Code, VAT) Values('000001', 1)");
-  session.dbBasic.Execute("Insert Into Trader(Code, VAT) Values('000002', 0)");
+  tests::insertRows(session.dbBasic, "Trader(Code, VAT)", {"'000001', 1", "'000002', 0"});
   const auto split = [&](const QString& client, int col, const QString& typed) {
     entry.setClient(client, "a");
     if (col == AcountCol::Price) entry.finishCell(1, AcountCol::Quantity, "1");

@@ -8,10 +8,9 @@ namespace tests {
 /** 한강 is owed 200,000 won for gas and 7,000 for fittings, 낙동 nothing. */
 struct BuyDesk : SaleDesk {
   BuyDesk() {
-    run("Insert Into RefillState(Code, Company, Tel, PostCode, Address) Values('0001', '한강', "
-        "'02-111-2222', '100-200', '강변로 7')");
-    run("Insert Into RefillState(Code, Company, Tel, PostCode, Address) Values('0002', '낙동', "
-        "'051-333-4444', '600-100', '부두로 9')");
+    insertRows(pc.session.dbBasic, "RefillState(Code, Company, Tel, PostCode, Address)",
+               {"'0001', '한강', '02-111-2222', '100-200', '강변로 7'",
+                "'0002', '낙동', '051-333-4444', '600-100', '부두로 9'"});
     clearBooks();
   }
 

@@ -1,6 +1,7 @@
 // Cylinders by delivery person: person, item and size are the key, and counts are kept by hand.
 #include "trade/can_book.h"
 
+#include "tests/answers.h"
 #include "tests/cells.h"
 #include "tests/support.h"
 
@@ -11,11 +12,9 @@ namespace {
 struct CanBookTest : testing::Test {
   void SetUp() override {
     pc.openBooks();
-    for (const char* const row :
-         {"'홍길동', 'LPG', 20, 5, 3, 8", "'홍길동', 'LPG', 50, 1, 1, 2", "'김배달', 'LPG', 20, 2, 2, 4"})
-      pc.session.dbBasic.Execute(
-          u"Insert Into ResCAN(ResName, LPGName, CANSize, CANFull, CANEmpty, CANTotal) Values(%1)"_s.arg(
-              row));
+    tests::insertRows(
+        pc.session.dbBasic, "ResCAN(ResName, LPGName, CANSize, CANFull, CANEmpty, CANTotal)",
+        {"'홍길동', 'LPG', 20, 5, 3, 8", "'홍길동', 'LPG', 50, 1, 1, 2", "'김배달', 'LPG', 20, 2, 2, 4"});
     ASSERT_TRUE(book.load());
   }
   QString rows() { return tests::rowsOf(book.list(), " ").join(u';'); }

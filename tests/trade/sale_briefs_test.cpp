@@ -223,11 +223,10 @@ struct Cylinders : testing::Test, tests::BriefDesk {
     sale({.day = "2026-01-06", .client = 3, .kind = 6, .pieces = 7});  // settled before the period
     sale({.day = "2026-03-06", .kind = 1, .pieces = 99});
     sale({.day = "2026-04-01", .kind = 5, .pieces = 99});
-    for (const char* line :
-         {"'2026-02-01', '대구충전소', 'LPG', '20', 10, 5", "'2026-03-03', '대구충전소', 'LPG', '20', 4, 6",
-          "'2026-03-03', '대구충전소', 'LPG', '20', 50, 1"})
-      run("Insert Into Buy(BuyDate, BuyCompany, BuyName, BuyThing, PurchaseNum, PurchaseGubun) Values(" +
-          QString(line) + ")");
+    tests::insertRows(
+        session.dbYear, "Buy(BuyDate, BuyCompany, BuyName, BuyThing, PurchaseNum, PurchaseGubun)",
+        {"'2026-02-01', '대구충전소', 'LPG', '20', 10, 5", "'2026-03-03', '대구충전소', 'LPG', '20', 4, 6",
+         "'2026-03-03', '대구충전소', 'LPG', '20', 50, 1"});
   }
   QStringList loadMarch(BriefRun& brief, QHash<QString, BriefAnswer> answers = {}) {
     answers["TxtDay"] = days("2026-03-01", "2026-03-31");

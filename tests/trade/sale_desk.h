@@ -73,10 +73,8 @@ struct SaleDesk {
         "Values(2, '김', '234-5678', '한빛', '101', '202', 1, 0, 0, False)");
     run("Insert Into Client(Code, Name, UName, BDName, Dong, HouseStyle, GasInit, UtilInit, VolumeYesNo) "
         "Values(3, '박', '345-6789', '별빛', '3', 2, 0, 0, True)");
-    run("Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) Values('LPG', "
-        "'20', 1000, 100, 10, 40, 50)");
-    run("Insert Into LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull) Values('LPG', "
-        "'50', 1000, 100, 10, 40, 50)");
+    insertRows(pc.session.dbBasic, "LPG(LPGName, Size, LPGStock, CANTotalHold, CANLoan, CANEmpty, CANFull)",
+               {"'LPG', '20', 1000, 100, 10, 40, 50", "'LPG', '50', 1000, 100, 10, 40, 50"});
     run("Insert Into Util(Name, Size, UtilStock) Values('밸브', '15A', 30)");
   }
 

@@ -177,10 +177,10 @@ TEST_F(StockWalk, OnePassGivesWhatTheLinesOfEachItemAddUpTo) {
   const auto upTo = [&](int most) { return int(random() % unsigned(most)); };
   const char* const names[] = {"LPG", "lpg ", "부탄", "밸브", "호스", "없는 품목"};
   const char* const sizes[] = {"20", "50", "15A", "13"};
-  run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('부탄', '13', 7, 2)");
-  run("Insert Into LPG(LPGName, Size, CANFull, CANEmpty) Values('부탄', '13', 9, 0)");  // entered twice
-  run("Insert Into Util(Name, Size, UtilStock) Values('호스', '15A', -4)");
-  run("Insert Into Util(Name, Size, UtilStock) Values('밸브', '20', 0)");
+  tests::insertRows(pc.session.dbBasic, "LPG(LPGName, Size, CANFull, CANEmpty)",
+                    {"'부탄', '13', 7, 2", "'부탄', '13', 9, 0"});  // entered twice
+  tests::insertRows(pc.session.dbBasic, "Util(Name, Size, UtilStock)",
+                    {"'호스', '15A', -4", "'밸브', '20', 0"});
   std::vector<Moved> lines;
   makeYearFile(pc.session, "2025");
   const QDate first(2025, 11, 20);
