@@ -253,6 +253,7 @@ void FrmTax::list() {
 
 /** Days or kind that were chosen beside the register are gathered when what is pending comes back. */
 void FrmTax::turnTab() {
+  dates_->take();  // one that is none has come back
   list();
   if (isPendingTab() && !isTyped() && !desk_.isGatheredFor(ask())) gather();
 }

@@ -368,6 +368,12 @@ TEST_F(TaxForm, WhatIsChosenBesideTheRegisterIsGatheredWhenThePendingComeBack) {
   turnTo(1);
   turnTo(0);
   EXPECT_EQ(cell(1, TaxCol::IssueDate), "2026-03-30") << "nothing else was chosen";
+  auto* const from = part<DateBox>("txtDate(0)");
+  from->setFocus();
+  from->setDateText("2026-03-25");
+  turnTo(1);
+  turnTo(0);
+  EXPECT_EQ(label("pnlSum(2)"), "586,500") << "17 pieces since the day that stands in the box";
 }
 
 TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
