@@ -36,10 +36,7 @@ struct GasOfYear {
 class Gathering {
  public:
   Gathering(Session& session, const AptAsk& ask, const jet::Database& scratch)
-      : session_(session),
-        ask_(ask),
-        scratch_(scratch),
-        year_(session.dbYear.path().section(u'\\', -1).left(4).toInt()) {}
+      : session_(session), ask_(ask), scratch_(scratch), year_(openedYear(session)) {}
 
   bool run(QString& note);
 

@@ -51,7 +51,7 @@ void addUses(Uses& uses, const jet::Database& year, const ReadingSheet& sheet, i
 Uses lastYearsUses(const ReadingSheet& sheet) {
   Uses uses;
   const Session& session = sheet.session;
-  const jet::Database file = openYear(session, session.WorkYear.toInt() - 1);
+  const jet::Database file = openYear(session, openedYear(session) - 1);
   if (!file.isOpen()) return uses;
   addUses(uses, file, sheet, sheet.month, sheet.month);
   addUses(uses, file, sheet, 12 + sheet.month - monthsLookedBack, 12);

@@ -31,7 +31,7 @@ QStringList yearsOnDisk(const Session& session) {
   QStringList years;
   for (const QString& file : yearFileNames(session, session.DbPath))
     if (file.left(4).toInt() > 0 && file != yearTemplate()) years.prepend(file.left(4));
-  if (!years.contains(session.WorkYear)) years.prepend(session.WorkYear);
+  if (const QString open = QString::number(openedYear(session)); !years.contains(open)) years.prepend(open);
   return years;
 }
 
@@ -98,7 +98,7 @@ QList<QWidget*> BriefAsks::makeBoxes(const BriefQuestion& question, QWidget* pan
       auto* const box = new QComboBox(panel);
       box->setObjectName(name);
       box->addItems(yearsOnDisk(context_.session));
-      box->setCurrentText(context_.session.WorkYear);
+      box->setCurrentText(QString::number(openedYear(context_.session)));
       return {box};
     }
     case AskKind::Month:

@@ -75,7 +75,7 @@ RegisterRules::Outcome RefillRegister::change(const RegisterFields& boxes) {
   if (!outcome.done || renamed.isEmpty()) return outcome;
   walkYears(session_, [&](const QString& file) {
     jet::Database year;
-    if (file == yearFile(session_, session_.WorkYear)) return;
+    if (file == yearFile(session_, openedYear(session_))) return;
     if (OpenDB(session_.wsMain, year, file))
       renameLines(year, renamed, company);
     else

@@ -137,6 +137,8 @@ TEST_F(YearEndForms, AnotherYearIsChosenAndTheClockGoesAlong) {
   EXPECT_EQ(pc.pc.clock.today(), QDate(2027, 12, 31));
   EXPECT_EQ(field("Trust", owes, 1), "35500") << "dbYear is the chosen year's";
   EXPECT_EQ(session.WorkYear, "2026");
+  ASSERT_TRUE(window->openForm("frmLPGSaleBrief:month"));
+  EXPECT_EQ(window->findChild<QComboBox*>("CboYear")->currentText(), "2027") << "the year that is worked in";
   {
     choose("2030", [](QComboBox&) {});
     pc.prompts.expect("3024");

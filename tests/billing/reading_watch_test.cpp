@@ -106,6 +106,10 @@ TEST_F(Watched, TheSheetIsMarkedFromBothYearsFilesAndNothingOfTheBillMoves) {
   show(HouseStyle::Individual, 0);
   EXPECT_EQ(countsText(markReadings(sheet)) + useText(sheet, 1), "")
       << "nothing is expected of an opening entry";
+
+  session.dbYear = last;  // the PC's year was changed: the year before has no file
+  show(HouseStyle::Individual, 3);
+  EXPECT_EQ(watched(1), "||") << "a month is not set against itself";
 }
 
 TEST_F(Watched, AFinishedCellMovesItsMarkAndTheWayGoesRound) {
