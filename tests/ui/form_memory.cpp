@@ -133,6 +133,12 @@ TEST_F(FormMemory, MenuChangesRowHeightAndFontAndGoesBackToTheDesign) {
   at.prompts.expectInput("줄높이를 입력하세요.(입력범위: 8~20, 0:기본값)", "20");
   choose(form, "그리드 줄높이 변경");
   EXPECT_EQ(form.grid->rowHeight(), 20);
+  at.prompts.expectInput("글자크기", "8");
+  choose(form, "글자크기        변경");
+  EXPECT_EQ(form.grid->fontSize(), 8);
+  at.prompts.expectInput("글자크기", "0");
+  choose(form, "글자크기        변경");
+  EXPECT_EQ(form.grid->fontSize(), 10) << "the design's own";
   at.prompts.expectInput("글자크기", "14");
   choose(form, "글자크기        변경");
   EXPECT_EQ(form.grid->fontSize(), 14);
