@@ -55,6 +55,9 @@ TEST_F(FolderTroubleTest, TheDriveTheShareOrTheFolderIsNamedAndNothingIsMade) {
   EXPECT_EQ(session.dbBasic.path().left(2), "Z:");
 
   startUp.shutDown();
+  choose("z:\\DBS\\");
+  EXPECT_TRUE(start()) << "a drive is one however it is written";
+  startUp.shutDown();
   ASSERT_TRUE(QDir(root("pc1/RWGas/DBS")).removeRecursively());
   writeFile(root("pc1/RWGas/DBS"));
   EXPECT_FALSE(start());

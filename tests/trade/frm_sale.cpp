@@ -366,7 +366,10 @@ TEST_F(FrmSale, TheDaysFiguresOpenForTheScreensDay) {
   tabs()->setCurrentIndex(2);
   press(Qt::Key_F10);
   EXPECT_FALSE(pc.session.SaleLedgerGas);
-  EXPECT_EQ(commands.asked, QStringList({"frmTodaySale:2026-03-05", "frmPrtSale"}));
+  tabs()->setCurrentIndex(1);
+  press(Qt::Key_F10);
+  EXPECT_TRUE(pc.session.SaleLedgerGas) << "what the meter measures is gas";
+  EXPECT_EQ(commands.asked, QStringList({"frmTodaySale:2026-03-05", "frmPrtSale", "frmPrtSale"}));
   sold("'2026-03-05', 1, 1, False, 'LPG', '20', 2, 0, 0, 5000, 700");
   frmTodaySale today(context);
   EXPECT_EQ(today.findChild<QLabel*>("LblTitle")->text(), "03/05일의 판매현황");

@@ -219,6 +219,8 @@ struct Cylinders : testing::Test, tests::BriefDesk {
     sale({.day = "2026-03-01", .kind = 5, .pieces = 3});
     sale({.day = "2026-03-31", .kind = 6, .pieces = 2, .person = "두기사"});
     sale({.day = "2026-03-05", .client = 2, .kind = 5, .pieces = 4, .size = "50"});
+    sale({.day = "2026-03-10", .client = 2, .kind = 5, .pieces = 2, .size = "13"});
+    sale({.day = "2026-03-11", .client = 2, .kind = 6, .pieces = 2, .size = "13"});  // settled within it
     sale({.day = "2026-01-05", .client = 3, .kind = 5, .pieces = 7});
     sale({.day = "2026-01-06", .client = 3, .kind = 6, .pieces = 7});  // settled before the period
     sale({.day = "2026-03-06", .kind = 1, .pieces = 99});
@@ -237,9 +239,9 @@ struct Cylinders : testing::Test, tests::BriefDesk {
 TEST_F(Cylinders, WhatIsOutByItem) {
   BriefRun brief(session, canLpgBrief());
   // Kim: 5 last year, 1 back, 3 out and 2 back in March.
-  EXPECT_EQ(loadMarch(brief),
-            QStringList({"LPG|20|김하나|4|3|2|5", "LPG|50|한빛 101동 202호|0|4|0|4", "[합 계]|||4|7|2|9"}));
-  EXPECT_EQ(printed(brief, 0, "Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04"),
+  EXPECT_EQ(loadMarch(brief), QStringList({"LPG|13|한빛 101동 202호|0|2|2|0", "LPG|20|김하나|4|3|2|5",
+                                           "LPG|50|한빛 101동 202호|0|4|0|4", "[합 계]|||4|9|4|9"}));
+  EXPECT_EQ(printed(brief, 0, "Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04", 1),
             "용기대여현황02.rpt LPG|20|김하나|4|3|2|5");
   EXPECT_EQ(reports.asked.back().formulas, QStringList({"조회기간= '3월 1일 - 3월 31일'"}));
   ASSERT_TRUE(brief.load(asks(0, {{"TxtDay", days("2023-01-01", "2026-03-31")}})));
@@ -252,9 +254,10 @@ TEST_F(Cylinders, WhatIsOutByItem) {
 TEST_F(Cylinders, WhatIsOutAtStationsAndCustomers) {
   BriefRun brief(session, canCompanyBrief());
   EXPECT_EQ(loadMarch(brief),
-            QStringList({"고객|김하나|LPG|20|4|3|2|5", "고객|한빛 101동 202호|LPG|50|0|4|0|4",
-                         "충전소|대구충전소|LPG|20|10|0|4|6", "[합 계]||||14|7|6|15"}));
-  EXPECT_EQ(printed(brief, 0, "Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04", 2),
+            QStringList({"고객|김하나|LPG|20|4|3|2|5", "고객|한빛 101동 202호|LPG|13|0|2|2|0",
+                         "고객|한빛 101동 202호|LPG|50|0|4|0|4", "충전소|대구충전소|LPG|20|10|0|4|6",
+                         "[합 계]||||14|9|8|15"}));
+  EXPECT_EQ(printed(brief, 0, "Str01, Str02, Str03, Str04, Lng01, Lng02, Lng03, Lng04", 3),
             "용기대여현황01.rpt 충전소|대구충전소|LPG|20|10|0|4|6");
   EXPECT_EQ(loadMarch(brief, {{"OptWhere", {.place = 1}}}).size(), 2);
   EXPECT_EQ(loadMarch(brief, {{"OptWhere", {.place = 2}}, {"TxtName", {.text = "하나"}}}).size(), 2);
@@ -269,7 +272,8 @@ TEST_F(Cylinders, WhatIsOutByPerson) {
   BriefRun brief(session, canResBrief());
   EXPECT_EQ(loadMarch(brief),
             QStringList({"두기사||김하나|LPG|20|0|0|2|-2", "한기사|010-1|김하나|LPG|20|4|3|0|7",
-                         "한기사|010-1|한빛 101동 202호|LPG|50|0|4|0|4", "[합 계]|||||4|7|2|9"}));
+                         "한기사|010-1|한빛 101동 202호|LPG|13|0|2|2|0",
+                         "한기사|010-1|한빛 101동 202호|LPG|50|0|4|0|4", "[합 계]|||||4|9|4|9"}));
   EXPECT_EQ(printed(brief, 0, "Str01, Str02, Str03, Str04, Str05, Lng01, Lng02, Lng03, Lng04", 1),
             "용기대여현황03.rpt 한기사|010-1|김하나|LPG|20|4|3|0|7");
   EXPECT_EQ(loadMarch(brief, {{"TxtResponse", {.text = "두기사"}}}).size(), 2);
