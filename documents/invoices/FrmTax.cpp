@@ -325,7 +325,7 @@ void FrmTax::deleteIssued() {
 }
 
 void FrmTax::typeInvoice() {
-  if (!isTyped()) return;
+  if (!isTyped() || !dates_->take()) return;
   context_.commands.openForm("FrmNewAcount:" + dates_->to().toString(Qt::ISODate) + ',' +
                              dates_->to().toString(Qt::ISODate));
   setBottomLine(keysAfterEntry);
