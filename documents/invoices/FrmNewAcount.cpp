@@ -53,6 +53,8 @@ QWidget* FrmNewAcount::headPanel() {
   help(issue_, "작성일자를 입력하세요.");
   help(deal_, "거래일자를 입력하세요.");
   help(client_, "매출처명을 선택하여 주십시요.  [검색:Enter]");
+  // A name that is typed over is nobody's until it is looked up.
+  connect(client_, &QLineEdit::textEdited, this, [this] { entry_.forgetClient(); });
   for (QWidget* each : {static_cast<QWidget*>(issue_), static_cast<QWidget*>(deal_)})
     each->installEventFilter(this);
   return panel;
@@ -119,17 +121,19 @@ bool FrmNewAcount::eventFilter(QObject* watched, QEvent* event) {
   return Dialog::eventFilter(watched, event);
 }
 
-void FrmNewAcount::takeDates() {
+/** What was typed becomes the dates, also in a box that is not left yet. False after telling that one is none. */
+bool FrmNewAcount::takeDates() {
   const auto take = [this](DateBox* box, QString& taken) {
-    if (box->dateText() == taken) return;
+    if (box->dateText() == taken) return true;
     const QString date = documentDate(context_.session, box->dateText());
     if (!date.isEmpty()) taken = date;
     box->setDateText(taken);
     if (date.isEmpty()) box->setFocus();
+    return !date.isEmpty();
   };
-  take(issue_, issueDate_);
-  take(deal_, dealDate_);
+  const bool taken = take(issue_, issueDate_) && take(deal_, dealDate_);
   entry_.setDates(issueDate_, dealDate_);
+  return taken;
 }
 
 void FrmNewAcount::chooseClient() {
@@ -163,10 +167,16 @@ void FrmNewAcount::searchItem(int row) {
   grid_->setActiveCell(row, AcountCol::Quantity);
 }
 
+/** False after telling what is missing; the focus is there then. */
+bool FrmNewAcount::store() {
+  if (!takeDates()) return false;
+  const bool stored = entry_.save();
+  if (!entry_.hasClient()) client_->setFocus();
+  return stored;
+}
+
 void FrmNewAcount::save() {
-  if (!grid_->commitEdit()) return;
-  takeDates();
-  if (!entry_.isUnsaved() || !entry_.save()) return;
+  if (!grid_->commitEdit() || !entry_.isUnsaved() || !store()) return;
   sums_.show(entry_.sums());
   grid_->setActiveCell(1, AcountCol::Name);
   client_->setFocus();
@@ -184,11 +194,11 @@ bool FrmNewAcount::mayLeave() {
   if (!entry_.isUnsaved()) return true;
   if (!prompts().MsgAsk("세금계산서 내역을 저장하시겠습니까?", "세금계산서 내역 저장")) return true;
   bool saved = false;
-  return guard([&] { saved = entry_.save(); }) && saved;
+  return guard([&] { saved = store(); }) && saved;
 }
 
 void FrmNewAcount::keyPressEvent(QKeyEvent* event) {
-  if (event->modifiers() == Qt::NoModifier) {
+  if (!(event->modifiers() & ~Qt::KeypadModifier)) {
     if (event->key() == Qt::Key_Insert) {
       client_->setFocus();
       return client_->selectAll();

@@ -28,8 +28,9 @@ class FrmNewAcount : public Dialog {
   void connectGrid();
   void help(QWidget* box, const QString& text);
   void chooseClient();
-  void takeDates();
+  bool takeDates();
   void searchItem(int row);
+  bool store();
   void save();
   void deleteLine();
 

@@ -60,11 +60,13 @@ void NewAcountEntry::setDates(const QString& issueDate, const QString& dealDate)
   dealDate_ = dealDate;
 }
 
+bool NewAcountEntry::isForClient() {
+  if (!hasClient()) session_.prompts.MsgWarn("거래처를 먼저 선택하여 주십시요.");
+  return hasClient();
+}
+
 bool NewAcountEntry::mayEdit(int row, int col) {
-  if (!hasClient()) {
-    session_.prompts.MsgWarn("거래처를 먼저 선택하여 주십시요.");
-    return false;
-  }
+  if (!isForClient()) return false;
   const bool counted = grid_.text(row, AcountCol::Kinds).toLongLong() != 0;
   if (counted && (col == AcountCol::Quantity || col == AcountCol::Price)) {
     session_.prompts.MsgWarn("수량 및 단가을 입력할 수 없습니다.", kindsTitle);
@@ -91,6 +93,7 @@ void NewAcountEntry::fill(int row, const VatSplit& split) {
 
 bool NewAcountEntry::finishCell(int row, int col, const QString& text) {
   const double value = numberIn(text);
+  double amount = 0;
   switch (col) {
     case AcountCol::Quantity:
     case AcountCol::Price:
@@ -98,16 +101,18 @@ bool NewAcountEntry::finishCell(int row, int col, const QString& text) {
         session_.prompts.MsgWarn("수량 및 단가를 입력할 수 없습니다.", kindsTitle);
         return false;
       }
+      amount = value * numberIn(grid_.text(row, AcountCol::Quantity + AcountCol::Price - col));
       break;
     case AcountCol::Supply:
     case AcountCol::Total:
-      if (qAbs(value) >= 1e12) {
-        session_.prompts.MsgWarn("금액은 열두 자리까지 입력할 수 있습니다.");
-        return false;
-      }
+      amount = value;
       break;
     default:
       break;
+  }
+  if (qAbs(amount) >= 1e12) {
+    session_.prompts.MsgWarn("금액은 열두 자리까지 입력할 수 있습니다.");
+    return false;
   }
   beginLine(row);
   switch (col) {
@@ -118,24 +123,20 @@ bool NewAcountEntry::finishCell(int row, int col, const QString& text) {
       grid_.setText(row, AcountCol::Price, {});
       break;
     case AcountCol::Quantity:
-    case AcountCol::Price: {
+    case AcountCol::Price:
       grid_.setText(row, col,
                     col == AcountCol::Quantity ? vb::Format(value, "#,###,###.##") : moneyText(value));
       if (col == AcountCol::Quantity && grid_.text(row, col).endsWith('.'))
         grid_.setText(row, col, grid_.text(row, col).chopped(1));
-      const double quantity = numberIn(grid_.text(row, AcountCol::Quantity)),
-                   price = numberIn(grid_.text(row, AcountCol::Price));
-      if (qAbs(quantity * price) < 1e12) fill(row, splitAmount(wholeWon(quantity * price), vat_));
+      amount = numberIn(grid_.text(row, AcountCol::Quantity)) * numberIn(grid_.text(row, AcountCol::Price));
+      fill(row, splitAmount(wholeWon(amount), vat_));
       break;
-    }
-    case AcountCol::Supply: {
+    case AcountCol::Supply:
       // What is typed here is without the tax, whatever the customer's choice.
-      const qint64 supply = wholeWon(value);
-      fill(row, splitAmount(supply, vat_ == Vat::None ? Vat::None : Vat::OnTop));
+      fill(row, splitAmount(wholeWon(amount), vat_ == Vat::None ? Vat::None : Vat::OnTop));
       break;
-    }
     case AcountCol::Total:
-      fill(row, splitAmount(wholeWon(value), Vat::Included));
+      fill(row, splitAmount(wholeWon(amount), Vat::Included));
       break;
     default:
       grid_.setText(row, col, text);
@@ -189,6 +190,7 @@ TaxLine NewAcountEntry::lineOf(int row) const {
 }
 
 bool NewAcountEntry::save() {
+  if (!isForClient()) return false;
   QString failure;
   invoices_.tax().Together([&] {
     const std::vector<TaxLine> stored =

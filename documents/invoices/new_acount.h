@@ -20,6 +20,8 @@ class NewAcountEntry {
   void setClient(const QString& code, const QString& name);
   const QString& clientName() const { return clientName_; }
   bool hasClient() const { return !client_.isEmpty(); }
+  /** The lines are nobody's until another customer is set. */
+  void forgetClient() { client_.clear(); }
   void setDates(const QString& issueDate, const QString& dealDate);
 
   /** Before a cell opens; False after telling why it stays closed. */
@@ -34,13 +36,15 @@ class NewAcountEntry {
   VatSplit sums() const;
   bool isUnsaved() const { return unsaved_; }
 
-  /** Stores the lines; then the grid is empty for the next invoice. False after telling that it failed. */
+  /** Stores the lines; then the grid is empty for the next invoice. False after telling that it failed or that there is
+   *  no customer. */
   bool save();
   /** Takes a line away after a question. */
   void deleteLine(int row);
 
  private:
   void clear();
+  bool isForClient();
   void beginLine(int row);
   void fill(int row, const VatSplit& split);
   TaxLine lineOf(int row) const;

@@ -473,6 +473,46 @@ TEST_F(AcountForm, TypingAnInvoiceByKeys) {
   EXPECT_TRUE(typed.List().atEnd());
 }
 
+TEST_F(AcountForm, WhoeverAndWheneverStandsInTheBoxesIsWhatIsStored) {
+  auto* const client = part<QLineEdit>("txtinput");
+  auto* const day = part<DateBox>("txtDate(1)");
+  const auto store = [this] { part<QPushButton>("btnSave")->click(); };  // as Alt+S, the focus stays
+  tests::show(form);
+  found(1, "한라식당");
+  tests::key(Qt::Key_Return);
+  tests::type("gas");
+  tests::key(Qt::Key_Return);
+  pc.prompts.expect("선택하신 내역을 삭제하시겠습니까?", false);
+  tests::key(Qt::Key_Delete, Qt::KeypadModifier);
+
+  client->setFocus();
+  tests::type("sea");  // and not looked up
+  go(1, AcountCol::Norm);
+  pc.prompts.expect("거래처를 먼저 선택하여 주십시요.");
+  tests::type("b");
+  EXPECT_TRUE(client->hasFocus());
+  grid->setFocus();
+  pc.prompts.expect("거래처를 먼저 선택하여 주십시요.");
+  store();
+  EXPECT_TRUE(client->hasFocus());
+  found(2, "바다식당");
+  tests::key(Qt::Key_Return);
+
+  day->setFocus();
+  day->setDateText("2026-13-40");
+  pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
+  store();
+  EXPECT_TRUE(day->hasFocus());
+  EXPECT_EQ(day->dateText(), "2026-03-31");
+  EXPECT_EQ(inTax("Select Count(*) From NewAcount"), "0");
+  day->setDateText("2026-03-15");
+  pc.prompts.expect("세금계산서 내역을 저장하시겠습니까?", true);
+  pc.prompts.expect("[닫기]버튼을 누르시면 계산서를 발행하실 수 있습니다");
+  tests::key(Qt::Key_Escape);
+  EXPECT_FALSE(form.isVisible());
+  EXPECT_EQ(inTax("Select CName & DealDate From NewAcount"), "바다식당2026-03-15");
+}
+
 TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
   session.dbBasic.Execute("Insert Into Response(Name) Values('홍길동')");
   tests::whenModal([](QWidget& dialog) {

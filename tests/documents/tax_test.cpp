@@ -366,6 +366,9 @@ TEST_F(TypedTaxes, ATypedInvoiceFollowsItsCells) {
   entry.finishCell(1, AcountCol::Price, "1000");
   EXPECT_EQ(line(1), "2,500|250|2,750") << "without a ledger the tax comes on top";
   EXPECT_EQ(grid.text(1, AcountCol::Quantity), "2.5");
+  pc.prompts.expect("금액은 열두 자리까지");
+  EXPECT_FALSE(entry.finishCell(1, AcountCol::Quantity, "1000000000"));
+  EXPECT_EQ(grid.text(1, AcountCol::Quantity), "2.5") << "1,000 won each";
   entry.finishCell(1, AcountCol::Total, "55");
   EXPECT_EQ(line(1), "50|5|55");
   entry.finishCell(1, AcountCol::Supply, "25");
