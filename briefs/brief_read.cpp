@@ -26,10 +26,9 @@ std::pair<int, int> askedYears(const BriefPage& page, const BriefAsk& ask) {
 constexpr int yearsTold = 4;  ///< of those without a file, before "and others"
 
 /** Years with a file, the open one among them. */
-std::set<int> yearsThere(const Session& session) {
-  std::set<int> years{openedYear(session)};
-  for (const QString& file : yearFileNames(session, session.DbPath))
-    if (const int year = file.left(4).toInt(); year > 0 && file != yearTemplate()) years.insert(year);
+std::set<int> yearsRead(const Session& session) {
+  std::set<int> years = yearsThere(session);
+  years.insert(openedYear(session));
   return years;
 }
 
@@ -45,7 +44,7 @@ void walkReached(Session& session, const BriefPage& page, const BriefAsk& ask, Q
                           [&](const jet::Database& file, const LineDays& days) {
                             return work(file, askWithin(page, ask, days));
                           });
-  first = std::min(first, *yearsThere(session).begin());
+  first = std::min(first, *yearsRead(session).begin());
   QString since;  // lines of a year that has no file are in the copy that the next file is
   walkBriefYears(session, first, last, missing, [&](const jet::Database& file, const LineDays& days) {
     BriefAsk of = ask;
@@ -141,7 +140,7 @@ void orderRows(const std::vector<int>& order, std::vector<BriefCells>& rows) {
 void walkBriefYears(Session& session, int first, int last, QStringList& missing,
                     const std::function<bool(const jet::Database&, const LineDays&)>& work) {
   const int open = openedYear(session);
-  const std::set<int> there = yearsThere(session);
+  const std::set<int> there = yearsRead(session);
   for (int year = first; year <= last && missing.size() <= yearsTold; ++year)
     if (!there.contains(year)) missing << QString::number(year);
   for (const int year : there) {

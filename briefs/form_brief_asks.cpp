@@ -29,8 +29,7 @@ QHBoxLayout* tightRow(QWidget* box) {
 
 QStringList yearsOnDisk(const Session& session) {
   QStringList years;
-  for (const QString& file : yearFileNames(session, session.DbPath))
-    if (file.left(4).toInt() > 0 && file != yearTemplate()) years.prepend(file.left(4));
+  for (const int year : yearsThere(session)) years.prepend(QString::number(year));
   if (const QString open = QString::number(openedYear(session)); !years.contains(open)) years.prepend(open);
   return years;
 }

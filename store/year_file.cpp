@@ -67,6 +67,14 @@ QStringList yearFileNames(const Session& session, const QString& folder) {
   return filesIn(session.pc.paths, folder, yearFileName(u"*"_s));
 }
 
+std::set<int> yearsThere(const Session& session) {
+  std::set<int> years;
+  for (const QString& file : yearFileNames(session, session.DbPath))
+    if (const int year = file.left(yearDigits).toInt(); year > 0 && file != yearTemplate())
+      years.insert(year);
+  return years;
+}
+
 QStringList yearFiles(const Session& session, const jet::Workspace& workspace, const QString& folder) {
   QStringList files;
   for (const QString& name : yearFileNames(session, folder)) {

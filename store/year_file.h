@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <set>
 
 #include "store/jet/database.h"
 
@@ -38,6 +39,8 @@ jet::Database openYear(const Session& session, int year);
 /** The files from the clock's year back, up to the first year without one: a file beyond a gap is not reached, and some
  *  rules keep that. Throws jet::Error 3043 where a disk or network does not answer. */
 void walkYears(const Session& session, const std::function<void(const QString& file)>& work);
+/** The years that have a file in the data folder, in their order; the template's is none. */
+std::set<int> yearsThere(const Session& session);
 /** Names of the files of a folder that are named as a year's, the template among them, sorted. */
 QStringList yearFileNames(const Session& session, const QString& folder);
 /** Paths of those that open and hold a table Buy, sorted. */

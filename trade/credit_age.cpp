@@ -39,7 +39,7 @@ bool readCreditDays(Session& session, CreditKind kind, QHash<qint64, std::vector
   bool read = true;
   QStringList missing;
   walkBriefYears(
-      session, first.year(), today.year(), missing, [&](const jet::Database& file, const LineDays& own) {
+      session, first.year(), creditsLastYear, missing, [&](const jet::Database& file, const LineDays& own) {
         jet::Recordset rs;
         read = OpenSnapshot(session.prompts, file, rs,
                             lines + " And " + daysAre("SaleDate", own) +

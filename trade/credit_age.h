@@ -23,6 +23,9 @@ CreditAges ageCredit(qint64 balance, const std::vector<CreditDay>& days, const Q
 
 enum class CreditKind { Gas, Material };
 
-/** Every customer's credit days of the last 90 days up to the clock's day, by code: older ones count alike. False after
- *  a failure has been told. */
+/** What is owed follows from the lines of every later year too: the clock may have been put back into an older one. */
+constexpr int creditsLastYear = 9999;
+
+/** Every customer's credit days since 90 days before the clock's day, by code: older ones count alike. False after a
+ *  failure has been told. */
 bool readCreditDays(Session& session, CreditKind kind, QHash<qint64, std::vector<CreditDay>>& days);

@@ -86,10 +86,10 @@ bool Forecast::hasYear(const QString& year) {
   return false;
 }
 
-/** Back to the first of January of the year before the working year. */
+/** Back to the first of January of the year before the one that is worked in. */
 QString Forecast::period() const {
   const QString first =
-      checkedMonthDay(u"01-01"_s, QString::number(session_.WorkYear.toInt() - 1), session_.pc.clock);
+      checkedMonthDay(u"01-01"_s, QString::number(openedYear(session_) - 1), session_.pc.clock);
   return u" saledate >= '"_s + plainText(first) + u"' and saledate <> ''"_s;
 }
 

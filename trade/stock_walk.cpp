@@ -63,11 +63,9 @@ class StockWalk {
   std::vector<StockInOut> run(const std::function<void(int, int)>& told) {
     clear();
     const int first = start_.left(4).toInt(), open = openedYear(session_);
-    const int last = std::max(open, session_.pc.clock.today().year());
     copyLines({}, lineDays(session_, open));
-    for (int year = first; year <= last; ++year)
-      if (year != open && session_.pc.paths.exists(yearFile(session_, year)))
-        copyLines(yearFile(session_, year), lineDays(session_, year));
+    for (const int year : yearsThere(session_))  // also those after the clock's, which may have been put back
+      if (year != open && year >= first) copyLines(yearFile(session_, year), lineDays(session_, year));
     fillItems();
     countLines();
     writeItems(told);

@@ -73,15 +73,15 @@ RegisterRules::Outcome RefillRegister::change(const RegisterFields& boxes) {
         renameLines(session_.dbYear, renamed, row[u"Company"_s]);
       });
   if (!outcome.done || renamed.isEmpty()) return outcome;
-  walkYears(session_, [&](const QString& file) {
-    jet::Database year;
-    if (file == yearFile(session_, openedYear(session_))) return;
-    if (OpenDB(session_.wsMain, year, file))
-      renameLines(year, renamed, company);
+  for (const int year : yearsThere(session_)) {
+    if (year == openedYear(session_)) continue;
+    if (const jet::Database file = openYear(session_, year); file.isOpen())
+      renameLines(file, renamed, company);
     else
-      session_.prompts.MsgWarn(file + u"\n파일을 열 수 없어 이 해의 구매자료는 예전 상호로 남았습니다!"_s,
-                               refillTitle);
-  });
+      session_.prompts.MsgWarn(
+          yearFile(session_, year) + u"\n파일을 열 수 없어 이 해의 구매자료는 예전 상호로 남았습니다!"_s,
+          refillTitle);
+  }
   return outcome;
 }
 

@@ -79,6 +79,12 @@ TEST_F(CreditTest, CreditOfLastYearKeepsItsAge) {
   BriefRun run(session, trustBrief());
   EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||29000|1000|0|0|0|30000|0|30000|21000|0|6000|3000");
 
+  session.dbYear = last;
+  pc.pc.clock.set(
+      QDate(2025, 12, 31).startOfDay());  // the PC's year was changed: January's 1,000 is owed all the same
+  EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||2100|27900|0|0|0|30000|0|30000|21000|4000|2900|2100");
+  pc.pc.clock.set(QDate(2026, 1, 20).startOfDay());
+
   session.WorkYear = "2025";  // last year's book is open: what was sold since its beginning is 27,900
   session.dbYear = last;
   EXPECT_EQ(load(run, asks(0))[0], "김하나|053-1||2100|27900|0|0|0|30000|0|30000|21000|0|6000|3000");

@@ -86,6 +86,10 @@ TEST_F(Forecasts, LastYearsFileIsReadAndItsDatesSetOff) {
       << "nothing before the two years";
   EXPECT_EQ(forecast.grid().ink(1, ForecastCol::First), 0xE80300);
   EXPECT_EQ(forecast.grid().ink(1, ForecastCol::First + 2), -1);
+
+  pc.session.dbYear = openYear(pc.session, "2025");  // the PC's year was changed: 355 days in two gaps
+  ASSERT_TRUE(extract());
+  EXPECT_EQ(shown(1), "산골식당|053-123-4567|12-31|12-01|12-21||||||12-21|06-17|178||1");
 }
 
 TEST_F(Forecasts, TheFilterIsOneDay) {

@@ -31,7 +31,7 @@ bool readMoved(Session& session, CreditKind kind, QHash<qint64, YearMoved>& move
                       (gas ? "Not " + material : material);
   bool read = true;
   QStringList missing;
-  walkBriefYears(session, openedYear(session), session.pc.clock.today().year(), missing,
+  walkBriefYears(session, openedYear(session), creditsLastYear, missing,
                  [&](const jet::Database& file, const LineDays& own) {
                    jet::Recordset rs;
                    read = OpenSnapshot(session.prompts, file, rs,
