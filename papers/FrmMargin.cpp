@@ -4,7 +4,6 @@
 #include <QPushButton>
 
 #include "papers/form_correction_box.h"
-#include "papers/paper_printer.h"
 #include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
@@ -17,7 +16,8 @@ FrmMargin::FrmMargin(FormContext& context, QWidget* parent)
   boxes.add(u"위쪽 여백(&T)"_s, txtTop_);
   boxes.add(u"왼쪽 여백(&L)"_s, txtLeft_);
   QPushButton* const set = addButton("Cmd설정", u"설정(&S)"_s, [this] {
-    setDocumentMargins(session(), kind(), {txtTop_->text(), txtLeft_->text()});
+    keepTyped();
+    for (const auto& [each, margins] : typed_.asKeyValueRange()) setDocumentMargins(session(), each, margins);
     accept();
   });
   addLeave("Cmd취소", u"취소(&C)"_s);
@@ -26,8 +26,15 @@ FrmMargin::FrmMargin(FormContext& context, QWidget* parent)
   txtTop_->setFocus();
 }
 
+/** What was typed for one kind waits while another one's margins are set. */
+void FrmMargin::keepTyped() {
+  if (!shown_.isEmpty()) typed_[shown_] = {txtTop_->text(), txtLeft_->text()};
+}
+
 void FrmMargin::showKind() {
-  const DocumentMargins margins = documentMargins(session(), kind());
+  keepTyped();
+  shown_ = kind();
+  const DocumentMargins margins = typed_.value(shown_, documentMargins(session(), shown_));
   txtTop_->setText(margins.top);
   txtLeft_->setText(margins.left);
 }

@@ -201,7 +201,12 @@ TEST_F(GiroForms, EachDocumentHasItsPrinterAndMargins) {
   part<QLineEdit>(margin, "TxtTop")->setText("1");
   part<QLineEdit>(margin, "TxtLeft")->setText("2.5");
   tests::grab(margin, "FrmMargin");
+  part<QListWidget>(margin, "List1")->setCurrentRow(1);
+  part<QLineEdit>(margin, "TxtTop")->setText("7");
+  part<QListWidget>(margin, "List1")->setCurrentRow(4);
+  EXPECT_EQ(box(margin, "TxtLeft"), "2.5") << "what was typed for another kind waits";
   click(margin, "Cmd설정");
+  EXPECT_EQ(setting("세금계산서", "TopMargin"), "7");
   EXPECT_EQ(setting("DM인쇄", "TopMargin") + '/' + setting("DM인쇄", "LeftMargin"), "1/2.5");
   EXPECT_EQ(setting("거래명세표", "TopMargin"), "3");
   EXPECT_FALSE(margin.isVisible());
