@@ -85,7 +85,7 @@ QString periodWhere(const EvaTotalAsk& ask) {
 }
 
 struct Line {
-  QString who;  ///< what tells one customer's lines from the next one's
+  qint64 client = 0;
   int month = 0;
   qint64 remain = 0;
 };
@@ -99,7 +99,7 @@ qint64 stillOpen(const std::vector<Line>& lines) {
   qint64 open = 0;
   for (size_t from = 0, to = 0; from < lines.size(); from = to) {
     int last = 0;
-    for (to = from; to < lines.size() && lines[to].who == lines[from].who; ++to)
+    for (to = from; to < lines.size() && lines[to].client == lines[from].client; ++to)
       last = std::max(last, lines[to].month);
     for (size_t at = from; at < to; ++at)
       if (lines[at].month == last) open += lines[at].remain;
@@ -113,6 +113,7 @@ bool readLines(Session& session, const EvaTotalAsk& ask, BriefRows& into, Sums& 
       "Sum(Evaporation.Trust) As Trust, "
       "Sum(Evaporation.UsePay) AS UsePay, Sum(Evaporation.Pay) AS Pay, "
       "Sum(Evaporation.Delay) As Delay, Sum(Evaporation.Manage) As Manage "
+      ", Client.Code "
       "FROM Evaporation LEFT JOIN Client ON Evaporation.ClientCode = Client.Code " +
       bookCondition(ask) + periodWhere(ask);
   if (!ask.dong.isEmpty()) sql += " And Client.Dong ='" + plainText(ask.dong) + "'";
@@ -139,7 +140,7 @@ bool readLines(Session& session, const EvaTotalAsk& ask, BriefRows& into, Sums& 
     into.rows.push_back({name, text(u"BDName"_s), twoDigits(month), won(u"Trust"_s), won(u"UsePay"_s),
                          won(u"Delay"_s), won(u"Manage"_s), won(u"Pay"_s),
                          text(u"TrustDay"_s).replace(u'-', u'/'), QString::number(remain)});
-    lines.push_back({text(u"Name"_s) + u'\n' + text(u"BDName"_s) + u'\n' + name, month, remain});
+    lines.push_back({fieldWon(rs, u"Code"_s), month, remain});
     sums.income += fieldWon(rs, u"Pay"_s);
   }
   sums.remain = stillOpen(lines);

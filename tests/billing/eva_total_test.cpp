@@ -101,6 +101,11 @@ TEST_F(EvaTotalTest, TwoOfOneNameAreBothCounted) {
   bill(second, 3, 0, 5000, 0, 0, 0);
   ASSERT_TRUE(refresh({.fromMonth = 3, .toMonth = 3}));
   EXPECT_EQ(remain(), 15000);
+
+  bill(first, 2, 0, 10000, 0, 0, 1000, "02/10");
+  bill(second, 3, 0, 5000, 0, 0, 500, "03/10");
+  ASSERT_TRUE(refresh({.byCollection = true, .fromDay = "02/01", .toDay = "03/31"}));
+  EXPECT_EQ(remain(), 9000 + 4500) << "each one's own last month";
 }
 
 TEST_F(EvaTotalTest, BuildingsDongAndHoNarrowTheLinesTheBroughtInSumOnlyTheBuilding) {
