@@ -102,8 +102,13 @@ QWidget* FrmTax::questionRow() {
                                             " 집계 마지막일자를 입력하세요.");
   dates_->addTo(row, "집계일자");
   row->addWidget(choiceOf(gathering_, "OptGubun", {"월별", "일자별", "기간별"}, panel));
-  for (QRadioButton* each : gathering_)
-    connect(each, &QRadioButton::clicked, this, [this] { command([this] { gather(); }); });
+  for (int place = 0; place < 3; ++place)
+    connect(gathering_[place], &QRadioButton::clicked, this, [this, place] {
+      command([&] {
+        if (gather()) gatheredAs_ = place;
+      });
+      gathering_[gatheredAs_]->setChecked(true);
+    });
   gathering_[0]->setChecked(true);
   row->addWidget(gatherButton_ = addButton("Cmd모으기", "집계(&G)", [this] { gather(); }));
   row->addStretch(1);
@@ -239,11 +244,16 @@ TaxAsk FrmTax::ask() const {
           .tab = isPendingTab() ? TaxTab::Pending : TaxTab::Issued};
 }
 
-void FrmTax::gather() {
-  if (!dates_->take()) return;
+/** False after telling what of the question is wrong; the focus is there then. */
+bool FrmTax::gather() {
+  if (!dates_->take()) return false;
   const BusyPointer busy;
-  if (!desk_.gather(ask())) return focus(dates_->box(0));
+  if (!desk_.gather(ask())) {
+    focus(dates_->box(0));
+    return false;
+  }
   showSums();
+  return true;
 }
 
 void FrmTax::list() {

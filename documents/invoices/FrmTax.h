@@ -31,7 +31,7 @@ class FrmTax : public DocumentForm {
   bool mayDropTyped();
   TaxAsk ask() const;
   Vat vat() const;
-  void gather();
+  bool gather();
   void list();
   void turnTab();
   void showSums();
@@ -46,6 +46,7 @@ class FrmTax : public DocumentForm {
   TaxDesk desk_;
   int mode_ = 0;
   bool isJustMade_ = true;
+  int gatheredAs_ = 0;  ///< place of the gathering that is listed
   QRadioButton *gathering_[3], *vat_[3], *receipt_, *charge_;
   QCheckBox *freeOfTax_, *all_, *form_;
   QPushButton* gatherButton_;

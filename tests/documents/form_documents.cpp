@@ -374,6 +374,10 @@ TEST_F(TaxForm, WhatIsChosenBesideTheRegisterIsGatheredWhenThePendingComeBack) {
   turnTo(1);
   turnTo(0);
   EXPECT_EQ(label("pnlSum(2)"), "586,500") << "17 pieces since the day that stands in the box";
+  from->setDateText("2026-04-01");
+  pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
+  choose("OptGubun(0)");
+  EXPECT_TRUE(part<QRadioButton>("OptGubun(1)")->isChecked()) << "as what is listed";
 }
 
 TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
