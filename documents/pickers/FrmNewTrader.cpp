@@ -62,13 +62,15 @@ bool FrmNewTrader::enter() {
 bool FrmNewTrader::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && helps_.contains(watched)) help_->setText(helps_.value(watched));
   if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
+    const auto* const pressed = static_cast<QKeyEvent*>(event);
+    const bool plain = !(pressed->modifiers() & ~Qt::KeypadModifier);
+    const int key = plain ? pressed->key() : 0;
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (watched == address_ && key == Qt::Key_PageDown) {
       guard([this] { searchPost({}); });
       return true;
     }
-    if (watched == address_ && enter && post_.isEmpty() && !address_->text().trimmed().isEmpty()) {
+    if (watched == address_ && enter && postCode().isEmpty() && !address_->text().trimmed().isEmpty()) {
       guard([this] { searchPost(address_->text()); });
       return true;
     }
@@ -96,9 +98,14 @@ void FrmNewTrader::searchPost(const QString& text) {
     address_->setFocus();
     return;
   }
-  post_ = post->zipCode;
+  post_ = *post;
   address_->setText(post->address);
   lot_->setFocus();
+}
+
+/** Of the chosen place, as long as the address is still there. */
+QString FrmNewTrader::postCode() const {
+  return address_->text().startsWith(post_.address) ? post_.zipCode : QString();
 }
 
 TraderFields FrmNewTrader::typed() const {
@@ -112,7 +119,7 @@ TraderFields FrmNewTrader::typed() const {
           .VAT = vat_->currentIndex(),
           .Addr1 = address_->text(),
           .Addr2 = lot_->text(),
-          .Post = post_,
+          .Post = postCode(),
           .Status = status_->text(),
           .Item = item_->text(),
           .OpenDate = day(open_),

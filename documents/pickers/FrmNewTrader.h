@@ -27,6 +27,7 @@ class FrmNewTrader : public Dialog {
   void save();
   void searchCharge(bool typed);
   void searchPost(const QString& text);
+  QString postCode() const;
 
   Session& session_;
   Pickers& pickers_;
@@ -35,7 +36,7 @@ class FrmNewTrader : public Dialog {
   QLineEdit *name_, *person_, *phone_, *fax_, *charge_, *serial_, *status_, *item_, *address_, *lot_,
       *remark_;
   DateBox *open_, *close_;
-  QString post_;
+  PostCodeChoice post_ = {};  ///< the one chosen last
   QComboBox* vat_;
   MoneyBox* balance_;
   QLabel* help_;

@@ -32,10 +32,15 @@ std::optional<PostCodeChoice> FrmPost(Session& session, const QString& text, QWi
   button->setText("검색(&F)");
   dialog.showHelp("읍/면/동으로 검색하세요. [전체검색 : 빈칸]");
   dialog.addLeave("btnQuit", "닫기(&Q)");
-  if (!text.isEmpty()) {
-    box->setText(text);
-    QTimer::singleShot(0, &dialog, [&] { dialog.guard([&] { search(text.trimmed()); }); });
-  }
+  box->setText(text);
+  QTimer::singleShot(0, &dialog, [&] {
+    dialog.guard([&] {
+      if (text.trimmed().isEmpty())
+        posts.search({});  // all of them, and the hand stays in the box
+      else
+        search(text.trimmed());
+    });
+  });
   const int row = dialog.pick();
   return row ? posts.choice(row) : std::nullopt;
 }

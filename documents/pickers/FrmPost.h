@@ -5,6 +5,6 @@
 
 class QWidget;
 
-/** Searches at once for a caller's text. The chosen line's postcode "000-000" and address; nothing when the operator
+/** Searches at once for a caller's text; '' lists all. The chosen line's postcode "000-000" and address; nothing when the operator
  *  leaves. */
 std::optional<PostCodeChoice> FrmPost(Session& session, const QString& text, QWidget* parent);

@@ -1,5 +1,7 @@
 #include "documents/pickers/post_list.h"
 
+#include <algorithm>
+
 #include "store/data_access.h"
 
 namespace {
@@ -10,6 +12,15 @@ enum : int { Zip = 1, Place, Lots, Dong };
 QString dashed(const QString& zip) {
   const QString digits = QString(zip).remove('-');
   return digits.size() == 6 ? digits.left(3) + '-' + digits.mid(3) : zip;
+}
+
+/** A postcode typed whole is found whether the file has dashes or not. */
+QString patternOf(const QString& text) {
+  const QString zip = dashed(text);
+  const bool whole = zip.size() == 7 && zip[3] == '-' && std::all_of(zip.begin(), zip.end(), [](QChar each) {
+                       return each == '-' || each.isDigit();
+                     });
+  return whole ? zip.left(3) + '*' + zip.mid(4) : text;
 }
 
 }  // namespace
@@ -24,7 +35,7 @@ bool PostList::search(const QString& text) {
   list_.clear();
   jet::Recordset found;
   if (!OpenSnapshot(session_.prompts, posts_.file(), found,
-                    posts_.statement(text, PostCodeSearch::Area::Whole)))
+                    posts_.statement(patternOf(text), PostCodeSearch::Area::Whole)))
     return false;
   std::vector<std::vector<QString>> rows;
   for (; !found.atEnd(); found.MoveNext()) {

@@ -45,10 +45,16 @@ void chooseFirst(QMenu& menu) {
 /** Searches and questions answered as the test says. */
 struct DocumentPickers : tests::IdlePickers {
   TraderFound found;
+  std::optional<PostCodeChoice> post;
+  QStringList posts;  // the texts searched by
   std::optional<PrintMethodChoice> method = PrintMethodChoice{};
   PrintMethodQuestion asked;
   std::optional<QString> searchResponse() override { return "김배달"; }
   TraderFound searchTrader(const QString&) override { return found; }
+  std::optional<PostCodeChoice> searchPost(const QString& text) override {
+    posts << text;
+    return post;
+  }
   std::optional<PrintMethodChoice> askPrintMethod(const PrintMethodQuestion& question) override {
     asked = question;
     return method;
@@ -557,6 +563,22 @@ TEST_F(DocumentForms, TheDialogsChooseAndLeave) {
           << "by code, by name, from the list";
     }
     EXPECT_TRUE(dialog.findChild<QLineEdit*>("txtSerial")->hasFocus());
+    auto* const address = dialog.findChild<QLineEdit*>("txtAddr1");
+    const auto onAddress = [&](Qt::Key key, Qt::KeyboardModifiers held = {}) {
+      address->setFocus();
+      QTest::keyClick(address, key, held);
+    };
+    pickers.post = PostCodeChoice{"700-010", "대구 중구 동인동", ""};
+    onAddress(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(pickers.posts, QStringList()) << "another key";
+    onAddress(Qt::Key_PageDown);
+    EXPECT_EQ(address->text(), "대구 중구 동인동");
+    address->setText("대구 중구 동인동 1가");
+    onAddress(Qt::Key_Return);
+    EXPECT_EQ(pickers.posts, QStringList("")) << "it has its postcode";
+    address->setText("역삼동");
+    onAddress(Qt::Key_Return);
+    EXPECT_EQ(pickers.posts, QStringList({"", "역삼동"})) << "the postcode was another place's";
     dialog.findChild<QLineEdit*>("txtSerial")->setText("123-45-67890");
     pc.prompts.expect("검증번호가 맞지 않습니다.");
     pc.prompts.expect("거래처를 등록하는 중 오류가 발생했습니다.");
@@ -580,6 +602,8 @@ TEST_F(DocumentForms, APostcodeIsSearchedAndFoundInWhatIsLoaded) {
       box->setText(typed);
       QTest::mouseClick(dialog.findChild<QPushButton*>("btnFind"), Qt::LeftButton);
     };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return grid->model().MaxRows() == 3; })) << "all of them to begin with";
+    EXPECT_TRUE(box->hasFocus());
     find("");
     EXPECT_EQ(grid->model().MaxRows(), 3);
     find("동인동");
@@ -589,6 +613,8 @@ TEST_F(DocumentForms, APostcodeIsSearchedAndFoundInWhatIsLoaded) {
     EXPECT_EQ(grid->model().MaxRows(), 2);
     pc.prompts.expect("'없는동' 가 없습니다.");
     find("없는동");
+    find("135-081");
+    EXPECT_EQ(grid->model().text(1, 2), "서울 강남 역삼1동") << "the file has it without its dash";
     find("70001");
     EXPECT_EQ(grid->model().text(1, 1), "700-010");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
