@@ -121,17 +121,19 @@ bool CompanyProfile::saveSettings(const BillingSettings& settings) {
     session_.prompts.MsgWarn(u"두 패스워드가 서로 다릅니다. 다시 입력하십시오."_s, title);
     return false;
   }
-  session_.DelayCalcFlag = settings.oneMonthOnly ? u"1"_s : u"0"_s;
-  session_.pc.settings.write(setting::LateChargeKind, session_.DelayCalcFlag);
-  setAfterDueMethod(session_, settings.withoutDelay ? 1 : 0);
-  session_.dbBasic.Execute(
+  const QString statement =
       u"Update User Set PayState = "_s + QString::number(settings.PayState) + u", AptRate = "_s +
       valText(settings.AptRate) + u", "_s + u"AptSecurity = "_s + wholeText(settings.AptSecurity) +
       u", ManyRate = "_s + valText(settings.ManyRate) + u", "_s + u"ManySecurity = "_s +
       wholeText(settings.ManySecurity) + u", Rate = "_s + valText(settings.Rate) + u", "_s +
       u"Security = "_s + wholeText(settings.Security) + u", Password = '"_s + plainText(settings.password) +
       u"', "_s + u"Post1 = "_s + valText(settings.Post1) + u", Post2 = "_s + valText(settings.Post2) +
-      u", "_s + (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s));
+      u", "_s + (settings.Stock ? u"Stock = True"_s : u"Stock = False"_s);
+  jet::requirePlain(statement);  // a password that cannot be stored must not leave the charges changed alone
+  session_.DelayCalcFlag = settings.oneMonthOnly ? u"1"_s : u"0"_s;
+  session_.pc.settings.write(setting::LateChargeKind, session_.DelayCalcFlag);
+  setAfterDueMethod(session_, settings.withoutDelay ? 1 : 0);
+  session_.dbBasic.Execute(statement);
   session_.StockEnabled = settings.Stock;
   readRateBook(session_);
   if (session_.profileChanged) session_.profileChanged();

@@ -88,6 +88,13 @@ TEST_F(CompanyProfileTest, RatesKeepTheirFractionsSafetyFeesLoseThem) {
   EXPECT_TRUE(rules.settings().withoutDelay);
   EXPECT_EQ(session.rates.of(HouseStyle::Individual).rate, double(2.1f)) << "single precision, widened";
   EXPECT_EQ(session.rates.of(HouseStyle::Apartment).security, 999);
+
+  page.oneMonthOnly = page.withoutDelay = false;
+  page.password = "it's";
+  EXPECT_THROW(rules.saveSettings(page), jet::Error);
+  EXPECT_TRUE(rules.settings().oneMonthOnly) << "all of the page or nothing";
+  EXPECT_EQ(session.DelayCalcFlag, "1");
+  EXPECT_EQ(session.AfterDueMethod, 1);
 }
 
 TEST_F(CompanyProfileTest, PasswordIsComparedByCaseAndAnEmptyBoxDeletesIt) {
