@@ -95,5 +95,5 @@ bool TelTidy::save() {
   if (const int left = ticked() - written; left > 0)
     told += u"\n%1개는 그 사이에 다른 PC에서 바뀌어 그대로 두었습니다."_s.arg(left);
   session_.prompts.MsgInfo(told, telManager);
-  return written > 0;
+  return true;
 }

@@ -20,8 +20,8 @@ class TelTidy : public TickedList {
 
   /** The numbers out of shape, all ticked. False after a failed query has been told. */
   bool load();
-  /** Asks, then writes the ticked ones, all or none; a cell that another PC changed meanwhile stays. False when nothing
-   *  was written. Throws jet::Error. */
+  /** Asks, then writes the ticked ones, all or none; a cell that another PC changed meanwhile stays. False when it was
+   *  not begun; else the list is one of before. Throws jet::Error. */
   bool save();
 
  private:

@@ -84,6 +84,9 @@ TEST_F(TelTidyTest, ACellThatAnotherPcChangedMeanwhileStays) {
   prompts.expect("전화번호 2개를 바꾸었습니다.\n1개는 그 사이에 다른 PC에서 바뀌어 그대로 두었습니다.");
   EXPECT_TRUE(tidy.save());
   EXPECT_TRUE(stored().startsWith("053-999-9999||010-1234-5678"));
+  prompts.expect("3개를 바꾸시겠습니까?");
+  prompts.expect("전화번호 0개를 바꾸었습니다.\n3개는 그 사이에");
+  EXPECT_TRUE(tidy.save()) << "the list is to be read anew then too";
 }
 
 }  // namespace
