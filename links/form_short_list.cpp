@@ -49,8 +49,8 @@ ShortListDialog::ShortListDialog(const ShortListKind& kind, Session& session, bo
   if (picks) hint(u"※ 선택"_s, u"엔터"_s);
   body()->addLayout(hints);
   addButton("BtnSave", u"저장(&S)"_s, [this] {
+    grid_->setFocus();  // first: a save that fails leaves the hand in the list too
     if (grid_->commitEdit()) save();
-    grid_->setFocus();
   });
   addLeave("BtnExit", u"닫기(&X)"_s);
   allowResize({grid_->fullWidth() + 60, 24 * fontMetrics().lineSpacing()});

@@ -62,7 +62,6 @@ ShortList::Rows ShortList::onScreen() const {
 }
 
 bool ShortList::load() {
-  grid_.clear();
   for (size_t at = 0; at < kind_.fields.size(); ++at) {
     if (!kind_.fields[at].staff) continue;
     QStringList names;
@@ -71,11 +70,15 @@ bool ShortList::load() {
     for (; !staff.atEnd(); staff.MoveNext()) names << staff[u"Name"_s].toText();
     grid_.setCombo(int(at) + 1, names);
   }
-  read_ = stored();
-  Rows rows = read_;
+  show(stored());
+  return true;
+}
+
+/** As the table holds them; an empty one for the next stands below. */
+void ShortList::show(Rows rows) {
+  read_ = rows;
   rows.emplace_back(kind_.fields.size());
   grid_.setRows(std::move(rows));
-  return true;
 }
 
 bool ShortList::isEmpty(int row) const {
@@ -153,7 +156,8 @@ void ShortList::save() {
     session_.dbBasic.Execute(u"Delete * From "_s + kind_.table);
     for (const std::vector<QString>& row : kept) session_.dbBasic.Execute(insertStatement(row));
   });
+  // What was written, without a further query: one that fails would leave the screen of before the save.
+  show(std::move(kept));
   if (added > 0)
     session_.prompts.MsgInfo(u"다른 PC에서 추가한 %1줄을 함께 저장했습니다."_s.arg(added), kind_.title);
-  load();
 }

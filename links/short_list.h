@@ -48,6 +48,7 @@ class ShortList {
  private:
   using Rows = std::vector<std::vector<QString>>;
   Rows stored() const;
+  void show(Rows rows);
   Rows onScreen() const;
   QString insertStatement(const std::vector<QString>& row) const;
 

@@ -199,4 +199,15 @@ TEST_F(ShortListTest, ATextThatCannotBeStoredLeavesTheTableAndTheScreen) {
   EXPECT_EQ(list.grid().text(2, 1), "'94 타이어");
 }
 
+TEST_F(ShortListTest, WhatWasSavedIsShownWithoutAskingTheFileAgain) {
+  ShortList list(session, vehicleList());
+  ASSERT_TRUE(list.load());
+  list.finishCell(1, 1, "1234");
+  run("Drop Table Response");
+  list.save();
+  EXPECT_EQ(vehicles(), "1234|");
+  EXPECT_EQ(list.grid().text(1, 1), "1234");
+  EXPECT_FALSE(list.changed()) << "a yes to the next question would write the rows of before";
+}
+
 }  // namespace
