@@ -41,8 +41,8 @@ FleetLog::FleetLog(Session& session) : session_(session) {
 }
 
 bool FleetLog::showAll() {
-  asks_ = false;
   if (!read({})) return false;
+  asks_ = false;
   addNewLine();
   return true;
 }
@@ -57,18 +57,19 @@ bool FleetLog::showAsked(const CarAsk& typed) {
     session_.prompts.MsgWarn(u"날짜입력이 잘못되었습니다"_s, carTitle);
     return false;
   }
+  if (!read(carWhere(ask))) return false;
   asks_ = true;
-  return read(carWhere(ask));
+  return true;
 }
 
+/** A query that fails leaves what is shown. */
 bool FleetLog::read(const QString& where) {
-  where_ = where;
-  stored_.clear();
-  grid_.clear();
   jet::Recordset rs;
   if (!OpenSnapshot(session_.prompts, session_.dbBasic, rs,
                     u"Select * From Car"_s + where + u" Order By RDate, RCode"_s))
     return false;
+  where_ = where;
+  stored_.clear();
   std::vector<std::vector<QString>> rows;
   for (; !rs.atEnd(); rs.MoveNext()) {
     RegisterFields fields = fieldsOf(rs);

@@ -10,6 +10,7 @@
 
 #include "links/form_short_list.h"
 #include "master/registers/form_lookups.h"
+#include "store/date_text.h"
 #include "ui/forms/boxes.h"
 
 using namespace Qt::StringLiterals;
@@ -113,20 +114,31 @@ void frmCar::toNewLine() {
 }
 
 void frmCar::enterAll() {
-  if (!mayLeave(grid_->activeRow(), 0)) return showState();
+  if (!mayLeave(grid_->activeRow(), 0)) {
+    showState();
+    return grid_->setFocus();
+  }
   log_.showAll();
   showState();
   toNewLine();
 }
 
 void frmCar::ask() {
-  if (!mayLeave(grid_->activeRow(), 0)) return showState();
+  if (!mayLeave(grid_->activeRow(), 0)) {
+    showState();
+    return grid_->setFocus();
+  }
   const bool shown = log_.showAsked({from_->dateText(), to_->dateText(), carNo_->text()});
   showState();
-  if (!shown) return focus(from_);
+  if (!shown) {
+    const auto isWrong = [this](const DateBox* day) {
+      return !day->dateText().isEmpty() && checkedDate(day->dateText(), session().pc.clock).isEmpty();
+    };
+    return focus(isWrong(from_) ? from_ : isWrong(to_) ? to_ : carNo_);
+  }
   if (log_.grid().MaxRows() == 0) {
-    showHelp(u"조회된 정비내역이 없습니다"_s);
-    return focus(from_);
+    focus(from_);  // whose own help comes up with the focus
+    return showHelp(u"조회된 정비내역이 없습니다"_s);
   }
   grid_->setActiveCell(1, CarCol::Day);
   grid_->setFocus();

@@ -6,6 +6,7 @@
 #include <QRegularExpressionValidator>
 
 #include "links/safe_note.h"
+#include "store/date_text.h"
 #include "ui/forms/fields.h"
 
 using namespace Qt::StringLiterals;
@@ -40,6 +41,9 @@ frmPrtSafe::frmPrtSafe(FormContext& context, QWidget* parent)
 }
 
 void frmPrtSafe::print() {
-  if (!showSafeNote(session_, {from_->dateText(), to_->dateText(), month_->text().trimmed()}))
-    from_->setFocus();
+  if (showSafeNote(session_, {from_->dateText(), to_->dateText(), month_->text().trimmed()})) return;
+  const auto isDay = [this](const DateBox* box) {
+    return !checkedDate(box->dateText(), session_.pc.clock).isEmpty();
+  };
+  (isDay(from_) && !isDay(to_) ? to_ : from_)->setFocus();
 }

@@ -86,7 +86,13 @@ TEST_F(SideJobs, AHalfLineIsHeldGivenUpOrAskedAbout) {
   prompts.expect("정비내역/부품을 입력하십시오");
   form.findChild<QPushButton*>("BtnView")->click();
   EXPECT_TRUE(form.findChild<QRadioButton*>("OptEnter")->isChecked());
-  grid.setFocus();
+  auto* const ask = form.findChild<QRadioButton*>("OptAsk");
+  ask->setFocus();
+  prompts.expect("정비내역/부품을 입력하십시오");
+  ask->click();
+  EXPECT_FALSE(ask->isChecked());
+  EXPECT_EQ(grid.activeCol(), CarCol::Content);
+  EXPECT_TRUE(grid.isAncestorOf(QApplication::focusWidget())) << "the hand is where something is missing";
   tests::key(Qt::Key_Escape);
   EXPECT_EQ(grid.model().text(2, CarCol::CarNo), QString());
   tests::key(Qt::Key_Up);
@@ -118,6 +124,26 @@ TEST_F(SideJobs, TheLogIsLookedThroughByDaysAndCorrectedThere) {
   form.findChild<QRadioButton*>("OptEnter")->click();
   EXPECT_EQ(grid.model().MaxRows(), 1);
   EXPECT_TRUE(grid.isAncestorOf(QApplication::focusWidget()));
+
+  const auto refused = [&](const char* box, const char* typed, const char* told) {
+    auto* const at = form.findChild<QLineEdit*>(QString::fromLatin1(box));
+    at->setText(QString::fromUtf8(typed));
+    prompts.expect(QString::fromUtf8(told));
+    form.findChild<QPushButton*>("BtnView")->click();
+    EXPECT_TRUE(at->hasFocus());
+    at->clear();
+    EXPECT_TRUE(form.findChild<QRadioButton*>("OptEnter")->isChecked());
+    EXPECT_EQ(grid.model().MaxRows(), 1) << "what was shown stays";
+  };
+  refused("TxtTo", "2026-02-30", "날짜입력이 잘못되었습니다");
+  refused("TxtCarNo", "'", "RCarNo");
+  auto* const carNo = form.findChild<QLineEdit*>("TxtCarNo");
+  carNo->setText("9999");
+  carNo->setFocus();
+  tests::key(Qt::Key_Return);
+  EXPECT_EQ(grid.model().MaxRows(), 0);
+  EXPECT_TRUE(from->hasFocus());
+  EXPECT_EQ(form.findChild<QLabel*>("PnlHelp")->text(), "조회된 정비내역이 없습니다");
 }
 
 TEST_F(SideJobs, APickListIsKeptByKeysAndSavedOnTheWayOut) {
@@ -130,6 +156,15 @@ TEST_F(SideJobs, APickListIsKeptByKeysAndSavedOnTheWayOut) {
   EXPECT_EQ(grid.model().text(3, 1), "세차");
   EXPECT_EQ(grid.activeRow(), 4);
   tests::grab(form, "frmCaRepairUnit");
+  tests::enter("'94");
+  auto* const save = form.findChild<QPushButton*>("BtnSave");
+  save->setFocus();
+  prompts.expect("CaRepair");
+  save->click();
+  EXPECT_TRUE(grid.isAncestorOf(QApplication::focusWidget())) << "to be mended there";
+  grid.setActiveCell(4, 1);
+  prompts.expect("선택된 사항을 지우시겠습니까?");
+  tests::key(Qt::Key_Delete);
   prompts.expect("정비부품/내역을 저장하시겠습니까?");
   tests::key(Qt::Key_Escape);
   EXPECT_FALSE(form.isVisible());
@@ -170,6 +205,13 @@ TEST_F(SideJobs, TheSafetyRegisterSelectsItsDays) {
   prompts.expect("날짜입력이 잘못되었습니다!");
   form.findChild<QPushButton*>("BtnPrint")->click();
   EXPECT_TRUE(from->hasFocus());
+  from->setText("2026-03-01");
+  auto* const to = form.findChild<QLineEdit*>("txtDate1");
+  to->setText("2026-03-32");
+  prompts.expect("날짜입력이 잘못되었습니다!");
+  form.findChild<QPushButton*>("BtnPrint")->click();
+  EXPECT_TRUE(to->hasFocus()) << "the one that is none";
+  to->setText("2026-03-16");
   from->setText("2019-01-01");
   prompts.expect("2019년의 자료 파일이 없습니다!");
   form.findChild<QPushButton*>("BtnPrint")->click();
