@@ -31,12 +31,17 @@ void FrmSetPrinter::showKind() {
   const QString chosen = documentPrinter(session(), kind());
   lblChosen_->setText(chosen.isEmpty() ? u"없음 (기본프린터로 출력)"_s : chosen);
   const pc::Printers* printers = session().printers;
-  const int place = cboPrinter_->findText(chosen.isEmpty() && printers ? printers->defaultName() : chosen);
-  if (place >= 0) cboPrinter_->setCurrentIndex(place);
+  // A printer that is gone is none of those in the box: nothing is chosen, not the one of another kind.
+  cboPrinter_->setCurrentIndex(
+      cboPrinter_->findText(chosen.isEmpty() && printers ? printers->defaultName() : chosen));
 }
 
 void FrmSetPrinter::store() {
-  if (cboPrinter_->currentIndex() < 0) return;
+  if (cboPrinter_->currentIndex() < 0) {
+    session().prompts.MsgWarn(u"프린터를 선택해 주십시오"_s, windowTitle());
+    cboPrinter_->setFocus();
+    return;
+  }
   setDocumentPrinter(session(), kind(), cboPrinter_->currentText());
   showKind();
 }

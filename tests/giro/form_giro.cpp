@@ -16,6 +16,7 @@
 #include "papers/FrmMargin.h"
 #include "papers/FrmPrintSection.h"
 #include "papers/FrmSetPrinter.h"
+#include "papers/paper_printer.h"
 #include "tests/giro/giro_windows.h"
 #include "ui/grid/spread.h"
 #include "ui/paper/printers.h"
@@ -191,6 +192,14 @@ TEST_F(GiroForms, EachDocumentHasItsPrinterAndMargins) {
   tests::grab(printer, "FrmSetPrinter");
   list->setCurrentRow(0);
   EXPECT_EQ(part<QComboBox>(printer, "CboPrinter")->currentText(), "지로프린터") << "none yet: the PC's own";
+  setDocumentPrinter(session, "청구서", "치운 프린터");
+  list->setCurrentRow(2);
+  EXPECT_EQ(part<QLabel>(printer, "LblChosen")->text(), "치운 프린터");
+  EXPECT_EQ(part<QComboBox>(printer, "CboPrinter")->currentText(), "")
+      << "another kind's printer is not offered";
+  prompts.expect("프린터를 선택해 주십시오");
+  click(printer, "Command1");
+  EXPECT_EQ(setting("Drive", "청구서"), "치운 프린터");
 
   pc.settings.SaveSetting("해온판매", "거래명세표", "TopMargin", "3");
   FrmMargin margin(context);
