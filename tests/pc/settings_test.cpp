@@ -42,7 +42,7 @@ TEST(Settings, WhatCannotBeReadIsNotWrittenOver) {
 
 TEST(Settings, HoldsAnyTextAndIsSeenByTheNextProgram) {
   QTemporaryDir folder;
-  const QStringList odd{" blanks ", "a=b;c", "줄\r\n바꿈\\n", "[x]", "똠방각하 \"따옴\"", "\\"};
+  const QStringList odd{" blanks ", "a=b;c", "줄\r\n바꿈\\n", "[x]", "똠방각하 \"따옴\"", "\\", "끝\r"};
   pc::Settings here(folder.path()), there(folder.path());
   for (const QString& text : odd) {
     EXPECT_TRUE(here.SaveSetting("A/B", "[s=1]\n", "=k;" + text, text));

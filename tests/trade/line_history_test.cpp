@@ -45,6 +45,9 @@ TEST_F(LastOffer, IsTheNewestLineOfTheSheetWithItsPriceAndPerson) {
   EXPECT_EQ(offered(SaleSheet::Volume), "LPG/50 90000 홍길동") << "and the other sheet's are not the meter's";
   gas("2026-03-05", "False", "20", 39000, "떠난이");
   EXPECT_EQ(offered(), "LPG/20 39000 ") << "who has left is not offered";
+  run("Insert Into LPG(LPGName, Size) Values('LPG', '20')");
+  EXPECT_EQ(offered(), "/ 0 ")
+      << "nor an item that stands twice in the catalogue: it is for the operator to choose";
 }
 
 TEST_F(LastOffer, TheLastLinesAreTheNewestFiveOfTheTwoYearsTogether) {

@@ -231,6 +231,7 @@ TEST_F(SaleTyping, CreditAsksUnlessTheLineWasBegunHereAndNotYetLeft) {
     entry.onCredit(row);
     EXPECT_EQ(balance(), yes ? "140000|5000" : "100000|5000");
   }
+  EXPECT_EQ(entry.onCredit(row).col, LineCol::Person) << "what is all on credit is not asked about again";
 }
 
 TEST_F(SaleTyping, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
