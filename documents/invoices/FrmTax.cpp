@@ -252,6 +252,9 @@ bool FrmTax::gather() {
     focus(dates_->box(0));
     return false;
   }
+  // The number offered is one of the month that is asked for.
+  if (const QString next = desk_.nextSerial(dates_->to()); serialMonth_->text() != next.left(4))
+    showSerial(next);
   showSums();
   return true;
 }
@@ -310,10 +313,8 @@ std::optional<DocumentRun> FrmTax::papers(bool issuing) {
 
 void FrmTax::print() {
   issue([this] {
-    if (isPendingTab())
-      gather();
-    else
-      list();
+    // What was issued leaves the list also where nothing can be gathered.
+    if (!isPendingTab() || !gather()) list();
   });
 }
 

@@ -406,6 +406,22 @@ TEST_F(TaxForm, F4IssuesWhatIsTickedAndLeavesTheRest) {
   EXPECT_EQ(rows(), 1) << "its lines do not come back";
 }
 
+TEST_F(TaxForm, WhatIsIssuedLeavesTheListWhateverStandsInTheDates) {
+  const auto ask = [this](const char* from, const char* to) {
+    part<DateBox>("txtDate(0)")->setDateText(from);
+    part<DateBox>("txtDate(1)")->setDateText(to);
+  };
+  click(1, TaxCol::Client);
+  ask("2026-04-01", "2026-03-31");
+  pc.prompts.expect("검색일자 지정이 잘못되었습니다. 다시 입력하세요.");
+  choose("Cmd인쇄");
+  EXPECT_EQ(rows(), 1);
+  EXPECT_EQ(box("Txt일련번호1") + box("Txt일련번호2"), "2603002");
+  ask("2026-04-01", "2026-04-30");
+  choose("Cmd모으기");
+  EXPECT_EQ(box("Txt일련번호1") + box("Txt일련번호2"), "2604001") << "of the month that is gathered";
+}
+
 TEST_F(TaxForm, F5ChangesTheIssueDateAndEscLeavesTheDatesFirst) {
   go(1, TaxCol::Client);
   tests::key(Qt::Key_F5);
