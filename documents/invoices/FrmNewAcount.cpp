@@ -114,10 +114,17 @@ bool FrmNewAcount::eventFilter(QObject* watched, QEvent* event) {
       }
     }
   }
-  if (event->type() == QEvent::FocusOut && (watched == issue_ || watched == deal_) &&
-      static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
-    QMetaObject::invokeMethod(
-        this, [this] { guard([this] { takeDates(); }); }, Qt::QueuedConnection);
+  if (event->type() == QEvent::FocusOut && (watched == issue_ || watched == deal_)) {
+    // Not for a message over the box or its own menu.
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+      QMetaObject::invokeMethod(
+          this,
+          [this] {
+            if (isVisible()) guard([this] { takeDates(); });
+          },
+          Qt::QueuedConnection);
+  }
   return Dialog::eventFilter(watched, event);
 }
 

@@ -526,6 +526,10 @@ TEST_F(AcountForm, WhoeverAndWheneverStandsInTheBoxesIsWhatIsStored) {
 
   day->setFocus();
   day->setDateText("2026-13-40");
+  QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+  QApplication::sendEvent(day, &toMenu);
+  QApplication::processEvents();
+  EXPECT_EQ(day->dateText(), "2026-13-40") << "its own menu is no leaving";
   pc.prompts.expect("잘못된 날짜 형식입니다.\n정확한 날짜 형식을 입력하세요.");
   store();
   EXPECT_TRUE(day->hasFocus());
