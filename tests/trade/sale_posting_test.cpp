@@ -232,6 +232,9 @@ TEST_F(SaleTyping, CreditAsksUnlessTheLineWasBegunHereAndNotYetLeft) {
     EXPECT_EQ(balance(), yes ? "140000|5000" : "100000|5000");
   }
   EXPECT_EQ(entry.onCredit(row).col, LineCol::Person) << "what is all on credit is not asked about again";
+  const int begun = newRow(Plain, "산골식당");
+  entry.enterKey(begun, LineCol::Kind, "가스");
+  EXPECT_EQ(entry.onCredit(begun).row, 0) << "without an item the cursor stays";
 }
 
 TEST_F(SaleTyping, TheLastCellOpensTheNextRowOnlyWhenNothingIsMissing) {
