@@ -142,8 +142,10 @@ TEST_F(DealForm, SpaceBlocksAndDoubleClicksTick) {
   EXPECT_EQ(tick(5), "") << "a click chooses a row, nothing more";
   QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, placeOf(5, DealCol::Item));
   EXPECT_EQ(tick(5), "1");
-  click(6, DealCol::Tick);
-  EXPECT_EQ(tick(6), "1");
+  for (const char* const now : {"1", "0", "1"}) {
+    click(6, DealCol::Tick);
+    EXPECT_EQ(tick(6), now);
+  }
   const QPoint begin = placeOf(8, DealCol::Item), end = placeOf(10, DealCol::Item);
   QTest::mousePress(grid->viewport(), Qt::LeftButton, Qt::NoModifier, begin);
   QMouseEvent drag(QEvent::MouseMove, end, grid->viewport()->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,

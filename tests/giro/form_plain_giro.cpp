@@ -155,6 +155,10 @@ TEST_F(PlainGiroForms, EachCustomersSlipIsAFileOfItsOwn) {
   };
   part<QRadioButton>(form, "Opt1")->click();
   click(form, "BtnPdf");
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    const auto* const notice = form.findChild<QLabel*>("pnlCaption");
+    return notice && notice->text() == "고객 1명의 지로를 PDF로 저장하였습니다.";
+  }));
   EXPECT_EQ(offered, "2026-03-16 달빛식당 지로");
   EXPECT_TRUE(pdf.exists("mine.pdf"));
 }

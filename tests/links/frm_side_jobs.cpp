@@ -230,6 +230,7 @@ TEST_F(SideJobs, LabelsGoToTheChosenPrinter) {
   const auto text = [&](const char* name) {
     return form.findChild<QLabel*>(QString::fromLatin1(name))->text();
   };
+  EXPECT_TRUE(form.findChild<QRadioButton*>("Opt1")->isChecked());
   EXPECT_EQ(text("LblTotal") + text("LblSel"), "1 명 /0 명");
   tests::key(Qt::Key_Space);
   EXPECT_EQ(text("LblSel"), "1 명");

@@ -2,6 +2,7 @@
 
 #include "store/year_file.h"
 #include "tests/answers.h"
+#include "tests/cells.h"
 #include "tests/support.h"
 
 namespace {
@@ -77,7 +78,10 @@ TEST_F(ClientRegistering, meterCustomersOfEveryPageGetThirteenRows) {
   boxes.volumeUnit = "2000";
   const ClientSaved first = clients.save(boxes);
   clients.loadPage(HouseStyle::MultiHousehold);
-  const ClientSaved second = clients.save(household("1203", true));
+  ClientEntry owing = household("1203", true);
+  owing.gasInit = "3,000";
+  owing.utilInit = "700";
+  const ClientSaved second = clients.save(owing);
   for (const ClientSaved& saved : {first, second}) {
     const QString code = QString::number(saved.code);
     EXPECT_EQ(count(pc.session.dbYear, "Evaporation Where ClientCode = " + code), 13);
@@ -87,7 +91,7 @@ TEST_F(ClientRegistering, meterCustomersOfEveryPageGetThirteenRows) {
   EXPECT_EQ(stored(second.code, "VolumeYesNo, VolumeUnit, HouseStyle"), "-1|1500|2");
   EXPECT_EQ(DisplayName(pc.session.dbBasic.OpenRecordset("Select * From Client Where Ho = '1203'")),
             "한빛 101동 1203호");
-  EXPECT_EQ(clients.list(HouseStyle::MultiHousehold).text(1, 3), "1203");
+  EXPECT_EQ(tests::cellsOf(clients.list(HouseStyle::MultiHousehold), 1, 3, 5).join('|'), "1203|3000|700");
 }
 
 TEST_F(ClientRegistering, refusalsSendTheFocusAndWriteNothing) {

@@ -140,6 +140,8 @@ TEST_F(FrmResCan, PersonAndItemComeFromTheirSearches) {
   tests::grab(form, "frmResCAN");
   tests::key(Qt::Key_F10);
   EXPECT_EQ(reports.asked.back().file, "담당자별보유용기현황.rpt");
+  EXPECT_EQ(tests::stagedRows(pc.session, "Str01, Str03, Lng02, Lng03, Lng04"),
+            QStringList("홍길동|20|3|12|15"));
   part<QLineEdit>(form, "TxtResName")->setFocus();
   tests::key(Qt::Key_Delete);
   EXPECT_EQ(text("TxtResName"), "");

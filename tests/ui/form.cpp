@@ -218,6 +218,8 @@ TEST_F(FormTest, PlaceColumnsAndGridSizesComeBack) {
   EXPECT_EQ(again.pos(), QPoint(40, 60));
   EXPECT_EQ(again.size(), QSize(740, 444));
   EXPECT_EQ(again.grid->colWidth(2), 17.5);
+  EXPECT_EQ(again.grid->cellRect(1, 2).right() + 1, again.grid->viewport()->width())
+      << "what is spare is the first column's, and the others move over";
 }
 
 TEST_F(FormTest, Picture) {
