@@ -70,6 +70,7 @@ TEST_F(CompanyProfileTest, RatesKeepTheirFractionsSafetyFeesLoseThem) {
   page.AptRate = "어림";
   page.Security = "1500.5";
   page.AptSecurity = "999.4";
+  page.ManySecurity = "300";
   page.Post1 = "700";
   page.oneMonthOnly = page.withoutDelay = page.Stock = true;
   page.password = "Abc";
@@ -79,6 +80,7 @@ TEST_F(CompanyProfileTest, RatesKeepTheirFractionsSafetyFeesLoseThem) {
   EXPECT_EQ(column("AptRate"), "0") << "a bad number counts as 0";
   EXPECT_EQ(column("Security"), "1501");
   EXPECT_EQ(column("AptSecurity"), "999");
+  EXPECT_EQ(column("ManySecurity"), "300");
   EXPECT_EQ(column("PayState"), "3");
   EXPECT_EQ(rules.settings().Post1, "700");
   EXPECT_TRUE(session.StockEnabled);

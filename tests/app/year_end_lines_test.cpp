@@ -64,7 +64,9 @@ TEST(YearEndLines, ALineSaysWhatIsOddAboutIt) {
   check.customers = 9;
   check.differing = {{1, "가", 1500, 1400}, {2, "나", 100, {}}, {3, "다", {}, 50}};
   fillDifferences(page, check, 2026, "전.mdb");
-  EXPECT_TRUE(page.head.endsWith("12월 자료가 있는 고객 9명 중 다른 고객: 3명"));
+  EXPECT_EQ(page.head,
+            "2026년 12월 발행금액과 2027년 1월 미수금을 고객마다 대조하였습니다.\n"
+            "12월 자료가 있는 고객 9명 중 다른 고객: 3명");
   EXPECT_TRUE(page.warning.endsWith("[되돌리기]를 하면 마감하기 전으로 돌아갑니다.\n전.mdb"));
   EXPECT_EQ(tests::rowsOf(page.lines),
             QStringList({"1|가|1,500|1,400|", "2|나|100||1월 행이 없음", "3|다||50|12월 행이 없음"}));

@@ -96,6 +96,14 @@ TEST_F(ReportTest, TextsStandAtTheirPlaces) {
   EXPECT_NEAR(rightOf(find(*job, "모두 1,233,677원")), right, 1e-6);
   EXPECT_NEAR(find(*job, "1 / 1")->y + 8 / 144.0, 11.69 - 0.5 - 8 * 1.5 / 144, 1e-6);
   EXPECT_LT(find(*job, "숫자")->y, find(*job, "금액")->y);
+  const auto lineTop = [&](double x) {
+    for (const auto& item : job->items)
+      if (item.kind == PrintedItem::Line && qAbs(item.x - x) < 1e-6 && qAbs(item.x2 - x) < 1e-6)
+        return item.y;
+    return -1.0;
+  };
+  EXPECT_NEAR(lineTop(0.5 + 5 * share), head - 2 * row, 1e-6);
+  EXPECT_NEAR(lineTop(0.5 + 7 * share), head - row, 1e-6) << "not through the caption over both columns";
 }
 
 TEST_F(ReportTest, ManyPagesCarryOnAndTheTotalIsRightToTheWon) {

@@ -97,7 +97,7 @@ TEST_F(YearClose, TheForecastTellsWhoGoesOverAndWhatWouldBeLost) {
   EXPECT_EQ(shown->lines[0].reading, 1234);
 
   workInNextYear();
-  run("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2027-01-04', 3, 1)");
+  run("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2027-01-01', 3, 1)");
   run("Delete * From Evaporation Where Mon = 1 And ClientCode = " + QString::number(late));
   const QString before = dumpOf(year(2027));
   goesOn = false;
