@@ -34,6 +34,8 @@ class BriefRun {
   /** Checks and shows the report of a page without a grid; the note of its rows says what years are left out. False
    *  after telling what is wrong. */
   bool printLive(BriefAsk ask);
+  /** What a page that shows nothing is printed with. */
+  void answer(const BriefAsk& ask) { shown_.at(size_t(ask.page)).ask = ask; }
   /** Stages the page and shows its report; chart: a picture below the rows. Throws jet::Error. */
   void print(int page, const QByteArray& chart = {});
 

@@ -233,7 +233,10 @@ bool BriefForm::load() {
   bar.reset();
   showPanels();
   showChart();
-  if (!found) return false;
+  if (!found) {
+    if (QWidget* const box = asks_->clientWanted()) focus(box);
+    return false;
+  }
   grid()->setActiveCell(1, 1);
   focusGrid();
   const BriefRows& rows = run_.rows(page());
@@ -244,6 +247,7 @@ bool BriefForm::load() {
 }
 
 void BriefForm::print() {
+  if (run_.rows(page()).rows.empty()) run_.answer(asks_->read(page()));
   if (run_.page(page()).selection)
     load();
   else if (const BriefPage& shown = run_.page(page()); shown.report.isEmpty())

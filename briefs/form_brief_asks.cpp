@@ -340,3 +340,10 @@ QWidget* BriefAsks::firstAsked() const {
     if (box->isVisibleTo(&form_)) return box;
   return nullptr;
 }
+
+QWidget* BriefAsks::clientWanted() const {
+  for (const Put& put : puts_)
+    if (put.question->kind == AskKind::Client && read(page_)[put.question->name].code == 0)
+      return put.boxes.front();
+  return nullptr;
+}

@@ -35,6 +35,8 @@ class BriefAsks : public QWidget {
   const QList<QWidget*>& boxes() const { return boxes_; }
   QWidget* box(const QString& name) const;
   QWidget* firstAsked() const;
+  /** The box of a customer who is still to be searched. */
+  QWidget* clientWanted() const;
 
  private:
   struct Put {

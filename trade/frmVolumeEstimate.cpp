@@ -122,7 +122,8 @@ void frmVolumeEstimate::findAll() {
   const QDate today = session().pc.clock.today();
   month_->setCurrentText(today.toString(u"MM"));
   day_->setCurrentText(today.toString(u"dd"));
-  if (forecast_.hasYear(year_->text())) extract({});
+  if (!forecast_.hasYear(year_->text())) return focus(year_);
+  extract({});
 }
 
 void frmVolumeEstimate::findOfDay() {
@@ -150,7 +151,10 @@ void frmVolumeEstimate::extract(const std::optional<QString>& day) {
   const auto which = ForecastOf(std::max(0, which_->checkedId()));
   const bool found = forecast_.ExtractForecast(which, year_->text(), day, tell);
   bar.reset();
-  if (!found) return;
+  if (!found) {
+    if (which == ForecastOf::Nobody) focus(which_->button(int(ForecastOf::General)));
+    return;
+  }
   focusGrid();
   if (!stoppedAt.isEmpty())
     showHelp(u" 중지하였습니다. 고객 "_s + stoppedAt + u" 까지만 추출되었습니다"_s);

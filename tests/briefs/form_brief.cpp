@@ -226,6 +226,22 @@ TEST_F(BriefWindow, EveryReportOpensAsksAndPrintsByKeys) {
   }
 }
 
+TEST_F(BriefWindow, APaperBeforeAnythingIsReadNamesWhatIsAskedFor) {
+  BriefForm form(idle.context, canLpgBrief());
+  tests::show(form);
+  tests::key(Qt::Key_F10);
+  EXPECT_EQ(reports.asked.back().formulas, QStringList("조회기간= '3월 1일 - 3월 31일'"));
+}
+
+TEST_F(BriefWindow, ACustomerStillToBeSearchedIsWhereTheHandGoesOn) {
+  BriefForm form(idle.context, clientSaleBrief());
+  tests::show(form);
+  part<QLineEdit>(form, "TxtDayTo")->setFocus();
+  pc.prompts.expect("조회할 고객을 먼저 검색하십시오!");
+  tests::key(Qt::Key_F5);
+  EXPECT_EQ(tests::focused(), "TxtClient");
+}
+
 TEST_F(BriefWindow, ALedgerAsksForItsDaysAlone) {
   BriefForm form(idle.context, saleLedgerBrief());
   tests::show(form);

@@ -47,6 +47,7 @@ TEST_F(FrmVolumeEstimate, FindsReservesAndFiltersOneDay) {
   EXPECT_EQ(part<QLineEdit>(*form, "TxtYear")->text(), "2026");
   pc.prompts.expect("배달 예상을 추출할 고객을 구분하세요");
   press("BtnFind");
+  EXPECT_EQ(tests::focused(), "SSOption1(0)");
   press("SSOption1(0)");
   press("BtnFind");
   EXPECT_EQ(box("CboMonS") + box("CboDayS"), "0305") << "today";
@@ -80,6 +81,7 @@ TEST_F(FrmVolumeEstimate, ADayMustBeNamed) {
   part<QLineEdit>(*form, "TxtYear")->setText("2019");
   pc.prompts.expect("2019년의 배달자료가 없습니다!");
   press("BtnFind");
+  EXPECT_EQ(tests::focused(), "TxtYear");
 }
 
 TEST_F(FrmVolumeEstimate, LongWorkShowsHowFarItIsAndStopsWhereItIsToldTo) {
