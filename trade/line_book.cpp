@@ -163,7 +163,7 @@ std::optional<bool> LineBook::isStored(int row) {
 // --- writing -------------------------------------------------------------------------------------------------
 
 void LineBook::postRow(int row) {
-  const TradeLine line = lineOf(row);
+  TradeLine line = lineOf(row);
   if (line.partner.isEmpty()) return;
   session_.wsMain.Together([&] {
     if (line.key.isEmpty()) {
@@ -173,7 +173,10 @@ void LineBook::postRow(int row) {
       learn(key);
       return;
     }
-    moveByDifference(line, requireUnmoved(line.key)[table_.partner].toText());
+    const jet::Recordset stored = requireUnmoved(line.key);
+    // The cell shows no year: a line of last December that is corrected in January stays where it is.
+    if (const QString day = stored[table_.date].toText(); day.right(5) == line.date.right(5)) line.date = day;
+    moveByDifference(line, stored[table_.partner].toText());
     applyStock(line, StockMode::Change);
     if (line.item.isEmpty() && !writesWithoutItem()) return;
     updateLine(line);

@@ -144,6 +144,17 @@ TEST_F(SalePosting, DaysAreThisYearsAndMayTakeTheLastDateBack) {
   EXPECT_EQ(posting.date(), "03-05");
 }
 
+TEST_F(SalePosting, ALineOfLastYearThatIsCorrectedStaysInItsYear) {
+  sold("'2025-12-30', 1, 1, False, 'LPG', '20', 1, 40000, 0, 40000, 0");
+  posting.setClient(1);
+  posting.FillSaleGrid(SaleSheet::General, false);
+  ASSERT_EQ(cell(1, LineCol::Date), "12-30");
+  change(1, LineCol::Number, "2");
+  EXPECT_EQ(line(1), "2025-12-30|1|LPG|20|2|40000|0|80000|0");
+  change(1, LineCol::Date, "01-02");
+  EXPECT_EQ(rows("Select SaleDate From Sale"), "2026-01-02") << "a day that is typed is one of this year";
+}
+
 TEST_F(SalePosting, AFailedStepLeavesThoseBeforeItAndTheRowAsItWas) {
   const int row = gasLine();
   change(row, LineCol::Paid, "30000");
