@@ -32,8 +32,9 @@ void FrmSetPrinter::showKind() {
   lblChosen_->setText(chosen.isEmpty() ? u"없음 (기본프린터로 출력)"_s : chosen);
   const pc::Printers* printers = session().printers;
   // A printer that is gone is none of those in the box: nothing is chosen, not the one of another kind.
-  cboPrinter_->setCurrentIndex(
-      cboPrinter_->findText(chosen.isEmpty() && printers ? printers->defaultName() : chosen));
+  int place = cboPrinter_->findText(chosen.isEmpty() && printers ? printers->defaultName() : chosen);
+  if (place < 0 && chosen.isEmpty()) place = 0;
+  cboPrinter_->setCurrentIndex(place);
 }
 
 void FrmSetPrinter::store() {

@@ -24,6 +24,7 @@ struct PrintQueue : testing::Test, tests::TestPc {
   GiroSlips giro{session, [this] { return &screen; }};
 
   void SetUp() override {
+    qputenv("PATH", qgetenv("PATH") + ":/usr/sbin");  // where lpadmin is; not every account looks there
     cups.start("bash", {HAEON_TEST_DATA "/giro/cups_queue.sh", server});
     ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(socket) || cups.state() == QProcess::NotRunning; },
                                 120'000));  // it may have to be installed first
