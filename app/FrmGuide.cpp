@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "app/guide_chapters.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
@@ -183,7 +184,7 @@ void FrmGuide::step(bool backward) {
 }
 
 void FrmGuide::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool enter = isEnterKey(event->key());
   if (enter || event->key() == Qt::Key_F3) {
     step(event->modifiers() & Qt::ShiftModifier);
     return;

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/forms/guard.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/style.h"
 
 using namespace Qt::StringLiterals;
@@ -88,7 +89,7 @@ bool frmSplash::eventFilter(QObject* watched, QEvent* event) {
       txtPassword_->setEchoMode(QLineEdit::Password);
     if (event->type() == QEvent::KeyPress) {
       const int key = static_cast<QKeyEvent*>(event)->key();
-      if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      if (isEnterKey(key)) {
         enter();
         return true;
       }

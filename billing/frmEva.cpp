@@ -18,16 +18,9 @@
 #include "billing/reading_months.h"
 #include "ui/forms/FrmProgress.h"
 #include "ui/forms/choose.h"
+#include "ui/forms/keys.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-bool isReadingEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-}  // namespace
 
 frmEva::frmEva(FormContext& context, QWidget* parent)
     : Form(u"frmEva"_s, u"체적검침 관리"_s, context.session, parent),
@@ -196,7 +189,7 @@ void frmEva::showReadingDay() {
 
 bool frmEva::eventFilter(QObject* watched, QEvent* event) {
   if (watched == txtDay_ && event->type() == QEvent::KeyPress &&
-      isReadingEnter(static_cast<QKeyEvent*>(event)->key())) {
+      isEnterKey(static_cast<QKeyEvent*>(event)->key())) {
     leaveReadingDay();
     grid_->setFocus();
     return true;

@@ -15,6 +15,7 @@
 #include "store/data_access.h"
 #include "store/date_text.h"
 #include "store/year_file.h"
+#include "ui/forms/keys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -201,7 +202,7 @@ void BriefAsks::watchPicks() {
 /** F12, and Enter on what is not chosen yet, search; Delete takes the choice away. */
 bool BriefAsks::pickKey(QLineEdit* box, int key) {
   const auto put = std::ranges::find_if(puts_, [&](const Put& each) { return each.boxes.contains(box); });
-  const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+  const bool enter = isEnterKey(key);
   if (key == Qt::Key_Delete && box->isReadOnly()) {
     box->clear();
     return true;

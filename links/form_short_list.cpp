@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "ui/forms/form_ini.h"
+#include "ui/forms/keys.h"
 #include "ui/grid/spread.h"
 
 using namespace Qt::StringLiterals;
@@ -22,8 +23,7 @@ ShortListDialog::ShortListDialog(const ShortListKind& kind, Session& session, bo
   };
   grid_->columnResized = [this](int col) { FormIni(session_.pc.paths).SaveSpreadIni(*this, *grid_, col); };
   grid_->keyPressed = [this, picks](int row, int, int pressed, Qt::KeyboardModifiers) {
-    if (picks && (pressed == Qt::Key_Return || pressed == Qt::Key_Enter) && !grid_->isEditing() &&
-        !list_.isEmpty(row)) {
+    if (picks && isEnterKey(pressed) && !grid_->isEditing() && !list_.isEmpty(row)) {
       take(row);
       return true;
     }

@@ -10,15 +10,8 @@
 
 #include "trade/form_last_lines.h"
 #include "ui/forms/fields.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/style.h"
-
-namespace {
-
-bool isLineEnter(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
-
-}  // namespace
 
 LineForm::LineForm(const QString& name, const QString& caption, FormContext& context, LineBook& book,
                    LineEntry& entry, QWidget* parent)
@@ -151,8 +144,8 @@ bool LineForm::gridKey(int row, int col, int key, Qt::KeyboardModifiers modifier
     return true;
   }
   if (key == Qt::Key_Down) entry_.makeRoomBelow(row);
-  if ((isLineEnter(key) || key == Qt::Key_F2) && openedEmpty(row)) return true;
-  if (!isLineEnter(key)) return false;
+  if ((isEnterKey(key) || key == Qt::Key_F2) && openedEmpty(row)) return true;
+  if (!isEnterKey(key)) return false;
   // The kind that a new line stands on is taken; elsewhere the list of kinds opens.
   if (col == LineCol::Kind && !entry_.beginsAt(row)) return false;
   // While a cell is being edited Enter searches where there is a search; elsewhere it finishes the cell first.
@@ -219,7 +212,7 @@ void LineForm::showDate() {
 
 bool LineForm::eventFilter(QObject* watched, QEvent* event) {
   if (watched == date_ && event->type() == QEvent::KeyPress &&
-      isLineEnter(static_cast<QKeyEvent*>(event)->key())) {
+      isEnterKey(static_cast<QKeyEvent*>(event)->key())) {
     grid()->setFocus();
     return true;
   }

@@ -8,6 +8,7 @@
 
 #include "documents/form_date_boxes.h"
 #include "store/text_width.h"
+#include "ui/forms/keys.h"
 #include "ui/grid/spread.h"
 
 FrmNewAcount::FrmNewAcount(FormContext& context, QWidget* parent)
@@ -103,7 +104,7 @@ bool FrmNewAcount::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && helps_.contains(watched)) help_->setText(helps_.value(watched));
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    if (isEnterKey(key)) {
       if (watched == client_) {
         guard([this] { chooseClient(); });
         return true;

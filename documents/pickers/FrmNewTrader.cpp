@@ -10,6 +10,7 @@
 #include "store/business_number.h"
 #include "store/date_text.h"
 #include "ui/forms/fields.h"
+#include "ui/forms/keys.h"
 
 FrmNewTrader::FrmNewTrader(Session& session, Pickers& pickers, bool customer, QWidget* parent)
     : Dialog("FrmNewTrader", "거래처 등록", session.prompts, parent),
@@ -65,7 +66,7 @@ bool FrmNewTrader::eventFilter(QObject* watched, QEvent* event) {
     const auto* const pressed = static_cast<QKeyEvent*>(event);
     const bool plain = !(pressed->modifiers() & ~Qt::KeypadModifier);
     const int key = plain ? pressed->key() : 0;
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool enter = isEnterKey(key);
     if (watched == address_ && key == Qt::Key_PageDown) {
       guard([this] { searchPost({}); });
       return true;

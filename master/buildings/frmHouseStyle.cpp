@@ -9,6 +9,7 @@
 
 #include "master/registers/form_lookups.h"
 #include "ui/forms/FrmProgress.h"
+#include "ui/forms/keys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -179,7 +180,7 @@ bool frmHouseStyle::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && watched == boxes().pressure &&
       boxes().pressure->text().trimmed().isEmpty()) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) return lookUpPressure();
+    if (isEnterKey(key)) return lookUpPressure();
   }
   return RegisterForm::eventFilter(watched, event);
 }

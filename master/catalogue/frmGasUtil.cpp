@@ -7,6 +7,7 @@
 #include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
+#include "ui/forms/keys.h"
 #include "ui/paper/grid_print.h"
 
 using namespace Qt::StringLiterals;
@@ -111,7 +112,7 @@ bool frmGasUtil::eventFilter(QObject* watched, QEvent* event) {
   if (watched == name_ && event->type() == QEvent::KeyPress && name_->text().isEmpty() &&
       !name_->isReadOnly()) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) name_->setText(GasCatalogue::defaultName());
+    if (isEnterKey(key)) name_->setText(GasCatalogue::defaultName());
   }
   return RegisterForm::eventFilter(watched, event);
 }

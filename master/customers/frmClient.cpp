@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "ui/forms/choose.h"
+#include "ui/forms/keys.h"
 #include "ui/paper/grid_print.h"
 
 namespace {
@@ -261,7 +262,7 @@ bool frmClient::eventFilter(QObject* watched, QEvent* event) {
   auto* const box = qobject_cast<QWidget*>(watched);
   if (box && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && page().boxes->enter(box)) return true;
+    if (isEnterKey(key) && page().boxes->enter(box)) return true;
   }
   return Form::eventFilter(watched, event);
 }

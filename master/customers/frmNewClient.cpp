@@ -7,6 +7,7 @@
 
 #include "master/customers/new_client.h"
 #include "ui/forms/form.h"
+#include "ui/forms/keys.h"
 
 frmNewClient::frmNewClient(Session& session, Pickers& pickers, const QString& searchText, QWidget* parent)
     : Dialog("frmNewClient", "신규고객 등록", session.prompts, parent),
@@ -63,7 +64,7 @@ bool frmNewClient::eventFilter(QObject* watched, QEvent* event) {
   auto* const box = qobject_cast<QWidget*>(watched);
   if (box && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && boxes_->enter(box)) return true;
+    if (isEnterKey(key) && boxes_->enter(box)) return true;
   }
   return Dialog::eventFilter(watched, event);
 }

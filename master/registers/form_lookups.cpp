@@ -3,12 +3,9 @@
 #include <QKeyEvent>
 
 #include "master/registers/pickers.h"
+#include "ui/forms/keys.h"
 
 namespace {
-
-bool isEnterKey(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 
 /** Takes plain keys, and Enter with whatever is held down, from one box before anybody else sees them. */
 class BoxKeys : public QObject {

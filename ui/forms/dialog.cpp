@@ -7,6 +7,7 @@
 
 #include "ui/forms/form_ini.h"
 #include "ui/forms/guard.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/push_button.h"
 
 using namespace Qt::StringLiterals;
@@ -92,7 +93,7 @@ void Dialog::done(int result) {
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool enter = isEnterKey(event->key());
   if (!enter) return QDialog::keyPressEvent(event);
   if (event->modifiers() & ~Qt::KeypadModifier) return;  // not the plain key
   QWidget* const at = focusWidget();

@@ -16,6 +16,7 @@
 
 #include "ui/forms/form_ini.h"
 #include "ui/forms/guard.h"
+#include "ui/forms/keys.h"
 #include "ui/forms/push_button.h"
 #include "ui/grid/grid_menu.h"
 
@@ -176,9 +177,7 @@ bool Form::eventFilter(QObject* watched, QEvent* event) {
       });
   } else if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && watched->isWidgetType() &&
-        enterFrom(static_cast<QWidget*>(watched)))
-      return true;
+    if (isEnterKey(key) && watched->isWidgetType() && enterFrom(static_cast<QWidget*>(watched))) return true;
   }
   return QWidget::eventFilter(watched, event);
 }

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/forms/form_ini.h"
+#include "ui/forms/keys.h"
 
 using namespace Qt::StringLiterals;
 
@@ -97,7 +98,7 @@ void PickerDialog::take(int row) {
 bool PickerDialog::eventFilter(QObject* watched, QEvent* event) {
   if (watched == find_ && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    if (isEnterKey(key)) {
       guard([this] { search_(find_->text()); });
       return true;
     }

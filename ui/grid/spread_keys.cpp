@@ -8,11 +8,10 @@
 
 #include "ui/grid/spread.h"
 
+#include "ui/forms/keys.h"
+
 namespace {
 
-bool isEnterKey(int key) {
-  return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
 bool isFunctionKey(int key) {
   return key >= Qt::Key_F1 && key <= Qt::Key_F35;
 }
