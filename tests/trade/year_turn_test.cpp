@@ -114,6 +114,17 @@ struct YearTurn : testing::Test, tests::ClosingDesk {
     for (const LastLine& line : book.lastLines(row)) shown << line.date + line.kind;
     return shown.join(' ');
   }
+  /** What does not hang on the year that is open. */
+  void expectEveryLineOnce() {
+    EXPECT_EQ(sold("2026-12-01", "2026-12-31"), "11|150000|0|90000|60000");
+    EXPECT_EQ(sold("2026-12-25", "2027-01-31"), "9|210000|0|100000|110000");
+    EXPECT_EQ(lent("2026-12-01", "2026-12-31"), "0|6|0|6");
+    EXPECT_EQ(lent("2027-01-01", "2027-01-31"), "6|0|2|4");
+    EXPECT_EQ(ledger("2026-12-01", "2027-01-31"), "12-10 12-20 12-30 01-05 01-12 01-15");
+    EXPECT_EQ(stock("2026-12-25", "2027-01-10"), "17 10 2 25 | 68 0 0 0 2 70");
+    EXPECT_EQ(stock("2026-12-01", "2026-12-31"), "20 0 5 15 | 74 0 0 6 0 68")
+        << "January's lines are gone back over";
+  }
 
   static constexpr const char* saleColumns =
       "Sale(SaleDate, ClientCode, SaleGubun, SaleName, SaleThing, SaleNum, Income, Trust)";
@@ -122,15 +133,9 @@ struct YearTurn : testing::Test, tests::ClosingDesk {
 TEST_F(YearTurn, EveryLineCountsOnceOnBothSidesOfNewYear) {
   EXPECT_EQ(rows("Select Count(SaleID) From Sale"), "8")
       << "the new file holds the old year's four and a balance row";
-  EXPECT_EQ(sold("2026-12-01", "2026-12-31"), "11|150000|0|90000|60000");
-  EXPECT_EQ(sold("2026-12-25", "2027-01-31"), "9|210000|0|100000|110000");
-  EXPECT_EQ(lent("2026-12-01", "2026-12-31"), "0|6|0|6");
-  EXPECT_EQ(lent("2027-01-01", "2027-01-31"), "6|0|2|4");
-  EXPECT_EQ(ledger("2026-12-01", "2027-01-31"), "12-10 12-20 12-30 01-05 01-12 01-15");
+  expectEveryLineOnce();
   // 180,000 were owed at New Year. 8 and 21 days: 110,000; of 56 days the last 20,000.
   EXPECT_EQ(credit(), "180000|150000|0|100000|100000|130000|0|130000|110000|20000|0|0");
-  EXPECT_EQ(stock("2026-12-25", "2027-01-10"), "17 10 2 25 | 68 0 0 0 2 70");
-  EXPECT_EQ(stock("2026-12-01", "2026-12-31"), "20 0 5 15 | 74 0 0 6 0 68");
   EXPECT_EQ(forecast("2027"), "11-25 12-10 12-20 12-30 01-05 01-12   01-12 01-22 10")
       << "48 days in five gaps";
   EXPECT_EQ(lastLines(), "01-15수금 01-12가스 01-05용회 12-30가스 12-20용대");
@@ -142,16 +147,9 @@ TEST_F(YearTurn, EveryLineCountsOnceOnBothSidesOfNewYear) {
 TEST_F(YearTurn, TheOldYearReadsTheSameFromItsOwnFile) {
   changeTo("2026");
   EXPECT_EQ(pc.pc.clock.today(), QDate(2026, 1, 20));
-  EXPECT_EQ(sold("2026-12-01", "2026-12-31"), "11|150000|0|90000|60000");
-  EXPECT_EQ(sold("2026-12-25", "2027-01-31"), "9|210000|0|100000|110000");
-  EXPECT_EQ(lent("2026-12-01", "2026-12-31"), "0|6|0|6");
-  EXPECT_EQ(lent("2027-01-01", "2027-01-31"), "6|0|2|4");
-  EXPECT_EQ(ledger("2026-12-01", "2027-01-31"), "12-10 12-20 12-30 01-05 01-12 01-15");
+  expectEveryLineOnce();
   // Nothing was owed when 2026 began; what moved since is the lines of both years.
   EXPECT_EQ(credit(), "0|420000|0|190000|100000|130000|0|130000|130000|0|0|0");
-  EXPECT_EQ(stock("2026-12-25", "2027-01-10"), "17 10 2 25 | 68 0 0 0 2 70");
-  EXPECT_EQ(stock("2026-12-01", "2026-12-31"), "20 0 5 15 | 74 0 0 6 0 68")
-      << "January's lines are gone back over";
   EXPECT_EQ(forecast("2026"), "11-25 12-10 12-20 12-30     12-30 01-11 12") << "35 days in three gaps";
   EXPECT_EQ(lastLines(), "12-30가스 12-20용대 12-10가스 11-25가스");
 
