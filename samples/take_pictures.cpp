@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -39,17 +40,20 @@
 #include "master/customers/frmNewClient.h"
 #include "moving/FrmMoveIn.h"
 #include "pc/program_line.h"
+#include "samples/form_words.h"
 #include "samples/sample_books.h"
 #include "store/settings_table.h"
 #include "ui/forms/style.h"
+#include "ui/paper/pages_window.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr pc::ProgramLine programLine{
-    "take_pictures", "PC FOLDER",
+    "take_pictures", "[--words] PC FOLDER",
     "Opens every form on the books in the folder PC and saves its picture in FOLDER.\n"
+    "--words: in place of pictures one file, words.txt, with what stands on every form.\n"
     "QT_SCALE_FACTOR=1.5 shows them as on a screen of 144 dpi."};
 
 /** While it lives, work is given every modal window that comes up, once each; also one that comes up within work. */
@@ -75,13 +79,22 @@ class WhenModal {
 
 class Photographer {
  public:
-  explicit Photographer(const QString& folder) : folder_(folder) { QDir().mkpath(folder); }
+  Photographer(const QString& folder, bool words) : folder_(folder), words_(words) { QDir().mkpath(folder); }
 
   void take(QWidget& of, const QString& name) {
     of.show();
     if (of.isWindow()) (void)QTest::qWaitForWindowExposed(&of);
     QCoreApplication::
         processEvents();  // what the form left for the next round: the first focus, a list's height
+    if (words_) {
+      QFile all(file("words.txt"));
+      QString words = u"= "_s + name + u'\n' + samples::wordsOf(of);
+      if (const auto* paper = dynamic_cast<PagesWindow*>(&of)) words += samples::wordsOf(paper->pages());
+      // The clock runs, and a packed file's length is the packer's.
+      static const QRegularExpression passing(u"(?<=\\d):\\d\\d(:\\d\\d)?|-\\d{6}(?=\\.zip)|[\\d.]+ kB"_s);
+      if (all.open(QIODevice::Append)) all.write(words.remove(passing).toUtf8());
+      return;
+    }
     const QString file = folder_ + u'/' + name + ".png";
     if (!of.grab().save(file)) QTextStream(stderr) << "cannot write " << file << '\n';
   }
@@ -102,6 +115,7 @@ class Photographer {
 
  private:
   QString folder_;
+  bool words_;
 };
 
 /** Closes the form in front; a closed form leaves in the next round, and a further one of its name may not be found. */
@@ -170,7 +184,7 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
     const WhenModal then([&](QWidget& box) {
       auto* const slips = qobject_cast<QDialog*>(&box);
       if (!slips) {  // the preview over its dialog
-        photographer.take(box, "FrmPaperView");
+        photographer.take(box, name == "frmPrtMicr" ? u"FrmPaperView"_s : name + "-paper");
         box.close();
         return;
       }
@@ -184,7 +198,7 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
       slips->findChild<QRadioButton*>("Opt4")->click();
       photographer.take(*slips, name);
       slips->findChild<QPushButton*>("BtnJiro")->click();
-      if (name == "frmPrtMicr") slips->findChild<QPushButton*>("BtnPreview")->click();
+      slips->findChild<QPushButton*>("BtnPreview")->click();
       slips->reject();
     });
     window.openForm(QString::fromLatin1(paper));
@@ -216,11 +230,13 @@ void documents(frmMain& window, FormPickers& pickers, Photographer& photographer
   auto* deals = window.findChild<QWidget*>("FrmDealList");
   click(*deals, "ChkAll");
   photographer.take(*deals, "FrmDealList");
+  photographer.takeModal("FrmDealList-paper", [&] { click(*deals, "btnPreview"); });
   closeForm(window);
   window.openForm("FrmTax:0");
   auto* tax = window.findChild<QWidget*>("FrmTax");
   click(*tax, "Chk선택");
   photographer.take(*tax, "FrmTax");
+  photographer.takeModal("FrmTax-paper", [&] { click(*tax, "btnPreview"); });
   closeForm(window);
   photographer.takeModal("FrmNewAcount", [&] { window.openForm("FrmNewAcount"); });
   photographer.takeModal("FrmMsg", [&] {
@@ -389,14 +405,16 @@ int main(int argc, char** argv) {
   if (pc::saidOfItself(programLine, argc, argv)) return 0;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  if (application.arguments().size() != 3) return pc::wrongUse(programLine);
+  QStringList arguments = application.arguments().mid(1);
+  const bool words = arguments.removeOne("--words");
+  if (arguments.size() != 2) return pc::wrongUse(programLine);
   QApplication::setWindowIcon(toolIcon(u"MnuOutcome"_s));
   look::apply(application);
-  Desk desk(application.arguments().at(1));
+  Desk desk(arguments.at(0));
   Session& session = desk.session;
   StartUp startUp(session);
   FormPickers searches(session);
-  Photographer photographer(application.arguments().at(2));
+  Photographer photographer(arguments.at(1), words);
 
   frmSplash splash(startUp, session);
   if (!startUp.SubMain([&] {

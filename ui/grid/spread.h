@@ -63,6 +63,7 @@ class Spread : public QAbstractScrollArea {
 
   // --- the current cell -------------------------------------------------------------------------------------
   SpreadModel& model() { return model_; }
+  const SpreadModel& model() const { return model_; }
   int activeRow() const { return activeRow_; }
   int activeCol() const { return activeCol_; }
   /** Accepts the open editor first; False when that is refused or there is no such cell. */

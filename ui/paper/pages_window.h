@@ -16,6 +16,7 @@ class PagesWindow : public Form {
   ~PagesWindow() override;
 
   QSize sizeHint() const override;
+  const pc::Pages& pages() const { return *pages_; }
 
  protected:
   void addTool(const char* name, const QString& caption, std::function<void()> work);

@@ -1,0 +1,205 @@
+#include "samples/form_words.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTextEdit>
+
+#include <algorithm>
+#include <vector>
+
+#include "ui/grid/spread.h"
+#include "ui/model/spread_model.h"
+#include "ui/paper/kept_pages.h"
+
+using namespace Qt::StringLiterals;
+
+namespace samples {
+
+namespace {
+
+constexpr int shownRows = 3;  ///< of a grid, at either end
+
+QString oneLine(QString text) {
+  return u'\'' + text.replace(u'\n', u'/') + u'\'';
+}
+
+QString columnText(const SpreadColumn& column) {
+  static constexpr const char* kinds[] = {"text", "integer",   "number", "money",
+                                          "date", "month-day", "list",   "tick"};
+  static constexpr const char* sides[] = {"left", "centre", "right"};
+  QString text = column.group.isEmpty() ? column.header : column.group + u'/' + column.header;
+  text += u" (%1 %2 %3"_s.arg(QLatin1String(kinds[int(column.kind)]), QLatin1String(sides[int(column.align)]))
+              .arg(column.width);
+  if (column.maxLength) text += u" at most %1"_s.arg(column.maxLength);
+  if (column.locked) text += u" locked"_s;
+  if (!column.combo.isEmpty()) text += u" of "_s + column.combo.join(u',');
+  return text + u')';
+}
+
+QStringList gridLines(const Spread& grid) {
+  const SpreadModel& model = grid.model();
+  const auto row = [&](const QString& head, auto&& cell) {
+    QStringList cells;
+    for (int col = 1; col <= model.MaxCols(); ++col)
+      if (!model.column(col).hidden) cells << cell(col);
+    return u"  "_s + head + u": "_s + cells.join(u" | "_s);
+  };
+  QStringList lines{row(u"columns"_s, [&](int col) { return columnText(model.column(col)); })};
+  for (int at = 1; at <= model.MaxRows(); ++at)
+    if (at <= shownRows || at > model.MaxRows() - shownRows)
+      lines << row(QString::number(at), [&](int col) {
+        return model.text(at, col) +
+               (model.locked(at, col) == model.column(col).locked ? u""_s : u" (lock)"_s);
+      });
+  return lines;
+}
+
+void addActions(const QList<QAction*>& actions, const QString& indent, QStringList& lines) {
+  for (const QAction* action : actions) {
+    if (!action->isVisible() || action->isSeparator()) continue;
+    lines << indent + action->objectName() + u' ' + oneLine(action->text()) + u' ' +
+                 action->shortcut().toString() + (action->isEnabled() ? u""_s : u" off"_s);
+    if (const QMenu* menu = action->menu()) addActions(menu->actions(), indent + u"  "_s, lines);
+  }
+}
+
+/** What one control says; empty for one that only holds others. */
+QStringList saidBy(const QWidget& control) {
+  if (const auto* label = qobject_cast<const QLabel*>(&control))
+    return label->text().isEmpty() ? QStringList() : QStringList{oneLine(label->text())};
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
+    return {oneLine(button->text()) +
+            (button->isCheckable() ? button->isChecked() ? u" [x]"_s : u" [ ]"_s : QString())};
+  if (const auto* line = qobject_cast<const QLineEdit*>(&control))
+    return {oneLine(line->text()) +
+            (line->maxLength() < 32767 ? u" at most %1"_s.arg(line->maxLength()) : QString()) +
+            (line->isReadOnly() ? u" reads"_s : QString()) +
+            (line->placeholderText().isEmpty() ? QString() : u" hint "_s + oneLine(line->placeholderText()))};
+  if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
+    QStringList items;
+    for (int at = 0; at < combo->count() && at < 20; ++at) items << combo->itemText(at);
+    return {oneLine(combo->currentText()) + u" of "_s + items.join(u", "_s)};
+  }
+  if (const auto* group = qobject_cast<const QGroupBox*>(&control))
+    return group->title().isEmpty() ? QStringList() : QStringList{oneLine(group->title())};
+  if (const auto* tabs = qobject_cast<const QTabBar*>(&control)) {
+    QStringList titles;
+    for (int at = 0; at < tabs->count(); ++at) titles << tabs->tabText(at);
+    return {u"%1 of "_s.arg(tabs->currentIndex()) + titles.join(u", "_s)};
+  }
+  if (const auto* bar = qobject_cast<const QMenuBar*>(&control)) {
+    QStringList lines{u""_s};
+    addActions(bar->actions(), u"  "_s, lines);
+    return lines;
+  }
+  if (const auto* text = qobject_cast<const QPlainTextEdit*>(&control)) return {oneLine(text->toPlainText())};
+  if (const auto* text = qobject_cast<const QTextEdit*>(&control))
+    return {oneLine(text->toPlainText().left(200))};
+  if (const auto* list = qobject_cast<const QListWidget*>(&control)) {
+    QStringList items;
+    for (int at = 0; at < list->count(); ++at) items << list->item(at)->text();
+    return {items.join(u", "_s)};
+  }
+  if (const auto* grid = qobject_cast<const Spread*>(&control))
+    return QStringList{u"%1 rows, at %2,%3"_s.arg(grid->model().MaxRows())
+                           .arg(grid->activeRow())
+                           .arg(grid->activeCol())} +
+           gridLines(*grid);
+  return {};
+}
+
+/** Keeps the texts that a page puts on it; they are as wide as on paper. */
+class WordsJob : public pc::PrintJob {
+ public:
+  explicit WordsJob(const pc::PaperSize& paper) : measure_(keepPages(std::make_shared<KeptPages>(), paper)) {}
+  QStringList lines() {
+    std::stable_sort(texts_.begin(), texts_.end(), [](const Text& a, const Text& b) {
+      return std::pair(qRound(a.y * 100), qRound(a.x * 100)) <
+             std::pair(qRound(b.y * 100), qRound(b.x * 100));
+    });
+    QStringList lines;
+    QString place;  // of the line above: what stands at one height in one size is one line
+    for (const Text& text : texts_) {
+      const QString at = u"%1 %2pt"_s.arg(text.y, 0, 'f', 2).arg(text.points);
+      if (at == place)
+        lines.back() += u" | "_s;
+      else
+        lines << at + u": "_s;
+      place = at;
+      lines.back() += u"%1 %2"_s.arg(QString::number(text.x, 'f', 2), text.text);
+    }
+    return lines;
+  }
+
+  pc::PaperSize paper() const override { return measure_->paper(); }
+  void setFont(const pc::PrintFont& font) override { measure_->setFont(font); }
+  pc::PrintFont font() const override { return measure_->font(); }
+  double textWidth(const QString& text) const override { return measure_->textWidth(text); }
+  double lineHeight() const override { return measure_->lineHeight(); }
+  void text(double x, double y, const QString& text) override {
+    if (!text.trimmed().isEmpty()) texts_.push_back({x, y, double(font().points), text});
+  }
+  void setInk(const pc::PrintInk&) override {}
+  void line(double, double, double, double, double, bool) override {}
+  void fill(double, double, double, double, double) override {}
+  void picture(double, double, double, double, const QByteArray&) override {}
+  void newPage() override {}
+  void end() override {}
+  void abandon() override {}
+
+ private:
+  struct Text {
+    double x, y, points;
+    QString text;
+  };
+  const std::unique_ptr<pc::PrintJob> measure_;
+  std::vector<Text> texts_;
+};
+
+}  // namespace
+
+QString wordsOf(const pc::Pages& pages) {
+  WordsJob job(pages.paper());
+  if (pages.count()) pages.draw(job, 0);
+  return u"%1 pages of %2 x %3\n"_s.arg(pages.count()).arg(pages.paper().width).arg(pages.paper().height) +
+         job.lines().join(u'\n') + u"\n\n"_s;
+}
+
+QString wordsOf(const QWidget& window) {
+  QStringList lines{u"# "_s + window.objectName() + u' ' + oneLine(window.windowTitle())};
+  for (const QWidget* control : window.findChildren<const QWidget*>()) {
+    if (!control->isVisibleTo(&window)) continue;
+    // What is inside a list, a spin box or a bar is said by the whole.
+    const QWidget* const above = control->parentWidget();
+    if (qobject_cast<const QComboBox*>(above) || qobject_cast<const QAbstractItemView*>(above)) continue;
+    QStringList said = saidBy(*control);
+    if (said.isEmpty()) continue;
+    if (!control->isEnabled()) said.front() += u" off"_s;
+    if (!control->toolTip().isEmpty()) said.front() += u" tip "_s + oneLine(control->toolTip());
+    const QString kind = QString::fromLatin1(control->metaObject()->className());
+    said.front().prepend(
+        kind + u' ' + (control->objectName().startsWith("qt_") ? QString() : control->objectName()) + u' ');
+    lines << said;
+  }
+  QStringList order;
+  const QWidget* at = window.nextInFocusChain();
+  for (; at && at != &window; at = at->nextInFocusChain())
+    if ((at->focusPolicy() & Qt::TabFocus) && at->isVisibleTo(&window) && window.isAncestorOf(at) &&
+        !at->objectName().startsWith("qt_") && !at->objectName().isEmpty())
+      order << at->objectName();
+  lines << u"Tab: "_s + order.join(u' ');
+  lines << u"Hand: "_s + (window.focusWidget() ? window.focusWidget()->objectName() : QString());
+  return lines.join(u'\n') + u"\n\n"_s;
+}
+
+}  // namespace samples
