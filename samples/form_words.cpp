@@ -9,8 +9,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QStatusBar>
 #include <QTabBar>
 #include <QTextEdit>
 

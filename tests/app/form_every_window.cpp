@@ -1,5 +1,5 @@
 // What stands on every window and on the first page of every report, opened on the sample retailer's books: titles,
-// columns, limits, figures, the order of Tab and where the hand begins, against what was read and found right.
+// columns, limits, figures, the order of Tab and where the hand begins, against the words that are kept.
 #include <QApplication>
 #include <QProcess>
 
