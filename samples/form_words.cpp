@@ -25,8 +25,6 @@ namespace samples {
 
 namespace {
 
-constexpr int shownRows = 3;  ///< of a grid, at either end
-
 QString oneLine(QString text) {
   return u'\'' + text.replace(u'\n', u'/') + u'\'';
 }
@@ -44,7 +42,7 @@ QString columnText(const SpreadColumn& column) {
   return text + u')';
 }
 
-QStringList gridLines(const Spread& grid) {
+QStringList gridLines(const Spread& grid, int shownRows) {
   const SpreadModel& model = grid.model();
   const auto row = [&](const QString& head, auto&& cell) {
     QStringList cells;
@@ -72,7 +70,7 @@ void addActions(const QList<QAction*>& actions, const QString& indent, QStringLi
 }
 
 /** What one control says; empty for one that only holds others. */
-QStringList saidBy(const QWidget& control) {
+QStringList saidBy(const QWidget& control, int rows) {
   if (const auto* label = qobject_cast<const QLabel*>(&control))
     return label->text().isEmpty() ? QStringList() : QStringList{oneLine(label->text())};
   if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
@@ -112,7 +110,7 @@ QStringList saidBy(const QWidget& control) {
     return QStringList{u"%1 rows, at %2,%3"_s.arg(grid->model().MaxRows())
                            .arg(grid->activeRow())
                            .arg(grid->activeCol())} +
-           gridLines(*grid);
+           gridLines(*grid, rows);
   return {};
 }
 
@@ -173,14 +171,14 @@ QString wordsOf(const pc::Pages& pages) {
          job.lines().join(u'\n') + u"\n\n"_s;
 }
 
-QString wordsOf(const QWidget& window) {
+QString wordsOf(const QWidget& window, int rows) {
   QStringList lines{u"# "_s + window.objectName() + u' ' + oneLine(window.windowTitle())};
   for (const QWidget* control : window.findChildren<const QWidget*>()) {
     if (!control->isVisibleTo(&window)) continue;
     // What is inside a list, a spin box or a bar is said by the whole.
     const QWidget* const above = control->parentWidget();
     if (qobject_cast<const QComboBox*>(above) || qobject_cast<const QAbstractItemView*>(above)) continue;
-    QStringList said = saidBy(*control);
+    QStringList said = saidBy(*control, rows);
     if (said.isEmpty()) continue;
     if (!control->isEnabled()) said.front() += u" off"_s;
     if (!control->toolTip().isEmpty()) said.front() += u" tip "_s + oneLine(control->toolTip());

@@ -11,8 +11,9 @@ class Pages;
 namespace samples {
 
 /** One line a control that is seen, in the order it was made: kind, name, texts, and what it lets in; a grid with its
- *  headings and its first and last rows; then the order of Tab and where the hand stands. No places, no colours. */
-QString wordsOf(const QWidget& window);
+ *  headings and so many of its first and last rows; then the order of Tab and where the hand stands. No places, no
+ *  colours. */
+QString wordsOf(const QWidget& window, int rows = 3);
 /** The texts of the first page from above down, each with its place in inches and its size in points. */
 QString wordsOf(const pc::Pages& pages);
 
