@@ -1,6 +1,7 @@
 #include "samples/form_words.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -42,7 +43,19 @@ QString columnText(const SpreadColumn& column) {
   return text + u')';
 }
 
-QStringList gridLines(const Spread& grid, int shownRows) {
+/** What the eye sees of a cell beside its text. */
+QString lookOf(const SpreadModel& model, int row, int col) {
+  QString look;
+  for (const auto& [what, colour] :
+       {std::pair("on", model.background(row, col)), std::pair("ink", model.ink(row, col))})
+    if (colour >= 0) look += u" %1 %2"_s.arg(QLatin1String(what), QString::number(colour, 16));
+  if (!model.sign(row, col).isEmpty()) look += u" sign "_s + model.sign(row, col);
+  if (!model.offer(row, col).isEmpty()) look += u" offers "_s + model.offer(row, col);
+  return look.isEmpty() ? look : u" ("_s + look.mid(1) + u')';
+}
+
+QStringList gridLines(const Spread& grid, bool whole) {
+  constexpr int shownRows = 3;  // at either end
   const SpreadModel& model = grid.model();
   const auto row = [&](const QString& head, auto&& cell) {
     QStringList cells;
@@ -52,11 +65,17 @@ QStringList gridLines(const Spread& grid, int shownRows) {
   };
   QStringList lines{row(u"columns"_s, [&](int col) { return columnText(model.column(col)); })};
   for (int at = 1; at <= model.MaxRows(); ++at)
-    if (at <= shownRows || at > model.MaxRows() - shownRows)
-      lines << row(QString::number(at), [&](int col) {
+    if (whole || at <= shownRows || at > model.MaxRows() - shownRows) {
+      QString head = QString::number(at);
+      if (!whole && model.bold(at)) head += u" bold"_s;
+      if (!whole && model.topLine(at) >= 0) head += u" line"_s;
+      lines << row(head, [&](int col) {
         return model.text(at, col) +
-               (model.locked(at, col) == model.column(col).locked ? u""_s : u" (lock)"_s);
+               (model.locked(at, col) == model.column(col).locked ? u""_s : u" (lock)"_s) +
+               (whole ? u""_s : lookOf(model, at, col));
       });
+    }
+  if (!whole) lines.front() += u" fills %1, still %2"_s.arg(grid.fillColumn()).arg(grid.frozenCols());
   return lines;
 }
 
@@ -70,7 +89,7 @@ void addActions(const QList<QAction*>& actions, const QString& indent, QStringLi
 }
 
 /** What one control says; empty for one that only holds others. */
-QStringList saidBy(const QWidget& control, int rows) {
+QStringList saidBy(const QWidget& control, bool whole) {
   if (const auto* label = qobject_cast<const QLabel*>(&control))
     return label->text().isEmpty() ? QStringList() : QStringList{oneLine(label->text())};
   if (const auto* button = qobject_cast<const QAbstractButton*>(&control))
@@ -110,7 +129,7 @@ QStringList saidBy(const QWidget& control, int rows) {
     return QStringList{u"%1 rows, at %2,%3"_s.arg(grid->model().MaxRows())
                            .arg(grid->activeRow())
                            .arg(grid->activeCol())} +
-           gridLines(*grid, rows);
+           gridLines(*grid, whole);
   return {};
 }
 
@@ -162,23 +181,34 @@ class WordsJob : public pc::PrintJob {
   std::vector<Text> texts_;
 };
 
-}  // namespace
-
-QString wordsOf(const pc::Pages& pages) {
-  WordsJob job(pages.paper());
-  if (pages.count()) pages.draw(job, 0);
-  return u"%1 pages of %2 x %3\n"_s.arg(pages.count()).arg(pages.paper().width).arg(pages.paper().height) +
-         job.lines().join(u'\n') + u"\n\n"_s;
+/** How a control's text looks where that is not as everywhere. */
+QString lookOf(const QWidget& control) {
+  QString look;
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) {
+    if (label->alignment() & Qt::AlignRight) look += u" right"_s;
+    if (label->alignment() & Qt::AlignHCenter) look += u" centre"_s;
+    if (label->wordWrap()) look += u" wraps"_s;
+  }
+  if (const auto* line = qobject_cast<const QLineEdit*>(&control))
+    if (line->alignment() & (Qt::AlignRight | Qt::AlignHCenter)) look += u" to the side"_s;
+  if (const auto* combo = qobject_cast<const QComboBox*>(&control); combo && combo->isEditable())
+    look += u" typed, at most %1"_s.arg(combo->lineEdit()->maxLength());
+  if (const QVariant role = control.property("role"); role.isValid()) look += u' ' + role.toString();
+  if (control.font().pointSize() != QApplication::font().pointSize())
+    look += u" %1pt"_s.arg(control.font().pointSize());
+  if (control.font().bold()) look += u" bold"_s;
+  return look.isEmpty() ? look : u" ("_s + look.mid(1) + u')';
 }
 
-QString wordsOf(const QWidget& window, int rows) {
+QString allOf(const QWidget& window, bool whole) {
   QStringList lines{u"# "_s + window.objectName() + u' ' + oneLine(window.windowTitle())};
   for (const QWidget* control : window.findChildren<const QWidget*>()) {
     if (!control->isVisibleTo(&window)) continue;
     // What is inside a list, a spin box or a bar is said by the whole.
     const QWidget* const above = control->parentWidget();
     if (qobject_cast<const QComboBox*>(above) || qobject_cast<const QAbstractItemView*>(above)) continue;
-    QStringList said = saidBy(*control, rows);
+    QStringList said = saidBy(*control, whole);
+    if (!said.isEmpty() && !whole) said.front() += lookOf(*control);
     if (said.isEmpty()) continue;
     if (!control->isEnabled()) said.front() += u" off"_s;
     if (!control->toolTip().isEmpty()) said.front() += u" tip "_s + oneLine(control->toolTip());
@@ -196,6 +226,22 @@ QString wordsOf(const QWidget& window, int rows) {
   lines << u"Tab: "_s + order.join(u' ');
   lines << u"Hand: "_s + (window.focusWidget() ? window.focusWidget()->objectName() : QString());
   return lines.join(u'\n') + u"\n\n"_s;
+}
+
+}  // namespace
+
+QString wordsOf(const pc::Pages& pages) {
+  WordsJob job(pages.paper());
+  if (pages.count()) pages.draw(job, 0);
+  return u"%1 pages of %2 x %3\n"_s.arg(pages.count()).arg(pages.paper().width).arg(pages.paper().height) +
+         job.lines().join(u'\n') + u"\n\n"_s;
+}
+
+QString wordsOf(const QWidget& window) {
+  return allOf(window, false);
+}
+QString contentsOf(const QWidget& window) {
+  return allOf(window, true);
 }
 
 }  // namespace samples

@@ -171,7 +171,7 @@ class Player : public QObject {
     } else if (word == "day"_L1) {
       steps_.push_back([this, rest] { day_ = QDate::fromString(rest, Qt::ISODate); });
     } else if (word == "look"_L1) {
-      steps_.push_back([this] { out_ << inset(samples::wordsOf(*front())); });
+      steps_.push_back([this] { out_ << inset(samples::contentsOf(*front())); });
     } else {
       static const QRegularExpression tokens(u"\\[[^\\]]*\\]|'[^']*'|\\S+"_s);
       for (const auto& found : tokens.globalMatch(line.mid(2))) readToken(found.captured());
@@ -340,8 +340,8 @@ class Player : public QObject {
       in->close();
       return;
     }
-    QString words = in == window_.get() ? QString() : samples::wordsOf(*in, 100000);
-    words += samples::wordsOf(*window_->statusBar(), 0).section(u"Tab:"_s, 0, 0);
+    QString words = in == window_.get() ? QString() : samples::contentsOf(*in);
+    words += samples::contentsOf(*window_->statusBar()).section(u"Tab:"_s, 0, 0);
     const QMap<QString, QString> now = byControl(words);
     if (!words_.contains(in)) {
       words_[in] = now;

@@ -98,9 +98,11 @@ class Spread : public QAbstractScrollArea {
   void setRowHeight(int points);
   /** The column that takes the spare width; 0 for none. */
   void setFillColumn(int col);
+  int fillColumn() const { return fillColumn_; }
   /** So many columns at the left, one at first, stand still while the others are scrolled: the names stay in view.
    *  Where they would take more than half of the width they are scrolled too. */
   void setFrozenCols(int count);
+  int frozenCols() const { return frozenCols_; }
   /** Width in pixels at which every column shows, none of them stretched. */
   int fullWidth() const;
   int rowsOnPage() const;
