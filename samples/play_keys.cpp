@@ -1,6 +1,7 @@
 // Keys pressed on the real windows over the sample retailer's books, and what came of them.
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
 #include <QDir>
@@ -12,8 +13,6 @@
 #include <QTimer>
 #include <QWindow>
 
-#include <sqlite3.h>
-
 #include <cstdio>
 #include <deque>
 
@@ -24,6 +23,8 @@
 #include "samples/book_rows.h"
 #include "samples/form_words.h"
 #include "samples/sample_books.h"
+#include "store/jet/connection.h"
+#include "store/jet/functions.h"
 #include "store/settings_table.h"
 #include "ui/forms/style.h"
 #include "ui/grid/spread.h"
@@ -48,7 +49,8 @@ constexpr pc::ProgramLine programLine{
     "  > anything else   keys: Enter Esc F5 Ctrl+P Down*3, 'typed text', and in brackets\n"
     "    [yes] [no] [cancel] [say TEXT]: the answer to the next box that is not answered yet, before its "
     "key;\n"
-    "    [click NAME] [double NAME] [focus NAME] [choose NAME=ITEM] [cell ROW,COL] [double ROW,COL] [close]"};
+    "    [click NAME] [double NAME] [focus NAME] [choose NAME=ITEM] [cell ROW,COL] [double ROW,COL] "
+    "[clip TEXT]\n    [run NAME] [close]"};
 
 /** Tells every box, and answers as the script says; nobody's answer is the one that does nothing. */
 class ToldBoxes : public Prompts {
@@ -108,7 +110,8 @@ QMap<QString, QString> byControl(const QString& words) {
 class Player : public QObject {
  public:
   Player(const QString& root, const QString& script)
-      : pc_(root),
+      : root_(root),
+        pc_(root),
         session_(pc_, boxes_),
         printers_(pc_),
         reports_(session_),
@@ -140,6 +143,8 @@ class Player : public QObject {
     window_->show();
     window_->activateWindow();
     rows_ = samples::rowsIn(folder());
+    QStringList before;
+    recordSettings(before);
     QTimer::singleShot(0, this, [this] { turn(); });
     QApplication::exec();
     window_->setSilentClose();
@@ -221,10 +226,11 @@ class Player : public QObject {
     quiet_ = 0;
     steps_.pop_front();
     ++depth_;
-    if (step)
-      step();
-    else
-      record();
+    try {
+      step ? step() : record();
+    } catch (const std::runtime_error& wrong) {
+      boxes_.told << QString::fromUtf8(wrong.what());
+    }
     --depth_;
   }
   /** Windows that hold up whoever opened them. */
@@ -294,6 +300,10 @@ class Player : public QObject {
       const QPoint at = on->cellRect(row, col).center();
       QTest::mouseClick(on->viewport(), Qt::LeftButton, {}, at);
       if (word == "double"_L1) QTest::mouseDClick(on->viewport(), Qt::LeftButton, {}, at);
+    } else if (word == "run"_L1) {
+      if (!window_->run(rest)) boxes_.told << u"no such entry, or it is off"_s;
+    } else if (word == "clip"_L1) {
+      QApplication::clipboard()->setText(clip_ = QString(rest).replace(u'|', u'\n').replace(u'>', u'\t'));
     } else if (word == "close"_L1) {
       QWidget* const in = front();
       (in->isWindow() ? in : in->parentWidget())->close();
@@ -302,13 +312,13 @@ class Player : public QObject {
     }
   }
   void otherWrites(const QString& file, const QString& statement) {
-    sqlite3* books = nullptr;
-    sqlite3_open((folder() + u'/' + file).toUtf8().constData(), &books);
-    char* wrong = nullptr;
-    sqlite3_exec(books, statement.toUtf8().constData(), nullptr, nullptr, &wrong);
-    if (wrong) boxes_.told << u"other: "_s + QString::fromUtf8(wrong);
-    sqlite3_free(wrong);
-    sqlite3_close(books);
+    try {
+      jet::Connection books(folder() + u'/' + file, 1000);
+      jet::registerFunctions(books);  // an index over texts asks for the order that they stand in
+      books.exec(statement.toUtf8());
+    } catch (const jet::Error& error) {
+      boxes_.told << u"other: "_s + error.description();
+    }
   }
 
   // --- the record -------------------------------------------------------------------------------------------
@@ -329,6 +339,8 @@ class Player : public QObject {
     rows_ = now;
     recordPaper(found);
     recordSettings(found);
+    if (const QString copied = QApplication::clipboard()->text(); copied != std::exchange(clip_, copied))
+      found << u"copied: "_s + QString(copied).replace(u'\n', u'|').replace(u'\t', u'>');
     for (const QString& line : found) out_ << inset(line);
   }
   void recordWindow(QStringList& found) {
@@ -380,10 +392,8 @@ class Player : public QObject {
           now[section + line.section(u'=', 0, 0)] = line.section(u'=', 1);
     }
     for (auto set = now.cbegin(); set != now.cend(); ++set)
-      if (settingsKnown_ && settings_.value(set.key()) != *set)
-        found << u"setting %1=%2"_s.arg(set.key(), *set);
+      if (settings_.value(set.key()) != *set) found << u"setting %1=%2"_s.arg(set.key(), *set);
     settings_ = now;
-    settingsKnown_ = true;
   }
 
   QDate day_{2026, 3, 16};
@@ -396,7 +406,7 @@ class Player : public QObject {
   StartUp start_;
   FormPickers pickers_;
   std::unique_ptr<frmMain> window_;
-  QString paper_;
+  QString paper_, clip_;
 
   std::deque<std::function<void()>> steps_;  ///< an empty one: what came of the line is written down
   int depth_ = 0, quiet_ = 0;
@@ -405,7 +415,6 @@ class Player : public QObject {
   QWidget* last_ = nullptr;
   QMap<const QWidget*, QMap<QString, QString>> words_;
   QMap<QString, QString> settings_;
-  bool settingsKnown_ = false;
 };
 
 }  // namespace
