@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QDir>
+#include <QMenu>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStatusBar>
@@ -19,6 +21,7 @@
 #include "app/form_pickers.h"
 #include "app/frmMain.h"
 #include "app/start_up.h"
+#include "pc/cp949.h"
 #include "pc/program_line.h"
 #include "samples/book_rows.h"
 #include "samples/form_words.h"
@@ -44,13 +47,14 @@ constexpr pc::ProgramLine programLine{
     "below each such line stands what it changed on the window in front and in the data files.\n"
     "  > form NAME       opens a form; > run NAME: a menu entry, by its name\n"
     "  > other FILE SQL  another program writes into a data file\n"
+    "  > file NAME TEXT  a text in the folder of the program; | ends a line\n"
     "  > day yyyy-MM-dd  the PC's clock shows nine on that day\n"
     "  > look            everything that stands on the window in front\n"
     "  > anything else   keys: Enter Esc F5 Ctrl+P Down*3, 'typed text', and in brackets\n"
     "    [yes] [no] [cancel] [say TEXT]: the answer to the next box that is not answered yet, before its "
     "key;\n"
-    "    [click NAME] [double NAME] [focus NAME] [choose NAME=ITEM] [cell ROW,COL] [double ROW,COL] "
-    "[clip TEXT]\n    [run NAME] [close]"};
+    "[click NAME] [double NAME] [focus NAME] [choose NAME=ITEM] [cell ROW,COL] [double ROW,COL] "
+    "[clip TEXT]\n    [run NAME] [menu] [close]"};
 
 /** Tells every box, and answers as the script says; nobody's answer is the one that does nothing. */
 class ToldBoxes : public Prompts {
@@ -123,7 +127,7 @@ class Player : public QObject {
     printers_.askFile = [this](const QString&) { return paper_; };
     printChooser() = [](Session&, int pages, QWidget*) { return PrintChoice{pdfPrinterName(), 1, pages}; };
     pc_.process.setStarter([this](const QString& program, const QStringList& arguments, const QString&) {
-      boxes_.told << u"starts %1 %2"_s.arg(program, arguments.join(u' '));
+      boxes_.told << u"starts %1 %2"_s.arg(program, arguments.join(u' ')).remove(root_);
       return true;
     });
     QFile file(script);
@@ -173,6 +177,8 @@ class Player : public QObject {
       });
     } else if (word == "other"_L1) {
       steps_.push_back([this, rest] { otherWrites(rest.section(u' ', 0, 0), rest.section(u' ', 1)); });
+    } else if (word == "file"_L1) {
+      steps_.push_back([this, rest] { writeText(rest.section(u' ', 0, 0), rest.section(u' ', 1)); });
     } else if (word == "day"_L1) {
       steps_.push_back([this, rest] { day_ = QDate::fromString(rest, Qt::ISODate); });
     } else if (word == "look"_L1) {
@@ -304,6 +310,11 @@ class Player : public QObject {
       if (!window_->run(rest)) boxes_.told << u"no such entry, or it is off"_s;
     } else if (word == "clip"_L1) {
       QApplication::clipboard()->setText(clip_ = QString(rest).replace(u'|', u'\n').replace(u'>', u'\t'));
+    } else if (word == "menu"_L1) {
+      Spread* const on = grid();
+      const QPoint at = on->cellRect(on->activeRow(), on->activeCol()).center();
+      QContextMenuEvent asked(QContextMenuEvent::Mouse, at, on->viewport()->mapToGlobal(at));
+      QApplication::sendEvent(on->viewport(), &asked);
     } else if (word == "close"_L1) {
       QWidget* const in = front();
       (in->isWindow() ? in : in->parentWidget())->close();
@@ -319,6 +330,15 @@ class Player : public QObject {
     } catch (const jet::Error& error) {
       boxes_.told << u"other: "_s + error.description();
     }
+  }
+
+  QDir programFolder() const { return QDir(pc_.paths.native(pc_.paths.programFolder())); }
+  void writeText(const QString& name, QString text) {
+    QFile file(programFolder().filePath(name));
+    if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("cannot write the text");
+    file.write(pc::toCp949(text.replace(u'|', u"\r\n"_s)));
+    file.close();
+    texts_[name] = pc::fromCp949(pc::toCp949(text));
   }
 
   // --- the record -------------------------------------------------------------------------------------------
@@ -338,6 +358,7 @@ class Player : public QObject {
     found += samples::changesBetween(rows_, now);
     rows_ = now;
     recordPaper(found);
+    recordTexts(found);
     recordSettings(found);
     if (const QString copied = QApplication::clipboard()->text(); copied != std::exchange(clip_, copied))
       found << u"copied: "_s + QString(copied).replace(u'\n', u'|').replace(u'\t', u'>');
@@ -345,6 +366,11 @@ class Player : public QObject {
   }
   void recordWindow(QStringList& found) {
     QWidget* const in = front();
+    if (const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+      QStringList entries;
+      for (const QAction* entry : menu->actions()) entries << entry->text();
+      found << u"menu: "_s + entries.join(u" | "_s);
+    }
     if (in != last_) found << u"in front: %1 '%2'"_s.arg(in->objectName(), in->windowTitle());
     last_ = in;
     if (const auto* paper = dynamic_cast<PagesWindow*>(in)) {
@@ -377,6 +403,18 @@ class Player : public QObject {
     for (const QString& line : QString::fromUtf8(reader.readAllStandardOutput()).split(u'\n'))
       if (!line.trimmed().isEmpty()) found << u"  "_s + line.simplified();
     QFile::remove(paper_);
+  }
+  /** What the forms write beside the program. */
+  void recordTexts(QStringList& found) {
+    for (const QString& name : programFolder().entryList({u"*.txt"_s}, QDir::Files)) {
+      QFile file(programFolder().filePath(name));
+      if (!file.open(QIODevice::ReadOnly)) continue;
+      const QString text = pc::fromCp949(file.readAll());
+      if (texts_.contains(name) && texts_[name] == text) continue;
+      texts_[name] = text;
+      found << u"text "_s + name;
+      for (const QString& line : text.split(u"\r\n"_s, Qt::SkipEmptyParts)) found << u"  "_s + line;
+    }
   }
   void recordSettings(QStringList& found) {
     QMap<QString, QString> now;
@@ -414,7 +452,7 @@ class Player : public QObject {
   samples::BookRows rows_;
   QWidget* last_ = nullptr;
   QMap<const QWidget*, QMap<QString, QString>> words_;
-  QMap<QString, QString> settings_;
+  QMap<QString, QString> settings_, texts_;
 };
 
 }  // namespace
