@@ -267,7 +267,10 @@ class Player : public QObject {
   template <class Control = QWidget>
   Control* named(const QString& name) const {
     QWidget* const in = front();
-    if (auto* const control = in->findChild<Control*>(name)) return control;
+    const QList<Control*> all = in->findChildren<Control*>(name);  // of tabs, the one in front is meant
+    for (Control* const control : all)
+      if (control->isVisible()) return control;
+    if (!all.isEmpty()) return all.front();
     throw std::runtime_error("no such control: " + name.toStdString());
   }
   Spread* grid() const {
