@@ -383,7 +383,8 @@ class Player : public QObject {
     }
     QString words = in == window_.get() ? QString() : samples::contentsOf(*in);
     words += samples::contentsOf(*window_->statusBar()).section(u"Tab:"_s, 0, 0);
-    const QMap<QString, QString> now = byControl(words);
+    static const QRegularExpression clock(u"QLabel LblClock [^\n]*\n"_s);  // it goes by the second
+    const QMap<QString, QString> now = byControl(words.remove(clock));
     if (!words_.contains(in)) {
       words_[in] = now;
       connect(in, &QObject::destroyed, this, [this, in] { words_.remove(in); });
