@@ -27,10 +27,11 @@ Error refusalOf(const QString& sql) {
   return {0, {}};
 }
 
-/** What a case's second field holds: the SQLite text, or "! number" for a refusal. */
+/** What a case's second field holds: the SQLite text, or "! number text" for a refusal. */
 QString outcomeOf(const QString& sql) {
-  const int refused = refusalOf(sql).number();
-  return refused ? u"! %1"_s.arg(refused) : QString::fromUtf8(compiled(sql).sql);
+  const Error refused = refusalOf(sql);
+  return refused.number() ? u"! %1 %2"_s.arg(refused.number()).arg(refused.description())
+                          : QString::fromUtf8(compiled(sql).sql);
 }
 
 QString columnsOf(const QString& sql) {

@@ -13,7 +13,7 @@ std::string outcome(const jet::Database& db, const QString& sql) {
     db.Execute(sql);
     return "done";
   } catch (const jet::Error& error) {
-    return "! " + std::to_string(error.number());
+    return u"! %1 %2"_s.arg(error.number()).arg(error.description().section(u'\r', 0, 0)).toStdString();
   }
 }
 

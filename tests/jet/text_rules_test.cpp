@@ -72,7 +72,10 @@ TEST(TextRules, TiesGoToTheEvenNumber) {
   EXPECT_EQ(jet::Value("12.5kg").toLong(), 12);
   EXPECT_EQ(jet::roundHalfEven(2.345, 2), 2.34);
   EXPECT_EQ(jet::roundHalfEven(2.675, 2), 2.68);
-  EXPECT_EQ(failureOf([] { (void)jet::Value(1e19).toLong(); }), 6);
+  EXPECT_EQ(jet::Value(-0x1p63).toLong(), std::numeric_limits<qint64>::min());
+  EXPECT_EQ(jet::Value(0x1.fffffffffffffp62).toLong(), 9223372036854774784);
+  for (const double beyond : {0x1p63, -0x1.0000000000001p63})
+    EXPECT_EQ(failureOf([&] { (void)jet::Value(beyond).toLong(); }), 6);
 }
 
 TEST(TextRules, TextsCompareWithoutCaseAndTrailingBlanks) {
