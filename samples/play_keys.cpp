@@ -6,6 +6,7 @@
 #include <QContextMenuEvent>
 #include <QDialog>
 #include <QDir>
+#include <QLabel>
 #include <QMenu>
 #include <QProcess>
 #include <QRegularExpression>
@@ -137,6 +138,7 @@ class Player : public QObject {
   }
 
   QString play() {
+    qApp->installEventFilter(this);
     stopTime();
     if (!start_.SubMain([&] { start_.load(); })) throw std::runtime_error("the books do not open");
     start_.enterPassword(QString::fromLatin1(samples::password));
@@ -351,7 +353,15 @@ class Player : public QObject {
     text.remove(seconds);
     return u"    "_s + text.trimmed().replace(u'\n', u"\n    "_s);
   }
+  /** What floats over a form goes away by itself: it is told when it comes, and is gone before the window is written. */
+  bool eventFilter(QObject* of, QEvent* event) override {
+    if (event->type() == QEvent::Show && of->objectName() == "frmFloatMsg"_L1)
+      boxes_.told << u"floats: "_s + of->findChild<QLabel*>()->text();
+    return false;
+  }
   void record() {
+    for (QWidget* const window : QApplication::topLevelWidgets())
+      if (window->objectName() == "frmFloatMsg"_L1) window->close();
     QStringList found = boxes_.told;
     boxes_.told.clear();
     for (const QString& answer : boxes_.answers) found << u"NOT ASKED: "_s + answer;
