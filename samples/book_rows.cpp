@@ -1,6 +1,7 @@
 #include "samples/book_rows.h"
 
 #include <sqlite3.h>
+#include <sys/stat.h>
 
 #include <QDir>
 
@@ -75,31 +76,51 @@ void add(QStringList& to, const QStringList& lines, const QList<BookRow>& rows) 
 
 }  // namespace
 
-BookRows rowsIn(const QString& folder) {
+BookReader::~BookReader() {
+  for (const File& file : std::as_const(files_)) sqlite3_close(file.handle);
+}
+
+BookRows BookReader::read(const QString& folder) {
   BookRows rows;
   for (const QString& name : QDir(folder).entryList({u"*.mdb"_s}, QDir::Files, QDir::Name)) {
     if (name == "dbPost.mdb"_L1 || name == "2002Foundation.mdb"_L1) continue;
-    sqlite3* file = nullptr;
-    if (sqlite3_open_v2((folder + u'/' + name).toUtf8().constData(), &file, SQLITE_OPEN_READONLY, nullptr) ==
-        SQLITE_OK) {
-      QStringList tables;
-      eachRow(file, u"Select name From sqlite_master Where type = 'table' And name Not Like 'sqlite_%'"_s,
-              [&](sqlite3_stmt* row) { tables << textOf(row, 0); });
-      for (const QString& table : tables) {
-        auto& of = rows[name.chopped(4) + u'.' + table];
-        eachRow(file, u"Select rowid, * From \"%1\""_s.arg(table), [&](sqlite3_stmt* row) {
-          BookRow& parts = of[sqlite3_column_int64(row, 0)];
-          for (int at = 1; at < sqlite3_column_count(row); ++at) {
-            const QString value = textOf(row, at);
-            if (!value.isEmpty() && value != "0"_L1 && value != "0.0"_L1)
-              parts << QString::fromUtf8(sqlite3_column_name(row, at)) + u'=' + value;
-          }
-        });
-      }
-    }
-    sqlite3_close(file);
+    File& file = files_[name];
+    renew(file, folder + u'/' + name);
+    for (auto table = file.rows.cbegin(); table != file.rows.cend(); ++table)
+      rows[name.chopped(4) + u'.' + table.key()] = *table;
   }
   return rows;
+}
+
+void BookReader::renew(File& file, const QString& path) {
+  // A look at the file's number opens nothing: closing it would let go of the store's own locks.
+  struct stat at {};
+  if (::stat(path.toUtf8().constData(), &at) != 0) return;
+  if (!file.handle || qint64(at.st_ino) != file.fileNumber) {
+    sqlite3_close(file.handle);
+    file = {nullptr, qint64(at.st_ino), -1, {}};
+    sqlite3_open_v2(path.toUtf8().constData(), &file.handle, SQLITE_OPEN_READONLY, nullptr);
+  }
+  qint64 version = 0;
+  eachRow(file.handle, u"PRAGMA data_version"_s,
+          [&](sqlite3_stmt* row) { version = sqlite3_column_int64(row, 0); });
+  if (version == file.version) return;
+  file.version = version;
+  file.rows.clear();
+  QStringList tables;
+  eachRow(file.handle, u"Select name From sqlite_master Where type = 'table' And name Not Like 'sqlite_%'"_s,
+          [&](sqlite3_stmt* row) { tables << textOf(row, 0); });
+  for (const QString& table : tables) {
+    auto& of = file.rows[table];
+    eachRow(file.handle, u"Select rowid, * From \"%1\""_s.arg(table), [&](sqlite3_stmt* row) {
+      BookRow& parts = of[sqlite3_column_int64(row, 0)];
+      for (int at = 1; at < sqlite3_column_count(row); ++at) {
+        const QString value = textOf(row, at);
+        if (!value.isEmpty() && value != "0"_L1 && value != "0.0"_L1)
+          parts << QString::fromUtf8(sqlite3_column_name(row, at)) + u'=' + value;
+      }
+    });
+  }
 }
 
 QStringList changesBetween(const BookRows& before, const BookRows& now) {
@@ -109,6 +130,7 @@ QStringList changesBetween(const BookRows& before, const BookRows& now) {
   tables.removeDuplicates();
   for (const QString& table : tables) {
     const auto was = before.value(table), is = now.value(table);
+    if (was == is) continue;
     QStringList gone, changed, made;
     QList<BookRow> goneRows, changedRows, madeRows;
     for (auto row = was.cbegin(); row != was.cend(); ++row) {

@@ -148,7 +148,7 @@ class Player : public QObject {
     window_->resize(1280, 860);
     window_->show();
     window_->activateWindow();
-    rows_ = samples::rowsIn(folder());
+    rows_ = books_.read(folder());
     QStringList before;
     recordSettings(before);
     QTimer::singleShot(0, this, [this] { turn(); });
@@ -367,7 +367,7 @@ class Player : public QObject {
     for (const QString& answer : boxes_.answers) found << u"NOT ASKED: "_s + answer;
     boxes_.answers.clear();
     recordWindow(found);
-    const samples::BookRows now = samples::rowsIn(folder());
+    const samples::BookRows now = books_.read(folder());
     found += samples::changesBetween(rows_, now);
     rows_ = now;
     recordPaper(found);
@@ -463,6 +463,7 @@ class Player : public QObject {
   std::deque<std::function<void()>> steps_;  ///< an empty one: what came of the line is written down
   int depth_ = 0, quiet_ = 0;
   QStringList out_;
+  samples::BookReader books_;
   samples::BookRows rows_;
   QWidget* last_ = nullptr;
   QMap<const QWidget*, QMap<QString, QString>> words_;

@@ -24,7 +24,7 @@ QString played(const QString& books, const QString& road) {
 }
 
 /** In parts, so that none of them takes long. */
-constexpr int roadParts = 4;
+constexpr int roadParts = 12;
 struct FormRoads : testing::TestWithParam<int> {};
 
 TEST_P(FormRoads, LeadWhereTheyLed) {
