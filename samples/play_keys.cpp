@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
+#include <QPointer>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStatusBar>
@@ -465,7 +466,7 @@ class Player : public QObject {
   QStringList out_;
   samples::BookReader books_;
   samples::BookRows rows_;
-  QWidget* last_ = nullptr;
+  QPointer<QWidget> last_;
   QMap<const QWidget*, QMap<QString, QString>> words_;
   QMap<QString, QString> settings_, texts_;
 };
