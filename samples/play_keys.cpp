@@ -217,6 +217,11 @@ class Player : public QObject {
   void turn() {
     QTimer::singleShot(0, this, [this] { turn(); });
     if (depth_ > standing()) return;
+    if (window_->isHidden() && depth_ == 0) {
+      record();
+      out_ << u"    the program has gone"_s;
+      steps_.clear();
+    }
     if (steps_.empty()) {
       if (depth_ == 0) return QApplication::exit();
       leave();
@@ -377,6 +382,9 @@ class Player : public QObject {
     if (const QString copied = QApplication::clipboard()->text(); copied != std::exchange(clip_, copied))
       found << u"copied: "_s + QString(copied).replace(u'\n', u'|').replace(u'\t', u'>');
     for (const QString& line : found) out_ << inset(line);
+    // A passing notice goes by the clock: it has been read.
+    for (QWidget* const window : QApplication::topLevelWidgets())
+      if (window->objectName() == "frmFloatMsg"_L1) window->close();
   }
   void recordWindow(QStringList& found) {
     QWidget* const in = front();
