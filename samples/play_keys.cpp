@@ -23,6 +23,7 @@
 #include "app/form_pickers.h"
 #include "app/frmMain.h"
 #include "app/start_up.h"
+#include "papers/form_document_run.h"
 #include "pc/cp949.h"
 #include "pc/program_line.h"
 #include "samples/book_rows.h"
@@ -127,6 +128,10 @@ class Player : public QObject {
     session_.reports = &reports_;
     paper_ = root + "/paper.pdf";
     printers_.askFile = [this](const QString&) { return paper_; };
+    folderAsker() = [this](QWidget*, const QString&) {
+      QDir(root_).mkdir(u"papers"_s);
+      return root_ + u"/papers"_s;
+    };
     printChooser() = [](Session&, int pages, QWidget*) { return PrintChoice{pdfPrinterName(), 1, pages}; };
     pc_.process.setStarter([this](const QString& program, const QStringList& arguments, const QString&) {
       boxes_.told << u"starts %1 %2"_s.arg(program, arguments.join(u' ')).remove(root_);
@@ -418,14 +423,20 @@ class Player : public QObject {
       if (before.value(line.key()) != *line) found << line->trimmed();
   }
   void recordPaper(QStringList& found) {
-    if (!QFile::exists(paper_)) return;
+    QStringList papers{paper_};
+    const QDir several(root_ + u"/papers"_s);
+    for (const QString& name : several.entryList(QDir::Files)) papers << several.filePath(name);
+    for (const QString& paper : papers) recordPaper(paper, found);
+  }
+  void recordPaper(const QString& paper, QStringList& found) {
+    if (!QFile::exists(paper)) return;
     QProcess reader;
-    reader.start(u"pdftotext"_s, {u"-layout"_s, paper_, u"-"_s});
+    reader.start(u"pdftotext"_s, {u"-layout"_s, paper, u"-"_s});
     reader.waitForFinished();
-    found << u"paper"_s;
+    found << (paper == paper_ ? u"paper"_s : u"paper "_s + QFileInfo(paper).fileName());
     for (const QString& line : QString::fromUtf8(reader.readAllStandardOutput()).split(u'\n'))
       if (!line.trimmed().isEmpty()) found << u"  "_s + line.simplified();
-    QFile::remove(paper_);
+    QFile::remove(paper);
   }
   /** What the forms write beside the program. */
   void recordTexts(QStringList& found) {
@@ -453,7 +464,7 @@ class Player : public QObject {
           now[section + line.section(u'=', 0, 0)] = line.section(u'=', 1);
     }
     for (auto set = now.cbegin(); set != now.cend(); ++set)
-      if (settings_.value(set.key()) != *set) found << u"setting %1=%2"_s.arg(set.key(), *set);
+      if (settings_.value(set.key()) != *set) found << u"setting %1=%2"_s.arg(set.key(), *set).remove(root_);
     settings_ = now;
   }
 
