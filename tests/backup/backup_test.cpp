@@ -6,6 +6,7 @@
 
 #include <QCryptographicHash>
 #include <csignal>
+#include <numeric>
 
 #include "backup/data_folder_alone.h"
 #include "backup/make_backup.h"
@@ -73,9 +74,23 @@ std::pair<int, QString> failureOf(Work work) {
 }
 
 TEST_F(BackupTest, WhatIsPackedComesBackByteByByteAndTheOldBooksStay) {
+  QDir().mkpath(native(dataFolder + "지도\\동네"));
+  write(dataFolder + "지도\\동네\\1.bmp", QByteArray(3 << 20, 'm'));
   const auto before = books();
+  write(dataFolder + "Basic.LDB", "who is in");  // these two are nobody's books
+  write(dataFolder + "dbTax.mdb.new", "half");
   const backup::BackupDone done = make();
+  QFile::remove(native(dataFolder + "Basic.LDB"));
+  QFile::remove(native(dataFolder + "dbTax.mdb.new"));
   EXPECT_EQ(books(), before);
+  EXPECT_EQ(done.bytes, QFileInfo(native(done.archive)).size());
+  const backup::ArchiveFacts read = backup::verify(native(done.archive), nobody);
+  EXPECT_EQ(read.made.toSecsSinceEpoch(), done.facts.made.toSecsSinceEpoch());
+  EXPECT_EQ(read.folder, dataFolder);
+  EXPECT_EQ(read.program, HAEON_VERSION);
+  EXPECT_EQ(read.bytes(),
+            std::accumulate(before.begin(), before.end(), qint64(0),
+                            [](qint64 sum, const QByteArray& file) { return sum + file.size(); }));
   EXPECT_EQ(done.archive, settings.folder + backup::archiveName(Series::Books, done.facts.made));
   EXPECT_EQ(shelf(), QStringList{nameOf(done)});
   EXPECT_TRUE(nameOf(done).startsWith("해온판매-20260316-09")) << "the program's clock";
@@ -121,6 +136,14 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
             (QStringList{nameOf(lost), made[3], made[4]}));
   backup::keepNewest(pc.paths, settings.folder, Series::Books, 0);
   EXPECT_EQ(shelf(), (QStringList{made[4], support, "해온판매-내것.zip"})) << "the newest never goes";
+  QStringList both;
+  for (const auto& each : backup::archivesOf(pc.paths, settings))
+    both << (each.onServer ? "server " : "here ") + each.made.toString("yyyy HH:mm ") +
+                QString::number(each.bytes == 5);
+  EXPECT_EQ(both, (QStringList{"here 2026 10:03 0", "server 2026 10:03 1", "server 2026 10:03 1",
+                               "server 2002 00:05 0"}));
+  settings.serverFolder = settings.folder;
+  EXPECT_EQ(backup::archivesOf(pc.paths, settings).size(), 1);
 }
 
 TEST_F(BackupTest, WhatAKilledRunLeftLocksNobodyOutAndGoes) {
@@ -138,9 +161,16 @@ TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {
   auto workspace = std::make_unique<jet::Workspace>(openWorkspace(session, dataFolder));
   auto year = std::make_unique<jet::Database>(workspace->OpenDatabase(dataFolder + "2026Foundation.mdb"));
   backup::DataFolderAlone held(pc.paths, dataFolder);
-  EXPECT_THAT(held.take(), testing::Contains("Basic.mdb"));
+  EXPECT_EQ(held.take(), QStringList{"Basic.mdb"}) << "its holder may be making the others";
   year.reset();
   workspace.reset();
+  {
+    const jet::Workspace one{jet::Workspace::Options{}};
+    const jet::Database open = one.OpenDatabase(native(dataFolder + "2026Foundation.mdb"));
+    write(dataFolder + "other.mdb", "another program's");
+    const jet::AloneWith other(native(dataFolder + "other.mdb"), 0);
+    EXPECT_EQ(held.take(), (QStringList{"2026Foundation.mdb", "other.mdb"}));
+  }
   EXPECT_EQ(held.take(), QStringList());
   jet::Workspace::Options impatient;
   impatient.busyMilliseconds = 1;
@@ -215,7 +245,8 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
   EXPECT_EQ(refused(), 321);
   // A list that fits, and a name that would leave the folder.
   const QByteArray sum = QCryptographicHash::hash("x", QCryptographicHash::Sha256).toHex();
-  for (const char* name : {"../Basic.mdb", "/tmp/Basic.mdb", "a/../../Basic.mdb", "C:Basic.mdb"}) {
+  for (const char* name : {"../Basic.mdb", "/tmp/Basic.mdb", "a/../../Basic.mdb", "C:Basic.mdb",
+                           "./Basic.mdb", "a//Basic.mdb", "a\\Basic.mdb", "a/./Basic.mdb"}) {
     makeZip(wrong, {{name, "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 " + name + '\n'}});
     EXPECT_EQ(refused(), 321) << name;
   }
@@ -231,6 +262,18 @@ TEST_F(BackupTest, AWrongArchiveIsRefusedAndTheBooksStay) {
   makeZip(wrong, {{"Basic.mdb", "x"}, {"more.mdb", "y"}, {"haeon-backup.txt", listed(sum, "1")}});
   EXPECT_EQ(refused(), 321);
   makeZip(wrong, {{"haeon-backup.txt", listed(sum, "1")}});
+  EXPECT_EQ(refused(), 321);
+  // A list of another kind, an empty one, one that is not the last, one without end, a name twice.
+  makeZip(wrong,
+          {{"Basic.mdb", "x"}, {"haeon-backup.txt", listed(sum, "1").replace("backup 1", "backup 2")}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"haeon-backup.txt", "haeon backup 1\n"}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"haeon-backup.txt", listed(sum, "1")}, {"Basic.mdb", "x"}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"Basic.mdb", "x"}, {"haeon-backup.txt", listed(sum, "1") + QByteArray(4 << 20, '\n')}});
+  EXPECT_EQ(refused(), 321);
+  makeZip(wrong, {{"Basic.mdb", "x"}, {"BASIC.mdb", "x"}, {"haeon-backup.txt", listed(sum, "1")}});
   EXPECT_EQ(refused(), 321);
   makeZip(wrong,
           {{"dbTax.mdb", "x"}, {"haeon-backup.txt", "haeon backup 1\nfile " + sum + " 1 dbTax.mdb\n"}});
@@ -254,6 +297,13 @@ struct SmallFiles {
 };
 
 TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
+  for (const int full : {ENOSPC, EDQUOT, EFBIG})
+    EXPECT_EQ(failureOf([&] { backup::failWriting("x", full); }).second,
+              "x\n디스크 공간이 부족하여 쓸 수 없습니다.");
+  EXPECT_EQ(failureOf([&] { backup::failWriting("x", EACCES); }),
+            std::pair(75, QString("x\n파일이나 폴더를 쓸 수 없습니다. 경로와 쓰기 권한을 확인하십시오.")));
+  EXPECT_TRUE(backup::flushToDisk(native(dataFolder)));
+  EXPECT_FALSE(backup::flushToDisk(native(dataFolder + "nowhere")));
   const QString archive = make().archive;
   pc.clock.set(QDateTime(QDate(2026, 3, 16), QTime(11, 0)));
   const auto before = books(), shelved = contentsOf(native(settings.folder));
@@ -282,9 +332,24 @@ TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
 
 TEST_F(BackupTest, EveryStepIsDoneBeforeTheArchiveHasItsNameAndTheFilesAreFreeAfterTheCopy) {
   QStringList steps;
-  make(Series::Books, [&](const QString& what, qint64, qint64) {
+  qint64 last = 0, all = 0, sizes = 0;
+  for (const QByteArray& file : books()) sizes += file.size();
+  const qint64 count = books().size();
+  const auto wasFull = [&] {
+    if (steps.isEmpty()) return;
+    EXPECT_EQ(last, steps.last() == "자료 검사" ? all - 1 : all) << steps.last().toStdString();
+  };
+  make(Series::Books, [&](const QString& what, qint64 done, qint64 total) {
     const QString step = what.section(u':', 0, 0);
-    if (steps.isEmpty() || steps.last() != step) steps << step;
+    if (steps.isEmpty() || steps.last() != step) {
+      wasFull();
+      steps << step;
+      last = 0;
+    }
+    EXPECT_GE(done, last) << what.toStdString();
+    EXPECT_EQ(total, step == "자료 검사" ? count : sizes) << what.toStdString();
+    last = done;
+    all = total;
     EXPECT_TRUE(shelf().filter("해온판매").isEmpty()) << what.toStdString();
     jet::Workspace::Options impatient;
     impatient.busyMilliseconds = 1;
@@ -294,6 +359,7 @@ TEST_F(BackupTest, EveryStepIsDoneBeforeTheArchiveHasItsNameAndTheFilesAreFreeAf
         << what.toStdString() << ": other PCs wait for the copy, and for it alone";
     return true;
   });
+  wasFull();
   EXPECT_EQ(steps, (QStringList{"복사", "자료 검사", "압축", "확인"}));
 }
 
@@ -320,6 +386,16 @@ TEST_F(BackupTest, TheServersCopyIsReadBackAndItsCommandMustEndWell) {
   const auto [number, text] = failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); });
   EXPECT_EQ(number, 75);
   EXPECT_TRUE(text.contains("연결 실패")) << text.toStdString();
+  settings.serverFolder.clear();
+  settings.serverCommand = "no-such-program %1";
+  EXPECT_EQ(failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); }).first, 75);
+  settings.serverCommand = "sleep 600";
+  EXPECT_THROW(
+      backup::sendToServer(pc, archive, settings, [](const QString&, qint64, qint64) { return false; }),
+      backup::Stopped);
+  settings = {"C:\\RWGas\\BackUp\\", 3, dataFolder + "메모.txt\\", {}, true};
+  EXPECT_EQ(failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); }).first, 75)
+      << "a file stands there";
 }
 
 TEST_F(BackupTest, SettingsComeBackAndNonsenseIsHeldWithinBounds) {
@@ -327,8 +403,12 @@ TEST_F(BackupTest, SettingsComeBackAndNonsenseIsHeldWithinBounds) {
   const backup::Settings chosen{"D:\\보관\\", 7, "Z:\\s\\", "scp %1 a:b", false};
   EXPECT_TRUE(backup::writeSettings(pc, {" D:\\보관", 7, "Z:\\s", "scp %1 a:b ", false}));
   EXPECT_EQ(backup::readSettings(pc), chosen);
-  pc.settings.SaveSetting("Backup", "설정", "보관개수", "0");
-  EXPECT_EQ(backup::readSettings(pc).keep, 1);
+  for (const auto& [written, keep] : {std::pair("0", 1), {"1", 1}, {"99", 99}, {"100", 99}, {"x", 10}}) {
+    pc.settings.SaveSetting("Backup", "설정", "보관개수", written);
+    EXPECT_EQ(backup::readSettings(pc).keep, keep) << written;
+  }
+  EXPECT_TRUE(backup::writeSettings(pc, {"/mnt/보관", 7, "D:\\a/", " ", false}));
+  EXPECT_EQ(backup::readSettings(pc), (backup::Settings{"/mnt/보관/", 7, "D:\\a/", {}, false}));
   EXPECT_EQ(backup::dataFolderToPack(pc), installedDataFolder());
   pc.settings.SaveSetting("Backup", "DB경로", "경로", "D:\\DBS");
   EXPECT_EQ(backup::dataFolderToPack(pc), "D:\\DBS\\");

@@ -22,6 +22,7 @@ enum class JetType {
   Money = 5,
   Single = 6,
   Double = 7,
+  Moment = 8,  ///< days since 1899-12-30
   Text = 10,
   Ole = 11
 };
@@ -126,6 +127,7 @@ class JetWriter {
         return 4;
       case JetType::Money:
       case JetType::Double:
+      case JetType::Moment:
         return 8;
       default:
         return 0;
@@ -144,6 +146,7 @@ class JetWriter {
       case JetType::Single:
         return little(value.toFloat());
       case JetType::Double:
+      case JetType::Moment:
         return little(value.toDouble());
       default:
         return {};

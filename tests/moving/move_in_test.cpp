@@ -30,7 +30,9 @@ JetTable clients(const Rows& rows) {
            {"HouseStyle", JetType::Byte},
            {"Volume", JetType::Text, 10},
            {"Ho", JetType::Text, 10},
-           {"즐겨찾기", JetType::Text, 10}},
+           {"즐겨찾기", JetType::Text, 10},
+           {"Birth", JetType::Moment},
+           {"AppDate", JetType::Moment}},
           rows};
 }
 
@@ -65,7 +67,7 @@ struct MoveIn : testing::Test, TestPc {
   }
   void putUsual(int version = 4) {
     put("Basic.mdb",
-        {clients({{3, "똠방각하 '상회'", 41000.0, true, 1, "", null, "예"},
+        {clients({{3, "똠방각하 '상회'", 41000.0, true, 1, "", null, "예", 46097.0, 46097.5},
                   {7, "김가네", -500.0, false, 0, "10", "101", null}}),
          {"메모장", {{"글"}}, {{"하나"}, {"둘"}}}},
         version);
@@ -94,7 +96,17 @@ struct BothFormats : MoveIn, testing::WithParamInterface<int> {};
 TEST_P(BothFormats, EveryKnownColumnComesByNameAndTheProgramStartsOnIt) {
   putUsual(GetParam());
   const auto before = contentsOf(oldFolder);
-  const moving::MoveReport report = bring();
+  QStringList told;
+  const moving::MoveReport report =
+      moving::moveIn(session, oldFolder, [&](const QString& what, qint64 done, qint64 total) {
+        const qint64 size = what.startsWith("읽는 중") ? QFileInfo(oldFolder + "/Basic.mdb").size() : 0;
+        EXPECT_TRUE(size == 0 || total == size + QFileInfo(oldFolder + "/2026Foundation.mdb").size());
+        told << what + (done == size && size ? " behind the first" : done == 0 ? " begins" : "");
+        return true;
+      });
+  EXPECT_EQ(told.mid(0, 3), (QStringList{"읽는 중: Basic.mdb begins",
+                                         "읽는 중: 2026Foundation.mdb behind the first", told.value(2)}));
+  EXPECT_TRUE(told.value(2).startsWith("자료 검사: ")) << told.value(2).toStdString();
   EXPECT_EQ(contentsOf(oldFolder), before);
   EXPECT_EQ(
       rows("Basic.mdb", "Select Code, Name, GasInit, VolumeYesNo, HouseStyle, Volume, Ho, Tel1 From Client"),
@@ -103,12 +115,14 @@ TEST_P(BothFormats, EveryKnownColumnComesByNameAndTheProgramStartsOnIt) {
                  "Select SaleID, SaleDate, ClientCode, SaleThing, SaleNum, SaleUnit, SaleGubun, Trust, "
                  "DealList From Sale"),
             "1|2026-03-02|3|20|2|41000|1|1000|0\n2||7|-|0|0|7|25.5|0");
+  EXPECT_EQ(rows("Basic.mdb", "Select Birth, AppDate From Client Where Code = 3"),
+            "2026-03-16|2026-03-16 12:00:00");
   EXPECT_EQ(report.rows(), 4);
   const QString text = report.text();
-  EXPECT_TRUE(text.contains("Basic.mdb의 표 메모장 (2줄)")) << text.toStdString();
-  EXPECT_TRUE(text.contains("Basic.mdb의 표 Client의 칸 즐겨찾기 (값 1개)")) << text.toStdString();
-  EXPECT_TRUE(text.contains("Trust: 소수나 큰 수가 있어")) << text.toStdString();
+  EXPECT_EQ(text, textOf(HAEON_TEST_DATA "/moving/report.txt"));
   EXPECT_EQ(textOf(pc.paths.native(report.file)), text);
+  EXPECT_TRUE(report.file.endsWith(".txt") && report.file.contains("\\가져오기-20260316-09"))
+      << report.file.toStdString();
 
   StartUp startUp(session);
   EXPECT_TRUE(startUp.SubMain([&] { startUp.load(); }));
@@ -217,6 +231,77 @@ TEST_F(MoveIn, AFileThatIsClosedToUsOrChangesMeanwhileEndsTheImport) {
   QFile::setPermissions(year, QFile::ReadOwner);
   EXPECT_THAT(bring().warnings, testing::ElementsAre(testing::Property(&QString::toStdString,
                                                                        testing::StartsWith("Basic.ldb: "))));
+}
+
+TEST_F(MoveIn, EachColumnBecomesAsWideAsItsValuesAndNoWider) {
+  using schema::shape::text, schema::shape::whole, schema::shape::real, schema::shape::yesNo;
+  const auto fitted = [](const jet::Field& field, const QStringList& values) {
+    std::vector<moving::OldRow> rows;
+    for (const QString& value : values) rows.push_back({value == "-" ? moving::OldValue() : value});
+    const moving::FittedTable made =
+        moving::fit(schema::shape::make("T", {field}), {"T", {{"a", moving::OldType::Text}}}, rows);
+    QStringList told;
+    for (const auto& row : made.rows) told << (row[0].isNull() ? "-" : row[0].toText());
+    const jet::Field& now = made.table.fields[0];
+    return told.join(' ') + u" | %1 %2 "_s.arg(int(now.type)).arg(now.size) +
+           (now.allowZeroLength ? "" : "filled ") + (now.required ? "required " : "") + made.notes.join(';');
+  };
+  EXPECT_EQ(fitted(whole("A"), {"1", "1,234", "-2147483648", "2147483647", " ", "-"}),
+            "1 1234 -2147483648 2147483647 - - | 4 0 ");
+  const QString wider = "A: 소수나 큰 수가 있어 소수 칸으로 바꿈";
+  EXPECT_EQ(fitted(whole("A"), {"2147483648"}), "2147483648 | 7 0 " + wider);
+  EXPECT_EQ(fitted(whole("A"), {"-2147483649"}), "-2147483649 | 7 0 " + wider);
+  EXPECT_EQ(fitted(whole("A"), {"1.5", "x", "y"}),
+            "1.5 - - | 7 0 " + wider + ";A: 숫자가 아니어서 비워 둔 값 2개 (x, y)");
+  EXPECT_EQ(fitted(real("A"), {"1.5", "inf", ""}), "1.5 - - | 7 0 A: 숫자가 아니어서 비워 둔 값 1개 (inf)");
+  EXPECT_EQ(fitted(yesNo("A"), {"-1", "1", "0", "True", "false", "x", "0.5"}), "-1 -1 0 -1 0 0 -1 | 1 0 ");
+  EXPECT_EQ(fitted(text("A", 3), {"abc", "가나다"}), "abc 가나다 | 10 3 ");
+  EXPECT_EQ(fitted(text("A", 3), {"abcd", "a"}), "abcd a | 10 4 A: 3자에서 4자로 넓힘");
+  const QString longest(255, 'x'), memo(256, 'x');
+  EXPECT_EQ(fitted(text("A", 3), {longest}), longest + " | 10 255 A: 3자에서 255자로 넓힘");
+  EXPECT_EQ(fitted(text("A", 3), {memo}), memo + " | 12 3 A: 3자에서 256자로 넓힘");
+  jet::Field strict = schema::shape::notEmpty(text("A", 3));
+  strict.required = true;
+  EXPECT_EQ(fitted(strict, {"a"}), "a | 10 3 filled required ");
+  EXPECT_EQ(fitted(strict, {"a", ""}), "a  | 10 3 required ");
+  EXPECT_EQ(fitted(strict, {"a", "-"}), "a - | 10 3 filled ");
+  const auto keys = [](const jet::Index& index, const std::vector<moving::OldRow>& rows) {
+    const moving::FittedTable made =
+        moving::fit(schema::shape::make("T", {text("A", 9), text("B", 9)}, {index}),
+                    {"T", {{"B", moving::OldType::Text}, {"A", moving::OldType::Text}}}, rows);
+    const jet::Index& now = made.table.indexes[0];
+    return QString(now.primary ? "primary " : "") + (now.unique ? "unique" : "plain") +
+           made.notes.join(';').right(35);
+  };
+  const jet::Index both = schema::shape::primary("PK", {"A", "B"}), one{"U", {"A"}, false, true};
+  EXPECT_EQ(keys(both, {{"1", "2"}, {"2", "1"}, {"1", "1"}}), "primary unique");
+  EXPECT_TRUE(keys(both, {{"a", "2"}, {"A ", "2"}}).startsWith("plain"));
+  EXPECT_TRUE(keys(both, {{std::nullopt, "2"}}).startsWith("plain"));
+  EXPECT_EQ(keys(one, {{"1", "2"}, {"1", "3"}, {"1", std::nullopt}}), "unique");
+  EXPECT_TRUE(keys(one, {{"1", "2"}, {"2", "2"}}).startsWith("plain"));
+}
+
+TEST_F(MoveIn, AFilesNameTellsWhatItHolds) {
+  using schema::File;
+  const std::pair<QStringList, std::optional<File>> kinds[] = {
+      {{"Basic.mdb", "BASIC.MDB"}, File::Basic},
+      {{"2026Foundation.mdb", "2002foundation.MDB"}, File::Year},
+      {{"dbTax.mdb"}, File::Tax},
+      {{"dbDetail.mdb"}, File::Detail},
+      {{"dbPost.mdb"}, File::Post},
+      {{"Print.mdb"}, File::Print},
+      {{"dbAPTbaln.mdb"}, File::AptBaln},
+      {{"InOutCash.mdb", "OLDdbCashbook.mdb"}, File::InOutCash},
+      {{"dbCashbook.mdb"}, File::Cashbook},
+      {{"db202603.mdb", "dbPerTrader.mdb", "dbCharge.mdb", "dbNonKum.mdb", "dbProduct.mdb", "dbMoney.mdb",
+        "LedgerList.mdb", "PeriodInOut.mdb", "PerMonthly.mdb", "dbAnalysis.mdb", "dbDaily.mdb", "dbInOut.mdb",
+        "dbTradeAll.mdb", "dbResult.mdb", "dbReTrade.mdb", "DBLIST.mdb"},
+       File::Ledger},
+      {{"226Foundation.mdb", "20260Foundation.mdb", "x2026Foundation.mdb", "2026Foundation.mdb2",
+        "db20263.mdb", "xdb202603.mdb", "db202603.mdbx", "Basic2.mdb", "Basic"},
+       {}}};
+  for (const auto& [names, kind] : kinds)
+    for (const QString& name : names) EXPECT_TRUE(moving::kindOfFile(name) == kind) << name.toStdString();
 }
 
 TEST_F(MoveIn, WhatIsStoredIsComparedWithWhatWasRead) {
