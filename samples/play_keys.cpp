@@ -32,6 +32,7 @@
 #include "store/jet/connection.h"
 #include "store/jet/functions.h"
 #include "store/settings_table.h"
+#include "ui/forms/FrmProgress.h"
 #include "ui/forms/style.h"
 #include "ui/grid/spread.h"
 #include "ui/paper/pages_window.h"
@@ -257,7 +258,7 @@ class Player : public QObject {
     int count = 0;
     for (const QWidget* window : QApplication::topLevelWidgets())
       count += window->isVisible() && (window->isModal() || window->windowType() == Qt::Popup) &&
-               window->objectName() != "FrmProgress"_L1;
+               !dynamic_cast<const FrmProgress*>(window);
     return count;
   }
   static void leave() {

@@ -301,7 +301,7 @@ TEST_F(BackupTest, AFullDiskAndAStopLeaveBooksAndArchivesAsTheyWere) {
     EXPECT_EQ(failureOf([&] { backup::failWriting("x", full); }).second,
               "x\n디스크 공간이 부족하여 쓸 수 없습니다.");
   EXPECT_EQ(failureOf([&] { backup::failWriting("x", EACCES); }),
-            std::pair(75, QString("x\n파일이나 폴더를 쓸 수 없습니다. 경로와 쓰기 권한을 확인하십시오.")));
+            std::pair(75, u"x\n파일이나 폴더를 쓸 수 없습니다. 경로와 쓰기 권한을 확인하십시오."_s));
   EXPECT_TRUE(backup::flushToDisk(native(dataFolder)));
   EXPECT_FALSE(backup::flushToDisk(native(dataFolder + "nowhere")));
   const QString archive = make().archive;
