@@ -118,6 +118,14 @@ class Photographer {
   bool words_;
 };
 
+/** A preview does not hold up whoever opened it: it is taken and left while this waits. */
+void waitUntilGone(const char* preview) {
+  (void)QTest::qWaitFor([&] {
+    const QWidget* const front = QApplication::activeModalWidget();
+    return !front || front->objectName() != QLatin1String(preview);
+  });
+}
+
 /** Closes the form in front; a closed form leaves in the next round, and a further one of its name may not be found. */
 void closeForm(const frmMain& window) {
   if (QMdiSubWindow* const front = window.findChild<QMdiArea*>()->currentSubWindow()) front->close();
@@ -199,6 +207,7 @@ void meterBook(frmMain& window, Session& session, Photographer& photographer) {
       photographer.take(*slips, name);
       slips->findChild<QPushButton*>("BtnJiro")->click();
       slips->findChild<QPushButton*>("BtnPreview")->click();
+      waitUntilGone("FrmPaperView");
       slips->reject();
     });
     window.openForm(QString::fromLatin1(paper));
@@ -226,17 +235,32 @@ void totals(frmMain& window, ReportViewer& reports, Photographer& photographer) 
 void documents(frmMain& window, FormPickers& pickers, Photographer& photographer) {
   closeForm(window);
   const auto click = [](QWidget& form, const char* name) { form.findChild<QAbstractButton*>(name)->click(); };
+  // The question of the paper is answered by the whole sheet, on which the form is drawn too.
+  const auto takePaper = [&](QWidget& form) {
+    const WhenModal then([&](QWidget& box) {
+      const bool question = box.objectName() == "FrmMsg"_L1;
+      photographer.take(box, form.objectName() + (question ? u"-question"_s : u"-paper"_s));
+      if (!question) {
+        box.close();
+        return;
+      }
+      click(box, "optPaper(1)");
+      click(box, "btnInkjet");
+    });
+    click(form, "btnPreview");
+    waitUntilGone("FrmPaperView");
+  };
   if (!window.openForm("FrmDealList:2026-03-01,2026-03-31")) return;
   auto* deals = window.findChild<QWidget*>("FrmDealList");
   click(*deals, "ChkAll");
   photographer.take(*deals, "FrmDealList");
-  photographer.takeModal("FrmDealList-paper", [&] { click(*deals, "btnPreview"); });
+  takePaper(*deals);
   closeForm(window);
   window.openForm("FrmTax:0");
   auto* tax = window.findChild<QWidget*>("FrmTax");
   click(*tax, "Chk선택");
   photographer.take(*tax, "FrmTax");
-  photographer.takeModal("FrmTax-paper", [&] { click(*tax, "btnPreview"); });
+  takePaper(*tax);
   closeForm(window);
   photographer.takeModal("FrmNewAcount", [&] { window.openForm("FrmNewAcount"); });
   photographer.takeModal("FrmMsg", [&] {
