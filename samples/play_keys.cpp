@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -314,8 +315,14 @@ class Player : public QObject {
     } else if (word == "focus"_L1) {
       named(rest)->setFocus();
     } else if (word == "choose"_L1) {
-      auto* const box = named<QComboBox>(rest.section(u'=', 0, 0));
-      box->setCurrentIndex(box->findText(rest.section(u'=', 1)));
+      const QString name = rest.section(u'=', 0, 0), item = rest.section(u'=', 1);
+      if (auto* const tabs = front()->findChild<QTabBar*>(name)) {
+        for (int at = 0; at < tabs->count(); ++at)
+          if (tabs->tabText(at) == item) tabs->setCurrentIndex(at);
+      } else {
+        auto* const box = named<QComboBox>(name);
+        box->setCurrentIndex(box->findText(item));
+      }
     } else if (word == "cell"_L1 || word == "double"_L1) {
       Spread* const on = grid();
       const int row = rest.section(u',', 0, 0).toInt(), col = rest.section(u',', 1).toInt();
@@ -361,8 +368,9 @@ class Player : public QObject {
   // --- the record -------------------------------------------------------------------------------------------
   QString folder() const { return pc_.paths.native(session_.DbPath); }
   static QString inset(QString text) {
-    static const QRegularExpression seconds(u"(?<=\\d\\d:\\d\\d):\\d\\d"_s);
-    text.remove(seconds);
+    // The clock runs, and a station's name ends with the PC's name and the program's number.
+    static const QRegularExpression passing(u"(?<=\\d:\\d\\d):\\d\\d|(?<=Station=\\d{4}-\\d\\d-\\d\\d) .*"_s);
+    text.remove(passing);
     return u"    "_s + text.trimmed().replace(u'\n', u"\n    "_s);
   }
   /** What floats over a form goes away by itself: it is told when it comes, and is gone before the window is written. */
