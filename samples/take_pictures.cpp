@@ -66,7 +66,8 @@ class WhenModal {
     QTimer::singleShot(0, &alive_, [this] {
       watch();
       QWidget* const box = QApplication::activeModalWidget();
-      if (!box || seen_.contains(box)) return;
+      if (!box || seen_.contains(box) || box->objectName() == "FrmProgress"_L1)
+        return;  // a bar leaves by itself
       seen_ << box;
       work_(*box);
     });

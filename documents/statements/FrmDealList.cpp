@@ -24,7 +24,7 @@ FrmDealList::FrmDealList(FormContext& context, QWidget* parent)
   grid_->setFillColumn(DealCol::Item);
   lay({tabs_, questionRow(), choiceRow()}, sumRow());
   connectGrid();
-  setHelp(grid_, gridHelp);
+  setHelp(grid_->focusProxy(), gridHelp);  // the line box, which has the hand
   setHelp(client_, "  매출처를 선택하여 주십시요. [검색:Enter]");
   setBottomLine("[종료:Esc]  [거래처검색:Insert]");
   enterOrder({dates_->box(0), dates_->box(1)}, [this] {
