@@ -148,6 +148,28 @@ TEST(Compile, TooComplexIsRefusedNotACrash) {
   EXPECT_EQ(
       refusalOf(u"Select Code From Client Where Code = 1"_s + u" Or Code = 1"_s.repeated(10000)).number(),
       3360);
+  const auto listOf = [](int count, const char* each, const char* between) {
+    return QStringList(QList<QString>(count, QString::fromLatin1(each))).join(QString::fromLatin1(between));
+  };
+  for (const int over : {0, 1}) {
+    const auto refused = [&](int number) { return over ? number : 0; };
+    EXPECT_EQ(refusalOf(u"Select '"_s + QString(63991 + over, u'x') + u'\'').number(), refused(3360));
+    EXPECT_EQ(refusalOf("Select " + listOf(255 + over, "Code", ", ") + " From Client").number(),
+              refused(3190));
+    EXPECT_EQ(refusalOf("Select Max(Code) From Client Group By " + listOf(255 + over, "Code", ", ")).number(),
+              refused(3360));
+    EXPECT_EQ(refusalOf("Select Code From Client Order By " + listOf(255 + over, "Code", ", ")).number(),
+              refused(3360));
+    EXPECT_EQ(refusalOf(listOf(51 + over, "Select Code From Client", " Union ")).number(), refused(3360));
+    QStringList tables;
+    for (int at = 0; at < 32 + over; ++at) tables << u"LPG As t%1"_s.arg(at);
+    EXPECT_EQ(refusalOf("Select 1 From " + tables.join(", ")).number(), refused(3360));
+    EXPECT_EQ(refusalOf("Select " + listOf(901 + over, "1", " + ")).number(), refused(3360));
+    EXPECT_EQ(refusalOf("Select " + QString(23 + over, u'(') + '1' + QString(23 + over, u')')).number(),
+              refused(3360));
+    EXPECT_EQ(refusalOf("Select " + listOf(23 + over, "-", " ") + " 1").number(), refused(3360));
+    EXPECT_EQ(refusalOf("Select " + listOf(23 + over, "Not", " ") + " 1").number(), refused(3360));
+  }
   // A long chain keeps one pair of brackets: SQLite takes less than a hundred.
   const QByteArray chain =
       compiled(u"Select Code From Client Where Code = 1"_s + u" Or Code = 1"_s.repeated(300)).sql;

@@ -30,6 +30,10 @@ class SampleCatalogue : public jet::Catalogue {
     jet::Field strict = text("Key", 4);
     strict.allowZeroLength = false;
     add("y", "Strict", {strict, memo("Note")});
+    jet::Field needed = text("A'b", 4), count = number("N"), yes = yesNo("Y"), given = number("G");
+    needed.required = count.required = yes.required = given.required = true;
+    given.defaultValue = jet::Value(0);
+    add("y", "Needed", {number("ID", true), needed, count, yes, given});
   }
 
   std::optional<jet::TableInfo> table(const QString& name) override {
