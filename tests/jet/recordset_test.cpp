@@ -36,8 +36,19 @@ TEST_F(Recordsets, WalksBothWaysAndCountsWhatItReached) {
   for (int i = 0; i < 4; ++i) rs.MoveNext();
   EXPECT_TRUE(rs.atEnd());
   EXPECT_EQ(failureOf([&] { rs.MoveNext(); }), 3021);
+  EXPECT_EQ(failureOf([&] { (void)rs.Bookmark(); }), 3021);
   rs.setBookmark(first);
   EXPECT_EQ(rs["CODE"].toLong(), 1);
+  for (const int nowhere : {-1, 3}) EXPECT_EQ(failureOf([&] { rs.setBookmark(nowhere); }), 3021) << nowhere;
+  for (const int nowhere : {-1, 2}) EXPECT_EQ(failureOf([&] { (void)rs[nowhere]; }), 3265) << nowhere;
+  rs.MovePrevious();
+  EXPECT_EQ(failureOf([&] { (void)rs.Bookmark(); }), 3021);
+  rs.MoveNext();
+  EXPECT_EQ(rs.fieldIndex("NAME"), 1);
+  EXPECT_EQ(rs.fieldIndex("Ho"), -1);
+  QString walked;
+  for (; !rs.atEnd(); rs.MoveNext()) walked += rs["Name"].toText() + rs["Code"].toText();
+  EXPECT_EQ(walked, "a1b2c3");
   EXPECT_EQ(failureOf([&] { (void)rs["Nothing"]; }), 3265);
 }
 
@@ -94,6 +105,12 @@ TEST_F(Recordsets, AddNewAppendsWithItsNumberAndDefaults) {
   jet::Recordset rs = dynaset("Select * From Client Order By Code");
   rs.AddNew();
   rs.set("Name", "d");
+  EXPECT_EQ(rs["Name"].toText(), "d");
+  EXPECT_TRUE(rs.isNull("Code")) << "no row stands behind it yet";
+  rs.CancelUpdate();
+  EXPECT_EQ(rs["Name"].toText(), "a");
+  rs.AddNew();
+  rs.set("Name", "d");
   rs.Update();
   EXPECT_EQ(rs["Name"].toText(), "a");  // the position stays
   rs.MoveLast();
@@ -116,9 +133,19 @@ TEST_F(Recordsets, DeletedRowsAreSteppedOver) {
   EXPECT_EQ(rs["Name"].toText(), "a");
   rs.MoveNext();
   EXPECT_EQ(rs["Name"].toText(), "c");
+  EXPECT_EQ(failureOf([&] { rs.setBookmark(1); }), 3167);
+  EXPECT_EQ(rs["Name"].toText(), "c");
   rs.MoveLast();
   EXPECT_EQ(rs.RecordCount(), 2);
   EXPECT_EQ(rows(basic, "Select Name From Client Order By Code"), "a c");
+  jet::Recordset all = dynaset("Select * From Client Where Code = 1");
+  all.Delete();
+  EXPECT_EQ(failureOf([&] { all.Delete(); }), 3167);
+  EXPECT_EQ(failureOf([&] { all.MoveFirst(); }), 3021);
+  EXPECT_EQ(failureOf([&] { all.MoveLast(); }), 3021);
+  EXPECT_EQ(failureOf([&] { all.Edit(); }), 3021);
+  EXPECT_EQ(all.RecordCount(), 0);
+  EXPECT_TRUE(all.atEnd());
   basic.Execute("Delete From Client Where Code = 3");
   rs.Edit();
   rs.set("Name", "x");
@@ -143,6 +170,26 @@ TEST_F(Recordsets, OfAJoinEachTableGetsItsOwnFields) {
   rs.Edit();
   rs.set("Name", "nobody");
   EXPECT_EQ(failureOf([&] { rs.Update(); }), 3164);
+  rs.AddNew();
+  rs.set("SaleNum", 3);
+  rs.set("Name", "new");
+  EXPECT_EQ(failureOf([&] { rs.Update(); }), 3219) << "one table at a time";
+  rs.CancelUpdate();
+  rs.AddNew();
+  rs.set("Name", "new");
+  rs.Update();
+  EXPECT_EQ(rows(basic, "Select Name From Client Where Code > 3"), "new");
+  jet::Recordset turned = year.OpenRecordset(
+      "Select Client.Name, Sale.SaleNum From Client Left Join Sale On Sale.ClientCode = Client.Code Where "
+      "Client.Code = 1",
+      jet::RecordsetType::Dynaset);
+  turned.Delete();
+  EXPECT_EQ(rows(basic, "Select Name From Client Order By Code"), "bb c new") << "the first table's row";
+  jet::Recordset right = year.OpenRecordset(
+      "Select Sale.SaleNum, Client.Name From Sale Right Join Client On Sale.ClientCode = Client.Code Where "
+      "Client.Code = 3",
+      jet::RecordsetType::Dynaset);
+  EXPECT_EQ(failureOf([&] { right.Delete(); }), 3164) << "it has none";
 }
 
 TEST_F(Recordsets, WhatIsNoTablesRowIsReadOnly) {
@@ -162,15 +209,28 @@ TEST_F(Recordsets, WhatIsNoTablesRowIsReadOnly) {
 // ---- the packed rows
 
 TEST(RowStore, AColumnWidensWithoutLosingAValue) {
-  const std::vector<jet::Value> values{{}, 1, qint64(5000000000), {}, 2.5, "글", 7, "", -1};
-  jet::RowStore store(1);
-  for (size_t count = 1; count <= values.size(); ++count) {
-    store.appendRow({values[count - 1]});
-    for (size_t row = 0; row < count; ++row) {
-      EXPECT_EQ(store.at(int(row), 0).isNull(), values[row].isNull());
-      EXPECT_EQ(store.at(int(row), 0).toText(), values[row].toText());
+  const qint64 narrow = 2147483647, exact = 9007199254740992;
+  const std::vector<jet::Value> plain{{}, 1, qint64(5000000000), {}, 2.5, "글", 7, "", -1};
+  for (const std::vector<jet::Value>& values : {plain,
+                                                {2.5, narrow, exact, exact + 1},
+                                                {narrow, narrow + 1, -narrow - 1, -narrow - 2, 0.5},
+                                                {exact + 1, 0.5},
+                                                {exact, 0.5, -exact},
+                                                {"글", "글", {}, 1, 2.5},
+                                                {{}, {}, 2.5, "x"},
+                                                {0.5, {}, "x"},
+                                                {narrow + 1, {}, "x"}}) {
+    jet::RowStore store(1);
+    for (size_t count = 1; count <= values.size(); ++count) {
+      store.appendRow({values[count - 1]});
+      for (size_t row = 0; row < count; ++row) {
+        EXPECT_EQ(store.at(int(row), 0).isNull(), values[row].isNull());
+        EXPECT_EQ(store.at(int(row), 0).toText(), values[row].toText());
+      }
     }
   }
+  jet::RowStore store(1);
+  for (const jet::Value& value : plain) store.appendRow({value});
   store.stopFilling();
   store.set(1, 0, "neu");
   store.set(2, 0, {});
