@@ -4,7 +4,9 @@
 #include <gmock/gmock.h>
 
 #include <QDateTime>
+#include <QFile>
 
+#include "store/jet/error_texts.h"
 #include "store/jet/format_rules.h"
 #include "store/jet/value.h"
 #include "tests/answers.h"
@@ -145,6 +147,22 @@ TEST(TextRules, PartsOfATextCountCharacters) {
   EXPECT_EQ(jet::midOf("홍길동", 4), "");
   EXPECT_EQ(failureOf([] { (void)jet::midOf("a", 0); }), 5);
   EXPECT_EQ(failureOf([] { (void)jet::leftOf("a", -1); }), 5);
+}
+
+TEST(ErrorTexts, EachNumberHasItsWords) {
+  QFile file(HAEON_TEST_DATA "/jet/errors.txt");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  int count = 0;
+  for (; !file.atEnd(); ++count) {
+    const QString line = QString::fromUtf8(file.readLine()).remove(u'\n');
+    const int number = line.section(u'\t', 0, 0).toInt();
+    EXPECT_EQ(line.toStdString(),
+              QStringList({QString::number(number), jet::isStoreFailure(number) ? "store" : "",
+                           jet::errorOf(number, "x").description(), jet::errorOf(number).description()})
+                  .join(u'\t')
+                  .toStdString());
+  }
+  EXPECT_GT(count, 80);
 }
 
 TEST(FormatRules, Numbers) {

@@ -76,6 +76,17 @@ TEST_F(DataAccess, AddFieldRunsItsStatementOnceOnly) {
   EXPECT_EQ(rows(basic, "Select Tel1 Is Null From Client Where Code = 2"), "0");
   EXPECT_TRUE(DAO_AddField(prompts, basic, "Client", "First", jet::Type::Long, 0, false, {}, {}, 0));
   EXPECT_EQ(basic.tableDef("Client").fields.front().name, "First");
+  const auto made = [&](const QString& name, jet::Type type, bool empty,
+                        const std::optional<jet::Value>& standard) {
+    EXPECT_TRUE(DAO_AddField(prompts, basic, "Client", name, type, -1, empty, {}, standard, -1, true));
+    const jet::Field field = basic.tableDef("Client").fields.back();
+    return field.name + u" %1 %2 %3"_s.arg(field.size).arg(field.allowZeroLength).arg(field.required) +
+           field.defaultValue.toText();
+  };
+  EXPECT_EQ(made("T", jet::Type::Text, true, {}), "T 0 1 0");
+  EXPECT_EQ(made("U", jet::Type::Text, false, jet::Value()), "U 0 0 0");
+  EXPECT_EQ(made("V", jet::Type::Long, true, jet::Value(7)), "V 0 0 17")
+      << "requires what it knows a value for";
   prompts.expect("[TABLE]: Nothing,    [FIELD]: x");
   EXPECT_FALSE(DAO_AddField(prompts, basic, "Nothing", "x", jet::Type::Long, 0, false));
   EXPECT_TRUE(prompts.seen.last().contains(") in procedure DAO_AddField of Module mdlCommonRW"));

@@ -2,6 +2,7 @@
 
 #include "store/options.h"
 #include "store/rounding.h"
+#include "store/settings_table.h"
 #include "store/year_file.h"
 #include "tests/store/old_books.h"
 
@@ -179,6 +180,77 @@ TEST(DataFiles, ADataFolderThatIsMadeIsClosedToOtherAccounts) {
   const auto others = QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther |
                       QFile::WriteOther | QFile::ExeOther;
   EXPECT_FALSE(QFile::permissions(here.pc.paths.native(here.session.DbPath)) & others);
+}
+
+TEST(SettingsTable, StandsUnderTheTextsThatInstallationsAndCompanionsWrote) {
+  using namespace setting;
+  QStringList told;
+  const auto tell = [&](const Setting& each) {
+    QStringList texts;
+    for (const QStringView text : {each.application, each.section, each.key, each.fallback})
+      texts << text.toString();
+    told << texts.join(u'|');
+  };
+  for (const Setting& each : {DataFolder,
+                              ReportFolder,
+                              NoticeHidden,
+                              PostCodesRebuilt,
+                              BackupFolder,
+                              ProgramDrive,
+                              ArchiveFolder,
+                              ArchivesKept,
+                              ArchiveServerFolder,
+                              ArchiveServerCommand,
+                              BackupRemindedAtExit,
+                              toolFolderOf(u"x"),
+                              MapFolder,
+                              CompanyName,
+                              ApprovalNumber,
+                              LateChargeKind,
+                              AfterDueMethod,
+                              BlocksShown,
+                              OrderedByRoom,
+                              CollectionsShown,
+                              OpenArrearsAlone,
+                              SeeIdUse,
+                              SeeIdPorts[0],
+                              SeeIdPorts[1],
+                              WaitingX,
+                              WaitingY,
+                              SmsFolder,
+                              RelayFolder,
+                              GiroPrinter,
+                              GiroTop,
+                              GiroLeft,
+                              OcrThisMonth,
+                              OrgA4ThisMonth,
+                              OrgA4NewPaper,
+                              OrgA4Preprinted,
+                              OrgA4UseFrom,
+                              OrgA4UseTo,
+                              ReportPrinter,
+                              PdfFile,
+                              PdfFolder,
+                              printerOf(u"x"),
+                              topMarginOf(u"x"),
+                              leftMarginOf(u"x"),
+                              chartShownOf(u"x"),
+                              chartPrintedOf(u"x"),
+                              GroundPicture,
+                              GroundCentred,
+                              GroundColour,
+                              MapEdited,
+                              MapFailed,
+                              MapCustomer,
+                              MapFile,
+                              MapPrintName,
+                              MapPrintAddress,
+                              MapPrintTel,
+                              MapPrintFile})
+    tell(each);
+  for (const Setting& note : OcrNotes) tell(note);
+  EXPECT_EQ(told.join(u'\n').toStdString(),
+            tests::textOf(HAEON_TEST_DATA "/store/settings.txt").trimmed().toStdString());
 }
 
 TEST(Options, ANewNameGetsItsRowAndAnApostropheIsTold) {

@@ -15,6 +15,18 @@ TEST(Vb, WholeNumbersTakeTheEvenOneAndTellWhatDoesNotFit) {
   EXPECT_EQ(vb::CInt(32767.4), 32767);
   EXPECT_EQ(failureOf([] { vb::CInt(32767.5); }), 6);
   EXPECT_EQ(vb::CLng(-2147483648.5), -2147483648LL);
+  EXPECT_EQ(vb::CLng(2147483647.4), 2147483647);
+  EXPECT_EQ(failureOf([] { vb::CLng(-2147483649.0); }), 6);
+  EXPECT_EQ(vb::CInt(-32768.5), -32768);
+  EXPECT_EQ(failureOf([] { vb::CInt(-32769); }), 6);
+  EXPECT_EQ(vb::CInt(u"1,234.5"), 1234);
+  for (const double most : {922337203685477.0, -922337203685477.0}) {
+    EXPECT_EQ(vb::CCur(most), most);
+    EXPECT_EQ(failureOf([&] { vb::CCur(most + std::copysign(1, most)); }), 6);
+  }
+  EXPECT_TRUE(vb::IsNumeric(u"(1,234)"));
+  EXPECT_FALSE(vb::IsNumeric(u"12kg"));
+  EXPECT_EQ(vb::CStr(0.1 + 0.2), "0.3");
   EXPECT_EQ(failureOf([] { vb::CLng(2147483648.0); }), 6);
   EXPECT_EQ(failureOf([] { vb::CLng(std::numeric_limits<double>::quiet_NaN()); }), 6);
   EXPECT_EQ(failureOf([] { vb::CLng(u"12kg"); }), 13);
@@ -30,16 +42,36 @@ TEST(Vb, DatesAreReadInTheShortDatesOrder) {
   const std::pair<QDate, QStringList> written[] = {
       {{2026, 11, 24}, {"2026-11-24", "2026.11.24", "2026년 11월 24일", "11-24-2026", "2026-11-24 09:30:00"}},
       {{2026, 1, 2}, {"2026/1/2", "2026.1-2", " 26-01-02 "}},
-      {{2029, 1, 1}, {"29-1-1"}},
+      {{2029, 1, 1}, {"29-1-1", "2029-1-1 23:59:59", "2029-1-1 9:5", "1-1-2029"}},
+      {{100, 1, 1}, {"100-1-1"}},
       {{1930, 1, 1}, {"30-1-1"}},
       {{2024, 11, 24}, {"11-24"}},
       {{2024, 2, 29}, {"2-29"}},
       {{2024, 3, 5}, {"3월 5일"}}};
   for (const auto& [day, texts] : written)
     for (const QString& text : texts) EXPECT_EQ(vb::CDate(text, 2024), day) << text.toStdString();
-  for (const char* text :
-       {"", "24", "20261124", "2026-13-01", "2026-02-30", "02-30", "13-01", "0-5", "a-1", "1-2-3-4",
-        "2026--1", "2026-11", "-11-24", "2026-1-2x", "2026-11-24 25:00", "0001-01-01", "  -  ", "내일"}) {
+  for (const char* text : {"",
+                           "24",
+                           "20261124",
+                           "2026-13-01",
+                           "2026-02-30",
+                           "02-30",
+                           "13-01",
+                           "0-5",
+                           "a-1",
+                           "1-2-3-4",
+                           "2026--1",
+                           "2026-11",
+                           "-11-24",
+                           "2026-1-2x",
+                           "2026-11-24 25:00",
+                           "0001-01-01",
+                           "099-1-1",
+                           "2026-11-24 24:00",
+                           "2026-11-24 9:60",
+                           "20261-1-1",
+                           "  -  ",
+                           "내일"}) {
     EXPECT_FALSE(vb::IsDate(QString::fromUtf8(text), 2026)) << text;
   }
 }
