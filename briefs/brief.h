@@ -115,7 +115,8 @@ struct BriefChart {
   int label = 0;                 ///< column, from 1
   std::vector<int> series = {};  ///< columns, from 1
   bool byLabel = false;          ///< rows of one label are one
-  int most = 0;  ///< only so many rows, the largest of the first series; 0 for all in their order
+  int most = 0;   ///< only so many rows, the largest of the first series; 0 for all in their order
+  int apart = 0;  ///< column that parts rows of one label, from 1, as customers share names; 0 for none
 };
 
 struct BriefPanel {

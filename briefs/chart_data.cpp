@@ -55,10 +55,11 @@ ChartData chartData(const BriefChart& chart, const std::vector<BriefColumn>& col
   QHash<QString, qsizetype> places;
   for (const BriefCells& row : rows) {
     const QString& label = row[size_t(chart.label - 1)];
-    const auto found = chart.byLabel ? places.constFind(label) : places.constEnd();
+    const QString key = chart.apart ? label + u'\n' + row[size_t(chart.apart - 1)] : label;
+    const auto found = chart.byLabel ? places.constFind(key) : places.constEnd();
     const qsizetype at = found == places.constEnd() ? data.labels.size() : *found;
     if (at == data.labels.size()) {
-      places.insert(label, at);
+      places.insert(key, at);
       data.labels << label;
       for (std::vector<double>& values : data.series) values.push_back(0);
     }

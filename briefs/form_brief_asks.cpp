@@ -304,6 +304,8 @@ void BriefAsks::put(const BriefAsk& ask) {
     const auto found = ask.answers.constFind(put.question->name);
     if (found == ask.answers.constEnd() || put.question->kind == AskKind::Check) continue;
     const bool byPlace = put.question->kind == AskKind::Options;
+    // What is typed for a customer who is not chosen yet stays: it is what the search begins with.
+    if (put.question->kind == AskKind::Client && found->code == 0) continue;
     const QString first = put.question->kind == AskKind::Client ? QString::number(found->code)
                           : byPlace                             ? QString::number(found->place)
                                                                 : found->text;

@@ -1,10 +1,16 @@
 #include "samples/form_words.h"
 
+#include <QAbstractBarSeries>
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBarCategoryAxis>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLegend>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -12,6 +18,8 @@
 #include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTextEdit>
+#include <QValueAxis>
+#include <QXYSeries>
 
 #include <algorithm>
 #include <vector>
@@ -88,6 +96,36 @@ void addActions(const QList<QAction*>& actions, const QString& indent, QStringLi
   }
 }
 
+/** Heading, the words along the axes, each series with its figures. */
+QStringList chartLines(const QChart& chart) {
+  QStringList lines{oneLine(chart.title()) + (chart.legend()->isVisible() ? u" legend"_s : QString())};
+  for (QAbstractAxis* axis : chart.axes()) {
+    if (auto* names = qobject_cast<QBarCategoryAxis*>(axis))
+      lines << u"  names: "_s + names->categories().join(u" | "_s);
+    if (const auto* figures = qobject_cast<const QValueAxis*>(axis))
+      lines << u"  figures: %1 to %2 in %3 marks, %4"_s.arg(figures->min(), 0, 'f', 0)
+                   .arg(figures->max(), 0, 'f', 0)
+                   .arg(figures->tickCount())
+                   .arg(figures->titleText());
+  }
+  const auto series = [&](const QString& name, const QAbstractSeries* of, auto&& figure, qsizetype count) {
+    const bool lying = of->type() == QAbstractSeries::SeriesTypeHorizontalBar;
+    QString line = u"  %1%2:"_s.arg(name, lying ? u" lying"_s : QString());
+    for (qsizetype at = 0; at < count; ++at) line += u" %1"_s.arg(double(figure(at)), 0, 'f', 2);
+    lines << line;
+  };
+  for (const QAbstractSeries* each : chart.series()) {
+    if (const auto* bars = qobject_cast<const QAbstractBarSeries*>(each))
+      for (const QBarSet* set : bars->barSets())
+        series(
+            set->label(), each, [&](qsizetype at) { return set->at(int(at)); }, set->count());
+    if (const auto* course = qobject_cast<const QXYSeries*>(each))
+      series(
+          course->name(), each, [&](qsizetype at) { return course->at(int(at)).y(); }, course->count());
+  }
+  return lines;
+}
+
 /** What one control says; empty for one that only holds others. */
 QStringList saidBy(const QWidget& control, bool whole) {
   if (const auto* label = qobject_cast<const QLabel*>(&control))
@@ -125,6 +163,8 @@ QStringList saidBy(const QWidget& control, bool whole) {
     for (int at = 0; at < list->count(); ++at) items << list->item(at)->text();
     return {items.join(u", "_s)};
   }
+  if (const auto* picture = qobject_cast<const QChartView*>(&control); picture && whole)
+    return chartLines(*picture->chart());
   if (const auto* grid = qobject_cast<const Spread*>(&control))
     return QStringList{u"%1 rows, at %2,%3"_s.arg(grid->model().MaxRows())
                            .arg(grid->activeRow())

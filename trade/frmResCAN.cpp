@@ -29,7 +29,7 @@ frmResCAN::frmResCAN(FormContext& context, QWidget* parent)
         total->setValue(empty->value() + full->value());
     });
   onKey(Qt::Key_F10, [this] { cans_.print(); });
-  setBottomLine(u"F10:인쇄  Esc:닫기"_s);
+  setBottomLine(u"F10:인쇄  Esc:목록으로"_s);
   start();
   attachSearch(*this, person, name, [person, &context] {
     const auto chosen = context.pickers.searchResponse();

@@ -207,6 +207,11 @@ TEST(ChartData, TakesItsFiguresFromTheRows) {
   EXPECT_EQ(chartData({BriefChart::Kind::Bars, "", 1, {2}}, columns, {{"가", "100000", ""}}).series[0],
             std::vector<double>{10});
   EXPECT_EQ(chartData({BriefChart::Kind::Bars, "", 1, {2}}, columns, {{"가", "-100000", ""}}).unit, "만원");
+  const BriefChart parted{
+      .kind = BriefChart::Kind::Bars, .label = 1, .series = {2}, .byLabel = true, .apart = 3};
+  EXPECT_EQ(chartData(parted, columns, {{"가", "1", "7"}, {"가", "2", "8"}, {"가", "4", "7"}}).series[0],
+            (std::vector<double>{5, 2}))
+      << "two customers of one name";
   EXPECT_TRUE(chartData({}, columns, rows).labels.isEmpty());
   EXPECT_TRUE(chartData({BriefChart::Kind::Bars, "", 1, {2}, false, 5}, columns, {}).labels.isEmpty());
 }

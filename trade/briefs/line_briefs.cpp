@@ -159,6 +159,7 @@ Brief utilClientBrief() {
                      .label = 1,
                      .series = {6},
                      .byLabel = true,
-                     .most = 12},
+                     .most = 12,
+                     .apart = 10},
            .behind = clientBehind}}};
 }
