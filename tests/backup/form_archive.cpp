@@ -117,12 +117,75 @@ TEST_F(ArchiveForm, AWrongArchiveAndAServerThatIsNotThereAreTold) {
   EXPECT_EQ(name(), "김가네");
 }
 
+TEST_F(ArchiveForm, ServerSupportFolderAndSettingsHaveAButtonEach) {
+  pc.settings.SaveSetting("Backup", "설정", "서버폴더", "Z:\\백업");
+  QDir().mkpath(folder.path() + "/z");
+  QStringList opened;
+  pc.process.setStarter([&](const QString&, const QStringList& arguments, const QString&) {
+    opened << arguments.join(' ');
+    return opened.size() < 3;
+  });
+  writeFile(pc.paths.native(session.DbPath + "other.mdb"), "another program's");
+  backup::FrmArchive form(pc, prompts);
+  tests::show(form);
+  const auto press = [&](const char* button) { part<QPushButton>(form, button)->click(); };
+  EXPECT_EQ(part<QLabel>(form, "pnlShelf")->text(), "C:\\RWGas\\BackUp\\   (최근 10개를 보관)");
+  EXPECT_EQ(part<QPushButton>(form, "btnServer")->toolTip(), "");
+  prompts.expect("\n서버 폴더: Z:\\백업\\\n이 프로그램의 자료가 아닌 파일도 그대로 담았습니다: other.mdb");
+  press("btnServer");
+  auto* grid = part<Spread>(form, "SpArchive");
+  EXPECT_TRUE(prompts.seen.last().contains("\n파일 6개, ")) << prompts.seen.last().toStdString();
+  ASSERT_EQ(grid->model().MaxRows(), 2);
+  EXPECT_EQ(grid->model().text(1, 3) + grid->model().text(2, 3), "이 PC서버");
+  EXPECT_EQ(grid->model().text(2, 4), "Z:\\백업\\" + shelf().first());
+  for (const char* restore : {"btnRestore", ""}) {
+    prompts.expect("되돌릴 폴더: C:\\RWGas\\Dbs\\\n", false);
+    *restore ? press(restore) : grid->doubleClicked(2, 1);
+  }
+  EXPECT_FALSE(form.restored());
+  prompts.expect("백업을 마쳤습니다.");
+  press("btnSupport");
+  EXPECT_EQ(shelf().filter("-AS-").size(), 1);
+  EXPECT_EQ(grid->model().MaxRows(), 2) << "it stands in no list of what can be put back";
+  press("btnFolder");
+  EXPECT_EQ(opened, QStringList(2, pc.paths.native("C:\\RWGas\\BackUp\\")));
+  prompts.expect("폴더를 여는 프로그램이 없습니다.\n");
+  press("btnFolder");
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    auto* const box = dynamic_cast<backup::FrmArchiveSettings*>(QApplication::activeModalWidget());
+    if (!box) return;
+    look.stop();
+    part<QSpinBox>(*box, "numKeep")->setValue(3);
+    part<QLineEdit>(*box, "txtServer")->clear();
+    part<QPushButton>(*box, "btnSave")->click();
+  });
+  look.start(10);
+  press("btnSettings");
+  EXPECT_EQ(part<QLabel>(form, "pnlShelf")->text(), "C:\\RWGas\\BackUp\\   (최근 3개를 보관)");
+  EXPECT_EQ(part<QPushButton>(form, "btnServer")->toolTip(),
+            "[설정]에서 서버 폴더나 서버 명령을 먼저 정하십시오.");
+  EXPECT_EQ(grid->model().MaxRows(), 1);
+  QFile file(pc.paths.native(session.DbPath + "dbTax.mdb"));
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  file.seek(4096);
+  file.write(QByteArray(4096, '\xff'));
+  file.close();
+  prompts.expect("자료 파일이 손상되어 백업을 마치지 않았습니다: dbTax.mdb\n");
+  press("btnBackUp");
+  prompts.expect("\n손상된 자료 파일이 있습니다: dbTax.mdb");
+  press("btnSupport");
+}
+
 TEST_F(ArchiveForm, SettingsAreCheckedBeforeTheyAreSaved) {
   backup::FrmArchiveSettings form(pc, prompts);
   tests::show(form);
   tests::grab(form, "FrmArchiveSettings");
+  EXPECT_EQ(part<QLineEdit>(form, "txtFolder")->text(), "C:\\RWGas\\BackUp\\");
+  EXPECT_EQ(part<QSpinBox>(form, "numKeep")->value(), 10);
+  EXPECT_TRUE(part<QCheckBox>(form, "chkRemind")->isChecked());
   auto* save = part<QPushButton>(form, "btnSave");
-  part<QLineEdit>(form, "txtFolder")->clear();
+  part<QLineEdit>(form, "txtFolder")->setText(" ");
   prompts.expect("백업 폴더를 입력하십시오.");
   save->click();
   part<QLineEdit>(form, "txtFolder")->setText("D:\\보관");
