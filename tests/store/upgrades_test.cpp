@@ -68,6 +68,7 @@ TEST_F(Upgrades, PostCodesAreMadeAnewOnceUnlessTheyAreWideOrDone) {
   here.pc.settings.SaveSetting("해온판매", "Registration", "PostC", "");
   here.prompts.expect("잠시만 기다려 주십시오.\n\n우편번호를 개정판으로 업그레이드 합니다.");
   upgrades::rebuildPostCodes(session, basic, post);
+  EXPECT_TRUE(here.prompts.seen.last().startsWith("우편번호 업그레이드|"));
   EXPECT_EQ(here.pc.settings.GetSetting("해온판매", "Registration", "PostC"), "ok");
   jet::Recordset rs = basic.OpenRecordset("Select * From PostCode Order By PostCode");
   QStringList rows;
