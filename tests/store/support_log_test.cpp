@@ -10,6 +10,8 @@
 
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct SupportLog : testing::Test {
@@ -83,6 +85,34 @@ TEST_F(SupportLog, RowsWrittenBackAndFilesThatDoNotOpenAreNamedToo) {
   }
 }
 
+TEST(StatementShape, KeepsTheLanguagesWordsAndOursAndHidesTheRest) {
+  const std::pair<const char*, const char*> shapes[] = {
+      {"Select Name From Client Where Code = 5", "Select Name From Client Where Code = ?"},
+      {" select  left(Name, 2)\n\tfrom client; ", "select left(Name, ?) from client;"},
+      {"Where Name = 'O''Neil' Or Tel Like \"053*\" And AppDate >= #2026-03-02#",
+       "Where Name = ? Or Tel Like ? And AppDate >= ?"},
+      {"Where Name = 'open Client", "Where Name = ?"},
+      {"Values(1.5, -3, Geheim, 김가네, a_1)", "Values(?.?, -?, ?, ?, ?)"},
+      {"Set Memo = 'a' & 'b', Trust = Trust*2+1/3^4!", "Set Memo = ? & ?, Trust = Trust*?+?/?^?!"},
+      {"Client % @ {Client} Name", "Client ? ? ?Client? Name"},
+      {"[Client].[Name] [비밀] [Client", "[Client].[Name] [?] [?]"},
+      {"[C:\\RWGas\\Dbs\\Basic.mdb].Client [BASIC.MDB] [/mnt/x/2026foundation.mdb]",
+       "[Basic.mdb].Client [BASIC.MDB] [2026foundation.mdb]"},
+      {"[xBasic.mdb] [Basic.mdb2] [20260Foundation.mdb] [C:\\김가네.mdb]", "[?] [?] [?] [?]"},
+      {"[dbTax.mdb] [OLDdbCashbook.mdb] [Print.mdb] [InOutCash.mdb] [PeriodInOut.mdb] [PerMonthly.mdb] "
+       "[LedgerList.mdb]",
+       "[dbTax.mdb] [OLDdbCashbook.mdb] [Print.mdb] [InOutCash.mdb] [PeriodInOut.mdb] [PerMonthly.mdb] "
+       "[LedgerList.mdb]"},
+      {"[dbA.mdb] [dbAb.mdb] [dbAbcdefghijkl.mdb] [dbAbcdefghijklm.mdb]",
+       "[?] [dbAb.mdb] [dbAbcdefghijkl.mdb] [?]"},
+      {"", ""}};
+  for (const auto& [sql, shape] : shapes)
+    EXPECT_EQ(support::statementShape(QString::fromUtf8(sql)).toStdString(), shape) << sql;
+  for (const int names : {119, 120, 121})
+    EXPECT_EQ(support::statementShape(QString("Name,").repeated(names)).size(), std::min(names, 120) * 5)
+        << names;
+}
+
 // Whatever the forms run, and wherever a careless apostrophe falls.
 TEST(StatementShape, NoHangulAndNoNumberOfAnyStatementInUseGetsThrough) {
   QFile file(HAEON_TEST_DATA "/jet/statements_in_use.txt");
@@ -135,6 +165,15 @@ TEST_F(SupportLog, NothingThatHappensToTheFileIsAFailure) {
 #endif
   support::noteError(here.pc, "frmSale", error);
   EXPECT_EQ(lines().size(), 1);
+  QStringList windows;
+  for (const QString& window : {u"FrmSale_2"_s, u"frm"_s + QString(40, u'x'), u"frm"_s + QString(41, u'x'),
+                                u"frm"_s, u"Sale"_s, u"xfrmSale"_s, u"frmSale x"_s}) {
+    support::noteError(here.pc, window, jet::Error(482, "Kim's printer"));
+    windows << lines().last().section(u' ', 3);
+  }
+  const QString told = " 482 프린터 오류 | - | -";
+  EXPECT_EQ(windows, (QStringList{"FrmSale_2" + told, "frm" + QString(40, u'x') + told, "-" + told,
+                                  "-" + told, "-" + told, "-" + told, "-" + told}));
 }
 
 TEST_F(SupportLog, AStartWithoutAnEndBeforeItTellsOfACrash) {
