@@ -212,6 +212,9 @@ TEST(RowStore, AColumnWidensWithoutLosingAValue) {
   const qint64 narrow = 2147483647, exact = 9007199254740992;
   const std::vector<jet::Value> plain{{}, 1, qint64(5000000000), {}, 2.5, "글", 7, "", -1};
   for (const std::vector<jet::Value>& values : {plain,
+                                                {1, 2.5},
+                                                {1, "x", {}},
+                                                {{}, 0.5, 1},
                                                 {2.5, narrow, exact, exact + 1},
                                                 {narrow, narrow + 1, -narrow - 1, -narrow - 2, 0.5},
                                                 {exact + 1, 0.5},
