@@ -19,6 +19,7 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace tests;
 using backup::Series;
 

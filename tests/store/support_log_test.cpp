@@ -109,8 +109,7 @@ TEST(StatementShape, KeepsTheLanguagesWordsAndOursAndHidesTheRest) {
   for (const auto& [sql, shape] : shapes)
     EXPECT_EQ(support::statementShape(QString::fromUtf8(sql)).toStdString(), shape) << sql;
   for (const int names : {119, 120, 121})
-    EXPECT_EQ(support::statementShape(QString("Name,").repeated(names)).size(), std::min(names, 120) * 5)
-        << names;
+    EXPECT_EQ(support::statementShape(u"Name,"_s.repeated(names)).size(), std::min(names, 120) * 5) << names;
 }
 
 // Whatever the forms run, and wherever a careless apostrophe falls.
