@@ -137,7 +137,10 @@ void frmHouseStyle::recordShown() {
        {boxes().name, static_cast<QLineEdit*>(boxes().floors), static_cast<QLineEdit*>(boxes().width)})
     box->setReadOnly(!fresh);
   boxes().side->setTitle(fresh ? u"호수 (저장하기 전에 고칠 수 있습니다)"_s : u"호수"_s);
-  for (QWidget* const box : {boxes().floor4, boxes().unit4}) box->setVisible(fresh);
+  for (QCheckBox* const box : {boxes().floor4, boxes().unit4}) {
+    box->setVisible(fresh);
+    if (!fresh) box->setChecked(true);  // a block that has gone meanwhile begins anew with all its numbers
+  }
   boxes().pressure->setEnabled(boxes().metered->isChecked());
   boxes().price->setEnabled(boxes().metered->isChecked());
   guard([this] { buildings().showUnits(boxes().sheet->boxes()); });

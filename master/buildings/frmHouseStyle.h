@@ -24,7 +24,7 @@ class frmHouseStyle : public RegisterForm {
     Spread* units = nullptr;
     QLineEdit *name = nullptr, *dong = nullptr, *post = nullptr, *address = nullptr, *pressure = nullptr;
     MoneyBox *floors = nullptr, *width = nullptr, *price = nullptr;
-    QWidget *floor4 = nullptr, *unit4 = nullptr;
+    QCheckBox *floor4 = nullptr, *unit4 = nullptr;
     QCheckBox* metered = nullptr;
   };
 
