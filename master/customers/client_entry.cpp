@@ -58,8 +58,9 @@ RegisterFields clientLabels() {
 ClientEntry readClient(const jet::Recordset& client) {
   ClientEntry entry;
   for (const auto& [column, label, text] : clientTexts) entry.*text = client[column].toText();
-  entry.gasInit = typedNumber(entry.gasInit);
-  entry.utilInit = typedNumber(entry.utilInit);
+  // A balance that was never entered stays empty: what is added to it then starts at 0.
+  for (QString* const balance : {&entry.gasInit, &entry.utilInit})
+    if (!balance->isEmpty()) *balance = typedNumber(*balance);
   entry.code = client["Code"].toLong();
   entry.houseStyle = HouseStyle(qBound(0, int(client["HouseStyle"].toLong()), 2));
   entry.payWay = PayWay(qBound(1, int(client["PayWay"].toLong()), 3));
