@@ -17,6 +17,8 @@
 #include "tests/answers.h"
 #include "tests/support.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace Qt::StringLiterals;
