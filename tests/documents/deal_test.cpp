@@ -328,10 +328,16 @@ TEST_F(Deals, FullA4DrawsTheFormUnderItsTexts) {
   EXPECT_EQ(job.at(1, 3.37, lower + 0.51)->text, "(공급받는자 보관용)");
   for (const double edge : {upper, lower}) {
     EXPECT_TRUE(hasBox(job, edge, 0.68, 0.78, 7.5, 5.2));
-    for (const double y : {2.12, 2.56, 2.80})
-      EXPECT_TRUE(hasLine(job, 0.68, edge + y, 7.5, edge + y)) << "parties, balance, header: " << y;
-    for (int item = 1; item < 14; ++item)
-      EXPECT_TRUE(hasLine(job, 0.68, edge + 2.80 + item * row, 7.5, edge + 2.80 + item * row)) << item;
+    expectLines(job, edge, false, {2.12, 2.56, 2.80}, 0.68, 7.5, 1);  // parties, balance, header
+    expectLines(job, edge, false, {1.06, 1.42, 1.78}, 0.98, 3.90);
+    expectLines(job, edge, false, {1.06, 1.42, 1.78}, 4.20, 7.5);
+    expectLines(job, edge, true, {0.98, 4.20}, 0.78, 2.12);
+    expectLines(job, edge, true, {3.90}, 0.78, 2.12, 1);
+    expectLines(job, edge, true, {2.60, 6.10}, 1.06, 1.42);
+    expectLines(job, edge, true, {2.51, 5.91}, 1.78, 2.12);
+    expectLines(job, edge, true, {3.40, 5.40}, 2.12, 2.56);
+    expectLines(job, edge, true, {1.50, 3.45, 3.95, 4.90, 5.95, 6.88}, 2.56, 5.2);
+    for (int item = 1; item < 14; ++item) expectLines(job, edge, false, {2.80 + item * row}, 0.68, 7.5, 0.25);
   }
   const char* const texts = R"(
 2.9: 18=2026|27=03|33=31

@@ -101,11 +101,20 @@ struct DocumentDesk : testing::Test {
                                     }),
               words);
   }
-  static bool hasLine(const RecordedJob& job, double x, double y, double x2, double y2) {
+  static bool hasLine(const RecordedJob& job, double x, double y, double x2, double y2, double points = 0) {
     return std::ranges::any_of(job.items, [&](const auto& item) {
       return item.kind == PrintedItem::Line && qAbs(item.x - x) < 0.001 && qAbs(item.y - y) < 0.001 &&
-             qAbs(item.x2 - x2) < 0.001 && qAbs(item.y2 - y2) < 0.001;
+             qAbs(item.x2 - x2) < 0.001 && qAbs(item.y2 - y2) < 0.001 &&
+             (points == 0 || item.weight == points);
     });
+  }
+  /** Lines across at these heights, or upright at these places, each from one end to the other; below an edge. */
+  static void expectLines(const RecordedJob& job, double edge, bool upright,
+                          std::initializer_list<double> places, double from, double to, double points = 0.5) {
+    for (const double at : places)
+      EXPECT_TRUE(upright ? hasLine(job, at, edge + from, at, edge + to, points)
+                          : hasLine(job, from, edge + at, to, edge + at, points))
+          << (upright ? "upright at " : "across at ") << at << " from " << from;
   }
   /** All lines of a box, below an edge. */
   static bool hasBox(const RecordedJob& job, double edge, double x, double y, double x2, double y2) {

@@ -550,6 +550,25 @@ TEST_F(Taxes, TheDrawnFormHasADigitACellAndBothColours) {
               "      54545"
               "      5455");
     EXPECT_TRUE(hasBox(job, edge, 0.68, 0.85, 7.5, 5.0));
+    expectLines(job, edge, false, {0.36, 0.60}, 5.25, 7.5);
+    expectLines(job, edge, true, {5.25, 5.67, 7.5}, 0.36, 0.85);
+    expectLines(job, edge, false, {1.28, 1.68, 2.03}, 0.86, 3.90);
+    expectLines(job, edge, false, {1.28, 1.68, 2.03}, 4.09, 7.5);
+    expectLines(job, edge, true, {0.86, 4.09}, 0.85, 2.38);
+    expectLines(job, edge, true, {3.90}, 0.85, 2.38, 1);
+    expectLines(job, edge, true, {2.57, 6.03}, 1.28, 1.68);
+    expectLines(job, edge, true, {2.54, 5.97}, 2.03, 2.38);
+    expectLines(job, edge, false, {2.58}, 0.68, 1.79 + 24 * cell);
+    expectLines(job, edge, false, {2.77}, 0.68, 1.79 + 24 * cell, 0.25);
+    expectLines(job, edge, true, {1.18, 1.47}, 2.58, 3.05, 0.25);
+    expectLines(job, edge, true, {1.79}, 2.38, 3.05);
+    expectLines(job, edge, false, {2.38, 3.05, 4.50}, 0.68, 7.5, 1);
+    expectLines(job, edge, false, {3.30}, 0.68, 7.5);
+    expectLines(job, edge, false, {3.60, 3.90, 4.20}, 0.68, 7.5, 0.25);
+    expectLines(job, edge, true, {1.115}, 3.30, 4.50, 0.25);
+    expectLines(job, edge, true, {1.30, 3.50, 4.15, 4.96, 6.08, 6.95}, 3.05, 4.50);
+    expectLines(job, edge, false, {4.72}, 0.68, 6.10);
+    expectLines(job, edge, true, {2.27, 3.20, 4.10, 5.02, 6.10}, 4.50, 5.0);
     for (int number = 3; number <= 24; ++number) {
       const bool begins = number == 14 || number == 24;
       const double x = 1.79 + number * cell;
