@@ -35,7 +35,7 @@ class ScriptedPrompts : public Prompts {
   void MsgInfo(const QString& text, const QString& title) override { next(text, title); }
   void MsgWarn(const QString& text, const QString& title) override { next(text, title); }
   bool MsgAsk(const QString& text, const QString& title, bool yesFirst) override {
-    for (const char16_t* loss : {u"삭제하시겠습니까", u"지우시겠습니까", u"버리시겠습니까"})
+    for (const char16_t* loss : {u"삭제하시겠습니까", u"지우시겠습니까", u"버리시겠습니까", u"복구 불가능"})
       EXPECT_FALSE(yesFirst && text.contains(loss)) << "stands on yes: " << text.toStdString();
     return next(text, title).yes;
   }

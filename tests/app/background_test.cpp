@@ -38,7 +38,9 @@ TEST_F(BackgroundTest, PictureIsTheDefaultTheChosenOrNone) {
 
 TEST_F(BackgroundTest, ColourIsWarnedOfOnlyWhileTiled) {
   EXPECT_TRUE(settings.load().tiled);
-  prompts.expect("가운데 배치 또는 로고를 없앨 경우만 적용됩니다.");
+  prompts.expect(
+      "로고가 타일형으로 배치되어 있으면 배경색이 적용되지 않습니다.\n가운데 배치 또는 로고를 없앨 경우만 "
+      "적용됩니다.");
   settings.warnColourHidden();
   settings.setTiled(false);
   settings.warnColourHidden();

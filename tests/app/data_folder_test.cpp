@@ -1,5 +1,6 @@
 #include "app/data_folder.h"
 
+#include "pc/network_drive.h"
 #include "tests/support.h"
 
 namespace {
@@ -64,6 +65,22 @@ TEST_F(DataFolderTest, AMappedShareIsADriveAndAFailureIsTold) {
   EXPECT_EQ(rules.folders("Z:\\"), QStringList{"Dbs"});
   prompts.expect("선택하신 경로가 유효하지 않거나 존재하지 않습니다.");
   EXPECT_EQ(drive.map(share + "/없음", "Y:"), "드라이브 연결이 실패되었습니다.");
+
+  const std::pair<int, const char*> told[] = {
+      {0, ""},
+      {5, "접근 불가"},
+      {85, "이미 연결되어 있는 경로입니다."},
+      {66, "장치 유형과 자원 유형이 일치하지 않습니다."},
+      {1200, "선택하신 경로가 유효하지 않습니다."},
+      {67, "선택하신 경로가 유효하지 않거나 존재하지 않습니다."},
+      {1206, "사용자 프로파일을 열 수 없습니다."},
+      {1205, "사용자 프로파일을 열 수 없습니다."},
+      {1202, "선택하신 경로가 이미 다른 사용자 프로파일에서 사용중입니다."},
+      {86, "사용자 암호가 유효하지 않습니다."},
+      {1203, "네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다."},
+      {1222, "네트워크가 존재하지 않습니다."},
+      {1208, "네트워크 상에 오류가 발생했습니다."}};
+  for (const auto& [failure, text] : told) EXPECT_EQ(pc::networkFailureText(failure), text) << failure;
 }
 
 }  // namespace

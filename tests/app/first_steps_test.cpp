@@ -42,7 +42,9 @@ TEST_F(FirstStepsTest, APostcodeFileIsTakenWholeOrNotAtAll) {
   }
   tests::writeFile(postFile("text.mdb"), "702-701;장터동");
   for (const char* wrong : {"empty.mdb", "text.mdb", "missing.mdb"})
-    EXPECT_NE(road.takePostCodes(postFile(wrong)), "") << wrong;
+    EXPECT_EQ(road.takePostCodes(postFile(wrong)),
+              "우편번호가 들어 있는 파일이 아닙니다. 다른 프로그램의 파일은 쓸 수 없습니다.")
+        << wrong;
   EXPECT_EQ(done(), "-----");
   EXPECT_EQ(road.takePostCodes(postFile("full.mdb")), "");
   EXPECT_EQ(done(), "----x");
@@ -52,7 +54,8 @@ TEST_F(FirstStepsTest, APostcodeFileIsTakenWholeOrNotAtAll) {
 
   // Where the file cannot be replaced the old one stays.
   ASSERT_TRUE(QFile::remove(own) && QDir().mkpath(own + "/in use"));
-  EXPECT_NE(road.takePostCodes(postFile("full.mdb")), "");
+  EXPECT_EQ(road.takePostCodes(postFile("full.mdb")),
+            "우편번호 파일을 자료 폴더에 넣지 못했습니다. 쓰기 권한과 디스크의 남은 공간을 확인하십시오.");
   EXPECT_FALSE(QFile::exists(own + ".new"));
 }
 

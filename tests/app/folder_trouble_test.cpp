@@ -22,6 +22,8 @@ struct FolderTroubleTest : testing::Test {
     return startUp.SubMain([this] { startUp.load(); });
   }
   Kind why() { return whyNotStarted(session).kind; }
+  QString headline() { return whyNotStarted(session).headline; }
+  QString advice() { return whyNotStarted(session).advice; }
   QString root(const QString& name) { return here.folder.filePath(name); }
 };
 
@@ -29,7 +31,8 @@ TEST_F(FolderTroubleTest, TheDriveTheShareOrTheFolderIsNamedAndNothingIsMade) {
   choose("D:\\가게\\DBS\\");
   EXPECT_FALSE(start()) << "no such drive, and no question about a new one";
   EXPECT_EQ(why(), Kind::NoDrive);
-  EXPECT_TRUE(whyNotStarted(session).headline.startsWith("D: "));
+  EXPECT_EQ(headline(), "D: 드라이브가 없습니다.");
+  EXPECT_TRUE(advice().endsWith("외장 디스크라면 꽂은 뒤 [다시 시도]를 누르십시오."));
   EXPECT_FALSE(QFileInfo::exists(root("d")));
 
   ASSERT_TRUE(QDir().mkpath(root("pc1/RWGas")));
@@ -38,17 +41,21 @@ TEST_F(FolderTroubleTest, TheDriveTheShareOrTheFolderIsNamedAndNothingIsMade) {
   choose("Z:\\DBS\\");
   EXPECT_FALSE(start());
   EXPECT_EQ(why(), Kind::Network);
-  EXPECT_TRUE(whyNotStarted(session).headline.contains(root("pc1/RWGas")));
+  EXPECT_EQ(headline(), "네트워크 드라이브 Z: (" + root("pc1/RWGas") + ")에 연결할 수 없습니다.");
   EXPECT_FALSE(QFileInfo::exists(root("pc1")));
 
   ASSERT_TRUE(QDir().rename(root("pc1 is off"), root("pc1")));
   here.prompts.expect("자료 파일을 새로 만드시겠습니까?", false);
   EXPECT_FALSE(start()) << "the share is back, its folder is not";
   EXPECT_EQ(why(), Kind::NoFolder);
+  EXPECT_EQ(headline(), "자료 폴더가 없습니다.");
   ASSERT_TRUE(QDir().mkpath(root("pc1/RWGas/DBS")));
   here.prompts.expect("자료 파일을 새로 만드시겠습니까?", false);
   EXPECT_FALSE(start());
   EXPECT_EQ(why(), Kind::NoData);
+  EXPECT_EQ(headline(), "자료 폴더에 자료 파일이 없습니다.");
+  EXPECT_EQ(advice(),
+            "자료가 있는 폴더를 [다른 폴더]에서 고르거나, 백업에서 되살린 뒤 [다시 시도]를 누르십시오.");
   here.prompts.expect("자료 파일을 새로 만드시겠습니까?");
   EXPECT_TRUE(start()) << "the same program goes on";
   EXPECT_TRUE(startUp.ready());
@@ -62,6 +69,8 @@ TEST_F(FolderTroubleTest, TheDriveTheShareOrTheFolderIsNamedAndNothingIsMade) {
   writeFile(root("pc1/RWGas/DBS"));
   EXPECT_FALSE(start());
   EXPECT_EQ(why(), Kind::NoAccess);
+  EXPECT_EQ(headline(), "자료 폴더의 자리에 폴더가 아닌 파일이 있습니다.");
+  EXPECT_EQ(advice(), "폴더의 공유와 이 PC의 사용 권한을 확인한 뒤 [다시 시도]를 누르십시오.");
 }
 
 TEST_F(FolderTroubleTest, AStepThatFailsIsToldAndTheStartMayBeTriedAgain) {
@@ -73,6 +82,8 @@ TEST_F(FolderTroubleTest, AStepThatFailsIsToldAndTheStartMayBeTriedAgain) {
   here.prompts.expect("프로그램 시작 중 오류가 발생하여 종료합니다.");
   EXPECT_FALSE(start());
   EXPECT_EQ(why(), Kind::Told);
+  EXPECT_EQ(headline(), "자료 폴더에서 시작하지 못했습니다.");
+  EXPECT_EQ(advice(), "앞에서 알린 까닭을 바로잡은 뒤 [다시 시도]를 누르거나, [다른 폴더]를 고르십시오.");
   ASSERT_TRUE(QDir().rmdir(basic));
   ASSERT_TRUE(QFile::rename(basic + ".away", basic));
   EXPECT_TRUE(start());

@@ -50,7 +50,7 @@ TEST_F(FrameRulesTest, RebuildWritesThirteenMonthsOfEachMeteredCustomerAndStumbl
 TEST_F(FrameRulesTest, HiddenClearingStartsAtTheGivenCode) {
   rebuildBookRows(session);
   session.dbYear.Execute("Update Evaporation Set Total = 500");
-  prompts.expect("클리어된 데이터는 복구 불가능합니다.");
+  prompts.expect("체적데이터가 클리어됩니다. 클리어된 데이터는 복구 불가능합니다. 계속하시겠습니까?");
   prompts.expectInput("암호확인", "1357");
   prompts.expect("암호가 틀립니다.");
   clearBook(session, atOnce);

@@ -22,7 +22,9 @@ TEST_F(MoveInStart, OldFilesInTheDataFolderAreOfferedBeforeTheStart) {
   prompts.expect("이전 형식의 자료가 있습니다.", false);
   EXPECT_FALSE(offeredMoveIn(session));
   EXPECT_TRUE(started.isEmpty());
-  prompts.expect("이전 형식의 자료가 있습니다.");
+  prompts.expect(
+      "C:\\RWGas\\Dbs\\ 에 이전 형식의 자료가 있습니다.\n지금 가져오시겠습니까? 이전 파일은 그대로 "
+      "보관합니다.");
   EXPECT_TRUE(offeredMoveIn(session));
   EXPECT_EQ(started, (QStringList{"haeon-import", "--window", folder}));
 }

@@ -18,6 +18,9 @@ TEST(SeeIdLines, UnderstandsWhatUnitsSend) {
   EXPECT_EQ(heard("02123"), "") << "a read may end anywhere";
   EXPECT_EQ(heard("45678\r"), "2:0212345678");
   EXPECT_EQ(heard("NMBR=114\r119\r12\r"), "1:114 2:119 0:") << "an extension has three digits";
+  EXPECT_EQ(heard("(053) 123-4567\r" + QByteArray(20, '7') + '\r' + QByteArray(21, '7') + '\r'),
+            "2:0531234567 2:77777777777777777777 0:");
+  EXPECT_EQ(heard(QByteArray(73, ' ') + "0531234\r" + QByteArray(73, ' ') + "05312345\r"), "2:0531234");
   EXPECT_EQ(heard("NMBR=P\rNMBR=\rNAME=012\r"), "0: 0: 0:") << "withheld numbers carry none";
   EXPECT_EQ(heard(QByteArray("\xff\x00\x81", 3) + "0531234567\r"), "0:") << "noise before a number spoils it";
   EXPECT_EQ(heard(QByteArray(100000, '7') + "\r0531234567\r"), "2:0531234567")
@@ -88,6 +91,9 @@ TEST_F(CallerTest, AFailedPortIsToldAndTheNextGoesOn) {
   EXPECT_EQ(caller.ports(), (std::array<QString, 2>{"4", "0"})) << "a text is stored as its value";
   EXPECT_EQ(first.asked.last(), "open COM4");
   EXPECT_FALSE(second.isOpen());
+  first.broken = true;
+  prompts.expect("포트 COM1으로 SEE ID CLOSE에 실패했습니다.");
+  caller.CloseSeeID();
 }
 
 TEST_F(CallerTest, ACallGoesToTheFormInFrontElseIntoTheList) {

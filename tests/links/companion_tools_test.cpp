@@ -90,13 +90,22 @@ TEST_F(CompanionTools, TheMenuHandsOverTheDataFolder) {
 TEST_F(CompanionTools, TheOldCashBookIsConvertedOnce) {
   EXPECT_TRUE(ConvCashBook(session, folder, oldFile)) << "a fresh install";
   makeOld();
-  prompts.expect("현금출납장 DB가 업데이트 되었습니다.");
-  prompts.expect("신버전 DB를 찾을 수 없습니다.");
+  prompts.expect(
+      "현금출납장 DB가 업데이트 되었습니다.\n신버전으로 교체작업이 진행 될 것이며,\n"
+      "등록된 자료의 양에 따라 다소 시간이 걸릴 수도 있습니다.");
+  prompts.expect(
+      "현금출납장 신버전 DB를 찾을 수 없습니다.\n재설치를 하지 않은 경우 재설치를 하여 주시고,\n"
+      "재설치를 한 경우 [1600-0000]로 문의 바랍니다.");
   EXPECT_FALSE(ConvCashBook(session, folder, oldFile));
   makeNew();
   prompts.expect("현금출납장 DB가 업데이트 되었습니다.");
-  prompts.expect("[잔액 재정리]를 실행하여 주세요.");
+  prompts.expect(
+      "현금출납장 DB 업그레이드가 완료 되었습니다.\n곧 뜨게 될 신버전 현금출납장에서 최초 한번만 아래 "
+      "설명대로 "
+      "[잔액 재정리] 처리를 해 주세요.\n\n[잔액 재정리 방법]\n"
+      " 현금출납장 프로그램 메뉴상의 [도구] - [잔액 재정리]를 실행하여 주세요.");
   EXPECT_TRUE(ConvCashBook(session, {}, oldFile)) << "an empty folder is the program's own";
+  EXPECT_TRUE(prompts.seen.last().startsWith("현금출납장DB 업그레이드|"));
   EXPECT_EQ(accounts(), newAccounts);
   EXPECT_EQ(entries(), newEntries);
   EXPECT_FALSE(stands(oldFile));
@@ -113,7 +122,7 @@ TEST_F(CompanionTools, AFailureInTheMiddleLeavesTheOldFileAndTheNextStartGoesOnW
   book().Execute("Drop Table cashbook");  // a tool's file of another version
   put("C:\\RWGas\\CashPad");
   prompts.expect("현금출납장 DB가 업데이트 되었습니다.");
-  prompts.expect("현금출납장 DB를 신버전으로 바꾸지 못했습니다.");
+  prompts.expect("현금출납장 DB를 신버전으로 바꾸지 못했습니다. 다음에 시작할 때 이어서 합니다.");
   RunCashbook(session, folder, oldFile);
   EXPECT_TRUE(started.isEmpty());
   EXPECT_EQ(accounts(), newAccounts) << "rows copied so far stay";

@@ -24,6 +24,12 @@ namespace {
 using tests::whenModal;
 
 struct Boxes : ::testing::Test {
+  static QString buttons(const QWidget& box) {
+    QStringList words;
+    for (const auto* const button : static_cast<const QMessageBox&>(box).buttons()) words << button->text();
+    words.sort();
+    return words.join(u' ');
+  }
   MessageBoxes boxes{[] { return "해온판매"; }};
 };
 
@@ -32,6 +38,7 @@ TEST_F(Boxes, EmptyTitleBecomesTheProgramsOwn) {
   whenModal([&](QWidget& box) {
     title = box.windowTitle();
     text = static_cast<QMessageBox&>(box).text();
+    EXPECT_EQ(buttons(box), "확인");
     tests::grab(box, "box_info");
     QTest::keyClick(&box, Qt::Key_Return);
   });
@@ -67,6 +74,7 @@ TEST_F(Boxes, AnErrorIsNotedUnderTheInnermostFormBeforeItIsTold) {
 TEST_F(Boxes, EnterAnswersWithTheDefaultAndLettersAnswerBothWays) {
   const auto answer = [this](bool yesFirst, int key) {
     whenModal([key](QWidget& box) {
+      EXPECT_EQ(buttons(box), "아니오(&N) 예(&Y)");
       tests::grab(box, "box_ask");
       QTest::keyClick(&box, Qt::Key(key));
     });
@@ -77,11 +85,26 @@ TEST_F(Boxes, EnterAnswersWithTheDefaultAndLettersAnswerBothWays) {
   EXPECT_TRUE(answer(false, Qt::Key_Y));
   EXPECT_FALSE(answer(true, Qt::Key_N));
   EXPECT_FALSE(answer(true, Qt::Key_Escape));
+
+  const auto ofThree = [this](int key) {
+    whenModal([key](QWidget& box) {
+      EXPECT_EQ(buttons(box), "아니오(&N) 예(&Y) 취소(&C)");
+      QTest::keyClick(&box, Qt::Key(key));
+    });
+    return boxes.MsgYesNoCancel("저장하시겠습니까?", "체적관리자");
+  };
+  using Answer = Prompts::Answer;
+  EXPECT_EQ(ofThree(Qt::Key_Return), Answer::Cancel);
+  EXPECT_EQ(ofThree(Qt::Key_Escape), Answer::Cancel);
+  EXPECT_EQ(ofThree(Qt::Key_C), Answer::Cancel);
+  EXPECT_EQ(ofThree(Qt::Key_Y), Answer::Yes);
+  EXPECT_EQ(ofThree(Qt::Key_N), Answer::No);
 }
 
 TEST_F(Boxes, ErrorBoxTellsNumberAndText) {
   QString title, text;
   whenModal([&](QWidget& box) {
+    EXPECT_EQ(buttons(box), "확인");
     title = box.windowTitle();
     text = static_cast<QMessageBox&>(box).text();
     QTest::keyClick(&box, Qt::Key_Return);

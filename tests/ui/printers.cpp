@@ -135,8 +135,18 @@ TEST_F(PrintersTest, TheFileIsNamedByEnvironmentSettingOrOperator) {
 
 TEST_F(PrintersTest, WhatCannotBePrintedSaysSo) {
   qputenv("HAEON_PDF", (folder + "/no such folder/slip.pdf").toUtf8());
-  EXPECT_THROW(open(), pc::PrintError);
-  EXPECT_THROW(printers.open("없는 프린터", "시험", {}), pc::PrintError);
+  const auto told = [](const std::function<void()>& work) {
+    try {
+      work();
+    } catch (const pc::PrintError& error) {
+      return error.text;
+    }
+    return u"nothing"_s;
+  };
+  EXPECT_EQ(told([this] { open(); }), "인쇄를 시작할 수 없습니다. 프린터나 저장할 폴더를 확인하십시오.");
+  for (const QString name : {"없는 프린터", ""})
+    EXPECT_EQ(told([&] { printers.open(name, "시험", {}); }),
+              "프린터를 찾을 수 없습니다: " + (name.isEmpty() ? u"(설정 안 됨)"_s : name));
   EXPECT_EQ(missingPrintFonts(), QStringList()) << "the forms' fonts, or their stand-ins, are installed";
 }
 

@@ -128,6 +128,10 @@ TEST_F(ReportViewing, TheQuestionOffersTheLastPrinterAndAllPages) {
       auto* const to = box.findChild<QSpinBox*>("SpnLast");
       EXPECT_EQ(from->value(), 1);
       EXPECT_EQ(to->value(), to->maximum());
+      QStringList words;
+      for (const QLabel* const label : box.findChildren<QLabel*>()) words << label->text();
+      EXPECT_TRUE(words.contains("쪽부터")) << words.join(u'|').toStdString();
+      EXPECT_TRUE(words.contains(u"쪽까지  (전체 %1쪽)"_s.arg(to->maximum())));
       tests::grab(box, "frmReport-print");
       from->setValue(first);
       to->setValue(last);
