@@ -84,7 +84,8 @@ TEST_F(DataAccess, AddFieldRunsItsStatementOnceOnly) {
            field.defaultValue.toText();
   };
   EXPECT_EQ(made("T", jet::Type::Text, true, {}), "T 0 1 0");
-  EXPECT_EQ(made("U", jet::Type::Text, false, jet::Value()), "U 0 0 0");
+  const jet::Value null = DAO_GetValue(prompts, basic, u"Rate", u"Client", {});
+  EXPECT_EQ(made("U", jet::Type::Text, false, null), "U 0 0 0");
   EXPECT_EQ(made("V", jet::Type::Long, true, jet::Value(7)), "V 0 0 17")
       << "requires what it knows a value for";
   prompts.expect("[TABLE]: Nothing,    [FIELD]: x");
