@@ -142,7 +142,6 @@ class Player : public QObject {
     QFile file(script);
     if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read the script");
     for (const QString& line : QString::fromUtf8(file.readAll()).trimmed().split(u'\n')) read(line);
-    while (!steps_.empty() && !steps_.back()) steps_.pop_back();
   }
 
   QString play() {
