@@ -233,7 +233,7 @@ class Player : public QObject {
       leave();
       return;
     }
-    if (!QGuiApplication::focusWindow()) {
+    if (!handIsIn(front()->window())) {
       front()->window()->activateWindow();
       return;
     }
@@ -252,6 +252,11 @@ class Player : public QObject {
       boxes_.told << QString::fromUtf8(wrong.what());
     }
     --depth_;
+  }
+  /** A key pressed before a box has the hand would reach the window behind it, which is shut, and be lost. */
+  static bool handIsIn(const QWidget* window) {
+    const QWindow* const has = QGuiApplication::focusWindow();
+    return has && (!window->isModal() || QApplication::activePopupWidget() || has == window->windowHandle());
   }
   /** Windows that hold up whoever opened them. */
   static int standing() {
