@@ -139,14 +139,23 @@ TEST_F(BackupTest, OnlySoManyOfASeriesStayAndTwoOfOneSecondAreTwo) {
             (QStringList{nameOf(lost), made[3], made[4]}));
   backup::keepNewest(pc.paths, settings.folder, Series::Books, 0);
   EXPECT_EQ(shelf(), (QStringList{made[4], support, "해온판매-내것.zip"})) << "the newest never goes";
-  QStringList both;
-  for (const auto& each : backup::archivesOf(pc.paths, settings))
-    both << (each.onServer ? "server " : "here ") + each.made.toString("yyyy HH:mm ") +
-                QString::number(each.bytes == 5);
-  EXPECT_EQ(both, (QStringList{"here 2026 10:03 0", "server 2026 10:03 1", "server 2026 10:03 1",
-                               "server 2002 00:05 0"}));
+  const auto both = [&] {
+    QStringList all;
+    for (const auto& each : backup::archivesOf(pc.paths, settings))
+      all << (each.onServer ? "server " : "here ") + each.made.toString("yyyy HH:mm ") +
+                 QString::number(each.bytes == 5);
+    return all;
+  };
+  EXPECT_EQ(both(), (QStringList{"here 2026 10:03 0", "server 2026 10:03 1", "server 2026 10:03 1",
+                                 "server 2002 00:05 0"}));
+  // Wherever it lies the newest stands first; of one second this PC's.
+  const QString named = "해온판매-20260316-1%1.zip";
+  for (const char* made : {"10000", "30000"}) write(settings.serverFolder + named.arg(made), "older");
+  for (const char* made : {"05959", "20000", "30000"}) write(settings.folder + named.arg(made), "newer");
+  EXPECT_EQ(both().mid(0, 6), (QStringList{"here 2026 13:00 1", "server 2026 13:00 1", "here 2026 12:00 1",
+                                           "server 2026 11:00 1", "here 2026 10:59 1", "here 2026 10:03 0"}));
   settings.serverFolder = settings.folder;
-  EXPECT_EQ(backup::archivesOf(pc.paths, settings).size(), 1);
+  EXPECT_EQ(backup::archivesOf(pc.paths, settings).size(), 4);
 }
 
 TEST_F(BackupTest, WhatAKilledRunLeftLocksNobodyOutAndGoes) {
@@ -190,13 +199,26 @@ TEST_F(BackupTest, ADamagedDataFileEndsTheBackupButNotTheOneForSupport) {
   file.write(QByteArray(4096, '\xff'));
   file.close();
   write(dataFolder + "InOutCash.mdb", "another program's");
+  // A file put back alone, beside the journal of a later one: a header, and the first page at another change.
+  QByteArray journal = QByteArray::fromHex(
+      "d9d505f920a163d7"
+      "00000001"
+      "00000000"
+      "00000001"
+      "00000200"
+      "00001000");
+  QByteArray page = bytesOf(native(dataFolder + "dbPost.mdb")).first(4096);
+  page[26] = char(page[26] + 1);
+  journal = journal.leftJustified(512, '\0') + QByteArray::fromHex("00000001") + page + QByteArray(4, '\0');
+  write(dataFolder + "dbPost.mdb-journal", journal);
   const auto before = books();
   const auto [number, text] = failureOf([&] { make(); });
   EXPECT_EQ(number, 3049);
-  EXPECT_TRUE(text.contains("dbTax.mdb")) << text.toStdString();
+  EXPECT_TRUE(text.contains(": dbPost.mdb, dbTax.mdb\n")) << text.toStdString();
   EXPECT_EQ(shelf(), QStringList{good});
   const backup::BackupDone support = make(Series::Support);
-  EXPECT_THAT(support.damaged, testing::Contains("dbTax.mdb"));
+  EXPECT_THAT(support.damaged, testing::ElementsAre("dbPost.mdb", "dbTax.mdb"));
+  EXPECT_EQ(support.strange, QStringList{"InOutCash.mdb"});
   EXPECT_EQ(books(), before);
   const auto [again, why] = failureOf([&] { restore(support.archive); });
   EXPECT_EQ(again, 3049) << why.toStdString();
@@ -384,6 +406,12 @@ TEST_F(BackupTest, TheServersCopyIsReadBackAndItsCommandMustEndWell) {
   backup::sendToServer(pc, archive, settings, nobody);
   EXPECT_EQ(bytesOf(native(copy)), bytesOf(native(archive)));
   EXPECT_EQ(bytesOf(sent), bytesOf(native(archive)));
+  settings.serverCommand = "sh -c \"cp '%1' '" + sent + "-2' && cp '%1' '" + sent + "-3'\"";
+  settings.serverFolder.clear();
+  backup::sendToServer(pc, archive, settings, nobody);
+  EXPECT_EQ(bytesOf(sent + "-2") + bytesOf(sent + "-3"), bytesOf(native(archive)) + bytesOf(native(archive)))
+      << "within a word, and as often as it stands there";
+  settings.serverFolder = "Z:\\백업\\";
   settings.serverCommand = "sh -c \"echo 연결 실패; exit 3\" %1";
   QFile::remove(native(copy));
   const auto [number, text] = failureOf([&] { backup::sendToServer(pc, archive, settings, nobody); });

@@ -68,6 +68,9 @@ TEST_F(ArchiveForm, ABackupIsMadeListedAndPutBackByKeys) {
   EXPECT_EQ(name(), "김가네");
   EXPECT_TRUE(form.restored());
   EXPECT_TRUE(prompts.seen.last().contains("C:\\RWGas\\Dbs-이전-20260316-09"));
+  prompts.expect("되돌리시겠습니까?", false);
+  part<QPushButton>(form, "btnRestore")->click();
+  EXPECT_TRUE(form.restored()) << "a refusal afterwards undoes nothing";
 }
 
 TEST_F(ArchiveForm, WhoHasTheFilesOpenIsAwaitedWithAWayOut) {
@@ -147,6 +150,19 @@ TEST_F(ArchiveForm, ServerSupportFolderAndSettingsHaveAButtonEach) {
   press("btnSupport");
   EXPECT_EQ(shelf().filter("-AS-").size(), 1);
   EXPECT_EQ(grid->model().MaxRows(), 2) << "it stands in no list of what can be put back";
+  EXPECT_FALSE(prompts.seen.last().contains("서버")) << prompts.seen.last().toStdString();
+  // Who comes to restore stands on the newest, wherever it lies.
+  const QString later = "Z:\\백업\\해온판매-20270101-090000.zip";
+  writeFile(pc.paths.native(later), "PK");
+  prompts.expect("되돌리시겠습니까?", false);
+  press("btnRestore");
+  ASSERT_EQ(grid->model().MaxRows(), 3);
+  EXPECT_EQ(grid->model().text(1, 1) + grid->model().text(1, 3), "2027-01-01 09:00:00서버");
+  EXPECT_EQ(grid->model().text(1, 4) + grid->model().text(2, 3) + grid->model().text(3, 3),
+            later + "이 PC서버");
+  form.beginWithRestore();
+  prompts.expect("해온판매-20270101-090000.zip\n올바른 백업 파일이 아닙니다.");
+  press("btnRestore");
   press("btnFolder");
   EXPECT_EQ(opened, QStringList(2, pc.paths.native("C:\\RWGas\\BackUp\\")));
   prompts.expect("폴더를 여는 프로그램이 없습니다.\n");
@@ -186,12 +202,15 @@ TEST_F(ArchiveForm, SettingsAreCheckedBeforeTheyAreSaved) {
   EXPECT_TRUE(part<QCheckBox>(form, "chkRemind")->isChecked());
   auto* save = part<QPushButton>(form, "btnSave");
   part<QLineEdit>(form, "txtFolder")->setText(" ");
+  save->setFocus();
   prompts.expect("백업 폴더를 입력하십시오.");
   save->click();
+  EXPECT_EQ(form.focusWidget(), part<QLineEdit>(form, "txtFolder"));
   part<QLineEdit>(form, "txtFolder")->setText("D:\\보관");
   part<QLineEdit>(form, "txtCommand")->setText("scp a b");
   prompts.expect("%1 이 있어야 합니다.");
   save->click();
+  EXPECT_EQ(form.focusWidget(), part<QLineEdit>(form, "txtCommand"));
   part<QLineEdit>(form, "txtCommand")->clear();
   part<QSpinBox>(form, "numKeep")->setValue(4);
   part<QCheckBox>(form, "chkRemind")->setChecked(false);

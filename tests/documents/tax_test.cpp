@@ -659,7 +659,8 @@ TEST(BusinessNumber, TheLastDigitFollowsFromTheNine) {
   EXPECT_FALSE(mayBeBusinessNumber("123-45-67890"));
   EXPECT_FALSE(mayBeBusinessNumber("1234567892"));
   EXPECT_TRUE(mayBeBusinessNumber("220 81 62517"));
-  EXPECT_FALSE(mayBeBusinessNumber("220-18-62517")) << "two digits changed places";
+  for (const char* typed : {"220-18-62517", "220 18 62517", " 220-18 62517"})
+    EXPECT_FALSE(mayBeBusinessNumber(typed)) << typed << ": two digits changed places";
   EXPECT_TRUE(mayBeBusinessNumber("123-45-67890x")) << "no number of this kind";
   EXPECT_TRUE(mayBeBusinessNumber("000-00-00000"));
   EXPECT_TRUE(mayBeBusinessNumber("")) << "none";

@@ -61,6 +61,13 @@ TEST_F(MoveInForm, WorkThatIsThereIsPutAsideOnlyAfterAYes) {
   prompts.expect("이전 자료를 가져왔습니다.");
   form.findChild<QPushButton*>("btnBegin")->click();
   EXPECT_EQ(name(), "김가네");
+  QTemporaryDir ledger;  // goes to another folder: nothing to ask about
+  JetWriter(3).write(ledger.path() + "/dbCharge.mdb", {{"Charge", {{"Code"}}, {{"1"}}}});
+  moving::FrmMoveIn other(session, ledger.path());
+  tests::show(other);
+  prompts.expect("이전 자료를 가져왔습니다.");
+  other.findChild<QPushButton*>("btnBegin")->click();
+  EXPECT_EQ(name(), "김가네");
 }
 
 TEST_F(MoveInForm, TheProgramOnTheCommandLineReportsAndFailsSoftly) {

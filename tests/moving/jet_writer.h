@@ -23,8 +23,10 @@ enum class JetType {
   Single = 6,
   Double = 7,
   Moment = 8,  ///< days since 1899-12-30
+  Binary = 9,
   Text = 10,
-  Ole = 11
+  Ole = 11,
+  Guid = 15  ///< 16 bytes
 };
 
 struct JetColumn {
@@ -115,7 +117,9 @@ class JetWriter {
   }
   /** Bytes go into the file as they are. */
   static bool isRaw(const QVariant& value) { return value.typeId() == QMetaType::QByteArray; }
-  static bool isVariable(JetType type) { return type == JetType::Text || type == JetType::Ole; }
+  static bool isVariable(JetType type) {
+    return type == JetType::Text || type == JetType::Ole || type == JetType::Binary;
+  }
   static int widthOf(JetType type) {
     switch (type) {
       case JetType::Byte:
@@ -129,6 +133,8 @@ class JetWriter {
       case JetType::Double:
       case JetType::Moment:
         return 8;
+      case JetType::Guid:
+        return 16;
       default:
         return 0;
     }
@@ -148,6 +154,8 @@ class JetWriter {
       case JetType::Double:
       case JetType::Moment:
         return little(value.toDouble());
+      case JetType::Guid:
+        return value.toByteArray();
       default:
         return {};
     }

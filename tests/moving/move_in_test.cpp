@@ -142,7 +142,13 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   many.push_back({701, longName, 3e9, false, 0, null, null, null});
   put("Basic.mdb",
       {clients(many),
-       {"User", {{"Company"}, {"Rate", JetType::Single}, {"PayState"}}, {{"가스", 0.3f, "반올림"}}},
+       {"User",
+        {{"Company"},
+         {"Rate", JetType::Single},
+         {"APTRate", JetType::Single},
+         {"PayState"},
+         {"Tel", JetType::Guid}},
+        {{"가스", 0.3f, 1234.5677f, "반올림", QByteArray::fromHex("00112233445566778899aabbccddeeff")}}},
        {"Bank",
         {{"BName"}, {"BNumber"}, {"BUser"}},
         {{"Bank", "1-2", "가"}, {"BANK", "1-2 ", "나"}, {null, "3", "다"}}}});
@@ -154,7 +160,8 @@ TEST_F(MoveIn, NothingIsCutRoundedOrLost) {
   const moving::MoveReport report = bring();
   EXPECT_EQ(rows("Basic.mdb", "Select Count(*), Sum(GasInit), Max(Len(Name)) From Client"),
             "701|3000368025|60");  // 1.5 x 700 x 701 / 2 = 368025, and 3,000,000,000
-  EXPECT_EQ(rows("Basic.mdb", "Select Rate, PayState From User"), "0.3|-");
+  EXPECT_EQ(rows("Basic.mdb", "Select Rate, APTRate, PayState, Left(Tel, 20) From User"),
+            "0.3|1234.5677|-|{33221100-5544-7766-");
   EXPECT_EQ(rows("Basic.mdb", "Select BUser From Bank Order By BUser"), "가\n나\n다");
   EXPECT_EQ(rows("dbDetail.mdb", "Select DealDate, CCode, UnitCost From DealList"), "2026-03-02||0.1");
   const QString text = report.text();
@@ -185,11 +192,16 @@ TEST_F(MoveIn, AnAutomaticNumberThatStandsTwiceOrNowhereGetsTheNextFreeOne) {
 
 TEST_F(MoveIn, ObjectsAndBrokenLettersAreNamed) {
   // 김 is B1 E8; half of it is no letter, FF never is one, and C9 A1 is the user's own area.
-  JetTable table{"Client",
-                 {{"Code", JetType::Long}, {"Name"}, {"사진", JetType::Ole}, {"Tel", JetType::Ole}},
-                 {{1, QByteArray("\xB1\xE8\xB1"), QByteArray(12, 'x'), QByteArray(12, 'y')},
-                  {2, QByteArray("\xC9\xA1\xFF A"), null, null},
-                  {3, "똠방", QByteArray(12, 'x'), null}}};
+  JetTable table{
+      "Client",
+      {{"Code", JetType::Long},
+       {"Name"},
+       {"사진", JetType::Ole},
+       {"Tel", JetType::Ole},
+       {"지문", JetType::Binary}},
+      {{1, QByteArray("\xB1\xE8\xB1"), QByteArray(12, 'x'), QByteArray(12, 'y'), QByteArray(9, '\0')},
+       {2, QByteArray("\xC9\xA1\xFF A"), null, null},
+       {3, "똠방", QByteArray(12, 'x'), null}}};
   put("Basic.mdb", {table}, 3);
   const moving::MoveReport report = bring();
   EXPECT_EQ(rows("Basic.mdb", "Select Code, Name, Tel From Client Order By Code"),
@@ -199,6 +211,7 @@ TEST_F(MoveIn, ObjectsAndBrokenLettersAreNamed) {
                   "Basic.mdb의 표 Client, 글자가 깨진 값 Name: 김\uFFFD (b1 e8 b1)",
                   "Basic.mdb의 표 Client, 글자가 깨진 값 Name: \uE000\uFFFD A (c9 a1 ff 20 41)"));
   EXPECT_THAT(report.unknown, testing::Contains("Basic.mdb의 표 Client의 칸 사진, 그림이나 개체 (값 2개)"));
+  EXPECT_THAT(report.unknown, testing::Contains("Basic.mdb의 표 Client의 칸 지문, 그림이나 개체 (값 1개)"));
   EXPECT_TRUE(report.text().contains("Tel: 그림이나 개체의 칸이라 가져오지 않음 (값 1개)"));
 }
 

@@ -15,7 +15,15 @@ TEST(FileName, OfAnyTextIsTakenByEveryFileSystem) {
                                                       {"con", "_con"},
                                                       {"LPT1.2026", "_LPT1.2026"},
                                                       {"CONTI", "CONTI"},
-                                                      {"a\x01z\x7f", "a_z_"}})
+                                                      {"a\x01z\x7f\x1f", "a_z__"},
+                                                      {"가\t\t나  다", "가 나 다"},
+                                                      {"Aux .나", "_Aux .나"},
+                                                      {"NUL. ", "_NUL"},
+                                                      {"..prn", "_..prn"},
+                                                      {"com0", "_com0"},
+                                                      {"COM10", "COM10"},
+                                                      {"lpt", "lpt"},
+                                                      {"a.con", "a.con"}})
     EXPECT_EQ(pc::fileNameOf(QString::fromUtf8(each.text), "출력"), QString::fromUtf8(each.name))
         << each.text;
 }
@@ -25,6 +33,7 @@ TEST(FileName, IsCutBetweenLettersAndNotInOne) {
   const QString smile = QString::fromUcs4(U"\U0001F600");
   const QString cut = pc::fileNameOf("a" + smile.repeated(60), "x");
   EXPECT_EQ(cut, "a" + smile.repeated(44)) << "1 + 44 * 4 bytes";
+  EXPECT_EQ(pc::fileNameOf(QString(180, u'a'), "x").size(), 180);
   EXPECT_EQ(pc::fileNameOf(QString(179, u'a') + ".b", "x"), QString(179, u'a'))
       << "the cut leaves no dot at the end";
 }

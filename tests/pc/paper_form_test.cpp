@@ -66,12 +66,14 @@ TEST_F(PaperFormTest, ATextFitsItsRoom) {
                                  inches(1, 2, Head::Sum).in(small).centred(13),
                                  at(3, 0, Head::Sum).cells(7, 2),
                                  inches(2, 3, Head::Sum).cells(4, 0.25),
+                                 at(5, 0, u"1 5").cells(3, 2),
                                  {4, 0, Head(7)}};
   draw(items);
   EXPECT_EQ(places(), (QStringList{"0 0 가람 ", "0 17    1,500", "0 33 가람상사", "140 100 1,500",
                                    "120 200 1,500",                                          //
                                    "40 50 1", "60 50 ,", "80 50 5", "100 50 0", "120 50 0",  //
-                                   "175 300 1", "200 300 ,", "225 300 5", "250 300 0", "275 300 0"}));
+                                   "175 300 1", "200 300 ,", "225 300 5", "250 300 0", "275 300 0", "0 83 1",
+                                   "40 83 5"}));
 }
 
 TEST_F(PaperFormTest, ALongTextIsWrittenSmallerBeforeItIsCut) {

@@ -64,7 +64,27 @@ TEST_F(PathsTest, MapsAShareToALetterAndSaysWhyNot) {
   EXPECT_EQ(paths.mapNetworkDrive("서버", "Y:"), "선택하신 경로가 유효하지 않습니다.");
   EXPECT_EQ(paths.mapNetworkDrive("\\\\server\\share", "Y:"),
             "네트워크 상의 컴퓨터가 작동중이지 않거나 사용할 수 없습니다.");
+  for (const char* server : {"\\\\server", "\\\\"})
+    EXPECT_EQ(paths.mapNetworkDrive(server, "Y:"), "선택하신 경로가 유효하지 않거나 존재하지 않습니다.");
+  for (const char* letter : {"Y", "", "1:"})
+    EXPECT_EQ(paths.mapNetworkDrive(share.path(), letter), "장치 유형과 자원 유형이 일치하지 않습니다.");
   EXPECT_EQ(paths.mapNetworkDrive(share.path(), "?"), "장치 유형과 자원 유형이 일치하지 않습니다.");
+}
+
+TEST_F(PathsTest, ALetterWhoseFolderIsGoneIsMappedAnew) {
+  tests::writeFile(at("/e/x"));
+  QTemporaryDir other;
+  tests::writeFile(other.path() + "/Basic.mdb");
+  EXPECT_EQ(paths.mapNetworkDrive(QTemporaryDir().path() + "/..", "Z:"), "");
+  EXPECT_EQ(paths.mapNetworkDrive(other.path(), "D:"), "");
+  {
+    QTemporaryDir share;
+    EXPECT_EQ(paths.mapNetworkDrive(share.path(), "G:"), "");
+    EXPECT_EQ(paths.mapNetworkDrive(other.path(), "g:"), "이미 연결되어 있는 경로입니다.");
+  }
+  EXPECT_EQ(paths.mapNetworkDrive(other.path(), "g:\\x"), "");
+  EXPECT_TRUE(paths.exists("G:\\basic.mdb"));
+  EXPECT_EQ(paths.drives(), (QStringList{"C:", "D:", "E:", "G:", "Z:"}));
 }
 
 TEST_F(PathsTest, FindsAWindowsShareWhereTheDesktopMountsIt) {

@@ -28,6 +28,11 @@ TEST(ExactSumTest, WholeNumbersAndFractionsDoNotDrift) {
   cubic.add(1e-9);
   cubic.add(4e-10);  // half a billionth rounds away from zero, less is nothing
   EXPECT_EQ(cubic.text(), "-1.344999999");
+  pc::ExactSum below;
+  for (const double part : {-5e-10, -4e-10}) {
+    below.add(part);
+    EXPECT_EQ(below.text(), "-0.000000001") << part;
+  }
   cubic.add(123456789012345.0);
   EXPECT_EQ(cubic.text(), "123456789012343.655000001");
 }

@@ -48,9 +48,43 @@ TEST(Settings, HoldsAnyTextAndIsSeenByTheNextProgram) {
     EXPECT_TRUE(here.SaveSetting("A/B", "[s=1]\n", "=k;" + text, text));
     EXPECT_EQ(there.GetSetting("a/b", "[s=1]\n", "=k;" + text), text);
     EXPECT_TRUE(there.SaveSetting("A/B", "[s=1]\n", "back", text));
+    for (const char* begin : {";", "[", "\\", ""}) {
+      EXPECT_TRUE(here.SaveSetting("A/B", "s]", begin + text + ']', text));
+      EXPECT_EQ(there.GetSetting("A/B", "s]", begin + text + ']'), text) << begin << text.toStdString();
+    }
     EXPECT_EQ(here.GetSetting("A/B", "[S=1]\n", "BACK"), text);
   }
   EXPECT_EQ(here.GetSetting("A/B", "[s=1]\n", "=k;" + odd[0]), odd[0]) << "nothing written before was lost";
+}
+
+TEST(Settings, AFileThatSomebodyWroteByHandIsReadAsItStands) {
+  QTemporaryDir folder;
+  tests::writeFile(folder.path() + "/settings/a.ini",
+                   "early=0\r\n;k=remark\r\n[S]\r\nk=1\r\nk=2\r\n= none\r\nno sign\r\n\r\n"
+                   "[t]\n x = y = z \n;x=remark\nb\\=c=\\d\\\ne\\\\=\\n\\r\n[open\n[s]\nlast=9");
+  pc::Settings settings(folder.path());
+  const auto values = [&] {
+    QStringList all;
+    for (const auto& [section, key] : {std::pair{"", "early"},
+                                       {"s", "K"},
+                                       {"s", ""},
+                                       {"s", "no sign"},
+                                       {"t", " x "},
+                                       {"t", "x"},
+                                       {"t", "b=c"},
+                                       {"t", "e\\"},
+                                       {"t", "last"},
+                                       {"s", "last"},
+                                       {"", "k"},
+                                       {"s", "x"},
+                                       {"t", ";x"}})
+      all << settings.GetSetting("A", section, key, "-");
+    return all;
+  };
+  const QStringList told{"0", "1", " none", "-", " y = z ", "-", "d\\", "\n\r", "-", "9", "-", "-", "-"};
+  EXPECT_EQ(values(), told);
+  EXPECT_TRUE(settings.SaveSetting("A", "T", "more", "1"));
+  EXPECT_EQ(values(), told) << "after it was written anew";
 }
 
 TEST(Settings, HoldsForThisRunWhenTheFileCannotBeWritten) {

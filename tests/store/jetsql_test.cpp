@@ -25,12 +25,13 @@ class JetSql : public Engine {
 };
 
 TEST_F(JetSql, PrintsRowsOfAFileWithItsLinks) {
-  basic.Execute("Insert Into Client(Name, Ho) Values('김씨', 'a' & '\t' & 'b')");
+  basic.Execute("Insert Into Client(Name, Ho) Values('김\\\r\n씨', 'a' & '\t' & 'b')");
   const QString file = path("2026Foundation.mdb");
   const Outcome plain = call({file, "Select Code, Name, Ho, Rate From Client"});
   EXPECT_EQ(plain.code, 0) << plain.err.toStdString();
-  EXPECT_EQ(plain.out, "1\t김씨\ta\\tb\t\n");
-  EXPECT_EQ(call({"-h", file, "Select Code, Name As 이름 From Client"}).out, "Code\t이름\n1\t김씨\n");
+  EXPECT_EQ(plain.out, "1\t김\\\\\\r\\n씨\ta\\tb\t\n");
+  EXPECT_EQ(call({"-h", file, "Select Code, Name As 이름 From Client"}).out,
+            "Code\t이름\n1\t김\\\\\\r\\n씨\n");
   EXPECT_EQ(call({file, "Update Client Set GasInit = 5"}).out, QString());
   EXPECT_EQ(rows(basic, "Select GasInit From Client"), "5");
 }
