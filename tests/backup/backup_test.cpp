@@ -463,6 +463,14 @@ TEST_F(BackupTest, ABrokenOffSwapIsFinishedAndNeverThrowsBooksAway) {
   ASSERT_EQ(kept.size(), 1);
   EXPECT_EQ(bytesOf(native("C:\\RWGas\\" + kept.first()) + "/Basic.mdb"), "old books");
   dropPrepared(paths, dataFolder);
+  // Three put aside within one second.
+  for (const char* const name : {"", "-2", "-3"}) {
+    beginPreparing(paths, dataFolder, pc.clock.now());
+    for (const auto& [file, bytes] : before.asKeyValueRange())
+      write(preparedFolder(dataFolder) + u'\\' + file, bytes);
+    EXPECT_EQ(swapIn(paths, dataFolder, QDateTime(QDate(2026, 3, 16), QTime(18, 5, 7))),
+              "C:\\RWGas\\Dbs-이전-20260316-180507" + QString::fromLatin1(name));
+  }
   // Killed between two renamings.
   QDir().rename(native(dataFolder), native(preparedFolder(dataFolder)));
   ASSERT_FALSE(QFileInfo::exists(native(dataFolder)));

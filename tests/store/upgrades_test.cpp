@@ -24,6 +24,11 @@ TEST_F(Upgrades, LateChargesReachEveryYearFileOfTheInstalledFolder) {
   ASSERT_TRUE(stranger.open(QIODevice::WriteOnly));
   stranger.write("no data file");
   stranger.close();
+  {
+    const jet::Database other = session.wsMain.CreateDatabase(session.DbPath + "1998Foundation.mdb");
+    other.createTable(schema::table(schema::File::Year, "Sale"));  // a data file, and no year's
+  }
+  EXPECT_EQ(yearFiles(session, session.wsMain, session.DbPath).filter("199"), QStringList());
   session.DbPath = "D:\\elsewhere\\";  // makes no difference to this step
   upgrades::addLateCharges(session);
   session.DbPath = installedDataFolder();

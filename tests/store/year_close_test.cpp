@@ -110,6 +110,13 @@ TEST_F(YearClose, TheForecastTellsWhoGoesOverAndWhatWouldBeLost) {
   EXPECT_EQ(shown->arrears, 32500) << "without a January row nothing is carried";
   EXPECT_FALSE(shown->lines[3].hasJanuary);
   EXPECT_EQ(dumpOf(year(2027)), before) << "leaving writes nothing";
+  for (int more = 0; more < 3; ++more) {
+    run("Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2027-01-02', 3, 1)");
+    run("Insert Into Buy(BuyDate, BuyCompany) Values('2027-01-02', '충전소')");
+  }
+  close();
+  EXPECT_EQ(shown->sales, 0) << "more of them lie in this year's file";
+  EXPECT_EQ(shown->purchases, 0);
 
   goesOn = true;
   pc.prompts.expect("넘기시겠습니까?", false);
@@ -180,6 +187,12 @@ TEST_F(YearClose, TheComparisonLooksAtThoseWithoutADecemberToo) {
   EXPECT_EQ(check.differing[0].name, "가람상회");
   EXPECT_EQ(check.differing[0].january, 700);
   EXPECT_FALSE(check.differing[0].december);
+  for (const auto& [more, differing] : {std::pair("0.5", 2u), {"-0.002", 2u}, {"0.0004", 1u}}) {
+    year(2027).Execute(u"Update Evaporation Set Trust = 35500 + %1 Where Mon = 1 And ClientCode = %2"_s
+                           .arg(QLatin1String(more))
+                           .arg(owes));
+    EXPECT_EQ(checkCarry(session.dbYear, year(2027)).differing.size(), differing) << more;
+  }
 }
 
 TEST_F(YearClose, AFileThatIsOpenElsewhereStaysAndTheErrorIsTold) {
