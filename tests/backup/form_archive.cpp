@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTimer>
 
@@ -33,6 +34,14 @@ struct ArchiveForm : testing::Test, TestPc {
     basic.Execute("Insert Into Client(Code, Name) Values(1, '" + plainText(name) + "')");
   }
   QString name() const { return rowsOf(openData(session, "Basic.mdb"), "Select Name From Client"); }
+  /** Boxes with their figures as "#", and what was made as "@". */
+  QString told(qsizetype first, qsizetype count) const {
+    return prompts.seen.mid(first, count)
+        .join("\n--\n")
+        .replace(QRegularExpression("[0-9]+"), "#")
+        .replace("#.# kB", "#")
+        .replace("C:\\RWGas\\BackUp\\해온판매-#-#.zip", "@");
+  }
   QStringList shelf() const {
     return QDir(pc.paths.native("C:\\RWGas\\BackUp")).entryList({"*.zip"}, QDir::Files, QDir::Name);
   }
@@ -68,6 +77,20 @@ TEST_F(ArchiveForm, ABackupIsMadeListedAndPutBackByKeys) {
   EXPECT_EQ(name(), "김가네");
   EXPECT_TRUE(form.restored());
   EXPECT_TRUE(prompts.seen.last().contains("C:\\RWGas\\Dbs-이전-20260316-09"));
+  const QString question =
+      "데이터 내려받기|아래 백업으로 되돌리면 그 뒤에 입력한 자료는 보이지 않게 됩니다.\n\n@\n백업한 때: "
+      "#-#-# "
+      "#:#:#\n파일 #개, #\n되돌릴 폴더: C:\\RWGas\\Dbs\\\n\n지금의 자료는 지우지 않고 옆에 날짜를 붙인 "
+      "폴더로 보관합니다. 되돌리시겠습니까?\n--\n";
+  EXPECT_EQ(
+      told(0, 4),
+      "데이터 백업|백업을 마쳤습니다. 모든 자료 파일을 검사하고 백업 파일을 다시 읽어 확인하였습니다.\n\n@ "
+      "(#)\n파일 #개, #\n--\n" +
+          question + question +
+          "데이터 내려받기|자료를 되돌렸습니다. 모든 자료 파일을 검사하였습니다.\n\n되돌린 백업: #-#-# "
+          "#:#:#\n되돌리기 전의 자료: C:\\RWGas\\Dbs-이전-#-#");
+  EXPECT_TRUE(prompts.seen.first().contains(" (" + grid->model().text(1, 2) + ")\n파일 5개, "))
+      << prompts.seen.first().toStdString();
   prompts.expect("되돌리시겠습니까?", false);
   part<QPushButton>(form, "btnRestore")->click();
   EXPECT_TRUE(form.restored()) << "a refusal afterwards undoes nothing";
@@ -98,7 +121,11 @@ TEST_F(ArchiveForm, WhoHasTheFilesOpenIsAwaitedWithAWayOut) {
   look.start();
   prompts.expect("작업을 중지했습니다.");
   EXPECT_FALSE(compressor.backUp(backup::Series::Books, false, false));
-  EXPECT_TRUE(told.contains("끝나기를 기다리고 있습니다.")) << told.toStdString();
+  EXPECT_EQ(
+      told,
+      "자료 파일을 쓰는 프로그램이 끝나기를 기다리고 있습니다.\n사용 중인 파일: Basic.mdb\n이 PC와 다른 PC의 "
+      "해온판매를 끝내 주십시오.\n[중지]를 누르면 그만둡니다.");
+  EXPECT_EQ(prompts.seen, QStringList{"데이터 백업|작업을 중지했습니다. 자료는 그대로 있습니다."});
   leaves = true;
   EXPECT_TRUE(compressor.backUp(backup::Series::Books, false, true))
       << "once the other has left it goes on by itself";
@@ -116,6 +143,10 @@ TEST_F(ArchiveForm, AWrongArchiveAndAServerThatIsNotThereAreTold) {
   prompts.expect("서버 명령이 끝나지 않았거나 실패했습니다.");
   prompts.expect("서버로 보내지 못했습니다. 이 PC의 백업은 만들어졌습니다.");
   EXPECT_FALSE(compressor.backUp(backup::Series::Books, true, false));
+  EXPECT_EQ(told(1, 3),
+            "데이터 백업|서버 폴더나 서버 명령이 설정되어 있지 않습니다.\n[설정]에서 정한 뒤 다시 "
+            "하십시오.\n--\n데이터 백업|서버 명령이 끝나지 않았거나 실패했습니다.\nfalse %#\n\n--\n데이터 "
+            "백업|서버로 보내지 못했습니다. 이 PC의 백업은 만들어졌습니다.\n@ (#)");
   EXPECT_EQ(shelf().size(), 1);
   EXPECT_EQ(name(), "김가네");
 }
@@ -158,6 +189,7 @@ TEST_F(ArchiveForm, ServerSupportFolderAndSettingsHaveAButtonEach) {
   press("btnRestore");
   ASSERT_EQ(grid->model().MaxRows(), 3);
   EXPECT_EQ(grid->model().text(1, 1) + grid->model().text(1, 3), "2027-01-01 09:00:00서버");
+  EXPECT_EQ(grid->model().text(1, 2), "2 바이트");
   EXPECT_EQ(grid->model().text(1, 4) + grid->model().text(2, 3) + grid->model().text(3, 3),
             later + "이 PC서버");
   form.beginWithRestore();
@@ -189,6 +221,8 @@ TEST_F(ArchiveForm, ServerSupportFolderAndSettingsHaveAButtonEach) {
   file.close();
   prompts.expect("자료 파일이 손상되어 백업을 마치지 않았습니다: dbTax.mdb\n");
   press("btnBackUp");
+  EXPECT_TRUE(prompts.seen.last().endsWith(
+      "\n전에 만든 백업은 그대로 있습니다. [A/S용 백업]은 손상된 파일도 담습니다."));
   prompts.expect("\n손상된 자료 파일이 있습니다: dbTax.mdb");
   press("btnSupport");
 }
@@ -217,6 +251,9 @@ TEST_F(ArchiveForm, SettingsAreCheckedBeforeTheyAreSaved) {
   save->click();
   EXPECT_EQ(backup::readSettings(pc), (backup::Settings{"D:\\보관\\", 4, {}, {}, false}));
   EXPECT_EQ(form.result(), QDialog::Accepted);
+  EXPECT_EQ(told(0, 2),
+            "백업 설정|백업 폴더를 입력하십시오.\n--\n백업 설정|서버 명령에는 백업 파일의 자리 %# "
+            "이 있어야 합니다.");
 }
 
 TEST_F(ArchiveForm, TheProgramItselfBacksUpWithoutAWord) {

@@ -34,7 +34,9 @@ TEST_F(MoveInForm, AFolderIsBroughtInAndTheReportShown) {
   prompts.expect("이전 자료가 있는 폴더를 고르십시오.");
   key(Qt::Key_Return);
   form.findChild<QLineEdit*>("txtFolder")->setText(folder.path());
-  prompts.expect("이전 형식의 Basic.mdb 가 없습니다.");
+  prompts.expect(
+      "\n이 폴더에는 이전 형식의 Basic.mdb 가 없습니다.\n\n가져오지 않았습니다. 두 폴더 모두 그대로 "
+      "있습니다.");
   key(Qt::Key_Return);
   EXPECT_FALSE(form.moved());
   tests::show(form);  // off-screen it does not come back to the front by itself after the bar
@@ -42,6 +44,8 @@ TEST_F(MoveInForm, AFolderIsBroughtInAndTheReportShown) {
   form.findChild<QLineEdit*>("txtFolder")->setText(old.path());
   prompts.expect("이전 자료를 가져왔습니다.");
   key(Qt::Key_Return);
+  EXPECT_TRUE(prompts.seen.last().startsWith(
+      "이전 자료 가져오기|이전 자료를 가져왔습니다.\n보고서: C:\\RWGas\\가져오기-20260316-09"));
   EXPECT_TRUE(form.moved());
   EXPECT_EQ(name(), "김가네");
   EXPECT_TRUE(form.findChild<QPlainTextEdit*>("txtReport")->toPlainText().contains("별명 (값 1개)"));
@@ -54,7 +58,10 @@ TEST_F(MoveInForm, WorkThatIsThereIsPutAsideOnlyAfterAYes) {
   openData(session, "Basic.mdb").Execute("Insert Into Client(Name) Values('지금 손님')");
   moving::FrmMoveIn form(session, old.path());
   tests::show(form);
-  prompts.expect("이미 입력한 자료가 있습니다.", false);
+  prompts.expect(
+      "C:\\RWGas\\Dbs\\ 에는 이미 입력한 자료가 있습니다.\n가져온 자료로 바꾸고, "
+      "지금의 자료는 옆에 날짜를 붙인 폴더로 보관합니다. 계속하시겠습니까?",
+      false);
   form.findChild<QPushButton*>("btnBegin")->click();
   EXPECT_EQ(name(), "지금 손님");
   prompts.expect("이미 입력한 자료가 있습니다.");
