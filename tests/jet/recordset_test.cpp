@@ -121,7 +121,15 @@ TEST_F(Recordsets, AddNewAppendsWithItsNumberAndDefaults) {
   empty.AddNew();
   empty.Update();
   EXPECT_EQ(empty.RecordCount(), 1);
+  EXPECT_TRUE(empty.atEnd()) << "behind the last row it stays";
   EXPECT_EQ(rows(basic, "Select Max(Code) From Client"), "5");
+  rs.MoveNext();
+  rs.AddNew();
+  rs.set("Name", "e");
+  rs.Update();
+  EXPECT_TRUE(rs.atEnd());
+  rs.MovePrevious();
+  EXPECT_EQ(rs["Name"].toText() + rs["Code"].toText(), "e6");
 }
 
 TEST_F(Recordsets, DeletedRowsAreSteppedOver) {

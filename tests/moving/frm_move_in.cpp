@@ -86,10 +86,19 @@ TEST_F(MoveInForm, TheProgramOnTheCommandLineReportsAndFailsSoftly) {
   importer.start(program, {folder.path()});
   ASSERT_TRUE(importer.waitForFinished(60000)) << program.toStdString();
   EXPECT_EQ(importer.exitCode(), 1);
-  EXPECT_TRUE(QString::fromUtf8(importer.readAllStandardError()).contains("그대로 있습니다."));
+  EXPECT_EQ(QString::fromUtf8(importer.readAllStandardError()),
+            folder.path() +
+                "\n이 폴더에는 이전 형식의 Basic.mdb 가 없습니다.\n가져오지 않았습니다. 두 폴더 모두 "
+                "그대로 있습니다.\n");
+  importer.start(program, {old.path(), old.path()});
+  ASSERT_TRUE(importer.waitForFinished(60000));
+  EXPECT_EQ(importer.exitCode(), 2);
+  EXPECT_EQ(importer.readAllStandardError(), "usage: haeon-import [--window] [FOLDER]\n");
   importer.start(program, {old.path()});
   ASSERT_TRUE(importer.waitForFinished(60000));
-  EXPECT_EQ(importer.exitCode(), 0) << importer.readAllStandardError().toStdString();
+  const QString steps = QString::fromUtf8(importer.readAllStandardError());
+  EXPECT_EQ(importer.exitCode(), 0) << steps.toStdString();
+  EXPECT_TRUE(steps.startsWith("읽는 중: BASIC.MDB (0%)\n자료 검사: ")) << steps.toStdString();
   EXPECT_TRUE(QString::fromUtf8(importer.readAllStandardOutput()).contains("Client  1줄"));
   EXPECT_EQ(name(), "김가네");
 }

@@ -2,6 +2,7 @@
 
 #include <QTemporaryDir>
 
+#include "pc/ports.h"
 #include "pc/process.h"
 #include "tests/files.h"
 
@@ -119,11 +120,28 @@ TEST_F(PathsTest, StartsCompanionToolsThatAreThere) {
   });
   EXPECT_TRUE(process.start("C:\\RWGAS\\mapedit.EXE", {"1"}));
   EXPECT_EQ(started, (QStringList{at("/c/RWGas/MapEdit.exe"), "1", at("/c/RWGas")}));
+  started.clear();
+  tests::writeFile(at("/c/RWGas/수납 목록.txt"));
+  EXPECT_TRUE(process.shell("notepad C:\\RWGas\\수납 목록.txt"));
+  EXPECT_EQ(started, (QStringList{"xdg-open", at("/c/RWGas/수납 목록.txt"), at("/c/RWGas")}));
+  EXPECT_FALSE(process.shell("notepad C:\\RWGas\\none.txt"));
   EXPECT_FALSE(process.start("C:\\RWGAS\\RWSMS.exe"));
   EXPECT_FALSE(process.start("C:\\RWGAS")) << "a folder is no program";
   EXPECT_FALSE(process.open("C:\\none.txt"));
   process.setStarter({});
   EXPECT_FALSE(process.start("C:\\RWGAS\\MapEdit.exe")) << "there, but nothing that runs";
+}
+
+TEST_F(PathsTest, APortIsTheDevicesOwnUnlessSomebodyNamedAnother) {
+  EXPECT_EQ(pc::serialDevice(paths, "COM1"), "/dev/ttyS0");
+  EXPECT_EQ(pc::serialDevice(paths, "COM12"), "/dev/ttyS11");
+  tests::writeFile(at("/ports.ini"), "COM2=/dev/ttyUSB0\n");
+  EXPECT_EQ(pc::serialDevice(paths, "COM2"), "/dev/ttyUSB0");
+  EXPECT_EQ(pc::serialDevice(paths, "COM3"), "/dev/ttyS2");
+  qputenv("HAEON_COM2", "/dev/pts/7");
+  EXPECT_EQ(pc::serialDevice(paths, "COM2"), "/dev/pts/7");
+  EXPECT_EQ(pc::serialDevice(paths, "COM1"), "/dev/ttyS0");
+  qunsetenv("HAEON_COM2");
 }
 
 TEST_F(PathsTest, AFileWithoutAProgramForItIsNotOpened) {

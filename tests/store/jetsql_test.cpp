@@ -46,7 +46,17 @@ TEST_F(JetSql, ReadsManyStatementsAndStopsAtTheFirstFailure) {
   EXPECT_TRUE(many.err.startsWith("4: 3061 ")) << many.err.toStdString();
   EXPECT_EQ(rows(basic, "Select Count(*) From Client"), "1");
   EXPECT_EQ(call({path("none.mdb"), "Select 1"}).err.left(5), "3024 ");
-  EXPECT_EQ(call({}).code, 2);
+  const QString use = "usage: jetsql [-h] FILE [\"STATEMENT\"]\n";
+  for (const QStringList& wrong : {QStringList{}, {"-h"}, {"a", "b", "c"}}) {
+    const Outcome refused = call(wrong);
+    EXPECT_EQ(refused.code, 2) << wrong.join(' ').toStdString();
+    EXPECT_EQ(refused.err, use);
+  }
+  const Outcome help = call({"--help"}), version = call({"--version"});
+  EXPECT_EQ(help.code, 0);
+  EXPECT_TRUE(help.out.startsWith(use + "Runs statements ")) << help.out.toStdString();
+  EXPECT_EQ(version.code, 0);
+  EXPECT_EQ(version.out, "jetsql " HAEON_VERSION "\n");
 }
 
 }  // namespace
