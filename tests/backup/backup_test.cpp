@@ -167,6 +167,9 @@ TEST_F(BackupTest, WhatAKilledRunLeftLocksNobodyOutAndGoes) {
             QStringList{made});
   const jet::AloneWith another(native(settings.folder) + "/packing", 0);
   EXPECT_EQ(failureOf([&] { make(); }).first, 3045) << "two at once would share the place they work in";
+  settings.folder = dataFolder + "백업\\";
+  const qsizetype files = make().facts.files.size();
+  EXPECT_EQ(make().facts.files.size(), files) << "a shelf within the data folder is none of the books";
 }
 
 TEST_F(BackupTest, FilesInUseAreNamedAndHeldFilesLetNobodyIn) {

@@ -92,6 +92,19 @@ TEST(ReportLayoutTest, TellsWhereADamagedFileIsWrong) {
         "span \"위\" Str01 Str02", "row 0"})
     EXPECT_THAT(refusalOf(u"column Lng01 \"금액\" 9\n"_s + line).toStdString(), HasSubstr("2번째 줄"))
         << line;
+  // The last size that is taken and the first that is not.
+  for (const auto& [line, least, below, most, above] :
+       {std::tuple{"row %1", "6", "5.9", "100", "100.1"},
+        {"font 굴림체 %1", "5", "4.9", "30", "30.1"},
+        {"margins 10 %1 10 10", "0", "-0.1", "80", "80.1"},
+        {"column Str02 \"나\" %1", "1", "0.9", "200", "200.1"},
+        {"title %1 \"가\"", "5", "4.9", "40", "40.1"}}) {
+    const auto refused = [&](const char* size) {
+      return !refusalOf("column Lng01 \"금액\" 9\n" + QString(line).arg(size)).isEmpty();
+    };
+    for (const char* size : {least, most}) EXPECT_FALSE(refused(size)) << line << ' ' << size;
+    for (const char* size : {below, above}) EXPECT_TRUE(refused(size)) << line << ' ' << size;
+  }
   const QString columns = "column Lng01 \"a\" 9\ncolumn Lng02 \"b\" 9\ncolumn Lng03 \"c\" 9\n";
   EXPECT_THAT(refusalOf(columns + "span \"x\" Lng02 Lng01").toStdString(), HasSubstr("4번째 줄"));
   EXPECT_THAT(refusalOf(columns + "span \"x\" Lng01 Lng02\nspan \"y\" Lng02 Lng03").toStdString(),

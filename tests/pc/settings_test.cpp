@@ -54,6 +54,8 @@ TEST(Settings, HoldsAnyTextAndIsSeenByTheNextProgram) {
     }
     EXPECT_EQ(here.GetSetting("A/B", "[S=1]\n", "BACK"), text);
   }
+  EXPECT_TRUE(here.SaveSetting("Ä\\b:c*d?e\"f<g>h|i/j", "s", "k", "1"));
+  EXPECT_TRUE(QFileInfo::exists(folder.path() + "/settings/ä_b_c_d_e_f_g_h_i_j.ini"));
   EXPECT_EQ(here.GetSetting("A/B", "[s=1]\n", "=k;" + odd[0]), odd[0]) << "nothing written before was lost";
 }
 

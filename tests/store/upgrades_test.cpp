@@ -61,8 +61,10 @@ TEST_F(Upgrades, OrphansGoWhereTheWalkReaches) {
   }
   EXPECT_EQ(firstOf(year("2023"), "Select Count(*) From Sale"), "3");
   year("2026").Execute("Update Sale Set ClientCode = Null");
+  year("2026").Execute("Insert Into Sale(ClientCode) Values(88)");
   upgrades::removeOrphans(session);
   EXPECT_EQ(firstOf(year("2026"), "Select Count(*) From Sale"), "1") << "a row without any code stays";
+  EXPECT_EQ(firstOf(year("2026"), "Select ClientCode From Sale"), "null") << "and keeps nobody else's";
 }
 
 TEST_F(Upgrades, PostCodesAreMadeAnewOnceUnlessTheyAreWideOrDone) {
