@@ -135,11 +135,16 @@ TEST(StatementShape, NoHangulAndNoNumberOfAnyStatementInUseGetsThrough) {
 
 TEST_F(SupportLog, TwoFilesAndNoMore) {
   const jet::Error error(3022, "김가네");
-  for (int i = 0; i < 9000; ++i) support::noteError(here.pc, "frmSale", error);
+  for (int i = 0; i < 9000; ++i) support::noteError(here.pc, u"frm%1"_s.arg(i), error);
   const QDir folder(QFileInfo(path()).path());
   EXPECT_EQ(folder.entryList(QDir::Files), (QStringList{"errors.1.log", "errors.log"}));
   for (const QFileInfo& each : folder.entryInfoList(QDir::Files)) EXPECT_LE(each.size(), 260 * 1024);
   EXPECT_GT(QFileInfo(folder.filePath("errors.1.log")).size(), 200 * 1024);
+  const auto numberOf = [](const QString& line) { return line.section(u' ', 3, 3).mid(3).toInt(); };
+  const int first = numberOf(lines().first());
+  EXPECT_EQ(numberOf(lines().last()), 8999);
+  const QStringList before = tests::textOf(folder.filePath("errors.1.log")).split(u'\n', Qt::SkipEmptyParts);
+  EXPECT_EQ(numberOf(before.last()) + 1, first) << "the older file is the one just before";
   support::noteError(here.pc, "frmClient", error);
   EXPECT_TRUE(lines().last().contains("frmClient")) << "the newest line is in the newer file";
 }
