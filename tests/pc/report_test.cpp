@@ -169,6 +169,8 @@ TEST_F(ReportTest, PrintsARangeOfPages) {
   const auto& job = *printers.jobs.back();
   EXPECT_EQ(job.pages, 2);
   EXPECT_TRUE(job.ended && job.texts(1).contains("이어서 2") && job.texts(2).contains("이어서 3"));
+  EXPECT_TRUE(pc::printReport(*printers.open("지로프린터", "현황", layout.paper), report, {2, 99}));
+  EXPECT_EQ(printers.jobs.back()->pages, report.pages().count() - 2) << "to the last one that there is";
 }
 
 TEST_F(ReportTest, StopsAndRefusesWithoutAnEnd) {

@@ -243,7 +243,13 @@ TEST_F(YearClose, ADamagedNextYearIsReplacedAllTheSame) {
   QFile torn(pc.pc.paths.native(yearFile(session, "2027")));
   ASSERT_TRUE(torn.open(QFile::WriteOnly) && torn.write(QByteArray(5000, 'x')) > 0);
   torn.close();
+  // Its journal, which fits neither it nor the new file: a header, and an empty first page.
+  tests::writeFile(torn.fileName() + "-journal",
+                   QByteArray::fromHex("d9d505f920a163d70000000100000000000000010000020000001000")
+                           .leftJustified(512, '\0') +
+                       QByteArray::fromHex("00000001") + QByteArray(4096 + 4, '\0'));
   closeWell();
+  EXPECT_EQ(files("*2027*"), QStringList("2027Foundation.mdb"));
   EXPECT_TRUE(shown->nextStands);
   EXPECT_FALSE(shown->nextIsRead);
   EXPECT_EQ(opening(owes, 1), "0|35500|0|0|0|0");
