@@ -198,9 +198,10 @@ TEST_F(MoveIn, ObjectsAndBrokenLettersAreNamed) {
        {"Name"},
        {"사진", JetType::Ole},
        {"Tel", JetType::Ole},
-       {"지문", JetType::Binary}},
-      {{1, QByteArray("\xB1\xE8\xB1"), QByteArray(12, 'x'), QByteArray(12, 'y'), QByteArray(9, '\0')},
-       {2, QByteArray("\xC9\xA1\xFF A"), null, null},
+       {"지문", JetType::Binary},
+       {"별명"}},
+      {{1, QByteArray("\xB1\xE8\xB1"), QByteArray(12, 'x'), QByteArray(12, 'y'), QByteArray(9, '\0'), "x"},
+       {2, QByteArray("\xC9\xA1\xFF A"), null, null, null, ""},
        {3, "똠방", QByteArray(12, 'x'), null}}};
   put("Basic.mdb", {table}, 3);
   const moving::MoveReport report = bring();
@@ -212,6 +213,7 @@ TEST_F(MoveIn, ObjectsAndBrokenLettersAreNamed) {
                   "Basic.mdb의 표 Client, 글자가 깨진 값 Name: \uE000\uFFFD A (c9 a1 ff 20 41)"));
   EXPECT_THAT(report.unknown, testing::Contains("Basic.mdb의 표 Client의 칸 사진, 그림이나 개체 (값 2개)"));
   EXPECT_THAT(report.unknown, testing::Contains("Basic.mdb의 표 Client의 칸 지문, 그림이나 개체 (값 1개)"));
+  EXPECT_THAT(report.unknown, testing::Contains("Basic.mdb의 표 Client의 칸 별명 (값 1개)"));
   EXPECT_TRUE(report.text().contains("Tel: 그림이나 개체의 칸이라 가져오지 않음 (값 1개)"));
 }
 

@@ -88,6 +88,22 @@ TEST(DataFiles, SkeletonRowsHoldNoNullInTheirRunningFigures) {
   EXPECT_EQ(firstOf(here.session.dbBasic, "Select Post1 From User"), "null") << "not chosen yet";
 }
 
+TEST(DataFiles, ALineOfAPastYearMayBearALaterDay) {
+  TestPc here;
+  here.openBooks(QDate(2026, 12, 31));
+  makeYearFile(here.session, "2025");
+  EXPECT_EQ(yearsThere(here.session), (std::set{2025, 2026})) << "the template is no year";
+  const auto told = [&](int year) {
+    const LineDays days = lineDays(here.session, year);
+    return days.first + u' ' + days.last;
+  };
+  EXPECT_EQ(told(2026), "2026-01-01 2026-12-31");
+  EXPECT_EQ(told(2025), "2025-01-01 2025-12-31") << "it is not the opened one";
+  here.pc.clock.set(QDateTime(QDate(2027, 1, 1), QTime(0, 5)));
+  EXPECT_EQ(told(2026), "2026-01-01 9999-12-31");
+  EXPECT_EQ(told(2025), "2025-01-01 2025-12-31");
+}
+
 TEST(DataFiles, YearFilesWithoutTheirBasicAreLeftAlone) {
   TestPc here;
   here.session.DbPath = installedDataFolder();
@@ -125,6 +141,11 @@ TEST(DataFiles, AnotherFolderIsBegunOnlyAfterAQuestion) {
   here.prompts.expect("자료 파일을 새로 만드시겠습니까?", true);
   EXPECT_TRUE(prepareDataFolder(here.session));
   EXPECT_TRUE(here.pc.paths.exists("D:\\가스\\DBS\\Basic.mdb"));
+  for (const auto& [chosen, folder] :
+       {std::pair{"D:\\DBS", "D:\\DBS\\"}, {" D:\\DBS\\ ", "D:\\DBS\\"}, {" ", "C:\\RWGas\\Dbs\\"}}) {
+    here.pc.settings.write(setting::DataFolder, QString::fromLatin1(chosen));
+    EXPECT_EQ(dataFolder(here.session), folder) << chosen;
+  }
 }
 
 TEST(DataFiles, AFolderThatCannotBeMadeIsTold) {

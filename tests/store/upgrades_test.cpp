@@ -123,6 +123,34 @@ TEST_F(Upgrades, SecondTelephoneIsLookedAtOnlyWithTheFirst) {
   EXPECT_FALSE(hasField(basic, "Client", "Tel2"));
 }
 
+TEST_F(Upgrades, WhatIsAddedIsAsInANewFile) {
+  upgrades::relink(session);
+  upgrades::addLateCharges(session);
+  upgrades::addDealMarks(session);
+  upgrades::addClientTaxFields(file("Basic.mdb"));
+  upgrades::addMoreTelephones(session);
+  const auto told = [](const jet::TableDef& table, const QString& name) {
+    for (const jet::Field& field : table.fields)
+      if (field.name.compare(name, Qt::CaseInsensitive) == 0)
+        return u"%1 %2 %3"_s.arg(name).arg(int(field.type)).arg(field.size) +
+               (field.type == jet::Type::Text && !field.allowZeroLength ? " filled" : "");
+    return name + " is missing";
+  };
+  for (const auto& [kind, table, name] : {std::tuple{schema::File::Basic, "Client", "Serial"},
+                                          {schema::File::Basic, "Client", "Status"},
+                                          {schema::File::Basic, "Client", "Item"},
+                                          {schema::File::Basic, "Client", "Uname"},
+                                          {schema::File::Basic, "Client", "Tel1"},
+                                          {schema::File::Basic, "Client", "Tel2"},
+                                          {schema::File::Basic, "APT", "delaypay"},
+                                          {schema::File::Year, "Sale", "DealList"},
+                                          {schema::File::Year, "Sale", "SaleList"},
+                                          {schema::File::Year, "Evaporation", "paydelayed"}}) {
+    const jet::Database db = kind == schema::File::Basic ? file("Basic.mdb") : year("2025");
+    EXPECT_EQ(told(db.tableDef(table), name), told(schema::table(kind, table), name));
+  }
+}
+
 TEST_F(Upgrades, OptionsAreMadeInTheInstalledFolder) {
   upgrades::makeOptions(session);
   EXPECT_EQ(firstOf(session.dbCommon, "SELECT OPTValue FROM Options WHERE OPTName = 'MICR용지'"), "0");
