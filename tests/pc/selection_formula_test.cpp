@@ -102,7 +102,16 @@ TEST_F(LiveReport, RowsComeFromTheTablesTheLayoutNames) {
   makeYearFile(session, "2025");
   openYear(session, "2025")
       .Execute(u"Insert Into Sale(SaleDate, ClientCode, SaleGubun) Values('2025-12-31', 1, 1)");
-  EXPECT_EQ(texts(read(layout, {}, {openYear(session, "2025").path(), session.dbYear.path()})).size(), 4);
+  const QStringList both{openYear(session, "2025").path(), session.dbYear.path()};
+  EXPECT_EQ(texts(read(layout, {}, both)).size(), 4);
+  const QString on = "{Sale.SaleDate} = '%1'";
+  EXPECT_EQ(texts(readLiveRows(session, pc::parseReportLayout(layout),
+                               {.file = {},
+                                .selection = on.arg("2026-03-02"),
+                                .liveFiles = both + both.mid(1),
+                                .liveSelections = {on.arg("2025-12-31"), on.arg("2026-03-03")}})),
+            QStringList({"2025-12-31|김하나|가스|0", "2026-03-03||2|2", "2026-03-02|김하나|가스|120"}))
+      << "each file by its own, what has none by the common one";
 }
 
 TEST_F(LiveReport, ALayoutNamesWhatItReads) {

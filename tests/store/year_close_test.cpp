@@ -160,6 +160,17 @@ TEST_F(YearClose, WhatDiffersIsToldAndTheOldFileCanBePutBack) {
   goesOn = false;
   close();
   EXPECT_EQ(shown->kept, QStringList(keptThen)) << "and the next closing names it";
+
+  goesOn = true;
+  ClosingScreen breaking = screen();
+  breaking.differs = [](const CarryCheck&, const QString&) -> bool { throw jet::Error(3043, "silent"); };
+  pc.prompts.expect("넘기시겠습니까?");
+  pc.prompts.expect("마감작업을 하던중 에러가 발생했습니다!");
+  pc.prompts.expect("에러번호 : 3043\n에러내용 : silent");
+  pc.prompts.expect("바꾸기 전의 자료는 아래의 파일에 남아 있습니다.\n\n" + session.DbPath +
+                    "2027Foundation-2026");
+  closeYear(session, breaking);
+  EXPECT_EQ(files("2027*").size(), 3) << "the year, and what stood there before each of the two";
 }
 
 TEST_F(YearClose, TwoReplacementsOfOneSecondKeepBothFiles) {
