@@ -437,6 +437,7 @@ TEST_F(BackupTest, SettingsComeBackAndNonsenseIsHeldWithinBounds) {
   const backup::Settings chosen{"D:\\보관\\", 7, "Z:\\s\\", "scp %1 a:b", false};
   EXPECT_TRUE(backup::writeSettings(pc, {" D:\\보관", 7, "Z:\\s", "scp %1 a:b ", false}));
   EXPECT_EQ(backup::readSettings(pc), chosen);
+  EXPECT_EQ(pc.settings.GetSetting("Backup", "설정", "서버명령"), "scp %1 a:b");
   for (const auto& [written, keep] : {std::pair("0", 1), {"1", 1}, {"99", 99}, {"100", 99}, {"x", 10}}) {
     pc.settings.SaveSetting("Backup", "설정", "보관개수", written);
     EXPECT_EQ(backup::readSettings(pc).keep, keep) << written;
