@@ -10,7 +10,8 @@ TEST(BuildingSearching, listsBuildingsOfAStyleWithTheirBlocks) {
   pc.openBooks();
   tests::insertRows(
       pc.session.dbBasic, "APT(Name, Dong, PostCode, Address, Height, Gubun)",
-      {"'한빛', '102', '700-010', '중앙로 1', 15, True", "'한빛', '101', '700-010', '중앙로 1', 12, True",
+      {"'가온', '102', '700-020', '동성로 2', 5, True", "'한빛', '201', '700-040', '서문로 4', 3, False",
+       "'한빛', '102', '700-010', '중앙로 1', 15, True", "'한빛', '101', '700-010', '중앙로 1', 12, True",
        "'가온', '1', '700-020', '동성로 2', 5, True", "'별빌라', '가', '700-030', '남산로 3', 4, False"});
   BuildingSearch apartments(pc.session, HouseStyle::Apartment);
   ASSERT_TRUE(apartments.loadBuildings());
@@ -18,6 +19,7 @@ TEST(BuildingSearching, listsBuildingsOfAStyleWithTheirBlocks) {
   EXPECT_EQ(apartments.buildings().text(1, 1), "가온");
   EXPECT_EQ(apartments.buildings().text(2, 1) + apartments.buildings().text(2, 2), "한빛2");
   ASSERT_TRUE(apartments.loadBlocks("한빛"));
+  ASSERT_EQ(apartments.blocks().MaxRows(), 2);
   EXPECT_EQ(apartments.blocks().text(1, 1) + apartments.blocks().text(2, 1), "101102");
 
   const auto block = apartments.choice("한빛", "102");
@@ -27,7 +29,7 @@ TEST(BuildingSearching, listsBuildingsOfAStyleWithTheirBlocks) {
 
   BuildingSearch houses(pc.session, HouseStyle::MultiHousehold);
   ASSERT_TRUE(houses.loadBuildings());
-  EXPECT_EQ(houses.buildings().MaxRows(), 1);
+  EXPECT_EQ(houses.buildings().MaxRows(), 2);
 }
 
 }  // namespace
